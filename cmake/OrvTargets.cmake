@@ -1,0 +1,61 @@
+# SPDX-License-Identifier: MIT
+# What every target of the project has in common.
+
+# Strict warnings for one target.
+function(orv_target_defaults target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wcast-align -Wformat=2 -Wundef -Wconversion
+        -Wno-sign-conversion
+        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
+        $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>
+        $<$<BOOL:${ORV_WERROR}>:-Werror>)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x050500)
+endfunction()
+
+# The target orv_genapi: where the GenApi interface headers come from. Ours by default, those of a
+# genuine SDK when ORV_GENICAM_ROOT names one.
+function(orv_add_genapi_headers)
+    add_library(orv_genapi INTERFACE)
+    if(ORV_GENICAM_ROOT)
+        set(headers "${ORV_GENICAM_ROOT}/library/CPP/include")
+        if(NOT EXISTS "${headers}/GenApi/GenApi.h")
+            message(FATAL_ERROR
+                "ORV_GENICAM_ROOT is '${ORV_GENICAM_ROOT}', but there is no "
+                "library/CPP/include/GenApi/GenApi.h below it")
+        endif()
+        target_include_directories(orv_genapi SYSTEM INTERFACE "${headers}")
+    else()
+        target_include_directories(orv_genapi INTERFACE "${PROJECT_SOURCE_DIR}/platform/genapi")
+    endif()
+endfunction()
+
+# orv_add_test(NAME [XVFB] [NETNS] SOURCES file... [LIBRARIES target...])
+# A QtTest program, run offscreen; with XVFB under a virtual X server, with NETNS in a network
+# namespace of its own.
+function(orv_add_test name)
+    cmake_parse_arguments(arg "XVFB;NETNS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON
+        RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    orv_target_defaults(${name})
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt5::Test)
+    set(command $<TARGET_FILE:${name}>)
+    if(arg_XVFB)
+        set(command "${PROJECT_SOURCE_DIR}/tests/support/with-xvfb.sh" ${command})
+    endif()
+    if(arg_NETNS)
+        set(command "${PROJECT_SOURCE_DIR}/tests/support/with-netns.sh" ${command})
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    set(platform offscreen)
+    if(arg_XVFB)
+        set(platform xcb)
+    endif()
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT
+        "QT_QPA_PLATFORM=${platform};QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C.UTF-8")
+endfunction()

@@ -1,0 +1,39 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+# Installs the missing ones of the packages in debian-packages.txt. Does nothing when none is.
+set -eu
+
+say() { echo "setup: $*" >&2; }
+die() { say "$*"; exit 1; }
+
+here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
+
+command -v dpkg-query >/dev/null 2>&1 || die "this is not a Debian system: dpkg-query is missing"
+
+missing=
+for package in $(grep -v '^#' "$here/debian-packages.txt"); do
+    status=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+if [ "$(id -u)" = 0 ]; then
+    as_root=
+elif command -v sudo >/dev/null 2>&1; then
+    as_root=sudo
+else
+    die "these packages are missing, and neither root nor sudo is at hand:$missing"
+fi
+
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+say "installing$missing"
+export DEBIAN_FRONTEND=noninteractive
+# Unsigned or unreachable third-party sources must not stop us: only Debian's own are needed.
+$as_root apt-get update >"$log" 2>&1 || true
+# shellcheck disable=SC2086
+if ! $as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends $missing >>"$log" 2>&1; then
+    tail -n 15 "$log" >&2
+    die "apt-get could not install:$missing"
+fi

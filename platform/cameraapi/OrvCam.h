@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The camera system, its interfaces and cameras.
+#include <OrvCam/Codes.h>
+#include <OrvCam/Device.h>
+#include <OrvCam/DeviceInfo.h>
+#include <OrvCam/DeviceInfoList.h>
+#include <OrvCam/Interface.h>
+#include <OrvCam/InterfaceList.h>
+#include <OrvCam/System.h>
+#include <orvcameraapi.h>

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvCam/Codes.h>
+#include <OrvCam/Export.h>
+
+namespace OrvGenParam
+{
+class Array;
+}
+
+namespace OrvCam
+{
+
+class DeviceInfo;
+
+/// Called when something happened to a device, with the `context` given at the registration. May
+/// run on a thread of the library: do no more than note the event.
+using DeviceEventCallback = void (*)(int32_t eventCode, void *context);
+
+/// An opened camera. Belongs to whoever created it with `OrvCam_CreateDevice`.
+class ORVCAMERAAPI_EXPORT Device
+{
+public:
+    /// The camera's parameters; null with an error while the camera is disconnected. Belongs to
+    /// the device. After a reconnect the device may have another array; pointers to the parameters
+    /// of an earlier one stay safe to hold and call until the device is released.
+    virtual OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) = 0;
+
+    virtual bool IsConnected() const = 0;
+
+    /// The record that the device was opened by.
+    virtual DeviceInfo *GetDeviceInfo() const = 0;
+
+    /// Asks for one event (an `EventCode`). The same callback and context may be registered once
+    /// per code; a second registration is `ErrorInvalidArgument`.
+    virtual int32_t RegisterEvent(int32_t eventCode, DeviceEventCallback callback,
+                                  void *context) = 0;
+
+    /// Takes a registration back; one that does not exist is `ErrorNotFound`. When it returns, the
+    /// callback is not running on another thread and will not be called again.
+    virtual int32_t UnregisterEvent(int32_t eventCode, DeviceEventCallback callback,
+                                    void *context) = 0;
+
+    /// Closes the camera and destroys the device.
+    virtual void Release() = 0;
+
+protected:
+    virtual ~Device() = default;
+};
+
+} // namespace OrvCam

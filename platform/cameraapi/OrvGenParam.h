@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Parameters of cameras and interfaces.
+#include <OrvGenParam/Array.h>
+#include <OrvGenParam/ParamEventSink.h>

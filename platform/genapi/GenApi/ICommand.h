@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <GenApi/IValue.h>
+
+namespace GenApi_3_0
+{
+
+/// Something the camera can be told to do.
+struct GENAPI_DECL ICommand : virtual public IValue
+{
+    virtual void Execute(bool Verify = true) = 0;
+    virtual void operator()() = 0;
+
+    /// True when the camera has finished the command; asks the camera where it can be asked.
+    virtual bool IsDone(bool Verify = true) = 0;
+};
+
+} // namespace GenApi_3_0
