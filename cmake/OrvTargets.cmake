@@ -7,7 +7,6 @@ function(orv_target_defaults target)
         -Wall -Wextra -Wpedantic -Wshadow -Wcast-align -Wformat=2 -Wundef -Wconversion
         -Wno-sign-conversion
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
-        $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>
         $<$<BOOL:${ORV_WERROR}>:-Werror>)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x050500)

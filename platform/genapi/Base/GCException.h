@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <Base/GCBase.h>
+#include <Base/GCTypes.h>
 
 #include <string>
 
-namespace GenICam_3_0
-{
+namespace GenICam_3_0 {
 
 /// Root of everything that a node or node map throws. It deliberately has nothing to do with
 /// `std::exception`: code that must survive the failure of a node catches this class by name.

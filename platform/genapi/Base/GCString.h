@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <Base/GCBase.h>
+#include <Base/GCTypes.h>
 
 #include <cstddef>
 #include <ostream>
 #include <string>
 
-namespace GenICam_3_0
-{
+namespace GenICam_3_0 {
 
 /// The string type of the GenICam interfaces: a sequence of UTF-8 bytes.
 /// A null `const char *` gives the empty string.

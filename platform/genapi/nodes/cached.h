@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <exception>
+#include <optional>
+#include <utility>
+
+namespace OrvGenApi {
+
+/// A result that is computed when it is first asked for and kept until it is dropped. A failure is
+/// kept like a value: asking again must not cost the camera another transaction, nor the user
+/// another time-out.
+template<typename T>
+class Cached
+{
+public:
+    template<typename Compute>
+    T get(bool keep, Compute compute)
+    {
+        if (!keep)
+            drop();
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+        if (!m_value) {
+            try {
+                T value = compute();
+                if (!keep)
+                    return value;
+                m_value = std::move(value);
+            } catch (...) {
+                if (keep)
+                    m_failure = std::current_exception();
+                throw;
+            }
+        }
+        return *m_value;
+    }
+
+    void set(T value)
+    {
+        m_value = std::move(value);
+        m_failure = nullptr;
+    }
+
+    void drop()
+    {
+        m_value.reset();
+        m_failure = nullptr;
+    }
+
+    bool isValid() const { return m_value.has_value(); }
+
+private:
+    std::optional<T> m_value;
+    std::exception_ptr m_failure;
+};
+
+} // namespace OrvGenApi

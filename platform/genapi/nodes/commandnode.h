@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "valuenode.h"
+
+namespace OrvGenApi {
+
+/// Something the camera can be told to do. As text it is "1" while it is being done, "0" otherwise.
+class GENAPI_DECL CommandNode : public ValueNode<GenApi::ICommand>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void Execute(bool verify = true) override;
+    void operator()() override { Execute(); }
+    bool IsDone(bool verify = true) override;
+    GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
+
+    /// Executes, whatever the text.
+    void FromString(const GenICam::gcstring &text, bool verify = true) override;
+    bool IsValueCacheValid() const override { return false; }
+    GenApi::EInterfaceType GetPrincipalInterfaceType() const override
+    {
+        return GenApi::intfICommand;
+    }
+
+protected:
+    virtual void execute() = 0;
+
+    /// Asks the camera, never a cache.
+    virtual bool readIsDone() = 0;
+};
+
+} // namespace OrvGenApi

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "valuenode.h"
+
+#include <string>
+
+namespace OrvGenApi {
+
+/// A text with its checks and cache.
+class GENAPI_DECL StringNode : public ValueNode<GenApi::IString>
+{
+public:
+    using ValueNode::ValueNode;
+
+    void SetValue(const GenICam::gcstring &value, bool verify = true) override;
+    GenApi::IString &operator=(const GenICam::gcstring &value) override;
+    GenICam::gcstring GetValue(bool verify = false, bool ignoreCache = false) override;
+    GenICam::gcstring operator()() override { return GetValue(); }
+    GenICam::gcstring operator*() override { return GetValue(); }
+    int64_t GetMaxLength(bool verify = false) override;
+    GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
+    void FromString(const GenICam::gcstring &text, bool verify = true) override;
+    bool IsValueCacheValid() const override;
+    GenApi::EInterfaceType GetPrincipalInterfaceType() const override
+    {
+        return GenApi::intfIString;
+    }
+    void dropCache() override;
+
+protected:
+    virtual std::string readValue() = 0;
+    virtual void writeValue(const std::string &value) = 0;
+
+    /// In bytes.
+    virtual int64_t readMaxLength() = 0;
+
+private:
+    Cached<std::string> m_value;
+    Cached<int64_t> m_maxLength;
+};
+
+} // namespace OrvGenApi
