@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "sinkregistrations.h"
+
+#include <OrvGenParam/ParamEventSink.h>
+
+#include <glib.h>
+
+#include <algorithm>
+#include <atomic>
+#include <vector>
+
+namespace OrvGenParam {
+
+using Link = std::shared_ptr<SinkLink>;
+
+namespace {
+
+void waitForCall(const Link &link)
+{
+    const std::lock_guard<std::recursive_mutex> wait(link->calling);
+}
+
+} // namespace
+
+struct SinkRegistrations::Sinks
+{
+    explicit Sinks(Param *p) : param(p) {}
+
+    bool has(const Link &link)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return std::find(links.begin(), links.end(), link) != links.end();
+    }
+
+    std::vector<Link> all()
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return links;
+    }
+
+    void callAll()
+    {
+        for (const Link &link : all()) {
+            const std::lock_guard<std::recursive_mutex> calling(link->calling);
+            if (link->sink && has(link))
+                link->sink->OnParameterUpdate(param);
+        }
+    }
+
+    Param *const param; ///< to be used only while there are links
+    std::mutex mutex;   ///< never held while a sink is called
+    std::vector<Link> links;
+    std::atomic<bool> isPending{false};
+};
+
+SinkRegistrations::SinkRegistrations(Param *param) : m_sinks(std::make_shared<Sinks>(param)) {}
+
+SinkRegistrations::~SinkRegistrations()
+{
+    std::vector<Link> links;
+    {
+        const std::lock_guard<std::mutex> lock(m_sinks->mutex);
+        links.swap(m_sinks->links);
+    }
+    for (const Link &link : links)
+        waitForCall(link);
+}
+
+void SinkRegistrations::add(ParamEventSink *sink)
+{
+    if (!sink)
+        return;
+    const std::lock_guard<std::mutex> lock(m_sinks->mutex);
+    auto &links = m_sinks->links;
+    const auto isDead = [](const Link &link) { return link.use_count() == 1; };
+    links.erase(std::remove_if(links.begin(), links.end(), isDead), links.end());
+    if (std::find(links.begin(), links.end(), sink->m_link) == links.end())
+        links.push_back(sink->m_link);
+}
+
+void SinkRegistrations::remove(ParamEventSink *sink)
+{
+    if (!sink)
+        return;
+    const Link link = sink->m_link;
+    {
+        const std::lock_guard<std::mutex> lock(m_sinks->mutex);
+        auto &links = m_sinks->links;
+        const auto found = std::find(links.begin(), links.end(), link);
+        if (found == links.end())
+            return;
+        links.erase(found);
+    }
+    waitForCall(link);
+}
+
+void SinkRegistrations::notify()
+{
+    // A sink may destroy the parameter and with it this object.
+    const std::shared_ptr<Sinks> sinks = m_sinks;
+    sinks->callAll();
+}
+
+void SinkRegistrations::notifyLater()
+{
+    if (m_sinks->isPending.exchange(true))
+        return;
+    GSource *source = g_idle_source_new();
+    g_source_set_priority(source, G_PRIORITY_HIGH);
+    g_source_set_callback(
+        source,
+        [](void *data) -> gboolean {
+            const std::shared_ptr<Sinks> sinks = *static_cast<std::shared_ptr<Sinks> *>(data);
+            sinks->isPending = false;
+            sinks->callAll();
+            return G_SOURCE_REMOVE;
+        },
+        new std::shared_ptr<Sinks>(m_sinks),
+        [](void *data) { delete static_cast<std::shared_ptr<Sinks> *>(data); });
+    g_source_attach(source, nullptr);
+    g_source_unref(source);
+}
+
+} // namespace OrvGenParam
