@@ -88,7 +88,8 @@ bool NodeCommand::IsDone(int32_t *error) const
 
 const char *NodeString::GetValue(int32_t *error) const
 {
-    m_text = m_access.read<std::string>(error, [this] { return m_value.GetValue().c_str(); });
+    m_text = m_access.read<std::string>(
+        error, [this]() -> std::string { return m_value.GetValue().c_str(); });
     return m_text.c_str();
 }
 

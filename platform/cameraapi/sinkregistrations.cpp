@@ -6,7 +6,6 @@
 #include <glib.h>
 
 #include <algorithm>
-#include <atomic>
 #include <vector>
 
 namespace OrvGenParam {
@@ -47,10 +46,22 @@ struct SinkRegistrations::Sinks
         }
     }
 
+    static int callPending(void *data)
+    {
+        auto *self = static_cast<Sinks *>(data);
+        std::shared_ptr<Sinks> sinks;
+        {
+            const std::lock_guard<std::mutex> lock(self->mutex);
+            sinks.swap(self->pending);
+        }
+        sinks->callAll();
+        return G_SOURCE_REMOVE;
+    }
+
     Param *const param; ///< to be used only while there are links
     std::mutex mutex;   ///< never held while a sink is called
     std::vector<Link> links;
-    std::atomic<bool> isPending{false};
+    std::shared_ptr<Sinks> pending; ///< keeps this alive until the main context has come to it
 };
 
 SinkRegistrations::SinkRegistrations(Param *param) : m_sinks(std::make_shared<Sinks>(param)) {}
@@ -103,20 +114,15 @@ void SinkRegistrations::notify()
 
 void SinkRegistrations::notifyLater()
 {
-    if (m_sinks->isPending.exchange(true))
-        return;
+    {
+        const std::lock_guard<std::mutex> lock(m_sinks->mutex);
+        if (m_sinks->pending || m_sinks->links.empty())
+            return;
+        m_sinks->pending = m_sinks;
+    }
     GSource *source = g_idle_source_new();
     g_source_set_priority(source, G_PRIORITY_HIGH);
-    g_source_set_callback(
-        source,
-        [](void *data) -> gboolean {
-            const std::shared_ptr<Sinks> sinks = *static_cast<std::shared_ptr<Sinks> *>(data);
-            sinks->isPending = false;
-            sinks->callAll();
-            return G_SOURCE_REMOVE;
-        },
-        new std::shared_ptr<Sinks>(m_sinks),
-        [](void *data) { delete static_cast<std::shared_ptr<Sinks> *>(data); });
+    g_source_set_callback(source, &Sinks::callPending, m_sinks.get(), nullptr);
     g_source_attach(source, nullptr);
     g_source_unref(source);
 }

@@ -400,8 +400,9 @@ void TestNodeMapArray::sinksMayActFromInside()
 
     Sink *suicidal = nullptr;
     suicidal = new Sink([&](Param *) {
-        delete suicidal;
-        suicidal = nullptr;
+        Sink *&self = suicidal; // the capture goes with the sink
+        delete self;
+        self = nullptr;
     });
     width->RegisterEventSink(suicidal);
     camera.width.change(64);
