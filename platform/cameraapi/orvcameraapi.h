@@ -10,12 +10,11 @@
 #include <stdint.h>
 
 #ifdef __cplusplus
-namespace OrvCam
-{
+namespace OrvCam {
 class Device;
 class DeviceInfo;
 class System;
-}
+} // namespace OrvCam
 typedef OrvCam::Device OrvCamDevice;
 typedef OrvCam::DeviceInfo OrvCamDeviceInfo;
 typedef OrvCam::System OrvCamSystem;

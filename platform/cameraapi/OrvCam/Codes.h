@@ -3,24 +3,23 @@
 
 #include <cstdint>
 
-namespace OrvCam
-{
+namespace OrvCam {
 
 /// What every operation that can fail answers, as a result or through an `int32_t *` argument
 /// (which may always be null).
 enum ErrorCode : int32_t {
     Success = 0,
-    ErrorFailed = -1,           ///< for no reason that has a code of its own
-    ErrorInvalidArgument = -2,  ///< a null or senseless argument
-    ErrorNotFound = -3,         ///< no such parameter, or not of that kind
-    ErrorNotAvailable = -4,     ///< the parameter exists but cannot be used at this moment
-    ErrorAccessDenied = -5,     ///< read-only, write-only, locked, or refused by the camera
-    ErrorOutOfRange = -6,       ///< outside the limits or off the increment
-    ErrorTimeout = -7,          ///< no answer in time
-    ErrorBusy = -8,             ///< another program, or this one, has the camera open
-    ErrorGone = -9,             ///< the camera is no longer there
-    ErrorWrongSubnet = -10,     ///< the camera's address does not fit the adapter's subnet
-    ErrorBadDescription = -11   ///< the camera's description cannot be understood
+    ErrorFailed = -1,          ///< for no reason that has a code of its own
+    ErrorInvalidArgument = -2, ///< a null or senseless argument
+    ErrorNotFound = -3,        ///< no such parameter, or not of that kind
+    ErrorNotAvailable = -4,    ///< the parameter exists but cannot be used at this moment
+    ErrorAccessDenied = -5,    ///< read-only, write-only, locked, or refused by the camera
+    ErrorOutOfRange = -6,      ///< outside the limits or off the increment
+    ErrorTimeout = -7,         ///< no answer in time
+    ErrorBusy = -8,            ///< another program, or this one, has the camera open
+    ErrorGone = -9,            ///< the camera is no longer there
+    ErrorWrongSubnet = -10,    ///< the camera's address does not fit the adapter's subnet
+    ErrorBadDescription = -11  ///< the camera's description cannot be understood
 };
 
 /// `DeviceInfo::GetAccessState`.

@@ -4,13 +4,11 @@
 #include <OrvCam/Codes.h>
 #include <OrvCam/Export.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 class Array;
 }
 
-namespace OrvCam
-{
+namespace OrvCam {
 
 class DeviceInfo;
 

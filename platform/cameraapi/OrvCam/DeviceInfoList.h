@@ -5,12 +5,12 @@
 
 #include <cstdint>
 
-namespace OrvCam
-{
+namespace OrvCam {
 
 class DeviceInfo;
 
-/// A list of camera records. Belongs to the caller, who releases it; the entries belong to the system.
+/// A list of camera records. Belongs to the caller, who releases it; the entries belong to the
+/// system.
 class ORVCAMERAAPI_EXPORT DeviceInfoList
 {
 public:

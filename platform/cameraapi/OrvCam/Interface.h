@@ -3,13 +3,11 @@
 
 #include <OrvCam/DeviceInfoList.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 class Array;
 }
 
-namespace OrvCam
-{
+namespace OrvCam {
 
 /// Something that cameras are connected to: a network adapter, the USB host, a simulated one.
 /// Belongs to the system.

@@ -5,8 +5,7 @@
 
 #include <cstdint>
 
-namespace OrvCam
-{
+namespace OrvCam {
 
 class Interface;
 

@@ -3,8 +3,7 @@
 
 #include <OrvCam/InterfaceList.h>
 
-namespace OrvCam
-{
+namespace OrvCam {
 
 /// All interfaces and cameras that this machine can reach. Not thread-safe: use it from one thread.
 class ORVCAMERAAPI_EXPORT System

@@ -10,8 +10,7 @@
 
 #include <GenApi/INodeMap.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// All parameters of a camera or of an interface, found by feature name.
 class ORVCAMERAAPI_EXPORT Array

@@ -3,8 +3,7 @@
 
 #include <OrvGenParam/Param.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// A switch. A read that fails answers false and sets `*error`.
 class ORVCAMERAAPI_EXPORT Boolean : public Param

@@ -3,8 +3,7 @@
 
 #include <OrvGenParam/Param.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// Something that the camera can be told to do.
 class ORVCAMERAAPI_EXPORT Command : public Param

@@ -4,8 +4,7 @@
 #include <OrvGenParam/EnumEntry.h>
 #include <OrvGenParam/Param.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// A choice between named entries.
 class ORVCAMERAAPI_EXPORT Enum : public Param

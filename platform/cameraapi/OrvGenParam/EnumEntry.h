@@ -5,8 +5,7 @@
 
 #include <cstdint>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// One entry of an enumeration. Belongs to it.
 class ORVCAMERAAPI_EXPORT EnumEntry

@@ -3,8 +3,7 @@
 
 #include <OrvGenParam/Param.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// A floating-point number. A read that fails answers 0 and sets `*error`.
 class ORVCAMERAAPI_EXPORT Float : public Param

@@ -5,8 +5,7 @@
 
 #include <cstdint>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 class ParamEventSink;
 

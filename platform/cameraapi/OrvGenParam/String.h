@@ -3,8 +3,7 @@
 
 #include <OrvGenParam/Param.h>
 
-namespace OrvGenParam
-{
+namespace OrvGenParam {
 
 /// A text, UTF-8.
 class ORVCAMERAAPI_EXPORT String : public Param

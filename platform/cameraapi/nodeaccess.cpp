@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "nodeaccess.h"
+
+using namespace GenApi;
+
+namespace OrvGenParam {
+
+namespace {
+
+std::string firstNonEmpty(const GenICam::gcstring &text, const GenICam::gcstring &otherwise)
+{
+    return (text.empty() ? otherwise : text).c_str();
+}
+
+} // namespace
+
+NodeAccess::NodeAccess(ArrayState &array, INode &node, Param *param)
+    : m_array(array)
+    , m_node(node)
+    , m_name(node.GetName().c_str())
+    , m_displayName(firstNonEmpty(node.GetDisplayName(), node.GetName()))
+    , m_description(firstNonEmpty(node.GetDescription(), node.GetToolTip()))
+    , m_sinks(param)
+    , m_callback(Register(&node, *this, &NodeAccess::nodeChanged, cbPostOutsideLock))
+{
+}
+
+NodeAccess::~NodeAccess()
+{
+    try {
+        m_node.DeregisterCallback(m_callback);
+    } catch (...) {
+        // A node that cannot let go of a callback cannot be helped from here.
+    }
+}
+
+EAccessMode NodeAccess::accessMode() const
+{
+    EAccessMode mode = NI;
+    attempt([&] { mode = m_node.GetAccessMode(); });
+    return mode;
+}
+
+void NodeAccess::requireReadable() const
+{
+    if (!IsReadable(m_node.GetAccessMode()))
+        throw GenICam::AccessException("The feature is not readable", __FILE__, __LINE__);
+}
+
+int32_t NodeAccess::codeOfException() const
+{
+    try {
+        throw;
+    } catch (const GenICam::AccessException &) {
+        return IsAvailable(accessMode()) ? OrvCam::ErrorAccessDenied : OrvCam::ErrorNotAvailable;
+    } catch (const GenICam::OutOfRangeException &) {
+        return OrvCam::ErrorOutOfRange;
+    } catch (const GenICam::InvalidArgumentException &) {
+        return OrvCam::ErrorInvalidArgument;
+    } catch (const GenICam::TimeoutException &) {
+        return OrvCam::ErrorTimeout;
+    } catch (...) {
+        return OrvCam::ErrorFailed;
+    }
+}
+
+void NodeAccess::notify()
+{
+    if (std::this_thread::get_id() == m_array.homeThread)
+        m_sinks.notify();
+    else
+        m_sinks.notifyLater();
+}
+
+} // namespace OrvGenParam

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvCam/Export.h>
+
+#include <memory>
+#include <mutex>
+
+namespace OrvGenParam {
+
+class Param;
+class ParamEventSink;
+
+/// The one thing that a sink and the parameters it is registered at share. Whoever calls the sink
+/// holds the lock meanwhile; whoever wants no call to be under way takes it.
+struct SinkLink
+{
+    std::recursive_mutex calling;
+    ParamEventSink *sink = nullptr; ///< null after the sink's end; guarded by the lock
+};
+
+/// The sinks of one parameter. Adding, removing, notifying and destroying either end are safe at
+/// any time and on any thread, also from inside a notification. When `remove` or the destructor
+/// returns, no call is running on another thread and none will come.
+///
+/// A notification on one thread waits for one of the same sink on another; do not hold a lock that
+/// a sink needs while removing it.
+class ORVCAMERAAPI_EXPORT SinkRegistrations
+{
+public:
+    /// `param` is what the sinks are told; it need not outlive the registrations.
+    explicit SinkRegistrations(Param *param);
+    ~SinkRegistrations();
+    SinkRegistrations(const SinkRegistrations &) = delete;
+    SinkRegistrations &operator=(const SinkRegistrations &) = delete;
+
+    /// A sink that is there already stays there once; null is ignored.
+    void add(ParamEventSink *sink);
+
+    /// A sink that is not there is ignored.
+    void remove(ParamEventSink *sink);
+
+    /// Calls every sink that is registered when its turn comes, on this thread.
+    void notify();
+
+    /// Has the default GLib main context do so. Requests that it has not come to yet become one;
+    /// one that it comes to after the parameter's end does nothing.
+    void notifyLater();
+
+private:
+    struct Sinks;
+
+    std::shared_ptr<Sinks> m_sinks;
+};
+
+} // namespace OrvGenParam
