@@ -56,5 +56,7 @@ function(orv_add_test name)
         set(platform xcb)
     endif()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
-        "QT_QPA_PLATFORM=${platform};QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C.UTF-8;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
+        "QT_QPA_PLATFORM=${platform};QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C.UTF-8;\
+LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;\
+TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
 endfunction()

@@ -29,7 +29,7 @@ bool BooleanNode::GetValue(bool, bool ignoreCache) const
     requireReadable();
     if (ignoreCache)
         map().invalidate({const_cast<BooleanNode *>(this)});
-    return m_value.get(valueIsCachable(), [this] { return readValue(); });
+    return unverifiedValue();
 }
 
 GenICam::gcstring BooleanNode::ToString(bool verify, bool ignoreCache)
@@ -53,6 +53,11 @@ bool BooleanNode::IsValueCacheValid() const
 {
     const AutoLock lock(map().GetLock());
     return m_value.isValid();
+}
+
+bool BooleanNode::unverifiedValue() const
+{
+    return m_value.get(valueIsCachable(), [this] { return readValue(); });
 }
 
 void BooleanNode::dropCache()

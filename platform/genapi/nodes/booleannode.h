@@ -24,6 +24,11 @@ public:
     }
     void dropCache() override;
 
+    /// For nodes that are computed from this one: the value without any check, and a store that
+    /// neither checks nor tells anybody. The caller holds the lock.
+    bool unverifiedValue() const;
+    void storeUnverified(bool value) { writeValue(value); }
+
 protected:
     virtual bool readValue() const = 0;
     virtual void writeValue(bool value) = 0;

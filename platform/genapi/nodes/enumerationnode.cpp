@@ -66,7 +66,7 @@ int64_t EnumerationNode::GetIntValue(bool verify, bool ignoreCache)
     requireReadable();
     if (ignoreCache)
         map().invalidate({this});
-    const int64_t value = m_value.get(valueIsCachable(), [this] { return readValue(); });
+    const int64_t value = unverifiedValue();
     if (verify && !entryOf(value))
         throw GenICam::OutOfRangeException(
             ("'" + name() + "' has no entry of value " + std::to_string(value)).c_str(), __FILE__,
@@ -117,6 +117,11 @@ bool EnumerationNode::IsValueCacheValid() const
 {
     const AutoLock lock(map().GetLock());
     return m_value.isValid();
+}
+
+int64_t EnumerationNode::unverifiedValue()
+{
+    return m_value.get(valueIsCachable(), [this] { return readValue(); });
 }
 
 void EnumerationNode::dropCache()

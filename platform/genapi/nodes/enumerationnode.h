@@ -35,6 +35,11 @@ public:
     }
     void dropCache() override;
 
+    /// For nodes that are computed from this one: the value without any check, and a store that
+    /// neither checks nor tells anybody. The caller holds the lock.
+    int64_t unverifiedValue();
+    void storeUnverified(int64_t value) { writeValue(value); }
+
 protected:
     virtual int64_t readValue() = 0;
     virtual void writeValue(int64_t value) = 0;

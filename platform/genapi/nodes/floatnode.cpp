@@ -44,7 +44,7 @@ double FloatNode::GetValue(bool verify, bool ignoreCache)
     requireReadable();
     if (ignoreCache)
         map().invalidate({this});
-    const double value = m_value.get(valueIsCachable(), [this] { return readValue(); });
+    const double value = unverifiedValue();
     if (verify)
         checkRange(value);
     return value;
@@ -160,6 +160,11 @@ bool FloatNode::IsValueCacheValid() const
 {
     const AutoLock lock(map().GetLock());
     return m_value.isValid();
+}
+
+double FloatNode::unverifiedValue()
+{
+    return m_value.get(valueIsCachable(), [this] { return readValue(); });
 }
 
 void FloatNode::dropCache()

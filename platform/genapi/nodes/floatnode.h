@@ -35,6 +35,11 @@ public:
     GenApi::EInterfaceType GetPrincipalInterfaceType() const override { return GenApi::intfIFloat; }
     void dropCache() override;
 
+    /// For nodes that are computed from this one: the value without any check, and a store that
+    /// neither checks nor tells anybody. The caller holds the lock.
+    double unverifiedValue();
+    void storeUnverified(double value) { writeValue(value); }
+
 protected:
     virtual double readValue() = 0;
     virtual void writeValue(double value) = 0;

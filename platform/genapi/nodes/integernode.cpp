@@ -34,7 +34,7 @@ int64_t IntegerNode::GetValue(bool verify, bool ignoreCache)
     requireReadable();
     if (ignoreCache)
         map().invalidate({this});
-    const int64_t value = m_value.get(valueIsCachable(), [this] { return readValue(); });
+    const int64_t value = unverifiedValue();
     if (verify)
         checkRange(value);
     return value;
@@ -153,6 +153,11 @@ bool IntegerNode::IsValueCacheValid() const
 {
     const AutoLock lock(map().GetLock());
     return m_value.isValid();
+}
+
+int64_t IntegerNode::unverifiedValue()
+{
+    return m_value.get(valueIsCachable(), [this] { return readValue(); });
 }
 
 void IntegerNode::dropCache()

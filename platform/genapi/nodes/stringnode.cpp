@@ -36,7 +36,7 @@ GenICam::gcstring StringNode::GetValue(bool, bool ignoreCache)
     requireReadable();
     if (ignoreCache)
         map().invalidate({this});
-    const std::string value = m_value.get(valueIsCachable(), [this] { return readValue(); });
+    const std::string value = unverifiedValue();
     return GenICam::gcstring(value.data(), value.size());
 }
 
@@ -60,6 +60,11 @@ bool StringNode::IsValueCacheValid() const
 {
     const AutoLock lock(map().GetLock());
     return m_value.isValid();
+}
+
+std::string StringNode::unverifiedValue()
+{
+    return m_value.get(valueIsCachable(), [this] { return readValue(); });
 }
 
 void StringNode::dropCache()

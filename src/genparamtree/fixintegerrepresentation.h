@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <GenApi/IInteger.h>
+
+/// The representation to use for an integer: the declared one, except that the address features of
+/// GigE Vision are IPv4 addresses (subnet masks and gateways too) and "GevMACAddress" is a MAC
+/// address whatever the device description says of them.
+///
+/// Everything that shows or edits integers asks here, so that a value and its editor agree.
+GenApi::ERepresentation FixIntegerRepresentation(GenApi::IInteger *node);

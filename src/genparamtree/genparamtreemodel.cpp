@@ -1,0 +1,451 @@
+// SPDX-License-Identifier: MIT
+#include "genparamtreemodel_p.h"
+
+#include "fixintegerrepresentation.h"
+#include "genicamstring.h"
+#include "ip4validator.h"
+#include "parameterdescription.h"
+
+#include <OrvGenParam/Array.h>
+
+#include <QBrush>
+#include <QPalette>
+#include <QPointer>
+#include <QStringList>
+#include <QVector>
+
+#include <typeinfo>
+#include <utility>
+
+namespace {
+
+const int nameColumn = 0;
+const int valueColumn = 1;
+
+bool isReadable(GenApi::EAccessMode mode)
+{
+    return mode == GenApi::RO || mode == GenApi::RW;
+}
+
+bool isWritable(GenApi::EAccessMode mode)
+{
+    return mode == GenApi::WO || mode == GenApi::RW;
+}
+
+QVariant longVariant(int64_t value)
+{
+    return QVariant::fromValue(static_cast<long>(value));
+}
+
+QString macAddressText(int64_t value)
+{
+    QStringList bytes;
+    for (int shift = 40; shift >= 0; shift -= 8)
+        bytes.append(
+            QString::number((value >> shift) & 0xff, 16).rightJustified(2, QLatin1Char('0')));
+    return bytes.join(QLatin1Char(':')).toUpper();
+}
+
+QVariant integerData(GenApi::IInteger &integer)
+{
+    const int64_t value = integer.GetValue(false, false);
+    switch (FixIntegerRepresentation(&integer)) {
+    case GenApi::IPV4Address:
+        return IP4Validator::getIpStr(static_cast<unsigned int>(value));
+    case GenApi::MACAddress:
+        return macAddressText(value);
+    case GenApi::HexNumber:
+        return QString::number(static_cast<qlonglong>(value), 16).toUpper();
+    default:
+        return longVariant(value);
+    }
+}
+
+QVariant enumerationData(GenApi::IEnumeration &enumeration, int role)
+{
+    if (role == Qt::EditRole)
+        return longVariant(enumeration.GetIntValue(false, false));
+    return fromUtf8(enumeration.ToString(false, false));
+}
+
+QVariant foregroundData(GenApi::EAccessMode mode, bool isCommand)
+{
+    if (mode == GenApi::RW || (isCommand && mode == GenApi::WO))
+        return QVariant();
+    return QPalette().brush(QPalette::Disabled, QPalette::Text);
+}
+
+void setInteger(GenApi::IInteger &integer, const QVariant &data)
+{
+    if (FixIntegerRepresentation(&integer) == GenApi::IPV4Address)
+        integer.SetValue(IP4Validator::getIp(data.toString()), true);
+    else
+        integer.SetValue(data.toLongLong(), true);
+}
+
+void setEnumeration(GenApi::IEnumeration &enumeration, const QVariant &data)
+{
+    bool isNumber = false;
+    const qlonglong number = data.toLongLong(&isNumber);
+    if (isNumber)
+        enumeration.SetIntValue(number, true);
+    else
+        enumeration.FromString(toUtf8(data.toString()), true);
+}
+
+/// Finds a feature in the tree below a category. Most features are no categories, and a failing
+/// `dynamic_cast` through the interfaces is what such a search would spend its time on; so it is
+/// made only once for each class of node that the search meets.
+class FeatureSearch
+{
+public:
+    struct Place
+    {
+        bool found = false;
+        int row = -1;
+        /// The categories on the way down with their rows, the outermost first.
+        std::vector<std::pair<GenApi::IValue *, int>> ancestors;
+    };
+
+    explicit FeatureSearch(const GenApi::IValue *value) : m_value(value) {}
+
+    Place run(const GenApi::ICategory &top)
+    {
+        search(top);
+        return std::move(m_place);
+    }
+
+private:
+    bool search(const GenApi::ICategory &category)
+    {
+        GenApi::FeatureList_t features;
+        category.GetFeatures(features);
+        for (size_t row = 0; row < features.size(); ++row) {
+            GenApi::IValue *feature = features[row];
+            if (feature == m_value) {
+                m_place.found = true;
+                m_place.row = static_cast<int>(row);
+                return true;
+            }
+            if (!isCategory(feature))
+                continue;
+            m_place.ancestors.emplace_back(feature, static_cast<int>(row));
+            if (search(dynamic_cast<GenApi::ICategory &>(*feature)))
+                return true;
+            m_place.ancestors.pop_back();
+        }
+        return false;
+    }
+
+    bool isCategory(GenApi::IValue *feature)
+    {
+        const std::type_info &type = typeid(*feature);
+        for (const auto &known : m_knownTypes) {
+            if (known.first == &type)
+                return known.second;
+        }
+        m_knownTypes.emplace_back(&type, dynamic_cast<GenApi::ICategory *>(feature) != nullptr);
+        return m_knownTypes.back().second;
+    }
+
+    const GenApi::IValue *m_value;
+    Place m_place;
+    std::vector<std::pair<const std::type_info *, bool>> m_knownTypes;
+};
+
+} // namespace
+
+// GenParamTreeModelPrivate
+
+void GenParamTreeModelPrivate::Init(GenParamTreeModel *model)
+{
+    // dataChanged crosses threads when a node was changed on another one.
+    qRegisterMetaType<QVector<int>>("QVector<int>");
+    q = model;
+    try {
+        RegisterCallbackForChildren(CategoryFromIndex(QModelIndex()));
+    } catch (...) {
+        DeRegisterCallbacks();
+        throw;
+    }
+}
+
+GenApi::IValue *GenParamTreeModelPrivate::valueFromIndex(const QModelIndex &index)
+{
+    return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+GenApi::CCategoryPtr GenParamTreeModelPrivate::CategoryFromIndex(const QModelIndex &index) const
+{
+    if (index.isValid())
+        return GenApi::CCategoryPtr(valueFromIndex(index));
+    return GenApi::CCategoryPtr(nodeMap ? nodeMap->GetNode("Root") : nullptr);
+}
+
+void GenParamTreeModelPrivate::RegisterCallbackForChildren(GenApi::CCategoryPtr category)
+{
+    if (!category)
+        return;
+
+    GenApi::FeatureList_t features;
+    category->GetFeatures(features);
+    for (size_t i = 0; i < features.size(); ++i) {
+        callbackHandles.push_back(GenApi::Register(features[i]->GetNode(), *this,
+                                                   &GenParamTreeModelPrivate::NodeCallback,
+                                                   GenApi::cbPostOutsideLock));
+        RegisterCallbackForChildren(GenApi::CCategoryPtr(features[i]));
+    }
+}
+
+void GenParamTreeModelPrivate::DeRegisterCallbacks()
+{
+    for (const GenApi::CallbackHandleType handle : callbackHandles)
+        GenApi::Deregister(handle);
+    callbackHandles.clear();
+}
+
+void GenParamTreeModelPrivate::NodeCallback(GenApi::INode *node)
+{
+    const auto *value = dynamic_cast<GenApi::IValue *>(node);
+    if (!value)
+        return;
+    const QModelIndex cell = findIndexByValueClass(value, valueColumn, QModelIndex());
+    if (cell.isValid())
+        emit q->dataChanged(cell, cell);
+}
+
+QModelIndex GenParamTreeModelPrivate::findIndexByValueClass(const GenApi::IValue *value, int column,
+                                                            const QModelIndex &parent) const
+{
+    const GenApi::CCategoryPtr category = CategoryFromIndex(parent);
+    if (!category)
+        return QModelIndex();
+
+    const FeatureSearch::Place place = FeatureSearch(value).run(*category);
+    if (!place.found)
+        return QModelIndex();
+    if (column >= 0)
+        return q->createIndex(place.row, column, const_cast<GenApi::IValue *>(value));
+    if (place.ancestors.empty())
+        return parent;
+    return q->createIndex(place.ancestors.back().second, nameColumn, place.ancestors.back().first);
+}
+
+QVariant GenParamTreeModelPrivate::nameData(const QModelIndex &index, GenApi::INode *node,
+                                            int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole: {
+        const GenICam::gcstring displayName = node->GetDisplayName();
+        return fromUtf8(displayName.empty() ? node->GetName(false) : displayName);
+    }
+    case Qt::ToolTipRole: {
+        const GenICam::gcstring toolTip = node->GetToolTip();
+        return toolTip.empty() ? q->data(index, Qt::DisplayRole) : fromUtf8(toolTip);
+    }
+    case Qt::BackgroundRole:
+        if (node->GetPrincipalInterfaceType() == GenApi::intfICategory)
+            return QPalette().brush(QPalette::Active, QPalette::Midlight);
+        return QVariant();
+    default:
+        return QVariant();
+    }
+}
+
+QVariant GenParamTreeModelPrivate::valueData(GenApi::IValue *value, int role)
+{
+    if (role != Qt::ForegroundRole && role != Qt::DisplayRole && role != Qt::EditRole)
+        return QVariant();
+    const GenApi::EInterfaceType type = value->GetNode()->GetPrincipalInterfaceType();
+    if (type == GenApi::intfICategory)
+        return QVariant();
+
+    const bool isCommand = type == GenApi::intfICommand;
+    const GenApi::EAccessMode mode = value->GetAccessMode();
+    if (role == Qt::ForegroundRole)
+        return foregroundData(mode, isCommand);
+    if (mode == GenApi::NI || mode == GenApi::NA)
+        return GenParamTreeModel::tr("<Value not available>");
+    if (!isCommand && !isReadable(mode))
+        return GenParamTreeModel::tr("<Value not readable>");
+
+    switch (type) {
+    case GenApi::intfIInteger:
+        return integerData(*GenApi::CIntegerPtr(value));
+    case GenApi::intfIBoolean:
+        return GenApi::CBooleanPtr(value)->GetValue(false, false);
+    case GenApi::intfICommand:
+        return GenParamTreeModel::tr("Execute");
+    case GenApi::intfIFloat:
+        return GenApi::CFloatPtr(value)->GetValue(false, false);
+    case GenApi::intfIString:
+        return fromUtf8(GenApi::CStringPtr(value)->GetValue(false, false));
+    case GenApi::intfIEnumeration:
+        return enumerationData(*GenApi::CEnumerationPtr(value), role);
+    default:
+        return fromUtf8(value->ToString(false, false));
+    }
+}
+
+QVariant GenParamTreeModelPrivate::WhatsThis(GenApi::IValue *value) const
+{
+    return parameterDescription(value);
+}
+
+bool GenParamTreeModelPrivate::write(GenApi::IValue *value, const QVariant &data)
+{
+    switch (value->GetNode()->GetPrincipalInterfaceType()) {
+    case GenApi::intfIInteger:
+        setInteger(*GenApi::CIntegerPtr(value), data);
+        return true;
+    case GenApi::intfIBoolean:
+        GenApi::CBooleanPtr(value)->SetValue(data.toBool(), true);
+        return true;
+    case GenApi::intfICommand:
+        GenApi::CCommandPtr(value)->Execute(true);
+        return true;
+    case GenApi::intfIFloat:
+        GenApi::CFloatPtr(value)->SetValue(data.toDouble(), true);
+        return true;
+    case GenApi::intfIString:
+        GenApi::CStringPtr(value)->SetValue(toUtf8(data.toString()), true);
+        return true;
+    case GenApi::intfIEnumeration:
+        setEnumeration(*GenApi::CEnumerationPtr(value), data);
+        return true;
+    default:
+        return false;
+    }
+}
+
+// GenParamTreeModel
+
+GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent)
+    : QAbstractItemModel(parent), d(new GenParamTreeModelPrivate)
+{
+    d->nodeMap = nodeMap;
+    d->Init(this);
+}
+
+GenParamTreeModel::GenParamTreeModel(OrvGenParam::Array *array, QObject *parent)
+    : QAbstractItemModel(parent), d(new GenParamTreeModelPrivate)
+{
+    int32_t error = 0;
+    d->nodeMap = array ? array->GetNodeMap(&error) : nullptr;
+    d->Init(this);
+}
+
+GenParamTreeModel::~GenParamTreeModel()
+{
+    d->DeRegisterCallbacks();
+}
+
+QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (row < 0 || column < 0 || column >= columnCount(parent) || parent.column() > nameColumn)
+        return QModelIndex();
+    const GenApi::CCategoryPtr category = d->CategoryFromIndex(parent);
+    if (!category)
+        return QModelIndex();
+
+    GenApi::FeatureList_t features;
+    category->GetFeatures(features);
+    if (static_cast<size_t>(row) >= features.size())
+        return QModelIndex();
+    return createIndex(row, column, features[static_cast<size_t>(row)]);
+}
+
+QModelIndex GenParamTreeModel::parent(const QModelIndex &index) const
+{
+    const GenApi::IValue *value = GenParamTreeModelPrivate::valueFromIndex(index);
+    return value ? d->findIndexByValueClass(value, -1, QModelIndex()) : QModelIndex();
+}
+
+int GenParamTreeModel::rowCount(const QModelIndex &parent) const
+{
+    if (parent.column() > nameColumn)
+        return 0;
+    const GenApi::CCategoryPtr category = d->CategoryFromIndex(parent);
+    if (!category)
+        return 0;
+    GenApi::FeatureList_t features;
+    category->GetFeatures(features);
+    return static_cast<int>(features.size());
+}
+
+int GenParamTreeModel::columnCount(const QModelIndex &parent) const
+{
+    Q_UNUSED(parent)
+    return 2;
+}
+
+QVariant GenParamTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    Q_UNUSED(orientation)
+    if (role != Qt::DisplayRole)
+        return QVariant();
+    switch (section) {
+    case nameColumn:
+        return tr("Name");
+    case valueColumn:
+        return tr("Value");
+    default:
+        return QVariant();
+    }
+}
+
+Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+
+    const Qt::ItemFlags readOnly = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    if (index.column() != valueColumn)
+        return readOnly;
+    try {
+        const GenApi::IValue *value = GenParamTreeModelPrivate::valueFromIndex(index);
+        if (value && isWritable(value->GetAccessMode()))
+            return readOnly | Qt::ItemIsEditable;
+    } catch (const GenICam::GenericException &) {
+    }
+    return readOnly;
+}
+
+QVariant GenParamTreeModel::data(const QModelIndex &index, int role) const
+{
+    auto *value = static_cast<GenApi::IValue *>(index.internalPointer());
+    if (!index.isValid() || !value)
+        return QVariant();
+    try {
+        if (role == Qt::WhatsThisRole)
+            return d->WhatsThis(value);
+        if (role == Qt::UserRole)
+            return QVariant::fromValue(value);
+        if (index.column() == nameColumn)
+            return d->nameData(index, value->GetNode(), role);
+        return GenParamTreeModelPrivate::valueData(value, role);
+    } catch (const GenICam::GenericException &) {
+        return QVariant();
+    }
+}
+
+bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || role != Qt::EditRole || index.column() != valueColumn)
+        return false;
+
+    // A host that follows the camera's changes may replace the tree in reaction to the write.
+    const QPointer<GenParamTreeModel> alive(this);
+    try {
+        GenApi::IValue *feature = GenParamTreeModelPrivate::valueFromIndex(index);
+        if (!feature || !isWritable(feature->GetAccessMode()))
+            return false;
+        if (!GenParamTreeModelPrivate::write(feature, value))
+            return false;
+        if (alive)
+            emit dataChanged(index, index, {Qt::EditRole});
+        return true;
+    } catch (...) {
+        return false;
+    }
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <GenApi/INodeMap.h>
+#include <GenApi/IValue.h>
+
+#include <QAbstractItemModel>
+#include <QScopedPointer>
+
+namespace OrvGenParam {
+class Array;
+}
+
+class GenParamTreeModelPrivate;
+
+Q_DECLARE_METATYPE(GenApi::IValue *)
+
+/// Presents the feature tree of a node map: categories are branches, features are leaves, column 0
+/// is the feature's name and column 1 its value.
+///
+/// Use it with any item view; `Qt::UserRole` of a cell is the row's `GenApi::IValue *`, and
+/// `Qt::WhatsThisRole` a description of the feature in rich text. Values are edited through
+/// `setData`. The tree hangs from the category "Root"; without one, or without a node map, the
+/// model is empty.
+///
+/// The model keeps no copy of the tree, it asks the node map every time. A feature that several
+/// categories list has a row in each, but `parent` and change notifications know only the first of
+/// them in depth-first order. Features that join the tree after the model was made are shown but
+/// not watched.
+///
+/// The node map must outlive the model. The model belongs to the GUI thread; `dataChanged` is
+/// emitted on whatever thread changed the node.
+class GenParamTreeModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    explicit GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent = nullptr);
+
+    /// Works on the node map that the array comes from.
+    explicit GenParamTreeModel(OrvGenParam::Array *array, QObject *parent = nullptr);
+    ~GenParamTreeModel() override;
+
+    QModelIndex index(int row, int column,
+                      const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    using QObject::parent;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+    /// Writes a value to the camera, or executes a command. False when the feature cannot be
+    /// written or the camera refuses; the feature then keeps its value.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+private:
+    friend class GenParamTreeModelPrivate;
+
+    QScopedPointer<GenParamTreeModelPrivate> d;
+};

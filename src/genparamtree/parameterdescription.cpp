@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "parameterdescription.h"
+
+#include "genicamstring.h"
+#include "genparamtreemodel.h"
+
+#include <GenApi/GenApi.h>
+
+#include <QStringList>
+
+namespace {
+
+QString typeName(GenApi::EInterfaceType type)
+{
+    switch (type) {
+    case GenApi::intfIInteger:
+        return GenParamTreeModel::tr("Integer");
+    case GenApi::intfIBoolean:
+        return GenParamTreeModel::tr("Boolean");
+    case GenApi::intfICommand:
+        return GenParamTreeModel::tr("Command");
+    case GenApi::intfIFloat:
+        return GenParamTreeModel::tr("Float");
+    case GenApi::intfIString:
+        return GenParamTreeModel::tr("String");
+    case GenApi::intfIEnumeration:
+        return GenParamTreeModel::tr("Enumeration");
+    default:
+        return QString();
+    }
+}
+
+QStringList selectorNames(GenApi::IValue *value)
+{
+    QStringList names;
+    const GenApi::CSelectorPtr selected(value);
+    if (!selected)
+        return names;
+    GenApi::FeatureList_t selectors;
+    selected->GetSelectingFeatures(selectors);
+    for (size_t i = 0; i < selectors.size(); ++i)
+        names.append(fromLatin1(selectors[i]->GetNode()->GetDisplayName()));
+    return names;
+}
+
+QString limitsLine(const QString &min, const QString &max)
+{
+    return GenParamTreeModel::tr("<i>Limits</i>: Min: %1, Max: %2").arg(min, max);
+}
+
+QString incrementLine(const QString &increment)
+{
+    return GenParamTreeModel::tr("<i>Increment</i>: %1").arg(increment);
+}
+
+QString validValuesLine(const QStringList &values)
+{
+    return GenParamTreeModel::tr("<i>Valid values</i>: %1").arg(values.join(QLatin1Char(',')));
+}
+
+QString numberText(int64_t value)
+{
+    return QString::number(static_cast<qlonglong>(value));
+}
+
+QString numberText(double value)
+{
+    return QStringLiteral("%1").arg(value);
+}
+
+QString validValueText(GenApi::IInteger &integer, int64_t value)
+{
+    if (integer.GetRepresentation() != GenApi::HexNumber)
+        return numberText(value);
+    return QLatin1String("0x") + QString::number(static_cast<qlonglong>(value), 16);
+}
+
+QString validValueText(GenApi::IFloat &, double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+template<typename Number>
+QStringList numberLines(Number &number)
+{
+    const GenApi::EIncMode mode = number.GetIncMode();
+    if (mode == GenApi::listIncrement) {
+        const auto values = number.GetListOfValidValues(true);
+        QStringList texts;
+        for (size_t i = 0; i < values.size(); ++i)
+            texts.append(validValueText(number, values[i]));
+        return QStringList(validValuesLine(texts));
+    }
+
+    QStringList lines(limitsLine(numberText(number.GetMin()), numberText(number.GetMax())));
+    if (mode == GenApi::fixedIncrement)
+        lines.append(incrementLine(numberText(number.GetInc())));
+    return lines;
+}
+
+QStringList entryLines(GenApi::IEnumeration &enumeration)
+{
+    QStringList lines(GenParamTreeModel::tr("<i>Enumeration entries</i>:"));
+    GenApi::NodeList_t entries;
+    enumeration.GetEntries(entries);
+    for (size_t i = 0; i < entries.size(); ++i) {
+        const GenApi::CEnumEntryPtr entry(entries[i]);
+        const qlonglong value = entry->GetValue();
+        const QString hex = QString::number(value, 16).rightJustified(8, QLatin1Char('0'));
+        lines.append(GenParamTreeModel::tr("\"%1\": %2 (0x%3)")
+                         .arg(fromLatin1(entry->GetSymbolic()), QString::number(value), hex));
+    }
+    return lines;
+}
+
+QStringList typeSpecificLines(GenApi::IValue *value, GenApi::EInterfaceType type)
+{
+    switch (type) {
+    case GenApi::intfIInteger:
+        return numberLines(*GenApi::CIntegerPtr(value));
+    case GenApi::intfIFloat:
+        return numberLines(*GenApi::CFloatPtr(value));
+    case GenApi::intfIEnumeration:
+        return entryLines(*GenApi::CEnumerationPtr(value));
+    default:
+        return QStringList();
+    }
+}
+
+} // namespace
+
+QString parameterDescription(GenApi::IValue *value)
+{
+    const GenApi::CNodePtr node(value->GetNode());
+    const GenApi::EInterfaceType type = node->GetPrincipalInterfaceType();
+
+    QStringList lines;
+    lines.append(GenParamTreeModel::tr("<i>Name:</i> %1").arg(fromLatin1(node->GetDisplayName())));
+    const QString typeText = typeName(type);
+    if (!typeText.isEmpty())
+        lines.append(GenParamTreeModel::tr("<i>Type:</i> %1").arg(typeText));
+    const QStringList selectors = selectorNames(value);
+    if (!selectors.isEmpty())
+        lines.append(
+            GenParamTreeModel::tr("<i>Selectors:</i> %1").arg(selectors.join(QLatin1Char(','))));
+    lines.append(
+        GenParamTreeModel::tr("<i>Description:</i> %1").arg(fromLatin1(node->GetDescription())));
+    const QString streamable =
+        node->IsStreamable() ? GenParamTreeModel::tr("True") : GenParamTreeModel::tr("False");
+    lines.append(GenParamTreeModel::tr("<i>Streamable:</i> %1").arg(streamable));
+    lines.append(typeSpecificLines(value, type));
+    return lines.join(QLatin1String("<br />"));
+}

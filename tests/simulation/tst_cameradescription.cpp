@@ -1,0 +1,422 @@
+// SPDX-License-Identifier: MIT
+#include "simulation/cameraregisters.h"
+#include "simulation/simulatedcamera.h"
+
+#include <QtTest>
+
+using namespace OrvSimulation;
+
+namespace {
+
+struct Child
+{
+    QString element;
+    QString text;
+    QString offset; // of a pIndex
+};
+
+struct Node
+{
+    QString element;
+    QString name;
+    QVector<Child> children;
+
+    QStringList all(const QString &wanted) const
+    {
+        QStringList texts;
+        for (const Child &child : children) {
+            if (child.element == wanted)
+                texts << child.text;
+        }
+        return texts;
+    }
+    QString text(const QString &wanted) const { return all(wanted).value(0); }
+};
+
+// The bytes that a node can address, with the nodes that may lie on the same bytes.
+struct Range
+{
+    QString name;
+    bool isPartOfRegister;
+    qint64 start;
+    qint64 length;
+};
+
+// Elements of a node in the order in which the schema wants them.
+const QStringList elementOrder{"ToolTip",
+                               "Description",
+                               "DisplayName",
+                               "Visibility",
+                               "pIsImplemented",
+                               "pIsAvailable",
+                               "pIsLocked",
+                               "ImposedAccessMode",
+                               "Streamable",
+                               "EnumEntry",
+                               "pVariable",
+                               "FormulaTo",
+                               "FormulaFrom",
+                               "Formula",
+                               "pAddress",
+                               "Address",
+                               "pIndex",
+                               "Length",
+                               "AccessMode",
+                               "pPort",
+                               "Cachable",
+                               "PollingTime",
+                               "pInvalidator",
+                               "Value",
+                               "pValue",
+                               "CommandValue",
+                               "pMin",
+                               "Min",
+                               "pMax",
+                               "Max",
+                               "pInc",
+                               "Inc",
+                               "ValidValueSet",
+                               "Bit",
+                               "LSB",
+                               "MSB",
+                               "Sign",
+                               "Endianess",
+                               "Unit",
+                               "Representation",
+                               "DisplayNotation",
+                               "DisplayPrecision",
+                               "OnValue",
+                               "OffValue",
+                               "Slope",
+                               "pSelected",
+                               "pFeature",
+                               "StructEntry"};
+
+constexpr qint64 memorySize = 0x10000;
+
+} // namespace
+
+class TestCameraDescription : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void namesAreUniqueAndReferencesLeadSomewhere();
+    void elementsAreInOrder();
+    void featuresAreDocumented();
+    void registersDoNotOverlap();
+    void registersLieWhereTheCameraLooks();
+    void changesByTheCameraReachTheHost();
+    void dialogFeatures_data();
+    void dialogFeatures();
+
+private:
+    void readNode(QXmlStreamReader &xml, int structure);
+    void collectFeatures(const QString &category, int depth);
+    QVector<Range> ranges(const Node &node) const;
+    qint64 highestIndex(const QString &reference) const;
+
+    QVector<Node> m_nodes;
+    QHash<QString, int> m_byName;
+    QStringList m_features;
+    int m_depth = 0;
+};
+
+void TestCameraDescription::initTestCase()
+{
+    const SimulatedCamera::Text text = SimulatedCamera::description();
+    QXmlStreamReader xml(QByteArray(text.data, static_cast<int>(text.size)));
+    QVERIFY(xml.readNextStartElement());
+    QCOMPARE(xml.name().toString(), QString("RegisterDescription"));
+    while (xml.readNextStartElement())
+        readNode(xml, -1);
+    QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+    QCOMPARE(text.data[text.size], '\0');
+    for (int i = 0; i < m_nodes.size(); ++i) {
+        if (m_nodes[i].element != "EnumEntry" && !m_nodes[i].name.isEmpty())
+            m_byName.insert(m_nodes[i].name, i);
+    }
+    collectFeatures("Root", 0);
+    QVERIFY(m_features.size() > 100);
+}
+
+// A StructEntry takes over the register of its StructReg, the node with the index structure.
+void TestCameraDescription::readNode(QXmlStreamReader &xml, int structure)
+{
+    Node node{xml.name().toString(), xml.attributes().value("Name").toString(), {}};
+    if (structure >= 0) {
+        for (const Child &child : m_nodes[structure].children) {
+            if (child.element == "Address" || child.element == "Length")
+                node.children << child;
+        }
+    }
+    const int self = m_nodes.size();
+    m_nodes << node;
+    while (xml.readNextStartElement()) {
+        const QString element = xml.name().toString();
+        if (element == "EnumEntry" || element == "StructEntry") {
+            m_nodes[self].children << Child{element, {}, {}};
+            readNode(xml, element == "StructEntry" ? self : -1);
+            continue;
+        }
+        const QString offset = xml.attributes().value("Offset").toString();
+        m_nodes[self].children << Child{element, xml.readElementText(), offset};
+    }
+}
+
+void TestCameraDescription::collectFeatures(const QString &category, int depth)
+{
+    m_depth = qMax(m_depth, depth);
+    for (const QString &feature : m_nodes[m_byName.value(category)].all("pFeature")) {
+        QVERIFY2(m_byName.contains(feature), qPrintable(feature));
+        m_features << feature;
+        if (m_nodes[m_byName.value(feature)].element == "Category")
+            collectFeatures(feature, depth + 1);
+    }
+}
+
+void TestCameraDescription::namesAreUniqueAndReferencesLeadSomewhere()
+{
+    int named = 0;
+    for (const Node &node : qAsConst(m_nodes)) {
+        if (node.element != "EnumEntry" && !node.name.isEmpty())
+            ++named;
+        for (const Child &child : node.children) {
+            const QString &e = child.element;
+            if (e.size() > 1 && e[0] == 'p' && e[1].isUpper())
+                QVERIFY2(m_byName.contains(child.text), qPrintable(node.name + ": " + child.text));
+        }
+    }
+    QCOMPARE(m_byName.size(), named);
+}
+
+void TestCameraDescription::elementsAreInOrder()
+{
+    for (const Node &node : qAsConst(m_nodes)) {
+        int last = 0;
+        for (const Child &child : node.children) {
+            if (node.element == "StructEntry" && child.element == "Address")
+                continue;
+            const int place = elementOrder.indexOf(child.element);
+            QVERIFY2(place >= last, qPrintable(node.name + ": " + child.element));
+            last = place;
+        }
+    }
+}
+
+void TestCameraDescription::featuresAreDocumented()
+{
+    QSet<QString> levels;
+    for (const QString &feature : qAsConst(m_features)) {
+        const Node &node = m_nodes[m_byName.value(feature)];
+        for (const char *element : {"ToolTip", "Description", "DisplayName", "Visibility"})
+            QVERIFY2(!node.text(element).isEmpty(), qPrintable(feature + ": " + element));
+        levels << node.text("Visibility");
+    }
+    QCOMPARE(levels, (QSet<QString>{"Beginner", "Expert", "Guru", "Invisible"}));
+    QVERIFY(m_depth >= 2);
+    QVERIFY(m_features.toSet().size() < m_features.size()); // a feature in two categories
+}
+
+// The highest value that a pIndex can have, from the feature that writes its register.
+qint64 TestCameraDescription::highestIndex(const QString &reference) const
+{
+    for (int i = 0; i < m_nodes.size(); ++i) {
+        if (m_nodes[i].text("pValue") != reference)
+            continue;
+        if (m_nodes[i].element == "Integer")
+            return m_nodes[i].text("Max").toLongLong();
+        qint64 highest = -1;
+        for (int entry = i + 1; m_nodes[entry].element == "EnumEntry"; ++entry)
+            highest = qMax(highest, m_nodes[entry].text("Value").toLongLong());
+        return highest;
+    }
+    return -1;
+}
+
+QVector<Range> TestCameraDescription::ranges(const Node &node) const
+{
+    const bool isPart = node.element == "MaskedIntReg" || node.element == "StructEntry";
+    const qint64 length = node.text("Length").toLongLong();
+    if (length == 0 || node.element == "StructReg" || !node.text("pAddress").isEmpty())
+        return {};
+    const qint64 start = node.text("Address").toLongLong(nullptr, 0);
+    QVector<Range> ranges{{node.name, isPart, start, length}};
+    for (const Child &child : node.children) {
+        if (child.element != "pIndex")
+            continue;
+        const qint64 highest = highestIndex(child.text);
+        for (qint64 index = 1; index <= highest; ++index)
+            ranges << Range{node.name, isPart, start + index * child.offset.toLongLong(nullptr, 0),
+                            length};
+        if (highest < 1)
+            ranges << Range{node.name + " has no index", false, memorySize, length};
+    }
+    return ranges;
+}
+
+void TestCameraDescription::registersDoNotOverlap()
+{
+    using namespace Registers;
+    // The two registers whose address is a formula; a value of a table lies in its table on
+    // purpose.
+    QVector<Range> all{{"Frame_LineTimeReg", false, DualVideoLineTime, 4},
+                       {"Frame_LineTimeReg", false, FrameLineTime, 4},
+                       {"Frame_LineTimeReg", false, FrameLineTime + FrameStride, 4}};
+    for (const Node &node : qAsConst(m_nodes))
+        all += ranges(node);
+    QVERIFY(all.size() > 150);
+
+    for (int i = 0; i < all.size(); ++i) {
+        const Range &a = all[i];
+        QVERIFY2(a.start % 4 == 0 && a.start + a.length <= memorySize, qPrintable(a.name));
+        for (int j = i + 1; j < all.size(); ++j) {
+            const Range &b = all[j];
+            const bool isShared = a.isPartOfRegister && b.isPartOfRegister && a.start == b.start;
+            const bool isApart = a.start + a.length <= b.start || b.start + b.length <= a.start;
+            QVERIFY2(isApart || isShared, qPrintable(a.name + " and " + b.name));
+        }
+    }
+}
+
+void TestCameraDescription::registersLieWhereTheCameraLooks()
+{
+    using namespace Registers;
+    const QHash<QString, Address> expected{
+        {"GevMACAddress", GevMACAddress},
+        {"GevCurrentIPAddress", GevCurrentIPAddress},
+        {"GevPersistentIPAddressReg", GevPersistentIPAddress},
+        {"DeviceModelName", DeviceModelName},
+        {"DeviceFamilyName", DeviceFamilyName},
+        {"SensorType", SensorType},
+        {"PixelFormatReg", PixelFormat},
+        {"PixelClock", PixelClock},
+        {"TriggerModeReg", TriggerMode},
+        {"TriggerSourceReg", TriggerSource},
+        {"PulseGenModeReg", PulseGenMode},
+        {"PulseGenNumPulsesReg", PulseGenNumPulses},
+        {"PulseGenGranularityReg", PulseGenGranularity},
+        {"PulseGenWidthReg", PulseGenWidth},
+        {"PulseGenPeriodReg", PulseGenPeriod},
+        {"PulseGenEnableReg", PulseGenEnable},
+        {"PulseGenPulseCount", PulseGenPulseCount},
+        {"Strobe1ModeReg", Strobe1Control},
+        {"Strobe2ReferenceReg", Strobe2Control},
+        {"OUT1PolarityBit", OutputControl},
+        {"BalanceWhiteAutoReg", BalanceWhiteAuto},
+        {"AutoTrackingSpeedReg", AutoTrackingSpeed},
+        {"RedCoefficientReg", RedCoefficient},
+        {"GreenCoefficientReg", GreenCoefficient},
+        {"BlueCoefficientReg", BlueCoefficient},
+        {"GammaReg", Gamma},
+        {"UserOutputValueReg", UserOutputValue},
+        {"UserSetSelectorReg", UserSetSelector},
+        {"UserSetLoadReg", UserSetLoad},
+        {"UserSetSaveReg", UserSetSave},
+        {"TriggerSoftwareReg", TriggerSoftware},
+        {"TimestampLatchReg", TimestampLatch},
+        {"TimestampLatchValue", TimestampLatchValue},
+        {"ServiceKeyReg", ServiceKey},
+        {"ServiceUnlockedReg", ServiceUnlocked},
+        {"CurrentTemperatureReg", CurrentTemperature},
+        {"DeviceTemperature", DeviceTemperature},
+        {"UpTime", UpTime},
+        {"TriggerCount", TriggerCount},
+        {"LineStatusAll", LineStatusAll},
+        {"Frame_ExposureLinesReg", FrameExposureLines},
+        {"Frame_FixedFramePeriodValueReg", FrameFixedFramePeriodValue},
+        {"Frame_WidthReg", FrameWidth},
+        {"Frame_DigitalCourseGainReg", FrameDigitalCourseGain},
+        {"Frame_WdrE3Reg", FrameWdrE3},
+        {"LUTValueAll", LookUpTables},
+    };
+    for (auto it = expected.begin(); it != expected.end(); ++it) {
+        QVERIFY2(m_byName.contains(it.key()), qPrintable(it.key()));
+        const Node &node = m_nodes[m_byName.value(it.key())];
+        QVERIFY2(node.text("Address").toUInt(nullptr, 0) == it.value(), qPrintable(it.key()));
+    }
+}
+
+// A host caches what it reads: loading a user set must drop every setting, and what the camera
+// changes by itself must be polled.
+void TestCameraDescription::changesByTheCameraReachTheHost()
+{
+    using namespace Registers;
+    int settings = 0;
+    int live = 0;
+    for (const Node &node : qAsConst(m_nodes)) {
+        const Address address = node.text("Address").toUInt(nullptr, 0);
+        const bool isSetting =
+            (address >= Settings && address < Settings + SettingsSize) ||
+            (address >= FrameSettings && address < FrameSettings + FrameStride) ||
+            address == PixelFormat || address == LookUpTables;
+        const bool isPolled = !node.text("PollingTime").isEmpty();
+        if (isSetting && node.element != "StructEntry") {
+            ++settings;
+            QVERIFY2(node.all("pInvalidator").contains("UserSetLoad"), qPrintable(node.name));
+        }
+        if (address >= CurrentTemperature && address <= TimestampLatchValue) {
+            ++live;
+            QVERIFY2(isPolled, qPrintable(node.name));
+        }
+    }
+    QVERIFY(settings > 60 && live > 5);
+    for (const char *name : {"BalanceWhiteAutoReg", "RedCoefficientReg", "GreenCoefficientReg",
+                             "BlueCoefficientReg", "PulseGenEnableReg"})
+        QVERIFY2(!m_nodes[m_byName.value(name)].text("PollingTime").isEmpty(), name);
+}
+
+void TestCameraDescription::dialogFeatures_data()
+{
+    QTest::addColumn<QStringList>("elements");
+    QTest::addColumn<QStringList>("features");
+
+    const QString identity =
+        "DeviceManufacturerName DeviceModelName DeviceFamilyName DeviceVersion "
+        "DeviceManufacturerInfo DeviceSerialNumber DeviceUserDefinedName "
+        "SensorType";
+    const QString integers =
+        "RgsID FpgaID EpcsID FirmwareImage FirmwareVersion FirmwareBuild CustomerID XmlVersion "
+        "U3VFirmwareVersion U3VFirmwareBuildNumber CurrentTemperature CurrentExposureTime "
+        "CurrentFrameTime Width Height PixelClock RedCoefficient GreenCoefficient BlueCoefficient "
+        "NumberOfFrameAs NumberOfFrameBs Frame_ExposureLines Frame_ExposureClocks "
+        "Frame_FixedFramePeriodValue Frame_LineTime Frame_OffsetX Frame_OffsetY Frame_Width "
+        "Frame_Height Frame_WidthActual Frame_HeightActual Frame_DigitalCourseGain "
+        "Frame_DigitalFineGain Frame_BlackLevel Frame_WdrE1 Frame_WdrE2 Frame_WdrE3 Strobe1Delay "
+        "Strobe1Width Strobe2Delay Strobe2Width PulseGenWidth PulseGenPeriod PulseGenNumPulses "
+        "DefectPixelThreshold HotPixelThreshold GevCurrentIPAddress GevCurrentSubnetMask "
+        "GevCurrentDefaultGateway GevPersistentIPAddress GevPersistentSubnetMask "
+        "GevPersistentDefaultGateway GevPrimaryApplicationIPAddress GevSCDA GevMACAddress";
+    const QString enumerations =
+        "FrameAB_Selector FrameMode ShutterMode SensorADCBitDepth SensorADCBitDepth11 "
+        "Frame_ExposureControl Frame_DecimationMode Frame_AnalogGain Frame_SubsamplingM "
+        "Frame_SubsamplingP Frame_Averaging Frame_WdrP1 Frame_WdrP2 Frame_WdrP3 BalanceWhiteAuto "
+        "AutoTrackingSpeed TriggerMode TriggerSource TriggerActivation TriggerDebounce Strobe1Mode "
+        "Strobe1Reference Strobe2Mode Strobe2Reference OUT1Polarity OUT1Selector OUT2Polarity "
+        "OUT2Selector PulseGenGranularity PulseGenMode PixelFormat LUTSelector "
+        "DefectPixelCorrection HotPixelCorrection TestImageSelector";
+    const QString booleans =
+        "Frame_FixedFramePeriodEnable Frame_WdrEnable PulseGenEnable LUTEnable "
+        "ReverseX ReverseY";
+
+    QTest::newRow("strings") << QStringList{"StringReg"} << identity.split(' ');
+    QTest::newRow("integers") << QStringList{"Integer", "IntReg"} << integers.split(' ');
+    QTest::newRow("enumerations") << QStringList{"Enumeration"} << enumerations.split(' ');
+    QTest::newRow("booleans") << QStringList{"Boolean"} << booleans.split(' ');
+    QTest::newRow("commands") << QStringList{"Command"} << QStringList{"TriggerSoftware"};
+}
+
+void TestCameraDescription::dialogFeatures()
+{
+    QFETCH(QStringList, elements);
+    QFETCH(QStringList, features);
+    for (const QString &feature : qAsConst(features)) {
+        QVERIFY2(m_features.contains(feature), qPrintable(feature));
+        const QString element = m_nodes[m_byName.value(feature)].element;
+        QVERIFY2(elements.contains(element), qPrintable(feature + " is a " + element));
+    }
+}
+
+QTEST_APPLESS_MAIN(TestCameraDescription)
+#include "tst_cameradescription.moc"
