@@ -139,8 +139,8 @@ std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::str
     Discovery discovery(adapter);
     do {
         discovery.ask();
-    } while (!discovery.listen(std::min(end, Clock::now() + repetition), isWanted)
-             && Clock::now() < end);
+    } while (!discovery.listen(std::min(end, Clock::now() + repetition), isWanted) &&
+             Clock::now() < end);
     return found;
 }
 
@@ -181,8 +181,8 @@ int32_t forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32
 
     // Cameras may be silent for seconds while they change their address.
     const auto isThere = [&](const GvCamera &camera) {
-        return camera.identity.mac == mac && camera.identity.ip == ip
-               && camera.identity.mask == mask;
+        return camera.identity.mac == mac && camera.identity.ip == ip &&
+               camera.identity.mask == mask;
     };
     Discovery discovery(adapter);
     do {

@@ -32,9 +32,8 @@ ORVCAMERAAPI_EXPORT std::vector<GvCamera> discoverCameras(const NetworkAdapter &
 
 /// The camera with that id, as soon as it answers; nothing when it does not in time. Its access
 /// state is known only as far as its address tells it.
-ORVCAMERAAPI_EXPORT std::optional<GvCamera> findCamera(const NetworkAdapter &adapter,
-                                                       const std::string &id,
-                                                       std::chrono::milliseconds time);
+ORVCAMERAAPI_EXPORT std::optional<GvCamera>
+findCamera(const NetworkAdapter &adapter, const std::string &id, std::chrono::milliseconds time);
 
 /// What a camera says to the request for a register.
 struct RegisterAnswer

@@ -21,15 +21,15 @@ void enable(int socket, int level, int option)
 }
 
 /// The control data that goes with a packet: the adapter, and this machine's address on it.
-union ControlData
-{
+union ControlData {
     cmsghdr header; // aligns
     char bytes[CMSG_SPACE(sizeof(in_pktinfo))];
 };
 
 int adapterOf(msghdr &message)
 {
-    for (cmsghdr *header = CMSG_FIRSTHDR(&message); header; header = CMSG_NXTHDR(&message, header)) {
+    for (cmsghdr *header = CMSG_FIRSTHDR(&message); header;
+         header = CMSG_NXTHDR(&message, header)) {
         if (header->cmsg_level == IPPROTO_IP && header->cmsg_type == IP_PKTINFO) {
             in_pktinfo info;
             std::memcpy(&info, CMSG_DATA(header), sizeof info);
@@ -49,9 +49,9 @@ int millisecondsUntil(Clock::time_point until)
 } // namespace
 
 GvcpSocket::GvcpSocket(const NetworkAdapter &adapter)
-    : m_adapter(adapter),
-      m_socket(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)),
-      m_lastId(static_cast<uint16_t>(std::random_device{}()))
+    : m_adapter(adapter)
+    , m_socket(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0))
+    , m_lastId(static_cast<uint16_t>(std::random_device{}()))
 {
     enable(m_socket, SOL_SOCKET, SO_BROADCAST);
     enable(m_socket, IPPROTO_IP, IP_PKTINFO);

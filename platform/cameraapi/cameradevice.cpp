@@ -30,8 +30,8 @@ CameraDevice *CameraDevice::open(std::shared_ptr<void> owner, DeviceInfo &info,
                                  int32_t &error, unsigned watchPeriodMs)
 {
     // Not a smart pointer of the standard: the destructor is the device's own affair.
-    auto *device = new CameraDevice(std::move(owner), info, std::move(connector), accessMode,
-                                    watchPeriodMs);
+    auto *device =
+        new CameraDevice(std::move(owner), info, std::move(connector), accessMode, watchPeriodMs);
     std::unique_ptr<Session> session = device->connect(error);
     if (!session) {
         delete device;
@@ -45,11 +45,11 @@ CameraDevice *CameraDevice::open(std::shared_ptr<void> owner, DeviceInfo &info,
 CameraDevice::CameraDevice(std::shared_ptr<void> owner, DeviceInfo &info,
                            std::shared_ptr<CameraConnector> connector, int32_t accessMode,
                            unsigned watchPeriodMs)
-    : m_owner(std::move(owner)),
-      m_info(info),
-      m_connector(std::move(connector)),
-      m_accessMode(accessMode),
-      m_watchPeriodMs(watchPeriodMs)
+    : m_owner(std::move(owner))
+    , m_info(info)
+    , m_connector(std::move(connector))
+    , m_accessMode(accessMode)
+    , m_watchPeriodMs(watchPeriodMs)
 {
 }
 
@@ -174,8 +174,8 @@ int32_t CameraDevice::UnregisterEvent(int32_t eventCode, DeviceEventCallback cal
 
 bool CameraDevice::has(const Registration &registration) const
 {
-    return std::find(m_registrations.begin(), m_registrations.end(), registration)
-           != m_registrations.end();
+    return std::find(m_registrations.begin(), m_registrations.end(), registration) !=
+           m_registrations.end();
 }
 
 bool CameraDevice::isRegistered(const Registration &registration) const

@@ -38,10 +38,10 @@ std::string DeviceFacts::displayName() const
 
 DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
                            std::shared_ptr<CameraConnector> connector)
-    : m_parent(parent),
-      m_facts(std::move(facts)),
-      m_displayName(m_facts.displayName()),
-      m_connector(std::move(connector))
+    : m_parent(parent)
+    , m_facts(std::move(facts))
+    , m_displayName(m_facts.displayName())
+    , m_connector(std::move(connector))
 {
 }
 

@@ -36,7 +36,8 @@ struct DeviceFacts
 class DeviceRecord final : public DeviceInfo
 {
 public:
-    DeviceRecord(CameraInterface &parent, DeviceFacts facts, std::shared_ptr<CameraConnector> connector);
+    DeviceRecord(CameraInterface &parent, DeviceFacts facts,
+                 std::shared_ptr<CameraConnector> connector);
 
     const DeviceFacts &facts() const { return m_facts; }
 

@@ -70,6 +70,7 @@ void GevParameters::addAdapter()
 void GevParameters::addCamera()
 {
     m_selector = &m_map.addInteger("DeviceSelector", 0, "DeviceEnumeration");
+    m_selector->bind([this] { return m_row; }, [this](const int64_t &row) { m_row = row; });
     const auto add = [this](const char *name, GenApi::ERepresentation representation, auto part) {
         MemoryInteger &node = addAddress(name, representation, "DeviceEnumeration");
         node.bind([this, part] { return static_cast<int64_t>(selected().*part); });
@@ -87,7 +88,8 @@ void GevParameters::addForce()
     addForced("GevDeviceForceIPAddress", &GevAddresses::ip);
     addForced("GevDeviceForceSubnetMask", &GevAddresses::mask);
     addForced("GevDeviceForceGateway", &GevAddresses::gateway);
-    m_command = &m_map.addCommand("GevDeviceForceIP", [this] { force(); }, "DeviceEnumeration");
+    m_command = &m_map.addCommand(
+        "GevDeviceForceIP", [this] { force(); }, "DeviceEnumeration");
     m_selector->select(*m_command);
 }
 
@@ -106,8 +108,8 @@ void GevParameters::addForced(const char *name, uint32_t GevAddresses::*part)
 
 GevAddresses GevParameters::selected() const
 {
-    const auto index = static_cast<std::size_t>(m_selector->GetValue());
-    return index < m_cameras.size() ? m_cameras[index] : GevAddresses();
+    const auto row = static_cast<std::size_t>(m_row);
+    return row < m_cameras.size() ? m_cameras[row] : GevAddresses();
 }
 
 GevAddresses GevParameters::forced() const
@@ -130,9 +132,8 @@ void GevParameters::networkChanged()
     m_cameras = m_network.cameras();
     const auto count = static_cast<int64_t>(m_cameras.size());
     m_selector->setLimits(0, count ? count - 1 : 0);
-    if (m_selector->GetValue() >= count)
+    if (m_row >= count)
         m_selector->change(0);
-
     m_selector->setAccessMode(count ? GenApi::RW : GenApi::NA);
     for (MemoryInteger *node : m_cameraNodes)
         node->setAccessMode(count ? GenApi::RO : GenApi::NA);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "simulatedinterface.h"
 
-#include "simulatedconnector.h"
 #include "simulatedcamera.h"
+#include "simulatedconnector.h"
 
 #include <algorithm>
 
@@ -57,7 +57,7 @@ SimulatedInterface::SimulatedInterface(CameraSystem &system, std::string descrip
 void SimulatedInterface::setAdapter(const GevAddresses &adapter)
 {
     m_adapter = adapter;
-    m_parameters = std::make_unique<GevParameters>(*this);
+    m_parameters = std::make_unique<GevParameters>(static_cast<GevNetwork &>(*this));
 }
 
 DeviceInfoList *SimulatedInterface::GetDeviceInfoSet()

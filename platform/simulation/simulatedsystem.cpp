@@ -43,8 +43,8 @@ std::vector<CameraInterface *> SimulatedSystem::interfaces()
 SimulatedInterface &SimulatedSystem::add(std::string description, int32_t transportKind,
                                          std::vector<SimulatedEntry> cameras)
 {
-    m_interfaces.push_back(std::make_unique<SimulatedInterface>(
-        *this, std::move(description), transportKind, std::move(cameras)));
+    m_interfaces.push_back(std::make_unique<SimulatedInterface>(*this, std::move(description),
+                                                                transportKind, std::move(cameras)));
     return *m_interfaces.back();
 }
 
