@@ -356,6 +356,9 @@ bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         d->pendingKeyStep = d->keyStepOf(static_cast<QKeyEvent *>(event)->key());
         break;
+    case QEvent::LayoutDirectionChange:
+        d->alignLabels();
+        break;
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:
         d->pendingKeyStep = QtOrvSliderPrivate::NoStep;
