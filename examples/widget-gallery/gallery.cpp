@@ -200,6 +200,7 @@ QWidget *Gallery::createPopUps()
     auto *box = new QGroupBox(QStringLiteral("QtOrvSpinBox"));
     auto *column = new QVBoxLayout(box);
     const int unit = fontMetrics().height();
+    int captionWidth = 0;
     for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
         auto *widget = new QtOrvSpinBox(orientation);
         widget->slider()->setScaleType(QtOrvSlider::ScaleLog10);
@@ -207,7 +208,7 @@ QWidget *Gallery::createPopUps()
         widget->setValue(1234);
         const bool vertical = orientation == Qt::Vertical;
         widget->setLeftLabelText(vertical ? tr("Opens above:") : tr("Opens beside:"));
-        widget->leftLabel()->setMinimumWidth(6 * unit);
+        captionWidth = qMax(captionWidth, widget->leftLabel()->sizeHint().width());
         auto *row = new QHBoxLayout;
         row->addWidget(createValueLabel(
             widget, static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged)));
@@ -219,6 +220,8 @@ QWidget *Gallery::createPopUps()
         column->addLayout(row);
         popUps.append(widget);
     }
+    for (const QtOrvSpinBox *widget : popUps)
+        widget->leftLabel()->setMinimumWidth(captionWidth);
     column->addStretch();
     return box;
 }
