@@ -235,6 +235,8 @@ QSlider *QtOrvDoubleSlider::slider() const
 
 bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == d->slider && event->type() == QEvent::LayoutDirectionChange)
+        d->alignLabels();
     if (watched != d->slider || event->type() != QEvent::FocusOut)
         return QFrame::eventFilter(watched, event);
 

@@ -12,7 +12,7 @@ class QtOrvGainSliderPrivate
 {
 public:
     explicit QtOrvGainSliderPrivate(QtOrvGainSlider *q)
-        : ValuePair(q, new QtOrvDoubleSpinBoxVal(q), new QtOrvDoubleSlider(Qt::Horizontal, q))
+        : ValuePair(q, new QtOrvDoubleSlider(Qt::Horizontal, q))
     {
         row->addWidget(slider, 1);
         row->addWidget(spinBox, 0);
@@ -26,7 +26,7 @@ QtOrvGainSlider::QtOrvGainSlider(QWidget *parent)
     : QWidget(parent), d(new QtOrvGainSliderPrivate(this))
 {
     ValueAccessibility::install();
-    setFocusProxy(d->spinBox);
+    setFocusProxy(d->slider); // the first one in the tab order
 }
 
 QtOrvGainSlider::~QtOrvGainSlider() = default;

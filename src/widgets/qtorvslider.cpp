@@ -27,7 +27,7 @@ public:
     void place(int value);
     void listen();
     void positionChanged(int position);
-    void moveOneStep(int sign);
+    void moveOneStep(int from, int sign);
     void announce(int value);
 
     enum KeyStep { NoStep = 0, StepUp = 1, StepDown = 2 };
@@ -46,6 +46,7 @@ public:
     int lastValue = 0;
     QMetaObject::Connection valueConnection;
     KeyStep pendingKeyStep = NoStep;
+    int valueBeforeKey = 0; // a new range may have made it another one than the last announced
 };
 
 QtOrvSliderPrivate::QtOrvSliderPrivate(QtOrvSlider *q, Qt::Orientation o)
@@ -128,15 +129,16 @@ void QtOrvSliderPrivate::listen()
 void QtOrvSliderPrivate::positionChanged(int position)
 {
     const int value = valueOf(position);
-    if (value != lastValue)
+    if (pendingKeyStep != NoStep && value == valueBeforeKey &&
+        scaleType != QtOrvSlider::ScaleLinear)
+        moveOneStep(value, pendingKeyStep == StepUp ? 1 : -1);
+    else if (value != lastValue)
         announce(value);
-    else if (scaleType != QtOrvSlider::ScaleLinear && pendingKeyStep != NoStep)
-        moveOneStep(pendingKeyStep == StepUp ? 1 : -1);
 }
 
-void QtOrvSliderPrivate::moveOneStep(int sign)
+void QtOrvSliderPrivate::moveOneStep(int from, int sign)
 {
-    const int stepped = ValueGrid::toInt(lastValue + qint64(sign) * singleStep);
+    const int stepped = ValueGrid::toInt(from + qint64(sign) * singleStep);
     const int value = qMax(minimum, qMin(stepped, maximum));
     disconnect(valueConnection);
     place(value);
@@ -355,6 +357,10 @@ bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
         return true;
     case QEvent::KeyPress:
         d->pendingKeyStep = d->keyStepOf(static_cast<QKeyEvent *>(event)->key());
+        d->valueBeforeKey = d->currentValue();
+        break;
+    case QEvent::LayoutDirectionChange:
+        d->alignLabels();
         break;
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:

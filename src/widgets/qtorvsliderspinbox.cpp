@@ -12,7 +12,7 @@ class QtOrvSliderSpinBoxPrivate
 {
 public:
     explicit QtOrvSliderSpinBoxPrivate(QtOrvSliderSpinBox *q)
-        : ValuePair(q, new QtOrvSpinBoxVal(q), new QtOrvSlider(Qt::Horizontal, q))
+        : ValuePair(q, new QtOrvSlider(Qt::Horizontal, q))
     {
         row->addWidget(slider, 1);
         row->addWidget(spinBox, 0);
@@ -25,7 +25,7 @@ QtOrvSliderSpinBox::QtOrvSliderSpinBox(QWidget *parent)
     : QWidget(parent), d(new QtOrvSliderSpinBoxPrivate(this))
 {
     ValueAccessibility::install();
-    setFocusProxy(d->spinBox);
+    setFocusProxy(d->slider); // the first one in the tab order
 }
 
 QtOrvSliderSpinBox::~QtOrvSliderSpinBox() = default;

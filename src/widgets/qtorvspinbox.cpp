@@ -25,8 +25,7 @@ public:
 };
 
 QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orientation)
-    : ValuePair(q, new QtOrvSpinBoxVal(q), new QtOrvSlider(orientation, q))
-    , button(new QToolButton(q))
+    : ValuePair(q, new QtOrvSlider(orientation, q)), button(new QToolButton(q))
 {
     button->setObjectName(QStringLiteral("button"));
     button->setText(QStringLiteral("^"));

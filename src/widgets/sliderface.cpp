@@ -19,9 +19,8 @@ SliderFace::SliderFace(Qt::Orientation orientation, QFrame *frame)
 void SliderFace::arrange(Qt::Orientation orientation, QFrame *frame)
 {
     const bool vertical = orientation == Qt::Vertical;
-    maxLabel->setAlignment(vertical ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
-    minLabel->setAlignment(vertical ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
     slider->setOrientation(orientation);
+    alignLabels();
 
     delete frame->layout();
     auto *column = new QVBoxLayout(frame);
@@ -45,4 +44,17 @@ void SliderFace::arrange(Qt::Orientation orientation, QFrame *frame)
         column->addWidget(slider);
         column->addLayout(row);
     }
+}
+
+// A label aligns its text by the direction of the text, and a number always goes left to right.
+void SliderFace::alignLabels()
+{
+    Qt::Alignment forMax = Qt::AlignHCenter;
+    Qt::Alignment forMin = Qt::AlignHCenter;
+    if (slider->orientation() == Qt::Horizontal) {
+        forMax = slider->isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight;
+        forMin = slider->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    }
+    maxLabel->setAlignment(forMax | Qt::AlignVCenter);
+    minLabel->setAlignment(forMin | Qt::AlignVCenter);
 }

@@ -17,8 +17,11 @@ struct SliderFace
 {
     SliderFace(Qt::Orientation orientation, QFrame *frame);
 
-    /** Aligns the labels, turns the slider and lays the frame out anew. */
+    /** Turns the slider, aligns the labels and lays the frame out anew. */
     void arrange(Qt::Orientation orientation, QFrame *frame);
+
+    /** Aligns the labels with the ends of the slider, as its orientation and direction have it. */
+    void alignLabels();
 
     QLabel *maxLabel;
     QLabel *minLabel;

@@ -113,24 +113,38 @@ private:
     Source *const source;
 };
 
+// Qt hands out the text interface of a line edit, except to the one of a spin box, which it knows
+// by its name and whose spin box speaks for it.
+QAccessibleInterface *lineEditInterface(QWidget *spinBox)
+{
+    auto *edit = spinBox->findChild<QLineEdit *>();
+    const QString name = edit->objectName();
+    edit->setObjectName(QString());
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(edit);
+    edit->setObjectName(name);
+    return interface;
+}
+
 // The spin box in a compound widget; Qt's own interface serves the free-standing ones.
 template<class SpinBox>
 class SpinBoxInterface : public ValueInterface<SpinBox>
 {
 public:
     explicit SpinBoxInterface(SpinBox *box)
-        : ValueInterface<SpinBox>(box, box, QAccessible::SpinBox)
+        : ValueInterface<SpinBox>(box, box, QAccessible::SpinBox), edit(lineEditInterface(box))
     {
     }
 
+    int childCount() const override { return 0; }
     void *interface_cast(QAccessible::InterfaceType type) override
     {
-        if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface) {
-            auto *edit = this->widget()->template findChild<QLineEdit *>();
-            return QAccessible::queryAccessibleInterface(edit)->interface_cast(type);
-        }
+        if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface)
+            return edit->interface_cast(type);
         return ValueInterface<SpinBox>::interface_cast(type);
     }
+
+private:
+    QAccessibleInterface *const edit; // owned by Qt, as long as the line edit lives
 };
 
 template<class Widget>

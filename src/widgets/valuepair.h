@@ -26,8 +26,9 @@ public:
     /** How the spin box takes over a value of the slider. */
     using TakeOver = void (*)(SpinBox *, T);
 
-    ValuePair(Owner *widget, SpinBox *box, Slider *sliderWidget)
-        : CaptionedRow(widget), spinBox(box), slider(sliderWidget), owner(widget)
+    /** Adds a spin box to \a sliderWidget; the Tab key reaches them in this order. */
+    ValuePair(Owner *widget, Slider *sliderWidget)
+        : CaptionedRow(widget), slider(sliderWidget), spinBox(new SpinBox(widget)), owner(widget)
     {
         spinBox->setObjectName(QStringLiteral("spinbox"));
     }
@@ -70,8 +71,8 @@ public:
         spinBox->setValidate(on);
     }
 
-    SpinBox *const spinBox;
     Slider *const slider;
+    SpinBox *const spinBox;
 
 private:
     // In the linear scale each value has its position and what the slider makes of a value (it
