@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include "iorvgenparamtreeview.h"
+
+namespace OrvGui {
+
+// Defined here so that the class's type information exists once, in the library.
+IOrvGenParamTreeView::~IOrvGenParamTreeView() = default;
+
+} // namespace OrvGui

@@ -1,0 +1,69 @@
+/* SPDX-License-Identifier: MIT */
+#ifndef ORVCAMERAGUIAPI_H
+#define ORVCAMERAGUIAPI_H
+
+/*
+ * The C functions of libOrvCameraGuiApi: ready-made windows for programs in any language.
+ *
+ * Each function makes a Qt application when the process has none; a host that has one of its own
+ * must have made a QApplication. All of them are called from one and the same thread, that of the
+ * application.
+ *
+ * Nothing here runs an event loop. A host that is not a Qt program has to let Qt's events run,
+ * otherwise a window is neither painted nor heard: on Linux Qt waits on the default GLib main
+ * context, so it is enough to run that, for instance with g_main_context_iteration(NULL, FALSE)
+ * from the host's own loop. examples/c-host shows how.
+ *
+ * Texts come in two kinds: functions whose name ends in A take UTF-8, those that end in W take
+ * 32-bit wide characters. Both end with a zero. Parent windows are native window ids (on X11 a
+ * Window), 0 for none.
+ */
+
+#include "orvcameraguiapi_export.h"
+
+#include <stddef.h>
+
+#ifdef __cplusplus
+#include "iorvgenparamtreeview.h"
+typedef GenApi::INodeMap OrvGenApiNodeMap;
+typedef OrvGenParam::Array OrvGenParamArray;
+typedef OrvGui::IOrvGenParamTreeView OrvGuiParamTreeView;
+extern "C" {
+#else
+typedef struct OrvGenApiNodeMap OrvGenApiNodeMap;
+typedef struct OrvGenParamArray OrvGenParamArray;
+typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
+#endif
+
+/*
+ * Opens a tree of all features of a node map or parameter array, in which the user reads and
+ * changes them. A null source gives an empty tree. Never returns null; only running out of memory
+ * throws (std::bad_alloc). The title may be null.
+ *
+ * With a parent the tree fills that window and is resized with it. The window must exist on the
+ * default display, and until the tree is destroyed. Without one, the tree is a window of its own.
+ *
+ * The caller owns the tree and ends it with DestroyGenParamTreeView. The node map, and the array
+ * that it comes from, must live until then, or until the tree is given other parameters or none;
+ * see IOrvGenParamTreeView.
+ */
+ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
+CreateGenParamTreeViewForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title,
+                                  unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
+CreateGenParamTreeViewForNodemapW(OrvGenApiNodeMap *nodeMap, const wchar_t *title,
+                                  unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
+CreateGenParamTreeViewForArrayA(OrvGenParamArray *array, const char *title, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
+CreateGenParamTreeViewForArrayW(OrvGenParamArray *array, const wchar_t *title,
+                                unsigned long parent);
+
+/* Null is ignored. Not from inside a callback of a node that the tree shows. */
+ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

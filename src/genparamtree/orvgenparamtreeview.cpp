@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: MIT
+#include "orvgenparamtreeview.h"
+
+#include "genparamdelegate.h"
+#include "genparamtreemodel.h"
+#include "genparamtreevisibilityfilterproxymodel.h"
+#include "treeviewresizer.h"
+#include "ui_genparamtreeview.h"
+
+#include <GenApi/GenApi.h>
+
+#include <QHeaderView>
+#include <QSplitter>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+namespace OrvGui {
+
+namespace {
+
+// The marks of a state text. They stand in saved states as they are.
+const char pathEnd[] = "&lt;";
+const char widthMark[] = "&amp;W";
+const char visibilityMark[] = "&amp;V";
+const char pathSeparator[] = "/";
+
+const int nameColumn = 0;
+const int valueColumn = 1;
+
+// All the height for the tree; the description is a strip that the user can drag open.
+const int treePaneSize = 1000;
+const int otherPaneSize = 10;
+
+GenApi::CValuePtr valueOf(const QModelIndex &index)
+{
+    return GenApi::CValuePtr(index.data(Qt::UserRole).value<GenApi::IValue *>());
+}
+
+bool isCategory(const QModelIndex &index)
+{
+    return valueOf(index)->GetNode()->GetPrincipalInterfaceType() == GenApi::intfICategory;
+}
+
+std::string displayName(const QModelIndex &index)
+{
+    return index.data(Qt::DisplayRole).toString().toStdString();
+}
+
+/// The number behind the first mark in the text, if there is any text behind it. Throws as
+/// `std::stoi`.
+bool numberAfter(const std::string &text, const std::string &mark, int *number)
+{
+    const std::string::size_type position = text.find(mark);
+    if (position == std::string::npos || position + mark.size() >= text.size())
+        return false;
+    *number = std::stoi(text.substr(position + mark.size()));
+    return true;
+}
+
+/// Keeps the failure of a node that is about to be edited out of Qt's event loop, which cannot
+/// handle it: such a node gets no editor, or one without its current value.
+class SafeDelegate : public GenParamDelegate
+{
+public:
+    using GenParamDelegate::GenParamDelegate;
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override
+    {
+        try {
+            return GenParamDelegate::createEditor(parent, option, index);
+        } catch (const GenICam::GenericException &) {
+            return nullptr;
+        }
+    }
+
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override
+    {
+        try {
+            GenParamDelegate::setEditorData(editor, index);
+        } catch (const GenICam::GenericException &) {
+        }
+    }
+};
+
+} // namespace
+
+class OrvGenParamTreeViewPrivate
+{
+public:
+    template<typename Source>
+    void Init(OrvGenParamTreeView *view, Source *source);
+    void buildSplitter();
+    void watchFirstShow();
+    void halveColumns();
+
+    template<typename Source>
+    void setModel(Source *source);
+    void setModel(std::nullptr_t);
+    void setSpanForChildren(const QModelIndex &parent);
+    void describeCurrent();
+
+    void saveState();
+    std::string saveState(const QModelIndex &parent, const std::string &parentPath) const;
+    void loadState(const char *text);
+    void loadState(const QModelIndex &parent, const std::string &parentPath);
+
+    OrvGenParamTreeView *q = nullptr;
+    const std::unique_ptr<Ui::GenParamTreeView> ui{new Ui::GenParamTreeView};
+    std::string state;
+    bool columnWidthRestored = false;
+};
+
+// OrvGenParamTreeViewPrivate
+
+template<typename Source>
+void OrvGenParamTreeViewPrivate::Init(OrvGenParamTreeView *view, Source *source)
+{
+    q = view;
+    ui->setupUi(q);
+    buildSplitter();
+    setModel(source);
+    ui->treeView->setItemDelegateForColumn(valueColumn, new SafeDelegate(q));
+    watchFirstShow();
+}
+
+void OrvGenParamTreeViewPrivate::buildSplitter()
+{
+    auto *splitter = new QSplitter(Qt::Vertical, q);
+    splitter->addWidget(ui->treeView);
+    splitter->addWidget(ui->whatsThisLabel);
+    splitter->setChildrenCollapsible(false);
+    splitter->setSizes({treePaneSize, otherPaneSize});
+    ui->verticalLayout->addWidget(splitter);
+}
+
+void OrvGenParamTreeViewPrivate::watchFirstShow()
+{
+    auto *resizer = new TreeViewResizer(ui->treeView);
+    QObject::connect(resizer, &TreeViewResizer::showed, q, [this, resizer] {
+        if (!columnWidthRestored)
+            halveColumns();
+        resizer->disconnect();
+    });
+}
+
+void OrvGenParamTreeViewPrivate::halveColumns()
+{
+    QTreeView *tree = ui->treeView;
+    tree->setColumnWidth(nameColumn,
+                         (tree->columnWidth(nameColumn) + tree->columnWidth(valueColumn)) / 2);
+}
+
+void OrvGenParamTreeViewPrivate::setModel(std::nullptr_t)
+{
+    QAbstractItemModel *model = ui->treeView->model();
+    if (model) {
+        // Taking the model away closes the editor before anything that it shows is gone.
+        QItemSelectionModel *selectionModel = ui->treeView->selectionModel();
+        ui->treeView->setModel(nullptr);
+        delete selectionModel;
+        delete model;
+    }
+    ui->whatsThisLabel->setText(QString());
+}
+
+template<typename Source>
+void OrvGenParamTreeViewPrivate::setModel(Source *source)
+{
+    setModel(nullptr);
+    if (!source)
+        return;
+
+    auto *proxy = new GenParamTreeVisibilityFilterProxyModel(q);
+    proxy->setSourceModel(new GenParamTreeModel(source, proxy));
+    proxy->setFilterVisibility(ui->cbVisibility->currentIndex());
+    ui->treeView->setModel(proxy);
+    QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
+                     [this] { describeCurrent(); });
+    QObject::connect(ui->cbVisibility,
+                     static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged), proxy,
+                     &GenParamTreeVisibilityFilterProxyModel::setFilterVisibility);
+    halveColumns();
+    setSpanForChildren(QModelIndex());
+}
+
+void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
+{
+    const QAbstractItemModel *model = ui->treeView->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex index = model->index(row, nameColumn, parent);
+        if (!isCategory(index))
+            continue;
+        ui->treeView->setFirstColumnSpanned(row, parent, true);
+        setSpanForChildren(index);
+    }
+}
+
+void OrvGenParamTreeViewPrivate::describeCurrent()
+{
+    const QModelIndex current = ui->treeView->currentIndex();
+    ui->whatsThisLabel->setText(current.data(Qt::WhatsThisRole).toString());
+}
+
+void OrvGenParamTreeViewPrivate::saveState()
+{
+    state.clear();
+    if (!ui->treeView->model())
+        return;
+    state = saveState(ui->treeView->rootIndex(), std::string());
+    state += widthMark + std::to_string(ui->treeView->columnWidth(nameColumn));
+    state += visibilityMark + std::to_string(ui->cbVisibility->currentIndex());
+}
+
+std::string OrvGenParamTreeViewPrivate::saveState(const QModelIndex &parent,
+                                                  const std::string &parentPath) const
+{
+    std::string expanded;
+    const QAbstractItemModel *model = ui->treeView->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex index = model->index(row, nameColumn, parent);
+        if (!isCategory(index))
+            continue;
+        const std::string path = parentPath + displayName(index);
+        if (ui->treeView->isExpanded(index))
+            expanded += path + pathEnd;
+        expanded += saveState(index, path + pathSeparator);
+    }
+    return expanded;
+}
+
+void OrvGenParamTreeViewPrivate::loadState(const char *text)
+{
+    if (!text || !*text || !ui->treeView->model())
+        return;
+    state = std::string(text); // the text may be our own
+    loadState(ui->treeView->rootIndex(), std::string());
+
+    int width = 0;
+    if (numberAfter(state, widthMark, &width) && width != 0) {
+        ui->treeView->setColumnWidth(nameColumn, width);
+        columnWidthRestored = true;
+    }
+    int visibility = 0;
+    if (numberAfter(state, visibilityMark, &visibility))
+        ui->cbVisibility->setCurrentIndex(visibility);
+}
+
+void OrvGenParamTreeViewPrivate::loadState(const QModelIndex &parent, const std::string &parentPath)
+{
+    const QAbstractItemModel *model = ui->treeView->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex index = model->index(row, nameColumn, parent);
+        if (!isCategory(index))
+            continue;
+        const std::string path = parentPath + displayName(index);
+        // Wherever the path occurs: a path that is part of a saved one counts as saved, too.
+        ui->treeView->setExpanded(index, state.find(path) != std::string::npos);
+        loadState(index, path + pathSeparator);
+    }
+}
+
+// OrvGenParamTreeView
+
+OrvGenParamTreeView::OrvGenParamTreeView(QWidget *parent)
+    : QWidget(parent), d(new OrvGenParamTreeViewPrivate)
+{
+    d->Init(this, static_cast<GenApi::INodeMap *>(nullptr));
+}
+
+OrvGenParamTreeView::OrvGenParamTreeView(GenApi::INodeMap *nodeMap, QWidget *parent)
+    : QWidget(parent), d(new OrvGenParamTreeViewPrivate)
+{
+    d->Init(this, nodeMap);
+}
+
+OrvGenParamTreeView::OrvGenParamTreeView(OrvGenParam::Array *array, QWidget *parent)
+    : QWidget(parent), d(new OrvGenParamTreeViewPrivate)
+{
+    d->Init(this, array);
+}
+
+OrvGenParamTreeView::~OrvGenParamTreeView()
+{
+    // An open editor must not lose its focus, and so try to commit, while the tree is being taken
+    // apart.
+    d->setModel(nullptr);
+}
+
+void OrvGenParamTreeView::setParams(OrvGenParam::Array *array)
+{
+    d->setModel(array);
+}
+
+void OrvGenParamTreeView::setParams(GenApi::INodeMap *nodeMap)
+{
+    d->setModel(nodeMap);
+}
+
+void OrvGenParamTreeView::clearParams()
+{
+    d->setModel(nullptr);
+}
+
+Visibility OrvGenParamTreeView::visibility() const
+{
+    return static_cast<Visibility>(d->ui->cbVisibility->currentIndex());
+}
+
+void OrvGenParamTreeView::setVisibility(OrvGui::Visibility visibility)
+{
+    d->ui->cbVisibility->setCurrentIndex(visibility);
+}
+
+const char *OrvGenParamTreeView::saveState() const
+{
+    d->saveState();
+    return d->state.c_str();
+}
+
+void OrvGenParamTreeView::loadState(const char *state)
+{
+    d->loadState(state);
+}
+
+QTreeView *OrvGenParamTreeView::treeView() const
+{
+    return d->ui->treeView;
+}
+
+} // namespace OrvGui

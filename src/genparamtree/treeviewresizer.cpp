@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "treeviewresizer.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QTreeView>
+
+namespace {
+
+QPoint localPosition(const QMouseEvent *event)
+{
+    return QPoint(qRound(event->localPos().x()), qRound(event->localPos().y()));
+}
+
+int globalX(const QMouseEvent *event)
+{
+    return qRound(event->screenPos().x());
+}
+
+} // namespace
+
+TreeViewResizer::TreeViewResizer(QTreeView *treeView) : QObject(treeView), tree(treeView)
+{
+    tree->installEventFilter(this);
+    tree->viewport()->installEventFilter(this);
+    tree->viewport()->setAttribute(Qt::WA_MouseTracking);
+}
+
+QModelIndex TreeViewResizer::ifResizable(const QPoint &pos)
+{
+    // The probe lies inside the cell while the pointer is on its border.
+    const QModelIndex cell = tree->indexAt(pos - QPoint(margin + 1, margin + 1));
+    if (!cell.isValid())
+        return QModelIndex();
+    const bool onBorder = qAbs(tree->visualRect(cell).right() - pos.x()) < margin;
+    const bool interactive =
+        tree->header()->sectionResizeMode(cell.column()) == QHeaderView::Interactive;
+    return onBorder && interactive ? cell : QModelIndex();
+}
+
+bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == tree && event->type() == QEvent::Show)
+        emit showed();
+    if (watched != tree->viewport())
+        return false;
+
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        return mouseMove(static_cast<QMouseEvent *>(event));
+    case QEvent::MouseButtonPress:
+        return mousePress(static_cast<QMouseEvent *>(event));
+    case QEvent::MouseButtonRelease:
+        return mouseRelease(static_cast<QMouseEvent *>(event));
+    default:
+        return false;
+    }
+}
+
+bool TreeViewResizer::mouseMove(const QMouseEvent *event)
+{
+    if (!dragging) {
+        const bool resizable = ifResizable(localPosition(event)).isValid();
+        tree->viewport()->setCursor(resizable ? QCursor(Qt::SplitHCursor) : QCursor());
+        return false;
+    }
+    const int delta = globalX(event) - lastX;
+    lastX = globalX(event);
+    QHeaderView *header = tree->header();
+    header->resizeSection(column, qMax(header->sectionSize(column) + delta, 2 * margin));
+    return true;
+}
+
+bool TreeViewResizer::mousePress(const QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || dragging)
+        return false;
+    const QModelIndex cell = ifResizable(localPosition(event));
+    if (!cell.isValid())
+        return false;
+    dragging = true;
+    lastX = globalX(event);
+    column = cell.column();
+    return true;
+}
+
+bool TreeViewResizer::mouseRelease(const QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !dragging)
+        return false;
+    dragging = false;
+    return true;
+}
