@@ -3,6 +3,8 @@
 
 #include <arv.h>
 
+#include <thread>
+
 namespace OrvAravis {
 
 namespace {
@@ -23,7 +25,10 @@ void destroyFlag(void *data, GClosure *)
 
 void ArvConnection::Unref::operator()(ArvDevice *device) const
 {
-    g_object_unref(device);
+    if (isInBackground)
+        std::thread([device] { g_object_unref(device); }).detach();
+    else
+        g_object_unref(device);
 }
 
 ArvConnection::ArvConnection(ArvDevice *device)
@@ -39,6 +44,13 @@ ArvConnection::ArvConnection(ArvDevice *device)
 ArvConnection::~ArvConnection()
 {
     g_signal_handler_disconnect(m_device.get(), m_signal);
+}
+
+bool ArvConnection::isAlive()
+{
+    const bool isFine = !*m_isControlLost && answers();
+    m_device.get_deleter().isInBackground = !isFine;
+    return isFine;
 }
 
 int32_t codeOfOpenError(GError *error)

@@ -23,18 +23,25 @@ public:
     ArvConnection &operator=(const ArvConnection &) = delete;
 
     GenApi::INodeMap &nodeMap() override { return *m_nodeMap; }
-    bool isAlive() override { return !*m_isControlLost; }
+    bool isAlive() final;
 
 protected:
     ArvDevice *device() const { return m_device.get(); }
 
+    /// Asks the camera, when Aravis has nothing to complain about.
+    virtual bool answers() { return true; }
+
 private:
     struct Unref
     {
+        Unref() : isInBackground(false) {}
         void operator()(ArvDevice *device) const;
+
+        /// Aravis says goodbye to a camera, and waits for seconds when that does not answer.
+        bool isInBackground;
     };
 
-    const std::unique_ptr<ArvDevice, Unref> m_device;
+    std::unique_ptr<ArvDevice, Unref> m_device;
     const std::unique_ptr<NodeMap> m_nodeMap;
     std::shared_ptr<std::atomic<bool>> m_isControlLost; ///< shared with the signal's closure
     unsigned long m_signal = 0;

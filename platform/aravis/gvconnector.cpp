@@ -37,10 +37,16 @@ public:
     {
     }
 
-    bool isAlive() override
+    void abandon() override
     {
-        if (!ArvConnection::isAlive())
-            return false;
+        auto *camera = ARV_GV_DEVICE(device());
+        if (arv_gv_device_is_controller(camera))
+            arv_gv_device_leave_control(camera, nullptr);
+    }
+
+protected:
+    bool answers() override
+    {
         const auto answer =
             readRegister(m_adapter, m_camera, Gvcp::controlPrivilegeRegister, glance);
         if (!answer)
@@ -49,13 +55,6 @@ public:
         // A camera that was switched off and on between two looks does not know us any more.
         return !m_hasControl || answer->status != Gvcp::StatusSuccess ||
                (answer->value & Gvcp::controlPrivilegeMask) != 0;
-    }
-
-    void abandon() override
-    {
-        auto *camera = ARV_GV_DEVICE(device());
-        if (arv_gv_device_is_controller(camera))
-            arv_gv_device_leave_control(camera, nullptr);
     }
 
 private:

@@ -23,7 +23,7 @@ public:
     /// not the one that uses the node map.
     virtual bool isAlive() = 0;
 
-    /// For a lost camera: lets go of what the camera, should it be back, may still reserve for this
+    /// For a lost camera that is back: gives up the control that it may still grant this
     /// connection.
     virtual void abandon() {}
 };

@@ -108,11 +108,13 @@ void CameraDevice::watch()
             if (!current->connection->isAlive())
                 lose(*current);
         } else {
-            last->connection->abandon();
             int32_t error = Success;
             if (auto session = connect(error)) {
                 enter(std::move(session));
                 emitEvent(EventReconnected);
+            } else if (error == ErrorBusy) {
+                // After a short interruption, the one who keeps it busy may be us.
+                last->connection->abandon();
             }
         }
         lock.lock();

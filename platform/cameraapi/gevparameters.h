@@ -68,7 +68,7 @@ private:
 
     GevNetwork &m_network;
     std::vector<GevAddresses> m_cameras;
-    int64_t m_row = 0; ///< of the selected one
+    int64_t m_row = 0;                         ///< of the selected one
     std::map<uint64_t, GevAddresses> m_forced; ///< by MAC address
     std::vector<OrvGenApi::MemoryInteger *> m_adapterNodes;
     std::vector<OrvGenApi::MemoryInteger *> m_cameraNodes;
