@@ -161,7 +161,11 @@ bool DescribedCommand::readIsDone()
 {
     if (!IsReadable(source().accessMode()))
         return true;
-    map().invalidate({this});
+    // Only what the command itself is read from: nothing has happened to its dependents.
+    for (Node *node : links().written) {
+        node->dropRegister();
+        node->dropCache();
+    }
     return source().integer() != valueToWrite();
 }
 

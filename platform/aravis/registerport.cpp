@@ -7,6 +7,12 @@
 
 namespace OrvAravis {
 
+namespace {
+
+constexpr int64_t SilenceAfterTimeout = 5 * G_USEC_PER_SEC;
+
+} // namespace
+
 DevicePort::DevicePort(ArvDevice *device) : m_device(ARV_DEVICE(g_object_ref(device))) {}
 
 DevicePort::~DevicePort()
@@ -14,25 +20,50 @@ DevicePort::~DevicePort()
     g_object_unref(m_device);
 }
 
+template<typename Transfer>
+bool DevicePort::transfer(GError **error, Transfer transfer)
+{
+    if (g_get_monotonic_time() < m_silentUntil) {
+        g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT,
+                            "the camera does not answer");
+        return false;
+    }
+    GError *failure = nullptr;
+    if (transfer(&failure))
+        return true;
+    if (failure && failure->domain == ARV_DEVICE_ERROR && failure->code == ARV_DEVICE_ERROR_TIMEOUT)
+        m_silentUntil = g_get_monotonic_time() + SilenceAfterTimeout;
+    g_propagate_error(error, failure);
+    return false;
+}
+
 bool DevicePort::read(uint64_t address, uint32_t size, void *bytes, GError **error)
 {
-    return arv_device_read_memory(m_device, address, size, bytes, error);
+    return transfer(error, [&](GError **failure) {
+        return arv_device_read_memory(m_device, address, size, bytes, failure);
+    });
 }
 
 bool DevicePort::write(uint64_t address, uint32_t size, const void *bytes, GError **error)
 {
     // The engine only reads from the buffer; its signature does not say so.
-    return arv_device_write_memory(m_device, address, size, const_cast<void *>(bytes), error);
+    return transfer(error, [&](GError **failure) {
+        return arv_device_write_memory(m_device, address, size, const_cast<void *>(bytes), failure);
+    });
 }
 
 bool DevicePort::readRegister(uint64_t address, uint32_t *value, GError **error)
 {
-    return arv_device_read_register(m_device, address, value, error);
+    return transfer(error, [&](GError **failure) {
+        return arv_device_read_register(m_device, address, value, failure);
+    });
 }
 
 bool DevicePort::writeRegister(uint64_t address, uint32_t value, GError **error)
 {
-    return arv_device_write_register(m_device, address, value, error);
+    return transfer(error, [&](GError **failure) {
+        return arv_device_write_register(m_device, address, value, failure);
+    });
 }
 
 bool MemoryPort::read(uint64_t address, uint32_t size, void *bytes, GError **)

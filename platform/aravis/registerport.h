@@ -27,6 +27,10 @@ public:
 };
 
 /// The registers of a camera.
+///
+/// A camera that does not answer costs seconds, which whoever asks spends waiting. After one such
+/// wait the next transactions fail at once for some time, so that asking for a hundred features
+/// does not take a hundred times as long.
 class DevicePort : public RegisterPort
 {
 public:
@@ -42,7 +46,11 @@ public:
     bool writeRegister(uint64_t address, uint32_t value, GError **error) override;
 
 private:
+    template<typename Transfer>
+    bool transfer(GError **error, Transfer transfer);
+
     ArvDevice *m_device;
+    int64_t m_silentUntil = 0; ///< monotonic time in microseconds
 };
 
 /// Registers without a camera: any address can be read and written, and is 0 until written.

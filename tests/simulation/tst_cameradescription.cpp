@@ -106,7 +106,6 @@ private slots:
     void elementsAreInOrder();
     void featuresAreDocumented();
     void registersDoNotOverlap();
-    void registersLieWhereTheCameraLooks();
     void changesByTheCameraReachTheHost();
     void dialogFeatures_data();
     void dialogFeatures();
@@ -277,64 +276,6 @@ void TestCameraDescription::registersDoNotOverlap()
             const bool isApart = a.start + a.length <= b.start || b.start + b.length <= a.start;
             QVERIFY2(isApart || isShared, qPrintable(a.name + " and " + b.name));
         }
-    }
-}
-
-void TestCameraDescription::registersLieWhereTheCameraLooks()
-{
-    using namespace Registers;
-    const QHash<QString, Address> expected{
-        {"GevMACAddress", GevMACAddress},
-        {"GevCurrentIPAddress", GevCurrentIPAddress},
-        {"GevPersistentIPAddressReg", GevPersistentIPAddress},
-        {"DeviceModelName", DeviceModelName},
-        {"DeviceFamilyName", DeviceFamilyName},
-        {"SensorType", SensorType},
-        {"PixelFormatReg", PixelFormat},
-        {"PixelClock", PixelClock},
-        {"TriggerModeReg", TriggerMode},
-        {"TriggerSourceReg", TriggerSource},
-        {"PulseGenModeReg", PulseGenMode},
-        {"PulseGenNumPulsesReg", PulseGenNumPulses},
-        {"PulseGenGranularityReg", PulseGenGranularity},
-        {"PulseGenWidthReg", PulseGenWidth},
-        {"PulseGenPeriodReg", PulseGenPeriod},
-        {"PulseGenEnableReg", PulseGenEnable},
-        {"PulseGenPulseCount", PulseGenPulseCount},
-        {"Strobe1ModeReg", Strobe1Control},
-        {"Strobe2ReferenceReg", Strobe2Control},
-        {"OUT1PolarityBit", OutputControl},
-        {"BalanceWhiteAutoReg", BalanceWhiteAuto},
-        {"AutoTrackingSpeedReg", AutoTrackingSpeed},
-        {"RedCoefficientReg", RedCoefficient},
-        {"GreenCoefficientReg", GreenCoefficient},
-        {"BlueCoefficientReg", BlueCoefficient},
-        {"GammaReg", Gamma},
-        {"UserOutputValueReg", UserOutputValue},
-        {"UserSetSelectorReg", UserSetSelector},
-        {"UserSetLoadReg", UserSetLoad},
-        {"UserSetSaveReg", UserSetSave},
-        {"TriggerSoftwareReg", TriggerSoftware},
-        {"TimestampLatchReg", TimestampLatch},
-        {"TimestampLatchValue", TimestampLatchValue},
-        {"ServiceKeyReg", ServiceKey},
-        {"ServiceUnlockedReg", ServiceUnlocked},
-        {"CurrentTemperatureReg", CurrentTemperature},
-        {"DeviceTemperature", DeviceTemperature},
-        {"UpTime", UpTime},
-        {"TriggerCount", TriggerCount},
-        {"LineStatusAll", LineStatusAll},
-        {"Frame_ExposureLinesReg", FrameExposureLines},
-        {"Frame_FixedFramePeriodValueReg", FrameFixedFramePeriodValue},
-        {"Frame_WidthReg", FrameWidth},
-        {"Frame_DigitalCourseGainReg", FrameDigitalCourseGain},
-        {"Frame_WdrE3Reg", FrameWdrE3},
-        {"LUTValueAll", LookUpTables},
-    };
-    for (auto it = expected.begin(); it != expected.end(); ++it) {
-        QVERIFY2(m_byName.contains(it.key()), qPrintable(it.key()));
-        const Node &node = m_nodes[m_byName.value(it.key())];
-        QVERIFY2(node.text("Address").toUInt(nullptr, 0) == it.value(), qPrintable(it.key()));
     }
 }
 

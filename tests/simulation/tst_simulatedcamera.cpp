@@ -114,6 +114,7 @@ class TestSimulatedCamera : public QObject
 private slots:
     void startValuesAreValid_data();
     void startValuesAreValid();
+    void startValuesAreThoseOfTheirFeature();
     void identityIsWhatItWasMadeWith();
     void everySelectorSelects_data();
     void everySelectorSelects();
@@ -197,6 +198,33 @@ void TestSimulatedCamera::startValuesAreValid()
         QVERIFY(features.integer("CurrentFrameTime") > features.integer("CurrentExposureTime"));
     }
     QVERIFY(checked > 200);
+}
+
+// The description and the camera's own code each have the addresses.
+void TestSimulatedCamera::startValuesAreThoseOfTheirFeature()
+{
+    const SimulatedCamera camera;
+    Features features(camera);
+    features.choose("FrameAB_Selector", "FrameB");
+    const QStringList expected =
+        QString(
+            "PixelFormat=BayerRG8 SensorClockDivider=32 StreamBufferDepth=8 PulseGenWidth=1000 "
+            "PulseGenPeriod=10000 Strobe1Mode=BothFrames Strobe1Delay=100 Strobe1Width=1000 "
+            "Strobe2Mode=Off Strobe2Reference=ReadoutStart Strobe2Width=500 OUT1Selector=Strobe1 "
+            "OUT2Polarity=ActiveHigh OUT2Selector=ExposureActive AutoTrackingSpeed=Medium "
+            "BlueCoefficient=384 Gamma=1 DefectPixelThreshold=256 HotPixelCorrection=Dynamic "
+            "RgsID=1042 FirmwareBuild=1187 U3VFirmwareBuildNumber=412 PixelClock=160 "
+            "Frame_ExposureClocks=480 Frame_OffsetY=456 Frame_Width=3840 Frame_SubsamplingP=P2 "
+            "Frame_AnalogGain=x2 Frame_DigitalFineGain=32 Frame_BlackLevel=80 "
+            "Frame_WdrP3=Percent40 Frame_WdrE3=60 GevVersionMinor=2 GevSCPSPacketSize=1500")
+            .split(' ');
+    for (const QString &pair : expected) {
+        const QByteArray name = pair.section('=', 0, 0).toLatin1();
+        auto *node = ARV_GC_FEATURE_NODE(features.node(name));
+        QVERIFY2(node, name);
+        const QString value = arv_gc_feature_node_get_value_as_string(node, nullptr);
+        QCOMPARE(QString(name) + '=' + value, pair);
+    }
 }
 
 void TestSimulatedCamera::identityIsWhatItWasMadeWith()

@@ -89,8 +89,10 @@ void Node::GetChildren(NodeList_t &children, ELinkType linkType) const
 {
     std::vector<Node *> nodes;
     if (linkType == ctDependingNodes) {
-        nodes = m_map.closure({const_cast<Node *>(this)});
-        nodes.erase(nodes.begin()); // the node itself
+        // Changing the node changes what it is written through as well.
+        auto *self = const_cast<Node *>(this);
+        nodes = m_map.closure(self->writtenNodes());
+        nodes.erase(std::remove(nodes.begin(), nodes.end(), self), nodes.end());
     } else if (linkType == ctInvalidatingChildren) {
         nodes = m_sources;
     } else if (linkType == ctParentNodes) {

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the user asked for on the command line.
+struct Options
+{
+    bool simulate = false;
+    bool listFeatures = false;
+    QString camera;      ///< identifier, serial number or name; empty for the first usable one
+    QString description; ///< file name; empty for a camera
+    QString screenshot;  ///< file name; empty for none
+    int visibility = 0;  ///< 0 Basic, 1 Expert, 2 Guru
+
+    /// Reads the arguments, the program's name first. Answers "--help" and "--version" and ends
+    /// the program. For anything that makes no sense, `error` is one line and the result is of no
+    /// use.
+    static Options fromArguments(const QStringList &arguments, QString *error);
+};

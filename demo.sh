@@ -1,0 +1,37 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+# Installs what is missing, builds, and opens the program on a simulated camera. Without a display
+# it leaves PNG pictures of the windows in build/demo instead and prints where they are.
+set -eu
+
+root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
+build=$root/build/demo
+
+die() { echo "demo.sh: $*" >&2; exit 1; }
+
+"$root/packaging/setup-debian.sh"
+
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DORV_BUILD_TESTS=OFF \
+    -DORV_BUILD_BENCHMARKS=OFF >"$log" 2>&1 || { cat "$log" >&2; die "cmake failed"; }
+cmake --build "$build" || die "the build failed"
+
+program=$build/bin/orvcamconfig
+if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+    exec "$program" --simulate
+fi
+
+pictures=$build/pictures
+mkdir -p "$pictures"
+picture() {
+    file=$pictures/$1.png
+    shift
+    rm -f "$file"
+    xvfb-run -a -s "-screen 0 1600x1200x24 -nolisten tcp" "$program" "$@" --screenshot "$file" \
+        2>"$log" || { cat "$log" >&2; die "the program failed"; }
+    echo "$file"
+}
+echo "There is no display; these are pictures of the windows:"
+picture features-basic --simulate
+picture features-guru --simulate --visibility guru

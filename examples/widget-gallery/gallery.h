@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_H
+#define GALLERY_H
+
+#include <QList>
+#include <QPixmap>
+#include <QWidget>
+
+class QGridLayout;
+class QtOrvSpinBox;
+
+/**
+ * Shows every value widget in every orientation and scale, each with its value beside it, and
+ * switches for what they have in common.
+ */
+class Gallery : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Gallery(QWidget *parent = nullptr);
+
+    /** A picture of the whole, with the sliders that pop up drawn where they do. */
+    QPixmap picture();
+
+public Q_SLOTS:
+    void setDark(bool on);
+    void setRightToLeft(bool on);
+    void setSnapping(bool on);
+    void setTypingCounts(bool on);
+
+private:
+    QWidget *createSliders();
+    QWidget *createDoubleSliders();
+    QWidget *createSpinBoxes();
+    QWidget *createPopUps();
+    QWidget *createCompounds();
+    QWidget *createSwitches();
+
+    QList<QtOrvSpinBox *> popUps;
+};
+
+#endif

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "devicerecord.h"
+
+#include <OrvCam/Interface.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace OrvCam {
+
+class CameraSystem;
+
+/// What every interface does with the cameras that it finds: it keeps a record of each, for good,
+/// and hands out those that are there, in the order in which they were first seen.
+class CameraInterface : public Interface
+{
+public:
+    CameraInterface(CameraSystem &system, std::string description, int32_t transportKind);
+
+    CameraSystem &system() const { return m_system; }
+
+    /// The present cameras; the position is the camera's "DeviceSelector" value.
+    const std::vector<DeviceRecord *> &present() const { return m_present; }
+
+    int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) override;
+    DeviceInfoList *GetDeviceInfoSet() override;
+    const char *GetDescription() const override { return m_description.c_str(); }
+    int32_t GetTransportKind() const override { return m_transportKind; }
+    const char *GetVersionText() const override;
+    OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
+
+protected:
+    void setDescription(std::string description) { m_description = std::move(description); }
+
+    /// Looks for cameras, for at most so long. Returns an `ErrorCode`.
+    virtual int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) = 0;
+
+    /// For a camera that is seen for the first time.
+    virtual std::shared_ptr<CameraConnector> makeConnector(const DeviceFacts &facts) = 0;
+
+    /// `present()` is up to date again.
+    virtual void refreshed() {}
+
+private:
+    DeviceRecord *record(const std::string &id) const;
+
+    CameraSystem &m_system;
+    std::string m_description;
+    const int32_t m_transportKind;
+    std::vector<std::unique_ptr<DeviceRecord>> m_records;
+    std::vector<DeviceRecord *> m_present;
+};
+
+} // namespace OrvCam

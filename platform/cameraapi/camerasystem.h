@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "camerainterface.h"
+
+#include <OrvCam/System.h>
+
+#include <memory>
+#include <vector>
+
+namespace OrvCam {
+
+/// A camera system. It lives as long as a program or an open device uses it: the last release only
+/// takes it from the former.
+class CameraSystem : public System, public std::enable_shared_from_this<CameraSystem>
+{
+public:
+    using Maker = std::shared_ptr<CameraSystem> (*)();
+
+    /// The system of this process, which `make` makes when nobody has it. Each call is paired with
+    /// one `Release`.
+    static CameraSystem *acquire(Maker make);
+
+    InterfaceList *GetInterfaceSet(uint32_t typeMask) override;
+    void Release() override;
+
+protected:
+    /// All interfaces that are there at this moment, always in the same order.
+    virtual std::vector<CameraInterface *> interfaces() = 0;
+};
+
+} // namespace OrvCam

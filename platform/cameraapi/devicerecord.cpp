@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "devicerecord.h"
+
+#include "cameradevice.h"
+#include "camerasystem.h"
+
+#include <tuple>
+
+namespace OrvCam {
+
+namespace {
+
+auto tied(const DeviceFacts &facts)
+{
+    return std::tie(facts.vendor, facts.model, facts.serial, facts.version, facts.userName,
+                    facts.id, facts.accessState);
+}
+
+const char *textOrNull(const std::optional<std::string> &text)
+{
+    return text ? text->c_str() : nullptr;
+}
+
+} // namespace
+
+bool DeviceFacts::operator==(const DeviceFacts &other) const
+{
+    return tied(*this) == tied(other);
+}
+
+std::string DeviceFacts::displayName() const
+{
+    const auto &detail = userName ? userName : serial;
+    if (!model)
+        return detail.value_or(id);
+    return detail ? *model + " (" + *detail + ")" : *model;
+}
+
+DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
+                           std::shared_ptr<CameraConnector> connector)
+    : m_parent(parent)
+    , m_facts(std::move(facts))
+    , m_displayName(m_facts.displayName())
+    , m_connector(std::move(connector))
+{
+}
+
+bool DeviceRecord::update(DeviceFacts facts)
+{
+    // The texts stay where they are when nothing has changed.
+    if (facts == m_facts)
+        return false;
+    m_facts = std::move(facts);
+    m_displayName = m_facts.displayName();
+    return true;
+}
+
+Device *DeviceRecord::open(int32_t accessMode, int32_t &error)
+{
+    if (m_connector)
+        return CameraDevice::open(m_parent.system().shared_from_this(), *this, m_connector,
+                                  accessMode, error);
+    error = ErrorAccessDenied;
+    return nullptr;
+}
+
+Interface *DeviceRecord::GetInterface() const
+{
+    return &m_parent;
+}
+
+const char *DeviceRecord::GetVendor() const
+{
+    return textOrNull(m_facts.vendor);
+}
+
+const char *DeviceRecord::GetModel() const
+{
+    return textOrNull(m_facts.model);
+}
+
+const char *DeviceRecord::GetSerial() const
+{
+    return textOrNull(m_facts.serial);
+}
+
+const char *DeviceRecord::GetVersionText() const
+{
+    return textOrNull(m_facts.version);
+}
+
+const char *DeviceRecord::GetUserName() const
+{
+    return textOrNull(m_facts.userName);
+}
+
+} // namespace OrvCam

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "gevparameters.h"
+
+using namespace OrvGenApi;
+
+namespace OrvCam {
+
+namespace {
+
+[[noreturn]] void throwAs(int32_t code)
+{
+    switch (code) {
+    case ErrorTimeout:
+    case ErrorGone:
+        throw GenICam::TimeoutException("The camera does not answer", __FILE__, __LINE__);
+    case ErrorAccessDenied:
+    case ErrorBusy:
+        throw GenICam::AccessException("The camera refuses the address", __FILE__, __LINE__);
+    case ErrorInvalidArgument:
+        throw GenICam::InvalidArgumentException("This is no address for a camera", __FILE__,
+                                                __LINE__);
+    default:
+        throw GenICam::RuntimeException("The address could not be set", __FILE__, __LINE__);
+    }
+}
+
+} // namespace
+
+bool GevAddresses::reaches(const GevAddresses &camera) const
+{
+    return camera.ip != 0 && (camera.ip & mask) == (ip & mask);
+}
+
+GevParameters::GevParameters(GevNetwork &network)
+    : m_network(network), m_map("GigE Vision interface"), m_array(declare())
+{
+    networkChanged();
+}
+
+MemoryNodeMap &GevParameters::declare()
+{
+    addAdapter();
+    addCamera();
+    addForce();
+    return m_map;
+}
+
+MemoryInteger &GevParameters::addAddress(const char *name, GenApi::ERepresentation representation,
+                                         const char *category)
+{
+    MemoryInteger &node = m_map.addInteger(name, 0, category);
+    node.setLimits(0, representation == GenApi::MACAddress ? 0xFFFFFFFFFFFF : 0xFFFFFFFF);
+    node.setRepresentation(representation);
+    return node;
+}
+
+void GevParameters::addAdapter()
+{
+    const auto add = [this](const char *name, GenApi::ERepresentation representation, auto part) {
+        MemoryInteger &node = addAddress(name, representation, "InterfaceInformation");
+        node.bind([this, part] { return static_cast<int64_t>(m_network.adapter().*part); });
+        node.setAccessMode(GenApi::RO);
+        m_adapterNodes.push_back(&node);
+    };
+    add("GevInterfaceMACAddress", GenApi::MACAddress, &GevAddresses::mac);
+    add("GevInterfaceSubnetIPAddress", GenApi::IPV4Address, &GevAddresses::ip);
+    add("GevInterfaceSubnetMask", GenApi::IPV4Address, &GevAddresses::mask);
+}
+
+void GevParameters::addCamera()
+{
+    m_selector = &m_map.addInteger("DeviceSelector", 0, "DeviceEnumeration");
+    m_selector->bind([this] { return m_row; }, [this](const int64_t &row) { m_row = row; });
+    const auto add = [this](const char *name, GenApi::ERepresentation representation, auto part) {
+        MemoryInteger &node = addAddress(name, representation, "DeviceEnumeration");
+        node.bind([this, part] { return static_cast<int64_t>(selected().*part); });
+        m_selector->select(node);
+        m_cameraNodes.push_back(&node);
+    };
+    add("GevDeviceMACAddress", GenApi::MACAddress, &GevAddresses::mac);
+    add("GevDeviceIPAddress", GenApi::IPV4Address, &GevAddresses::ip);
+    add("GevDeviceSubnetMask", GenApi::IPV4Address, &GevAddresses::mask);
+    add("GevDeviceGateway", GenApi::IPV4Address, &GevAddresses::gateway);
+}
+
+void GevParameters::addForce()
+{
+    addForced("GevDeviceForceIPAddress", &GevAddresses::ip);
+    addForced("GevDeviceForceSubnetMask", &GevAddresses::mask);
+    addForced("GevDeviceForceGateway", &GevAddresses::gateway);
+    m_command = &m_map.addCommand(
+        "GevDeviceForceIP", [this] { force(); }, "DeviceEnumeration");
+    m_selector->select(*m_command);
+}
+
+void GevParameters::addForced(const char *name, uint32_t GevAddresses::*part)
+{
+    MemoryInteger &node = addAddress(name, GenApi::IPV4Address, "DeviceEnumeration");
+    node.bind([this, part] { return static_cast<int64_t>(forced().*part); },
+              [this, part](const int64_t &value) {
+                  GevAddresses wanted = forced();
+                  wanted.*part = static_cast<uint32_t>(value);
+                  m_forced[wanted.mac] = wanted;
+              });
+    m_selector->select(node);
+    m_forceNodes.push_back(&node);
+}
+
+GevAddresses GevParameters::selected() const
+{
+    const auto row = static_cast<std::size_t>(m_row);
+    return row < m_cameras.size() ? m_cameras[row] : GevAddresses();
+}
+
+GevAddresses GevParameters::forced() const
+{
+    const GevAddresses camera = selected();
+    const auto found = m_forced.find(camera.mac);
+    return found == m_forced.end() ? camera : found->second;
+}
+
+void GevParameters::force()
+{
+    const int32_t error = m_network.forceIp(forced());
+    if (error != Success)
+        throwAs(error);
+    networkChanged();
+}
+
+void GevParameters::networkChanged()
+{
+    m_cameras = m_network.cameras();
+    const auto count = static_cast<int64_t>(m_cameras.size());
+    m_selector->setLimits(0, count ? count - 1 : 0);
+    if (m_row >= count)
+        m_selector->change(0);
+    m_selector->setAccessMode(count ? GenApi::RW : GenApi::NA);
+    for (MemoryInteger *node : m_cameraNodes)
+        node->setAccessMode(count ? GenApi::RO : GenApi::NA);
+    for (MemoryInteger *node : m_forceNodes)
+        node->setAccessMode(count ? GenApi::RW : GenApi::NA);
+    m_command->setAccessMode(count ? GenApi::WO : GenApi::NA);
+    for (MemoryInteger *node : m_adapterNodes)
+        node->changed();
+}
+
+} // namespace OrvCam

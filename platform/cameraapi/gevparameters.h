@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "nodemaparray.h"
+
+#include <genapi/memorynodemap.h>
+
+#include <cstdint>
+#include <map>
+#include <vector>
+
+namespace OrvCam {
+
+/// The addresses of a network adapter or of a camera. The first byte of each is the most
+/// significant one of the number.
+struct GevAddresses
+{
+    uint64_t mac = 0;
+    uint32_t ip = 0;
+    uint32_t mask = 0;
+    uint32_t gateway = 0;
+
+    /// True when the addresses lie in the same subnet, as the adapter sees it.
+    bool reaches(const GevAddresses &camera) const;
+};
+
+/// A GigE Vision interface, as far as its parameters show it.
+class GevNetwork
+{
+public:
+    virtual ~GevNetwork() = default;
+
+    virtual GevAddresses adapter() const = 0;
+
+    /// Of the cameras that are there, in the order of the interface's list.
+    virtual std::vector<GevAddresses> cameras() const = 0;
+
+    /// Gives the camera of that MAC address a new address, mask and gateway and waits until it
+    /// answers there. Returns an `ErrorCode`.
+    virtual int32_t forceIp(const GevAddresses &wanted) = 0;
+};
+
+/// The parameters of a GigE Vision interface: its own addresses, those of the camera that
+/// "DeviceSelector" selects, and the addresses to force on that camera. What is to be forced is
+/// kept for each camera and is the camera's present configuration until it is set.
+class ORVCAMERAAPI_EXPORT GevParameters
+{
+public:
+    explicit GevParameters(GevNetwork &network);
+
+    OrvGenParam::Array &array() { return m_array; }
+
+    /// To be called when the adapter, the list of cameras or a camera's address may have changed.
+    void networkChanged();
+
+private:
+    OrvGenApi::MemoryNodeMap &declare();
+    OrvGenApi::MemoryInteger &addAddress(const char *name, GenApi::ERepresentation representation,
+                                         const char *category);
+    void addAdapter();
+    void addCamera();
+    void addForce();
+    void addForced(const char *name, uint32_t GevAddresses::*part);
+
+    GevAddresses selected() const;
+    GevAddresses forced() const;
+    void force();
+
+    GevNetwork &m_network;
+    std::vector<GevAddresses> m_cameras;
+    int64_t m_row = 0;                         ///< of the selected one
+    std::map<uint64_t, GevAddresses> m_forced; ///< by MAC address
+    std::vector<OrvGenApi::MemoryInteger *> m_adapterNodes;
+    std::vector<OrvGenApi::MemoryInteger *> m_cameraNodes;
+    std::vector<OrvGenApi::MemoryInteger *> m_forceNodes;
+    OrvGenApi::MemoryNodeMap m_map;
+    OrvGenApi::MemoryInteger *m_selector = nullptr;
+    OrvGenApi::MemoryCommand *m_command = nullptr;
+    OrvGenParam::NodeMapArray m_array;
+};
+
+} // namespace OrvCam

@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: MIT
+#include "qtorvdoubleslider.h"
+
+#include "sliderface.h"
+#include "valueaccessibility.h"
+#include "valuegrid.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QSlider>
+
+// A QObject so that its connections end with it, before the inner slider goes.
+class QtOrvDoubleSliderPrivate : public QObject, public SliderFace
+{
+public:
+    QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *q, Qt::Orientation o);
+
+    double snapped(double value) const;
+    double valueOf(int position) const;
+    int positionOf(double value) const;
+
+    void writeLabels();
+    void setInnerRange();
+
+    QtOrvDoubleSlider *owner;
+    Qt::Orientation orientation;
+    bool validate = false;
+    int decimals = 3;
+    double minimum = 0.0;
+    double maximum = 0.0;
+    double singleStep = 1.0;
+};
+
+QtOrvDoubleSliderPrivate::QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *q, Qt::Orientation o)
+    : SliderFace(o, q), owner(q), orientation(o)
+{
+}
+
+double QtOrvDoubleSliderPrivate::snapped(double value) const
+{
+    if (!validate || value == minimum || value == maximum)
+        return value;
+
+    double distance = value - minimum;
+    const double fraction = ValueGrid::stepFraction(distance, singleStep);
+    if (fraction >= 0.5)
+        distance += singleStep - fraction * singleStep;
+    else
+        distance -= fraction * singleStep;
+    return qMin(minimum + distance, maximum);
+}
+
+double QtOrvDoubleSliderPrivate::valueOf(int position) const
+{
+    if (position == slider->minimum())
+        return minimum;
+    if (position == slider->maximum())
+        return maximum;
+    return snapped(minimum + singleStep * position);
+}
+
+int QtOrvDoubleSliderPrivate::positionOf(double value) const
+{
+    if (value == minimum)
+        return slider->minimum();
+    if (value == maximum)
+        return slider->maximum();
+    return ValueGrid::toInt((snapped(value) - minimum) / singleStep + 0.5);
+}
+
+void QtOrvDoubleSliderPrivate::writeLabels()
+{
+    minLabel->setText(QString::number(minimum, 'f', decimals));
+    maxLabel->setText(QString::number(maximum, 'f', decimals));
+}
+
+void QtOrvDoubleSliderPrivate::setInnerRange()
+{
+    int highest = ValueGrid::toInt((maximum - minimum) / singleStep + 0.5);
+    if (minimum + singleStep * highest < maximum)
+        highest = ValueGrid::toInt(qint64(highest) + 1);
+    slider->setRange(0, highest);
+}
+
+QtOrvDoubleSlider::QtOrvDoubleSlider(QWidget *parent) : QtOrvDoubleSlider(Qt::Vertical, parent) {}
+
+QtOrvDoubleSlider::QtOrvDoubleSlider(Qt::Orientation orientation, QWidget *parent)
+    : QFrame(parent), d(new QtOrvDoubleSliderPrivate(this, orientation))
+{
+    ValueAccessibility::install();
+    setFocusProxy(d->slider);
+    connect(d->slider, &QSlider::sliderPressed, this, &QtOrvDoubleSlider::sliderPressed);
+    connect(d->slider, &QSlider::sliderMoved, this, &QtOrvDoubleSlider::sliderMoved);
+    connect(d->slider, &QSlider::sliderReleased, this, &QtOrvDoubleSlider::sliderReleased);
+    connect(d->slider, &QSlider::valueChanged, d.data(), [this] { emit valueChanged(value()); });
+    setRange(0.0, 100.0);
+    d->arrange(orientation, this);
+    d->slider->installEventFilter(this);
+}
+
+QtOrvDoubleSlider::~QtOrvDoubleSlider() = default;
+
+void QtOrvDoubleSlider::setRange(double min, double max)
+{
+    if (min == d->minimum && max == d->maximum)
+        return;
+
+    const double kept = value();
+    d->minimum = min;
+    d->maximum = max;
+    d->writeLabels();
+    d->setInnerRange();
+    emit rangeChanged(min, max);
+    setValue(kept);
+}
+
+void QtOrvDoubleSlider::setMinimum(double min)
+{
+    setRange(min, d->maximum);
+}
+
+void QtOrvDoubleSlider::setMaximum(double max)
+{
+    setRange(d->minimum, max);
+}
+
+double QtOrvDoubleSlider::minimum() const
+{
+    return d->minimum;
+}
+
+double QtOrvDoubleSlider::maximum() const
+{
+    return d->maximum;
+}
+
+void QtOrvDoubleSlider::setValue(double value)
+{
+    d->slider->setValue(d->positionOf(value));
+}
+
+double QtOrvDoubleSlider::value() const
+{
+    return d->valueOf(d->slider->value());
+}
+
+void QtOrvDoubleSlider::setSingleStep(double step)
+{
+    const double kept = value();
+    d->singleStep = step;
+    d->setInnerRange();
+    setValue(kept);
+}
+
+double QtOrvDoubleSlider::singleStep() const
+{
+    return d->singleStep;
+}
+
+void QtOrvDoubleSlider::setDecimals(int decimals)
+{
+    d->decimals = decimals;
+}
+
+int QtOrvDoubleSlider::decimals() const
+{
+    return d->decimals;
+}
+
+void QtOrvDoubleSlider::setValidate(bool on)
+{
+    d->validate = on;
+}
+
+bool QtOrvDoubleSlider::validate() const
+{
+    return d->validate;
+}
+
+void QtOrvDoubleSlider::setMaxLabelVisiable(bool visible)
+{
+    d->maxLabel->setVisible(visible);
+}
+
+void QtOrvDoubleSlider::setMinLabelVisiable(bool visible)
+{
+    d->minLabel->setVisible(visible);
+}
+
+bool QtOrvDoubleSlider::isMaxLabelVisiable() const
+{
+    return d->maxLabel->isVisible();
+}
+
+bool QtOrvDoubleSlider::isMinLabelVisiable() const
+{
+    return d->minLabel->isVisible();
+}
+
+void QtOrvDoubleSlider::setOrientation(Qt::Orientation orientation)
+{
+    d->orientation = orientation;
+    d->arrange(orientation, this);
+}
+
+Qt::Orientation QtOrvDoubleSlider::orientation() const
+{
+    return d->orientation;
+}
+
+void QtOrvDoubleSlider::setTracking(bool on)
+{
+    d->slider->setTracking(on);
+}
+
+bool QtOrvDoubleSlider::hasTracking() const
+{
+    return d->slider->hasTracking();
+}
+
+QLabel *QtOrvDoubleSlider::maxLabel() const
+{
+    return d->maxLabel;
+}
+
+QLabel *QtOrvDoubleSlider::minLabel() const
+{
+    return d->minLabel;
+}
+
+QSlider *QtOrvDoubleSlider::slider() const
+{
+    return d->slider;
+}
+
+bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == d->slider && event->type() == QEvent::LayoutDirectionChange)
+        d->alignLabels();
+    if (watched != d->slider || event->type() != QEvent::FocusOut)
+        return QFrame::eventFilter(watched, event);
+
+    // The slider does not get to see the event, yet its focus frame has to go.
+    d->slider->update();
+    emit focusOut();
+    return true;
+}

@@ -1,0 +1,373 @@
+// SPDX-License-Identifier: MIT
+#include "qtorvslider.h"
+
+#include "sliderface.h"
+#include "valueaccessibility.h"
+#include "valuegrid.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QSlider>
+
+#include <cmath>
+#include <limits>
+
+// A QObject so that its connections end with it, before the inner slider goes.
+class QtOrvSliderPrivate : public QObject, public SliderFace
+{
+public:
+    QtOrvSliderPrivate(QtOrvSlider *q, Qt::Orientation o);
+
+    int snapped(int value) const;
+    int valueOf(int position) const;
+    int positionOf(int value) const;
+    int currentValue() const { return valueOf(slider->value()); }
+
+    void setInnerRange();
+    void place(int value);
+    void listen();
+    void positionChanged(int position);
+    void moveOneStep(int from, int sign);
+    void announce(int value);
+
+    enum KeyStep { NoStep = 0, StepUp = 1, StepDown = 2 };
+    KeyStep keyStepOf(int key) const;
+
+    QtOrvSlider *owner;
+    Qt::Orientation orientation;
+    bool validate = false;
+    int minimum = 0;
+    int maximum = 0;
+    int singleStep = 1;
+    double log10Coef = 100.0;
+    int logOffset = 10;
+    QtOrvSlider::ScaleType scaleType = QtOrvSlider::ScaleLinear;
+    int lastPosition = 0;
+    int lastValue = 0;
+    QMetaObject::Connection valueConnection;
+    KeyStep pendingKeyStep = NoStep;
+    int valueBeforeKey = 0; // a new range may have made it another one than the last announced
+};
+
+QtOrvSliderPrivate::QtOrvSliderPrivate(QtOrvSlider *q, Qt::Orientation o)
+    : SliderFace(o, q), owner(q), orientation(o)
+{
+}
+
+int QtOrvSliderPrivate::snapped(int value) const
+{
+    return validate ? ValueGrid::snapped(value, minimum, maximum, singleStep) : value;
+}
+
+int QtOrvSliderPrivate::valueOf(int position) const
+{
+    if (scaleType == QtOrvSlider::ScaleLinear)
+        return position;
+    if (position == slider->maximum())
+        return maximum;
+    if (position == slider->minimum())
+        return minimum;
+
+    if (scaleType == QtOrvSlider::ScaleSqrt)
+        return snapped(ValueGrid::toInt(minimum + qint64(position) * position));
+    const double distance = std::trunc(std::pow(10.0, position / log10Coef) + 0.5) - logOffset;
+    return snapped(ValueGrid::toInt(minimum + distance));
+}
+
+int QtOrvSliderPrivate::positionOf(int value) const
+{
+    if (scaleType == QtOrvSlider::ScaleLinear)
+        return snapped(value);
+    if (value == maximum)
+        return slider->maximum();
+    if (value == minimum)
+        return slider->minimum();
+
+    const double distance = static_cast<double>(qint64(snapped(value)) - minimum);
+    if (scaleType == QtOrvSlider::ScaleSqrt)
+        return ValueGrid::toInt(std::sqrt(distance) + 0.5);
+    return ValueGrid::toInt(std::log10(distance + logOffset) * log10Coef + 0.5);
+}
+
+void QtOrvSliderPrivate::setInnerRange()
+{
+    pendingKeyStep = NoStep;
+    const qint64 span = qint64(maximum) - minimum;
+    int lowest = minimum;
+    int highest = maximum;
+    double reached = static_cast<double>(span);
+
+    if (scaleType == QtOrvSlider::ScaleLog10) {
+        lowest = ValueGrid::toInt(log10Coef);
+        highest =
+            ValueGrid::toInt(std::log10(static_cast<double>(logOffset + span)) * log10Coef + 0.5);
+        reached = std::trunc(std::pow(10.0, highest / log10Coef) + 0.5);
+    } else if (scaleType == QtOrvSlider::ScaleSqrt) {
+        lowest = 0;
+        highest = ValueGrid::toInt(std::sqrt(static_cast<double>(span)) + 0.5);
+        reached = static_cast<double>(highest) * highest;
+    }
+    if (static_cast<double>(span) > reached)
+        highest = ValueGrid::toInt(qint64(highest) + 1);
+    slider->setRange(lowest, highest);
+}
+
+void QtOrvSliderPrivate::place(int value)
+{
+    // Only the move that a key makes may be stretched to a whole step.
+    pendingKeyStep = NoStep;
+    slider->setValue(positionOf(value));
+    lastPosition = slider->value();
+}
+
+void QtOrvSliderPrivate::listen()
+{
+    valueConnection =
+        connect(slider, &QSlider::valueChanged, this, &QtOrvSliderPrivate::positionChanged);
+}
+
+void QtOrvSliderPrivate::positionChanged(int position)
+{
+    const int value = valueOf(position);
+    if (pendingKeyStep != NoStep && value == valueBeforeKey &&
+        scaleType != QtOrvSlider::ScaleLinear)
+        moveOneStep(value, pendingKeyStep == StepUp ? 1 : -1);
+    else if (value != lastValue)
+        announce(value);
+}
+
+void QtOrvSliderPrivate::moveOneStep(int from, int sign)
+{
+    const int stepped = ValueGrid::toInt(from + qint64(sign) * singleStep);
+    const int value = qMax(minimum, qMin(stepped, maximum));
+    disconnect(valueConnection);
+    place(value);
+    listen();
+    if (value != lastValue)
+        announce(value);
+}
+
+// Whoever listens may move the slider again, so that the value is noted down first.
+void QtOrvSliderPrivate::announce(int value)
+{
+    lastValue = value;
+    emit owner->valueChanged(value);
+}
+
+QtOrvSliderPrivate::KeyStep QtOrvSliderPrivate::keyStepOf(int key) const
+{
+    const bool mirrored = slider->isRightToLeft();
+    switch (key) {
+    case Qt::Key_Left:
+        return mirrored ? StepUp : StepDown;
+    case Qt::Key_Right:
+        return mirrored ? StepDown : StepUp;
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+        return StepDown;
+    case Qt::Key_Up:
+    case Qt::Key_PageUp:
+        return StepUp;
+    default:
+        return NoStep;
+    }
+}
+
+QtOrvSlider::QtOrvSlider(QWidget *parent) : QtOrvSlider(Qt::Vertical, parent) {}
+
+QtOrvSlider::QtOrvSlider(Qt::Orientation orientation, QWidget *parent)
+    : QFrame(parent), d(new QtOrvSliderPrivate(this, orientation))
+{
+    ValueAccessibility::install();
+    setFocusProxy(d->slider);
+    connect(d->slider, &QSlider::sliderPressed, this, &QtOrvSlider::sliderPressed);
+    connect(d->slider, &QSlider::sliderMoved, this, &QtOrvSlider::sliderMoved);
+    connect(d->slider, &QSlider::sliderReleased, this, &QtOrvSlider::sliderReleased);
+    d->listen();
+    setRange(0, 100);
+    d->arrange(orientation, this);
+    d->slider->installEventFilter(this);
+}
+
+QtOrvSlider::~QtOrvSlider() = default;
+
+void QtOrvSlider::setRange(int min, int max)
+{
+    if (min == d->minimum && max == d->maximum)
+        return;
+
+    const int kept = d->currentValue();
+    d->minimum = min;
+    d->maximum = max;
+    d->minLabel->setText(QString::number(min));
+    d->maxLabel->setText(QString::number(max));
+    d->setInnerRange();
+    emit rangeChanged(min, max);
+    d->place(kept);
+}
+
+void QtOrvSlider::setMinimum(int min)
+{
+    setRange(min, d->maximum);
+}
+
+void QtOrvSlider::setMaximum(int max)
+{
+    setRange(d->minimum, max);
+}
+
+int QtOrvSlider::minimum() const
+{
+    return d->minimum;
+}
+
+int QtOrvSlider::maximum() const
+{
+    return d->maximum;
+}
+
+void QtOrvSlider::setValue(int value)
+{
+    d->place(value);
+}
+
+int QtOrvSlider::value() const
+{
+    const int value = d->currentValue();
+    return d->scaleType == ScaleLinear ? d->snapped(value) : value;
+}
+
+void QtOrvSlider::setSingleStep(int step)
+{
+    const int kept = d->currentValue();
+    d->singleStep = step;
+    // QSlider takes the absolute value, which the lowest int does not have.
+    const int innerStep = qMax(step, -std::numeric_limits<int>::max());
+    d->slider->setSingleStep(d->scaleType == ScaleLinear ? innerStep : 1);
+    d->place(kept);
+}
+
+int QtOrvSlider::singleStep() const
+{
+    return d->singleStep;
+}
+
+void QtOrvSlider::setScaleType(ScaleType type)
+{
+    const int kept = d->currentValue();
+    d->scaleType = type;
+    d->setInnerRange();
+    d->place(kept);
+}
+
+QtOrvSlider::ScaleType QtOrvSlider::scaleType() const
+{
+    return d->scaleType;
+}
+
+void QtOrvSlider::setLog10Coef(double positions)
+{
+    const int kept = d->currentValue();
+    d->log10Coef = positions;
+    d->setInnerRange();
+    d->place(kept);
+}
+
+double QtOrvSlider::log10Coef() const
+{
+    return d->log10Coef;
+}
+
+void QtOrvSlider::setValidate(bool on)
+{
+    d->validate = on;
+}
+
+bool QtOrvSlider::validate() const
+{
+    return d->validate;
+}
+
+void QtOrvSlider::setMaxLabelVisiable(bool visible)
+{
+    d->maxLabel->setVisible(visible);
+}
+
+void QtOrvSlider::setMinLabelVisiable(bool visible)
+{
+    d->minLabel->setVisible(visible);
+}
+
+bool QtOrvSlider::isMaxLabelVisiable() const
+{
+    return d->maxLabel->isVisible();
+}
+
+bool QtOrvSlider::isMinLabelVisiable() const
+{
+    return d->minLabel->isVisible();
+}
+
+void QtOrvSlider::setOrientation(Qt::Orientation orientation)
+{
+    d->orientation = orientation;
+    d->arrange(orientation, this);
+}
+
+Qt::Orientation QtOrvSlider::orientation() const
+{
+    return d->orientation;
+}
+
+void QtOrvSlider::setTracking(bool on)
+{
+    d->slider->setTracking(on);
+}
+
+bool QtOrvSlider::hasTracking() const
+{
+    return d->slider->hasTracking();
+}
+
+QLabel *QtOrvSlider::maxLabel() const
+{
+    return d->maxLabel;
+}
+
+QLabel *QtOrvSlider::minLabel() const
+{
+    return d->minLabel;
+}
+
+QSlider *QtOrvSlider::slider() const
+{
+    return d->slider;
+}
+
+bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != d->slider)
+        return QFrame::eventFilter(watched, event);
+
+    switch (event->type()) {
+    case QEvent::FocusOut:
+        // The slider does not get to see the event, yet its focus frame has to go.
+        d->slider->update();
+        emit focusOut();
+        return true;
+    case QEvent::KeyPress:
+        d->pendingKeyStep = d->keyStepOf(static_cast<QKeyEvent *>(event)->key());
+        d->valueBeforeKey = d->currentValue();
+        break;
+    case QEvent::LayoutDirectionChange:
+        d->alignLabels();
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::Wheel:
+        d->pendingKeyStep = QtOrvSliderPrivate::NoStep;
+        break;
+    default:
+        break;
+    }
+    return QFrame::eventFilter(watched, event);
+}

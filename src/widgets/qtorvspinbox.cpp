@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: MIT
+#include "qtorvspinbox.h"
+
+#include "qtorvspinboxval.h"
+#include "valueaccessibility.h"
+#include "valuepair.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QToolButton>
+
+class QtOrvSpinBoxPrivate : public ValuePair<QtOrvSpinBox, QtOrvSpinBoxVal, QtOrvSlider, int>
+{
+public:
+    QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orientation);
+
+    void openSlider();
+    void closeSlider();
+    QSize suitableSliderSize() const;
+    QPoint sliderCorner() const;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    QToolButton *const button;
+    bool sliderSized = false;
+};
+
+QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orientation)
+    : ValuePair(q, new QtOrvSlider(orientation, q)), button(new QToolButton(q))
+{
+    button->setObjectName(QStringLiteral("button"));
+    button->setText(QStringLiteral("^"));
+    button->setToolTip(QtOrvSpinBox::tr("Show a slider"));
+    button->setAccessibleName(button->toolTip());
+    connect(button, &QToolButton::clicked, this, &QtOrvSpinBoxPrivate::openSlider);
+
+    auto *inner = new QHBoxLayout;
+    inner->setObjectName(QStringLiteral("layoutHH"));
+    inner->setContentsMargins(0, 0, 0, 0);
+    inner->setSpacing(0);
+    inner->addWidget(spinBox, 1);
+    inner->addWidget(button, 0);
+    row->addLayout(inner, 1);
+
+    // Window managers don't give the focus to a tool tip; it has to be taken past them.
+    slider->setWindowFlags(Qt::ToolTip | Qt::BypassWindowManagerHint);
+    slider->setAttribute(Qt::WA_WindowPropagation);
+    slider->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    slider->setLineWidth(2);
+    connect(slider, &QtOrvSlider::focusOut, slider, &QWidget::hide);
+    slider->installEventFilter(this);
+    q->installEventFilter(this);
+
+    spinBox->setRange(slider->minimum(), slider->maximum());
+    join([](QtOrvSpinBoxVal *box, int value) { box->QSpinBox::setValue(value); });
+}
+
+void QtOrvSpinBoxPrivate::openSlider()
+{
+    slider->setLayoutDirection(button->layoutDirection());
+    if (!sliderSized)
+        slider->resize(suitableSliderSize());
+    slider->show();
+    slider->move(sliderCorner());
+    slider->activateWindow();
+    slider->setFocus(Qt::PopupFocusReason);
+}
+
+void QtOrvSpinBoxPrivate::closeSlider()
+{
+    slider->hide();
+    button->activateWindow();
+    button->setFocus(Qt::PopupFocusReason);
+}
+
+QSize QtOrvSpinBoxPrivate::suitableSliderSize() const
+{
+    const int length = 10 * slider->fontMetrics().height();
+    return slider->sizeHint().expandedTo(slider->orientation() == Qt::Vertical ? QSize(0, length)
+                                                                               : QSize(length, 0));
+}
+
+QPoint QtOrvSpinBoxPrivate::sliderCorner() const
+{
+    const QPoint corner = button->mapToGlobal(QPoint(0, 0));
+    if (slider->orientation() == Qt::Vertical)
+        return corner - QPoint(0, slider->height());
+    return corner + QPoint(button->isRightToLeft() ? -slider->width() : button->width(), 0);
+}
+
+bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == slider && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Escape:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            closeSlider();
+            return true;
+        default:
+            break;
+        }
+    }
+    const bool gone = event->type() == QEvent::Hide ||
+                      (event->type() == QEvent::EnabledChange && !spinBox->isEnabled());
+    if (watched != slider && gone)
+        slider->hide();
+    return ValuePair::eventFilter(watched, event);
+}
+
+QtOrvSpinBox::QtOrvSpinBox(QWidget *parent) : QtOrvSpinBox(Qt::Vertical, parent) {}
+
+QtOrvSpinBox::QtOrvSpinBox(Qt::Orientation sliderOrientation, QWidget *parent)
+    : QWidget(parent), d(new QtOrvSpinBoxPrivate(this, sliderOrientation))
+{
+    ValueAccessibility::install();
+    setFocusProxy(d->spinBox);
+}
+
+QtOrvSpinBox::~QtOrvSpinBox() = default;
+
+void QtOrvSpinBox::setValue(int value)
+{
+    d->spinBox->setValue(value);
+}
+
+int QtOrvSpinBox::value() const
+{
+    return d->spinBox->value();
+}
+
+void QtOrvSpinBox::setRange(int min, int max)
+{
+    d->setRange(min, max);
+}
+
+void QtOrvSpinBox::setMinimum(int min)
+{
+    d->setRange(min, maximum());
+}
+
+void QtOrvSpinBox::setMaximum(int max)
+{
+    d->setRange(minimum(), max);
+}
+
+int QtOrvSpinBox::minimum() const
+{
+    return d->slider->minimum();
+}
+
+int QtOrvSpinBox::maximum() const
+{
+    return d->slider->maximum();
+}
+
+void QtOrvSpinBox::setSingleStep(int step)
+{
+    d->setSingleStep(step);
+}
+
+int QtOrvSpinBox::singleStep() const
+{
+    return d->spinBox->singleStep();
+}
+
+void QtOrvSpinBox::setValidate(bool on)
+{
+    d->setValidate(on);
+}
+
+bool QtOrvSpinBox::validate() const
+{
+    return d->spinBox->validate();
+}
+
+void QtOrvSpinBox::setValidateTyping(bool on)
+{
+    d->spinBox->setValidateTyping(on);
+}
+
+bool QtOrvSpinBox::validateTyping() const
+{
+    return d->spinBox->validateTyping();
+}
+
+void QtOrvSpinBox::setSliderButtonVisible(bool visible)
+{
+    d->button->setVisible(visible);
+}
+
+bool QtOrvSpinBox::isSliderButtonVisible() const
+{
+    return !d->button->isHidden();
+}
+
+void QtOrvSpinBox::resizeSlider(int w, int h)
+{
+    resizeSlider(QSize(w, h));
+}
+
+void QtOrvSpinBox::resizeSlider(const QSize &size)
+{
+    d->sliderSized = true;
+    d->slider->resize(size);
+}
+
+void QtOrvSpinBox::setSliderOrientation(Qt::Orientation orientation)
+{
+    d->slider->setOrientation(orientation);
+}
+
+Qt::Orientation QtOrvSpinBox::sliderOrientation() const
+{
+    return d->slider->orientation();
+}
+
+void QtOrvSpinBox::setReadOnly(bool readOnly)
+{
+    d->spinBox->setReadOnly(readOnly);
+    d->button->setVisible(!readOnly);
+    if (readOnly)
+        d->slider->hide();
+}
+
+bool QtOrvSpinBox::isReadOnly() const
+{
+    return d->spinBox->isReadOnly();
+}
+
+void QtOrvSpinBox::setLeftLabelText(const QString &text)
+{
+    d->setLeftText(text);
+}
+
+void QtOrvSpinBox::setTopLabelText(const QString &text)
+{
+    d->setTopText(text);
+}
+
+QString QtOrvSpinBox::leftLabelText() const
+{
+    return d->leftText();
+}
+
+QString QtOrvSpinBox::topLabelText() const
+{
+    return d->topText();
+}
+
+QLabel *QtOrvSpinBox::leftLabel() const
+{
+    return d->leftLabel;
+}
+
+QLabel *QtOrvSpinBox::topLabel() const
+{
+    return d->topLabel;
+}
+
+QtOrvSpinBoxVal *QtOrvSpinBox::spinBox() const
+{
+    return d->spinBox;
+}
+
+QtOrvSlider *QtOrvSpinBox::slider() const
+{
+    return d->slider;
+}
+
+QToolButton *QtOrvSpinBox::toolButton() const
+{
+    return d->button;
+}

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "sliderface.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QLabel>
+#include <QSlider>
+
+SliderFace::SliderFace(Qt::Orientation orientation, QFrame *frame)
+    : maxLabel(new QLabel(frame))
+    , minLabel(new QLabel(frame))
+    , slider(new QSlider(orientation, frame))
+{
+    maxLabel->setObjectName(QStringLiteral("labelMax"));
+    minLabel->setObjectName(QStringLiteral("labelMin"));
+    slider->setObjectName(QStringLiteral("slider"));
+}
+
+void SliderFace::arrange(Qt::Orientation orientation, QFrame *frame)
+{
+    const bool vertical = orientation == Qt::Vertical;
+    slider->setOrientation(orientation);
+    alignLabels();
+
+    delete frame->layout();
+    auto *column = new QVBoxLayout(frame);
+    column->setObjectName(QStringLiteral("layoutV"));
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+
+    auto *row = new QHBoxLayout;
+    row->setObjectName(QStringLiteral("layoutH"));
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(vertical ? 0 : 6);
+
+    if (vertical) {
+        row->addWidget(slider);
+        column->addWidget(maxLabel);
+        column->addLayout(row);
+        column->addWidget(minLabel);
+    } else {
+        row->addWidget(minLabel);
+        row->addWidget(maxLabel);
+        column->addWidget(slider);
+        column->addLayout(row);
+    }
+}
+
+// A label aligns its text by the direction of the text, and a number always goes left to right.
+void SliderFace::alignLabels()
+{
+    Qt::Alignment forMax = Qt::AlignHCenter;
+    Qt::Alignment forMin = Qt::AlignHCenter;
+    if (slider->orientation() == Qt::Horizontal) {
+        forMax = slider->isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight;
+        forMin = slider->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    }
+    maxLabel->setAlignment(forMax | Qt::AlignVCenter);
+    minLabel->setAlignment(forMin | Qt::AlignVCenter);
+}

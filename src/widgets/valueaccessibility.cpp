@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "valueaccessibility.h"
+
+#include "qtorvdoubleslider.h"
+#include "qtorvdoublespinboxval.h"
+#include "qtorvgainslider.h"
+#include "qtorvslider.h"
+#include "qtorvsliderspinbox.h"
+#include "qtorvspinbox.h"
+#include "qtorvspinboxval.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+
+namespace {
+
+QString shown(const QtOrvSlider *slider)
+{
+    return QString::number(slider->value());
+}
+
+QString shown(const QtOrvDoubleSlider *slider)
+{
+    return QString::number(slider->value(), 'f', slider->decimals());
+}
+
+QString shown(const QAbstractSpinBox *box)
+{
+    return box->text();
+}
+
+template<class Compound>
+auto shown(const Compound *widget) -> decltype(widget->spinBox()->text())
+{
+    return widget->spinBox()->text();
+}
+
+QString captionOf(const QWidget *widget)
+{
+    for (const char *name : {"labelLeft", "labelUpper"}) {
+        const auto *label =
+            widget->findChild<QLabel *>(QLatin1String(name), Qt::FindDirectChildrenOnly);
+        if (label && !label->text().isEmpty())
+            return label->text();
+    }
+    return QString();
+}
+
+bool isCompound(const QObject *object)
+{
+    return qobject_cast<const QtOrvSpinBox *>(object) ||
+           qobject_cast<const QtOrvSliderSpinBox *>(object) ||
+           qobject_cast<const QtOrvGainSlider *>(object);
+}
+
+bool isPartOwner(const QObject *object)
+{
+    return isCompound(object) || qobject_cast<const QtOrvSlider *>(object) ||
+           qobject_cast<const QtOrvDoubleSlider *>(object);
+}
+
+// Speaks for one widget; the value comes from the value widget that it is or is a part of.
+template<class Source>
+class ValueInterface : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    ValueInterface(QWidget *widget, Source *valueWidget, QAccessible::Role role)
+        : QAccessibleWidget(widget, role), source(valueWidget)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface *>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Value)
+            return shown(source);
+        return kind == QAccessible::Name ? name() : QAccessibleWidget::text(kind);
+    }
+
+    QVariant currentValue() const override { return source->value(); }
+    QVariant minimumValue() const override { return source->minimum(); }
+    QVariant maximumValue() const override { return source->maximum(); }
+    QVariant minimumStepSize() const override { return source->singleStep(); }
+    void setCurrentValue(const QVariant &value) override
+    {
+        source->setValue(value.value<decltype(source->value())>());
+    }
+
+private:
+    // A part answers to the name of what it is a part of, unless it has one of its own.
+    QString name() const
+    {
+        if (!widget()->accessibleName().isEmpty())
+            return widget()->accessibleName();
+        QString name = captionOf(widget());
+        if (name.isEmpty())
+            name = QAccessibleWidget::text(QAccessible::Name);
+        if (name.isEmpty() && isPartOwner(widget()->parent()))
+            name =
+                QAccessible::queryAccessibleInterface(widget()->parent())->text(QAccessible::Name);
+        return name;
+    }
+
+    Source *const source;
+};
+
+// Qt hands out the text interface of a line edit, except to the one of a spin box, which it knows
+// by its name and whose spin box speaks for it.
+QAccessibleInterface *lineEditInterface(QWidget *spinBox)
+{
+    auto *edit = spinBox->findChild<QLineEdit *>();
+    const QString name = edit->objectName();
+    edit->setObjectName(QString());
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(edit);
+    edit->setObjectName(name);
+    return interface;
+}
+
+// The spin box in a compound widget; Qt's own interface serves the free-standing ones.
+template<class SpinBox>
+class SpinBoxInterface : public ValueInterface<SpinBox>
+{
+public:
+    explicit SpinBoxInterface(SpinBox *box)
+        : ValueInterface<SpinBox>(box, box, QAccessible::SpinBox), edit(lineEditInterface(box))
+    {
+    }
+
+    int childCount() const override { return 0; }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface)
+            return edit->interface_cast(type);
+        return ValueInterface<SpinBox>::interface_cast(type);
+    }
+
+private:
+    QAccessibleInterface *const edit; // owned by Qt, as long as the line edit lives
+};
+
+template<class Widget>
+QAccessibleInterface *createFor(QObject *object)
+{
+    auto *widget = qobject_cast<Widget *>(object);
+    return widget ? new ValueInterface<Widget>(widget, widget, QAccessible::Grouping) : nullptr;
+}
+
+template<class Slider>
+QAccessibleInterface *createForInner(QObject *object)
+{
+    auto *inner = qobject_cast<QSlider *>(object);
+    auto *slider = inner ? qobject_cast<Slider *>(inner->parent()) : nullptr;
+    return slider ? new ValueInterface<Slider>(inner, slider, QAccessible::Slider) : nullptr;
+}
+
+template<class SpinBox>
+QAccessibleInterface *createForSpinBox(QObject *object)
+{
+    auto *box = qobject_cast<SpinBox *>(object);
+    return box && isCompound(box->parent()) ? new SpinBoxInterface<SpinBox>(box) : nullptr;
+}
+
+// May run while a widget is still under construction: it must not ask it anything.
+QAccessibleInterface *create(const QString &, QObject *object)
+{
+    using Creator = QAccessibleInterface *(*)(QObject *);
+    static constexpr Creator creators[] = {&createForInner<QtOrvSlider>,
+                                           &createForInner<QtOrvDoubleSlider>,
+                                           &createForSpinBox<QtOrvSpinBoxVal>,
+                                           &createForSpinBox<QtOrvDoubleSpinBoxVal>,
+                                           &createFor<QtOrvSlider>,
+                                           &createFor<QtOrvDoubleSlider>,
+                                           &createFor<QtOrvSpinBox>,
+                                           &createFor<QtOrvSliderSpinBox>,
+                                           &createFor<QtOrvGainSlider>};
+    for (const Creator creator : creators) {
+        if (QAccessibleInterface *interface = creator(object))
+            return interface;
+    }
+    return nullptr;
+}
+
+struct Installation
+{
+    Installation() { QAccessible::installFactory(&create); }
+    ~Installation() { QAccessible::removeFactory(&create); }
+};
+
+} // namespace
+
+void ValueAccessibility::install()
+{
+    static const Installation installation;
+}

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include <QImage>
+#include <QtTest>
+
+namespace {
+
+struct Result
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+Result run(const QStringList &arguments)
+{
+    QProcess program;
+    program.start(ORV_PROGRAM, arguments);
+    Result result;
+    if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
+        return result;
+    result.status = program.exitCode();
+    result.out = QString::fromUtf8(program.readAllStandardOutput());
+    result.err = QString::fromUtf8(program.readAllStandardError());
+    return result;
+}
+
+} // namespace
+
+/// The program as somebody uses it in a shell.
+class TestOrvCamConfig : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void listsFeatures_data();
+    void listsFeatures();
+    void listsASimulatedCamera();
+    void failures_data();
+    void failures();
+    void savesPictures();
+
+private:
+    QString write(const QString &name, const QByteArray &contents);
+
+    QTemporaryDir m_folder;
+};
+
+QString TestOrvCamConfig::write(const QString &name, const QByteArray &contents)
+{
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    return file.fileName();
+}
+
+void TestOrvCamConfig::initTestCase()
+{
+    QFile sample(ORV_SAMPLE);
+    QVERIFY(sample.open(QIODevice::ReadOnly));
+    const QByteArray xml = sample.readAll();
+    write("sample.xml", xml);
+    write("empty.xml", "");
+    write("truncated.xml", xml.left(900));
+    write("other.xml", "<html><body/></html>");
+    write("rootless.xml", QByteArray(xml).replace("\"Root\"", "\"Wurzel\""));
+}
+
+void TestOrvCamConfig::listsFeatures_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("expected");
+    const QString basic = "The second\t\n  Flag\ttrue\n  Hex\tFF\nFirst\t\n  Hex\tFF\n"
+                          "  Text\t\u00c4hre \u03b2\nNowhere\t<Value not available>\n";
+    QTest::newRow("basic") << QStringList() << basic;
+    QString expert = basic;
+    expert.replace("true\n", "true\n  Detail\t1.5\n");
+    QTest::newRow("expert") << QStringList({"--visibility", "expert"}) << expert;
+    QString guru = expert;
+    guru.replace("Nowhere", "Secret\t\n  Flag\ttrue\nNowhere");
+    QTest::newRow("guru") << QStringList("--visibility=guru") << guru;
+}
+
+void TestOrvCamConfig::listsFeatures()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, expected);
+    const Result result =
+        run(QStringList({"--xml", m_folder.filePath("sample.xml"), "--list-features"}) + arguments);
+    QCOMPARE(result.out, expected);
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.status, 0);
+}
+
+void TestOrvCamConfig::listsASimulatedCamera()
+{
+    const Result result = run({"--simulate", "--list-features", "--visibility", "guru"});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.err, QString());
+    QVERIFY2(result.out.startsWith("Device Control\t\n  Device "), qPrintable(result.out.left(99)));
+    QVERIFY(result.out.count('\n') > 150);
+    const Result named = run({"--simulate", "--list-features", "--camera", "SIM-0002"});
+    QVERIFY2(named.out.contains("Device Serial Number\tSIM-0002\n"), qPrintable(named.err));
+}
+
+void TestOrvCamConfig::failures_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("words");
+    const auto xml = [this](const char *name) {
+        return QStringList({"--list-features", "--xml", m_folder.filePath(name)});
+    };
+    QTest::newRow("nothing to show") << QStringList() << 2 << "--simulate";
+    QTest::newRow("unknown option") << QStringList("--nonsense") << 2 << "nonsense";
+    QTest::newRow("stray word") << QStringList({"--simulate", "stray"}) << 2 << "stray";
+    QTest::newRow("visibility") << QStringList({"--simulate", "--visibility", "all"}) << 2 << "all";
+    QTest::newRow("both") << QStringList({"--simulate", "--xml", "a.xml"}) << 2 << "--xml";
+    QTest::newRow("missing file") << xml("missing.xml") << 1 << "missing.xml: No such file";
+    QTest::newRow("empty file") << xml("empty.xml") << 1 << "empty.xml: the description is empty";
+    QTest::newRow("truncated file") << xml("truncated.xml") << 1 << "truncated.xml: line ";
+    QTest::newRow("other XML") << xml("other.xml") << 1 << "other.xml: this is no GenICam";
+    QTest::newRow("without root") << xml("rootless.xml") << 1 << "has no category 'Root'";
+    QTest::newRow("unknown camera") << QStringList({"--simulate", "--camera", "Nobody"}) << 1
+                                    << "There is no camera 'Nobody'. Found: ";
+    QTest::newRow("unwritable picture")
+        << QStringList({"--simulate", "--screenshot", "/nonexistent/folder/a.png"}) << 1
+        << "cannot be written";
+}
+
+void TestOrvCamConfig::failures()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, words);
+    const Result result = run(arguments);
+    QCOMPARE(result.status, status);
+    QCOMPARE(result.out, QString());
+    QString line = result.err;
+    // What Qt has to say of a session without a home and of windows that nobody sees.
+    line.remove(QRegularExpression("^(QStandardPaths: |This plugin does not )[^\n]*\n",
+                                   QRegularExpression::MultilineOption));
+    QVERIFY2(line.startsWith("orvcamconfig: ") && line.contains(words), qPrintable(line));
+    QCOMPARE(line.count('\n'), 1);
+}
+
+void TestOrvCamConfig::savesPictures()
+{
+    const QString fileName = m_folder.filePath("tree.png");
+    const Result result = run({"--xml", m_folder.filePath("sample.xml"), "--screenshot", fileName});
+    QCOMPARE(result.status, 0);
+    const QImage picture(fileName);
+    QVERIFY(picture.width() > 300 && picture.height() > 300);
+    // A window with something in it has more than a handful of colours.
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            colours << picture.pixel(x, y);
+    }
+    QVERIFY(colours.size() > 20);
+}
+
+QTEST_GUILESS_MAIN(TestOrvCamConfig)
+#include "tst_orvcamconfig.moc"

@@ -1,0 +1,703 @@
+// SPDX-License-Identifier: MIT
+#include <aravis/nodemap.h>
+
+#include <GenApi/GenApi.h>
+
+#include <QtTest>
+
+using namespace GenApi;
+
+namespace {
+
+/// A description around some nodes. Those that every test needs are there.
+QByteArray description(const QByteArray &nodes)
+{
+    return R"(<?xml version="1.0" encoding="utf-8"?>
+<RegisterDescription ModelName="Model" VendorName="Vendor" StandardNameSpace="None"
+    SchemaMajorVersion="1" SchemaMinorVersion="1" SchemaSubMinorVersion="0" MajorVersion="1"
+    MinorVersion="0" SubMinorVersion="0" ToolTip=""
+    ProductGuid="1F3C6A72-7842-4edd-9130-E2E90A2058BA"
+    VersionGuid="7645D2A1-A41E-4ac6-B486-1531FB7BECE6"
+    xmlns="http://www.genicam.org/GenApi/Version_1_1">)" +
+           nodes + R"(<Port Name="Device"/></RegisterDescription>)";
+}
+
+/// An integer register of four bytes.
+QByteArray intReg(const QByteArray &name, const QByteArray &address, const QByteArray &more = {})
+{
+    return "<IntReg Name='" + name + "'>" + more + "<Address>" + address +
+           "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
+           "<Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>";
+}
+
+/// A root category with these features.
+QByteArray root(const QByteArrayList &features)
+{
+    QByteArray xml = "<Category Name='Root'>";
+    for (const QByteArray &feature : features)
+        xml += "<pFeature>" + feature + "</pFeature>";
+    return xml + "</Category>";
+}
+
+std::unique_ptr<OrvAravis::NodeMap> load(const QByteArray &nodes)
+{
+    const QByteArray xml = description(nodes);
+    return OrvAravis::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
+                                        "test.xml");
+}
+
+QString textOf(INodeMap &map, const char *name)
+{
+    try {
+        return QString::fromUtf8(CValuePtr(map.GetNode(name))->ToString().c_str());
+    } catch (const GenICam::GenericException &e) {
+        return QString("exception: ") + e.GetDescription();
+    }
+}
+
+IInteger &integer(INodeMap &map, const char *name)
+{
+    return *CIntegerPtr(map.GetNode(name));
+}
+
+IFloat &real(INodeMap &map, const char *name)
+{
+    return *CFloatPtr(map.GetNode(name));
+}
+
+EAccessMode access(INodeMap &map, const char *name)
+{
+    return map.GetNode(name)->GetAccessMode();
+}
+
+QStringList names(const FeatureList_t &features)
+{
+    QStringList result;
+    for (std::size_t i = 0; i < features.size(); ++i)
+        result << features[i]->GetNode()->GetName().c_str();
+    return result;
+}
+
+} // namespace
+
+/// Descriptions without a camera, their registers in memory.
+class TestNodeMap : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void badDescriptions_data();
+    void badDescriptions();
+    void badFiles();
+    void interfacesFollowTheElement();
+    void propertiesOfNodes();
+    void orderOfTheFile();
+    void registers();
+    void bitFieldsShareTheirRegister();
+    void formulas_data();
+    void formulas();
+    void formulaVariables();
+    void converters();
+    void indexedValues();
+    void addressesThatMove();
+    void accessModes();
+    void commands();
+    void copies();
+    void limitsAndIncrements();
+    void validValues();
+    void senselessReferences();
+    void circles();
+    void cachingModes();
+    void pollingAndInvalidation();
+    void writesCostOneTransaction();
+};
+
+void TestNodeMap::badDescriptions_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("empty") << QByteArray() << "test.xml: the description is empty";
+    QTest::newRow("no XML") << QByteArray("hello") << "test.xml: line 1: ";
+    QTest::newRow("truncated") << description(root({})).left(500) << "test.xml: line ";
+    QTest::newRow("other XML") << QByteArray("<html/>")
+                               << "test.xml: this is no GenICam device description";
+    QTest::newRow("without a root category")
+        << description(intReg("Root", "0")) << "test.xml: the description has no category 'Root'";
+    QTest::newRow("zero bytes") << QByteArray(100, '\0') << "test.xml: ";
+}
+
+void TestNodeMap::badDescriptions()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, message);
+    try {
+        OrvAravis::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
+                                     "test.xml");
+        QFAIL("the description was accepted");
+    } catch (const GenICam::RuntimeException &e) {
+        const QString text = e.GetDescription();
+        QVERIFY2(text.startsWith(message), e.GetDescription());
+        QVERIFY2(!text.contains('\n'), e.GetDescription());
+    }
+}
+
+void TestNodeMap::badFiles()
+{
+    QTemporaryDir folder;
+    QFile empty(folder.filePath("empty.xml"));
+    QVERIFY(empty.open(QIODevice::WriteOnly));
+    empty.close();
+    for (const QString &name : {folder.filePath("missing.xml"), empty.fileName(), folder.path()}) {
+        try {
+            OrvAravis::NodeMap::fromFile(name.toStdString());
+            QFAIL(qPrintable(name + " was accepted"));
+        } catch (const GenICam::RuntimeException &e) {
+            QVERIFY2(QString(e.GetDescription()).startsWith(name + ": "), e.GetDescription());
+        }
+    }
+}
+
+void TestNodeMap::interfacesFollowTheElement()
+{
+    const auto map = load(root({}) + intReg("Reg", "0") +
+                          "<Integer Name='Integer'><pValue>Reg</pValue></Integer>"
+                          "<Float Name='Float'><pValue>Reg</pValue></Float>"
+                          "<Boolean Name='Boolean'><pValue>Reg</pValue></Boolean>"
+                          "<Command Name='Command'><pValue>Reg</pValue></Command>"
+                          "<String Name='String'><Value>x</Value></String>"
+                          "<Enumeration Name='Enumeration'><EnumEntry Name='Off'><Value>0</Value>"
+                          "</EnumEntry><pValue>Reg</pValue></Enumeration>"
+                          "<IntSwissKnife Name='Knife'><Formula>1</Formula></IntSwissKnife>"
+                          "<Group Comment='g'><Float Name='Grouped'><Value>1</Value></Float>"
+                          "</Group><Surprise Name='Unknown'/>");
+    const auto type = [&](const char *name) {
+        return map->GetNode(name)->GetPrincipalInterfaceType();
+    };
+    QCOMPARE(type("Root"), intfICategory);
+    QCOMPARE(type("Reg"), intfIInteger);
+    QCOMPARE(type("Integer"), intfIInteger);
+    QCOMPARE(type("Float"), intfIFloat);
+    QCOMPARE(type("Boolean"), intfIBoolean);
+    QCOMPARE(type("Command"), intfICommand);
+    QCOMPARE(type("String"), intfIString);
+    QCOMPARE(type("Enumeration"), intfIEnumeration);
+    QCOMPARE(type("EnumEntry_Enumeration_Off"), intfIEnumEntry);
+    QCOMPARE(type("Knife"), intfIInteger);
+    QCOMPARE(type("Grouped"), intfIFloat);
+    QCOMPARE(type("Device"), intfIPort);
+    QCOMPARE(type("Unknown"), intfIBase);
+    // What the engine's own types can do besides is nobody's business.
+    QVERIFY(!CFloatPtr(map->GetNode("Enumeration")).IsValid());
+    QVERIFY(!CStringPtr(map->GetNode("Enumeration")).IsValid());
+    QVERIFY(CSelectorPtr(map->GetNode("Float")).IsValid());
+    QCOMPARE(map->GetDeviceName().c_str(), "Model");
+    QCOMPARE(map->GetNumNodes(), uint64_t(13));
+}
+
+void TestNodeMap::propertiesOfNodes()
+{
+    const auto map = load(
+        root({"A"}) +
+        "<Integer Name='A' NameSpace='Standard'><ToolTip>Tip &amp; trick</ToolTip>"
+        "<Description> L\xc3\xa4nge </Description><DisplayName>The A</DisplayName>"
+        "<Visibility>Guru</Visibility><Streamable>Yes</Streamable><pValue>Reg</pValue></Integer>" +
+        intReg("Reg", "0",
+               "<Visibility>Invisible</Visibility><Cachable>WriteAround</Cachable>"
+               "<PollingTime>250</PollingTime><Unit>mm</Unit>"
+               "<Representation>HexNumber</Representation>") +
+        "<Float Name='F'><Value>0</Value><Unit>dB</Unit><DisplayNotation>Fixed"
+        "</DisplayNotation><DisplayPrecision>2</DisplayPrecision></Float>");
+    INode *a = map->GetNode("A");
+    QCOMPARE(a->GetToolTip().c_str(), "Tip & trick");
+    QCOMPARE(a->GetDescription().c_str(), "L\xc3\xa4nge");
+    QCOMPARE(a->GetDisplayName().c_str(), "The A");
+    QCOMPARE(a->GetVisibility(), Guru);
+    QVERIFY(a->IsStreamable() && a->IsFeature() && a->GetNameSpace() == Standard);
+    QCOMPARE(integer(*map, "A").GetUnit().c_str(), "mm");
+    QCOMPARE(integer(*map, "A").GetRepresentation(), HexNumber);
+    INode *reg = map->GetNode("Reg");
+    QVERIFY(reg->GetDisplayName().empty() && !reg->IsFeature() && !reg->IsStreamable());
+    QCOMPARE(reg->GetVisibility(), Invisible);
+    QCOMPARE(reg->GetCachingMode(), WriteAround);
+    QCOMPARE(reg->GetPollingTime(), int64_t(250));
+    QCOMPARE(a->GetPollingTime(), int64_t(-1));
+    QCOMPARE(real(*map, "F").GetDisplayPrecision(), int64_t(2));
+    QCOMPARE(real(*map, "F").GetDisplayNotation(), fnFixed);
+    QCOMPARE(real(*map, "F").GetUnit().c_str(), "dB");
+}
+
+void TestNodeMap::orderOfTheFile()
+{
+    QByteArray nodes;
+    QByteArrayList features;
+    QByteArray entries;
+    QByteArray selected;
+    for (const char *name : {"Zeta", "Alpha", "Mid", "Beta"}) {
+        features << name;
+        nodes += QByteArray("<Integer Name='") + name + "'><Value>1</Value></Integer>";
+        entries += QByteArray("<EnumEntry Name='") + name + "'><Value>" +
+                   QByteArray::number(entries.count('V')) + "</Value></EnumEntry>";
+        selected += QByteArray("<pSelected>") + name + "</pSelected>";
+    }
+    const auto map = load(root(features) + nodes + "<Enumeration Name='E'>" + entries +
+                          "<Value>0</Value>" + selected + "</Enumeration>");
+    const QStringList expected = {"Zeta", "Alpha", "Mid", "Beta"};
+    FeatureList_t list;
+    CCategoryPtr(map->GetNode("Root"))->GetFeatures(list);
+    QCOMPARE(names(list), expected);
+    CSelectorPtr(map->GetNode("E"))->GetSelectedFeatures(list);
+    QCOMPARE(names(list), expected);
+    CSelectorPtr(map->GetNode("Mid"))->GetSelectingFeatures(list);
+    QCOMPARE(names(list), QStringList("E"));
+    NodeList_t entryList;
+    CEnumerationPtr(map->GetNode("E"))->GetEntries(entryList);
+    QCOMPARE(entryList.size(), std::size_t(4));
+    QCOMPARE(CEnumEntryPtr(entryList[0])->GetSymbolic().c_str(), "Zeta");
+    QCOMPARE(CEnumEntryPtr(entryList[3])->GetSymbolic().c_str(), "Beta");
+}
+
+void TestNodeMap::registers()
+{
+    const QByteArray common = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
+    const auto map = load(
+        root({}) + intReg("Big", "0x10") +
+        "<IntReg Name='Little'><Address>0x10</Address><Length>4</Length>" + common +
+        "<Sign>Signed</Sign><Endianess>LittleEndian</Endianess></IntReg>"
+        "<FloatReg Name='Float'><Address>0x20</Address><Length>4</Length>" +
+        common +
+        "<Endianess>BigEndian</Endianess></FloatReg>"
+        "<Register Name='Bytes'><Address>0x20</Address><Length>6</Length>" +
+        common + "</Register><StringReg Name='Text'><Address>0x30</Address><Length>8</Length>" +
+        common + "</StringReg><Register Name='Nothing'><Address>0x40</Address><Length>0</Length>" +
+        common + "</Register>");
+    integer(*map, "Big") = 0xfffffffe;
+    QCOMPARE(integer(*map, "Little").GetValue(), int64_t(int32_t(0xfeffffff)));
+    QCOMPARE(integer(*map, "Little").GetMin(), int64_t(INT32_MIN));
+    QCOMPARE(integer(*map, "Big").GetMax(), int64_t(0xffffffff));
+
+    real(*map, "Float") = 1.0;
+    CRegisterPtr bytes(map->GetNode("Bytes"));
+    QCOMPARE(bytes->ToString().c_str(), "0x3f8000000000");
+    QCOMPARE(bytes->GetAddress(), int64_t(0x20));
+    QCOMPARE(bytes->GetLength(), int64_t(6));
+    QCOMPARE(textOf(*map, "Nothing"), QString("0x"));
+
+    CStringPtr text(map->GetNode("Text"));
+    QCOMPARE(text->GetMaxLength(), int64_t(8));
+    text->SetValue("\xc3\xa4"
+                   "bcdefg");
+    QCOMPARE(text->GetValue().c_str(), "\xc3\xa4"
+                                       "bcdefg");
+    QVERIFY_EXCEPTION_THROWN(text->SetValue("123456789"), GenICam::OutOfRangeException);
+}
+
+void TestNodeMap::bitFieldsShareTheirRegister()
+{
+    const QByteArray reg = "<Address>0</Address><Length>4</Length><AccessMode>RW</AccessMode>"
+                           "<pPort>Device</pPort><Endianess>LittleEndian</Endianess>";
+    const auto map =
+        load(root({}) + "<MaskedIntReg Name='Low'>" + reg +
+             "<LSB>0</LSB><MSB>3</MSB><Sign>Signed</Sign></MaskedIntReg>"
+             "<MaskedIntReg Name='Bit'>" +
+             reg + "<Bit>7</Bit><Sign>Unsigned</Sign></MaskedIntReg><StructReg>" + reg +
+             "<StructEntry Name='Field'><LSB>8</LSB><MSB>15</MSB></StructEntry>"
+             "<StructEntry Name='Flag'><Bit>16</Bit></StructEntry></StructReg>");
+    integer(*map, "Low") = -3;
+    integer(*map, "Bit") = 1;
+    integer(*map, "Field") = 0xab;
+    integer(*map, "Flag") = 1;
+    QCOMPARE(integer(*map, "Low").GetValue(), int64_t(-3));
+    QCOMPARE(integer(*map, "Bit").GetValue(), int64_t(1));
+    QCOMPARE(integer(*map, "Field").GetValue(), int64_t(0xab));
+    QCOMPARE(integer(*map, "Low").GetMax(), int64_t(7));
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "Low") = 8, GenICam::OutOfRangeException);
+    QCOMPARE(map->transactions().reads, uint64_t(1));
+    QCOMPARE(map->transactions().writes, uint64_t(4));
+}
+
+void TestNodeMap::formulas_data()
+{
+    QTest::addColumn<QByteArray>("formula");
+    QTest::addColumn<QString>("asInteger");
+    QTest::addColumn<QString>("asFloat");
+    // The variable V is 7.
+    QTest::newRow("division") << QByteArray("V / 2") << "3"
+                              << "3.5";
+    QTest::newRow("constant and expression") << QByteArray("E + C") << "114"
+                                             << "114";
+    QTest::newRow("comparison") << QByteArray("(V &lt;&gt; 7) || (V &gt;= 7)") << "1"
+                                << "1";
+    QTest::newRow("choice") << QByteArray("V = 7 ? 0x10 : 2") << "16"
+                            << "16";
+    QTest::newRow("bits") << QByteArray("(V &amp; 3) | (1 &lt;&lt; 4)") << "19"
+                          << "19";
+    QTest::newRow("function") << QByteArray("ROUND(V / 2.0)") << "4"
+                              << "4";
+    QTest::newRow("by zero") << QByteArray("1 / (V - 7)") << "NA"
+                             << "NA";
+    QTest::newRow("rest by zero") << QByteArray("1 % (V - 7)") << "NA"
+                                  << "NA";
+    QTest::newRow("not closed") << QByteArray("(V + 1") << "NA"
+                                << "NA";
+    QTest::newRow("unknown variable") << QByteArray("V + X") << "NA"
+                                      << "NA";
+    QTest::newRow("empty") << QByteArray() << "NA"
+                           << "NA";
+}
+
+void TestNodeMap::formulas()
+{
+    QFETCH(QByteArray, formula);
+    QFETCH(QString, asInteger);
+    QFETCH(QString, asFloat);
+    const QByteArray body = "<pVariable Name='V'>Reg</pVariable><Constant Name='C'>100</Constant>"
+                            "<Expression Name='E'>V * 2</Expression><Formula>" +
+                            formula + "</Formula>";
+    const auto map = load(root({}) + intReg("Reg", "0") + "<IntSwissKnife Name='I'>" + body +
+                          "</IntSwissKnife><SwissKnife Name='F'>" + body +
+                          "</SwissKnife><Integer Name='Feature'><pValue>I</pValue></Integer>");
+    integer(*map, "Reg") = 7;
+    for (const auto &[name, expected] :
+         {std::make_pair("I", asInteger), {"F", asFloat}, {"Feature", asInteger}}) {
+        if (expected == "NA") {
+            QCOMPARE(access(*map, name), NA);
+            QVERIFY(textOf(*map, name).startsWith("exception: "));
+        } else {
+            QCOMPARE(access(*map, name), RO);
+            QCOMPARE(textOf(*map, name), expected);
+        }
+    }
+}
+
+void TestNodeMap::formulaVariables()
+{
+    const auto map =
+        load(root({}) +
+             "<Integer Name='Int'><Value>5</Value><Min>1</Min><Max>9</Max><Inc>2</Inc></Integer>"
+             "<Boolean Name='Bool'><Value>1</Value></Boolean>"
+             "<Enumeration Name='Enum'><EnumEntry Name='A'><Value>3</Value></EnumEntry>"
+             "<EnumEntry Name='B'><Value>4</Value></EnumEntry><Value>4</Value></Enumeration>"
+             "<IntSwissKnife Name='Limits'><pVariable Name='V.Max'>Int</pVariable>"
+             "<pVariable Name='V.Min'>Int</pVariable><pVariable Name='V.Inc'>Int</pVariable>"
+             "<Formula>V.Max * 100 + V.Min * 10 + V.Inc</Formula></IntSwissKnife>"
+             "<IntSwissKnife Name='Others'><pVariable Name='B'>Bool</pVariable>"
+             "<pVariable Name='E'>Enum</pVariable><pVariable Name='E.Enum.A'>Enum</pVariable>"
+             "<Formula>B * 100 + E * 10 + E.Enum.A</Formula></IntSwissKnife>");
+    QCOMPARE(textOf(*map, "Limits"), QString("912"));
+    QCOMPARE(textOf(*map, "Others"), QString("143"));
+    CEnumerationPtr(map->GetNode("Enum"))->FromString("A");
+    CBooleanPtr(map->GetNode("Bool"))->SetValue(false);
+    QCOMPARE(textOf(*map, "Others"), QString("33"));
+}
+
+void TestNodeMap::converters()
+{
+    const auto map = load(
+        root({}) + intReg("Reg", "0") +
+        "<Integer Name='Raw'><pValue>Reg</pValue><Min>1</Min><Max>200</Max><Inc>2</Inc></Integer>"
+        "<Converter Name='Rate'><FormulaTo>1000 / FROM</FormulaTo>"
+        "<FormulaFrom>1000 / TO</FormulaFrom><pValue>Raw</pValue><Slope>Decreasing</Slope>"
+        "</Converter>"
+        "<Converter Name='Linear'><FormulaTo>FROM * 10</FormulaTo>"
+        "<FormulaFrom>TO / 10</FormulaFrom><pValue>Raw</pValue><Slope>Increasing</Slope>"
+        "<IsLinear>Yes</IsLinear></Converter>"
+        "<IntConverter Name='Double'><FormulaTo>FROM / 2</FormulaTo>"
+        "<FormulaFrom>TO * 2</FormulaFrom><pValue>Raw</pValue></IntConverter>"
+        "<Float Name='Feature'><pValue>Rate</pValue><Unit>Hz</Unit></Float>");
+    // No rate yet, but one can be set.
+    QCOMPARE(access(*map, "Feature"), WO);
+    real(*map, "Feature") = 40;
+    QCOMPARE(integer(*map, "Reg").GetValue(), int64_t(25));
+    QCOMPARE(access(*map, "Feature"), RW);
+    QCOMPARE(real(*map, "Feature").GetValue(), 40.0);
+    QCOMPARE(real(*map, "Feature").GetMin(), 5.0);
+    QCOMPARE(real(*map, "Feature").GetMax(), 1000.0);
+    QCOMPARE(real(*map, "Linear").GetValue(), 2.5);
+    QCOMPARE(real(*map, "Linear").GetInc(), 0.2);
+    integer(*map, "Double") = 30;
+    QCOMPARE(integer(*map, "Raw").GetValue(), int64_t(15));
+    QCOMPARE(integer(*map, "Double").GetMax(), int64_t(400));
+    QVERIFY_EXCEPTION_THROWN(real(*map, "Rate") = 1001, GenICam::OutOfRangeException);
+}
+
+void TestNodeMap::indexedValues()
+{
+    const auto map = load(root({}) + intReg("Reg", "0") +
+                          "<Integer Name='Index'><Value>0</Value></Integer>"
+                          "<Integer Name='Value'><pIndex>Index</pIndex>"
+                          "<ValueIndexed Index='0'>10</ValueIndexed>"
+                          "<pValueIndexed Index='1'>Reg</pValueIndexed>"
+                          "<ValueDefault>99</ValueDefault></Integer>");
+    QCOMPARE(textOf(*map, "Value"), QString("10"));
+    integer(*map, "Index") = 1;
+    integer(*map, "Value") = 55;
+    QCOMPARE(textOf(*map, "Reg"), QString("55"));
+    integer(*map, "Index") = 2;
+    QCOMPARE(textOf(*map, "Value"), QString("99"));
+}
+
+void TestNodeMap::addressesThatMove()
+{
+    const QByteArray rest = "<Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
+                            "<Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>";
+    const auto map = load(
+        root({}) + intReg("Selector", "0") +
+        "<IntReg Name='ByIndex'><Address>0x100</Address><pIndex Offset='0x10'>Selector</pIndex>" +
+        rest +
+        "<IntReg Name='ByFormula'><IntSwissKnife Name='Inner'><pVariable Name='S'>Selector"
+        "</pVariable><Formula>0x200 + S * 4</Formula></IntSwissKnife>" +
+        rest + "<IntReg Name='ByNode'><pAddress>Address</pAddress>" + rest +
+        "<IntSwissKnife Name='Address'><pVariable Name='S'>Selector</pVariable>"
+        "<Formula>0x300 / (2 - S)</Formula></IntSwissKnife>");
+    for (const char *name : {"ByIndex", "ByFormula", "ByNode"}) {
+        integer(*map, "Selector") = 0;
+        integer(*map, name) = 11;
+        integer(*map, "Selector") = 1;
+        QCOMPARE(integer(*map, name).GetValue(), int64_t(0));
+        integer(*map, name) = 22;
+        integer(*map, "Selector") = 0;
+        QCOMPARE(integer(*map, name).GetValue(), int64_t(11));
+    }
+    // An address that cannot be computed is no address: nothing may be read from elsewhere.
+    integer(*map, "Selector") = 2;
+    const uint64_t reads = map->transactions().reads;
+    QVERIFY(textOf(*map, "ByNode").startsWith("exception: "));
+    QCOMPARE(map->transactions().reads, reads);
+}
+
+void TestNodeMap::accessModes()
+{
+    QByteArray nodes = root({}) + intReg("Implemented", "0") + intReg("Available", "4") +
+                       intReg("Locked", "8") + intReg("Reg", "12") +
+                       "<IntReg Name='WriteOnly'><Address>16</Address><Length>4</Length>"
+                       "<AccessMode>WO</AccessMode><pPort>Device</pPort></IntReg>"
+                       "<Integer Name='A'><pIsImplemented>Implemented</pIsImplemented>"
+                       "<pIsAvailable>Available</pIsAvailable><pIsLocked>Locked</pIsLocked>"
+                       "<pValue>Reg</pValue></Integer>"
+                       "<Integer Name='Above'><pValue>A</pValue></Integer>"
+                       "<Integer Name='Imposed'><ImposedAccessMode>RO</ImposedAccessMode>"
+                       "<pValue>Reg</pValue></Integer>"
+                       "<Command Name='Command'><pIsLocked>Locked</pIsLocked>"
+                       "<pValue>WriteOnly</pValue></Command>";
+    const auto map = load(nodes);
+    QCOMPARE(access(*map, "A"), NI);
+    integer(*map, "Implemented") = 1;
+    QCOMPARE(access(*map, "A"), NA);
+    QCOMPARE(access(*map, "Above"), NA);
+    integer(*map, "Available") = 1;
+    QCOMPARE(access(*map, "A"), RW);
+    QCOMPARE(access(*map, "Command"), WO);
+    integer(*map, "Locked") = 1;
+    QCOMPARE(access(*map, "A"), RO);
+    QCOMPARE(access(*map, "Above"), RO);
+    QCOMPARE(access(*map, "Command"), NA);
+    QCOMPARE(access(*map, "Imposed"), RO);
+    QCOMPARE(access(*map, "Root"), RO);
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "A") = 1, GenICam::AccessException);
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "WriteOnly").GetValue(), GenICam::AccessException);
+}
+
+void TestNodeMap::commands()
+{
+    const auto map = load(root({}) + intReg("Reg", "0") + intReg("Value", "4") +
+                          "<Command Name='Start'><pValue>Reg</pValue>"
+                          "<CommandValue>77</CommandValue></Command>"
+                          "<Command Name='Other'><pValue>Reg</pValue>"
+                          "<pCommandValue>Value</pCommandValue></Command>");
+    CCommandPtr start(map->GetNode("Start"));
+    QVERIFY(start->IsDone());
+    start->Execute();
+    QCOMPARE(textOf(*map, "Reg"), QString("77"));
+    QVERIFY(!start->IsDone()); // the register still holds it
+    integer(*map, "Reg") = 0;
+    QVERIFY(start->IsDone());
+    integer(*map, "Value") = 5;
+    CCommandPtr(map->GetNode("Other"))->Execute();
+    QCOMPARE(textOf(*map, "Reg"), QString("5"));
+}
+
+void TestNodeMap::copies()
+{
+    const auto map = load(root({}) + intReg("First", "0") + intReg("Second", "4") +
+                          "<Integer Name='A'><pValue>First</pValue>"
+                          "<pValueCopy>Second</pValueCopy></Integer>");
+    integer(*map, "Second").GetValue();
+    integer(*map, "A") = 9;
+    QCOMPARE(textOf(*map, "First") + textOf(*map, "Second"), QString("99"));
+}
+
+void TestNodeMap::limitsAndIncrements()
+{
+    const auto map =
+        load(root({}) + intReg("Reg", "0") + intReg("Offset", "4") +
+             "<Integer Name='Width'><pValue>Reg</pValue><Min>16</Min><pMax>Room</pMax><Inc>4</Inc>"
+             "</Integer><IntSwissKnife Name='Room'><pVariable Name='O'>Offset</pVariable>"
+             "<Formula>100 - O</Formula></IntSwissKnife>"
+             "<Integer Name='Above'><pValue>Width</pValue></Integer>"
+             "<Integer Name='Free'><pValue>Reg</pValue></Integer>"
+             "<Float Name='F'><pValue>Width</pValue></Float>");
+    IInteger &above = integer(*map, "Above");
+    QCOMPARE(above.GetMin(), int64_t(16));
+    QCOMPARE(above.GetMax(), int64_t(100));
+    QCOMPARE(above.GetInc(), int64_t(4));
+    QCOMPARE(above.GetIncMode(), fixedIncrement);
+    integer(*map, "Offset") = 40;
+    QCOMPARE(above.GetMax(), int64_t(60));
+    QCOMPARE(real(*map, "F").GetMax(), 60.0);
+    QCOMPARE(integer(*map, "Free").GetIncMode(), noIncrement);
+    QVERIFY_EXCEPTION_THROWN(above = 62, GenICam::OutOfRangeException);
+    QVERIFY_EXCEPTION_THROWN(above = 30, GenICam::OutOfRangeException);
+    above = 32;
+}
+
+void TestNodeMap::validValues()
+{
+    const auto map = load(root({}) + "<Integer Name='I'><Value>2</Value><Max>8</Max>"
+                                     "<ValidValueSet>1;2; 4;8;16</ValidValueSet></Integer>"
+                                     "<Float Name='F'><Value>1</Value><Min>0</Min><Max>10</Max>"
+                                     "<ValidValueSet>0.5;1;2.5</ValidValueSet></Float>");
+    QCOMPARE(integer(*map, "I").GetIncMode(), listIncrement);
+    const int64_autovector_t values = integer(*map, "I").GetListOfValidValues();
+    QCOMPARE(values.size(), std::size_t(4));
+    QCOMPARE(values[2], int64_t(4));
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "I") = 3, GenICam::OutOfRangeException);
+    integer(*map, "I") = 8;
+    real(*map, "F") = 2.5;
+    QVERIFY_EXCEPTION_THROWN(real(*map, "F") = 2, GenICam::OutOfRangeException);
+}
+
+void TestNodeMap::senselessReferences()
+{
+    const auto map = load(root({"Good", "Missing", "Dangling", "Limited", "Switched", "Chunk"}) +
+                          intReg("Good", "0") +
+                          "<Integer Name='Dangling'><pValue>Nowhere</pValue></Integer>"
+                          "<Integer Name='Limited'><pValue>Good</pValue><pMax>Nowhere</pMax>"
+                          "</Integer><Integer Name='Switched'><pIsAvailable>Dangling"
+                          "</pIsAvailable><pValue>Good</pValue></Integer>"
+                          "<Integer Name='Empty'/>"
+                          "<IntReg Name='Chunk'><Address>0</Address><Length>4</Length>"
+                          "<AccessMode>RO</AccessMode><pPort>ChunkPort</pPort></IntReg>"
+                          "<Port Name='ChunkPort'><ChunkID>12</ChunkID></Port>");
+    FeatureList_t features;
+    CCategoryPtr(map->GetNode("Root"))->GetFeatures(features);
+    QCOMPARE(features.size(), std::size_t(6));
+    QCOMPARE(access(*map, "Good"), RW);
+    for (const char *name : {"Missing", "Dangling", "Limited", "Switched", "Empty", "Chunk"}) {
+        QCOMPARE(access(*map, name), NA);
+        QVERIFY(textOf(*map, name).startsWith("exception: "));
+    }
+    QCOMPARE(map->transactions().reads, uint64_t(0));
+}
+
+void TestNodeMap::circles()
+{
+    const auto map = load(
+        root({"Sub", "A", "Self", "Width", "OffsetX"}) +
+        "<Category Name='Sub'><pFeature>B</pFeature><pFeature>Root</pFeature>"
+        "<pFeature>Sub</pFeature></Category>"
+        "<Integer Name='A'><pValue>B</pValue></Integer>"
+        "<Integer Name='B'><pValue>C</pValue></Integer>"
+        "<IntSwissKnife Name='C'><pVariable Name='V'>A</pVariable><Formula>V</Formula>"
+        "</IntSwissKnife><Integer Name='Self'><pValue>Self</pValue></Integer>"
+        "<IntReg Name='Reg'><pAddress>A</pAddress><Length>4</Length><AccessMode>RW</AccessMode>"
+        "<pPort>Device</pPort></IntReg>"
+        "<IntSwissKnife Name='OwnLimit'><pVariable Name='V.Max'>Bounded</pVariable>"
+        "<Formula>V.Max</Formula></IntSwissKnife>"
+        "<Integer Name='Bounded'><Value>1</Value><pMax>OwnLimit</pMax></Integer>"
+        // Limits that depend on each other's values are no circle.
+        + intReg("WidthReg", "0") + intReg("OffsetReg", "4") +
+        "<Integer Name='Width'><pValue>WidthReg</pValue><pMax>WidthMax</pMax></Integer>"
+        "<Integer Name='OffsetX'><pValue>OffsetReg</pValue><pMax>OffsetMax</pMax></Integer>"
+        "<IntSwissKnife Name='WidthMax'><pVariable Name='V'>OffsetX</pVariable>"
+        "<Formula>100 - V</Formula></IntSwissKnife>"
+        "<IntSwissKnife Name='OffsetMax'><pVariable Name='V'>Width</pVariable>"
+        "<Formula>100 - V</Formula></IntSwissKnife>");
+    for (const char *name : {"A", "B", "C", "Self", "Reg", "OwnLimit"}) {
+        QCOMPARE(access(*map, name), NA);
+        QVERIFY(textOf(*map, name).startsWith("exception: "));
+    }
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "Bounded").GetMax(), GenICam::GenericException);
+    integer(*map, "Width") = 60;
+    QCOMPARE(integer(*map, "OffsetX").GetMax(), int64_t(40));
+    FeatureList_t features;
+    CCategoryPtr(map->GetNode("Sub"))->GetFeatures(features);
+    QCOMPARE(names(features), QStringList("B"));
+}
+
+void TestNodeMap::cachingModes()
+{
+    const auto map = load(root({}) + intReg("Through", "0") +
+                          intReg("Around", "4", "<Cachable>WriteAround</Cachable>") +
+                          intReg("Never", "8", "<Cachable>NoCache</Cachable>") +
+                          "<Integer Name='Feature'><pValue>Never</pValue></Integer>");
+    const auto cost = [&](const char *name) {
+        const uint64_t before = map->transactions().reads;
+        integer(*map, name).GetValue();
+        return map->transactions().reads - before;
+    };
+    QCOMPARE(cost("Through"), uint64_t(1));
+    integer(*map, "Through") = 1;
+    QCOMPARE(cost("Through"), uint64_t(0));
+    QCOMPARE(cost("Around"), uint64_t(1));
+    QCOMPARE(cost("Around"), uint64_t(0));
+    integer(*map, "Around") = 1;
+    QCOMPARE(cost("Around"), uint64_t(1));
+    QCOMPARE(cost("Feature"), uint64_t(1));
+    QCOMPARE(cost("Feature"), uint64_t(1));
+    QVERIFY(!map->GetNode("Feature")->IsCachable() && map->GetNode("Around")->IsCachable());
+    QCOMPARE(map->GetNode("Feature")->GetCachingMode(), NoCache);
+    const uint64_t before = map->transactions().reads;
+    integer(*map, "Through").GetValue(false, true);
+    QCOMPARE(map->transactions().reads, before + 1);
+}
+
+void TestNodeMap::pollingAndInvalidation()
+{
+    const auto map =
+        load(root({}) + intReg("Reg", "0") + intReg("Trigger", "4") +
+             intReg("Invalidated", "8", "<pInvalidator>Trigger</pInvalidator>") +
+             "<Integer Name='Polled'><PollingTime>100</PollingTime><pValue>Reg</pValue></Integer>"
+             "<Integer Name='Sibling'><pValue>Reg</pValue></Integer>");
+    QStringList calls;
+    for (const char *name : {"Polled", "Sibling", "Invalidated"}) {
+        integer(*map, name).GetValue();
+        Register(map->GetNode(name), [&calls](INode *node) { calls << node->GetName().c_str(); });
+    }
+    const uint64_t before = map->transactions().reads;
+    map->Poll(99);
+    QCOMPARE(calls, QStringList());
+    map->Poll(1);
+    // The register is read anew, so whatever else comes from it is news as well.
+    QCOMPARE(calls, QStringList({"Polled", "Sibling"}));
+    integer(*map, "Polled").GetValue();
+    integer(*map, "Sibling").GetValue();
+    QCOMPARE(map->transactions().reads, before + 1);
+
+    calls.clear();
+    integer(*map, "Trigger") = 1;
+    QCOMPARE(calls, QStringList("Invalidated"));
+    integer(*map, "Invalidated").GetValue();
+    QCOMPARE(map->transactions().reads, before + 2);
+    map->GetNode("Polled")->InvalidateNode();
+    integer(*map, "Polled").GetValue();
+    QCOMPARE(map->transactions().reads, before + 3);
+}
+
+void TestNodeMap::writesCostOneTransaction()
+{
+    const auto map = load(root({}) + intReg("Reg", "0") + intReg("Unrelated", "4") +
+                          "<Integer Name='A'><pValue>Reg</pValue><Min>0</Min><Max>9</Max>"
+                          "</Integer><Float Name='B'><pValue>A</pValue></Float>");
+    real(*map, "B").GetValue();
+    integer(*map, "Unrelated").GetValue();
+    const OrvAravis::Transactions before = map->transactions();
+    real(*map, "B") = 5;
+    QCOMPARE(real(*map, "B").GetValue(), 5.0);
+    QCOMPARE(textOf(*map, "A"), QString("5"));
+    integer(*map, "Unrelated").GetValue();
+    QCOMPARE(map->transactions().writes, before.writes + 1);
+    QCOMPARE(map->transactions().reads, before.reads);
+}
+
+QTEST_GUILESS_MAIN(TestNodeMap)
+#include "tst_nodemap.moc"

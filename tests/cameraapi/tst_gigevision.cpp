@@ -1,0 +1,455 @@
+// SPDX-License-Identifier: MIT
+#include "cameratestsupport.h"
+#include "responder.h"
+
+#include <cameranetwork.h>
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <atomic>
+
+using namespace OrvCam;
+
+/// Everything that goes over a network. This machine has two adapters, 10.1.0.1 and 10.2.0.1, each
+/// with a cable to a machine of its own, 10.1.0.2 and 10.2.0.2, where cameras are started.
+class TestGigEVision : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init() { m_system.reset(OrvCam_GetSystem()); }
+    void cleanup() { m_system.reset(); }
+    void adaptersAndCameras();
+    void openedByAnotherProgram();
+    void camerasComeAndGo();
+    void badDescription();
+    void oneAdapterAtATime();
+    void strangeAnswers_data();
+    void strangeAnswers();
+    void wrongSubnetAndForcedIp();
+    void forcedIpFails_data();
+    void forcedIpFails();
+    void unplugAndReplug();
+    void controlTakenAway();
+    void cablePulled();
+    void releaseWithoutCamera();
+
+private:
+    Interface *interface(const char *adapter);
+    DeviceInfo *waitForCamera(const char *adapter, const char *serial);
+
+    std::unique_ptr<CameraNetwork> m_first;
+    std::unique_ptr<CameraNetwork> m_second;
+    Released<System> m_system;
+};
+
+namespace {
+
+constexpr int patience = 15000;
+
+struct Events
+{
+    std::atomic<int> disconnected{0};
+    std::atomic<int> reconnected{0};
+
+    explicit Events(Device &device)
+    {
+        device.RegisterEvent(EventDisconnected, note, this);
+        device.RegisterEvent(EventReconnected, note, this);
+    }
+
+    static void note(int32_t code, void *context)
+    {
+        auto *self = static_cast<Events *>(context);
+        ++(code == EventDisconnected ? self->disconnected : self->reconnected);
+    }
+};
+
+} // namespace
+
+void TestGigEVision::initTestCase()
+{
+    m_first = std::make_unique<CameraNetwork>("orv0", "10.1.0.1/24", "10.1.0.2/24");
+    m_second = std::make_unique<CameraNetwork>("orv1", "10.2.0.1/24", "10.2.0.2/24");
+}
+
+void TestGigEVision::cleanupTestCase()
+{
+    m_first.reset();
+    m_second.reset();
+}
+
+Interface *TestGigEVision::interface(const char *adapter)
+{
+    for (Interface *candidate : interfacesOf(*m_system, InterfaceGigEVision)) {
+        if (QByteArray(candidate->GetDescription()).startsWith(adapter))
+            return candidate;
+    }
+    qFatal("There is no adapter %s", adapter);
+}
+
+DeviceInfo *TestGigEVision::waitForCamera(const char *adapter, const char *serial)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!timer.hasExpired(patience)) {
+        for (DeviceInfo *camera : camerasOf(*interface(adapter))) {
+            if (qstrcmp(camera->GetSerial(), serial) == 0)
+                return camera;
+        }
+    }
+    qFatal("The camera %s does not come up", serial);
+}
+
+void TestGigEVision::adaptersAndCameras()
+{
+    const auto first = m_first->startCamera("FIRST");
+    const auto second = m_second->startCamera("SECOND");
+    waitForCamera("orv0", "FIRST");
+    waitForCamera("orv1", "SECOND");
+
+    QCOMPARE(interfacesOf(*m_system).size(), size_t(3)); // no loopback, and USB at the end
+    QCOMPARE(interfacesOf(*m_system).back()->GetTransportKind(), int32_t(TransportUsb3Vision));
+    QVERIFY(camerasOf(*interfacesOf(*m_system).back()).empty());
+    int64_t subnet = 0x0A010000;
+    for (const char *adapter : {"orv0", "orv1"}) {
+        QElapsedTimer timer;
+        timer.start();
+        const auto cameras = camerasOf(*interface(adapter));
+        QVERIFY(timer.elapsed() < 1000);
+        QCOMPARE(cameras.size(), size_t(1));
+        DeviceInfo *camera = cameras.front();
+        QCOMPARE(camera->GetVendor(), "Aravis");
+        QCOMPARE(camera->GetModel(), "Fake");
+        QVERIFY(!camera->GetUserName());
+        QCOMPARE(camera->GetAccessState(), int32_t(AccessReadWrite));
+
+        QProcess ip;
+        ip.start("ip", {"-o", "link", "show", adapter});
+        QVERIFY(ip.waitForFinished());
+        const QString mac = QRegularExpression("link/ether ([0-9a-f:]+)")
+                                .match(QString::fromLatin1(ip.readAllStandardOutput()))
+                                .captured(1);
+        OrvGenParam::Array *array = interface(adapter)->GetParamArray();
+        QCOMPARE(array->GetIntegerValue("GevInterfaceMACAddress"),
+                 QString(mac).remove(':').toLongLong(nullptr, 16));
+        QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetIPAddress"), subnet + 1);
+        QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetMask"), int64_t(0xFFFFFF00));
+        QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(Success));
+        QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), subnet + 2);
+        subnet += 0x10000;
+
+        int32_t error = ErrorFailed;
+        const Released<Device> device(OrvCam_CreateDevice(camera, &error, AccessControl));
+        QVERIFY(device);
+        QCOMPARE(error, int32_t(Success));
+        OrvGenParam::Array *features = device->GetParamArray();
+        QCOMPARE(features->SetIntegerValue("Width", 256), int32_t(Success));
+        QCOMPARE(features->GetIntegerValue("Width"), int64_t(256));
+    }
+}
+
+void TestGigEVision::openedByAnotherProgram()
+{
+    const auto camera = m_first->startCamera("TAKEN");
+    DeviceInfo *info = waitForCamera("orv0", "TAKEN");
+    QCOMPARE(info->GetAccessState(), int32_t(AccessReadWrite));
+
+    QProcess other;
+    other.start("arv-camera-test-0.8", {"--name", "Aravis-TAKEN", "--frequency", "1"});
+    QVERIFY(other.waitForStarted());
+    QElapsedTimer timer;
+    timer.start();
+    while (info->GetAccessState() != AccessNone && !timer.hasExpired(patience))
+        interface("orv0")->RefreshDevices(nullptr, 200);
+    QCOMPARE(info->GetAccessState(), int32_t(AccessNone));
+
+    int32_t error = Success;
+    QVERIFY(!OrvCam_CreateDevice(info, &error, AccessControl));
+    QCOMPARE(error, int32_t(ErrorBusy));
+    {
+        const Released<Device> monitor(OrvCam_CreateDevice(info, &error, AccessMonitor));
+        QVERIFY(monitor);
+        OrvGenParam::Array *array = monitor->GetParamArray();
+        QVERIFY(array->GetIntegerValue("Width") > 0);
+        QCOMPARE(array->SetIntegerValue("Width", 128), int32_t(ErrorAccessDenied));
+        QTest::qWait(1200);
+        QVERIFY(monitor->IsConnected());
+    }
+    QCOMPARE(other.state(), QProcess::Running); // our look has not taken its camera away
+    other.terminate();
+    QVERIFY(other.waitForFinished());
+}
+
+void TestGigEVision::camerasComeAndGo()
+{
+    auto camera = m_first->startCamera("BRIEF");
+    DeviceInfo *info = waitForCamera("orv0", "BRIEF");
+    camera.reset();
+
+    int32_t error = Success;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!OrvCam_CreateDevice(info, &error, AccessControl));
+    QCOMPARE(error, int32_t(ErrorGone));
+    QVERIFY(timer.elapsed() < 3000);
+
+    bool changed = false;
+    QCOMPARE(interface("orv0")->RefreshDevices(&changed, 200), int32_t(Success));
+    QVERIFY(changed);
+    QVERIFY(camerasOf(*interface("orv0")).empty());
+    QCOMPARE(info->GetSerial(), "BRIEF"); // the record is still there
+    OrvGenParam::Array *array = interface("orv0")->GetParamArray();
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(ErrorNotAvailable));
+
+    camera = m_first->startCamera("BRIEF");
+    QCOMPARE(waitForCamera("orv0", "BRIEF"), info);
+    interface("orv0")->RefreshDevices(&changed, 200);
+    QVERIFY(!changed);
+}
+
+void TestGigEVision::badDescription()
+{
+    const QTemporaryDir directory;
+    for (const QByteArray &contents :
+         {QByteArray(), QByteArray("<RegisterDescription"), QByteArray("\x89PNG\r\n\x1a\n"),
+          QByteArray("<html><body>404</body></html>")}) {
+        QFile file(directory.filePath("camera.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+        file.close();
+        const auto camera = m_first->startCamera("BROKEN", file.fileName());
+        DeviceInfo *info = waitForCamera("orv0", "BROKEN");
+        int32_t error = Success;
+        QVERIFY(!OrvCam_CreateDevice(info, &error, AccessControl));
+        QCOMPARE(error, int32_t(ErrorBadDescription));
+
+        // Nobody keeps the camera busy.
+        interface("orv0")->RefreshDevices(nullptr, 200);
+        QCOMPARE(info->GetAccessState(), int32_t(AccessReadWrite));
+    }
+}
+
+void TestGigEVision::oneAdapterAtATime()
+{
+    Responder near(m_first->farNamespace(), m_first->farName(), "020000000001", "0a010002");
+    Responder far(m_second->farNamespace(), m_second->farName(), "020000000002", "0a020002");
+    near.setPrivilege(2);
+    const auto cameras = camerasOf(*interface("orv0"));
+    QCOMPARE(cameras.size(), size_t(1));
+    QCOMPARE(cameras.front()->GetId(), "02:00:00:00:00:01");
+    QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessNone));
+    QCOMPARE(cameras.front()->GetUserName(), "abcdefghijklmnop");
+    QCOMPARE(QString::fromUtf8(cameras.front()->GetVendor()), QStringLiteral("Responder\uFFFD"));
+    QVERIFY(!cameras.front()->GetSerial());
+    QVERIFY(near.commands() > 0);
+    QCOMPARE(far.commands(), 0);
+}
+
+Q_DECLARE_METATYPE(Responder::Mood)
+
+void TestGigEVision::strangeAnswers_data()
+{
+    QTest::addColumn<Responder::Mood>("mood");
+    QTest::addColumn<int>("count"); // -1: whatever gets through
+    QTest::newRow("none") << Responder::Mood::Silent << 0;
+    QTest::newRow("late") << Responder::Mood::Late << 0;
+    QTest::newRow("wrong, short, foreign, twice") << Responder::Mood::Confused << 1;
+    QTest::newRow("flood") << Responder::Mood::Flooding << -1;
+}
+
+void TestGigEVision::strangeAnswers()
+{
+    QFETCH(Responder::Mood, mood);
+    QFETCH(int, count);
+    Responder responder(m_first->farNamespace(), m_first->farName(), "020000000001", "0a010002");
+    responder.setMood(mood);
+    QElapsedTimer timer;
+    timer.start();
+    const int found = static_cast<int>(camerasOf(*interface("orv0")).size());
+    QVERIFY2(timer.elapsed() < 700, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(count < 0 ? count : found, count);
+
+    responder.setMood(Responder::Mood::Normal);
+    QTRY_COMPARE(camerasOf(*interface("orv0")).size(), size_t(1));
+    QCOMPARE(camerasOf(*interface("orv0")).front()->GetId(), "02:00:00:00:00:01");
+}
+
+void TestGigEVision::wrongSubnetAndForcedIp()
+{
+    Responder responder(m_first->farNamespace(), m_first->farName(), "001b2c3d4e5f", "a9fe0715");
+    const auto cameras = camerasOf(*interface("orv0"));
+    QCOMPARE(cameras.size(), size_t(1));
+    QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessSubnetMismatch));
+    int32_t error = Success;
+    QVERIFY(!OrvCam_CreateDevice(cameras.front(), &error, AccessControl));
+    QCOMPARE(error, int32_t(ErrorWrongSubnet));
+
+    const QTemporaryDir directory;
+    const QString file = directory.filePath("capture.pcap");
+    QProcess capture;
+    capture.setProcessChannelMode(QProcess::MergedChannels);
+    capture.start("tshark", {"-i", "orv0", "-f", "udp port 3956", "-w", file});
+    QVERIFY(capture.waitForStarted());
+    QByteArray said;
+    while (!said.contains("Capturing on") && capture.waitForReadyRead(patience))
+        said += capture.readAll();
+    QVERIFY2(said.contains("Capturing on"), said.constData());
+
+    OrvGenParam::Array *array = interface("orv0")->GetParamArray();
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(Success));
+    QCOMPARE(array->GetIntegerValue("GevDeviceMACAddress"), int64_t(0x001B2C3D4E5F));
+    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0xA9FE0715));
+    array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
+    array->SetIntegerValue("GevDeviceForceSubnetMask", 0xFFFFFF00);
+    array->SetIntegerValue("GevDeviceForceGateway", 0x0A0100FE);
+    // A capture that has just been announced may still miss the first packets.
+    QTest::qWait(500);
+    QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(Success));
+    QVERIFY(!responder.forced().empty());
+    QCOMPARE(responder.forced().front().toHex(),
+             QByteArray("0000001b2c3d4e5f") + QByteArray(24, '0') + "0a010002" +
+                 QByteArray(24, '0') + "ffffff00" + QByteArray(24, '0') + "0a0100fe");
+    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0x0A010002));
+    QCOMPARE(array->GetIntegerValue("GevDeviceSubnetMask"), int64_t(0xFFFFFF00));
+    QCOMPARE(array->GetIntegerValue("GevDeviceGateway"), int64_t(0x0A0100FE));
+    QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
+    QCOMPARE(camerasOf(*interface("orv0")), cameras);
+    QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
+
+    // As somebody reads it who knows the protocol from elsewhere.
+    QTest::qWait(500);
+    capture.terminate();
+    QVERIFY(capture.waitForFinished());
+    QProcess dissect;
+    dissect.start("tshark", {"-r", file, "-V", "-Y", "gvcp.cmd.command == 0x0004"});
+    QVERIFY(dissect.waitForFinished(patience));
+    const QString text = QString::fromUtf8(dissect.readAllStandardOutput());
+    for (const char *expected :
+         {"Dst: Broadcast (ff:ff:ff:ff:ff:ff)", "Dst: 255.255.255.255", "FORCEIP_CMD",
+          "00:1b:2c:3d:4e:5f", "10.1.0.2", "255.255.255.0", "10.1.0.254"})
+        QVERIFY2(text.contains(QLatin1String(expected)), qPrintable(text));
+    QVERIFY2(!text.contains("Malformed"), qPrintable(text));
+}
+
+void TestGigEVision::forcedIpFails_data()
+{
+    QTest::addColumn<Responder::Mood>("mood");
+    QTest::addColumn<int>("error");
+    QTest::newRow("refused") << Responder::Mood::Stubborn << int(ErrorAccessDenied);
+    QTest::newRow("never seen again") << Responder::Mood::Mute << int(ErrorTimeout);
+}
+
+void TestGigEVision::forcedIpFails()
+{
+    QFETCH(Responder::Mood, mood);
+    QFETCH(int, error);
+    Responder responder(m_first->farNamespace(), m_first->farName(), "001b2c3d4e5f", "a9fe0715");
+    DeviceInfo *camera = camerasOf(*interface("orv0")).front();
+    responder.setMood(mood);
+    OrvGenParam::Array *array = interface("orv0")->GetParamArray();
+    array->SetIntegerValue("DeviceSelector", 0);
+    array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(error));
+    QVERIFY(timer.elapsed() < 8000);
+    QCOMPARE(responder.forced().empty(), false);
+    QCOMPARE(camera->GetAccessState(), int32_t(AccessSubnetMismatch));
+    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0xA9FE0715));
+    QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"), int64_t(0x0A010002));
+}
+
+void TestGigEVision::unplugAndReplug()
+{
+    auto camera = m_first->startCamera("LIVELY");
+    DeviceInfo *info = waitForCamera("orv0", "LIVELY");
+    const Released<Device> device(OrvCam_CreateDevice(info, nullptr, AccessControl));
+    QVERIFY(device);
+    Events events(*device);
+    OrvGenParam::Array *array = device->GetParamArray();
+    OrvGenParam::Int *width = array->GetInt("Width");
+    QCOMPARE(width->SetValue(256), int32_t(Success));
+
+    camera.reset();
+    QTRY_COMPARE_WITH_TIMEOUT(events.disconnected.load(), 1, patience);
+    QVERIFY(!device->IsConnected());
+    int32_t error = Success;
+    QElapsedTimer timer;
+    timer.start();
+    width->GetValue(&error);
+    QCOMPARE(error, int32_t(ErrorGone));
+    QVERIFY(timer.elapsed() < 100);
+    QVERIFY(!device->GetParamArray());
+
+    camera = m_first->startCamera("LIVELY");
+    QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
+    QVERIFY(device->IsConnected());
+    OrvGenParam::Array *present = device->GetParamArray(&error);
+    QVERIFY(present);
+    QVERIFY(present->GetIntegerValue("Width") > 0);
+    QCOMPARE(present->SetIntegerValue("Width", 128), int32_t(Success));
+    QCOMPARE(width->SetValue(64), int32_t(ErrorGone));
+    QCOMPARE(array->GetIntegerValue("Width", &error), int64_t(0));
+
+    // Control is ours again and stays so.
+    QTest::qWait(4000);
+    QVERIFY(device->IsConnected());
+    QCOMPARE(present->SetIntegerValue("Width", 256), int32_t(Success));
+    QCOMPARE(events.disconnected.load(), 1);
+    interface("orv0")->RefreshDevices(nullptr, 200);
+    QCOMPARE(info->GetAccessState(), int32_t(AccessNone));
+}
+
+void TestGigEVision::controlTakenAway()
+{
+    // A camera that restarts between two looks answers all the time, but knows nobody any more.
+    auto camera = m_first->startCamera("RESTART");
+    const Released<Device> device(
+        OrvCam_CreateDevice(waitForCamera("orv0", "RESTART"), nullptr, AccessControl));
+    QVERIFY(device);
+    Events events(*device);
+    camera.reset();
+    camera = m_first->startCamera("RESTART");
+    QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
+    QCOMPARE(events.disconnected.load(), 1);
+    QVERIFY(device->GetParamArray()->GetIntegerValue("Width") > 0);
+}
+
+void TestGigEVision::cablePulled()
+{
+    // The camera goes on and may still take its lost controller for the present one.
+    const auto camera = m_first->startCamera("CABLE");
+    const Released<Device> device(
+        OrvCam_CreateDevice(waitForCamera("orv0", "CABLE"), nullptr, AccessControl));
+    QVERIFY(device);
+    Events events(*device);
+    QCOMPARE(device->GetParamArray()->SetIntegerValue("Width", 96), int32_t(Success));
+    CameraNetwork::run("ip", "link set orv0 down");
+    QTRY_COMPARE_WITH_TIMEOUT(events.disconnected.load(), 1, patience);
+    CameraNetwork::run("ip", "link set orv0 up");
+    QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
+    QCOMPARE(device->GetParamArray()->GetIntegerValue("Width"), int64_t(96));
+    QCOMPARE(device->GetParamArray()->SetIntegerValue("Width", 64), int32_t(Success));
+}
+
+void TestGigEVision::releaseWithoutCamera()
+{
+    auto camera = m_first->startCamera("LOST");
+    DeviceInfo *info = waitForCamera("orv0", "LOST");
+    Released<Device> device(OrvCam_CreateDevice(info, nullptr, AccessControl));
+    QVERIFY(device);
+    camera.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(!device->IsConnected(), patience);
+    QElapsedTimer timer;
+    timer.start();
+    device.reset();
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+}
+
+QTEST_GUILESS_MAIN(TestGigEVision)
+#include "tst_gigevision.moc"

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include "cameratestsupport.h"
+
+#include <QtTest>
+
+#include <set>
+
+using namespace OrvCam;
+
+class TestSimulatedSystem : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { m_system.reset(); }
+    void oneSystemForAll();
+    void interfaces();
+    void camerasOfEverySort();
+    void networkParameters();
+    void forcedAddress();
+    void openAndClose();
+    void refusals_data();
+    void refusals();
+    void readOnlyDevice();
+    void deviceOutlivesSystem();
+    void isAlive();
+
+private:
+    Interface *network() { return interfacesOf(*m_system, InterfaceGigEVision).front(); }
+    DeviceInfo *cameraInState(int32_t state);
+
+    Released<System> m_system;
+};
+
+void TestSimulatedSystem::initTestCase()
+{
+    qputenv("ORVCAM_SIMULATION", "1");
+}
+
+void TestSimulatedSystem::init()
+{
+    m_system.reset(OrvCam_GetSystem());
+    QVERIFY(m_system);
+}
+
+DeviceInfo *TestSimulatedSystem::cameraInState(int32_t state)
+{
+    for (Interface *interface : interfacesOf(*m_system)) {
+        for (DeviceInfo *camera : camerasOf(*interface)) {
+            if (camera->GetAccessState() == state)
+                return camera;
+        }
+    }
+    return nullptr;
+}
+
+void TestSimulatedSystem::oneSystemForAll()
+{
+    const Released<System> again(OrvCam_GetSystem());
+    QCOMPARE(again.get(), m_system.get());
+    m_system.reset();
+    QVERIFY(!interfacesOf(*again).empty());
+}
+
+void TestSimulatedSystem::interfaces()
+{
+    std::multiset<int32_t> kinds;
+    for (Interface *interface : interfacesOf(*m_system)) {
+        kinds.insert(interface->GetTransportKind());
+        QVERIFY(interface->GetDescription());
+        int32_t error = Success;
+        const bool isNetwork = interface->GetTransportKind() == TransportGigEVision;
+        QCOMPARE(interface->GetParamArray(&error) != nullptr, isNetwork);
+        QCOMPARE(error == Success, isNetwork);
+    }
+    QCOMPARE(kinds, (std::multiset<int32_t>{TransportCustom, TransportCustom, TransportUsb3Vision,
+                                            TransportGigEVision, TransportGigEVision}));
+    QCOMPARE(interfacesOf(*m_system, InterfaceUsb3Vision).size(), size_t(1));
+    QCOMPARE(interfacesOf(*m_system, InterfaceCustom | InterfaceGigEVision).size(), size_t(4));
+    QVERIFY(interfacesOf(*m_system, InterfaceCoaXPress).empty());
+    QCOMPARE(interfacesOf(*m_system), interfacesOf(*m_system));
+}
+
+void TestSimulatedSystem::camerasOfEverySort()
+{
+    std::set<int32_t> states;
+    std::set<std::string> ids;
+    bool isOneEmpty = false;
+    bool isOneNull = false;
+    bool isOneNameless = false;
+    for (Interface *interface : interfacesOf(*m_system)) {
+        bool changed = false;
+        QCOMPARE(interface->RefreshDevices(&changed, 200), int32_t(Success));
+        const Released<DeviceInfoList> list(interface->GetDeviceInfoSet());
+        isOneNull |= !list;
+        isOneEmpty |= list && list->GetCount() == 0;
+        if (!list || list->GetCount() == 0)
+            continue;
+
+        QVERIFY(changed);
+        interface->RefreshDevices(&changed, 200);
+        QVERIFY(!changed);
+        const auto cameras = camerasOf(*interface);
+        QCOMPARE(cameras, camerasOf(*interface));
+        for (DeviceInfo *camera : cameras) {
+            states.insert(camera->GetAccessState());
+            QVERIFY(ids.insert(camera->GetId()).second);
+            QCOMPARE(camera->GetInterface(), interface);
+            QVERIFY(qstrlen(camera->GetDisplayName()) > 0);
+            isOneNameless |= !camera->GetVendor() && !camera->GetModel() && !camera->GetSerial() &&
+                             !camera->GetVersionText() && !camera->GetUserName();
+        }
+    }
+    QCOMPARE(states, (std::set<int32_t>{AccessUnknown, AccessReadWrite, AccessReadOnly, AccessNone,
+                                        AccessSubnetMismatch}));
+    QVERIFY(isOneEmpty && isOneNull && isOneNameless);
+}
+
+void TestSimulatedSystem::networkParameters()
+{
+    OrvGenParam::Array *array = network()->GetParamArray();
+    int32_t error = Success;
+    QCOMPARE(array->GetIntegerValue("GevInterfaceMACAddress", &error), int64_t(0x02005E00000A));
+    QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetIPAddress"), int64_t(0xC000020A));
+    QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetMask"), int64_t(0xFFFFFF00));
+
+    // Before anybody has looked for cameras there is nothing to select.
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(ErrorNotAvailable));
+    array->GetIntegerValue("GevDeviceIPAddress", &error);
+    QCOMPARE(error, int32_t(ErrorNotAvailable));
+
+    const auto cameras = camerasOf(*network());
+    QVERIFY(cameras.size() >= 4);
+    for (size_t row = 0; row < cameras.size(); ++row) {
+        QCOMPARE(array->SetIntegerValue("DeviceSelector", row), int32_t(Success));
+        QCOMPARE(array->GetIntegerValue("GevDeviceMACAddress"), int64_t(0x02005E100001 + row));
+        const bool isElsewhere = cameras[row]->GetAccessState() == AccessSubnetMismatch;
+        const int64_t ip = array->GetIntegerValue("GevDeviceIPAddress");
+        const int64_t mask = array->GetIntegerValue("GevDeviceSubnetMask");
+        QCOMPARE((ip & mask) != 0xC0000200, isElsewhere);
+    }
+    QCOMPARE(array->SetIntegerValue("DeviceSelector", cameras.size()), int32_t(ErrorOutOfRange));
+    QCOMPARE(array->SetIntegerValue("GevDeviceIPAddress", 1), int32_t(ErrorAccessDenied));
+}
+
+void TestSimulatedSystem::forcedAddress()
+{
+    const auto cameras = camerasOf(*network());
+    const auto elsewhere = std::find_if(cameras.begin(), cameras.end(), [](DeviceInfo *camera) {
+        return camera->GetAccessState() == AccessSubnetMismatch;
+    });
+    QVERIFY(elsewhere != cameras.end());
+    int32_t error = Success;
+    QVERIFY(!OrvCam_CreateDevice(*elsewhere, &error, AccessControl));
+    QCOMPARE(error, int32_t(ErrorWrongSubnet));
+
+    OrvGenParam::Array *array = network()->GetParamArray();
+    array->SetIntegerValue("DeviceSelector", elsewhere - cameras.begin());
+    QCOMPARE(array->GetIntegerValue("GevDeviceForceGateway"),
+             array->GetIntegerValue("GevDeviceGateway"));
+    QCOMPARE(array->SetIntegerValue("GevDeviceForceIPAddress", 0xC0000240), int32_t(Success));
+    QCOMPARE(array->SetIntegerValue("GevDeviceForceSubnetMask", 0xFFFFFF00), int32_t(Success));
+
+    // What is to be forced on one camera is not what is to be forced on another.
+    array->SetIntegerValue("DeviceSelector", 0);
+    QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"),
+             array->GetIntegerValue("GevDeviceIPAddress"));
+    array->SetIntegerValue("DeviceSelector", elsewhere - cameras.begin());
+
+    QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(Success));
+    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0xC0000240));
+    QCOMPARE((*elsewhere)->GetAccessState(), int32_t(AccessReadWrite));
+    QCOMPARE(camerasOf(*network()), cameras);
+    const Released<Device> device(OrvCam_CreateDevice(*elsewhere, &error, AccessControl));
+    QVERIFY(device);
+    QCOMPARE(device->GetParamArray()->GetIntegerValue("GevCurrentIPAddress"), int64_t(0xC0000240));
+
+    QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(ErrorAccessDenied));
+}
+
+void TestSimulatedSystem::openAndClose()
+{
+    const auto cameras = camerasOf(*network());
+    int32_t error = ErrorFailed;
+    Released<Device> first(OrvCam_CreateDevice(cameras[0], &error, AccessControl));
+    QVERIFY(first);
+    QCOMPARE(error, int32_t(Success));
+    QVERIFY(first->IsConnected());
+    QCOMPARE(first->GetDeviceInfo(), cameras[0]);
+
+    QVERIFY(!OrvCam_CreateDevice(cameras[0], &error, AccessControl));
+    QCOMPARE(error, int32_t(ErrorBusy));
+    const Released<Device> second(OrvCam_CreateDevice(cameras[1], nullptr, AccessControl));
+    QVERIFY(second);
+
+    OrvGenParam::Array *array = first->GetParamArray(&error);
+    QVERIFY(array);
+    QCOMPARE(error, int32_t(Success));
+    const int64_t width = array->GetIntegerValue("Width", &error);
+    QVERIFY(error == Success && width > 0);
+    QCOMPARE(
+        QString::fromUtf8(second->GetParamArray()->GetString("DeviceUserDefinedName")->GetValue()),
+        QStringLiteral("Inspection"));
+
+    // The list tells what this program has opened.
+    network()->RefreshDevices(nullptr, 200);
+    QCOMPARE(cameras[0]->GetAccessState(), int32_t(AccessNone));
+    first.reset();
+    network()->RefreshDevices(nullptr, 200);
+    QCOMPARE(cameras[0]->GetAccessState(), int32_t(AccessReadWrite));
+    first.reset(OrvCam_CreateDevice(cameras[0], &error, AccessControl));
+    QVERIFY(first);
+}
+
+void TestSimulatedSystem::refusals_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("accessMode");
+    QTest::addColumn<int>("error");
+    QTest::newRow("taken") << int(AccessNone) << int(AccessControl) << int(ErrorBusy);
+    QTest::newRow("elsewhere") << int(AccessSubnetMismatch) << int(AccessMonitor)
+                               << int(ErrorWrongSubnet);
+    QTest::newRow("controlled by others")
+        << int(AccessReadOnly) << int(AccessControl) << int(ErrorBusy);
+    QTest::newRow("no such mode") << int(AccessReadWrite) << 7 << int(ErrorInvalidArgument);
+    QTest::newRow("no camera") << -1 << int(AccessControl) << int(ErrorInvalidArgument);
+}
+
+void TestSimulatedSystem::refusals()
+{
+    QFETCH(int, state);
+    QFETCH(int, accessMode);
+    QFETCH(int, error);
+    int32_t code = Success;
+    QVERIFY(!OrvCam_CreateDevice(cameraInState(state), &code, accessMode));
+    QCOMPARE(code, int32_t(error));
+    QVERIFY(!OrvCam_CreateDevice(cameraInState(state), nullptr, accessMode));
+}
+
+void TestSimulatedSystem::readOnlyDevice()
+{
+    int32_t error = Success;
+    const Released<Device> device(
+        OrvCam_CreateDevice(cameraInState(AccessReadOnly), &error, AccessMonitor));
+    QVERIFY(device);
+    OrvGenParam::Array *array = device->GetParamArray();
+    QVERIFY(array->GetIntegerValue("Width", &error) > 0);
+    QVERIFY(!array->GetInt("Width")->IsWritable());
+    QCOMPARE(array->SetIntegerValue("Width", array->GetInt("Width")->GetMin()),
+             int32_t(ErrorAccessDenied));
+    QVERIFY(array->ExecuteCommand("TriggerSoftware") != Success);
+}
+
+void TestSimulatedSystem::deviceOutlivesSystem()
+{
+    DeviceInfo *info = camerasOf(*network()).front();
+    const std::string name = info->GetDisplayName();
+    const Released<Device> device(OrvCam_CreateDevice(info, nullptr, AccessControl));
+    m_system.reset();
+    QVERIFY(device->GetParamArray()->GetIntegerValue("Width") > 0);
+    QCOMPARE(device->GetDeviceInfo()->GetDisplayName(), name.c_str());
+    QVERIFY(device->GetDeviceInfo()->GetInterface()->GetDescription());
+}
+
+void TestSimulatedSystem::isAlive()
+{
+    class Counter : public OrvGenParam::ParamEventSink
+    {
+    public:
+        void OnParameterUpdate(OrvGenParam::Param *) override { ++count; }
+        int count = 0;
+    };
+    const Released<Device> device(
+        OrvCam_CreateDevice(camerasOf(*network()).front(), nullptr, AccessControl));
+    Counter counter;
+    device->GetParamArray()->GetParam("CurrentTemperature")->RegisterEventSink(&counter);
+    QTRY_VERIFY(counter.count >= 2);
+}
+
+QTEST_GUILESS_MAIN(TestSimulatedSystem)
+#include "tst_simulatedsystem.moc"

@@ -1,0 +1,515 @@
+// SPDX-License-Identifier: MIT
+#include <memorynodemap.h>
+
+#include <QtTest>
+
+#include <atomic>
+#include <thread>
+
+using namespace GenApi;
+using namespace OrvGenApi;
+
+namespace {
+
+/// What the callbacks of a test were called with, in order.
+struct Recorder
+{
+    QStringList calls;
+
+    void note(INode *node) { calls << QString::fromUtf8(node->GetName().c_str()); }
+};
+
+template<typename Exception, typename Function>
+bool throws(Function function)
+{
+    try {
+        function();
+    } catch (const Exception &) {
+        return true;
+    } catch (...) {
+    }
+    return false;
+}
+
+} // namespace
+
+/// What all node maps have in common, shown with one whose nodes are declared here.
+class TestNodes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void stringsAndPointers();
+    void namesAndOrder();
+    void integerChecks_data();
+    void integerChecks();
+    void floatChecks_data();
+    void floatChecks();
+    void enumerationChecks();
+    void stringAndRegisterChecks();
+    void texts_data();
+    void texts();
+    void floatTexts();
+    void imposedRestrictions();
+    void valuesAreReadOnce();
+    void failuresAreReadOnce();
+    void uncachedValuesAreReadEveryTime();
+    void writesInvalidateDependents();
+    void callbacksRunOncePerChange();
+    void callbackTypes();
+    void failedWritesCallNothing();
+    void callbacksMayDeregister();
+    void deregistrationWaitsForOtherThreads();
+    void polling();
+    void selectors();
+};
+
+void TestNodes::stringsAndPointers()
+{
+    const GenICam::gcstring text("Gr\xc3\xb6\xc3\x9f"
+                                 "e\0x",
+                                 9);
+    QCOMPARE(text.length(), std::size_t(9));
+    QVERIFY(GenICam::gcstring(nullptr).empty());
+    QVERIFY(GenICam::gcstring("a") + "b" == "ab" && GenICam::gcstring("a") != "b");
+
+    MemoryNodeMap map;
+    map.addInteger("Width");
+    CIntegerPtr integer(map.GetNode("Width"));
+    CFloatPtr real(map.GetNode("Width"));
+    QVERIFY(integer.IsValid() && integer && !real.IsValid());
+    QVERIFY(throws<GenICam::LogicalErrorException>([&] { real->GetValue(); }));
+    QVERIFY(throws<GenICam::LogicalErrorException>(
+        [&] { static_cast<void>(static_cast<IFloat *>(real)); }));
+    try {
+        *real;
+        QFAIL("a null pointer was dereferenced");
+    } catch (const GenICam::GenericException &e) {
+        QCOMPARE(e.GetDescription(), "NULL pointer dereferenced");
+    }
+}
+
+void TestNodes::namesAndOrder()
+{
+    MemoryNodeMap map("Device");
+    map.addInteger("B", 0, "Second");
+    map.addInteger("A", 0, "First").properties().nameSpace = Standard;
+    map.category("Second").addFeature(*map.node("A"));
+    map.addInteger("Hidden", 0, "");
+
+    FeatureList_t features;
+    CCategoryPtr(map.GetNode("Root"))->GetFeatures(features);
+    QCOMPARE(features.size(), std::size_t(2));
+    QCOMPARE(features[0]->GetNode()->GetName().c_str(), "Second");
+    CCategoryPtr(map.GetNode("Second"))->GetFeatures(features);
+    QCOMPARE(features.size(), std::size_t(2));
+    QCOMPARE(features[1]->GetNode()->GetName().c_str(), "A");
+
+    QVERIFY(map.GetNode("Std::A") == map.GetNode("A") && map.GetNode("A"));
+    QVERIFY(!map.GetNode("Cust::A") && map.GetNode("Cust::B") && !map.GetNode("C"));
+    QCOMPARE(map.GetNode("A")->GetName(true).c_str(), "Std::A");
+    QVERIFY(map.GetNode("A")->IsFeature() && !map.GetNode("Hidden")->IsFeature());
+    QVERIFY(throws<GenICam::LogicalErrorException>([&] { map.addInteger("A"); }));
+}
+
+void TestNodes::integerChecks_data()
+{
+    QTest::addColumn<qint64>("value");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("minimum") << qint64(-4) << true;
+    QTest::newRow("on the increment") << qint64(8) << true;
+    QTest::newRow("off the increment") << qint64(9) << false;
+    QTest::newRow("below") << qint64(-8) << false;
+    QTest::newRow("above") << qint64(104) << false;
+    QTest::newRow("far below") << std::numeric_limits<qint64>::min() << false;
+}
+
+void TestNodes::integerChecks()
+{
+    QFETCH(qint64, value);
+    QFETCH(bool, valid);
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width", 0);
+    node.setLimits(-4, 100);
+    node.setIncrement(4);
+    QCOMPARE(!throws<GenICam::OutOfRangeException>([&] { node.SetValue(value); }), valid);
+    QCOMPARE(node.GetValue(), valid ? value : 0);
+    node.SetValue(value, false);
+    QCOMPARE(node.GetValue(), value);
+    QCOMPARE(throws<GenICam::OutOfRangeException>([&] { node.GetValue(true); }), !valid);
+
+    // The whole range of the type, where differences overflow.
+    node.setLimits(INT64_MIN, INT64_MAX);
+    node.setIncrement(2);
+    node.SetValue(INT64_MAX - 1);
+    QVERIFY(throws<GenICam::OutOfRangeException>([&] { node.SetValue(INT64_MAX); }));
+}
+
+void TestNodes::floatChecks_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("inexact multiple") << 0.3 << true;
+    QTest::newRow("off the increment") << 0.35 << false;
+    QTest::newRow("above") << 1.1 << false;
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << false;
+    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << false;
+}
+
+void TestNodes::floatChecks()
+{
+    QFETCH(double, value);
+    QFETCH(bool, valid);
+    MemoryNodeMap map;
+    auto &node = map.addFloat("Gain", 0);
+    node.setLimits(0, 1);
+    node.setIncrement(0.1);
+    QCOMPARE(!throws<GenICam::OutOfRangeException>([&] { node.SetValue(value); }), valid);
+    QCOMPARE(node.GetIncMode(), fixedIncrement);
+    node.setValidValues({0.35, 2});
+    QCOMPARE(node.GetIncMode(), listIncrement);
+    node.SetValue(0.35);
+    QVERIFY(throws<GenICam::OutOfRangeException>([&] { node.SetValue(0.3); }));
+    QCOMPARE(node.GetListOfValidValues(true).size(), std::size_t(1));
+    QCOMPARE(node.GetListOfValidValues(false).size(), std::size_t(2));
+}
+
+void TestNodes::enumerationChecks()
+{
+    MemoryNodeMap map;
+    auto &node = map.addEnumeration("Mode", {{"Off", 0}, {"On", 5}, {"Auto", 7}}, 5);
+    QCOMPARE(node.ToString().c_str(), "On");
+    node.FromString("Auto");
+    QCOMPARE(node.GetIntValue(), int64_t(7));
+    QVERIFY(throws<GenICam::InvalidArgumentException>([&] { node.FromString("auto"); }));
+    QVERIFY(throws<GenICam::OutOfRangeException>([&] { node.SetIntValue(1); }));
+
+    node.entry("Off").setAccessMode(NA);
+    QVERIFY(throws<GenICam::AccessException>([&] { node.FromString("Off"); }));
+    StringList_t symbolics;
+    node.GetSymbolics(symbolics);
+    QCOMPARE(symbolics.size(), std::size_t(2));
+    NodeList_t entries;
+    node.GetEntries(entries);
+    QCOMPARE(entries.size(), std::size_t(3));
+    QCOMPARE(entries[0]->GetName().c_str(), "EnumEntry_Mode_Off");
+
+    node.change(99);
+    QVERIFY(!node.GetCurrentEntry());
+    QVERIFY(throws<GenICam::OutOfRangeException>([&] { node.ToString(); }));
+}
+
+void TestNodes::stringAndRegisterChecks()
+{
+    MemoryNodeMap map;
+    auto &text = map.addString("UserName", "old");
+    text.setMaxLength(4);
+    QVERIFY(throws<GenICam::OutOfRangeException>([&] { text.SetValue("five!"); }));
+    QCOMPARE(text.GetValue().c_str(), "old");
+    text.SetValue("four");
+    QCOMPARE(text.GetValue().c_str(), "four");
+
+    auto &bytes = map.addRegister("Table", {1, 2, 3});
+    bytes.FromString("0xff00");
+    QCOMPARE(bytes.ToString().c_str(), "0xff0003");
+    QVERIFY(throws<GenICam::InvalidArgumentException>([&] { bytes.FromString("0xf"); }));
+    QVERIFY(throws<GenICam::InvalidArgumentException>([&] { bytes.FromString("zz"); }));
+    QVERIFY(throws<GenICam::OutOfRangeException>([&] { bytes.FromString("01020304"); }));
+    QCOMPARE(bytes.ToString().c_str(), "0xff0003");
+}
+
+void TestNodes::texts_data()
+{
+    QTest::addColumn<int>("representation");
+    QTest::addColumn<qint64>("value");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("decimal") << int(PureNumber) << qint64(-17) << "-17";
+    QTest::newRow("hexadecimal") << int(HexNumber) << qint64(255) << "0xFF";
+    QTest::newRow("negative hexadecimal") << int(HexNumber) << qint64(-1) << "0xFFFFFFFFFFFFFFFF";
+    QTest::newRow("address") << int(IPV4Address) << qint64(0xC0A80102) << "192.168.1.2";
+    QTest::newRow("MAC") << int(MACAddress) << qint64(0x11AABBCCDD) << "00:11:AA:BB:CC:DD";
+}
+
+void TestNodes::texts()
+{
+    QFETCH(int, representation);
+    QFETCH(qint64, value);
+    QFETCH(QString, text);
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Number", value);
+    node.setRepresentation(static_cast<ERepresentation>(representation));
+    QCOMPARE(QString(node.ToString().c_str()), text);
+    node.change(0);
+    node.FromString(text.toUtf8().constData());
+    QCOMPARE(node.GetValue(), value);
+    for (const char *wrong : {"", "x", "1.2.3", "1.2.3.256", "0x", "12 3", "1:2", "1e3"})
+        QVERIFY2(throws<GenICam::InvalidArgumentException>([&] { node.FromString(wrong); }), wrong);
+    QCOMPARE(node.GetValue(), value);
+}
+
+void TestNodes::floatTexts()
+{
+    MemoryNodeMap map;
+    auto &node = map.addFloat("Number", 1234.5678);
+    QCOMPARE(node.ToString().c_str(), "1234.57");
+    node.setNotation(fnFixed, 2);
+    QCOMPARE(node.ToString().c_str(), "1234.57");
+    node.setNotation(fnScientific, 3);
+    QCOMPARE(node.ToString().c_str(), "1.235e+03");
+    node.FromString(" -2.5e3 ");
+    QCOMPARE(node.GetValue(), -2500.0);
+    QVERIFY(throws<GenICam::InvalidArgumentException>([&] { node.FromString("1,5"); }));
+
+    auto &flag = map.addBoolean("Flag");
+    flag.FromString("true");
+    QCOMPARE(flag.ToString().c_str(), "1");
+    QVERIFY(throws<GenICam::InvalidArgumentException>([&] { flag.FromString("yes"); }));
+}
+
+void TestNodes::imposedRestrictions()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width", 50);
+    node.setLimits(0, 100);
+    node.ImposeMin(10);
+    node.ImposeMax(200);
+    QCOMPARE(node.GetMin(), int64_t(10));
+    QCOMPARE(node.GetMax(), int64_t(100));
+    node.ImposeAccessMode(RO);
+    QCOMPARE(node.GetAccessMode(), RO);
+    QVERIFY(throws<GenICam::AccessException>([&] { node.SetValue(20); }));
+    node.setAccessMode(WO);
+    QCOMPARE(node.GetAccessMode(), NA);
+    node.properties().visibility = Guru;
+    node.ImposeVisibility(Expert);
+    QCOMPARE(node.GetVisibility(), Guru);
+}
+
+void TestNodes::valuesAreReadOnce()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width", 7);
+    QVERIFY(!node.IsValueCacheValid());
+    node.GetValue();
+    node.GetValue();
+    node.ToString();
+    QCOMPARE(node.reads(), 1);
+    QVERIFY(node.IsValueCacheValid());
+    node.GetValue(false, true);
+    QCOMPARE(node.reads(), 2);
+    node.InvalidateNode();
+    node.GetValue();
+    QCOMPARE(node.reads(), 3);
+}
+
+void TestNodes::failuresAreReadOnce()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width", 7);
+    node.onRead([] { throw GenICam::TimeoutException("no answer", "", 0); });
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(throws<GenICam::TimeoutException>([&] { node.GetValue(); }));
+    QCOMPARE(node.reads(), 1);
+    node.onRead({});
+    map.InvalidateNodes();
+    QCOMPARE(node.GetValue(), int64_t(7));
+}
+
+void TestNodes::uncachedValuesAreReadEveryTime()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Counter", 7);
+    node.properties().cachingMode = NoCache;
+    node.GetValue();
+    node.GetValue();
+    QCOMPARE(node.reads(), 2);
+    QVERIFY(!node.IsCachable() && !node.IsValueCacheValid());
+}
+
+void TestNodes::writesInvalidateDependents()
+{
+    MemoryNodeMap map;
+    auto &source = map.addInteger("Source");
+    auto &middle = map.addInteger("Middle");
+    auto &last = map.addInteger("Last");
+    auto &other = map.addInteger("Other");
+    middle.dependsOn(source);
+    last.dependsOn(middle);
+    source.dependsOn(last); // a circle of invalidation is harmless
+    for (auto *node : {&source, &middle, &last, &other})
+        node->GetValue();
+    source.SetValue(1);
+    for (auto *node : {&source, &middle, &last, &other})
+        node->GetValue();
+    QCOMPARE(last.reads(), 2);
+    QCOMPARE(middle.reads(), 2);
+    QCOMPARE(other.reads(), 1);
+
+    NodeList_t depending;
+    source.GetChildren(depending, ctDependingNodes);
+    QCOMPARE(depending.size(), std::size_t(2));
+}
+
+void TestNodes::callbacksRunOncePerChange()
+{
+    MemoryNodeMap map;
+    auto &source = map.addInteger("Source");
+    auto &a = map.addInteger("A");
+    auto &b = map.addInteger("B");
+    auto &both = map.addInteger("Both");
+    a.dependsOn(source);
+    b.dependsOn(source);
+    both.dependsOn(a);
+    both.dependsOn(b);
+    Recorder recorder;
+    for (auto *node : {&source, &a, &b, &both}) {
+        Register(node, recorder, &Recorder::note, cbPostInsideLock);
+        Register(node, recorder, &Recorder::note, cbPostOutsideLock);
+    }
+    source.SetValue(3);
+    QCOMPARE(recorder.calls, QStringList({"Source", "A", "B", "Both", "Source", "A", "B", "Both"}));
+    recorder.calls.clear();
+    both.SetValue(1);
+    QCOMPARE(recorder.calls, QStringList({"Both", "Both"}));
+    recorder.calls.clear();
+    a.InvalidateNode();
+    QCOMPARE(recorder.calls, QStringList());
+}
+
+void TestNodes::callbackTypes()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width");
+    QList<bool> locked;
+    const auto note = [&](INode *) { locked << map.GetLock().IsHeldByThisThread(); };
+    Register(&node, note, cbPostOutsideLock);
+    Register(&node, note); // inside the lock unless asked otherwise
+    node.SetValue(1);
+    QCOMPARE(locked, QList<bool>({true, false}));
+
+    // A write from inside a callback: its callbacks that want the lock released wait for that.
+    auto &second = map.addInteger("Second");
+    Recorder recorder;
+    Register(&second, recorder, &Recorder::note, cbPostOutsideLock);
+    Register(&node, [&](INode *) {
+        second.SetValue(5);
+        QVERIFY(recorder.calls.isEmpty());
+    });
+    node.SetValue(2);
+    QCOMPARE(recorder.calls, QStringList("Second"));
+}
+
+void TestNodes::failedWritesCallNothing()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width", 1);
+    Recorder recorder;
+    Register(&node, recorder, &Recorder::note);
+    node.GetValue();
+    node.onWrite([] { throw GenICam::AccessException("refused", "", 0); });
+    QVERIFY(throws<GenICam::AccessException>([&] { node.SetValue(2); }));
+    QCOMPARE(recorder.calls, QStringList());
+    QCOMPARE(node.GetValue(), int64_t(1));
+    QCOMPARE(node.reads(), 2); // something may have got through: the camera is asked again
+    QVERIFY(!map.GetLock().IsHeldByThisThread());
+}
+
+void TestNodes::callbacksMayDeregister()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width");
+    CallbackHandleType first = 0;
+    CallbackHandleType second = 0;
+    int calls = 0;
+    first = Register(&node, [&](INode *) {
+        ++calls;
+        Deregister(first);
+        Deregister(second);
+        Register(&node, [&](INode *) { calls += 100; });
+    });
+    second = Register(&node, [&](INode *) { calls += 10; });
+    Register(&node, [](INode *) { throw GenICam::RuntimeException("of a client", "", 0); });
+    node.SetValue(1);
+    QCOMPARE(calls, 1);
+    node.SetValue(2);
+    QCOMPARE(calls, 101);
+    QVERIFY(!node.DeregisterCallback(first));
+    Deregister(0);
+}
+
+void TestNodes::deregistrationWaitsForOtherThreads()
+{
+    MemoryNodeMap map;
+    auto &node = map.addInteger("Width");
+    std::atomic<bool> entered{false};
+    std::atomic<bool> left{false};
+    const CallbackHandleType handle = Register(
+        &node,
+        [&](INode *) {
+            entered = true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            left = true;
+        },
+        cbPostOutsideLock);
+    std::thread writer([&] { node.SetValue(1); });
+    while (!entered)
+        std::this_thread::yield();
+    Deregister(handle);
+    const bool leftBefore = left;
+    writer.join();
+    QVERIFY(leftBefore);
+}
+
+void TestNodes::polling()
+{
+    MemoryNodeMap map;
+    auto &slow = map.addInteger("Slow");
+    auto &fast = map.addInteger("Fast");
+    auto &dependent = map.addInteger("Dependent");
+    map.addInteger("Never");
+    slow.properties().pollingTime = 1000;
+    fast.properties().pollingTime = 300;
+    dependent.dependsOn(fast);
+    Recorder recorder;
+    for (const auto &node : map.nodes())
+        Register(node.get(), recorder, &Recorder::note);
+    for (auto *node : {&slow, &fast, &dependent})
+        node->GetValue();
+
+    map.Poll(200);
+    QCOMPARE(recorder.calls, QStringList());
+    QCOMPARE(fast.IsValueCacheValid(), true);
+    map.Poll(100);
+    QCOMPARE(recorder.calls, QStringList({"Fast", "Dependent"}));
+    QVERIFY(!fast.IsValueCacheValid() && !dependent.IsValueCacheValid());
+    QVERIFY(slow.IsValueCacheValid());
+    recorder.calls.clear();
+    map.Poll(700);
+    QCOMPARE(recorder.calls, QStringList({"Slow", "Fast", "Dependent"}));
+}
+
+void TestNodes::selectors()
+{
+    MemoryNodeMap map;
+    std::map<int64_t, int64_t> values = {{0, 10}, {1, 20}};
+    auto &selector = map.addEnumeration("Selector", {{"A", 0}, {"B", 1}});
+    auto &value = map.addInteger("Value");
+    value.bind([&] { return values[selector.GetIntValue()]; },
+               [&](const int64_t &v) { values[selector.GetIntValue()] = v; });
+    selector.select(value);
+    QCOMPARE(value.GetValue(), int64_t(10));
+    selector.FromString("B");
+    QCOMPARE(value.GetValue(), int64_t(20));
+    value.SetValue(21);
+    selector.FromString("A");
+    QCOMPARE(value.GetValue(), int64_t(10));
+
+    FeatureList_t features;
+    selector.GetSelectedFeatures(features);
+    QVERIFY(selector.IsSelector() && features.size() == 1 && features[0]->GetNode() == &value);
+    value.GetSelectingFeatures(features);
+    QVERIFY(!value.IsSelector() && features.size() == 1);
+}
+
+QTEST_GUILESS_MAIN(TestNodes)
+#include "tst_nodes.moc"

@@ -1,0 +1,456 @@
+// SPDX-License-Identifier: MIT
+#include "qtorvdoubleslider.h"
+#include "qtorvdoublespinboxval.h"
+#include "qtorvgainslider.h"
+#include "qtorvslider.h"
+#include "qtorvsliderspinbox.h"
+#include "qtorvspinbox.h"
+#include "qtorvspinboxval.h"
+
+#include <QAccessible>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+template<class Widget>
+using Number = decltype(std::declval<Widget>().value());
+
+template<class Widget>
+class ValueSpy : public QSignalSpy
+{
+public:
+    explicit ValueSpy(Widget *widget)
+        : QSignalSpy(widget, static_cast<void (Widget::*)(Number<Widget>)>(&Widget::valueChanged))
+    {
+    }
+};
+
+template<class Widget>
+class TextSpy : public QSignalSpy
+{
+public:
+    explicit TextSpy(Widget *widget)
+        : QSignalSpy(widget, static_cast<void (Widget::*)(const QString &)>(&Widget::valueChanged))
+    {
+    }
+};
+
+template<class Widget>
+QSlider *innerSlider(const Widget &widget)
+{
+    return widget.slider()->slider();
+}
+
+QAccessibleInterface *accessible(QWidget *widget)
+{
+    return QAccessible::queryAccessibleInterface(widget);
+}
+
+} // namespace
+
+class TestCompounds : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void passOnTheRange();
+    void followTheSliderInSilence();
+    void showCaptions();
+    void treatSteps();
+    void treatPositionsOffTheGrid();
+    void keepWhatTheSliderCannotShow();
+    void keepWhatTheGainSliderCannotShow();
+    void saveTheLastWordForASlot();
+    void hideTheButtonWhenReadOnly();
+    void popUpTheSlider();
+    void takeLeaveWithTextPending();
+    void takeEveryPropertyBack();
+    void speakUp();
+
+private:
+    template<class Widget>
+    void checkRange();
+    template<class Widget>
+    void checkDragging();
+    template<class Widget>
+    void checkCaptions();
+};
+
+template<class Widget>
+void TestCompounds::checkRange()
+{
+    using T = Number<Widget>;
+    Widget widget;
+    QCOMPARE(widget.spinBox()->minimum(), T(0));
+    QCOMPARE(widget.spinBox()->maximum(), T(100));
+    QCOMPARE(widget.spinBox()->objectName(), QStringLiteral("spinbox"));
+
+    QSignalSpy ranges(&widget, &Widget::rangeChanged);
+    widget.setRange(10, 20);
+    QCOMPARE(ranges, (QList<QVariantList>{{T(10), T(20)}}));
+    QCOMPARE(widget.spinBox()->minimum(), T(10));
+    QCOMPARE(widget.spinBox()->maximum(), T(20));
+    QCOMPARE(widget.value(), T(10));
+    widget.setRange(10, 20);
+    QCOMPARE(ranges.count(), 1);
+    widget.setMinimum(12);
+    widget.slider()->setMaximum(30);
+    QCOMPARE(ranges.last(), (QVariantList{T(12), T(30)}));
+    QCOMPARE(widget.spinBox()->maximum(), T(30));
+}
+
+void TestCompounds::passOnTheRange()
+{
+    checkRange<QtOrvSpinBox>();
+    checkRange<QtOrvSliderSpinBox>();
+    checkRange<QtOrvGainSlider>();
+}
+
+template<class Widget>
+void TestCompounds::checkDragging()
+{
+    using T = Number<Widget>;
+    Widget widget;
+    ValueSpy<Widget> values(&widget);
+    TextSpy<Widget> texts(&widget);
+
+    innerSlider(widget)->setSliderDown(true);
+    for (const int position : {1, 20, 50}) {
+        innerSlider(widget)->setSliderPosition(position);
+        QCOMPARE(widget.value(), T(position));
+    }
+    innerSlider(widget)->setSliderDown(false);
+    QCOMPARE(values.count() + texts.count(), 0);
+
+    widget.spinBox()->selectAll();
+    QTest::keyClicks(widget.spinBox(), QStringLiteral("60"));
+    QCOMPARE(values, (QList<QVariantList>{{T(6)}, {T(60)}}));
+    QCOMPARE(texts.last(), QVariantList{QStringLiteral("60")});
+    QCOMPARE(innerSlider(widget)->value(), 60);
+
+    innerSlider(widget)->setValue(61);
+    QCOMPARE(values.last(), QVariantList{T(61)});
+    QCOMPARE(texts.last(), QVariantList{widget.spinBox()->text()});
+    QCOMPARE(values.count(), 3);
+}
+
+void TestCompounds::followTheSliderInSilence()
+{
+    checkDragging<QtOrvSpinBox>();
+    checkDragging<QtOrvSliderSpinBox>();
+    checkDragging<QtOrvGainSlider>();
+}
+
+template<class Widget>
+void TestCompounds::checkCaptions()
+{
+    Widget widget;
+    QVERIFY(!widget.leftLabel() && !widget.topLabel());
+    QVERIFY(widget.leftLabelText().isEmpty() && widget.topLabelText().isEmpty());
+    widget.setLeftLabelText(QString());
+    QVERIFY(widget.leftLabel()->isHidden());
+    widget.setLeftLabelText(QStringLiteral("Delay:"));
+    widget.setTopLabelText(QStringLiteral("Strobe"));
+    widget.resize(300, 200);
+    widget.show();
+    QVERIFY(widget.leftLabel()->isVisible() && widget.topLabel()->isVisible());
+    QCOMPARE(widget.leftLabelText(), QStringLiteral("Delay:"));
+
+    // To the left of everything, and above it.
+    const QPoint left = widget.leftLabel()->geometry().center();
+    const QRect box(widget.spinBox()->geometry());
+    QVERIFY(left.x() < box.left() && left.y() > box.top() && left.y() < box.bottom());
+    const QRect top = widget.topLabel()->geometry();
+    QVERIFY(top.bottom() < box.top() && top.top() > 20);
+    QVERIFY(box.bottom() < widget.height() - 20);
+
+    const int items = widget.layout()->count();
+    widget.setTopLabelText(QString());
+    widget.setTopLabelText(QStringLiteral("Again"));
+    QCOMPARE(widget.layout()->count(), items);
+    widget.setLeftLabelText(QString());
+    QVERIFY(widget.leftLabel()->isHidden());
+}
+
+void TestCompounds::showCaptions()
+{
+    checkCaptions<QtOrvSpinBox>();
+    checkCaptions<QtOrvSliderSpinBox>();
+    checkCaptions<QtOrvGainSlider>();
+}
+
+void TestCompounds::treatSteps()
+{
+    QtOrvSliderSpinBox widget;
+    widget.setSingleStep(8);
+    widget.setValidate(true);
+    widget.setValidateTyping(false);
+    QVERIFY(widget.slider()->validate() && widget.spinBox()->validate());
+    QVERIFY(!widget.spinBox()->validateTyping());
+    QCOMPARE(widget.slider()->singleStep(), 8);
+    widget.setValue(13);
+    QCOMPARE(widget.value(), 16);
+    QCOMPARE(widget.slider()->value(), 16);
+
+    // A step that the spin box has already goes no further.
+    widget.slider()->setSingleStep(5);
+    widget.setSingleStep(8);
+    QCOMPARE(widget.slider()->singleStep(), 5);
+
+    QtOrvGainSlider gain;
+    gain.setDecimals(1);
+    QCOMPARE(gain.slider()->decimals(), 1);
+    QCOMPARE(gain.spinBox()->decimals(), 1);
+}
+
+void TestCompounds::treatPositionsOffTheGrid()
+{
+    QtOrvSpinBox popUp;
+    QtOrvSliderSpinBox beside;
+    popUp.setSingleStep(8);
+    popUp.setValidate(true);
+    beside.setSingleStep(8);
+    beside.setValidate(true);
+
+    // Only one of the two snaps what the slider says while it is dragged.
+    innerSlider(popUp)->setSliderDown(true);
+    innerSlider(popUp)->setSliderPosition(13);
+    innerSlider(popUp)->setSliderDown(false);
+    QCOMPARE(popUp.value(), 13);
+    innerSlider(beside)->setSliderDown(true);
+    innerSlider(beside)->setSliderPosition(13);
+    innerSlider(beside)->setSliderDown(false);
+    QCOMPARE(beside.value(), 16);
+
+    // A click beside the handle: the slider, which snaps, answers, and its answer counts.
+    ValueSpy<QtOrvSpinBox> values(&popUp);
+    innerSlider(popUp)->setValue(26);
+    QCOMPARE(popUp.value(), 24);
+    QCOMPARE(values, (QList<QVariantList>{{24}}));
+}
+
+void TestCompounds::keepWhatTheSliderCannotShow()
+{
+    QtOrvSliderSpinBox widget;
+    widget.slider()->setScaleType(QtOrvSlider::ScaleLog10);
+    widget.setRange(0, 1000000);
+    ValueSpy<QtOrvSliderSpinBox> values(&widget);
+
+    widget.setValue(10000);
+    QCOMPARE(widget.slider()->value(), 9990);
+    QCOMPARE(widget.value(), 10000);
+    QCOMPARE(values, (QList<QVariantList>{{10000}}));
+
+    // A new range or step moves the handle, not the value.
+    widget.setRange(5000, 2000000);
+    widget.setSingleStep(50);
+    QCOMPARE(widget.value(), 10000);
+    QVERIFY(qAbs(widget.slider()->value() - 10000) < 120);
+    QCOMPARE(values.count(), 1);
+    widget.setMinimum(12345);
+    QCOMPARE(widget.value(), 12345);
+    QCOMPARE(values, (QList<QVariantList>{{10000}, {12345}}));
+
+    innerSlider(widget)->setValue(400);
+    QCOMPARE(widget.value(), widget.slider()->value());
+    QCOMPARE(values.last(), QVariantList{widget.value()});
+}
+
+void TestCompounds::keepWhatTheGainSliderCannotShow()
+{
+    QtOrvGainSlider widget;
+    widget.setRange(0.0, 1.0);
+    widget.setSingleStep(0.25);
+    ValueSpy<QtOrvGainSlider> values(&widget);
+    widget.setValue(0.6);
+    QCOMPARE(widget.value(), 0.6);
+    QCOMPARE(innerSlider(widget)->value(), 2);
+    QCOMPARE(values, (QList<QVariantList>{{0.6}}));
+    innerSlider(widget)->setValue(3);
+    QCOMPARE(widget.value(), 0.75);
+}
+
+// A camera refuses or rounds what it is given and says so at once.
+void TestCompounds::saveTheLastWordForASlot()
+{
+    QtOrvSliderSpinBox widget;
+    QList<int> written;
+    connect(&widget,
+            static_cast<void (QtOrvSliderSpinBox::*)(int)>(&QtOrvSliderSpinBox::valueChanged),
+            &widget, [&](int value) {
+                written << value;
+                widget.setValue(value - value % 10);
+            });
+    widget.setValue(47);
+    QCOMPARE(widget.value(), 40);
+    QCOMPARE(innerSlider(widget)->value(), 40);
+    QCOMPARE(written, (QList<int>{47, 40}));
+}
+
+void TestCompounds::hideTheButtonWhenReadOnly()
+{
+    QtOrvSpinBox widget;
+    QVERIFY(widget.isSliderButtonVisible());
+    QCOMPARE(widget.toolButton()->text(), QStringLiteral("^"));
+    widget.show();
+    widget.toolButton()->click();
+    QVERIFY(widget.slider()->isVisible());
+    widget.setReadOnly(true);
+    QVERIFY(widget.isReadOnly() && widget.spinBox()->isReadOnly());
+    QVERIFY(!widget.isSliderButtonVisible() && !widget.slider()->isVisible());
+    widget.setReadOnly(false);
+    QVERIFY(widget.isSliderButtonVisible());
+    widget.setSliderButtonVisible(false);
+    QVERIFY(!widget.toolButton()->isVisible());
+}
+
+void TestCompounds::popUpTheSlider()
+{
+    QWidget window;
+    QtOrvSpinBox widget(Qt::Horizontal, &window);
+    widget.move(300, 300);
+    window.show();
+    QtOrvSlider *slider = widget.slider();
+    QCOMPARE(slider->windowType(), Qt::ToolTip);
+    QCOMPARE(slider->frameStyle(), int(QFrame::Panel) | int(QFrame::Raised));
+    QCOMPARE(slider->lineWidth(), 2);
+    QCOMPARE(slider->orientation(), Qt::Horizontal);
+    QVERIFY(!slider->isVisible());
+
+    const auto corner = [&] { return widget.toolButton()->mapToGlobal(QPoint(0, 0)); };
+    widget.toolButton()->click();
+    QVERIFY(slider->isVisible());
+    QVERIFY(slider->width() > slider->height());
+    QCOMPARE(slider->pos(), corner() + QPoint(widget.toolButton()->width(), 0));
+    slider->hide();
+
+    widget.setLayoutDirection(Qt::RightToLeft);
+    QCoreApplication::sendPostedEvents();
+    widget.toolButton()->click();
+    QCOMPARE(slider->pos(), corner() - QPoint(slider->width(), 0));
+    QVERIFY(slider->slider()->isRightToLeft());
+    slider->hide();
+
+    widget.setSliderOrientation(Qt::Vertical);
+    widget.resizeSlider(80, 240);
+    widget.toolButton()->click();
+    QCOMPARE(slider->size(), QSize(80, 240));
+    QCOMPARE(slider->pos(), corner() - QPoint(0, 240));
+    widget.setEnabled(false);
+    QVERIFY(!slider->isVisible());
+}
+
+// What was typed counts when the focus leaves, and the focus leaves a widget that is destroyed.
+void TestCompounds::takeLeaveWithTextPending()
+{
+    auto *widget = new QtOrvSliderSpinBox;
+    widget->spinBox()->setKeyboardTracking(false);
+    widget->show();
+    widget->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(widget));
+    widget->spinBox()->setFocus();
+    widget->spinBox()->selectAll();
+    QTest::keyClicks(widget->spinBox(), QStringLiteral("50"));
+    QCOMPARE(widget->value(), 0);
+    delete widget;
+}
+
+void TestCompounds::takeEveryPropertyBack()
+{
+    QtOrvSpinBox spinBox;
+    QtOrvSliderSpinBox sliderSpinBox;
+    QtOrvGainSlider gain;
+    QtOrvSlider slider;
+    QtOrvDoubleSlider real;
+    QtOrvSpinBoxVal box;
+    QtOrvDoubleSpinBoxVal realBox;
+    const QMap<QWidget *, int> expected{{&spinBox, 11}, {&sliderSpinBox, 8}, {&gain, 9},
+                                        {&slider, 11},  {&real, 10},         {&box, 3},
+                                        {&realBox, 3}};
+    for (auto it = expected.begin(); it != expected.end(); ++it) {
+        it.key()->show(); // the labels of a slider are visible only then
+        const QMetaObject *type = it.key()->metaObject();
+        QCOMPARE(type->propertyCount() - type->propertyOffset(), it.value());
+        for (int i = type->propertyOffset(); i < type->propertyCount(); ++i) {
+            const QMetaProperty property = type->property(i);
+            const QVariant before = property.read(it.key());
+            QVariant value = before;
+            switch (static_cast<QMetaType::Type>(value.type())) {
+            case QMetaType::Bool:
+                value = !value.toBool();
+                break;
+            case QMetaType::QString:
+                value = QStringLiteral("text");
+                break;
+            case QMetaType::Double:
+                value = value.toDouble() + 1.0;
+                break;
+            default:
+                value = property.isEnumType() ? QVariant(1) : QVariant(value.toInt() + 1);
+            }
+            QVERIFY2(property.write(it.key(), value), property.name());
+            const QVariant now = property.read(it.key());
+            QVERIFY2(property.isEnumType() ? now.toInt() == 1 : now == value, property.name());
+            if (value.type() == QVariant::Bool || qstrcmp(property.name(), "singleStep") == 0)
+                property.write(it.key(), before); // or the grid would have a say in the value
+        }
+    }
+}
+
+// The widget and the part of it that has the focus tell the same, and the part moves the widget.
+void TestCompounds::speakUp()
+{
+    QtOrvSlider slider;
+    slider.setScaleType(QtOrvSlider::ScaleLog10);
+    slider.setRange(1, 1000);
+    QtOrvDoubleSlider real;
+    QtOrvSpinBox spinBox;
+    spinBox.setLeftLabelText(QStringLiteral("Width"));
+    QtOrvSliderSpinBox sliderSpinBox;
+    sliderSpinBox.setTopLabelText(QStringLiteral("Width"));
+    QtOrvGainSlider gain;
+    QtOrvSpinBoxVal box;
+    QtOrvDoubleSpinBoxVal realBox;
+    for (QWidget *widget : QList<QWidget *>{&slider, &real, &gain, &box, &realBox})
+        widget->setAccessibleName(QStringLiteral("Width"));
+
+    const QList<QPair<QWidget *, QWidget *>> parts{{&slider, slider.slider()},
+                                                   {&real, real.slider()},
+                                                   {&spinBox, spinBox.spinBox()},
+                                                   {&spinBox, spinBox.slider()->slider()},
+                                                   {&sliderSpinBox, sliderSpinBox.spinBox()},
+                                                   {&sliderSpinBox, sliderSpinBox.slider()},
+                                                   {&gain, gain.spinBox()},
+                                                   {&gain, gain.slider()->slider()},
+                                                   {&box, &box},
+                                                   {&realBox, &realBox}};
+    for (const auto &part : parts) {
+        const QByteArray type = part.first->metaObject()->className();
+        for (QWidget *widget : {part.first, part.second}) {
+            QAccessibleInterface *interface = accessible(widget);
+            QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Width"));
+            QVERIFY2(interface->valueInterface(), type);
+            interface->valueInterface()->setCurrentValue(20);
+            QCOMPARE(part.first->property("value").toInt(), 20);
+            QCOMPARE(interface->valueInterface()->currentValue().toInt(), 20);
+            QVERIFY(interface->text(QAccessible::Value).startsWith(QStringLiteral("20")));
+            QCOMPARE(interface->valueInterface()->maximumValue(), part.first->property("maximum"));
+            interface->valueInterface()->setCurrentValue(10);
+        }
+    }
+    QCOMPARE(accessible(slider.slider())->role(), QAccessible::Slider);
+    QCOMPARE(accessible(gain.spinBox())->role(), QAccessible::SpinBox);
+    QAccessibleTextInterface *text = accessible(gain.spinBox())->textInterface();
+    QVERIFY(text);
+    QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("10.000"));
+    QVERIFY(!accessible(spinBox.toolButton())->text(QAccessible::Name).isEmpty());
+}
+
+QTEST_MAIN(TestCompounds)
+#include "tst_compounds.moc"

@@ -1,0 +1,505 @@
+// SPDX-License-Identifier: MIT
+#include "qtorvdoubleslider.h"
+#include "qtorvslider.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace {
+
+constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int highest = std::numeric_limits<int>::max();
+
+// All random cases of a run come from here; the seed is fixed, so that a failure comes back.
+class Random
+{
+public:
+    qint64 between(qint64 low, qint64 high)
+    {
+        return std::uniform_int_distribution<qint64>(low, high)(engine);
+    }
+
+    // As many small numbers as large ones.
+    qint64 ofAnySize(qint64 limit)
+    {
+        const double size = std::pow(static_cast<double>(limit), fraction());
+        return qBound(qint64(1), qint64(size), limit);
+    }
+
+    double fraction() { return std::uniform_real_distribution<>(0.0, 1.0)(engine); }
+
+private:
+    std::mt19937_64 engine{20160715};
+};
+
+} // namespace
+
+class TestSliders : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsOverHundred();
+    void laysItsPartsOut();
+    void mapsValues_data();
+    void mapsValues();
+    void keepsItsPromisesForAnyRange();
+    void bearsEveryInt();
+    void keepsTheValueWhenTheMappingChanges();
+    void announcesChangesOnly();
+
+    void mapsRealValues_data();
+    void mapsRealValues();
+    void keepsItsPromisesForAnyRealRange();
+    void bearsEveryReal();
+    void announcesEveryMoveOfTheRealSlider();
+};
+
+void TestSliders::startsOverHundred()
+{
+    QtOrvSlider slider;
+    QCOMPARE(slider.orientation(), Qt::Vertical);
+    QCOMPARE(slider.scaleType(), QtOrvSlider::ScaleLinear);
+    QCOMPARE(slider.maximum(), 100);
+    QCOMPARE(slider.log10Coef(), 100.0);
+    QVERIFY(!slider.validate());
+    QCOMPARE(slider.minLabel()->text(), QStringLiteral("0"));
+    QCOMPARE(slider.maxLabel()->text(), QStringLiteral("100"));
+    QCOMPARE(slider.focusProxy(), slider.slider());
+
+    QtOrvDoubleSlider real(Qt::Horizontal);
+    QCOMPARE(real.slider()->orientation(), Qt::Horizontal);
+    QCOMPARE(real.minLabel()->text(), QStringLiteral("0.000"));
+    QCOMPARE(real.maxLabel()->text(), QStringLiteral("100.000"));
+    real.setDecimals(1);
+    QCOMPARE(real.maxLabel()->text(), QStringLiteral("100.000"));
+    real.setMaximum(50.0);
+    QCOMPARE(real.maxLabel()->text(), QStringLiteral("50.0"));
+
+    const auto info = [](const QMetaObject &type, const char *key) {
+        return QByteArray(type.classInfo(type.indexOfClassInfo(key)).value());
+    };
+    QCOMPARE(info(QtOrvSlider::staticMetaObject, "version"), QByteArray("1.0.1"));
+    QCOMPARE(info(QtOrvSlider::staticMetaObject, "date"), QByteArray("07/15/16"));
+    QCOMPARE(info(QtOrvDoubleSlider::staticMetaObject, "date"), QByteArray("08/01/16"));
+}
+
+// Whether the parts really stand where the orientation and the direction want them.
+void TestSliders::laysItsPartsOut()
+{
+    QtOrvSlider slider(Qt::Vertical);
+    QVERIFY(!slider.isMaxLabelVisiable());
+    slider.resize(200, 200);
+    slider.show();
+    QVERIFY(slider.isMaxLabelVisiable());
+    QVERIFY(slider.maxLabel()->y() < slider.slider()->y());
+    QVERIFY(slider.slider()->y() < slider.minLabel()->y());
+
+    slider.setOrientation(Qt::Horizontal);
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(slider.slider()->width() > slider.slider()->height());
+    QVERIFY(slider.minLabel()->x() < slider.maxLabel()->x());
+    QVERIFY(slider.minLabel()->y() > slider.slider()->y());
+    QVERIFY(slider.maxLabel()->alignment() & Qt::AlignRight);
+    QCOMPARE(slider.layout()->objectName(), QStringLiteral("layoutV"));
+    QVERIFY(slider.findChild<QLayout *>(QStringLiteral("layoutH")));
+
+    slider.setLayoutDirection(Qt::RightToLeft);
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(slider.minLabel()->x() > slider.maxLabel()->x());
+    QVERIFY(slider.maxLabel()->alignment() & Qt::AlignLeft);
+    QVERIFY(slider.minLabel()->alignment() & Qt::AlignRight);
+
+    slider.setMinLabelVisiable(false);
+    QVERIFY(!slider.isMinLabelVisiable());
+}
+
+void TestSliders::mapsValues_data()
+{
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<double>("coefficient");
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("step"); // 0: without validation
+    QTest::addColumn<int>("innerMinimum");
+    QTest::addColumn<int>("innerMaximum");
+    QTest::addColumn<int>("wanted");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<int>("value");
+
+    const int linear = QtOrvSlider::ScaleLinear;
+    const int log = QtOrvSlider::ScaleLog10;
+    const int root = QtOrvSlider::ScaleSqrt;
+    QTest::newRow("log, lower end")
+        << log << 100.0 << 0 << 1000 << 0 << 100 << 300 << 0 << 100 << 0;
+    QTest::newRow("log, upper end")
+        << log << 100.0 << 0 << 1000 << 0 << 100 << 300 << 1000 << 300 << 1000;
+    QTest::newRow("log, rounded") << log << 100.0 << 0 << 1000 << 0 << 100 << 300 << 503 << 271
+                                  << 503;
+    QTest::newRow("log, shared position")
+        << log << 100.0 << 0 << 1000 << 0 << 100 << 300 << 504 << 271 << 503;
+    QTest::newRow("log, from a minimum of its own")
+        << log << 100.0 << 1000 << 2000 << 0 << 100 << 300 << 1090 << 200 << 1090;
+    QTest::newRow("log, one more position at the end")
+        << log << 10.0 << 0 << 5060 << 0 << 10 << 38 << 5060 << 38 << 5060;
+    QTest::newRow("log, truncated lower end")
+        << log << 99.7 << 0 << 1000 << 0 << 99 << 300 << 0 << 99 << 0;
+    QTest::newRow("log, below the range")
+        << log << 100.0 << 0 << 1000 << 0 << 100 << 300 << -50 << 100 << 0;
+    QTest::newRow("log, snapped") << log << 100.0 << 0 << 1000 << 100 << 100 << 300 << 460 << 271
+                                  << 500;
+    QTest::newRow("root, upper end") << root << 100.0 << 0 << 10 << 0 << 0 << 4 << 10 << 4 << 10;
+    QTest::newRow("root, square") << root << 100.0 << 0 << 10 << 0 << 0 << 4 << 4 << 2 << 4;
+    QTest::newRow("root, rounded") << root << 100.0 << 0 << 10 << 0 << 0 << 4 << 7 << 3 << 9;
+    QTest::newRow("root, square span") << root << 100.0 << 5 << 14 << 0 << 0 << 3 << 14 << 3 << 14;
+    QTest::newRow("down to the grid")
+        << linear << 100.0 << 0 << 100 << 10 << 0 << 100 << 14 << 10 << 10;
+    QTest::newRow("up to the grid")
+        << linear << 100.0 << 0 << 100 << 10 << 0 << 100 << 15 << 20 << 20;
+    QTest::newRow("half of an odd step")
+        << linear << 100.0 << 0 << 100 << 5 << 0 << 100 << 12 << 15 << 15;
+    QTest::newRow("grid from the minimum")
+        << linear << 100.0 << 3 << 100 << 10 << 3 << 100 << 20 << 23 << 23;
+    QTest::newRow("end off the grid")
+        << linear << 100.0 << 0 << 86 << 8 << 0 << 86 << 86 << 86 << 86;
+    QTest::newRow("capped") << linear << 100.0 << 0 << 86 << 8 << 0 << 86 << 85 << 86 << 86;
+}
+
+void TestSliders::mapsValues()
+{
+    QFETCH(int, scale);
+    QFETCH(double, coefficient);
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, step);
+    QFETCH(int, wanted);
+
+    QtOrvSlider slider;
+    slider.setScaleType(static_cast<QtOrvSlider::ScaleType>(scale));
+    slider.setLog10Coef(coefficient);
+    slider.setSingleStep(qMax(step, 1));
+    slider.setValidate(step != 0);
+    slider.setRange(minimum, maximum);
+    QTEST(slider.slider()->minimum(), "innerMinimum");
+    QTEST(slider.slider()->maximum(), "innerMaximum");
+    slider.setValue(wanted);
+    QTEST(slider.slider()->value(), "position");
+    QTEST(slider.value(), "value");
+}
+
+void TestSliders::keepsItsPromisesForAnyRange()
+{
+    Random random;
+    QtOrvSlider slider;
+    int settled = 0;
+    for (int i = 0; i < 3000; ++i) {
+        const qint64 span = random.ofAnySize(qint64(highest) - lowest);
+        const qint64 minimum = random.between(lowest, highest - span);
+        const qint64 maximum = minimum + span;
+        const int step = static_cast<int>(random.ofAnySize(highest));
+        const auto scale = static_cast<QtOrvSlider::ScaleType>(random.between(0, 2));
+        const bool validate = random.between(0, 1);
+        slider.setValidate(validate);
+        slider.setScaleType(scale);
+        slider.setLog10Coef(random.between(0, 1) ? 100.0 : 1.0 + 1000.0 * random.fraction());
+        slider.setRange(static_cast<int>(minimum), static_cast<int>(maximum));
+        slider.setSingleStep(step);
+
+        std::vector<int> values{slider.minimum(), slider.maximum()};
+        for (int k = 0; k < 30; ++k)
+            values.push_back(static_cast<int>(random.between(minimum, maximum)));
+        std::sort(values.begin(), values.end());
+
+        qint64 last = minimum;
+        for (const int value : values) {
+            slider.setValue(value);
+            const qint64 reached = slider.value();
+            slider.setValue(static_cast<int>(reached));
+            const qint64 again = slider.value();
+
+            const QByteArray what =
+                QStringLiteral("%1..%2 step %3 scale %4 coefficient %5 validate %6: %7, %8, %9")
+                    .arg(minimum)
+                    .arg(maximum)
+                    .arg(step)
+                    .arg(scale)
+                    .arg(slider.log10Coef())
+                    .arg(validate)
+                    .arg(value)
+                    .arg(reached)
+                    .arg(again)
+                    .toUtf8();
+            QVERIFY2(reached >= minimum && reached <= maximum, what);
+            QVERIFY2(reached >= last, what);
+            last = reached;
+            if (validate)
+                QVERIFY2((reached - minimum) % step == 0 || reached == maximum, what);
+
+            // Where the grid is about as fine as the logarithmic positions, the position next to
+            // a grid value may lie half a step above it, which belongs to the next one.
+            const bool mayDrift = validate && scale == QtOrvSlider::ScaleLog10;
+            QVERIFY2(again == reached || (mayDrift && again - reached <= step && again > reached),
+                     what);
+            settled += again == reached;
+        }
+    }
+    QVERIFY2(settled > 3000 * 32 * 0.999, QByteArray::number(settled));
+}
+
+// The sanitizers watch this one: no overflow, no conversion of what does not fit, no endless loop.
+void TestSliders::bearsEveryInt()
+{
+    const int numbers[] = {lowest, lowest + 1, -1000, -1, 0, 1, 1000, highest - 1, highest};
+    const double coefficients[] = {100.0,
+                                   0.0,
+                                   -3.0,
+                                   1e-9,
+                                   1e300,
+                                   std::numeric_limits<double>::infinity(),
+                                   std::numeric_limits<double>::quiet_NaN()};
+    QtOrvSlider slider;
+    for (const auto scale :
+         {QtOrvSlider::ScaleLinear, QtOrvSlider::ScaleLog10, QtOrvSlider::ScaleSqrt}) {
+        slider.setScaleType(scale);
+        for (const double coefficient : coefficients) {
+            slider.setLog10Coef(coefficient);
+            for (const int minimum : numbers) {
+                for (const int maximum : numbers) {
+                    slider.setRange(minimum, maximum);
+                    for (const int step : numbers) {
+                        slider.setValidate(!slider.validate());
+                        slider.setSingleStep(step);
+                        for (const int value : numbers)
+                            slider.setValue(value);
+                        // A key press in the middle of nowhere.
+                        QTest::keyClick(slider.slider(), Qt::Key_Up);
+                        QTest::keyClick(slider.slider(), Qt::Key_Down);
+                        const int reached = slider.value();
+                        if (minimum <= maximum && step >= -1)
+                            QVERIFY(reached >= minimum && reached <= maximum);
+                    }
+                }
+            }
+        }
+    }
+}
+
+void TestSliders::keepsTheValueWhenTheMappingChanges()
+{
+    QtOrvSlider slider;
+    slider.setRange(0, 10000);
+    slider.setValue(2500);
+    slider.setScaleType(QtOrvSlider::ScaleSqrt);
+    QCOMPARE(slider.value(), 2500);
+    slider.setRange(-900, 20000);
+    QCOMPARE(slider.value(), 2464); // 58 * 58 - 900, the position next to it
+    slider.setScaleType(QtOrvSlider::ScaleLog10);
+    slider.setLog10Coef(2000.0);
+    QVERIFY(qAbs(slider.value() - 2464) <= 20);
+    slider.setMaximum(1000);
+    QCOMPARE(slider.value(), 1000);
+
+    // The keys step through the grid in the linear scale, through the positions in the others.
+    slider.setSingleStep(7);
+    QCOMPARE(slider.slider()->singleStep(), 1);
+    slider.setScaleType(QtOrvSlider::ScaleLinear);
+    slider.setSingleStep(8);
+    QCOMPARE(slider.slider()->singleStep(), 8);
+}
+
+void TestSliders::announcesChangesOnly()
+{
+    QtOrvSlider slider;
+    QSignalSpy values(&slider, &QtOrvSlider::valueChanged);
+    QSignalSpy ranges(&slider, &QtOrvSlider::rangeChanged);
+
+    slider.setRange(0, 100);
+    QCOMPARE(ranges.count(), 0);
+    slider.setRange(10, 200);
+    QCOMPARE(ranges.takeFirst(), (QVariantList{10, 200}));
+    QCOMPARE(values.takeFirst(), QVariantList{10}); // carried along by the minimum
+    slider.setValue(50);
+    slider.setValue(50);
+    slider.setValue(500);
+    QCOMPARE(values, (QList<QVariantList>{{50}, {200}}));
+    values.clear();
+
+    // What a drag says is the position; the grid is only in value().
+    slider.setSingleStep(8);
+    slider.setValidate(true);
+    slider.slider()->setValue(20);
+    QCOMPARE(values.takeFirst(), QVariantList{20});
+    QCOMPARE(slider.value(), 18);
+
+    // Several positions of one value: only the first move is news.
+    slider.setValidate(false);
+    slider.setScaleType(QtOrvSlider::ScaleLog10);
+    slider.setRange(0, 1000000);
+    slider.setValue(0);
+    values.clear();
+    QSignalSpy moves(&slider, &QtOrvSlider::sliderMoved);
+    slider.slider()->setSliderDown(true);
+    slider.slider()->setSliderPosition(101);
+    slider.slider()->setSliderPosition(102);
+    slider.slider()->setSliderPosition(103);
+    QCOMPARE(moves, (QList<QVariantList>{{101}, {102}, {103}}));
+    QCOMPARE(values, (QList<QVariantList>{{1}})); // 10^1.03 is 10.7
+    slider.slider()->setSliderDown(false);
+
+    // A slot that moves the slider on has the last word.
+    connect(&slider, &QtOrvSlider::valueChanged, &slider, [&slider](int value) {
+        if (value == 500000)
+            slider.setValue(0);
+    });
+    slider.setScaleType(QtOrvSlider::ScaleLinear);
+    values.clear();
+    slider.setValue(500000);
+    QCOMPARE(slider.value(), 0);
+    slider.setValue(7);
+    QCOMPARE(values.last(), QVariantList{7});
+}
+
+void TestSliders::mapsRealValues_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<double>("step");
+    QTest::addColumn<bool>("validate");
+    QTest::addColumn<int>("positions");
+    QTest::addColumn<double>("wanted");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<double>("value");
+
+    QTest::newRow("end off the grid") << 0.0 << 1.0 << 0.3 << false << 4 << 1.0 << 4 << 1.0;
+    QTest::newRow("last step") << 0.0 << 1.0 << 0.3 << false << 4 << 0.9 << 3 << 0.9;
+    QTest::newRow("even grid") << 0.0 << 1.0 << 0.25 << false << 4 << 0.6 << 2 << 0.5;
+    QTest::newRow("up from half") << 0.0 << 1.0 << 0.25 << true << 4 << 0.375 << 2 << 0.5;
+    QTest::newRow("below zero") << -6.0 << 24.0 << 0.5 << true << 60 << -5.8 << 0 << -6.0;
+    QTest::newRow("above") << 0.0 << 1.0 << 0.25 << false << 4 << 7.0 << 4 << 1.0;
+}
+
+void TestSliders::mapsRealValues()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(double, step);
+    QFETCH(bool, validate);
+    QFETCH(double, wanted);
+
+    QtOrvDoubleSlider slider;
+    slider.setValidate(validate);
+    slider.setSingleStep(step);
+    slider.setRange(minimum, maximum);
+    QCOMPARE(slider.slider()->minimum(), 0);
+    QTEST(slider.slider()->maximum(), "positions");
+    slider.setValue(wanted);
+    QTEST(slider.slider()->value(), "position");
+    QTEST(slider.value(), "value");
+}
+
+void TestSliders::keepsItsPromisesForAnyRealRange()
+{
+    Random random;
+    QtOrvDoubleSlider slider;
+    for (int i = 0; i < 3000; ++i) {
+        const double span = std::pow(10.0, 12.0 * random.fraction() - 6.0);
+        const double minimum = span * (4.0 * random.fraction() - 2.0);
+        const double maximum = minimum + span;
+        const double step = span * std::pow(10.0, -6.0 * random.fraction());
+        slider.setValidate(random.between(0, 1));
+        slider.setRange(minimum, maximum);
+        slider.setSingleStep(step);
+
+        std::vector<double> values{minimum, maximum};
+        for (int k = 0; k < 30; ++k)
+            values.push_back(qMin(minimum + span * random.fraction(), maximum));
+        std::sort(values.begin(), values.end());
+
+        double last = minimum;
+        for (const double value : values) {
+            slider.setValue(value);
+            const double reached = slider.value();
+            const int position = slider.slider()->value();
+            slider.setValue(reached);
+
+            const QByteArray what = QStringLiteral("%1..%2 step %3 validate %4: %5, %6, %7")
+                                        .arg(minimum, 0, 'g', 17)
+                                        .arg(maximum, 0, 'g', 17)
+                                        .arg(step, 0, 'g', 17)
+                                        .arg(slider.validate())
+                                        .arg(value, 0, 'g', 17)
+                                        .arg(reached, 0, 'g', 17)
+                                        .arg(slider.value(), 0, 'g', 17)
+                                        .toUtf8();
+            QVERIFY2(slider.slider()->value() == position && slider.value() == reached, what);
+            QVERIFY2(reached >= minimum && reached <= maximum, what);
+            QVERIFY2(reached >= last, what);
+            last = reached;
+            const double steps = (reached - minimum) / step;
+            QVERIFY2(std::abs(steps - std::round(steps)) < 1e-6 || reached == maximum, what);
+        }
+    }
+}
+
+void TestSliders::bearsEveryReal()
+{
+    const double numbers[] = {0.0,
+                              -1.0,
+                              1e-300,
+                              0.1,
+                              1e9,
+                              -1e300,
+                              std::numeric_limits<double>::max(),
+                              std::numeric_limits<double>::infinity(),
+                              std::numeric_limits<double>::quiet_NaN()};
+    QtOrvDoubleSlider slider;
+    for (const double minimum : numbers) {
+        for (const double maximum : numbers) {
+            slider.setRange(minimum, maximum);
+            for (const double step : numbers) {
+                slider.setValidate(!slider.validate());
+                slider.setSingleStep(step);
+                for (const double value : numbers)
+                    slider.setValue(value);
+                QVERIFY(slider.slider()->maximum() >= 0);
+            }
+        }
+    }
+
+    // Without a step there are the two ends.
+    slider.setRange(1.0, 2.0);
+    slider.setValidate(true);
+    slider.setSingleStep(0.0);
+    slider.setValue(1.0);
+    QCOMPARE(slider.value(), 1.0);
+    slider.setValue(1.5);
+    QCOMPARE(slider.value(), 2.0);
+}
+
+void TestSliders::announcesEveryMoveOfTheRealSlider()
+{
+    QtOrvDoubleSlider slider;
+    QSignalSpy values(&slider, &QtOrvDoubleSlider::valueChanged);
+    QSignalSpy ranges(&slider, &QtOrvDoubleSlider::rangeChanged);
+    slider.setRange(0.0, 100.0);
+    QCOMPARE(ranges.count(), 0);
+    slider.setRange(0.0, 1.0);
+    QCOMPARE(ranges.takeFirst(), (QVariantList{0.0, 1.0}));
+    slider.setSingleStep(0.25);
+    values.clear();
+    slider.setValue(0.6);
+    slider.setValue(0.55);
+    QCOMPARE(values, (QList<QVariantList>{{0.5}}));
+    slider.slider()->setValue(3);
+    QCOMPARE(values.last(), QVariantList{0.75});
+}
+
+QTEST_MAIN(TestSliders)
+#include "tst_sliders.moc"

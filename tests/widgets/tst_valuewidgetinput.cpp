@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: MIT
+#include "qtorvdoubleslider.h"
+#include "qtorvdoublespinboxval.h"
+#include "qtorvgainslider.h"
+#include "qtorvslider.h"
+#include "qtorvsliderspinbox.h"
+#include "qtorvspinbox.h"
+#include "qtorvspinboxval.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QLineEdit>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+#include <QToolButton>
+
+/** Drives the value widgets as a user does: xdotool presses the keys of the X server. */
+class TestValueWidgetInput : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void movesByEveryArrowKey_data();
+    void movesByEveryArrowKey();
+    void movesByPagesAndToTheEnds();
+    void turnsTheWheel();
+    void dragsBesideASpinBox();
+    void dragsOnFromWhereAKeyEnded();
+    void goesRoundWithTab();
+    void popsUpByKeyboard();
+    void closesWhenTheFocusGoesElsewhere();
+
+private:
+    void show(const QList<QWidget *> &widgets);
+    void press(const QStringList &keys);
+    void mouse(const QStringList &actions);
+    static QStringList moveTo(const QWidget *widget, const QPoint &at);
+    static QStringList handleOf(const QSlider *slider);
+
+    QWidget *window = nullptr;
+};
+
+namespace {
+
+void runXdotool(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral("xdotool"), arguments);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QCoreApplication::processEvents();
+}
+
+QList<int> numbers(const QSignalSpy &spy)
+{
+    QList<int> result;
+    for (const QVariantList &arguments : spy)
+        result << arguments.first().toInt();
+    return result;
+}
+
+} // namespace
+
+void TestValueWidgetInput::init()
+{
+    window = new QWidget;
+    window->setWindowFlags(Qt::FramelessWindowHint);
+    new QVBoxLayout(window);
+}
+
+void TestValueWidgetInput::cleanup()
+{
+    delete window;
+}
+
+void TestValueWidgetInput::show(const QList<QWidget *> &widgets)
+{
+    for (QWidget *widget : widgets)
+        window->layout()->addWidget(widget);
+    window->setGeometry(100, 300, 600, 300);
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    widgets.first()->setFocus();
+}
+
+void TestValueWidgetInput::press(const QStringList &keys)
+{
+    runXdotool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("0")} +
+               keys);
+}
+
+void TestValueWidgetInput::mouse(const QStringList &actions)
+{
+    runXdotool(actions);
+}
+
+QStringList TestValueWidgetInput::moveTo(const QWidget *widget, const QPoint &at)
+{
+    const QPoint global = widget->mapToGlobal(at);
+    return {QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())};
+}
+
+// Of a horizontal slider that stands at its lower end.
+QStringList TestValueWidgetInput::handleOf(const QSlider *slider)
+{
+    return moveTo(slider, QPoint(7, slider->height() / 2));
+}
+
+void TestValueWidgetInput::movesByEveryArrowKey_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("up");
+    QTest::addColumn<QString>("down");
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<bool>("validate");
+    QTest::addColumn<int>("step");
+
+    const int log = QtOrvSlider::ScaleLog10;
+    const QString left = QStringLiteral("Left");
+    const QString right = QStringLiteral("Right");
+    QTest::newRow("log") << Qt::LeftToRight << right << left << log << false << 1;
+    QTest::newRow("log, Up and Down")
+        << Qt::LeftToRight << QStringLiteral("Up") << QStringLiteral("Down") << log << false << 1;
+    QTest::newRow("log, mirrored") << Qt::RightToLeft << left << right << log << false << 1;
+    QTest::newRow("log, on a grid") << Qt::LeftToRight << right << left << log << true << 64;
+    QTest::newRow("root, on a coarse grid")
+        << Qt::LeftToRight << right << left << int(QtOrvSlider::ScaleSqrt) << true << 30000;
+}
+
+void TestValueWidgetInput::movesByEveryArrowKey()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(QString, up);
+    QFETCH(QString, down);
+    QFETCH(int, scale);
+    QFETCH(bool, validate);
+    QFETCH(int, step);
+
+    auto *slider = new QtOrvSlider(Qt::Horizontal);
+    slider->setScaleType(static_cast<QtOrvSlider::ScaleType>(scale));
+    slider->setRange(1, 1000000);
+    slider->setSingleStep(step);
+    slider->setValidate(validate);
+    slider->setLayoutDirection(direction);
+    show({slider});
+    QSignalSpy values(slider, &QtOrvSlider::valueChanged);
+
+    // Some keys at a time, from one end to the other and back.
+    for (const bool upward : {true, false}) {
+        const int end = upward ? slider->maximum() : slider->minimum();
+        for (int burst = 0; burst < 10 && slider->value() != end; ++burst) {
+            const int before = slider->value();
+            values.clear();
+            press(QVector<QString>(100, upward ? up : down).toList());
+            QTRY_VERIFY(slider->value() == end || values.count() == 100);
+            int last = before;
+            for (const int value : numbers(values)) {
+                QVERIFY(upward ? value > last : value < last);
+                QVERIFY(qAbs(value - last) >= step || value == end || last == slider->maximum());
+                QVERIFY(value >= 1 && value <= 1000000);
+                last = value;
+            }
+            QCOMPARE(slider->value(), last);
+        }
+        QCOMPARE(slider->value(), end);
+    }
+}
+
+void TestValueWidgetInput::movesByPagesAndToTheEnds()
+{
+    auto *slider = new QtOrvSlider(Qt::Vertical);
+    slider->setScaleType(QtOrvSlider::ScaleSqrt);
+    slider->setRange(0, 10000);
+    auto *gain = new QtOrvGainSlider;
+    gain->setSingleStep(0.5);
+    show({slider, gain});
+    press({QStringLiteral("Page_Up"), QStringLiteral("Up")});
+    QTRY_COMPARE(slider->value(), 121);
+    press({QStringLiteral("End")});
+    QTRY_COMPARE(slider->value(), 10000);
+    press({QStringLiteral("Page_Down"), QStringLiteral("Down")});
+    QTRY_COMPARE(slider->value(), 89 * 89);
+    press({QStringLiteral("Home")});
+    QTRY_COMPARE(slider->value(), 0);
+
+    gain->slider()->setFocus();
+    press({QStringLiteral("Right"), QStringLiteral("Right"), QStringLiteral("Page_Up")});
+    QTRY_COMPARE(gain->value(), 6.0);
+}
+
+void TestValueWidgetInput::turnsTheWheel()
+{
+    auto *slider = new QtOrvSlider(Qt::Horizontal);
+    auto *real = new QtOrvDoubleSlider(Qt::Horizontal);
+    auto *box = new QtOrvSpinBoxVal;
+    box->setRange(0, 100);
+    box->setSingleStep(8);
+    box->setValidate(true);
+    box->setValue(100);
+    slider->setScaleType(QtOrvSlider::ScaleLog10);
+    slider->setRange(1, 1000000);
+    slider->setValue(1000);
+    show({slider, real, box});
+
+    const QStringList up{QStringLiteral("click"), QStringLiteral("4")};
+    const QStringList down{QStringLiteral("click"), QStringLiteral("5")};
+    mouse(moveTo(slider->slider(), slider->slider()->rect().center()) + up);
+    QTRY_COMPARE(slider->value(), 1063); // three positions on
+    mouse(moveTo(real->slider(), real->slider()->rect().center()) + up + up);
+    QTRY_COMPARE(real->value(), 6.0);
+    box->setFocus();
+    mouse(moveTo(box, box->rect().center()) + down);
+    QTRY_COMPARE(box->value(), 96);
+}
+
+void TestValueWidgetInput::dragsBesideASpinBox()
+{
+    auto *widget = new QtOrvSliderSpinBox;
+    show({widget});
+    QSignalSpy values(widget, SIGNAL(valueChanged(int)));
+    QSignalSpy texts(widget, SIGNAL(valueChanged(QString)));
+    QSignalSpy pressed(widget->slider(), &QtOrvSlider::sliderPressed);
+    QSignalSpy moved(widget->slider(), &QtOrvSlider::sliderMoved);
+    QSignalSpy released(widget->slider(), &QtOrvSlider::sliderReleased);
+
+    QSlider *inner = widget->slider()->slider();
+    mouse(handleOf(inner) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
+    QTRY_COMPARE(pressed.count(), 1);
+    for (const int part : {4, 3, 2}) {
+        mouse(moveTo(inner, QPoint(inner->width() / part, inner->height() / 2)));
+        QTRY_COMPARE(moved.count(), 6 - part - 1);
+        QCOMPARE(widget->value(), moved.last().first().toInt());
+    }
+    mouse({QStringLiteral("mouseup"), QStringLiteral("1")});
+    QTRY_COMPARE(released.count(), 1);
+    QCOMPARE(widget->value(), 50);
+    QCOMPARE(values.count() + texts.count(), 0);
+
+    widget->spinBox()->setFocus();
+    widget->spinBox()->selectAll();
+    press({QStringLiteral("6"), QStringLiteral("0")});
+    QTRY_COMPARE(widget->value(), 60);
+    QCOMPARE(values, (QList<QVariantList>{{6}, {60}}));
+    QCOMPARE(inner->value(), 60);
+}
+
+void TestValueWidgetInput::dragsOnFromWhereAKeyEnded()
+{
+    auto *slider = new QtOrvSlider(Qt::Horizontal);
+    slider->setScaleType(QtOrvSlider::ScaleLog10);
+    slider->setRange(0, 1000000);
+    show({slider});
+    QSignalSpy moved(slider, &QtOrvSlider::sliderMoved);
+    press({QStringLiteral("Left")});
+    mouse(handleOf(slider->slider()) +
+          QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
+    mouse({QStringLiteral("mousemove_relative"), QStringLiteral("1"), QStringLiteral("0")});
+    QTRY_COMPARE(moved.count(), 1);
+    QCOMPARE(slider->slider()->value(), 101); // of the same value, 0
+    mouse({QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
+void TestValueWidgetInput::goesRoundWithTab()
+{
+    auto *slider = new QtOrvSlider;
+    auto *real = new QtOrvDoubleSlider;
+    auto *popUp = new QtOrvSpinBox;
+    auto *beside = new QtOrvSliderSpinBox;
+    auto *gain = new QtOrvGainSlider;
+    show({slider, real, popUp, beside, gain});
+    QSignalSpy sliderOut(slider, &QtOrvSlider::focusOut);
+    QSignalSpy realOut(real, &QtOrvDoubleSlider::focusOut);
+
+    const QList<QWidget *> stops{real->slider(),      popUp->spinBox(),
+                                 popUp->toolButton(), beside->slider()->slider(),
+                                 beside->spinBox(),   gain->slider()->slider(),
+                                 gain->spinBox(),     slider->slider()};
+    QCOMPARE(QApplication::focusWidget(), slider->slider());
+    for (QWidget *stop : stops) {
+        press({QStringLiteral("Tab")});
+        QTRY_COMPARE(QApplication::focusWidget(), stop);
+    }
+    for (int i = stops.count() - 2; i >= 0; --i) {
+        press({QStringLiteral("shift+Tab")});
+        QTRY_COMPARE(QApplication::focusWidget(), stops.at(i));
+    }
+    QCOMPARE(sliderOut.count(), 2);
+    QCOMPARE(realOut.count(), 1);
+}
+
+void TestValueWidgetInput::popsUpByKeyboard()
+{
+    auto *widget = new QtOrvSpinBox;
+    widget->setValidate(true);
+    show({widget});
+    QtOrvSlider *slider = widget->slider();
+    for (const auto &close :
+         {QStringLiteral("Escape"), QStringLiteral("Return"), QStringLiteral("Tab")}) {
+        widget->setValue(50);
+        widget->toolButton()->setFocus();
+        press({QStringLiteral("space")});
+        QTRY_COMPARE(QApplication::focusWidget(), slider->slider());
+        QVERIFY(slider->isVisible());
+        press({QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Page_Down")});
+        QTRY_COMPARE(widget->value(), 42);
+        press({close});
+        QTRY_VERIFY(!slider->isVisible());
+        QTRY_COMPARE(QApplication::focusWidget(), widget->toolButton());
+    }
+}
+
+void TestValueWidgetInput::closesWhenTheFocusGoesElsewhere()
+{
+    auto *widget = new QtOrvSpinBox;
+    auto *other = new QLineEdit;
+    show({widget, other});
+    QSignalSpy out(widget->slider(), &QtOrvSlider::focusOut);
+    mouse(moveTo(widget->toolButton(), widget->toolButton()->rect().center()) +
+          QStringList{QStringLiteral("click"), QStringLiteral("1")});
+    QTRY_COMPARE(QApplication::focusWidget(), widget->slider()->slider());
+    QCOMPARE(out.count(), 0);
+    window->activateWindow();
+    QTRY_VERIFY(!widget->slider()->isVisible());
+    QCOMPARE(out.count(), 1);
+}
+
+QTEST_MAIN(TestValueWidgetInput)
+#include "tst_valuewidgetinput.moc"
