@@ -359,11 +359,12 @@ void TestSliders::announcesChangesOnly()
             slider.setValue(0);
     });
     slider.setScaleType(QtOrvSlider::ScaleLinear);
-    values.clear();
-    slider.setValue(500000);
-    QCOMPARE(slider.value(), 0);
-    slider.setValue(7);
-    QCOMPARE(values.last(), QVariantList{7});
+    for (int round = 0; round < 2; ++round) {
+        values.clear();
+        slider.setValue(500000);
+        QCOMPARE(slider.value(), 0);
+        QCOMPARE(values.count(), 2);
+    }
 }
 
 void TestSliders::mapsRealValues_data()
