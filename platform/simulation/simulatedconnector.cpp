@@ -6,6 +6,8 @@
 
 #include <aravis/nodemap.h>
 
+#include <GenApi/GenApi.h>
+
 using namespace OrvCam;
 
 namespace OrvSimulation {
@@ -18,12 +20,25 @@ public:
     explicit SimulatedConnection(const CameraIdentity &identity)
         : m_camera(identity), m_nodeMap(OrvAravis::NodeMap::open(m_camera.device()))
     {
+        carryOutCommandsAtOnce();
     }
 
     GenApi::INodeMap &nodeMap() override { return *m_nodeMap; }
     bool isAlive() override { return true; }
 
 private:
+    /// A camera has carried out most commands before it acknowledges them; whoever reads after
+    /// executing one sees the result.
+    void carryOutCommandsAtOnce()
+    {
+        GenApi::NodeList_t nodes;
+        m_nodeMap->GetNodes(nodes);
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            if (nodes[i]->GetPrincipalInterfaceType() == GenApi::intfICommand)
+                GenApi::Register(nodes[i], [this](GenApi::INode *) { m_camera.advance(0); });
+        }
+    }
+
     SimulatedCamera m_camera;
     const std::unique_ptr<OrvAravis::NodeMap> m_nodeMap;
 };
