@@ -24,6 +24,7 @@ TreeViewResizer::TreeViewResizer(QTreeView *treeView) : QObject(treeView), tree(
     tree->installEventFilter(this);
     tree->viewport()->installEventFilter(this);
     tree->viewport()->setAttribute(Qt::WA_MouseTracking);
+    tree->header()->setMinimumSectionSize(2 * margin); // the style's would be larger
 }
 
 QModelIndex TreeViewResizer::ifResizable(const QPoint &pos)
