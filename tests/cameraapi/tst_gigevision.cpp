@@ -120,7 +120,7 @@ void TestGigEVision::adaptersAndCameras()
         QElapsedTimer timer;
         timer.start();
         const auto cameras = camerasOf(*interface(adapter));
-        QVERIFY(timer.elapsed() < 1000);
+        QVERIFY(timer.elapsed() < 2000);
         QCOMPARE(cameras.size(), size_t(1));
         DeviceInfo *camera = cameras.front();
         QCOMPARE(camera->GetVendor(), "Aravis");
@@ -271,7 +271,7 @@ void TestGigEVision::strangeAnswers()
     QElapsedTimer timer;
     timer.start();
     const int found = static_cast<int>(camerasOf(*interface("orv0")).size());
-    QVERIFY2(timer.elapsed() < 700, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(count < 0 ? count : found, count);
 
     responder.setMood(Responder::Mood::Normal);

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QThread>
+
+#include <sys/stat.h>
 
 #include <memory>
 
@@ -112,13 +113,16 @@ private:
     {
         if (!m_machine.waitForStarted())
             qFatal("unshare does not start");
-        const auto link = [](const QString &process) {
-            return QFile::symLinkTarget(QLatin1String("/proc/") + process +
-                                        QLatin1String("/ns/net"));
+        const auto identityOf = [](const QString &file) {
+            struct stat status = {};
+            if (::stat(file.toLocal8Bit().constData(), &status) != 0)
+                qFatal("There is no %s", qPrintable(file));
+            return status.st_ino;
         };
         QElapsedTimer timer;
         timer.start();
-        while (link(QString::number(m_machine.processId())) == link(QStringLiteral("self"))) {
+        const auto ours = identityOf(QStringLiteral("/proc/self/ns/net"));
+        while (identityOf(farNamespace()) == ours) {
             if (timer.hasExpired(5000))
                 qFatal("There is no second network namespace");
             QThread::msleep(5);
