@@ -233,9 +233,13 @@ std::unique_ptr<Node> NodeMapBuilder::newNode(const DescriptionNode &description
                                        properties);
 }
 
-ArvGcNode *NodeMapBuilder::engineNode(const std::string &name) const
+ArvGcNode *NodeMapBuilder::engineNode(const DescriptionNode &description) const
 {
-    return arv_gc_get_node(m_map.m_engine, name.c_str());
+    ArvGcNode *node = arv_gc_get_node(m_map.m_engine, description.name.c_str());
+    // Of what is described twice the engine takes the last, which may be something else entirely.
+    if (!node || description.tag != arv_dom_node_get_node_name(ARV_DOM_NODE(node)))
+        return nullptr;
+    return node;
 }
 
 Node *NodeMapBuilder::referenced(Item &item, const std::string &name)
@@ -358,7 +362,7 @@ void NodeMapBuilder::connectRegister(Item &item)
 {
     const DescriptionNode &description = *item.description;
     NodeLinks &links = *item.links;
-    ArvGcNode *engine = engineNode(description.name);
+    ArvGcNode *engine = engineNode(description);
     if (!engine || !ARV_IS_GC_REGISTER(engine)) {
         links.isUnusable = true;
         return;
@@ -509,8 +513,9 @@ std::unique_ptr<NumberSource> NodeMapBuilder::newSource(Item &item)
         item.links->writtenChildren.insert(item.links->writtenChildren.begin(), value);
         return std::make_unique<ReferenceSource>(*value, copies);
     }
-    ArvGcNode *engine = description.find("Value") ? engineNode(description.name) : nullptr;
-    if (!engine)
+    ArvGcNode *engine = description.find("Value") ? engineNode(description) : nullptr;
+    if (!ARV_IS_GC_INTEGER(engine) && !ARV_IS_GC_FLOAT(engine) && !ARV_IS_GC_BOOLEAN(engine) &&
+        !ARV_IS_GC_ENUMERATION(engine))
         return nullptr;
     return std::make_unique<ConstantSource>(engine, description.name);
 }

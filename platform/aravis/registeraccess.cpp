@@ -4,11 +4,20 @@
 #include "errors.h"
 #include "rawvalue.h"
 
+#include <Base/GCException.h>
+
 #include <arv.h>
 
 #include <type_traits>
 
 namespace OrvAravis {
+
+namespace {
+
+/// No camera has a register nearly as long.
+constexpr int64_t maxLength = 16 << 20;
+
+} // namespace
 
 RegisterAccess::RegisterAccess(ArvGcNode *engineNode, RegisterCache &cache, std::string name,
                                GenApi::ECachingMode mode)
@@ -41,6 +50,12 @@ void RegisterAccess::prepare()
     // nothing of what is outdated: compute everything that the address depends on beforehand.
     for (OrvGenApi::Node *node : m_addressSources)
         rawInteger(*node);
+    // It takes a buffer as long as the register, too, and ends the program when there is none.
+    const int64_t size = length();
+    if (size < 0 || size > maxLength)
+        throw GenICam::OutOfRangeException(
+            (m_name + ": a register of " + std::to_string(size) + " bytes").c_str(), __FILE__,
+            __LINE__);
     if (!isCachable())
         markStale();
     if (m_staleSince == 0)
@@ -48,10 +63,7 @@ void RegisterAccess::prepare()
     const auto address = checked([&](GError **error) {
         return arv_gc_register_get_address(ARV_GC_REGISTER(m_engineNode), error);
     });
-    const auto length = checked([&](GError **error) {
-        return arv_gc_register_get_length(ARV_GC_REGISTER(m_engineNode), error);
-    });
-    m_cache.forget(address, length, m_staleSince);
+    m_cache.forget(address, static_cast<uint64_t>(size), m_staleSince);
     m_staleSince = 0;
 }
 
