@@ -204,7 +204,7 @@ void DescribedString::writeValue(const std::string &value)
 
 int64_t DescribedString::readMaxLength()
 {
-    if (reference)
+    if (reference && !links().isUnusable)
         return reference->GetMaxLength();
     if (links().reg)
         return links().reg->maxTextLength();

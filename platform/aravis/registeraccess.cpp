@@ -44,7 +44,7 @@ auto RegisterAccess::checked(Call call)
     }
 }
 
-void RegisterAccess::prepare()
+void RegisterAccess::prepare(int64_t minLength)
 {
     // The engine computes the address by itself, but it takes a formula that fails for 0 and knows
     // nothing of what is outdated: compute everything that the address depends on beforehand.
@@ -52,7 +52,7 @@ void RegisterAccess::prepare()
         rawInteger(*node);
     // It takes a buffer as long as the register, too, and ends the program when there is none.
     const int64_t size = length();
-    if (size < 0 || size > maxLength)
+    if (size < minLength || size > maxLength)
         throw GenICam::OutOfRangeException(
             (m_name + ": a register of " + std::to_string(size) + " bytes").c_str(), __FILE__,
             __LINE__);
@@ -99,7 +99,7 @@ std::string RegisterAccess::text()
 
 std::vector<uint8_t> RegisterAccess::bytes()
 {
-    prepare();
+    prepare(0);
     std::vector<uint8_t> result(static_cast<std::size_t>(length()));
     if (result.empty())
         return result;
@@ -181,7 +181,7 @@ int64_t RegisterAccess::maxTextLength()
 
 int64_t RegisterAccess::address()
 {
-    prepare();
+    prepare(0);
     return static_cast<int64_t>(checked([&](GError **error) {
         return arv_gc_register_get_address(ARV_GC_REGISTER(m_engineNode), error);
     }));
