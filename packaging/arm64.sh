@@ -37,6 +37,6 @@ echo "  lists $features features of the simulated camera"
 # have a test kill everything, so the tests get process ids of their own as well.
 echo "left out, because they start other programs or make networks, which the emulator gets wrong:"
 ctest --test-dir "$build" --show-only -L starts-programs | sed -n 's/.*Test *#[0-9]*: /  /p'
-isolate="unshare --pid --fork --mount-proc"
+isolate="unshare --pid --fork --kill-child"
 [ "$(id -u)" = 0 ] || isolate="$isolate --map-root-user"
 $isolate ctest --test-dir "$build" --output-on-failure --timeout 600 -LE starts-programs "$@"
