@@ -106,6 +106,7 @@ private slots:
     void limitsAndIncrements();
     void validValues();
     void senselessReferences();
+    void senselessNodes();
     void circles();
     void cachingModes();
     void pollingAndInvalidation();
@@ -586,6 +587,23 @@ void TestNodeMap::senselessReferences()
         QCOMPARE(access(*map, name), NA);
         QVERIFY(textOf(*map, name).startsWith("exception: "));
     }
+    QCOMPARE(map->transactions().reads, uint64_t(0));
+}
+
+void TestNodeMap::senselessNodes()
+{
+    const QByteArray tail = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
+    const auto map = load(
+        root({}) + "<IntReg Name='Endless'><Address>0</Address><Length>-1</Length>" + tail +
+        "</IntReg><Register Name='Vast'><Address>0</Address><Length>1099511627776</Length>" + tail +
+        "</Register><StringReg Name='Nothing'><Address>0</Address><Length>0</Length>" + tail +
+        "</StringReg><Command Name='Constant'><Value>1</Value></Command>"
+        "<Integer Name='Twice'><Value>1</Value></Integer><Port Name='Twice'/>"
+        "<String Name='Circular'><pValue>Circular</pValue></String>");
+    for (const char *name : {"Endless", "Vast", "Nothing", "Constant", "Twice", "Circular"})
+        QVERIFY2(textOf(*map, name).startsWith("exception: "), name);
+    QCOMPARE(CStringPtr(map->GetNode("Circular"))->GetMaxLength(), int64_t(INT64_MAX));
+    QCOMPARE(access(*map, "Constant"), NA);
     QCOMPARE(map->transactions().reads, uint64_t(0));
 }
 
