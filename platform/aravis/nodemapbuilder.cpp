@@ -197,8 +197,14 @@ NodeLinks &NodeMapBuilder::newLinks()
 
 void NodeMapBuilder::makeNode(const DescriptionNode &description)
 {
-    if (m_map.node(description.name))
-        return; // described twice: the first description counts
+    if (Node *first = m_map.node(description.name)) {
+        // Described twice: the first description counts. The engine takes the last and would
+        // compute what nobody has looked at.
+        Item &item = *itemOf(first);
+        if (item.description->tag != "Category" && description.tag != "EnumEntry")
+            item.links->isUnusable = true;
+        return;
+    }
     NodeLinks &links = newLinks();
     std::unique_ptr<Node> node = newNode(description, links);
     m_indexOf[node.get()] = m_items.size();
@@ -235,11 +241,7 @@ std::unique_ptr<Node> NodeMapBuilder::newNode(const DescriptionNode &description
 
 ArvGcNode *NodeMapBuilder::engineNode(const DescriptionNode &description) const
 {
-    ArvGcNode *node = arv_gc_get_node(m_map.m_engine, description.name.c_str());
-    // Of what is described twice the engine takes the last, which may be something else entirely.
-    if (!node || description.tag != arv_dom_node_get_node_name(ARV_DOM_NODE(node)))
-        return nullptr;
-    return node;
+    return arv_gc_get_node(m_map.m_engine, description.name.c_str());
 }
 
 Node *NodeMapBuilder::referenced(Item &item, const std::string &name)

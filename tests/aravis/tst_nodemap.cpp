@@ -598,7 +598,8 @@ void TestNodeMap::senselessNodes()
         "</IntReg><Register Name='Vast'><Address>0</Address><Length>1099511627776</Length>" + tail +
         "</Register><StringReg Name='Nothing'><Address>0</Address><Length>0</Length>" + tail +
         "</StringReg><Command Name='Constant'><Value>1</Value></Command>"
-        "<Integer Name='Twice'><Value>1</Value></Integer><Port Name='Twice'/>"
+        "<Integer Name='Twice'><Value>1</Value></Integer><Integer Name='Twice'><pIndex>Twice"
+        "</pIndex><ValueDefault>1</ValueDefault></Integer>"
         "<String Name='Circular'><pValue>Circular</pValue></String>");
     for (const char *name : {"Endless", "Vast", "Nothing", "Constant", "Twice", "Circular"})
         QVERIFY2(textOf(*map, name).startsWith("exception: "), name);
