@@ -600,9 +600,12 @@ void TestNodeMap::senselessNodes()
         "</StringReg><Command Name='Constant'><Value>1</Value></Command>"
         "<Integer Name='Twice'><Value>1</Value></Integer><Integer Name='Twice'><pIndex>Twice"
         "</pIndex><ValueDefault>1</ValueDefault></Integer>"
+        "<Integer Name='Raw'><Value>1</Value></Integer><IntConverter Name='Unbounded'><FormulaTo>"
+        "-FROM</FormulaTo><FormulaFrom>TO / -1</FormulaFrom><pValue>Raw</pValue></IntConverter>"
         "<String Name='Circular'><pValue>Circular</pValue></String>");
     for (const char *name : {"Endless", "Vast", "Nothing", "Constant", "Twice", "Circular"})
         QVERIFY2(textOf(*map, name).startsWith("exception: "), name);
+    QCOMPARE(integer(*map, "Unbounded").GetMax(), INT64_MAX);
     QCOMPARE(CStringPtr(map->GetNode("Circular"))->GetMaxLength(), int64_t(INT64_MAX));
     QCOMPARE(access(*map, "Constant"), NA);
     QCOMPARE(map->transactions().reads, uint64_t(0));
