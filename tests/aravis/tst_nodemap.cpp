@@ -602,9 +602,14 @@ void TestNodeMap::senselessNodes()
         "</pIndex><ValueDefault>1</ValueDefault></Integer>"
         "<Integer Name='Raw'><Value>1</Value></Integer><IntConverter Name='Unbounded'><FormulaTo>"
         "-FROM</FormulaTo><FormulaFrom>TO / -1</FormulaFrom><pValue>Raw</pValue></IntConverter>"
-        "<String Name='Circular'><pValue>Circular</pValue></String>");
-    for (const char *name : {"Endless", "Vast", "Nothing", "Constant", "Twice", "Circular"})
+        "<Register Name='Other'><Address>0</Address><Length>4</Length></Register>"
+        "<Integer Name='Other'><Value>1</Value></Integer><String "
+        "Name='Circular'><pValue>Circular</pValue></String>");
+    for (const char *name :
+         {"Endless", "Vast", "Nothing", "Constant", "Twice", "Other", "Circular"})
         QVERIFY2(textOf(*map, name).startsWith("exception: "), name);
+    QVERIFY_EXCEPTION_THROWN(CRegisterPtr(map->GetNode("Other"))->GetAddress(),
+                             GenICam::PropertyException);
     QCOMPARE(integer(*map, "Unbounded").GetMax(), INT64_MAX);
     QCOMPARE(CStringPtr(map->GetNode("Circular"))->GetMaxLength(), int64_t(INT64_MAX));
     QCOMPARE(access(*map, "Constant"), NA);
