@@ -56,6 +56,19 @@ public:
         sync();
     }
 
+    void askToClose(xcb_window_t window)
+    {
+        xcb_client_message_event_t event = {};
+        event.response_type = XCB_CLIENT_MESSAGE;
+        event.format = 32;
+        event.window = window;
+        event.type = atom("WM_PROTOCOLS");
+        event.data.data32[0] = atom("WM_DELETE_WINDOW");
+        xcb_send_event(m_connection, 0, window, XCB_EVENT_MASK_NO_EVENT,
+                       reinterpret_cast<const char *>(&event));
+        sync();
+    }
+
     /// Null for a window that does not exist.
     QRect geometry(xcb_window_t window) const
     {
@@ -112,6 +125,15 @@ private:
     static std::unique_ptr<Reply, Free> owned(Reply *reply)
     {
         return std::unique_ptr<Reply, Free>(reply);
+    }
+
+    xcb_atom_t atom(const char *name)
+    {
+        const auto reply = owned(xcb_intern_atom_reply(
+            m_connection,
+            xcb_intern_atom(m_connection, 0, static_cast<uint16_t>(std::strlen(name)), name),
+            nullptr));
+        return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }
 
     void sync()
