@@ -98,6 +98,7 @@ private slots:
     void changedOnAnotherThread();
     void transactions();
     void readsOnlyWhatIsSeen();
+    void levelOfALargeTree();
 };
 
 void TestOrvGenParamTreeView::form()
@@ -842,6 +843,34 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
     tree.viewport()->repaint();
     QTest::qWait(50);
     QCOMPARE(total(), before);
+}
+
+// What a change of the level costs must not be the product of the rows that go and those that are
+// expanded: that is minutes here.
+void TestOrvGenParamTreeView::levelOfALargeTree()
+{
+    OrvGenApi::MemoryNodeMap map("Large");
+    for (int i = 0; i < 100; ++i)
+        map.addCategory("Category" + std::to_string(i));
+    for (int i = 0; i < 5000; ++i) {
+        map.addInteger("Feature" + std::to_string(i), i, "Category" + std::to_string(i % 100))
+            .properties()
+            .visibility = static_cast<GenApi::EVisibility>(i / 100 % 3);
+    }
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+
+    QElapsedTimer timer;
+    timer.start();
+    view.setVisibility(OrvGui::Basic);
+    view.setVisibility(OrvGui::Guru);
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    const QAbstractItemModel &model = *driver.tree().model();
+    for (const int row : {0, 99}) {
+        QVERIFY(driver.tree().isExpanded(model.index(row, 0)));
+        QCOMPARE(model.rowCount(model.index(row, 0)), 50);
+    }
 }
 
 QTEST_MAIN(TestOrvGenParamTreeView)
