@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "embeddedtreeview.h"
 
-#include "hostwindowwatcher.h"
+#include "hostwindow.h"
 #include "treeviewparent.h"
-
-#include <QGuiApplication>
 
 namespace OrvGui {
 
@@ -14,12 +12,8 @@ EmbeddedTreeView::EmbeddedTreeView(const TreeViewParent &holder)
     setWindowFlags(Qt::Window);
     winId(); // makes the native window
     windowHandle()->setParent(holder.window);
-    setGeometry(QRect(QPoint(0, 0), holder.window->size()));
-
-    if (QGuiApplication::platformName() != QLatin1String("xcb"))
-        return;
-    auto *watcher = new HostWindowWatcher(holder.window->winId(), this);
-    connect(watcher, &HostWindowWatcher::resized, this, &EmbeddedTreeView::fill);
+    fill(holder.hostWindow->size());
+    connect(holder.hostWindow, &HostWindow::resized, this, &EmbeddedTreeView::fill);
 }
 
 EmbeddedTreeView::~EmbeddedTreeView()
@@ -32,7 +26,9 @@ EmbeddedTreeView::~EmbeddedTreeView()
 
 void EmbeddedTreeView::fill(const QSize &devicePixels)
 {
-    const qreal ratio = devicePixelRatioF();
+    if (!devicePixels.isValid())
+        return;
+    const qreal ratio = windowHandle()->devicePixelRatio();
     setGeometry(0, 0, qRound(devicePixels.width() / ratio), qRound(devicePixels.height() / ratio));
 }
 

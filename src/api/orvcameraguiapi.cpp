@@ -2,6 +2,7 @@
 #include "orvcameraguiapi.h"
 
 #include "creategenparamtreeview.h"
+#include "selectcamera.h"
 
 #include <cstring>
 
@@ -46,4 +47,14 @@ OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvGenParamArray *array, co
 void DestroyGenParamTreeView(OrvGuiParamTreeView *view)
 {
     delete view;
+}
+
+OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title, unsigned long parent)
+{
+    return OrvGui::SelectCamera(system, fromNarrow(title), parent);
+}
+
+OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, const wchar_t *title, unsigned long parent)
+{
+    return OrvGui::SelectCamera(system, fromWide(title), parent);
 }

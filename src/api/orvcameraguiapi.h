@@ -9,10 +9,10 @@
  * must have made a QApplication. All of them are called from one and the same thread, that of the
  * application.
  *
- * Nothing here runs an event loop. A host that is not a Qt program has to let Qt's events run,
- * otherwise a window is neither painted nor heard: on Linux Qt waits on the default GLib main
- * context, so it is enough to run that, for instance with g_main_context_iteration(NULL, FALSE)
- * from the host's own loop. examples/c-host shows how.
+ * Nothing here but SelectCamera runs an event loop. A host that is not a Qt program has to let Qt's
+ * events run, otherwise a window is neither painted nor heard: on Linux Qt waits on the default
+ * GLib main context, so it is enough to run that, for instance with
+ * g_main_context_iteration(NULL, FALSE) from the host's own loop. examples/c-host shows how.
  *
  * Texts come in two kinds: functions whose name ends in A take UTF-8, those that end in W take
  * 32-bit wide characters. Both end with a zero. Parent windows are native window ids (on X11 a
@@ -20,6 +20,8 @@
  */
 
 #include "orvcameraguiapi_export.h"
+
+#include <orvcameraapi.h>
 
 #include <stddef.h>
 
@@ -61,6 +63,21 @@ CreateGenParamTreeViewForArrayW(OrvGenParamArray *array, const wchar_t *title,
 
 /* Null is ignored. Not from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
+
+/*
+ * Lets the user pick one of the system's cameras, in a dialog of that title, and returns when he is
+ * done: the camera, which is not opened yet, or null when he cancels. He can also give a GigE
+ * Vision camera a working address there. A null system has no cameras. The title may be null.
+ *
+ * With a parent the dialog stands above that window, which must exist on the default display. It
+ * is up to the host to keep its own windows from being used in the meantime.
+ *
+ * The camera belongs to the system; it is not to be released and stays valid as long as the system.
+ */
+ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title,
+                                                       unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, const wchar_t *title,
+                                                       unsigned long parent);
 
 #ifdef __cplusplus
 }

@@ -1,7 +1,69 @@
 // SPDX-License-Identifier: MIT
 #include "treeviewparent.h"
 
+#include "hostwindow.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QChildEvent>
+#include <QCoreApplication>
+
+#include <xcb/xcb.h>
+
 namespace OrvGui {
+
+namespace {
+
+// A container moves the window that it is made around into a hidden window of its own, and resizes
+// it. A host must not lose its window like that: a window manager, for one, would never look at it
+// again. The X server refuses to move a window into one of its own inferiors. So, just before the
+// container's hidden window is made, it gets the host's window for its parent.
+
+/// Gives a parent to whatever window becomes the parent of another one.
+class ContainerInterceptor : public QObject
+{
+public:
+    ContainerInterceptor(QWindow *window, QWindow *outerWindow)
+        : m_window(window), m_outerWindow(outerWindow)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::ChildAdded &&
+            static_cast<QChildEvent *>(event)->child() == m_window) {
+            if (auto *hiddenWindow = qobject_cast<QWindow *>(watched))
+                hiddenWindow->setParent(m_outerWindow);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWindow *m_window;
+    QWindow *m_outerWindow;
+};
+
+/// Keeps Qt from printing the refusals, which arrive later from the X server.
+class RefusedMoves : public QAbstractNativeEventFilter
+{
+public:
+    static void expect()
+    {
+        static RefusedMoves filter;
+        QCoreApplication::instance()->installNativeEventFilter(&filter);
+    }
+
+    bool nativeEventFilter(const QByteArray &eventType, void *message, long *) override
+    {
+        if (eventType != "xcb_generic_event_t")
+            return false;
+        const auto *error = static_cast<xcb_generic_error_t *>(message);
+        return error->response_type == 0 && error->error_code == XCB_MATCH &&
+               error->major_code == XCB_REPARENT_WINDOW;
+    }
+};
+
+} // namespace
 
 TreeViewParent::TreeViewParent() = default;
 
@@ -9,15 +71,27 @@ TreeViewParent::~TreeViewParent()
 {
     delete container;
     delete window;
+    delete m_outerWindow;
 }
 
 void TreeViewParent::wrap(unsigned long nativeId)
 {
     delete window;
     window = QWindow::fromWinId(static_cast<WId>(nativeId));
+    if (!window)
+        return;
+    m_outerWindow = QWindow::fromWinId(static_cast<WId>(nativeId));
+    hostWindow = new HostWindow(nativeId, this);
+
     delete container;
-    if (window)
+    RefusedMoves::expect();
+    {
+        const ContainerInterceptor interceptor(window, m_outerWindow);
         container = QWidget::createWindowContainer(window);
+    }
+    // As if the window had left: the container no longer makes it as large as itself.
+    QChildEvent departure(QEvent::ChildRemoved, window);
+    QCoreApplication::sendEvent(container, &departure);
 }
 
 } // namespace OrvGui

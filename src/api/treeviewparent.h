@@ -8,6 +8,8 @@
 
 namespace OrvGui {
 
+class HostWindow;
+
 /// Owns what wraps a host's native window for a tree view. Made the view's child, so that it ends
 /// with the view.
 class TreeViewParent : public QObject
@@ -18,12 +20,18 @@ public:
     TreeViewParent();
     ~TreeViewParent() override;
 
-    /// Wraps the window. Both stay null on a platform that cannot.
+    /// Wraps the window of that native id, which stays what and where it is. Everything remains
+    /// null on a platform that knows no foreign windows.
     void wrap(unsigned long nativeId);
 
-    // The container deletes the window around which it was made, hence the guarded pointers.
+    // Deleting the container deletes the window, too; hence the guarded pointers.
     QPointer<QWindow> window;
     QPointer<QWidget> container;
+
+    HostWindow *hostWindow = nullptr; ///< a child
+
+private:
+    QPointer<QWindow> m_outerWindow;
 };
 
 } // namespace OrvGui

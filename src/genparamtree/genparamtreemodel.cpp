@@ -4,6 +4,7 @@
 #include "fixintegerrepresentation.h"
 #include "genicamstring.h"
 #include "ip4validator.h"
+#include "macaddress.h"
 #include "parameterdescription.h"
 
 #include <OrvGenParam/Array.h>
@@ -37,15 +38,6 @@ QVariant longVariant(int64_t value)
     return QVariant::fromValue(static_cast<long>(value));
 }
 
-QString macAddressText(int64_t value)
-{
-    QStringList bytes;
-    for (int shift = 40; shift >= 0; shift -= 8)
-        bytes.append(
-            QString::number((value >> shift) & 0xff, 16).rightJustified(2, QLatin1Char('0')));
-    return bytes.join(QLatin1Char(':')).toUpper();
-}
-
 QVariant integerData(GenApi::IInteger &integer)
 {
     const int64_t value = integer.GetValue(false, false);
@@ -53,7 +45,7 @@ QVariant integerData(GenApi::IInteger &integer)
     case GenApi::IPV4Address:
         return IP4Validator::getIpStr(static_cast<unsigned int>(value));
     case GenApi::MACAddress:
-        return macAddressText(value);
+        return macAddressText(static_cast<quint64>(value));
     case GenApi::HexNumber:
         return QString::number(static_cast<qlonglong>(value), 16).toUpper();
     default:

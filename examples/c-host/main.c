@@ -1,0 +1,145 @@
+/* SPDX-License-Identifier: MIT */
+/*
+ * A program that knows nothing of Qt: it makes its windows with Xlib and shows the features of a
+ * camera in one of them.
+ */
+#include "camera.h"
+
+#include <orvcameraguiapi.h>
+
+#include <X11/Xlib.h>
+#include <glib-unix.h>
+#include <stdio.h>
+#include <string.h>
+
+enum { HEADER_HEIGHT = 40, MARGIN = 8 };
+
+typedef struct
+{
+    Display *display;
+    Window window; /* the program's own window, with a line of text at its top */
+    Window panel;  /* a part of it, handed to the tree */
+    GC gc;
+    Atom deleteWindow;
+    int closed;
+} Host;
+
+static Window createPanel(Host *host, unsigned int width, unsigned int height)
+{
+    const unsigned long background = WhitePixel(host->display, DefaultScreen(host->display));
+    return XCreateSimpleWindow(host->display, host->window, MARGIN, HEADER_HEIGHT,
+                               width - 2 * MARGIN, height - HEADER_HEIGHT - MARGIN, 0, 0,
+                               background);
+}
+
+static int openWindow(Host *host)
+{
+    const unsigned int width = 640;
+    const unsigned int height = 520;
+
+    host->display = XOpenDisplay(NULL);
+    if (!host->display)
+        return 0;
+    const int screen = DefaultScreen(host->display);
+    host->window = XCreateSimpleWindow(host->display, RootWindow(host->display, screen), 0, 0,
+                                       width, height, 0, 0, 0xd8e4f0);
+    host->gc = XCreateGC(host->display, host->window, 0, NULL);
+    host->deleteWindow = XInternAtom(host->display, "WM_DELETE_WINDOW", False);
+    XStoreName(host->display, host->window, "C host");
+    XSetWMProtocols(host->display, host->window, &host->deleteWindow, 1);
+    XSelectInput(host->display, host->window, ExposureMask | StructureNotifyMask);
+
+    host->panel = createPanel(host, width, height);
+    XMapWindow(host->display, host->panel);
+    XMapWindow(host->display, host->window);
+    XSync(host->display, False); /* the panel must exist before anybody else hears of it */
+    return 1;
+}
+
+static void layOut(Host *host, int width, int height)
+{
+    const int panelWidth = width - 2 * MARGIN;
+    const int panelHeight = height - HEADER_HEIGHT - MARGIN;
+    XResizeWindow(host->display, host->panel, (unsigned int)(panelWidth > 1 ? panelWidth : 1),
+                  (unsigned int)(panelHeight > 1 ? panelHeight : 1));
+}
+
+static void drawHeader(Host *host)
+{
+    const char *text = "This part is drawn with Xlib. The tree below is resized with the window.";
+    XDrawString(host->display, host->window, host->gc, MARGIN, HEADER_HEIGHT / 2 + 4, text,
+                (int)strlen(text));
+}
+
+static void handleEvent(Host *host, XEvent *event)
+{
+    switch (event->type) {
+    case Expose:
+        drawHeader(host);
+        break;
+    case ConfigureNotify:
+        layOut(host, event->xconfigure.width, event->xconfigure.height);
+        break;
+    case ClientMessage:
+        if ((Atom)event->xclient.data.l[0] == host->deleteWindow)
+            host->closed = 1;
+        break;
+    default:
+        break;
+    }
+}
+
+/* Only has to end the wait: the events are read in the loop. */
+static gboolean wakeUp(gint fd, GIOCondition condition, gpointer data)
+{
+    (void)fd;
+    (void)condition;
+    (void)data;
+    return G_SOURCE_CONTINUE;
+}
+
+static gboolean onSignal(gpointer data)
+{
+    ((Host *)data)->closed = 1;
+    return G_SOURCE_CONTINUE;
+}
+
+/* Qt does all its work, the tree's included, in the default GLib main context. */
+static void run(Host *host)
+{
+    g_unix_fd_add(ConnectionNumber(host->display), G_IO_IN, wakeUp, NULL);
+    g_unix_signal_add(SIGINT, onSignal, host);
+    g_unix_signal_add(SIGTERM, onSignal, host);
+    while (!host->closed) {
+        while (XPending(host->display)) {
+            XEvent event;
+            XNextEvent(host->display, &event);
+            handleEvent(host, &event);
+        }
+        g_main_context_iteration(NULL, TRUE);
+    }
+}
+
+int main(void)
+{
+    Host host;
+    memset(&host, 0, sizeof host);
+    if (!openWindow(&host)) {
+        fprintf(stderr, "c-host: no X display\n");
+        return 1;
+    }
+    Camera *camera = openCamera();
+    if (!camera) {
+        fprintf(stderr, "c-host: no camera\n");
+        return 1;
+    }
+
+    OrvGuiParamTreeView *tree =
+        CreateGenParamTreeViewForArrayA(cameraParameters(camera), "Features", host.panel);
+    run(&host);
+    DestroyGenParamTreeView(tree); /* before what it shows and where it lives */
+
+    closeCamera(camera);
+    XCloseDisplay(host.display);
+    return 0;
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QSize>
+
+#include <cstdint>
+
+struct xcb_connection_t;
+
+namespace OrvGui {
+
+/// Tells the size of an X window that belongs to somebody else, which Qt does not.
+///
+/// Asks the default display on a connection of its own; the window's owner, another toolkit or
+/// another process, notices nothing of that. Silent for a window that does not exist, and on a
+/// platform other than "xcb".
+class HostWindow : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HostWindow(unsigned long window, QObject *parent = nullptr);
+    ~HostWindow() override;
+
+    /// In device pixels; invalid when unknown.
+    QSize size() const;
+
+signals:
+    /// In device pixels. Emitted from Qt's event loop.
+    void resized(const QSize &size);
+
+private:
+    void listen();
+    void readEvents();
+
+    std::uint32_t m_window;
+    xcb_connection_t *m_connection = nullptr;
+};
+
+} // namespace OrvGui

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QStandardItemModel;
+class QTreeView;
+
+/// A list of facts, each with a label, in a tree view of two columns. The user can change the width
+/// of the labels' column, which then stays as it is when other facts are shown.
+class InfoPane
+{
+public:
+    /// The view outlives the pane.
+    explicit InfoPane(QTreeView *view);
+
+    void clear();
+
+    /// Replaces what is shown. The pane takes the model, which `makeFacts` has made.
+    void show(QStandardItemModel *facts);
+
+    /// An empty list of facts.
+    static QStandardItemModel *makeFacts();
+
+    /// A value that is wrong is marked.
+    static void add(QStandardItemModel *facts, const QString &label, const QString &value,
+                    bool isWrong = false);
+
+private:
+    QTreeView *m_view;
+    int m_width = 0; ///< of the labels' column, when something was shown last
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+class QLineEdit;
+class Ui_SetIpDialog;
+
+/// Asks the user for the IPv4 configuration to force on a camera, and tells while he types whether
+/// it fits the network adapter.
+///
+/// Fill it through the setters, those of the adapter first, run it modally, then read the addresses
+/// and the verdict. The user may accept any content, also what the verdict calls wrong. Addresses
+/// are numbers whose most significant byte is the first group; of a MAC address the low six bytes
+/// count. The dialog itself talks to no camera.
+class SetIpDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SetIpDialog(QWidget *parent = nullptr);
+    ~SetIpDialog() override;
+
+    unsigned int ipAddress() const;
+    unsigned int Netmask() const;
+    unsigned int Gateway() const;
+
+    /// The camera's address lies in the adapter's subnet and is not the adapter's own. The verdicts
+    /// are those of the last change of the camera's address or mask.
+    bool isAddressValid() const { return m_addressValid; }
+
+    /// The camera's mask is the adapter's.
+    bool isMaskValid() const { return m_maskValid; }
+
+    void setIPAddress(unsigned int address);
+    void setNetmask(unsigned int mask);
+    void setGateway(unsigned int gateway);
+    void setNicIPAddress(unsigned int address);
+    void setNicNetmask(unsigned int mask);
+    void setMACAddress(unsigned long long address);
+    void setNicMACAddress(unsigned long long address);
+    void setMACLineEdit(QLineEdit *edit, unsigned long long mac);
+
+protected:
+    /// Lets the user type the host number at once.
+    void showEvent(QShowEvent *event) override;
+
+private slots:
+    void checkSubnet(const QString &text);
+
+private:
+    const std::unique_ptr<Ui_SetIpDialog> ui;
+    bool m_addressValid = false;
+    bool m_maskValid = false;
+};
