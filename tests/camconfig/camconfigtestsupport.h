@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvCam.h>
+#include <cameraapi/nodemaparray.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <memory>
+
+/// Closes the error boxes that appear, as a user would, and keeps their texts. With a `patience`,
+/// each is left open for so long (ms), in which whatever happens by itself can happen.
+class ErrorBoxes : public QObject
+{
+public:
+    explicit ErrorBoxes(int patience = 0)
+    {
+        m_timer.setInterval(2);
+        connect(&m_timer, &QTimer::timeout, this, [=] { look(patience); });
+        m_timer.start();
+    }
+
+    QStringList texts;
+    std::function<void()> meanwhile = [] {}; ///< called while a box is open
+
+private:
+    void look(int patience)
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || box->property("seen").toBool())
+            return;
+        box->setProperty("seen", true);
+        if (box->windowTitle() != QString() || box->icon() != QMessageBox::Critical ||
+            box->standardButtons() != QMessageBox::Ok || box->parent())
+            qFatal("Not the error box that was agreed upon");
+        texts << box->text();
+        meanwhile();
+        QTimer::singleShot(patience, box, &QDialog::accept);
+    }
+
+    QTimer m_timer;
+};
+
+/// A device with the parameters of a node map, or with none but an error.
+class NodeMapDevice : public OrvCam::Device
+{
+public:
+    explicit NodeMapDevice(GenApi::INodeMap &nodeMap)
+        : array(new OrvGenParam::NodeMapArray(nodeMap))
+    {
+    }
+
+    OrvGenParam::Array *GetParamArray(int32_t *code) override
+    {
+        ++asked;
+        *code = error;
+        return array.get();
+    }
+    bool IsConnected() const override { return array != nullptr; }
+    OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
+    int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    void Release() override { array.reset(); }
+
+    std::unique_ptr<OrvGenParam::NodeMapArray> array;
+    int32_t error = OrvCam::Success;
+    int asked = 0;
+};
