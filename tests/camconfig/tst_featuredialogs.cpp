@@ -865,21 +865,8 @@ void TestFeatureDialogs::refusals()
         QSlider *slider = width->slider()->slider();
         if (!slider->isVisible())
             qFatal("The slider does not open");
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.minimum = slider->minimum();
-        option.maximum = slider->maximum();
-        option.sliderPosition = option.sliderValue = slider->value();
-        const QPoint from =
-            slider->style()
-                ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-                .center();
-        QTest::mousePress(slider, Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 40; ++step) {
-            QMouseEvent move(QEvent::MouseMove, from + QPoint(step, 0), Qt::LeftButton,
-                             Qt::LeftButton, {});
-            QApplication::sendEvent(slider, &move);
-        }
+        const QPoint from = handleOf(slider);
+        dragBy(slider, from, QPoint(1, 0), 40);
         QTest::mouseRelease(slider, Qt::LeftButton, {}, from + QPoint(40, 0));
         QTest::keyClick(slider, Qt::Key_Escape);
         QTest::qWait(1); // a refusal lets go of the widget once more afterwards

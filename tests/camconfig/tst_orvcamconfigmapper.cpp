@@ -241,20 +241,6 @@ Make makeNumber(QWidget *(*part)(T *))
     return [=] { return std::make_unique<Number<T>>(part); };
 }
 
-QPoint handleOf(const QSlider *slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(slider);
-    option.orientation = slider->orientation();
-    option.minimum = slider->minimum();
-    option.maximum = slider->maximum();
-    option.sliderPosition = option.sliderValue = slider->value();
-    option.upsideDown = slider->orientation() == Qt::Vertical;
-    return slider->style()
-        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-        .center();
-}
-
 void throwRefusal()
 {
     throw GenICam::AccessException("no", __FILE__, __LINE__);
@@ -1051,14 +1037,9 @@ void TestOrvCamConfigMapper::drags()
         heard.clear();
         slider->resize(slider->orientation() == Qt::Horizontal ? QSize(300, 30) : QSize(30, 300));
         const QPoint from = handleOf(slider);
-        QTest::mousePress(slider, Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 10; ++step) {
-            const QPoint to = slider->orientation() == Qt::Horizontal ? from + QPoint(10 * step, 0)
-                                                                      : from - QPoint(0, 10 * step);
-            QMouseEvent move(QEvent::MouseMove, to, Qt::LeftButton, Qt::LeftButton, {});
-            QApplication::sendEvent(slider, &move);
-            camera.number.changed(); // as a feature that is polled
-        }
+        const QPoint step =
+            slider->orientation() == Qt::Horizontal ? QPoint(10, 0) : QPoint(0, -10);
+        dragBy(slider, from, step, 10, [&] { camera.number.changed(); }); // as if it were polled
         QCOMPARE(camera.number.writes(), writes);
         dragged = slider->value();
         QVERIFY(dragged > 20);
