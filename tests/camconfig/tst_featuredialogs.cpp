@@ -739,6 +739,10 @@ void TestFeatureDialogs::readsOnce()
             camera.period.reads(),    camera.width.reads(),  camera.pulses.reads(),
             camera.pulseMode.reads(), camera.enable.reads()};
     };
+    for (Node *node : std::initializer_list<Node *>{
+             &camera.mode, &camera.source, &camera.edge, &camera.debounce, &camera.granularity,
+             &camera.period, &camera.width, &camera.pulses, &camera.pulseMode, &camera.enable})
+        node->properties().cachingMode = GenApi::NoCache; // each time that one is asked for counts
     QCOMPARE(reads(), QVector<int>(11));
     OrvCamConfigTriggerDialog trigger(&camera.device);
     QCOMPARE(reads(), QVector<int>({1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0}));
@@ -750,6 +754,13 @@ void TestFeatureDialogs::readsOnce()
     QVERIFY(QTest::qWaitForWindowExposed(&pulse));
     QTest::qWait(300);
     QCOMPARE(reads(), once);
+
+    // A change, whoever makes it, is shown by one more.
+    camera.edge.change(1);
+    camera.width.change(30);
+    click(pulse, "radioBtnSend");
+    type(part<QtOrvSpinBox>(pulse, "spBoxPeriod"), "500");
+    QCOMPARE(reads(), QVector<int>({1, 1, 2, 1, 0, 1, 2, 2, 1, 2, 1}));
 }
 
 void TestFeatureDialogs::transactions()

@@ -891,6 +891,21 @@ void TestOrvCamConfigMapper::fromInside()
     QCOMPARE(spinBox.singleStep(), 1);
     QVERIFY(!spinBox.isEnabled());
 
+    // And the two agree about the range.
+    Camera twin;
+    twin.number.setLimits(6, 20);
+    twin.number.change(12);
+    Camera changing;
+    mapper->unmapAll();
+    mapper->mapIntParam(changing.array->GetInt("Länge"), &spinBox);
+    on([&] {
+        mapper->unmapAll();
+        mapper->mapIntParam(twin.array->GetInt("Länge"), &spinBox);
+    });
+    changing.number.setLimits(6, 20);
+    QCOMPARE(spinBox.value(), 12);
+    QCOMPARE(twin.number.writes() + changing.number.writes(), 0);
+
     // Let go, and destroyed.
     mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
     on([&] { mapper->unmapAll(); });
