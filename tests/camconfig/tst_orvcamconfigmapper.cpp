@@ -1008,6 +1008,24 @@ void TestOrvCamConfigMapper::typingIsLeftAlone()
     QCOMPARE(camera.number.writes(), 2);
     QCOMPARE(plain.value(), 123);
 
+    OrvCamConfigMapper third;
+    QLineEdit text;
+    third.mapIntParam(camera.array->GetInt("Länge"), &text);
+    text.show();
+    text.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&text));
+    text.selectAll();
+    QTest::keyClicks(&text, QStringLiteral("45"));
+    camera.number.changed();
+    QTest::keyClick(&text, Qt::Key_Return);
+    QCOMPARE(camera.number.writes(), 3);
+    QCOMPARE(text.text(), QStringLiteral("45"));
+    QTest::keyClicks(&text, QStringLiteral("9"));
+    text.clearFocus();
+    QCOMPARE(camera.number.writes(), 4);
+    camera.number.change(8);
+    QCOMPARE(text.text(), QStringLiteral("8"));
+
     // One box for a number that is refused, however many keys it took.
     camera.number.onWrite(throwRefusal);
     camera.number.change(5);
