@@ -2,7 +2,9 @@
 #pragma once
 
 #include <OrvCam.h>
+#include <aravis/nodemap.h>
 #include <cameraapi/nodemaparray.h>
+#include <simulation/simulatedcamera.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -61,9 +63,38 @@ public:
     OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
     int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
     int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
-    void Release() override { array.reset(); }
+    void Release() override
+    {
+        if (array)
+            array->detach(OrvCam::ErrorGone);
+        array.reset();
+    }
 
     std::unique_ptr<OrvGenParam::NodeMapArray> array;
     int32_t error = OrvCam::Success;
     int asked = 0;
+};
+
+/// The simulated camera as a device, with all that it takes.
+struct SimulatedDevice
+{
+    SimulatedDevice() : map(OrvAravis::NodeMap::open(camera.device())), device(*map) {}
+
+    /// Changes a feature as another client would, whose changes the camera reports.
+    void set(const char *feature, const char *value)
+    {
+        try {
+            GenApi::CValuePtr(map->GetNode(feature))->FromString(value);
+        } catch (const GenICam::GenericException &e) {
+            QTest::qFail(e.what(), __FILE__, __LINE__);
+        }
+    }
+    QString get(const char *feature)
+    {
+        return GenApi::CValuePtr(map->GetNode(feature))->ToString().c_str();
+    }
+
+    OrvSimulation::SimulatedCamera camera;
+    std::unique_ptr<OrvAravis::NodeMap> map;
+    NodeMapDevice device;
 };
