@@ -103,26 +103,42 @@ public:
     int asked = 0;
 };
 
-/// The simulated camera as a device, with all that it takes.
-struct SimulatedDevice
+/// A camera as its node map knows it.
+struct DescribedDevice
 {
-    SimulatedDevice() : map(OrvAravis::NodeMap::open(camera.device())), device(*map) {}
+    explicit DescribedDevice(std::unique_ptr<OrvAravis::NodeMap> nodeMap)
+        : map(std::move(nodeMap)), device(*map)
+    {
+    }
 
     /// Changes a feature as another client would, whose changes the camera reports.
-    void set(const char *feature, const char *value)
+    void set(const QByteArray &feature, const QByteArray &value)
     {
         try {
-            GenApi::CValuePtr(map->GetNode(feature))->FromString(value);
+            GenApi::CValuePtr(map->GetNode(feature.constData()))->FromString(value.constData());
         } catch (const GenICam::GenericException &e) {
             QTest::qFail(e.what(), __FILE__, __LINE__);
         }
     }
-    QString get(const char *feature)
+    QString get(const QByteArray &feature) const
     {
-        return GenApi::CValuePtr(map->GetNode(feature))->ToString().c_str();
+        return GenApi::CValuePtr(map->GetNode(feature.constData()))->ToString().c_str();
     }
 
-    OrvSimulation::SimulatedCamera camera;
+    /// Of anybody to the camera, since its beginning.
+    quint64 writes() const { return map->transactions().writes; }
+
     std::unique_ptr<OrvAravis::NodeMap> map;
     NodeMapDevice device;
+};
+
+struct SimulatedDeviceCamera
+{
+    OrvSimulation::SimulatedCamera camera;
+};
+
+/// The simulated camera as a device, with all that it takes.
+struct SimulatedDevice : SimulatedDeviceCamera, DescribedDevice
+{
+    SimulatedDevice() : DescribedDevice(OrvAravis::NodeMap::open(camera.device())) {}
 };
