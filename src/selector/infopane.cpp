@@ -52,6 +52,7 @@ void InfoPane::add(QStandardItemModel *facts, const QString &label, const QStrin
                    bool isWrong)
 {
     auto *valueItem = new QStandardItem(value);
+    valueItem->setToolTip(value); // the column may be too narrow for it
     if (isWrong)
         valueItem->setBackground(QBrush(Qt::red));
     facts->appendRow({new QStandardItem(label), valueItem});
