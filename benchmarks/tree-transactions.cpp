@@ -3,11 +3,20 @@
 // How many camera transactions does the feature tree cost?
 //
 //   tree-transactions [DESCRIPTION.xml ...]
+//   tree-transactions --address IPV4
 //
-// For the simulated camera and for each description: the transactions of reading all cells for the
-// first time and again, and those of writing each writable number back to itself and reading all
-// cells after that. A camera needs about a millisecond for each, so the counts are what a user
-// feels; the times only say what this machine adds to them.
+// For the simulated camera and for each description, or for a GigE Vision camera: the transactions
+// of reading all cells for the first time and again, and those of writing each writable value back
+// to itself and reading all cells after that. A camera needs about a millisecond for each, so the
+// counts are what a user feels; the times only say what this machine adds to them.
+//
+// The transactions of a camera with an address are counted on the wire, which must be the loopback
+// device; on-the-wire.sh sets such a network up.
+
+// Before Qt, whose keywords are names in GLib.
+#include <arv.h>
+
+#include "gvcpcounter.h"
 
 #include <aravis/nodemap.h>
 #include <genparamtreemodel.h>
@@ -50,6 +59,52 @@ void collectWritable(const QAbstractItemModel &model, const QModelIndex &parent,
     }
 }
 
+/// Where transactions are counted.
+class Meter
+{
+public:
+    virtual ~Meter() = default;
+
+    /// Since the last call.
+    virtual OrvAravis::Transactions take() = 0;
+};
+
+/// At the node map's port.
+class PortMeter : public Meter
+{
+public:
+    explicit PortMeter(const OrvAravis::NodeMap &map) : m_map(map) {}
+
+    OrvAravis::Transactions take() override
+    {
+        const OrvAravis::Transactions now = m_map.transactions();
+        const OrvAravis::Transactions difference = {now.reads - m_last.reads,
+                                                    now.writes - m_last.writes};
+        m_last = now;
+        return difference;
+    }
+
+private:
+    const OrvAravis::NodeMap &m_map;
+    OrvAravis::Transactions m_last;
+};
+
+/// On the loopback device.
+class WireMeter : public Meter
+{
+public:
+    bool isListening() const { return m_counter.isListening(); }
+
+    OrvAravis::Transactions take() override
+    {
+        const QList<GvcpCommand> commands = m_counter.take();
+        return {quint64(readsIn(commands)), quint64(writesIn(commands))};
+    }
+
+private:
+    GvcpCounter m_counter;
+};
+
 struct Cost
 {
     OrvAravis::Transactions transactions;
@@ -57,23 +112,22 @@ struct Cost
 };
 
 template<typename Work>
-Cost costOf(const OrvAravis::NodeMap &map, Work work)
+Cost costOf(Meter &meter, Work work)
 {
-    const OrvAravis::Transactions before = map.transactions();
+    meter.take();
     QElapsedTimer timer;
     timer.start();
     work();
     const double milliseconds = double(timer.nsecsElapsed()) / 1e6;
-    const OrvAravis::Transactions after = map.transactions();
-    return {{after.reads - before.reads, after.writes - before.writes}, milliseconds};
+    return {meter.take(), milliseconds};
 }
 
-void measure(const QString &name, OrvAravis::NodeMap &map, double loading)
+void measure(const QString &name, OrvAravis::NodeMap &map, Meter &meter, double loading)
 {
     QTextStream out(stdout);
     GenParamTreeModel model(&map, nullptr);
-    const Cost first = costOf(map, [&] { readAllCells(model); });
-    const Cost again = costOf(map, [&] { readAllCells(model); });
+    const Cost first = costOf(meter, [&] { readAllCells(model); });
+    const Cost again = costOf(meter, [&] { readAllCells(model); });
 
     std::vector<QModelIndex> cells;
     collectWritable(model, QModelIndex(), cells);
@@ -81,7 +135,7 @@ void measure(const QString &name, OrvAravis::NodeMap &map, double loading)
     quint64 refused = 0;
     quint64 severalWrites = 0;
     for (const QModelIndex &cell : cells) {
-        const Cost write = costOf(map, [&] {
+        const Cost write = costOf(meter, [&] {
             refused += model.setData(cell, cell.data(Qt::EditRole)) ? 0 : 1;
             readAllCells(model);
         });
@@ -100,6 +154,62 @@ void measure(const QString &name, OrvAravis::NodeMap &map, double loading)
             << "; more than one write: " << severalWrites << "; refused: " << refused << "\n";
 }
 
+double millisecondsOf(QElapsedTimer &timer)
+{
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+void measureSimulation(QElapsedTimer &timer)
+{
+    timer.start();
+    OrvSimulation::SimulatedCamera camera;
+    const auto map = OrvAravis::NodeMap::open(camera.device());
+    PortMeter meter(*map);
+    measure("simulated camera", *map, meter, millisecondsOf(timer));
+}
+
+void measureDescription(const char *fileName, QElapsedTimer &timer)
+{
+    timer.start();
+    const auto map = OrvAravis::NodeMap::fromFile(fileName);
+    PortMeter meter(*map);
+    measure(fileName, *map, meter, millisecondsOf(timer));
+}
+
+bool measureCamera(const char *address, QElapsedTimer &timer)
+{
+    QTextStream err(stderr);
+    WireMeter meter;
+    if (!meter.isListening()) {
+        err << "the wire cannot be listened to: be root of the network namespace\n";
+        return false;
+    }
+    GInetAddress *inetAddress = g_inet_address_new_from_string(address);
+    if (!inetAddress) {
+        err << "'" << address << "' is no address\n";
+        return false;
+    }
+    timer.start();
+    GError *error = nullptr;
+    ArvDevice *device = arv_gv_device_new(inetAddress, inetAddress, &error);
+    g_object_unref(inetAddress);
+    if (!device) {
+        err << error->message << '\n';
+        g_error_free(error);
+        return false;
+    }
+    const OrvAravis::Transactions opening = meter.take();
+    const auto map = OrvAravis::NodeMap::open(device);
+    const double loading = millisecondsOf(timer);
+    const OrvAravis::Transactions building = meter.take();
+    QTextStream(stdout) << "opening the device: " << opening.reads << " reads, " << opening.writes
+                        << " writes; making its node map: " << building.reads << " reads, "
+                        << building.writes << " writes\n";
+    measure(address, *map, meter, loading);
+    g_object_unref(device);
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -109,15 +219,11 @@ int main(int argc, char **argv)
     const QGuiApplication application(argc, argv);
     QElapsedTimer timer;
     try {
-        timer.start();
-        OrvSimulation::SimulatedCamera camera;
-        const auto map = OrvAravis::NodeMap::open(camera.device());
-        measure("simulated camera", *map, double(timer.nsecsElapsed()) / 1e6);
-        for (int i = 1; i < argc; ++i) {
-            timer.start();
-            const auto description = OrvAravis::NodeMap::fromFile(argv[i]);
-            measure(argv[i], *description, double(timer.nsecsElapsed()) / 1e6);
-        }
+        if (argc == 3 && qstrcmp(argv[1], "--address") == 0)
+            return measureCamera(argv[2], timer) ? 0 : 1;
+        measureSimulation(timer);
+        for (int i = 1; i < argc; ++i)
+            measureDescription(argv[i], timer);
     } catch (const GenICam::GenericException &e) {
         QTextStream(stderr) << e.GetDescription() << '\n';
         return 1;

@@ -3,6 +3,8 @@
 
 #include <Base/GCException.h>
 
+#include <genapi/nodes/numbers.h>
+
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
@@ -11,18 +13,11 @@
 #include <memory>
 #include <mutex>
 
+using OrvGenApi::trimmed;
+
 namespace OrvAravis {
 
 namespace {
-
-std::string trimmed(const std::string &text)
-{
-    const char *blanks = " \t\r\n";
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 std::string text(const xmlChar *characters)
 {

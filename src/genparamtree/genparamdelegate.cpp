@@ -44,10 +44,20 @@ void setDisplayBase(QSpinBox *spinBox, GenApi::ERepresentation representation)
         spinBox->setDisplayIntegerBase(16);
 }
 
+bool wasClosed(const QComboBox *comboBox)
+{
+    // Before it is shown for the first time, a widget is hidden, too, but not on purpose.
+    return comboBox->isHidden() && comboBox->testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
 void openAt(QComboBox *comboBox, const QVariant &value)
 {
+    const QPointer<QComboBox> alive(comboBox);
     comboBox->setCurrentIndex(comboBox->findData(value, Qt::UserRole));
-    comboBox->showPopup();
+    // The new index may have ended the editing. And while a choice is being written, the change of
+    // the node leads here, but the list must not open once more.
+    if (alive && !comboBox->isWindowModified() && !wasClosed(comboBox))
+        comboBox->showPopup();
 }
 
 } // namespace
@@ -336,7 +346,10 @@ QComboBox *GenParamDelegate::createComboBox(QWidget *parent, const ComboBoxEntri
     connect(comboBox, currentIndexChanged, self.data(), [self, comboBox] {
         // What follows the write may take the view away, and both of us with it.
         const QPointer<QComboBox> alive(comboBox);
+        comboBox->setWindowModified(true);
         emit self->commitData(comboBox);
+        if (alive)
+            comboBox->setWindowModified(false);
         if (self && alive)
             emit self->closeEditor(comboBox, NoHint);
     });

@@ -24,6 +24,7 @@ TreeViewResizer::TreeViewResizer(QTreeView *treeView) : QObject(treeView), tree(
     tree->installEventFilter(this);
     tree->viewport()->installEventFilter(this);
     tree->viewport()->setAttribute(Qt::WA_MouseTracking);
+    tree->header()->setMinimumSectionSize(2 * margin); // the style's would be larger
 }
 
 QModelIndex TreeViewResizer::ifResizable(const QPoint &pos)
@@ -42,19 +43,17 @@ bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == tree && event->type() == QEvent::Show)
         emit showed();
+    const QEvent::Type type = event->type();
+    if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress
+        && type != QEvent::MouseButtonRelease)
+        return false; // also while the tree is being destroyed, when it has no viewport to ask for
     if (watched != tree->viewport())
         return false;
 
-    switch (event->type()) {
-    case QEvent::MouseMove:
-        return mouseMove(static_cast<QMouseEvent *>(event));
-    case QEvent::MouseButtonPress:
-        return mousePress(static_cast<QMouseEvent *>(event));
-    case QEvent::MouseButtonRelease:
-        return mouseRelease(static_cast<QMouseEvent *>(event));
-    default:
-        return false;
-    }
+    auto *mouseEvent = static_cast<QMouseEvent *>(event);
+    if (type == QEvent::MouseMove)
+        return mouseMove(mouseEvent);
+    return type == QEvent::MouseButtonPress ? mousePress(mouseEvent) : mouseRelease(mouseEvent);
 }
 
 bool TreeViewResizer::mouseMove(const QMouseEvent *event)

@@ -12,15 +12,6 @@ namespace OrvGenApi {
 
 namespace {
 
-std::string trimmed(const std::string &text)
-{
-    const char *blanks = " \t\r\n";
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 template<typename T>
 std::optional<T> wholeNumber(const std::string &text, int base)
 {
@@ -113,6 +104,35 @@ std::optional<double> floatFromText(const std::string &text)
     if (number.empty() || result.ec != std::errc() || result.ptr != end)
         return std::nullopt;
     return value;
+}
+
+std::string trimmed(const std::string &text)
+{
+    const char *blanks = " \t\r\n";
+    const auto first = text.find_first_not_of(blanks);
+    if (first == std::string::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string numberText(int64_t value)
+{
+    return std::to_string(value);
+}
+
+std::string numberText(double value)
+{
+    return floatToText(value, fnAutomatic, 10);
+}
+
+bool areSame(int64_t left, int64_t right)
+{
+    return left == right;
+}
+
+bool areSame(double left, double right)
+{
+    return std::abs(left - right) <= 1e-9 * std::max(std::abs(left), std::abs(right));
 }
 
 bool isOnIncrement(int64_t value, int64_t minimum, int64_t increment)

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "orvgenparamtreeview.h"
+#include "treecells.h"
+
+#include <QApplication>
+#include <QTreeView>
+#include <QWindow>
+#include <QtTest>
+
+/// Uses a shown tree as a user does: with a mouse and a keyboard whose events take the whole way
+/// through the window system's side of Qt.
+class TreeDriver
+{
+public:
+    explicit TreeDriver(OrvGui::OrvGenParamTreeView &view) : m_view(view) {}
+
+    /// Opens everything, at the highest level, and waits until the user could see it.
+    void show()
+    {
+        m_view.setVisibility(OrvGui::Guru);
+        m_view.resize(700, 600);
+        m_view.show();
+        m_view.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&m_view));
+        tree().expandAll();
+    }
+
+    QTreeView &tree() const { return *m_view.treeView(); }
+
+    QModelIndex cell(const char *feature, int column = 1) const
+    {
+        return cellOf(*tree().model(), QString::fromLatin1(feature), column);
+    }
+
+    QString text(const char *feature) const { return cell(feature).data().toString(); }
+
+    void click(const char *feature, int column = 1)
+    {
+        const QModelIndex index = cell(feature, column);
+        tree().scrollTo(index);
+        const QRect rect = tree().visualRect(index);
+        click(*tree().viewport(), QPoint(rect.left() + rect.width() / 3, rect.center().y()));
+    }
+
+    static void click(QWidget &widget, const QPoint &position)
+    {
+        QWindow *window = widget.window()->windowHandle();
+        const QPoint inWindow = widget.mapTo(widget.window(), position);
+        QTest::mouseMove(window, inWindow);
+        QCoreApplication::processEvents();
+        QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, inWindow);
+        QCoreApplication::processEvents();
+    }
+
+    void drag(const QPoint &from, const QPoint &to)
+    {
+        QWindow *window = m_view.windowHandle();
+        const auto inWindow = [this](const QPoint &position) {
+            return tree().viewport()->mapTo(&m_view, position);
+        };
+        QTest::mouseMove(window, inWindow(from));
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(from));
+        QTest::mouseMove(window, inWindow((from + to) / 2));
+        QTest::mouseMove(window, inWindow(to));
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, inWindow(to));
+        QCoreApplication::processEvents();
+    }
+
+    /// Keys go where the window system would send them: to the open list, if there is one.
+    static void press(Qt::Key key)
+    {
+        QTest::keyPress(receiver(), key);
+        QTest::keyRelease(receiver(), key); // the first may have closed the list
+        QCoreApplication::processEvents();
+    }
+    static void type(const QString &text)
+    {
+        for (const QChar character : text)
+            QTest::keyClick(receiver(), character.toLatin1());
+        QCoreApplication::processEvents();
+    }
+
+    /// The open editor of that class, or null.
+    template<typename Editor>
+    Editor *editor() const
+    {
+        for (Editor *child : tree().viewport()->findChildren<Editor *>()) {
+            if (child->isVisible())
+                return child;
+        }
+        return nullptr;
+    }
+
+    bool isEditing() const
+    {
+        const auto children =
+            tree().viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        return std::any_of(children.begin(), children.end(),
+                           [](QWidget *child) { return child->isVisible(); });
+    }
+
+private:
+    static QWindow *receiver()
+    {
+        if (QWidget *popup = QApplication::activePopupWidget())
+            return popup->windowHandle();
+        return QGuiApplication::focusWindow();
+    }
+
+    OrvGui::OrvGenParamTreeView &m_view;
+};

@@ -1,0 +1,801 @@
+// SPDX-License-Identifier: MIT
+#include "orvgenparamtreeview.h"
+
+#include "samplenodemap.h"
+#include "treedriver.h"
+#include "treeviewresizer.h"
+
+#include <aravis/nodemap.h>
+#include <simulation/simulatedcamera.h>
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QtTest>
+
+#include <memory>
+#include <random>
+#include <stdexcept>
+#include <thread>
+
+using OrvGui::OrvGenParamTreeView;
+
+Q_DECLARE_METATYPE(Qt::Key)
+
+namespace {
+
+/// A simulated camera with a tree of it, and a second look at the same camera that shares no cache
+/// with the tree.
+struct CameraTree
+{
+    OrvSimulation::SimulatedCamera camera;
+    std::unique_ptr<OrvAravis::NodeMap> nodeMap = OrvAravis::NodeMap::open(camera.device());
+    std::unique_ptr<OrvAravis::NodeMap> other = OrvAravis::NodeMap::open(camera.device());
+    OrvGenParamTreeView view{nodeMap.get(), nullptr};
+    TreeDriver driver{view};
+
+    QString written(const QString &feature)
+    {
+        other->InvalidateNodes();
+        const GenApi::CValuePtr value(other->GetNode(feature.toLatin1().constData()));
+        return QString::fromUtf8(value->ToString());
+    }
+};
+
+/// Counts how often a widget is shown from now on.
+struct ShowCounter : QObject
+{
+    explicit ShowCounter(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Show ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+} // namespace
+
+class TestOrvGenParamTreeView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void form();
+    void levelsAndSpans();
+    void description();
+    void firstShow();
+
+    void typing_data();
+    void typing();
+    void choosing_data();
+    void choosing();
+    void listOpensOnce();
+    void executing();
+    void escapeAndClickElsewhere();
+    void refusedWrite();
+    void failingNode();
+
+    void dragging();
+    void draggingLimits();
+
+    void savedState();
+    void restoredState();
+    void roundTrip();
+    void oddStates();
+
+    void takenAwayWhileEditing_data();
+    void takenAwayWhileEditing();
+    void takenAwayByItsOwnWrite_data();
+    void takenAwayByItsOwnWrite();
+    void changedOnAnotherThread();
+    void transactions();
+};
+
+void TestOrvGenParamTreeView::form()
+{
+    OrvGenParamTreeView view;
+    QCOMPARE(view.objectName(), QStringLiteral("GenParamTreeView"));
+    QCOMPARE(view.windowTitle(), QStringLiteral("GenParamTreeView"));
+    QCOMPARE(view.size(), QSize(564, 410));
+    QCOMPARE(view.saveState(), "");
+    view.loadState("&amp;W200&amp;V1");
+    QCOMPARE(view.visibility(), OrvGui::Basic);
+
+    auto *tree = view.findChild<QTreeView *>(QStringLiteral("treeView"));
+    QCOMPARE(tree, view.treeView());
+    QVERIFY(!tree->model());
+    QVERIFY(tree->isHeaderHidden());
+    QVERIFY(tree->uniformRowHeights());
+    QVERIFY(tree->alternatingRowColors());
+    QCOMPARE(tree->editTriggers(),
+             QAbstractItemView::CurrentChanged | QAbstractItemView::DoubleClicked |
+                 QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+    QVERIFY(tree->itemDelegateForColumn(1));
+    QVERIFY(!tree->itemDelegateForColumn(0));
+
+    auto *splitter = view.findChild<QSplitter *>();
+    QVERIFY(!splitter->childrenCollapsible());
+    QCOMPARE(splitter->orientation(), Qt::Vertical);
+    QCOMPARE(splitter->widget(0), tree);
+    QCOMPARE(splitter->widget(1)->objectName(), QStringLiteral("whatsThisLabel"));
+
+    auto *levels = view.findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+    const QStringList names{QStringLiteral("Basic"), QStringLiteral("Expert"),
+                            QStringLiteral("Guru")};
+    for (int i = 0; i < names.size(); ++i)
+        QCOMPARE(levels->itemText(i), names.at(i));
+    QCOMPARE(view.findChild<QLabel *>(QStringLiteral("label"))->text(),
+             QStringLiteral("Visibility:"));
+}
+
+void TestOrvGenParamTreeView::levelsAndSpans()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    QTreeView *tree = view.treeView();
+    const QAbstractItemModel *model = tree->model();
+    TreeDriver driver(view);
+
+    for (int row = 0; row < 4; ++row)
+        QVERIFY(tree->isFirstColumnSpanned(row, QModelIndex()));
+    QVERIFY(!tree->isFirstColumnSpanned(0, model->index(0, 0)));
+    QVERIFY(!driver.cell("FirmwareKey").isValid());
+
+    // A level takes effect at once, and the model stays.
+    auto *levels = view.findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+    levels->setCurrentIndex(2);
+    QCOMPARE(view.visibility(), OrvGui::Guru);
+    QVERIFY(driver.cell("FirmwareKey").isValid());
+    QCOMPARE(tree->model(), model);
+    QVERIFY(tree->isFirstColumnSpanned(3, QModelIndex()));
+
+    // A new tree is made at the level that is set, and spans all that is visible then.
+    SampleNodeMap second;
+    view.setParams(&second);
+    QVERIFY(driver.cell("FirmwareKey").isValid());
+    QVERIFY(tree->isFirstColumnSpanned(0, driver.cell("TransportLayerControl", 0)));
+    view.clearParams();
+    QVERIFY(!tree->model());
+    view.setParams(static_cast<GenApi::INodeMap *>(nullptr));
+    view.setParams(static_cast<OrvGenParam::Array *>(nullptr));
+    QVERIFY(!tree->model());
+}
+
+void TestOrvGenParamTreeView::description()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    auto *panel = view.findChild<QTextBrowser *>(QStringLiteral("whatsThisLabel"));
+    QVERIFY(panel->toPlainText().isEmpty());
+
+    driver.click("Width", 0);
+    QCOMPARE(driver.tree().currentIndex(), driver.cell("Width", 0));
+    QVERIFY(panel->toPlainText().contains(QStringLiteral("Width of the image in pixels.")));
+    driver.click("DeviceControl", 0);
+    QVERIFY(panel->toPlainText().startsWith(QStringLiteral("Name: Device Control")));
+    driver.tree().setCurrentIndex(QModelIndex());
+    QVERIFY(panel->toPlainText().isEmpty());
+    driver.click("Width", 0);
+    view.clearParams();
+    QVERIFY(panel->toPlainText().isEmpty());
+}
+
+void TestOrvGenParamTreeView::firstShow()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    view.resize(800, 400);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QTreeView *tree = view.treeView();
+    const int half = tree->viewport()->width() / 2;
+    QVERIFY2(qAbs(tree->columnWidth(0) - half) < 10, qPrintable(QString::number(half)));
+
+    // Only once, and not when a width was restored before.
+    tree->setColumnWidth(0, 123);
+    view.hide();
+    view.show();
+    QCOMPARE(tree->columnWidth(0), 123);
+
+    OrvGenParamTreeView restored(&map, nullptr);
+    restored.loadState("&amp;W77");
+    restored.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&restored));
+    QCOMPARE(restored.treeView()->columnWidth(0), 77);
+}
+
+void TestOrvGenParamTreeView::typing_data()
+{
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("proof");
+    QTest::addColumn<QString>("written");
+
+    const auto row = [](const char *name, const char *feature, const char *keys, const char *shown,
+                        const char *written) {
+        QTest::newRow(name) << feature << keys << shown << feature << written;
+    };
+    row("integer", "PulseGenPeriod", "2500", "2500", "2500");
+    row("hexadecimal", "ServiceAddress", "c", "C", "0xC");
+    row("float", "Gamma", "1.25", "1.25", "1.25");
+    row("string", "DeviceUserDefinedName", "left camera", "left camera", "left camera");
+    row("address", "GevPersistentIPAddress", "10.1.2.3", "10.1.2.3", "10.1.2.3");
+    QTest::newRow("write only") << "ServiceKey"
+                                << "1"
+                                << "<Value not readable>"
+                                << "ServiceUnlocked"
+                                << "0";
+}
+
+void TestOrvGenParamTreeView::typing()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, keys);
+    QFETCH(QString, shown);
+    QFETCH(QString, proof);
+    QFETCH(QString, written);
+
+    CameraTree tree;
+    GenApi::CIntegerPtr(tree.nodeMap->GetNode("ServiceKey"))->SetValue(0x4F525601);
+    tree.camera.advance(0);
+    tree.driver.show();
+    const QByteArray name = feature.toLatin1();
+    QVERIFY(tree.written(proof) != written);
+    tree.driver.click(name.constData());
+    QVERIFY(tree.driver.isEditing());
+    QCOMPARE(QApplication::focusWidget()->parentWidget(), tree.driver.tree().viewport());
+    tree.driver.type(keys);
+    QVERIFY(tree.written(proof) != written);
+    tree.driver.press(Qt::Key_Return);
+    QTRY_VERIFY(!tree.driver.isEditing());
+    tree.camera.advance(0);
+    QCOMPARE(tree.written(proof), written);
+    QCOMPARE(tree.driver.text(name.constData()), shown);
+}
+
+void TestOrvGenParamTreeView::choosing_data()
+{
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+
+    QTest::newRow("boolean") << "ReverseX" << Qt::Key_Up << "0"
+                             << "1";
+    QTest::newRow("enumeration") << "TriggerMode" << Qt::Key_Down << "Off"
+                                 << "On";
+    QTest::newRow("integer list") << "StreamBufferDepth" << Qt::Key_Down << "8"
+                                  << "16";
+    QTest::newRow("hexadecimal list") << "SensorClockDivider" << Qt::Key_Down << "0x20"
+                                      << "0x40";
+}
+
+void TestOrvGenParamTreeView::choosing()
+{
+    QFETCH(QString, feature);
+    QFETCH(Qt::Key, key);
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+
+    CameraTree tree;
+    tree.driver.show();
+    const QByteArray name = feature.toLatin1();
+    QCOMPARE(tree.written(feature), before);
+
+    // With the keyboard: the list is open already.
+    tree.driver.click(name.constData());
+    QVERIFY(tree.driver.editor<QComboBox>());
+    QVERIFY(QApplication::activePopupWidget());
+    tree.driver.press(key);
+    QCOMPARE(tree.written(feature), before);
+    tree.driver.press(Qt::Key_Return);
+    QTRY_VERIFY(!tree.driver.isEditing());
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(tree.written(feature), after);
+
+    // And back with the mouse.
+    tree.driver.tree().setCurrentIndex(QModelIndex());
+    tree.driver.click(name.constData());
+    auto *comboBox = tree.driver.editor<QComboBox>();
+    QVERIFY(comboBox);
+    QAbstractItemView *list = comboBox->view();
+    QTRY_VERIFY(list->window()->windowHandle()->isExposed());
+    const int row = comboBox->currentIndex() + (key == Qt::Key_Down ? -1 : 1);
+    const QRect entry = list->visualRect(list->model()->index(row, 0));
+    TreeDriver::click(*list->viewport(), entry.center());
+    QTRY_VERIFY(!tree.driver.isEditing());
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(tree.written(feature), before);
+
+    // Escape closes the list, then the editor; nothing is written.
+    tree.driver.tree().setCurrentIndex(QModelIndex());
+    tree.driver.click(name.constData());
+    tree.driver.press(key);
+    tree.driver.press(Qt::Key_Escape);
+    QVERIFY(!QApplication::activePopupWidget());
+    tree.driver.press(Qt::Key_Escape);
+    QTRY_VERIFY(!tree.driver.isEditing());
+    QCOMPARE(tree.written(feature), before);
+}
+
+// Writing a choice, and a change by the camera, make the node report; the list must not flash.
+void TestOrvGenParamTreeView::listOpensOnce()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    for (const bool byCamera : {false, true}) {
+        driver.tree().setCurrentIndex(QModelIndex());
+        driver.click("PixelFormat");
+        QPointer<QComboBox> comboBox(driver.editor<QComboBox>());
+        QVERIFY(comboBox);
+        ShowCounter counter(comboBox->view()->window());
+        if (byCamera) {
+            map.enumeration("PixelFormat").change(0x01080001);
+        } else {
+            driver.press(Qt::Key_Down);
+            driver.press(Qt::Key_Return);
+        }
+        QVERIFY(!driver.isEditing());
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(counter.count, 0);
+        QCOMPARE(driver.text("PixelFormat"),
+                 byCamera ? QStringLiteral("Mono8") : QStringLiteral("Mono12"));
+    }
+}
+
+void TestOrvGenParamTreeView::executing()
+{
+    CameraTree tree;
+    tree.driver.show();
+    GenApi::CIntegerPtr timestamp(tree.other->GetNode("TimestampLatchValue"));
+    const int64_t before = timestamp->GetValue();
+    tree.camera.advance(1);
+
+    tree.driver.click("TimestampLatch");
+    auto *button = tree.driver.editor<QPushButton>();
+    QVERIFY(button);
+    QCOMPARE(button->text(), QStringLiteral("Execute"));
+    QCOMPARE(timestamp->GetValue(false, true), before);
+    TreeDriver::click(*button, button->rect().center());
+    tree.camera.advance(0);
+    QVERIFY(timestamp->GetValue(false, true) > before);
+    QVERIFY(tree.driver.isEditing());
+    TreeDriver::click(*tree.driver.tree().viewport(), QPoint(20, 2));
+    QTRY_VERIFY(!tree.driver.isEditing());
+}
+
+void TestOrvGenParamTreeView::escapeAndClickElsewhere()
+{
+    SampleNodeMap map;
+    auto &width = map.integer("Width");
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+
+    driver.click("Width");
+    driver.type(QStringLiteral("640"));
+    driver.press(Qt::Key_Escape);
+    QTRY_VERIFY(!driver.isEditing());
+    QCOMPARE(width.writes(), 0);
+
+    // A click into the editor does not end it, one on another row does, and so does one in another
+    // window of the program.
+    driver.click("Width"); // the current cell: Qt waits whether this becomes a double click
+    QTRY_VERIFY(driver.editor<QSpinBox>());
+    auto *spinBox = driver.editor<QSpinBox>();
+    spinBox->setValue(640);
+    TreeDriver::click(*spinBox, spinBox->rect().center());
+    QCOMPARE(driver.editor<QSpinBox>(), spinBox);
+    driver.click("DeviceControl", 0);
+    QTRY_VERIFY(!driver.editor<QSpinBox>());
+    QCOMPARE(width.GetValue(), int64_t(640));
+    QCOMPARE(driver.tree().currentIndex(), driver.cell("DeviceControl", 0));
+
+    QWidget elsewhere;
+    elsewhere.setGeometry(900, 50, 100, 100);
+    elsewhere.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&elsewhere));
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    driver.click("Width");
+    driver.editor<QSpinBox>()->setValue(320);
+    TreeDriver::click(elsewhere, QPoint(50, 50));
+    QTRY_VERIFY(!driver.isEditing());
+    QCOMPARE(width.GetValue(), int64_t(320));
+}
+
+void TestOrvGenParamTreeView::refusedWrite()
+{
+    SampleNodeMap map;
+    map.integer("Width").onWrite(
+        [] { throw GenICam::AccessException("locked by another program", __FILE__, __LINE__); });
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    driver.click("Width");
+    driver.type(QStringLiteral("640"));
+    driver.press(Qt::Key_Return);
+    QTRY_VERIFY(!driver.isEditing());
+    QCOMPARE(map.integer("Width").writes(), 1);
+    QCOMPARE(driver.text("Width"), QStringLiteral("1280"));
+
+    // The increment of the node, not that of the spin box, has the last word.
+    map.integer("Width").onWrite({});
+    driver.tree().setCurrentIndex(QModelIndex());
+    driver.click("Width");
+    driver.type(QStringLiteral("641"));
+    driver.press(Qt::Key_Return);
+    QTRY_VERIFY(!driver.isEditing());
+    QCOMPARE(driver.text("Width"), QStringLiteral("1280"));
+}
+
+// A node that fails gets no editor, and nothing worse happens.
+void TestOrvGenParamTreeView::failingNode()
+{
+    SampleNodeMap map;
+    const auto fail = [] { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); };
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    map.integer("Width").bindMax([fail]() -> int64_t {
+        fail();
+        return 0;
+    });
+    map.integer("Width").changed();
+    driver.click("Width");
+    QVERIFY(!driver.isEditing());
+    map.number("ExposureTime").onRead(fail);
+    map.number("ExposureTime").changed();
+    driver.click("ExposureTime");
+    QVERIFY(driver.isEditing());
+    QCOMPARE(driver.text("ExposureTime"), QString());
+}
+
+void TestOrvGenParamTreeView::dragging()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    QTreeView &tree = driver.tree();
+    const auto dragBorder = [&](int y, int by) {
+        const QPoint from(tree.columnWidth(0) - 1, y);
+        driver.drag(from, from + QPoint(by, 0));
+    };
+    const int y = tree.visualRect(driver.cell("ExposureTime")).center().y();
+
+    tree.setColumnWidth(0, 300);
+    dragBorder(y, 50);
+    QCOMPARE(tree.columnWidth(0), 350);
+    QVERIFY(!tree.currentIndex().isValid());
+    dragBorder(y, -2000);
+    QCOMPARE(tree.columnWidth(0), 10);
+    tree.setColumnWidth(0, 300);
+
+    // Beside an open editor, which ends as with any other click.
+    for (const char *feature : {"Width", "DeviceReset"}) {
+        const int width = tree.columnWidth(0);
+        driver.click(feature);
+        QVERIFY(driver.isEditing());
+        dragBorder(tree.visualRect(driver.cell(feature)).center().y() + 4, 20);
+        QCOMPARE(tree.columnWidth(0), width + 20);
+        QTRY_VERIFY(!driver.isEditing());
+    }
+}
+
+void TestOrvGenParamTreeView::draggingLimits()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    QTreeView &tree = driver.tree();
+    auto &resizer = *tree.findChild<TreeViewResizer *>();
+    const QRect rect = tree.visualRect(driver.cell("ExposureTime", 0));
+    const QPoint border(rect.right(), rect.center().y() + 4);
+    for (const int distance : {-4, 0, 4})
+        QCOMPARE(resizer.ifResizable(border + QPoint(distance, 0)).column(), 0);
+    for (const int distance : {-5, 5})
+        QVERIFY(!resizer.ifResizable(border + QPoint(distance, 0)).isValid());
+
+    QWindow *window = view.windowHandle();
+    QTest::mouseMove(window, tree.viewport()->mapTo(&view, border));
+    QTRY_COMPARE(tree.viewport()->cursor().shape(), Qt::SplitHCursor);
+    QTest::mouseMove(window, tree.viewport()->mapTo(&view, border - QPoint(30, 0)));
+    QTRY_COMPARE(tree.viewport()->cursor().shape(), Qt::ArrowCursor);
+
+    // Only the left button ends what it has begun.
+    const int width = tree.columnWidth(0);
+    const QPoint start = tree.viewport()->mapTo(&view, border);
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mousePress(window, Qt::RightButton, Qt::NoModifier, start);
+    QTest::mouseRelease(window, Qt::RightButton, Qt::NoModifier, start);
+    QTest::mouseMove(window, start + QPoint(15, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(tree.columnWidth(0), width + 15);
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(15, 0));
+    QTest::mouseMove(window, start + QPoint(40, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(tree.columnWidth(0), width + 15);
+
+    tree.header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    QVERIFY(!resizer.ifResizable(QPoint(tree.columnWidth(0) - 1, border.y())).isValid());
+}
+
+void TestOrvGenParamTreeView::savedState()
+{
+    SampleNodeMap map;
+    map.addCategory("TransportLayer", "DeviceControl").properties().displayName = "Transport Layer";
+    OrvGenParamTreeView view(&map, nullptr);
+    QTreeView *tree = view.treeView();
+    TreeDriver driver(view);
+
+    tree->setColumnWidth(0, 200);
+    QCOMPARE(view.saveState(), "&amp;W200&amp;V0");
+    for (const char *category : {"DeviceControl", "TransportLayer", "ImageFormatControl"})
+        tree->expand(driver.cell(category, 0));
+    tree->setColumnWidth(0, 250);
+    view.setVisibility(OrvGui::Expert);
+    QCOMPARE(view.saveState(), "Device Control&lt;Device Control/Transport Layer&lt;"
+                               "Image Format Control&lt;&amp;W250&amp;V1");
+    QCOMPARE(QByteArray(view.saveState()), QByteArray(view.saveState()));
+
+    // An expanded category in a collapsed one counts.
+    tree->collapse(driver.cell("DeviceControl", 0));
+    QCOMPARE(view.saveState(),
+             "Device Control/Transport Layer&lt;Image Format Control&lt;&amp;W250&amp;V1");
+}
+
+void TestOrvGenParamTreeView::restoredState()
+{
+    SampleNodeMap map;
+    map.addCategory("Device").properties().displayName = "Device";
+    map.addInteger("InDevice", 0, "Device");
+    OrvGenParamTreeView view(&map, nullptr);
+    QTreeView *tree = view.treeView();
+    TreeDriver driver(view);
+    const auto expanded = [&](const char *category) {
+        return tree->isExpanded(driver.cell(category, 0));
+    };
+
+    tree->setColumnWidth(0, 111);
+    view.loadState("Device Control&lt;&amp;W0&amp;V2");
+    QVERIFY(expanded("DeviceControl"));
+    QVERIFY(expanded("Device")); // for "Device" occurs in the text
+    QVERIFY(!expanded("ImageFormatControl"));
+    QCOMPARE(tree->columnWidth(0), 111);
+    QCOMPARE(view.visibility(), OrvGui::Guru);
+
+    // Expansion looks at the categories of the level that is left.
+    view.setVisibility(OrvGui::Basic);
+    view.loadState("Transport Layer Control&lt;Transport Layer Control/GigE Vision&lt;&amp;V1");
+    QVERIFY(!expanded("DeviceControl"));
+    QVERIFY(expanded("TransportLayerControl"));
+    QCOMPARE(view.visibility(), OrvGui::Expert);
+    QVERIFY(!expanded("GigEVision"));
+    view.loadState("Transport Layer Control&lt;Transport Layer Control/GigE Vision&lt;");
+    QVERIFY(expanded("GigEVision"));
+    view.loadState(nullptr);
+    view.loadState("");
+    QVERIFY(expanded("GigEVision"));
+}
+
+void TestOrvGenParamTreeView::roundTrip()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    view.setVisibility(OrvGui::Guru);
+    view.treeView()->expand(driver.cell("TransportLayerControl", 0));
+    view.treeView()->expand(driver.cell("GigEVision", 0));
+    view.treeView()->setColumnWidth(0, 173);
+    const QByteArray state(view.saveState());
+
+    view.loadState("&amp;W90");
+    QVERIFY(QByteArray(view.saveState()) != state);
+    view.loadState(state.constData());
+    QCOMPARE(QByteArray(view.saveState()), state);
+    view.loadState(view.saveState()); // its own buffer
+    QCOMPARE(QByteArray(view.saveState()), state);
+    view.setParams(&map);
+    view.loadState(state.constData());
+    QCOMPARE(QByteArray(view.saveState()), state);
+}
+
+void TestOrvGenParamTreeView::oddStates()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    const QByteArray before(view.saveState());
+    view.loadState("&amp;W");
+    view.loadState("&amp;W5000000"); // wider than a column can be
+    view.loadState("&amp;W-3");
+    view.loadState("&W12&V2");
+    QCOMPARE(QByteArray(view.saveState()), before);
+    view.loadState("&amp;W88 and what follows&amp;V2nd");
+    QCOMPARE(view.saveState(), "&amp;W88&amp;V2");
+    view.loadState("&amp;V7"); // no such level: none is selected
+    QCOMPARE(view.saveState(), "&amp;W88&amp;V-1");
+
+    QVERIFY_EXCEPTION_THROWN(view.loadState("&amp;Wide"), std::invalid_argument);
+    QVERIFY_EXCEPTION_THROWN(view.loadState("&amp;V99999999999"), std::out_of_range);
+
+    std::mt19937 random(1);
+    std::string bytes(1 << 20, ' ');
+    for (char &byte : bytes)
+        byte = static_cast<char>(random() % 255 + 1);
+    view.loadState(bytes.c_str());
+    view.loadState((bytes + "&amp;W91").c_str());
+    QCOMPARE(view.treeView()->columnWidth(0), 91);
+}
+
+void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
+{
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<QString>("how");
+    for (const char *feature : {"Width", "Gain", "PixelFormat", "DeviceUserID", "DeviceReset",
+                                "GevPersistentIPAddress"}) {
+        for (const char *how : {"replace", "clear", "delete"})
+            QTest::newRow(
+                qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(feature), QLatin1String(how))))
+                << feature << how;
+    }
+}
+
+// The node map goes right after the tree has let go of it, with an edit begun and Return pressed,
+// which Qt acts upon only later.
+void TestOrvGenParamTreeView::takenAwayWhileEditing()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, how);
+
+    auto map = std::make_unique<SampleNodeMap>();
+    SampleNodeMap next;
+    auto view = std::make_unique<OrvGenParamTreeView>(map.get(), nullptr);
+    TreeDriver driver(*view);
+    driver.show();
+    driver.click(feature.toLatin1().constData());
+    QVERIFY(driver.isEditing());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_1);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+
+    if (how == QLatin1String("replace"))
+        view->setParams(&next);
+    else if (how == QLatin1String("clear"))
+        view->clearParams();
+    else
+        view.reset();
+    map.reset();
+    QVERIFY(!QApplication::activePopupWidget());
+
+    QWidget elsewhere;
+    elsewhere.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&elsewhere));
+    TreeDriver::click(elsewhere, QPoint(5, 5));
+    QTest::qWait(20);
+    if (view && view->treeView()->model()) {
+        driver.show();
+        driver.click("Width");
+        driver.type(QStringLiteral("640"));
+        driver.press(Qt::Key_Return);
+        QTRY_COMPARE(next.integer("Width").GetValue(), int64_t(640));
+    }
+}
+
+void TestOrvGenParamTreeView::takenAwayByItsOwnWrite_data()
+{
+    QTest::addColumn<QString>("feature");
+    for (const char *feature : {"Width", "PixelFormat", "DeviceReset"})
+        QTest::newRow(feature) << feature;
+}
+
+// A host may react to a change that the tree makes by giving it something else to show.
+void TestOrvGenParamTreeView::takenAwayByItsOwnWrite()
+{
+    QFETCH(QString, feature);
+    SampleNodeMap map;
+    SampleNodeMap next;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    const GenApi::CallbackHandleType handle = GenApi::Register(
+        map.GetNode(feature.toLatin1().constData()),
+        [&](GenApi::INode *) { view.setParams(&next); }, GenApi::cbPostOutsideLock);
+
+    driver.click(feature.toLatin1().constData());
+    QVERIFY(driver.isEditing());
+    if (auto *button = driver.editor<QPushButton>()) {
+        TreeDriver::click(*button, button->rect().center());
+    } else {
+        driver.press(Qt::Key_Down);
+        driver.press(Qt::Key_Return);
+    }
+    QTRY_VERIFY(!driver.isEditing());
+    QTest::qWait(20);
+    QVERIFY(!QApplication::activePopupWidget());
+    GenApi::Deregister(handle);
+    map.integer("Width").change(16);
+    QVERIFY(driver.text("Width") != QStringLiteral("16"));
+}
+
+void TestOrvGenParamTreeView::changedOnAnotherThread()
+{
+    SampleNodeMap map;
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    QSignalSpy changes(driver.tree().model(), &QAbstractItemModel::dataChanged);
+    std::thread([&map] { map.integer("Width").change(320); }).join();
+    QTRY_COMPARE(changes.count(), 1);
+    QCOMPARE(changes.first().first().toModelIndex(), driver.cell("Width"));
+    QCOMPARE(driver.text("Width"), QStringLiteral("320"));
+
+    // Changes that are still on their way when the tree goes are forgotten.
+    std::thread([&map] { map.integer("Width").change(640); }).join();
+    view.clearParams();
+    QCoreApplication::processEvents();
+    QCOMPARE(changes.count(), 1);
+}
+
+// What costs the user's time is what is asked of the camera.
+void TestOrvGenParamTreeView::transactions()
+{
+    CameraTree tree;
+    tree.view.setVisibility(OrvGui::Guru);
+    tree.view.resize(700, 500);
+    const auto reads = [&tree] { return tree.nodeMap->transactions().reads; };
+    const auto settle = [] { QTest::qWait(50); };
+
+    QCOMPARE(reads(), uint64_t(0));
+    tree.driver.show();
+    settle();
+    const uint64_t shown = reads();
+    QVERIFY(shown > 0);
+
+    // Rows that were never on screen have not been read.
+    uint64_t hidden = 0;
+    for (const char *feature : {"GevPersistentIPAddress", "ServiceKey", "UserSetDescription"}) {
+        const GenApi::CValuePtr value(tree.nodeMap->GetNode(feature));
+        hidden += value->IsValueCacheValid() ? 0 : 1;
+    }
+    QCOMPARE(hidden, uint64_t(3));
+
+    QTreeView &view = tree.driver.tree();
+    view.viewport()->repaint();
+    tree.view.resize(720, 500);
+    settle();
+    for (int y = 5; y < view.viewport()->height(); y += 15)
+        QTest::mouseMove(tree.view.windowHandle(),
+                         view.viewport()->mapTo(&tree.view, QPoint(300, y)));
+    settle();
+    QCOMPARE(reads(), shown);
+
+    // Scrolling reads what comes into view, once.
+    const auto scroll = [&](int to) {
+        view.verticalScrollBar()->setValue(to);
+        settle();
+    };
+    const int end = view.verticalScrollBar()->maximum();
+    for (int i = 0; i <= 8; ++i)
+        scroll(end * i / 8);
+    const uint64_t scrolled = reads();
+    QVERIFY(scrolled > shown);
+    for (int i = 8; i >= 0; --i)
+        scroll(end * i / 8);
+    QCOMPARE(reads(), scrolled);
+}
+
+QTEST_MAIN(TestOrvGenParamTreeView)
+#include "tst_orvgenparamtreeview.moc"
