@@ -193,7 +193,10 @@ void TestSelectCamera::keyboard()
         press({"Alt+r"}); // rescan
         QTRY_VERIFY(!cameraTree(dialog)->currentIndex().isValid());
         QVERIFY(cameraTree(dialog)->hasFocus());
-        press({"Down", "Down", "Left", "Left", "Right", "Down", "Return"});
+        press({"Down", "Down", "Left", "Left", "Left"});
+        const QModelIndex adapter = cameraTree(dialog)->currentIndex();
+        QVERIFY(!adapter.parent().isValid() && !cameraTree(dialog)->isExpanded(adapter));
+        press({"Right", "Down", "Return"});
     }});
     QVERIFY(camera);
     QCOMPARE(camera->GetSerial(), "SIM-0001");
