@@ -139,7 +139,7 @@ int pickCamera(OrvCam::System &system, const Options &options)
     while (picker.exec() == QDialog::Accepted) {
         if (const auto source = FeatureSource::openCamera(*picker.selectedCamera(), &error))
             return showFeatures(*source, options);
-        QMessageBox::critical(nullptr, QString(), error);
+        QMessageBox::critical(nullptr, QApplication::applicationName(), error);
     }
     return Success;
 }

@@ -118,7 +118,7 @@ void TestOrvCamConfig::listsCameras()
     QVERIFY(result.out.contains("(Microscope)\t\tread-only\n"));
     QVERIFY(result.out.contains(QString::fromUtf8("\xE6\xA4\x9C\xE6\x9F\xBB")));
     QVERIFY(result.out.endsWith("\tunknown\n"));
-    const QStringList lines = result.out.split('\n', QString::SkipEmptyParts);
+    const QStringList lines = result.out.trimmed().split('\n');
     QCOMPARE(lines.size(), 10);
     for (const QString &line : lines)
         QCOMPARE(line.count('\t'), 3);
