@@ -23,6 +23,7 @@ private:
     void closeWindow();
     int status();
 
+    XView m_screen; // also keeps the server from starting anew between two programs
     QProcess m_program;
     QString m_window; ///< the last that was waited for
 };
@@ -55,6 +56,7 @@ void TestPickAndShow::cleanup()
 void TestPickAndShow::start(const QStringList &arguments, bool isSimulated)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver never frees everything
     if (isSimulated)
         environment.insert("ORVCAM_SIMULATION", "1");
     m_program.setProcessEnvironment(environment);
@@ -84,7 +86,7 @@ void TestPickAndShow::press(const QStringList &keys)
 
 void TestPickAndShow::closeWindow()
 {
-    XView().askToClose(m_window.toUInt());
+    m_screen.askToClose(m_window.toUInt());
 }
 
 int TestPickAndShow::status()
