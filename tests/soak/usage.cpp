@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "usage.h"
+
+#include <malloc.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+// A round opens every window once. The smallest thing that can leak of a window, its dialog with a
+// handful of labels, takes some ten KiB; what may grow is the history of caches that have a limit.
+const long heapPerRound = 4;
+const long heapOnce = 512;
+
+// Memory that is free but in pieces is resident as well.
+const long residentPerRound = 16;
+const long residentOnce = 16 * 1024;
+
+} // namespace
+
+Usage Usage::now()
+{
+    malloc_trim(0);
+    Usage usage;
+    const struct mallinfo2 allocated = mallinfo2();
+    usage.heap = static_cast<long>((allocated.uordblks + allocated.hblkhd) / 1024);
+
+    long pages = 0;
+    std::ifstream("/proc/self/statm") >> pages >> pages;
+    usage.resident = pages * sysconf(_SC_PAGESIZE) / 1024;
+
+    const std::filesystem::directory_iterator files("/proc/self/fd");
+    usage.files = std::distance(begin(files), end(files)) - 1; // without the one that reads this
+    return usage;
+}
+
+std::string Usage::text() const
+{
+    return std::to_string(heap) + " KiB allocated, " + std::to_string(resident) +
+           " KiB resident, " + std::to_string(files) + " open files";
+}
+
+std::string Usage::grownBeyond(const Usage &before, unsigned rounds) const
+{
+    const long times = static_cast<long>(rounds);
+    std::string what;
+    const auto compare = [&](const char *name, long growth, long limit) {
+        if (growth > limit)
+            what += std::string(what.empty() ? "" : ", ") + name + " by " +
+                    std::to_string(growth) + " (limit " + std::to_string(limit) + ")";
+    };
+    compare("allocated KiB", heap - before.heap, heapOnce + heapPerRound * times);
+    compare("resident KiB", resident - before.resident, residentOnce + residentPerRound * times);
+    compare("open files", files - before.files, 0);
+    return what;
+}
