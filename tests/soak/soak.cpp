@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// soak [SECONDS [SEED]]
-// Clicks and types at random into every window there is, while the camera's values change and the
+// soak [SECONDS [SEED [WINDOW]]]
+// Clicks and types at random into every window there is, or one of them, while the camera's values change and the
 // camera comes and goes, and watches what the process holds: bytes, resident memory, open files.
 // Ends with 1 when that grows. The platform "offscreen" does as well as a display.
 #include "soakcamera.h"
@@ -190,7 +190,14 @@ struct Deleter
 class Soak
 {
 public:
-    Soak(OrvCam::System *system, unsigned seed) : m_monkey(seed), m_windows(windows(system)) {}
+    /// An empty name stands for all windows.
+    Soak(OrvCam::System *system, unsigned seed, const QString &window) : m_monkey(seed)
+    {
+        for (const Window &candidate : windows(system)) {
+            if (window.isEmpty() || window == candidate.name)
+                m_windows.push_back(candidate);
+        }
+    }
 
     /// Every window once, at the same camera.
     void round()
@@ -239,14 +246,30 @@ private:
     }
 
     Monkey m_monkey;
-    const std::vector<Window> m_windows;
+    std::vector<Window> m_windows;
 };
+
+/// What is held once everything that may be thrown away has been.
+Usage usageNow()
+{
+    QPixmapCache::clear();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return Usage::now();
+}
+
+/// What the platform "offscreen" says of everything that it cannot do is left out.
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith("This plugin does not support "))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
     qputenv("ORVCAM_SIMULATION", "1");
+    qInstallMessageHandler(printMessage);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const QStringList arguments = QApplication::arguments();
@@ -258,11 +281,11 @@ int main(int argc, char *argv[])
     Usage after;
     unsigned rounds = 0;
     {
-        Soak soak(system, seed);
+        Soak soak(system, seed, arguments.value(3));
         // Fonts, pictures and tables that Qt and Aravis keep once they have been made.
         for (int i = 0; i < warmUpRounds; ++i)
             soak.round();
-        before = Usage::now();
+        before = usageNow();
         std::printf("soak: at the start %s\n", before.text().c_str());
         std::fflush(stdout);
 
@@ -270,7 +293,7 @@ int main(int argc, char *argv[])
         timer.start();
         for (; timer.elapsed() < seconds * 1000; ++rounds)
             soak.round();
-        after = Usage::now();
+        after = usageNow();
         std::printf("soak: after %u rounds and %u clicks %s\n", rounds, soak.clicks(),
                     after.text().c_str());
     }
