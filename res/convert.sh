@@ -33,6 +33,6 @@ for name in orvicon connected disconnected frameab trigger pulse strobe dataout 
             greenball; do
     icon "$name"
 done
-for name in pulseimage; do
+for name in pulseimage wdr; do
     picture "$name"
 done
