@@ -14,6 +14,7 @@
 
 #include <QAbstractSlider>
 #include <QButtonGroup>
+#include <QDoubleSpinBox>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -99,7 +100,8 @@ struct Gain
     bool operator==(Gain other) const { return coarse == other.coarse && fine == other.fine; }
     double factor() const
     {
-        return (1.0 + fine / fineGainSteps) * std::ldexp(1.0, static_cast<int>(coarse));
+        return (1.0 + static_cast<double>(fine) / fineGainSteps) *
+               std::ldexp(1.0, static_cast<int>(coarse));
     }
     static Gain of(double factor)
     {
@@ -415,6 +417,7 @@ void OrvCamConfigFrameABDialogPrivate::bindPeriod()
             static_cast<IOrvCamConfigIntConverter *>(this));
     // Whole lines are no grid of microseconds: the box would show other times than it was given.
     ui.spBoxFixedFramePeriodValue->setValidate(false);
+    showPeriod();
     watched(periodParam); // after the mapper, as the exposure time needs what the box shows
 }
 
