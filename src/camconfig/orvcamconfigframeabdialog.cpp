@@ -315,6 +315,7 @@ void OrvCamConfigFrameABDialogPrivate::release()
     lineTime = exposureLines = exposureLinesMax = exposureClocks = exposureClocksMax = 0;
     area = AreaPresets();
     customArea.clear();
+    isWriting = false;
     ui.lineEditFrameCurrentSize->clear();
 }
 
