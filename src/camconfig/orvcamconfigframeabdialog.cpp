@@ -6,7 +6,9 @@
 #include "iorvcamconfigintconverter.h"
 #include "orvcamconfigdialog_p.h"
 #include "qtorvdoubleslider.h"
+#include "qtorvdoublespinboxval.h"
 #include "qtorvslider.h"
+#include "qtorvspinboxval.h"
 #include "ui_orvcamconfigframeabdialog.h"
 #include "valuegrid.h"
 
@@ -291,6 +293,10 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
     ui.spBoxBlackLevel->setLeftLabelText(tr("Black Level:"));
     alignCaptions(ui.spBoxFrameOffsetX, ui.spBoxFrameOffsetY);
     alignCaptions(ui.spBoxFrameWidth, ui.spBoxFrameHeight);
+    alignCaptions(ui.spBoxDigitalGain, ui.spBoxBlackLevel);
+    const int width = ui.spBoxDigitalGain->spinBox()->sizeHint().width();
+    ui.spBoxDigitalGain->spinBox()->setMinimumWidth(width);
+    ui.spBoxBlackLevel->spinBox()->setMinimumWidth(width);
     for (QLabel *unit : {ui.lblWdrE1MicroSec, ui.lblWdrE2MicroSec, ui.lblWdrE3MicroSec})
         unit->setText(microseconds());
 }
