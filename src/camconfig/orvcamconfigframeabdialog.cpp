@@ -179,6 +179,7 @@ private:
     void bindFrameCounts();
     void unbindFrameCounts();
     void dropInput();
+    void catchUp();
 
     QtOrvSpinBox *areaBox(AreaPresets::Side side) const;
     void setArea(AreaPresets::Preset preset);
@@ -622,8 +623,7 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int time)
         if (writing.isOver())
             return;
     }
-    readExposure();
-    updateExposureTime();
+    catchUp();
 }
 
 void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
@@ -681,8 +681,7 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
         if (writing.isOver())
             return;
     }
-    readDigitalGain();
-    showDigitalGain();
+    catchUp();
 }
 
 void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
@@ -779,6 +778,16 @@ void OrvCamConfigFrameABDialogPrivate::dropInput()
     }
 }
 
+/// After several writes.
+void OrvCamConfigFrameABDialogPrivate::catchUp()
+{
+    readExposure();
+    readDigitalGain();
+    showDigitalGain();
+    showArea();
+    updateExposureTime();
+}
+
 QtOrvSpinBox *OrvCamConfigFrameABDialogPrivate::areaBox(AreaPresets::Side side) const
 {
     switch (side) {
@@ -804,8 +813,7 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
                 return;
         }
     }
-    showArea();
-    updateExposureTime();
+    catchUp();
 }
 
 void OrvCamConfigFrameABDialogPrivate::showArea()
