@@ -2,12 +2,42 @@
 #pragma once
 
 #include <OrvCam.h>
+#include <aravis/nodemap.h>
 #include <cameraapi/nodemaparray.h>
+#include <simulation/simulatedcamera.h>
 
 #include <QtTest>
 #include <QtWidgets>
 
 #include <memory>
+
+/// Where the handle of the slider is, to be pressed and dragged.
+inline QPoint handleOf(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = slider->orientation();
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = option.sliderValue = slider->value();
+    option.upsideDown = slider->orientation() == Qt::Vertical;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
+/// Drags with the left button, by as many steps as there are between the points.
+inline void dragBy(
+    QSlider *slider, QPoint from, QPoint step, int count,
+    const std::function<void()> &afterEach = [] {})
+{
+    QTest::mousePress(slider, Qt::LeftButton, {}, from);
+    for (int i = 1; i <= count; ++i) {
+        QMouseEvent move(QEvent::MouseMove, from + i * step, Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(slider, &move);
+        afterEach();
+    }
+}
 
 /// Closes the error boxes that appear, as a user would, and keeps their texts. With a `patience`,
 /// each is left open for so long (ms), in which whatever happens by itself can happen.
@@ -61,9 +91,38 @@ public:
     OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
     int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
     int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
-    void Release() override { array.reset(); }
+    void Release() override
+    {
+        if (array)
+            array->detach(OrvCam::ErrorGone);
+        array.reset();
+    }
 
     std::unique_ptr<OrvGenParam::NodeMapArray> array;
     int32_t error = OrvCam::Success;
     int asked = 0;
+};
+
+/// The simulated camera as a device, with all that it takes.
+struct SimulatedDevice
+{
+    SimulatedDevice() : map(OrvAravis::NodeMap::open(camera.device())), device(*map) {}
+
+    /// Changes a feature as another client would, whose changes the camera reports.
+    void set(const char *feature, const char *value)
+    {
+        try {
+            GenApi::CValuePtr(map->GetNode(feature))->FromString(value);
+        } catch (const GenICam::GenericException &e) {
+            QTest::qFail(e.what(), __FILE__, __LINE__);
+        }
+    }
+    QString get(const char *feature)
+    {
+        return GenApi::CValuePtr(map->GetNode(feature))->ToString().c_str();
+    }
+
+    OrvSimulation::SimulatedCamera camera;
+    std::unique_ptr<OrvAravis::NodeMap> map;
+    NodeMapDevice device;
 };
