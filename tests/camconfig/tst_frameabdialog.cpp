@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <aravis/nodemap.h>
 #include <genapi/memorynodemap.h>
 #include <orvcamconfigframeabdialog.h>
 #include <qtorvdoublespinboxval.h>
@@ -10,7 +9,6 @@
 #include <qtorvsliderspinbox.h>
 #include <qtorvspinbox.h>
 #include <qtorvspinboxval.h>
-#include <simulation/simulatedcamera.h>
 
 #include <cmath>
 #include <random>
@@ -165,19 +163,11 @@ public:
             QTest::keyClick(comboBox, comboBox->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
         settle();
     }
-    /// Leaves the button down.
-    static void startDrag(QSlider *slider, const QPoint &to)
-    {
-        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, handleOf(slider));
-        QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(slider, &move);
-    }
     void drag(const char *name, double part)
     {
         auto *slider = get(name)->findChild<QSlider *>();
         const QPoint to(int(slider->width() * part), slider->height() / 2);
-        startDrag(slider, to);
+        dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
         QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
         settle();
     }
@@ -739,7 +729,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     QVERIFY(QTest::qWaitForWindowExposed(box->slider()));
     auto *slider = box->slider()->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 5);
-    Dialog::startDrag(slider, to);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
     QCOMPARE(camera.writes(), writes);
     camera.set("Frame_ExposureLines", 5); // must not disturb the user
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
@@ -908,7 +898,7 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     Dialog::settle();
     auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 2);
-    Dialog::startDrag(slider, to);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
     QVERIFY(dialog.shown("spBoxBlackLevel") > 400);
     camera.choose("FrameAB_Selector", "FrameB");
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
