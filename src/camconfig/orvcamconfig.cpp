@@ -147,7 +147,10 @@ private:
     OrvGenParam::Int *height = nullptr;
 };
 
-OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window) {}
+OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window), timer(window)
+{
+    timer.setObjectName(QStringLiteral("refreshTimer"));
+}
 
 void OrvCamConfigPrivate::begin(OrvCam::Device *newDevice, bool mayAsk)
 {
