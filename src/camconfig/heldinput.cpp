@@ -19,6 +19,18 @@ QList<Kind *> partsOf(QWidget *widget)
     return parts;
 }
 
+/// What a slider repeats while its groove is held can only be ended from within its class; it goes
+/// on after a release, too, if that came while the first step was being taken.
+class RepeatedStep : public QAbstractSlider
+{
+public:
+    static void end(QAbstractSlider *slider)
+    {
+        const auto setAction = &RepeatedStep::setRepeatAction;
+        (slider->*setAction)(SliderNoAction, 0, 0);
+    }
+};
+
 void releaseMouse(QWidget *widget)
 {
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
@@ -43,8 +55,10 @@ void end(QObject *object)
     if (!widget)
         return;
     for (QAbstractSlider *slider : partsOf<QAbstractSlider>(widget)) {
-        if (!slider->isSliderDown())
-            releaseMouse(slider);
+        if (slider->isSliderDown())
+            continue;
+        releaseMouse(slider);
+        RepeatedStep::end(slider);
     }
     for (QAbstractSpinBox *spinBox : partsOf<QAbstractSpinBox>(widget))
         releaseMouse(spinBox);

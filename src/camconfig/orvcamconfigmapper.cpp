@@ -26,6 +26,8 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include <algorithm>
+
 using OrvGenParam::Boolean;
 using OrvGenParam::Command;
 using OrvGenParam::Enum;
@@ -116,10 +118,13 @@ void with(Param *param, QObject *control, Function function)
         function(kind, widget);
 }
 
-void report(QObject *control, const QString &text)
+void report(const QPointer<QObject> &control, const QString &text)
 {
     HeldInput::end(control);
     QMessageBox::critical(nullptr, QString(), text, QMessageBox::Ok);
+    // A groove starts to repeat only when its first step has been taken, that is now.
+    if (control)
+        QTimer::singleShot(0, control, [=] { HeldInput::end(control); });
 }
 
 QString intError()
@@ -135,32 +140,59 @@ QString enumError()
 
 } // namespace
 
-struct OrvCamConfigMapper::State
-{
-    /// What connections of the mapper end with. Null when the mapper is gone.
-    std::unique_ptr<QObject> context{new QObject};
-    QVector<const QObject *> showing;
-};
-
-/// While one exists, the widget shows a value of the camera: nothing is written. Ends early when a
-/// receiver of the widget's signals unmaps the widget or destroys the mapper.
+/// While one exists, the widget shows a value of the camera: nothing is written.
+///
+/// Over before its end when a receiver of the widget's signals unmaps the widget or destroys the
+/// mapper. What the widget then still does of the change under way must reach no other camera
+/// either; a parameter that the widget has been given meanwhile is shown afterwards.
 class OrvCamConfigMapper::Showing
 {
 public:
-    Showing(const OrvCamConfigMapper &mapper, const QObject *control)
-        : m_state(mapper.m_state), m_control(control)
-    {
-        m_state->showing.append(control);
-    }
-    ~Showing() { m_state->showing.removeOne(m_control); }
+    Showing(OrvCamConfigMapper &mapper, QObject *control);
+    ~Showing();
     Q_DISABLE_COPY(Showing)
 
-    bool isOver() const { return !m_state->context || !m_state->showing.contains(m_control); }
+    const QObject *control() const { return m_control; }
+    bool isOver() const;
+    void end() { m_isOver = true; }
 
 private:
+    OrvCamConfigMapper &m_mapper;
     const std::shared_ptr<State> m_state;
-    const QObject *const m_control;
+    QObject *const m_control;
+    bool m_isOver = false;
 };
+
+struct OrvCamConfigMapper::State
+{
+    bool isShownIn(const QObject *control) const
+    {
+        return std::any_of(showing.begin(), showing.end(),
+                           [=](const Showing *one) { return one->control() == control; });
+    }
+
+    /// What connections of the mapper end with. Null when the mapper is gone.
+    std::unique_ptr<QObject> context{new QObject};
+    QVector<Showing *> showing;
+};
+
+OrvCamConfigMapper::Showing::Showing(OrvCamConfigMapper &mapper, QObject *control)
+    : m_mapper(mapper), m_state(mapper.m_state), m_control(control)
+{
+    m_state->showing.append(this);
+}
+
+OrvCamConfigMapper::Showing::~Showing()
+{
+    m_state->showing.removeOne(this);
+    if (m_isOver && m_state->context && !m_state->isShownIn(m_control))
+        m_mapper.showBoundTo(m_control);
+}
+
+bool OrvCamConfigMapper::Showing::isOver() const
+{
+    return m_isOver || !m_state->context;
+}
 
 OrvCamConfigMapper::OrvCamConfigMapper(qint64 valueCap)
     : m_valueCap(valueCap), m_state(std::make_shared<State>())
@@ -247,7 +279,10 @@ void OrvCamConfigMapper::cut(const OrvCamConfigMapData &record)
     QObject::disconnect(control, nullptr, nullptr, nullptr);
     if (QtOrvSlider *slider = sliderOf(record))
         QObject::disconnect(slider, nullptr, context(), nullptr);
-    m_state->showing.removeAll(control);
+    for (Showing *showing : m_state->showing) {
+        if (showing->control() == control)
+            showing->end();
+    }
 }
 
 void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
@@ -273,7 +308,7 @@ void OrvCamConfigMapper::unmapAll()
 void OrvCamConfigMapper::write(QObject *control, const QString &format, const Param *param,
                                const Write &call)
 {
-    if (m_state->showing.contains(control))
+    if (m_state->isShownIn(control))
         return;
     // The write notifies, and whoever listens may destroy the mapper, the widget or the camera.
     const QString name = nameOf(param);
@@ -449,11 +484,13 @@ void OrvCamConfigMapper::mapCommandParam(Command *param, QPushButton *button, QT
         return;
     QObject::connect(button, &QPushButton::clicked, context(), [=] {
         const QString error = tr("Error while executing the %1 command!\r\nError Code: %2");
+        const QPointer<QTimer> guardedTimer(timer);
+        const QPointer<QPushButton> guardedButton(button);
         write(button, error, param, [=] {
-            const qint32 code = param->Execute();
-            if (timer) {
-                button->setEnabled(false);
-                timer->start();
+            const qint32 code = param->Execute(); // may notify, and whoever listens do anything
+            if (guardedTimer && guardedButton) {
+                guardedButton->setEnabled(false);
+                guardedTimer->start();
             }
             return code;
         });
@@ -500,7 +537,8 @@ void OrvCamConfigMapper::showText(Int *param, QLineEdit *lineEdit)
         const_cast<QIntValidator *>(validator)->setRange(ValueGrid::toInt(min),
                                                          ValueGrid::toInt(qMin(max, m_valueCap)));
     const qint64 value = param->GetValue(&error);
-    if (error == OrvCam::Success)
+    const bool isTyping = lineEdit->hasFocus() && lineEdit->isModified();
+    if (error == OrvCam::Success && !isTyping)
         lineEdit->setText(QString::number(qMin(value, m_valueCap)));
 }
 
@@ -641,6 +679,19 @@ void OrvCamConfigMapper::updateSliderSpinBox(Int *param, QtOrvSliderSpinBox *spi
                                              IOrvCamConfigIntConverter *converter)
 {
     showNumber(param, spinBox, converter);
+}
+
+void OrvCamConfigMapper::showBoundTo(const QObject *control)
+{
+    for (auto it = m_bindings.constBegin(); it != m_bindings.constEnd(); ++it) {
+        const Records records = it.value();
+        for (const OrvCamConfigMapData &record : records) {
+            if (record.control != control && groupOf(record) != control)
+                continue;
+            show(record, m_params.value(it.key()));
+            return;
+        }
+    }
 }
 
 void OrvCamConfigMapper::show(const OrvCamConfigMapData &record, Param *param)

@@ -138,6 +138,7 @@ private:
     void finish(OrvGenParam::Param *param);
     void cut(const OrvCamConfigMapData &record);
     void show(const OrvCamConfigMapData &record, OrvGenParam::Param *param);
+    void showBoundTo(const QObject *control);
     void checkCurrentButton(OrvGenParam::Enum *param, QButtonGroup *buttons);
     void showText(OrvGenParam::Int *param, QLineEdit *lineEdit);
     template<class Widget>

@@ -5,7 +5,8 @@
 
 namespace OrvGui {
 
-/// Configures the data output of a camera.
+/// Sets up the image data of a camera: its format, what the camera does to the pixels, and the test
+/// pattern.
 /// See `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOutputDialog : public OrvCamConfigDialog
 {

@@ -5,7 +5,10 @@
 
 namespace OrvGui {
 
-/// Configures the strobe outputs of a camera.
+/// Sets up the two strobes of a camera and what its two output lines put out.
+///
+/// A picture shows for each strobe whether its delay counts from the start of the exposure or from
+/// that of the read-out.
 /// See `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigStrobeDialog : public OrvCamConfigDialog
 {

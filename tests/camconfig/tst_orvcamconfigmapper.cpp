@@ -241,6 +241,20 @@ Make makeNumber(QWidget *(*part)(T *))
     return [=] { return std::make_unique<Number<T>>(part); };
 }
 
+QPoint handleOf(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = slider->orientation();
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = option.sliderValue = slider->value();
+    option.upsideDown = slider->orientation() == Qt::Vertical;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
 void throwRefusal()
 {
     throw GenICam::AccessException("no", __FILE__, __LINE__);
@@ -565,8 +579,10 @@ void TestOrvCamConfigMapper::limits_data()
     QTest::newRow("beyond 32 bits")
         << Numbers{0, 1ll << 40, 1, 1ll << 33} << Numbers{0, cap, 1, cap};
     QTest::newRow("all 64 bits") << Numbers{std::numeric_limits<qlonglong>::min(),
-                                            std::numeric_limits<qlonglong>::max(), 1ll << 40, -12}
-                                 << Numbers{lowest, cap, cap, -12};
+                                            std::numeric_limits<qlonglong>::max(), 1, -12}
+                                 << Numbers{lowest, cap, 1, -12};
+    QTest::newRow("increment beyond 32 bits")
+        << Numbers{0, 1ll << 50, 1ll << 40, 0} << Numbers{0, cap, cap, 0};
 }
 
 void TestOrvCamConfigMapper::limits()
@@ -1024,6 +1040,7 @@ void TestOrvCamConfigMapper::drags()
     OrvCamConfigMapper mapper;
     ErrorBoxes boxes;
     QVector<int> heard;
+    int dragged = 0;
 
     const auto drag = [&](QSlider *slider, const auto &map) {
         mapper.unmapAll();
@@ -1033,16 +1050,7 @@ void TestOrvCamConfigMapper::drags()
         boxes.texts.clear();
         heard.clear();
         slider->resize(slider->orientation() == Qt::Horizontal ? QSize(300, 30) : QSize(30, 300));
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.orientation = slider->orientation();
-        option.maximum = 100;
-        option.sliderPosition = option.sliderValue = 5;
-        option.upsideDown = slider->orientation() == Qt::Vertical;
-        const QPoint from =
-            slider->style()
-                ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-                .center();
+        const QPoint from = handleOf(slider);
         QTest::mousePress(slider, Qt::LeftButton, {}, from);
         for (int step = 1; step <= 10; ++step) {
             const QPoint to = slider->orientation() == Qt::Horizontal ? from + QPoint(10 * step, 0)
@@ -1052,25 +1060,28 @@ void TestOrvCamConfigMapper::drags()
             camera.number.changed(); // as a feature that is polled
         }
         QCOMPARE(camera.number.writes(), writes);
-        const int value = slider->value();
-        QVERIFY(value > 20);
+        dragged = slider->value();
+        QVERIFY(dragged > 20);
         QTest::mouseRelease(slider, Qt::LeftButton);
         QCOMPARE(camera.number.writes(), writes + 1);
-        QCOMPARE(param->GetValue(), int64_t(refused ? 5 : value));
+        QCOMPARE(param->GetValue(), int64_t(refused ? 5 : dragged));
         QCOMPARE(boxes.texts.size(), int(refused));
         QVERIFY(!slider->isSliderDown());
 
         // A press without a move changes nothing.
-        QTest::mousePress(slider, Qt::LeftButton, {}, from);
-        QTest::mouseRelease(slider, Qt::LeftButton);
-        QTest::mouseRelease(slider, Qt::LeftButton);
+        const QPoint there = handleOf(slider);
+        QTest::mousePress(slider, Qt::LeftButton, {}, there);
+        QVERIFY(slider->isSliderDown());
+        QTest::mouseRelease(slider, Qt::LeftButton, {}, there);
+        QCOMPARE(camera.number.writes(), writes + 1);
     };
     drag(compact.slider()->slider(), [&] {
         mapper.mapIntParam(param, &compact);
         connect(&compact, static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged),
                 [&](int value) { heard << value; });
     });
-    QCOMPARE(heard.value(0), compact.value());
+    QCOMPARE(heard.value(0), dragged);
+    QCOMPARE(compact.value(), refused ? 5 : dragged);
     drag(wide.slider()->slider(), [&] { mapper.mapIntParam(param, &wide, nullptr); });
     drag(&plain, [&] { mapper.mapIntParam(param, &plain, nullptr); });
 
