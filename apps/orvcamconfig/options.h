@@ -7,9 +7,14 @@
 /// What the user asked for on the command line.
 struct Options
 {
+    enum class Window { Tree, Picker };
+
+    Window window = Window::Tree; ///< the first to be shown
     bool simulate = false;
+    bool listCameras = false;
     bool listFeatures = false;
-    QString camera;      ///< identifier, serial number or name; empty for the first usable one
+    QString
+        camera; ///< identifier, serial number or name; in the tree, empty for the first usable one
     QString description; ///< file name; empty for a camera
     QString screenshot;  ///< file name; empty for none
     int visibility = 0;  ///< 0 Basic, 1 Expert, 2 Guru

@@ -6,13 +6,14 @@
 #include <QList>
 #include <QPointer>
 #include <QTest>
+#include <QTimer>
 #include <QTimerEvent>
 
 #include <functional>
 
 /// Deals with the modal dialogs that open while it lives, one after the other: each action gets one
-/// and has to close it. A dialog that nobody expects is rejected, as is one left open by an action in
-/// which the test has failed.
+/// and has to close it. A dialog that nobody expects is rejected, as is one left open by an action
+/// in which the test has failed.
 class ModalVisitor : public QObject
 {
 public:
@@ -27,21 +28,27 @@ protected:
     void timerEvent(QTimerEvent *) override
     {
         auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog || dialog == m_last)
+        if (!dialog || m_seen.contains(dialog))
             return;
-        m_last = dialog;
-        if (m_actions.isEmpty()) {
-            m_isSurprised = true;
-            dialog->reject();
-            return;
-        }
-        m_actions.takeFirst()(*dialog);
-        if (QTest::currentTestFailed())
-            dialog->reject(); // runs until this returns
+        m_seen << dialog;
+        // This timer stands still until it returns, but the action may open the next dialog.
+        QTimer::singleShot(0, dialog, [this, dialog] { visit(*dialog); });
     }
 
 private:
+    void visit(QDialog &dialog)
+    {
+        if (m_actions.isEmpty()) {
+            m_isSurprised = true;
+            dialog.reject();
+            return;
+        }
+        m_actions.takeFirst()(dialog);
+        if (QTest::currentTestFailed())
+            dialog.reject(); // runs until this returns
+    }
+
     QList<Action> m_actions;
-    QPointer<QDialog> m_last; // another may get its place in memory
+    QList<QPointer<QDialog>> m_seen;
     bool m_isSurprised = false;
 };
