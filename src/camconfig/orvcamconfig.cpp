@@ -257,12 +257,18 @@ OrvCam::Device *OrvCamConfigPrivate::pick()
 
 void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created)
 {
-    OrvCam::Device *const former = std::exchange(ownDevice, created);
+    OrvCam::Device *const former = watch.device();
+    const bool isOwn = std::exchange(ownDevice, created) == former;
     init(newDevice);
     handOver(newDevice);
+    const QPointer<OrvCamConfig> window(q);
     emit q->deviceChanged(usable());
-    if (former && former != newDevice)
+    if (!former || former == newDevice)
+        return;
+    if (isOwn)
         former->Release();
+    else if (window)
+        emit window->deviceGivenUp(former);
 }
 
 void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)

@@ -48,6 +48,10 @@ Q_SIGNALS:
     /// was unplugged. Give up everything of the former device: it may be released next.
     void deviceChanged(OrvCam::Device *device);
 
+    /// The window has given up a device that it was given, because the user has disconnected it or
+    /// connected another one, or `SetDevice` was called. It may be released now.
+    void deviceGivenUp(OrvCam::Device *device);
+
 protected:
     enum Choice { NoChoice };
 
