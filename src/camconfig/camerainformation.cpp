@@ -6,6 +6,8 @@
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>
 
+#include <QIcon>
+
 namespace OrvGui {
 
 namespace {
@@ -61,6 +63,7 @@ CameraInformation::CameraInformation(QWidget *parent)
     : m_dialog(new QDialog(parent)), m_ui(new Ui_OrvCamConfigAboutDialog)
 {
     m_ui->setupUi(m_dialog);
+    m_ui->label->setPixmap(m_dialog->windowIcon().pixmap(48));
     m_ui->lblAppName->setText(tr("OrvCameraConfiguration"));
     m_ui->lblAppVersion->setText(tr("1.3.0 (build 2230) "));
     m_ui->lblCopyright->setText(

@@ -183,6 +183,8 @@ void OrvCamConfigPrivate::buildStatusBar()
 {
     statusText = new QLabel(q);
     statusText->setObjectName(QStringLiteral("lblStatusText"));
+    statusText->setTextFormat(Qt::PlainText);
+    statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // names may be long
     statusIcon = new QLabel(q);
     statusIcon->setObjectName(QStringLiteral("lblStatusIcon"));
     ui.statusbar->addWidget(statusText, 1);
@@ -342,11 +344,15 @@ void OrvCamConfigPrivate::layOut()
             edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
         edit->setMaximumWidth(isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
     };
+    const int columns = isFrameABSupported ? 1 : 2;
+    ui.gridLayout->setColumnStretch(4, isFrameABSupported ? 1 : 0); // takes what those may not
+    ui.gridLayout->removeWidget(ui.lblFrameA);
+    ui.gridLayout->addWidget(ui.lblFrameA, 0, 1, 1, columns);
     int row = 1;
     for (QLineEdit *edit : {ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
                             ui.lineEditExpFrameA}) {
         ui.gridLayout->removeWidget(edit);
-        ui.gridLayout->addWidget(edit, row++, 1, 1, isFrameABSupported ? 1 : 2);
+        ui.gridLayout->addWidget(edit, row++, 1, 1, columns);
         limitWidth(edit);
     }
     for (QLineEdit *edit : {ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
@@ -478,6 +484,7 @@ void OrvCamConfigPrivate::updateStatus()
         icon = QStringLiteral(":/icons/res/connected.ico");
     }
     statusText->setText(text);
+    statusText->setToolTip(array ? text.toHtmlEscaped() : QString());
     const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
     statusIcon->setPixmap(QIcon(icon).pixmap(extent));
 }
