@@ -342,6 +342,7 @@ void OrvCamConfigPrivate::layOut()
     const auto limitWidth = [this](QLineEdit *edit) {
         const QSize text =
             edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
+        edit->setMinimumWidth(isFrameABSupported ? text.width() : 0);
         edit->setMaximumWidth(isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
     };
     const int columns = isFrameABSupported ? 1 : 2;
