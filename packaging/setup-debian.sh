@@ -1,17 +1,20 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Installs the missing ones of the packages in debian-packages.txt. Does nothing when none is.
+# setup-debian.sh [LIST]
+# Installs the missing ones of the packages in a list beside this script, debian-packages.txt
+# unless another is named. Does nothing when none is.
 set -eu
 
 say() { echo "setup: $*" >&2; }
 die() { say "$*"; exit 1; }
 
+list=${1:-debian-packages.txt}
 here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
 
 command -v dpkg-query >/dev/null 2>&1 || die "this is not a Debian system: dpkg-query is missing"
 
 missing=
-for package in $(grep -v '^#' "$here/debian-packages.txt"); do
+for package in $(grep -v '^#' "$here/$list"); do
     status=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
     [ "$status" = "install ok installed" ] || missing="$missing $package"
 done

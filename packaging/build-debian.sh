@@ -1,0 +1,22 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+# Builds the Debian packages of what is committed, checks them with lintian, and leaves them in
+# build/debian.
+set -eu
+
+root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
+out=$root/build/debian
+
+"$root/packaging/setup-debian.sh"
+"$root/packaging/setup-debian.sh" packaging-packages.txt
+
+rm -rf "$out"
+mkdir -p "$out/source"
+git -C "$root" archive HEAD | tar -x -C "$out/source"
+cd "$out/source"
+log=$out/build.log
+dpkg-buildpackage --unsigned-source --unsigned-changes --build=binary >"$log" 2>&1 \
+    || { tail -n 40 "$log" >&2; echo "build-debian.sh: the build failed" >&2; exit 1; }
+cd "$out"
+lintian --fail-on error ./*.changes
+ls ./*.deb

@@ -1,0 +1,63 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+# check-installation.sh SOURCE_DIR BUILD_DIR WORK_DIR
+# Installs the build, and uses it as a stranger's project would: every header on its own, the
+# libraries through pkg-config, and the examples through CMake, outside the source tree.
+set -eu
+source=$1
+build=$2
+work=$3
+prefix=$work/moved
+
+fail() { echo "check-installation.sh: $*" >&2; exit 1; }
+
+rm -rf "$work"
+mkdir -p "$work"
+cmake --install "$build" --prefix "$work/prefix" >"$work/install.log"
+mv "$work/prefix" "$prefix" # an installation can be moved
+pkgconfig=$(find "$prefix" -type d -name pkgconfig)
+export PKG_CONFIG_PATH="$pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
+cxxflags=$(pkg-config --cflags orvcameraguiapi Qt5Widgets)
+
+include=$prefix/include
+(cd "$include/OrvCameraGuiApi" && ls -- *.h) >"$work/headers"
+(cd "$include/OrvCameraApi" && find . -name '*.h' | sed 's|^\./||') >>"$work/headers"
+while read -r header; do
+    echo "#include <$header>" >"$work/header.cpp"
+    # shellcheck disable=SC2086 # flags are words
+    c++ -std=c++17 -fPIC -Wall -Wextra -Werror -fsyntax-only $cxxflags "$work/header.cpp" \
+        || fail "$header can't be used on its own"
+done <"$work/headers"
+echo "$(wc -l <"$work/headers") headers can be used on their own"
+
+cat >"$work/host.c" <<'EOF'
+#include <orvcameraguiapi.h>
+int main(void)
+{
+    OrvGuiParamTreeView *view = CreateGenParamTreeViewForNodemapA(NULL, "empty", 0);
+    DestroyGenParamTreeView(view);
+    return 0;
+}
+EOF
+# shellcheck disable=SC2046,SC2086 # flags are words
+cc -std=c99 -Wall -Wextra -Werror ${CFLAGS:-} "$work/host.c" -o "$work/host" \
+    $(pkg-config --cflags --libs orvcameraguiapi) ${LDFLAGS:-}
+LD_LIBRARY_PATH=$(dirname -- "$pkgconfig") QT_QPA_PLATFORM=offscreen "$work/host" \
+    || fail "a C program can't use the installed library"
+echo "a C program made with pkg-config runs"
+
+for example in "$source"/examples/*/CMakeLists.txt; do
+    name=$(basename -- "$(dirname -- "$example")")
+    cp -r "$source/examples/$name" "$work/$name"
+    cmake -S "$work/$name" -B "$work/$name/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" \
+        >"$work/$name.log" 2>&1 || { cat "$work/$name.log"; fail "$name: cmake failed"; }
+    cmake --build "$work/$name/build" >"$work/$name.log" 2>&1 \
+        || { cat "$work/$name.log"; fail "$name: the build failed"; }
+    grep -q "$work/moved" "$work/$name/build/CMakeCache.txt" || fail "$name used another library"
+    echo "example $name is built against the installation"
+done
+
+"$prefix/bin/orvcamconfig" --simulate --list-features >"$work/features" \
+    || fail "the installed program doesn't run"
+[ -s "$work/features" ] || fail "the installed program shows no features"
+echo "the installed program runs"
