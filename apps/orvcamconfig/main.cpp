@@ -163,7 +163,7 @@ int pickCamera(OrvCam::System &system, const Options &options)
     while (picker.exec() == QDialog::Accepted) {
         if (auto device = openDevice(*picker.selectedCamera(), &error))
             return configure(std::move(device), options);
-        QMessageBox::critical(nullptr, QString(), error);
+        QMessageBox::critical(nullptr, QApplication::applicationName(), error);
     }
     return Success;
 }

@@ -39,7 +39,6 @@ private slots:
     void listsCameras();
     void failures_data();
     void failures();
-    void savesPictures_data();
     void savesPictures();
 
 private:
@@ -118,7 +117,7 @@ void TestOrvCamConfig::listsCameras()
     QVERIFY(result.out.contains("(Microscope)\t\tread-only\n"));
     QVERIFY(result.out.contains(QString::fromUtf8("\xE6\xA4\x9C\xE6\x9F\xBB")));
     QVERIFY(result.out.endsWith("\tunknown\n"));
-    const QStringList lines = result.out.split('\n', QString::SkipEmptyParts);
+    const QStringList lines = result.out.trimmed().split('\n');
     QCOMPARE(lines.size(), 10);
     for (const QString &line : lines)
         QCOMPARE(line.count('\t'), 3);
@@ -178,33 +177,27 @@ void TestOrvCamConfig::failures()
     QCOMPARE(line.count('\n'), 1);
 }
 
-void TestOrvCamConfig::savesPictures_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("isRed");
-    const QStringList picker = {"--simulate", "--window", "picker", "--camera"};
-    QTest::newRow("tree") << QStringList({"--xml", m_folder.filePath("sample.xml")}) << false;
-    QTest::newRow("picker") << picker + QStringList("SIM-0002") << false;
-    QTest::newRow("picker, camera of no use") << picker + QStringList("SIM-0003") << true;
-}
-
 void TestOrvCamConfig::savesPictures()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(bool, isRed);
-    const QString fileName = m_folder.filePath(QString(QTest::currentDataTag()) + ".png");
-    const Result result = run(arguments + QStringList({"--screenshot", fileName}));
-    QCOMPARE(result.status, 0);
-    const QImage picture(fileName);
-    QVERIFY(picture.width() > 300 && picture.height() > 300);
-    // A window with something in it has more than a handful of colours.
-    QHash<QRgb, int> colours;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            ++colours[picture.pixel(x, y)];
+    const QStringList picker = {"--simulate", "--window", "picker"};
+    QList<QImage> pictures;
+    for (const QStringList &arguments : {QStringList({"--xml", m_folder.filePath("sample.xml")}),
+                                         picker, picker + QStringList({"--camera", "SIM-0002"})}) {
+        const QString fileName = m_folder.filePath(QString::number(pictures.size()) + ".png");
+        const Result result = run(arguments + QStringList({"--screenshot", fileName}));
+        QCOMPARE(result.status, 0);
+        const QImage picture(fileName);
+        QVERIFY(picture.width() > 300 && picture.height() > 300);
+        // A window with something in it has more than a handful of colours.
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                colours << picture.pixel(x, y);
+        }
+        QVERIFY(colours.size() > 20);
+        QVERIFY(!pictures.contains(picture));
+        pictures << picture;
     }
-    QVERIFY(colours.size() > 20);
-    QCOMPARE(colours.value(qRgb(255, 0, 0)) > 300, isRed);
 }
 
 QTEST_GUILESS_MAIN(TestOrvCamConfig)

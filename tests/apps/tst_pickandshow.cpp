@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <xwindow.h>
+
 #include <QtTest>
 
 /// The program as somebody uses it on a screen: from the picker to the chosen camera's features.
@@ -82,7 +84,7 @@ void TestPickAndShow::press(const QStringList &keys)
 
 void TestPickAndShow::closeWindow()
 {
-    xdotool({"windowquit", m_window});
+    XView().askToClose(m_window.toUInt());
 }
 
 int TestPickAndShow::status()
