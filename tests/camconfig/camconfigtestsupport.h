@@ -2,7 +2,9 @@
 #pragma once
 
 #include <OrvCam.h>
+#include <aravis/nodemap.h>
 #include <cameraapi/nodemaparray.h>
+#include <simulation/simulatedcamera.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -61,9 +63,54 @@ public:
     OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
     int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
     int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
-    void Release() override { array.reset(); }
+    void Release() override
+    {
+        if (array)
+            array->detach(OrvCam::ErrorGone);
+        array.reset();
+    }
 
     std::unique_ptr<OrvGenParam::NodeMapArray> array;
     int32_t error = OrvCam::Success;
     int asked = 0;
+};
+
+/// A camera as its node map knows it.
+struct DescribedDevice
+{
+    explicit DescribedDevice(std::unique_ptr<OrvAravis::NodeMap> nodeMap)
+        : map(std::move(nodeMap)), device(*map)
+    {
+    }
+
+    /// Changes a feature as another client would, whose changes the camera reports.
+    void set(const QByteArray &feature, const QByteArray &value)
+    {
+        try {
+            GenApi::CValuePtr(map->GetNode(feature.constData()))->FromString(value.constData());
+        } catch (const GenICam::GenericException &e) {
+            QTest::qFail(e.what(), __FILE__, __LINE__);
+        }
+    }
+    QString get(const QByteArray &feature) const
+    {
+        return GenApi::CValuePtr(map->GetNode(feature.constData()))->ToString().c_str();
+    }
+
+    /// Of anybody to the camera, since its beginning.
+    quint64 writes() const { return map->transactions().writes; }
+
+    std::unique_ptr<OrvAravis::NodeMap> map;
+    NodeMapDevice device;
+};
+
+struct SimulatedDeviceCamera
+{
+    OrvSimulation::SimulatedCamera camera;
+};
+
+/// The simulated camera as a device, with all that it takes.
+struct SimulatedDevice : SimulatedDeviceCamera, DescribedDevice
+{
+    SimulatedDevice() : DescribedDevice(OrvAravis::NodeMap::open(camera.device())) {}
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <aravis/nodemap.h>
 #include <genapi/memorynodemap.h>
 #include <orvcamconfigcolordialog.h>
 #include <orvcamconfigoutputdialog.h>
@@ -10,7 +9,6 @@
 #include <qtorvsliderspinbox.h>
 #include <qtorvspinbox.h>
 #include <qtorvspinboxval.h>
-#include <simulation/simulatedcamera.h>
 
 using namespace OrvGui;
 using OrvSimulation::SimulatedCamera;
@@ -68,68 +66,16 @@ void addControls()
         QTest::newRow(control.name) << &control;
 }
 
-/// A node map and what a host sees of it: values as texts.
-class Camera
+/// The simulated camera without one of its features, or with all; a second one, if need be.
+class PoorDevice : public DescribedDevice
 {
 public:
-    explicit Camera(std::unique_ptr<OrvAravis::NodeMap> nodeMap)
-        : map(std::move(nodeMap)), device(*map)
-    {
-    }
-
-    GenApi::IValue *find(const QByteArray &feature) const
-    {
-        return dynamic_cast<GenApi::IValue *>(map->GetNode(feature.constData()));
-    }
-    QString value(const QByteArray &feature) const
-    {
-        return QString::fromLatin1(find(feature)->ToString(false, true).c_str());
-    }
-    void set(const QByteArray &feature, const QString &value)
-    {
-        find(feature)->FromString(value.toLatin1().constData());
-    }
-    quint64 writes() const { return map->transactions().writes; }
-
-    std::unique_ptr<OrvAravis::NodeMap> map;
-    NodeMapDevice device;
-};
-
-class LiveCamera : public SimulatedCamera, public Camera
-{
-public:
-    explicit LiveCamera(const char *serial = "SIM-0001")
-        : SimulatedCamera(identityOf(serial))
-        , Camera(OrvAravis::NodeMap::open(SimulatedCamera::device()))
-    {
-    }
-    using Camera::device;
-
-    /// Lets time pass in the camera and for those who poll it.
-    void wait(int seconds)
-    {
-        advance(seconds);
-        map->Poll(1000 * seconds);
-    }
-
-private:
-    static OrvSimulation::CameraIdentity identityOf(const char *serial)
-    {
-        OrvSimulation::CameraIdentity identity;
-        identity.serial = serial;
-        return identity;
-    }
-};
-
-/// The simulated camera without one of its features.
-class PoorCamera : public Camera
-{
-public:
-    explicit PoorCamera(const QByteArray &missing = QByteArray()) : Camera(describe(missing))
+    explicit PoorDevice(const QByteArray &missing = QByteArray())
+        : DescribedDevice(describe(missing))
     {
         for (const char *feature : {"DefectPixelCorrection", "HotPixelCorrection"})
             set(missing == feature ? QByteArray(missing + otherName) : QByteArray(feature),
-                QStringLiteral("Dynamic"));
+                "Dynamic");
     }
 
 private:
@@ -269,6 +215,7 @@ private slots:
     void missingFeature_data() { addControls(); }
     void missingFeature();
     void withoutCamera();
+    void lifetimes();
     void tabOrder();
 
     void strobeCaptions();
@@ -287,24 +234,24 @@ private slots:
 void TestStrobeOutputColor::bothWays()
 {
     QFETCH(const Control *, control);
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto dialog = open(control->dialog, &camera.device);
     dialog->SetDevice(&camera.device); // must not double anything
     QWidget *widget = part(dialog, control->name);
     QVERIFY(widget->isEnabled());
-    const QString before = camera.value(control->feature);
+    const QString before = camera.get(control->feature);
     QCOMPARE(shown(widget), before);
     QCOMPARE(camera.writes(), 0U);
 
     edit(widget);
-    const QString edited = camera.value(control->feature);
+    const QString edited = camera.get(control->feature);
     QVERIFY(edited != before);
     QCOMPARE(shown(widget), edited);
     QCOMPARE(camera.writes(), 1U);
 
-    camera.set(control->feature, before);
+    camera.set(control->feature, before.toLatin1());
     QCOMPARE(shown(widget), before);
-    QCOMPARE(camera.value(control->feature), before);
+    QCOMPARE(camera.get(control->feature), before);
     QTest::qWait(5);
     QCOMPARE(camera.writes(), 2U); // its own and none in answer
 
@@ -320,7 +267,7 @@ void TestStrobeOutputColor::bothWays()
 void TestStrobeOutputColor::missingFeature()
 {
     QFETCH(const Control *, control);
-    PoorCamera camera(control->feature);
+    PoorDevice camera(control->feature);
     ErrorBoxes boxes;
     const auto dialog = open(control->dialog, &camera.device);
     QVERIFY(dialog->isEnabled());
@@ -339,7 +286,7 @@ void TestStrobeOutputColor::missingFeature()
     }
 
     // A camera that has it brings the control to life, and the poor one puts it down again.
-    PoorCamera complete;
+    PoorDevice complete;
     dialog->SetDevice(&complete.device);
     QVERIFY(part(dialog, control->name)->isEnabled());
     dialog->SetDevice(&camera.device);
@@ -349,7 +296,7 @@ void TestStrobeOutputColor::missingFeature()
 
 void TestStrobeOutputColor::withoutCamera()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     for (Which which : {Strobe, Output, Color}) {
         const auto dialog = open(which, nullptr);
         QVERIFY(!dialog->isEnabled());
@@ -366,9 +313,37 @@ void TestStrobeOutputColor::withoutCamera()
     }
 }
 
+void TestStrobeOutputColor::lifetimes()
+{
+    SimulatedDevice camera;
+    for (Which which : {Strobe, Output, Color}) {
+        open(which, &camera.device).reset();
+        camera.set("Strobe1Reference", "ReadoutStart");
+        camera.set("ReverseX", "1");
+        camera.set("RedCoefficient", "1000");
+
+        const auto dialog = open(which, &camera.device);
+        const auto usable = [&] {
+            return std::count_if(std::begin(controls), std::end(controls), [&](const Control &c) {
+                return c.dialog == which && part(dialog, c.name)->isEnabled();
+            });
+        };
+        const auto all = usable();
+        QVERIFY(all > 0);
+        const QString red = which == Color ? textOf(dialog, "lblRedCoef") : QString();
+        camera.device.Release();
+        QCOMPARE(usable(), 0);
+        if (which == Color)
+            QCOMPARE(textOf(dialog, "lblRedCoef"), red);
+        camera.device.array = std::make_unique<OrvGenParam::NodeMapArray>(*camera.map);
+        dialog->SetDevice(&camera.device);
+        QCOMPARE(usable(), all);
+    }
+}
+
 void TestStrobeOutputColor::tabOrder()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     for (Which which : {Strobe, Output, Color}) {
         QStringList expected;
         for (const Control &control : controls) {
@@ -396,7 +371,7 @@ void TestStrobeOutputColor::tabOrder()
 
 void TestStrobeOutputColor::strobeCaptions()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto dialog = open(Strobe, &camera.device);
     for (const char *strobe : {"spBoxStrobe1", "spBoxStrobe2"}) {
         auto *delay = part<QtOrvSliderSpinBox>(dialog, QByteArray(strobe) + "Delay");
@@ -411,38 +386,37 @@ void TestStrobeOutputColor::strobeCaptions()
 
 void TestStrobeOutputColor::strobePicture()
 {
-    const QString exposure = QStringLiteral("ExposureStart");
-    const QString readout = QStringLiteral("ReadoutStart");
     {
-        LiveCamera camera;
+        SimulatedDevice camera;
         const auto dialog = open(Strobe, &camera.device);
         QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
         QTest::keyClick(part(dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
         QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
         QTest::keyClick(part(dialog, "cmBoxStrobe2Ref"), Qt::Key_Up);
         QCOMPARE(pictureOf(dialog), resource("strobe1Read_strobe2Exp"));
-        camera.set("Strobe1Reference", exposure);
+        camera.set("Strobe1Reference", "ExposureStart");
         QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
-        camera.set("Strobe2Reference", readout);
+        camera.set("Strobe2Reference", "ReadoutStart");
         QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
 
         // A camera that lacks a reference leaves the picture as it is.
-        PoorCamera poor("Strobe2Reference");
+        PoorDevice poor("Strobe2Reference");
         dialog->SetDevice(&poor.device);
         QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-        poor.set("Strobe1Reference", readout);
-        QCOMPARE(part<QComboBox>(dialog, "cmBoxStrobe1Ref")->currentText(), readout);
+        poor.set("Strobe1Reference", "ReadoutStart");
+        QCOMPARE(part<QComboBox>(dialog, "cmBoxStrobe1Ref")->currentText(),
+                 QStringLiteral("ReadoutStart"));
         QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
     }
-    PoorCamera poor("Strobe1Reference");
+    PoorDevice poor("Strobe1Reference");
     const auto dialog = open(Strobe, &poor.device);
-    poor.set("Strobe2Reference", readout);
+    poor.set("Strobe2Reference", "ReadoutStart");
     QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
 }
 
 void TestStrobeOutputColor::strobeDrag()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto dialog = open(Strobe, &camera.device);
     auto *delay = part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe1Delay");
     QSlider *slider = inner(delay);
@@ -450,23 +424,23 @@ void TestStrobeOutputColor::strobeDrag()
     for (int x = 10; x < slider->width(); x += 7)
         moveTo(slider, QPoint(x, slider->height() / 2));
     QVERIFY(delay->value() > 100000);
-    QCOMPARE(camera.value("Strobe1Delay"), QStringLiteral("100"));
+    QCOMPARE(camera.get("Strobe1Delay"), QStringLiteral("100"));
     QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() - 2, 5));
-    QCOMPARE(camera.value("Strobe1Delay"), QString::number(delay->value()));
+    QCOMPARE(camera.get("Strobe1Delay"), QString::number(delay->value()));
     QCOMPARE(camera.writes(), 1U);
 
     // Values between two positions of the scale are kept.
     for (int value : {123457, 999999, 3, 0}) {
-        camera.set("Strobe1Delay", QString::number(value));
+        camera.set("Strobe1Delay", QByteArray::number(value));
         QCOMPARE(delay->value(), value);
-        QCOMPARE(camera.value("Strobe1Delay"), QString::number(value));
+        QCOMPARE(camera.get("Strobe1Delay"), QString::number(value));
     }
     QCOMPARE(camera.writes(), 5U);
 }
 
 void TestStrobeOutputColor::outputDependencies()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto dialog = open(Output, &camera.device);
     const auto canChoose = [&](const char *combo, const char *entry) {
         auto *box = part<QComboBox>(dialog, combo);
@@ -476,16 +450,16 @@ void TestStrobeOutputColor::outputDependencies()
     QVERIFY(canChoose("cmBoxTaps", "Taps10"));
     QVERIFY(!canChoose("cmBoxPixelFormat", "BayerRG12"));
     QTest::keyClick(part(dialog, "cmBoxDepth"), Qt::Key_Down);
-    QCOMPARE(camera.value("SensorADCBitDepth"), QStringLiteral("Bit12"));
+    QCOMPARE(camera.get("SensorADCBitDepth"), QStringLiteral("Bit12"));
     QVERIFY(!canChoose("cmBoxTaps", "Taps10"));
     QVERIFY(canChoose("cmBoxPixelFormat", "BayerRG12"));
 
     auto *threshold = part<QtOrvSpinBox>(dialog, "spBoxDpcDynThres");
     QTest::keyClick(part(dialog, "cmBoxDpc"), Qt::Key_Home);
-    QCOMPARE(camera.value("DefectPixelCorrection"), QStringLiteral("Off"));
+    QCOMPARE(camera.get("DefectPixelCorrection"), QStringLiteral("Off"));
     QVERIFY(!threshold->isEnabled());
     QVERIFY(part(dialog, "spBoxHpcDynThres")->isEnabled());
-    camera.set("DefectPixelCorrection", QStringLiteral("Dynamic"));
+    camera.set("DefectPixelCorrection", "Dynamic");
     QVERIFY(threshold->isEnabled());
     QCOMPARE(threshold->value(), 256);
     QCOMPARE(camera.writes(), 3U);
@@ -494,7 +468,7 @@ void TestStrobeOutputColor::outputDependencies()
 // They stand upright: as wide as the spin box is high, as high as it is wide without its caption.
 void TestStrobeOutputColor::popUpSliders()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto check = [&](Which which, const QByteArray &name, const QString &caption) {
         const auto dialog = open(which, &camera.device);
         for (int width : {0, 500, 900}) { // first as it opens
@@ -520,7 +494,7 @@ void TestStrobeOutputColor::popUpSliders()
 
 void TestStrobeOutputColor::unity()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto dialog = open(Color, &camera.device);
     dialog->SetDevice(&camera.device);
     quint64 writes = 0;
@@ -528,21 +502,24 @@ void TestStrobeOutputColor::unity()
         const QByteArray feature = QByteArray(color) + "Coefficient";
         auto *button = part<QPushButton>(dialog, "pushBtn" + QByteArray(color) + "Unity");
         QVERIFY(button->width() < 2 * button->fontMetrics().boundingRect(button->text()).width());
-        camera.set(feature, QStringLiteral("1000"));
+        camera.set(feature, "1000");
         QCOMPARE(camera.writes(), ++writes);
         QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(camera.value(feature), QStringLiteral("256"));
+        QCOMPARE(camera.get(feature), QStringLiteral("256"));
         QCOMPARE(camera.writes(), ++writes);
         QCOMPARE(textOf(dialog, "lbl" + QByteArray(color) + "Coef"), QStringLiteral("256"));
         QTest::mouseClick(button, Qt::LeftButton); // it is already
         QCOMPARE(camera.writes(), writes);
     }
 
-    // Return enters a number; no button may take it for its own.
+    // No button may take Return for its own.
+    for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
+        camera.set(feature, "1000");
     type(part(dialog, "spBoxBlue"), 4095);
-    for (const char *color : {"Red", "Green"})
-        QCOMPARE(camera.value(QByteArray(color) + "Coefficient"), QStringLiteral("256"));
-    QCOMPARE(camera.value("BlueCoefficient"), QStringLiteral("4095"));
+    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_Return);
+    for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
+        QCOMPARE(camera.get(feature), QStringLiteral("1000"));
+    QCOMPARE(camera.get("BlueCoefficient"), QStringLiteral("4095"));
     auto *label = part<QLabel>(dialog, "lblBlueCoef");
     QCOMPARE(label->text(), QStringLiteral("4095"));
     QVERIFY(label->sizeHint().width() <= label->width());
@@ -553,25 +530,29 @@ void TestStrobeOutputColor::unity()
 
 void TestStrobeOutputColor::automaticWhiteBalance()
 {
-    LiveCamera camera;
+    SimulatedDevice camera;
     const auto dialog = open(Color, &camera.device);
+    const auto wait = [&](int seconds) {
+        camera.camera.advance(seconds);
+        camera.map->Poll(1000 * seconds);
+    };
     const auto follows = [&](const char *color) {
-        const QString value = camera.value(QByteArray(color) + "Coefficient");
+        const QString value = camera.get(QByteArray(color) + "Coefficient");
         return textOf(dialog, "lbl" + QByteArray(color) + "Coef") == value &&
                shown(part(dialog, "spBox" + QByteArray(color))) == value;
     };
     QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_End);
-    QCOMPARE(camera.value("BalanceWhiteAuto"), QStringLiteral("Continuous"));
+    QCOMPARE(camera.get("BalanceWhiteAuto"), QStringLiteral("Continuous"));
 
-    const QString red = camera.value("RedCoefficient");
-    const QString blue = camera.value("BlueCoefficient");
+    const QString red = camera.get("RedCoefficient");
+    const QString blue = camera.get("BlueCoefficient");
     for (int i = 0; i < 20; ++i) {
-        camera.wait(1);
+        wait(1);
         for (const char *color : {"Red", "Green", "Blue"})
             QVERIFY2(follows(color), color);
     }
-    QVERIFY(camera.value("RedCoefficient") != red);
-    QVERIFY(camera.value("BlueCoefficient") != blue);
+    QVERIFY(camera.get("RedCoefficient") != red);
+    QVERIFY(camera.get("BlueCoefficient") != blue);
     QCOMPARE(camera.writes(), 1U);
 
     // While the user holds a slider, what they hold stays; the statistics go on.
@@ -582,49 +563,49 @@ void TestStrobeOutputColor::automaticWhiteBalance()
     moveTo(slider, QPoint(slider->width() / 2, slider->height() / 2));
     const int held = spinBox->value();
     QVERIFY(held > 1500);
-    camera.wait(1);
+    wait(1);
     QCOMPARE(spinBox->value(), held);
-    QCOMPARE(textOf(dialog, "lblRedCoef"), camera.value("RedCoefficient"));
-    QVERIFY(camera.value("RedCoefficient").toInt() < 1000);
+    QCOMPARE(textOf(dialog, "lblRedCoef"), camera.get("RedCoefficient"));
+    QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
     QTest::mouseRelease(slider, Qt::LeftButton, {},
                         QPoint(slider->width() / 2, slider->height() / 2));
-    QCOMPARE(camera.value("RedCoefficient"), QString::number(held));
+    QCOMPARE(camera.get("RedCoefficient"), QString::number(held));
     QCOMPARE(textOf(dialog, "lblRedCoef"), QString::number(held));
     QCOMPARE(camera.writes(), 2U);
-    camera.wait(30);
+    wait(30);
     QVERIFY(follows("Red"));
-    QVERIFY(camera.value("RedCoefficient").toInt() < 1000);
+    QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
 
     // Once: back to off by itself.
     QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_Up);
-    camera.wait(20);
-    camera.wait(1);
+    wait(20);
+    wait(1);
     QCOMPARE(part<QComboBox>(dialog, "cmBoxWhiteBalance")->currentText(), QStringLiteral("Off"));
     QCOMPARE(camera.writes(), 3U);
 }
 
 void TestStrobeOutputColor::statisticsOfOtherCamera()
 {
-    LiveCamera first;
-    LiveCamera second("SIM-0002");
-    second.set("RedCoefficient", QStringLiteral("2222"));
+    SimulatedDevice first;
+    PoorDevice second;
+    second.set("RedCoefficient", "2222");
     const auto dialog = open(Color, &first.device);
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("320"));
     dialog->SetDevice(&second.device);
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("2222"));
 
-    first.set("RedCoefficient", QStringLiteral("100"));
+    first.set("RedCoefficient", "100");
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("2222"));
     QCOMPARE(part<QtOrvSpinBox>(dialog, "spBoxRed")->value(), 2222);
     QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
-    QCOMPARE(first.value("RedCoefficient"), QStringLiteral("100"));
-    QCOMPARE(second.value("RedCoefficient"), QStringLiteral("256"));
+    QCOMPARE(first.get("RedCoefficient"), QStringLiteral("100"));
+    QCOMPARE(second.get("RedCoefficient"), QStringLiteral("256"));
 
     dialog->SetDevice(nullptr);
-    second.set("RedCoefficient", QStringLiteral("300"));
+    second.set("RedCoefficient", "300");
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("256"));
     QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
-    QCOMPARE(second.value("RedCoefficient"), QStringLiteral("300"));
+    QCOMPARE(second.get("RedCoefficient"), QStringLiteral("300"));
 }
 
 void TestStrobeOutputColor::coefficientBecomesUnavailable()
