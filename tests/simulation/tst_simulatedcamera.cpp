@@ -216,7 +216,7 @@ void TestSimulatedCamera::startValuesAreThoseOfTheirFeature()
             "RgsID=1042 FirmwareBuild=1187 U3VFirmwareBuildNumber=412 PixelClock=160 "
             "Frame_ExposureClocks=480 Frame_OffsetY=456 Frame_Width=3840 Frame_SubsamplingP=P2 "
             "Frame_AnalogGain=x2 Frame_DigitalFineGain=32 Frame_BlackLevel=80 "
-            "Frame_WdrP3=Percent40 Frame_WdrE3=60 GevVersionMinor=2 GevSCPSPacketSize=1500")
+            "Frame_WdrP3=Percent80 Frame_WdrE3=60 GevVersionMinor=2 GevSCPSPacketSize=1500")
             .split(' ');
     for (const QString &pair : expected) {
         const QByteArray name = pair.section('=', 0, 0).toLatin1();
