@@ -366,8 +366,13 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
 
     // Only frame A is put out, but frame B is addressed: neither is shown in the other's column.
     simulation.set("FrameMode", "FrameA");
+    simulation.select("FrameA");
     tick(window);
-    QCOMPARE(columnOf(window, 'A').section(' ', 0, 0), changedA.section(' ', 0, 0));
+    const QString onlyA = columnOf(window, 'A');
+    QCOMPARE(onlyA, selectedColumn(simulation.array));
+    simulation.select("FrameB");
+    tick(window);
+    QCOMPARE(columnOf(window, 'A'), onlyA);
     simulation.select("FrameA");
     tick(window);
     QCOMPARE(columnOf(window, 'A'), selectedColumn(simulation.array));
@@ -375,7 +380,9 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     // Both again: both are read at once, and the camera keeps its selection.
     simulation.set("FrameMode", "FrameB");
     simulation.set("FrameMode", "DualVideo");
+    simulation.select("FrameA");
     tick(window);
+    QCOMPARE(simulation.array.GetEnum("FrameAB_Selector")->GetSymbolicValue(), "FrameA");
     QCOMPARE(columnOf(window, 'A'), selectedColumn(simulation.array));
     simulation.select("FrameB");
     QCOMPARE(columnOf(window, 'B'), selectedColumn(simulation.array));
@@ -413,7 +420,14 @@ void TestOrvCamConfigMainWindow::disturbsNobody()
     window.show();
     tick(window);
 
-    // Somebody types a number for frame A, here and in the tree.
+    // Somebody types a number for frame A, in the dialog, in widgets of a host and in the tree.
+    child<QPushButton>(window, "pushBtnFrameAB").click();
+    auto &dialogTabs = child<QTabWidget>(window, "tabFrames");
+    auto *clocks = child<QtOrvSpinBox>(window, "spBoxExpClocks").spinBox();
+    clocks->setFocus();
+    clocks->findChild<QLineEdit *>()->setText("11");
+    QSignalSpy dialogSwitches(&dialogTabs, &QTabWidget::currentChanged);
+
     QWidget host;
     auto *tabs = new QTabWidget(&host);
     auto *spinBox = new QtOrvSpinBox(&host);
@@ -444,6 +458,8 @@ void TestOrvCamConfigMainWindow::disturbsNobody()
 
     simulation.set("FrameMode", "DualVideo");
     dataChanges.clear();
+    dialogSwitches.clear();
+    const QString inDialog = clocks->text();
     int moves = 0;
     class Sink : public OrvGenParam::ParamEventSink
     {
@@ -458,6 +474,8 @@ void TestOrvCamConfigMainWindow::disturbsNobody()
     tick(window);
     QCOMPARE(moves, 2); // there and back
     QCOMPARE(switches.count(), 0);
+    QCOMPARE(dialogSwitches.count(), 0);
+    QCOMPARE(clocks->text(), inDialog);
     QCOMPARE(dataChanges.count(), 0);
     QCOMPARE(typed->text(), QString("123"));
     QCOMPARE(editor->cleanText(), QString("45"));
@@ -468,6 +486,7 @@ void TestOrvCamConfigMainWindow::disturbsNobody()
     simulation.select("FrameB");
     QCOMPARE(simulation.array.GetIntegerValue("Frame_ExposureLines"), int64_t(500));
     QCOMPARE(tabs->currentIndex(), 1); // others are heard again
+    QCOMPARE(dialogTabs.currentIndex(), 1);
 }
 
 void TestOrvCamConfigMainWindow::lockedSelector()
