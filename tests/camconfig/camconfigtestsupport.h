@@ -11,6 +11,34 @@
 
 #include <memory>
 
+/// Where the handle of the slider is, to be pressed and dragged.
+inline QPoint handleOf(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = slider->orientation();
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = option.sliderValue = slider->value();
+    option.upsideDown = slider->orientation() == Qt::Vertical;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
+/// Drags with the left button, by as many steps as there are between the points.
+inline void dragBy(
+    QSlider *slider, QPoint from, QPoint step, int count,
+    const std::function<void()> &afterEach = [] {})
+{
+    QTest::mousePress(slider, Qt::LeftButton, {}, from);
+    for (int i = 1; i <= count; ++i) {
+        QMouseEvent move(QEvent::MouseMove, from + i * step, Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(slider, &move);
+        afterEach();
+    }
+}
+
 /// Closes the error boxes that appear, as a user would, and keeps their texts. With a `patience`,
 /// each is left open for so long (ms), in which whatever happens by itself can happen.
 class ErrorBoxes : public QObject

@@ -739,6 +739,10 @@ void TestFeatureDialogs::readsOnce()
             camera.period.reads(),    camera.width.reads(),  camera.pulses.reads(),
             camera.pulseMode.reads(), camera.enable.reads()};
     };
+    for (Node *node : std::initializer_list<Node *>{
+             &camera.mode, &camera.source, &camera.edge, &camera.debounce, &camera.granularity,
+             &camera.period, &camera.width, &camera.pulses, &camera.pulseMode, &camera.enable})
+        node->properties().cachingMode = GenApi::NoCache; // each time that one is asked for counts
     QCOMPARE(reads(), QVector<int>(11));
     OrvCamConfigTriggerDialog trigger(&camera.device);
     QCOMPARE(reads(), QVector<int>({1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0}));
@@ -750,6 +754,13 @@ void TestFeatureDialogs::readsOnce()
     QVERIFY(QTest::qWaitForWindowExposed(&pulse));
     QTest::qWait(300);
     QCOMPARE(reads(), once);
+
+    // A change, whoever makes it, is shown by one more.
+    camera.edge.change(1);
+    camera.width.change(30);
+    click(pulse, "radioBtnSend");
+    type(part<QtOrvSpinBox>(pulse, "spBoxPeriod"), "500");
+    QCOMPARE(reads(), QVector<int>({1, 1, 2, 1, 0, 1, 2, 2, 1, 2, 1}));
 }
 
 void TestFeatureDialogs::transactions()
@@ -865,21 +876,8 @@ void TestFeatureDialogs::refusals()
         QSlider *slider = width->slider()->slider();
         if (!slider->isVisible())
             qFatal("The slider does not open");
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.minimum = slider->minimum();
-        option.maximum = slider->maximum();
-        option.sliderPosition = option.sliderValue = slider->value();
-        const QPoint from =
-            slider->style()
-                ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-                .center();
-        QTest::mousePress(slider, Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 40; ++step) {
-            QMouseEvent move(QEvent::MouseMove, from + QPoint(step, 0), Qt::LeftButton,
-                             Qt::LeftButton, {});
-            QApplication::sendEvent(slider, &move);
-        }
+        const QPoint from = handleOf(slider);
+        dragBy(slider, from, QPoint(1, 0), 40);
         QTest::mouseRelease(slider, Qt::LeftButton, {}, from + QPoint(40, 0));
         QTest::keyClick(slider, Qt::Key_Escape);
         QTest::qWait(1); // a refusal lets go of the widget once more afterwards

@@ -241,20 +241,6 @@ Make makeNumber(QWidget *(*part)(T *))
     return [=] { return std::make_unique<Number<T>>(part); };
 }
 
-QPoint handleOf(const QSlider *slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(slider);
-    option.orientation = slider->orientation();
-    option.minimum = slider->minimum();
-    option.maximum = slider->maximum();
-    option.sliderPosition = option.sliderValue = slider->value();
-    option.upsideDown = slider->orientation() == Qt::Vertical;
-    return slider->style()
-        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-        .center();
-}
-
 void throwRefusal()
 {
     throw GenICam::AccessException("no", __FILE__, __LINE__);
@@ -905,6 +891,21 @@ void TestOrvCamConfigMapper::fromInside()
     QCOMPARE(spinBox.singleStep(), 1);
     QVERIFY(!spinBox.isEnabled());
 
+    // And the two agree about the range.
+    Camera twin;
+    twin.number.setLimits(6, 20);
+    twin.number.change(12);
+    Camera changing;
+    mapper->unmapAll();
+    mapper->mapIntParam(changing.array->GetInt("Länge"), &spinBox);
+    on([&] {
+        mapper->unmapAll();
+        mapper->mapIntParam(twin.array->GetInt("Länge"), &spinBox);
+    });
+    changing.number.setLimits(6, 20);
+    QCOMPARE(spinBox.value(), 12);
+    QCOMPARE(twin.number.writes() + changing.number.writes(), 0);
+
     // Let go, and destroyed.
     mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
     on([&] { mapper->unmapAll(); });
@@ -1007,6 +1008,24 @@ void TestOrvCamConfigMapper::typingIsLeftAlone()
     QCOMPARE(camera.number.writes(), 2);
     QCOMPARE(plain.value(), 123);
 
+    OrvCamConfigMapper third;
+    QLineEdit text;
+    third.mapIntParam(camera.array->GetInt("Länge"), &text);
+    text.show();
+    text.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&text));
+    text.selectAll();
+    QTest::keyClicks(&text, QStringLiteral("45"));
+    camera.number.changed();
+    QTest::keyClick(&text, Qt::Key_Return);
+    QCOMPARE(camera.number.writes(), 3);
+    QCOMPARE(text.text(), QStringLiteral("45"));
+    QTest::keyClicks(&text, QStringLiteral("9"));
+    text.clearFocus();
+    QCOMPARE(camera.number.writes(), 4);
+    camera.number.change(8);
+    QCOMPARE(text.text(), QStringLiteral("8"));
+
     // One box for a number that is refused, however many keys it took.
     camera.number.onWrite(throwRefusal);
     camera.number.change(5);
@@ -1051,14 +1070,9 @@ void TestOrvCamConfigMapper::drags()
         heard.clear();
         slider->resize(slider->orientation() == Qt::Horizontal ? QSize(300, 30) : QSize(30, 300));
         const QPoint from = handleOf(slider);
-        QTest::mousePress(slider, Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 10; ++step) {
-            const QPoint to = slider->orientation() == Qt::Horizontal ? from + QPoint(10 * step, 0)
-                                                                      : from - QPoint(0, 10 * step);
-            QMouseEvent move(QEvent::MouseMove, to, Qt::LeftButton, Qt::LeftButton, {});
-            QApplication::sendEvent(slider, &move);
-            camera.number.changed(); // as a feature that is polled
-        }
+        const QPoint step =
+            slider->orientation() == Qt::Horizontal ? QPoint(10, 0) : QPoint(0, -10);
+        dragBy(slider, from, step, 10, [&] { camera.number.changed(); }); // as if it were polled
         QCOMPARE(camera.number.writes(), writes);
         dragged = slider->value();
         QVERIFY(dragged > 20);
