@@ -9,8 +9,8 @@ namespace OrvCam {
 
 namespace {
 
-/// One for all: callers that find it empty may keep from releasing it.
-class NoDevices final : public DeviceInfoList
+/// Nothing is lost when it is not released: not everybody does that with a list that is of no use.
+class EmptyList final : public DeviceInfoList
 {
 public:
     uint32_t GetCount() const override { return 0; }
@@ -76,7 +76,7 @@ int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
 
 DeviceInfoList *CameraInterface::GetDeviceInfoSet()
 {
-    static NoDevices none;
+    static EmptyList none;
     if (m_present.empty())
         return &none;
     return new EntryList<DeviceInfoList, DeviceInfo>({m_present.begin(), m_present.end()});

@@ -25,6 +25,7 @@ private:
     void closeWindow();
     int status();
 
+    XView m_screen; // also keeps the server from starting anew between two programs
     QProcess m_program;
     std::unique_ptr<QTemporaryDir> m_settings; ///< of the program, instead of the user's
     QString m_window;               ///< the last that was waited for
@@ -59,6 +60,7 @@ void TestPickAndShow::cleanup()
 void TestPickAndShow::start(const QStringList &arguments, bool isSimulated)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver never frees everything
     if (isSimulated)
         environment.insert("ORVCAM_SIMULATION", "1");
     environment.insert("XDG_CONFIG_HOME", m_settings->path());
@@ -89,7 +91,7 @@ void TestPickAndShow::press(const QStringList &keys)
 
 void TestPickAndShow::closeWindow()
 {
-    XView().askToClose(m_window.toUInt());
+    m_screen.askToClose(m_window.toUInt());
 }
 
 int TestPickAndShow::status()
