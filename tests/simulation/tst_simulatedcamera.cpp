@@ -119,6 +119,7 @@ private slots:
     void everySelectorSelects_data();
     void everySelectorSelects();
     void dualVideoSharesTheLineTime();
+    void limitsTakeTheirValuesAlong();
     void timesFollowTheSettings_data();
     void timesFollowTheSettings();
     void decimationMakesTheImageSmaller();
@@ -254,7 +255,7 @@ void TestSimulatedCamera::everySelectorSelects_data()
     QTest::newRow("frame, lines") << QByteArray("FrameAB_Selector") << 0 << 1
                                   << QByteArray("Frame_ExposureLines");
     QTest::newRow("frame, line time")
-        << QByteArray("FrameAB_Selector") << 0 << 1 << QByteArray("Frame_LineTime");
+        << QByteArray("FrameAB_Selector") << 0 << 1 << QByteArray("Frame_LineTimeReg");
     QTest::newRow("frame, gain") << QByteArray("FrameAB_Selector") << 0 << 1
                                  << QByteArray("Frame_DigitalFineGain");
     QTest::newRow("frame, last register")
@@ -300,6 +301,31 @@ void TestSimulatedCamera::dualVideoSharesTheLineTime()
     QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(1500));
     features.choose("FrameMode", "FrameB");
     QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(1200));
+}
+
+// What is set comes back when the limit does.
+void TestSimulatedCamera::limitsTakeTheirValuesAlong()
+{
+    const SimulatedCamera camera;
+    Features features(camera);
+    features.set("Frame_LineTime", 700);
+    features.set("Frame_ExposureClocks", 699);
+    features.choose("SensorADCBitDepth", "Bit12");
+    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(960));
+    features.choose("SensorADCBitDepth", "Bit10");
+    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(700));
+    features.set("Frame_LineTime", 650);
+    QCOMPARE(features.integer("Frame_ExposureClocks"), Q_INT64_C(649));
+
+    features.turn("Frame_FixedFramePeriodEnable", true);
+    features.set("Frame_FixedFramePeriodValue", 100);
+    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(99));
+    QCOMPARE(features.integer("CurrentExposureTime"), gint64((99 * 650 + 649) / 160));
+    features.turn("Frame_FixedFramePeriodEnable", false);
+    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(1600));
+
+    features.set("SensorClockDivider", 64);
+    QCOMPARE(features.integer("PixelClock"), Q_INT64_C(80));
 }
 
 void TestSimulatedCamera::timesFollowTheSettings_data()
