@@ -8,6 +8,12 @@
 // description, and counts on the wire what is read and written in that time, 30 seconds by default,
 // with what registers it is and how often. Tells also for how long the GUI thread was busy without
 // a break at most. Needs a network namespace: tests/support/with-netns.sh main-window-idle.
+//
+// It is 12.7 transactions a second, whether dialogs and tree are open or not, and all of them are
+// what the description wants to be polled: whether the pulse generator runs (0x1520, five times a
+// second), white balance and its three coefficients (0x1200 and following, every 600 ms each) and
+// the temperature (0x1600, once a second). The window's own second reads from what is cached. The
+// GUI thread is busy for about 10 ms at most. What keeps the connection alive is not counted.
 
 #include "allwindows.h"
 #include "gvcpcounter.h"

@@ -25,7 +25,12 @@ class OrvCamConfigPrivate;
 /// while its camera is unplugged. A device that the window has opened for the user is released by
 /// the window, as soon as the user disconnects it, another one takes its place, or the window goes.
 ///
-/// Use it on the GUI thread only, which is also the one that the device was created on.
+/// To read what the other frame does, the window moves the camera's frame selector and moves it
+/// back at once: when it gets a device, and when the frame mode changes. Windows of this library
+/// ignore that; event sinks of your own are notified twice.
+///
+/// Use it on the GUI thread only, which is also the one that the device was created on, and not
+/// from inside a notification of the device.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfig : public QMainWindow
 {
     Q_OBJECT
