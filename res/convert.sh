@@ -33,7 +33,7 @@ for name in orvicon connected disconnected frameab trigger pulse strobe dataout 
             greenball; do
     icon "$name"
 done
-for name in pulseimage wdr strobeBothExp strobeBothRead strobe1Exp_strobe2Read \
-            strobe1Read_strobe2Exp; do
+for name in pulseimage strobeBothExp strobeBothRead strobe1Exp_strobe2Read \
+            strobe1Read_strobe2Exp wdr; do
     picture "$name"
 done
