@@ -7,7 +7,7 @@
 /// What the user asked for on the command line.
 struct Options
 {
-    enum class Window { Tree, Picker };
+    enum class Window { Tree, Picker, Main };
 
     Window window = Window::Tree; ///< the first to be shown
     bool simulate = false;
@@ -18,6 +18,7 @@ struct Options
     QString description; ///< file name; empty for a camera
     QString screenshot;  ///< file name; empty for none
     int visibility = 0;  ///< 0 Basic, 1 Expert, 2 Guru
+    bool isVisibilityGiven = false;
 
     /// Reads the arguments, the program's name first. Answers "--help" and "--version" and ends
     /// the program. For anything that makes no sense, `error` is one line and the result is of no
