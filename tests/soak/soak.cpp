@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // soak [SECONDS [SEED [WINDOW]]]
-// Clicks and types at random into every window there is, or one of them, while the camera's values change and the
-// camera comes and goes, and watches what the process holds: bytes, resident memory, open files.
-// Ends with 1 when that grows. The platform "offscreen" does as well as a display.
+// Clicks and types at random into every window there is, or one of them, while the camera's values
+// change and the camera comes and goes, and watches what the process holds: bytes, resident memory,
+// open files. Ends with 1 when that grows. The platform "offscreen" does as well as a display.
 #include "soakcamera.h"
 #include "usage.h"
 
@@ -32,7 +32,7 @@ using namespace OrvGui;
 namespace {
 
 const int stepsPerWindow = 40;
-const int warmUpRounds = 5;
+const int warmUpRounds = 15;
 
 /// One of the windows. It may be given a null device, which it has to give up the former one for.
 struct Window
@@ -134,9 +134,9 @@ private:
 
     void use(QWidget &widget)
     {
-        static const Qt::Key keys[] = {Qt::Key_Up,   Qt::Key_Down,     Qt::Key_Left, Qt::Key_Right,
-                                       Qt::Key_Home, Qt::Key_End,      Qt::Key_Tab,  Qt::Key_Space,
-                                       Qt::Key_F2,   Qt::Key_PageDown, Qt::Key_1,    Qt::Key_7,
+        static const Qt::Key keys[] = {Qt::Key_Up,   Qt::Key_Down,     Qt::Key_Left,  Qt::Key_Right,
+                                       Qt::Key_Home, Qt::Key_End,      Qt::Key_Tab,   Qt::Key_Space,
+                                       Qt::Key_F2,   Qt::Key_PageDown, Qt::Key_1,     Qt::Key_7,
                                        Qt::Key_Plus, Qt::Key_Return,   Qt::Key_Escape};
         const QPointer<QWidget> target(&widget);
         if (below(3) == 0) {
@@ -253,7 +253,6 @@ private:
 Usage usageNow()
 {
     QPixmapCache::clear();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return Usage::now();
 }
 
@@ -277,26 +276,32 @@ int main(int argc, char *argv[])
     const unsigned seed = arguments.value(2, "1").toUInt();
 
     OrvCam::System *system = OrvCam_GetSystem();
+    auto soak = std::make_unique<Soak>(system, seed, arguments.value(3));
     Usage before;
     Usage after;
-    unsigned rounds = 0;
-    {
-        Soak soak(system, seed, arguments.value(3));
-        // Fonts, pictures and tables that Qt and Aravis keep once they have been made.
-        for (int i = 0; i < warmUpRounds; ++i)
-            soak.round();
-        before = usageNow();
-        std::printf("soak: at the start %s\n", before.text().c_str());
-        std::fflush(stdout);
-
-        QElapsedTimer timer;
-        timer.start();
-        for (; timer.elapsed() < seconds * 1000; ++rounds)
-            soak.round();
-        after = usageNow();
-        std::printf("soak: after %u rounds and %u clicks %s\n", rounds, soak.clicks(),
-                    after.text().c_str());
-    }
+    int rounds = -warmUpRounds; // what Qt and Aravis keep for good is made in these
+    QElapsedTimer clock;
+    // Each round is an event of its own: what deletes itself later does so between them.
+    QTimer next;
+    QObject::connect(&next, &QTimer::timeout, [&] {
+        if (rounds == 0) {
+            before = usageNow();
+            std::printf("soak: at the start %s\n", before.text().c_str());
+            std::fflush(stdout);
+            clock.start();
+        } else if (rounds > 0 && clock.elapsed() >= seconds * 1000) {
+            after = usageNow();
+            std::printf("soak: after %d rounds and %u clicks %s\n", rounds, soak->clicks(),
+                        after.text().c_str());
+            QCoreApplication::exit();
+            return;
+        }
+        soak->round();
+        ++rounds;
+    });
+    next.start(0);
+    QApplication::exec();
+    soak.reset();
     system->Release();
 
     const std::string growth = after.grownBeyond(before, rounds);

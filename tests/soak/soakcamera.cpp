@@ -104,8 +104,8 @@ void SoakCamera::changeSomething(Device &device, std::mt19937 &random)
         if (!node->IsFeature() || !GenApi::IsWritable(node->GetAccessMode()))
             return;
         if (auto *integer = dynamic_cast<GenApi::IInteger *>(node)) {
-            const auto range = static_cast<uint64_t>(integer->GetMax()) -
-                               static_cast<uint64_t>(integer->GetMin());
+            const auto range =
+                static_cast<uint64_t>(integer->GetMax()) - static_cast<uint64_t>(integer->GetMin());
             const uint64_t steps = range / static_cast<uint64_t>(integer->GetInc());
             const uint64_t step = steps > 0 ? random() % steps : 0;
             integer->SetValue(integer->GetMin() + static_cast<int64_t>(step) * integer->GetInc());

@@ -43,17 +43,16 @@ std::string Usage::text() const
            " KiB resident, " + std::to_string(files) + " open files";
 }
 
-std::string Usage::grownBeyond(const Usage &before, unsigned rounds) const
+std::string Usage::grownBeyond(const Usage &before, int rounds) const
 {
-    const long times = static_cast<long>(rounds);
     std::string what;
     const auto compare = [&](const char *name, long growth, long limit) {
         if (growth > limit)
-            what += std::string(what.empty() ? "" : ", ") + name + " by " +
-                    std::to_string(growth) + " (limit " + std::to_string(limit) + ")";
+            what += std::string(what.empty() ? "" : ", ") + name + " by " + std::to_string(growth) +
+                    " (limit " + std::to_string(limit) + ")";
     };
-    compare("allocated KiB", heap - before.heap, heapOnce + heapPerRound * times);
-    compare("resident KiB", resident - before.resident, residentOnce + residentPerRound * times);
+    compare("allocated KiB", heap - before.heap, heapOnce + heapPerRound * rounds);
+    compare("resident KiB", resident - before.resident, residentOnce + residentPerRound * rounds);
     compare("open files", files - before.files, 0);
     return what;
 }

@@ -16,5 +16,5 @@ struct Usage
 
     /// What has grown since `before` more than such a number of rounds explains; empty when nothing
     /// has.
-    std::string grownBeyond(const Usage &before, unsigned rounds) const;
+    std::string grownBeyond(const Usage &before, int rounds) const;
 };
