@@ -9,7 +9,9 @@
 #include <OrvCam.h>
 #include <orvcameraapi.h>
 
+#include <orvcamconfig.h>
 #include <orvcamconfigcolordialog.h>
+#include <orvcamconfigframeabdialog.h>
 #include <orvcamconfigoutputdialog.h>
 #include <orvcamconfigpulsedialog.h>
 #include <orvcamconfigstrobedialog.h>
@@ -42,12 +44,12 @@ struct Window
     std::function<void(QWidget &, OrvCam::Device *)> setDevice;
 };
 
-template<typename Dialog>
-Window configDialog(const char *name)
+template<typename Config>
+Window configWindow(const char *name)
 {
-    return {name, [](OrvCam::Device *device) { return new Dialog(device); },
-            [](QWidget &dialog, OrvCam::Device *device) {
-                static_cast<Dialog &>(dialog).SetDevice(device);
+    return {name, [](OrvCam::Device *device) { return new Config(device); },
+            [](QWidget &window, OrvCam::Device *device) {
+                static_cast<Config &>(window).SetDevice(device);
             }};
 }
 
@@ -78,12 +80,14 @@ Window cameraPicker(OrvCam::System *system)
 std::vector<Window> windows(OrvCam::System *system)
 {
     return {featureTree(),
+            configWindow<OrvCamConfig>("main window"),
             cameraPicker(system),
-            configDialog<OrvCamConfigTriggerDialog>("trigger"),
-            configDialog<OrvCamConfigPulseDialog>("pulse"),
-            configDialog<OrvCamConfigStrobeDialog>("strobe"),
-            configDialog<OrvCamConfigOutputDialog>("output"),
-            configDialog<OrvCamConfigColorDialog>("colour")};
+            configWindow<OrvCamConfigTriggerDialog>("trigger"),
+            configWindow<OrvCamConfigPulseDialog>("pulse"),
+            configWindow<OrvCamConfigStrobeDialog>("strobe"),
+            configWindow<OrvCamConfigOutputDialog>("output"),
+            configWindow<OrvCamConfigColorDialog>("colour"),
+            configWindow<OrvCamConfigFrameABDialog>("frames")};
 }
 
 /// A user who does anything anywhere.
