@@ -96,8 +96,10 @@ class Monkey : public QObject
 public:
     explicit Monkey(unsigned seed) : m_random(seed)
     {
-        // Dialogs that run until they are closed would stop everything.
-        connect(&m_patience, &QTimer::timeout, this, [this] { leaveModalDialog(); });
+        // Dialogs and menus that run until they are closed would stop everything.
+        // The timer stands still until its slot returns, but leaving one may open the next.
+        connect(&m_patience, &QTimer::timeout, this,
+                [this] { QTimer::singleShot(0, this, [this] { leaveWhatStops(); }); });
         m_patience.start(20);
     }
 
@@ -167,10 +169,12 @@ private:
             open->close();
     }
 
-    void leaveModalDialog()
+    void leaveWhatStops()
     {
+        if (QWidget *popup = QApplication::activePopupWidget())
+            return leavePopup(*popup);
         QWidget *dialog = QApplication::activeModalWidget();
-        if (!dialog || QApplication::activePopupWidget())
+        if (!dialog)
             return;
         const auto buttons = dialog->findChildren<QAbstractButton *>();
         const int chosen = below(buttons.size() + 1);
