@@ -13,8 +13,8 @@ namespace {
 // What may grow is what fills the caches that have a limit: fonts' glyphs and shapes, colour
 // gradients (60 of 12 KiB each), names. A camera that is not freed is about 2 MiB a round, a window
 // some hundred KiB, one of its pictures a MiB.
-const long heapPerRound = 8;
-const long heapOnce = 4 * 1024;
+const long heapPerRound = 4;
+const long heapOnce = 1024;
 
 // Memory that is free but in pieces is resident as well.
 const long residentPerRound = 16;
