@@ -5,7 +5,6 @@
 
 #include <aravis/nodemap.h>
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -14,11 +13,6 @@
 namespace {
 
 const quint32 DiscoveryTime = 200; // ms on each interface
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FeatureSource", text);
-}
 
 template<typename Object>
 struct Releaser
@@ -110,11 +104,13 @@ OrvCam::DeviceInfo *chosenCamera(const std::vector<OrvCam::DeviceInfo *> &camera
         found << QString::fromUtf8(info->GetId());
     }
     if (found.isEmpty())
-        *error = tr("No camera was found.");
+        *error = FeatureSource::tr("No camera was found.");
     else if (name.isEmpty())
-        *error = tr("None of the cameras found can be used: %1.").arg(found.join(", "));
+        *error =
+            FeatureSource::tr("None of the cameras found can be used: %1.").arg(found.join(", "));
     else
-        *error = tr("There is no camera '%1'. Found: %2.").arg(name, found.join(", "));
+        *error =
+            FeatureSource::tr("There is no camera '%1'. Found: %2.").arg(name, found.join(", "));
     return nullptr;
 }
 
@@ -122,19 +118,19 @@ QString reason(int32_t code)
 {
     switch (code) {
     case OrvCam::ErrorBusy:
-        return tr("somebody else has it open");
+        return FeatureSource::tr("somebody else has it open");
     case OrvCam::ErrorGone:
-        return tr("it does not answer");
+        return FeatureSource::tr("it does not answer");
     case OrvCam::ErrorTimeout:
-        return tr("it did not answer in time");
+        return FeatureSource::tr("it did not answer in time");
     case OrvCam::ErrorWrongSubnet:
-        return tr("its address does not fit the network adapter's subnet");
+        return FeatureSource::tr("its address does not fit the network adapter's subnet");
     case OrvCam::ErrorBadDescription:
-        return tr("its description cannot be understood");
+        return FeatureSource::tr("its description cannot be understood");
     case OrvCam::ErrorAccessDenied:
-        return tr("it refuses access");
+        return FeatureSource::tr("it refuses access");
     default:
-        return tr("error code %1").arg(code);
+        return FeatureSource::tr("error code %1").arg(code);
     }
 }
 
@@ -144,7 +140,7 @@ std::unique_ptr<FeatureSource> openCamera(const Options &options, QString *error
         qputenv("ORVCAM_SIMULATION", "1");
     Released<OrvCam::System> system(OrvCam_GetSystem());
     if (!system) {
-        *error = tr("The camera system cannot be started.");
+        *error = FeatureSource::tr("The camera system cannot be started.");
         return nullptr;
     }
     OrvCam::DeviceInfo *info = chosenCamera(foundCameras(*system), options.camera, error);
@@ -153,7 +149,7 @@ std::unique_ptr<FeatureSource> openCamera(const Options &options, QString *error
     int32_t code = OrvCam::Success;
     Released<OrvCam::Device> device(OrvCam_CreateDevice(info, &code, OrvCam::AccessControl));
     if (!device) {
-        *error = tr("The camera '%1' cannot be opened: %2.")
+        *error = FeatureSource::tr("The camera '%1' cannot be opened: %2.")
                      .arg(QString::fromUtf8(info->GetId()), reason(code));
         return nullptr;
     }

@@ -4,6 +4,7 @@
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
@@ -13,6 +14,8 @@ struct Options;
 /// The features that the program shows, and what keeps them alive.
 class FeatureSource
 {
+    Q_DECLARE_TR_FUNCTIONS(FeatureSource)
+
 public:
     virtual ~FeatureSource() = default;
 

@@ -2,6 +2,7 @@
 #include "featurelist.h"
 #include "featuresource.h"
 #include "options.h"
+#include "translation.h"
 
 #include <orvgenparamtreeview.h>
 
@@ -83,6 +84,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orvcamconfig"));
     QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
+
+    translate(application);
 
     QString error;
     const Options options = Options::fromArguments(QApplication::arguments(), &error);

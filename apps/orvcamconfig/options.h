@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 /// What the user asked for on the command line.
 struct Options
 {
+    Q_DECLARE_TR_FUNCTIONS(Options)
+
+public:
     bool simulate = false;
     bool listFeatures = false;
     QString camera;      ///< identifier, serial number or name; empty for the first usable one
