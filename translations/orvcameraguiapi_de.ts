@@ -5,466 +5,468 @@
     <name>DeviceTreeModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
     <name>FeatureSource</name>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine Kamera gefunden.</translation>
     </message>
     <message>
         <source>None of the cameras found can be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine der gefundenen Kameras ist verwendbar: %1.</translation>
     </message>
     <message>
         <source>There is no camera &apos;%1&apos;. Found: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Kamera „%1“. Gefunden: %2.</translation>
     </message>
     <message>
         <source>somebody else has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm hat sie geöffnet</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>sie antwortet nicht</translation>
     </message>
     <message>
         <source>it did not answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat nicht rechtzeitig geantwortet</translation>
     </message>
     <message>
         <source>its address does not fit the network adapter&apos;s subnet</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Adresse passt nicht zum Subnetz des Netzwerkadapters</translation>
     </message>
     <message>
         <source>its description cannot be understood</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Beschreibung ist nicht verständlich</translation>
     </message>
     <message>
         <source>it refuses access</source>
-        <translation type="unfinished"></translation>
+        <translation>sie verweigert den Zugriff</translation>
     </message>
     <message>
         <source>error code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlercode %1</translation>
     </message>
     <message>
         <source>The camera system cannot be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
     </message>
     <message>
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera „%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>GenParamDelegate</name>
     <message>
         <source>True</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahr</translation>
     </message>
     <message>
         <source>False</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsch</translation>
     </message>
 </context>
 <context>
     <name>GenParamTreeModel</name>
     <message>
         <source>&lt;Value not available&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Wert nicht verfügbar&gt;</translation>
     </message>
     <message>
         <source>&lt;Value not readable&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Wert nicht lesbar&gt;</translation>
     </message>
     <message>
         <source>Execute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausführen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzzahl</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>Boolesch</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleitkommazahl</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenkette</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzählung</translation>
     </message>
     <message>
         <source>&lt;i&gt;Limits&lt;/i&gt;: Min: %1, Max: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Grenzen&lt;/i&gt;: Min.: %1, Max.: %2</translation>
     </message>
     <message>
         <source>&lt;i&gt;Increment&lt;/i&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Schrittweite&lt;/i&gt;: %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Valid values&lt;/i&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Gültige Werte&lt;/i&gt;: %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Enumeration entries&lt;/i&gt;:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Einträge der Aufzählung&lt;/i&gt;:</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: %2 (0x%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2 (0x%3)</translation>
     </message>
     <message>
         <source>&lt;i&gt;Name:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Name:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Type:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Typ:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Selectors:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Selektoren:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Description:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Beschreibung:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>True</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahr</translation>
     </message>
     <message>
         <source>False</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsch</translation>
     </message>
     <message>
         <source>&lt;i&gt;Streamable:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;Streamfähig:&lt;/i&gt; %1</translation>
     </message>
 </context>
 <context>
     <name>GenParamTreeView</name>
     <message>
         <source>GenParamTreeView</source>
-        <translation type="unfinished"></translation>
+        <translation>GenParamTreeView</translation>
     </message>
     <message>
         <source>Visibility:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbarkeit:</translation>
     </message>
     <message>
         <source>Basic</source>
-        <translation type="unfinished"></translation>
+        <translation>Basis</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>Experte</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>Guru</translation>
     </message>
 </context>
 <context>
     <name>InfoPane</name>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
     <name>Options</name>
     <message>
         <source>Use simulated cameras; nothing is sent anywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulierte Kameras verwenden; es wird nichts gesendet.</translation>
     </message>
     <message>
         <source>Open the camera of this identifier, serial number or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera mit dieser Kennung, Seriennummer oder diesem Namen öffnen.</translation>
     </message>
     <message>
         <source>Show a GenICam description without a camera; its registers live in memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine GenICam-Beschreibung ohne Kamera zeigen; ihre Register liegen im Speicher.</translation>
     </message>
     <message>
         <source>Print the features as the tree shows them and exit: two blanks of indentation per level, the name, a tab, the value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Parameter so ausgeben, wie der Baum sie zeigt, und beenden: je Ebene zwei Leerzeichen Einzug, der Name, ein Tabulator, der Wert.</translation>
     </message>
     <message>
         <source>The level of detail: basic, expert or guru.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Umfang: basic, expert oder guru.</translation>
     </message>
     <message>
         <source>Save a picture of the window and exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild des Fensters speichern und beenden.</translation>
     </message>
     <message>
         <source>Shows and changes the features of a camera.
 Exit status: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt und ändert die Parameter einer Kamera.
+Rückgabewert: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>There is no option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Option „%1“.</translation>
     </message>
     <message>
         <source>There is no visibility &apos;%1&apos;; use basic, expert or guru.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Sichtbarkeit „%1“; möglich sind basic, expert und guru.</translation>
     </message>
     <message>
         <source>A description is shown without a camera: use --xml alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Beschreibung wird ohne Kamera gezeigt: --xml steht allein.</translation>
     </message>
     <message>
         <source>Say what to show: --simulate, --camera ID or --xml FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte angeben, was gezeigt werden soll: --simulate, --camera ID oder --xml FILE.</translation>
     </message>
 </context>
 <context>
     <name>OrvCameraSelectorDialog</name>
     <message>
         <source>Select camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera auswählen</translation>
     </message>
     <message>
         <source>&amp;Interface info</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schnittstelle</translation>
     </message>
     <message>
         <source>&amp;Device info</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gerät</translation>
     </message>
     <message>
         <source>Set IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse setzen</translation>
     </message>
 </context>
 <context>
     <name>OrvGui::OrvCameraSelectorDialog</name>
     <message>
         <source>Set IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse setzen</translation>
     </message>
     <message>
         <source>&amp;Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu suchen</translation>
     </message>
     <message>
         <source>Display name</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigename</translation>
     </message>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>Hersteller</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriennummer</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Access status</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriffsstatus</translation>
     </message>
     <message>
         <source>MAC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC-Adresse</translation>
     </message>
     <message>
         <source>IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse</translation>
     </message>
     <message>
         <source>Netmask</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzmaske</translation>
     </message>
     <message>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>Gateway</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>ReadWrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen und Schreiben</translation>
     </message>
     <message>
         <source>ReadOnly</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Lesen</translation>
     </message>
     <message>
         <source>NO ACCESS</source>
-        <translation type="unfinished"></translation>
+        <translation>KEIN ZUGRIFF</translation>
     </message>
     <message>
         <source>IP Subnet Mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Subnetz passt nicht</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>USB3 Vision</source>
-        <translation type="unfinished"></translation>
+        <translation>USB3 Vision</translation>
     </message>
     <message>
         <source>GigE Vision</source>
-        <translation type="unfinished"></translation>
+        <translation>GigE Vision</translation>
     </message>
     <message>
         <source>CameraLink</source>
-        <translation type="unfinished"></translation>
+        <translation>CameraLink</translation>
     </message>
     <message>
         <source>CoaXPress</source>
-        <translation type="unfinished"></translation>
+        <translation>CoaXPress</translation>
     </message>
     <message>
         <source>HD-SDI</source>
-        <translation type="unfinished"></translation>
+        <translation>HD-SDI</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>Set IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse setzen</translation>
     </message>
     <message>
         <source>Can&apos;t set IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>Die IP-Adresse kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>IP Configuration Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung zur IP-Konfiguration</translation>
     </message>
     <message>
         <source>Specified IP Configuraion is not correct, camera may become undiscoverable
 Press OK to skip the IP Configuration, or press Ignore to confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Die angegebene IP-Konfiguration ist nicht richtig, die Kamera ist danach vielleicht nicht mehr auffindbar
+OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>The output failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>The picture &apos;%1&apos; cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>QtOrvSpinBox</name>
     <message>
         <source>Show a slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Schieberegler anzeigen</translation>
     </message>
 </context>
 <context>
     <name>SetIpDialog</name>
     <message>
         <source>Set IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse setzen</translation>
     </message>
     <message>
         <source>Network Adapter IP Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Konfiguration des Netzwerkadapters</translation>
     </message>
     <message>
         <source>MAC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC-Adresse</translation>
     </message>
     <message>
         <source>IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adresse</translation>
     </message>
     <message>
         <source>Subnet Mask       </source>
-        <translation type="unfinished"></translation>
+        <translation>Subnetzmaske       </translation>
     </message>
     <message>
         <source>Camera IP Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Konfiguration der Kamera</translation>
     </message>
     <message>
         <source>IP &amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-&amp;Adresse</translation>
     </message>
     <message>
         <source>&amp;Subnet Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Subnetzmaske</translation>
     </message>
     <message>
         <source>Default &amp;Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-&amp;Gateway</translation>
     </message>
     <message>
         <source>TextLabel</source>
-        <translation type="unfinished"></translation>
+        <translation>TextLabel</translation>
     </message>
     <message>
         <source>Subnet mask mismatch!</source>
-        <translation type="unfinished"></translation>
+        <translation>Subnetzmaske passt nicht!</translation>
     </message>
     <message>
         <source>Subnet IP mismatch!</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Subnetz passt nicht!</translation>
     </message>
     <message>
         <source>Incorrect IP address!</source>
-        <translation type="unfinished"></translation>
+        <translation>Falsche IP-Adresse!</translation>
     </message>
     <message>
         <source>IP Configuration OK</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Konfiguration in Ordnung</translation>
     </message>
 </context>
 </TS>

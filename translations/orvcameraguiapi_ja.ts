@@ -5,466 +5,468 @@
     <name>DeviceTreeModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
 </context>
 <context>
     <name>FeatureSource</name>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが見つかりませんでした。</translation>
     </message>
     <message>
         <source>None of the cameras found can be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかったカメラはいずれも使用できません: %1。</translation>
     </message>
     <message>
         <source>There is no camera &apos;%1&apos;. Found: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ「%1」はありません。見つかったカメラ: %2。</translation>
     </message>
     <message>
         <source>somebody else has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>ほかのプログラムが使用中です</translation>
     </message>
     <message>
         <source>it does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>応答がありません</translation>
     </message>
     <message>
         <source>it did not answer in time</source>
-        <translation type="unfinished"></translation>
+        <translation>時間内に応答がありませんでした</translation>
     </message>
     <message>
         <source>its address does not fit the network adapter&apos;s subnet</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレスがネットワークアダプターのサブネットに合っていません</translation>
     </message>
     <message>
         <source>its description cannot be understood</source>
-        <translation type="unfinished"></translation>
+        <translation>記述ファイルを解釈できません</translation>
     </message>
     <message>
         <source>it refuses access</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセスが拒否されました</translation>
     </message>
     <message>
         <source>error code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード %1</translation>
     </message>
     <message>
         <source>The camera system cannot be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラシステムを起動できません。</translation>
     </message>
     <message>
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ「%1」を開けません: %2。</translation>
     </message>
 </context>
 <context>
     <name>GenParamDelegate</name>
     <message>
         <source>True</source>
-        <translation type="unfinished"></translation>
+        <translation>真</translation>
     </message>
     <message>
         <source>False</source>
-        <translation type="unfinished"></translation>
+        <translation>偽</translation>
     </message>
 </context>
 <context>
     <name>GenParamTreeModel</name>
     <message>
         <source>&lt;Value not available&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;値は利用できません&gt;</translation>
     </message>
     <message>
         <source>&lt;Value not readable&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;値は読み取れません&gt;</translation>
     </message>
     <message>
         <source>Execute</source>
-        <translation type="unfinished"></translation>
+        <translation>実行</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>整数</translation>
     </message>
     <message>
         <source>Boolean</source>
-        <translation type="unfinished"></translation>
+        <translation>ブール値</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンド</translation>
     </message>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>浮動小数点数</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>文字列</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>列挙</translation>
     </message>
     <message>
         <source>&lt;i&gt;Limits&lt;/i&gt;: Min: %1, Max: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;範囲&lt;/i&gt;: 最小: %1、最大: %2</translation>
     </message>
     <message>
         <source>&lt;i&gt;Increment&lt;/i&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;増分&lt;/i&gt;: %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Valid values&lt;/i&gt;: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;有効な値&lt;/i&gt;: %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Enumeration entries&lt;/i&gt;:</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;列挙エントリ&lt;/i&gt;:</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: %2 (0x%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」: %2 (0x%3)</translation>
     </message>
     <message>
         <source>&lt;i&gt;Name:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;名前:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Type:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;型:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Selectors:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;セレクター:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>&lt;i&gt;Description:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;説明:&lt;/i&gt; %1</translation>
     </message>
     <message>
         <source>True</source>
-        <translation type="unfinished"></translation>
+        <translation>真</translation>
     </message>
     <message>
         <source>False</source>
-        <translation type="unfinished"></translation>
+        <translation>偽</translation>
     </message>
     <message>
         <source>&lt;i&gt;Streamable:&lt;/i&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;i&gt;ストリーム可能:&lt;/i&gt; %1</translation>
     </message>
 </context>
 <context>
     <name>GenParamTreeView</name>
     <message>
         <source>GenParamTreeView</source>
-        <translation type="unfinished"></translation>
+        <translation>GenParamTreeView</translation>
     </message>
     <message>
         <source>Visibility:</source>
-        <translation type="unfinished"></translation>
+        <translation>表示レベル:</translation>
     </message>
     <message>
         <source>Basic</source>
-        <translation type="unfinished"></translation>
+        <translation>基本</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>エキスパート</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>グル</translation>
     </message>
 </context>
 <context>
     <name>InfoPane</name>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>プロパティ</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
 </context>
 <context>
     <name>Options</name>
     <message>
         <source>Use simulated cameras; nothing is sent anywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>シミュレーションのカメラを使用します。外部には何も送信しません。</translation>
     </message>
     <message>
         <source>Open the camera of this identifier, serial number or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>この識別子、シリアル番号または名前のカメラを開きます。</translation>
     </message>
     <message>
         <source>Show a GenICam description without a camera; its registers live in memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラなしで GenICam 記述ファイルを表示します。レジスターはメモリー上に置かれます。</translation>
     </message>
     <message>
         <source>Print the features as the tree shows them and exit: two blanks of indentation per level, the name, a tab, the value.</source>
-        <translation type="unfinished"></translation>
+        <translation>パラメーターをツリーの表示どおりに出力して終了します。階層ごとに空白 2 個の字下げ、名前、タブ、値の順です。</translation>
     </message>
     <message>
         <source>The level of detail: basic, expert or guru.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示レベル: basic、expert または guru。</translation>
     </message>
     <message>
         <source>Save a picture of the window and exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウの画像を保存して終了します。</translation>
     </message>
     <message>
         <source>Shows and changes the features of a camera.
 Exit status: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラのパラメーターを表示および変更します。
+終了ステータス: 0 成功、1 失敗、2 使用方法の誤り。</translation>
     </message>
     <message>
         <source>There is no option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション「%1」はありません。</translation>
     </message>
     <message>
         <source>There is no visibility &apos;%1&apos;; use basic, expert or guru.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示レベル「%1」はありません。basic、expert または guru を指定してください。</translation>
     </message>
     <message>
         <source>A description is shown without a camera: use --xml alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>記述ファイルはカメラなしで表示されます。--xml は単独で指定してください。</translation>
     </message>
     <message>
         <source>Say what to show: --simulate, --camera ID or --xml FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示する対象を指定してください: --simulate、--camera ID または --xml FILE。</translation>
     </message>
 </context>
 <context>
     <name>OrvCameraSelectorDialog</name>
     <message>
         <source>Select camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの選択</translation>
     </message>
     <message>
         <source>&amp;Interface info</source>
-        <translation type="unfinished"></translation>
+        <translation>インターフェイス情報(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Device info</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス情報(&amp;D)</translation>
     </message>
     <message>
         <source>Set IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレスの設定</translation>
     </message>
 </context>
 <context>
     <name>OrvGui::OrvCameraSelectorDialog</name>
     <message>
         <source>Set IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレスの設定</translation>
     </message>
     <message>
         <source>&amp;Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>再検索(&amp;R)</translation>
     </message>
     <message>
         <source>Display name</source>
-        <translation type="unfinished"></translation>
+        <translation>表示名</translation>
     </message>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>ベンダー</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアル番号</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー名</translation>
     </message>
     <message>
         <source>Access status</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセス状態</translation>
     </message>
     <message>
         <source>MAC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC アドレス</translation>
     </message>
     <message>
         <source>IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレス</translation>
     </message>
     <message>
         <source>Netmask</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットマスク</translation>
     </message>
     <message>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲートウェイ</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>説明</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>ReadWrite</source>
-        <translation type="unfinished"></translation>
+        <translation>読み書き可能</translation>
     </message>
     <message>
         <source>ReadOnly</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り専用</translation>
     </message>
     <message>
         <source>NO ACCESS</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセス不可</translation>
     </message>
     <message>
         <source>IP Subnet Mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>IP サブネット不一致</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>USB3 Vision</source>
-        <translation type="unfinished"></translation>
+        <translation>USB3 Vision</translation>
     </message>
     <message>
         <source>GigE Vision</source>
-        <translation type="unfinished"></translation>
+        <translation>GigE Vision</translation>
     </message>
     <message>
         <source>CameraLink</source>
-        <translation type="unfinished"></translation>
+        <translation>CameraLink</translation>
     </message>
     <message>
         <source>CoaXPress</source>
-        <translation type="unfinished"></translation>
+        <translation>CoaXPress</translation>
     </message>
     <message>
         <source>HD-SDI</source>
-        <translation type="unfinished"></translation>
+        <translation>HD-SDI</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタム</translation>
     </message>
     <message>
         <source>Set IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレスの設定</translation>
     </message>
     <message>
         <source>Can&apos;t set IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレスを設定できません</translation>
     </message>
     <message>
         <source>IP Configuration Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>IP 設定の警告</translation>
     </message>
     <message>
         <source>Specified IP Configuraion is not correct, camera may become undiscoverable
 Press OK to skip the IP Configuration, or press Ignore to confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>指定された IP 設定は正しくありません。カメラを検出できなくなるおそれがあります
+IP 設定を中止するには [OK]、そのまま設定するには [無視] を押してください</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>The output failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力に失敗しました。</translation>
     </message>
     <message>
         <source>The picture &apos;%1&apos; cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像「%1」を書き込めません。</translation>
     </message>
 </context>
 <context>
     <name>QtOrvSpinBox</name>
     <message>
         <source>Show a slider</source>
-        <translation type="unfinished"></translation>
+        <translation>スライダーを表示</translation>
     </message>
 </context>
 <context>
     <name>SetIpDialog</name>
     <message>
         <source>Set IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレスの設定</translation>
     </message>
     <message>
         <source>Network Adapter IP Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークアダプターの IP 設定</translation>
     </message>
     <message>
         <source>MAC Address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC アドレス</translation>
     </message>
     <message>
         <source>IP Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレス</translation>
     </message>
     <message>
         <source>Subnet Mask       </source>
-        <translation type="unfinished"></translation>
+        <translation>サブネットマスク       </translation>
     </message>
     <message>
         <source>Camera IP Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの IP 設定</translation>
     </message>
     <message>
         <source>IP &amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレス(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Subnet Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>サブネットマスク(&amp;S)</translation>
     </message>
     <message>
         <source>Default &amp;Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトゲートウェイ(&amp;G)</translation>
     </message>
     <message>
         <source>TextLabel</source>
-        <translation type="unfinished"></translation>
+        <translation>TextLabel</translation>
     </message>
     <message>
         <source>Subnet mask mismatch!</source>
-        <translation type="unfinished"></translation>
+        <translation>サブネットマスクが一致しません。</translation>
     </message>
     <message>
         <source>Subnet IP mismatch!</source>
-        <translation type="unfinished"></translation>
+        <translation>IP サブネットが一致しません。</translation>
     </message>
     <message>
         <source>Incorrect IP address!</source>
-        <translation type="unfinished"></translation>
+        <translation>IP アドレスが正しくありません。</translation>
     </message>
     <message>
         <source>IP Configuration OK</source>
-        <translation type="unfinished"></translation>
+        <translation>IP 設定は正常です</translation>
     </message>
 </context>
 </TS>
