@@ -29,17 +29,18 @@ function(orv_add_genapi_headers)
     endif()
 endfunction()
 
-# orv_add_test(NAME [XVFB] [NETNS] SOURCES file... [LIBRARIES target...])
+# orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] SOURCES file... [LIBRARIES target...])
 # A QtTest program, run offscreen; with XVFB under a virtual X server, with NETNS in a network
-# namespace of its own.
+# namespace of its own. STARTS_PROGRAMS (implied by NETNS) says that it starts others, which can't
+# be done in the emulator that runs the tests of another processor.
 function(orv_add_test name)
-    cmake_parse_arguments(arg "XVFB;NETNS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "XVFB;NETNS;STARTS_PROGRAMS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     orv_target_defaults(${name})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt5::Test)
-    set(command $<TARGET_FILE:${name}>)
+    set(command ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}>)
     if(arg_XVFB)
         set(command "${PROJECT_SOURCE_DIR}/tests/support/with-xvfb.sh" ${command})
     endif()
@@ -47,6 +48,9 @@ function(orv_add_test name)
         set(command "${PROJECT_SOURCE_DIR}/tests/support/with-netns.sh" ${command})
     endif()
     add_test(NAME ${name} COMMAND ${command})
+    if(arg_NETNS OR arg_STARTS_PROGRAMS)
+        set_tests_properties(${name} PROPERTIES LABELS starts-programs)
+    endif()
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)
     endif()

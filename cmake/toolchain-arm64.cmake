@@ -1,0 +1,10 @@
+# SPDX-License-Identifier: MIT
+# Builds for 64-bit ARM with Debian's cross compiler and its libraries for arm64; packaging/arm64.sh
+# installs both. What has to run in between, and the tests, run in an emulator.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
+set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
+set(CMAKE_LIBRARY_ARCHITECTURE aarch64-linux-gnu)
+set(PKG_CONFIG_EXECUTABLE aarch64-linux-gnu-pkg-config)
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static)
