@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace OrvCam {
 
@@ -62,6 +63,9 @@ CameraDevice::~CameraDevice()
     m_wake.notify_all();
     if (m_watcher.joinable())
         m_watcher.join();
+    // Whoever still shows the parameters learns that they are not available any more.
+    if (Session *current = std::exchange(m_current, nullptr))
+        current->array->detach(ErrorGone);
 }
 
 void CameraDevice::Release()

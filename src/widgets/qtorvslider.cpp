@@ -202,8 +202,12 @@ void QtOrvSlider::setRange(int min, int max)
     d->minLabel->setText(QString::number(min));
     d->maxLabel->setText(QString::number(max));
     d->setInnerRange();
-    emit rangeChanged(min, max);
-    d->place(kept);
+    // Whoever listens may have set another range, which has been announced then.
+    const auto isCurrent = [=] { return d->minimum == min && d->maximum == max; };
+    if (isCurrent())
+        emit rangeChanged(min, max);
+    if (isCurrent())
+        d->place(kept);
 }
 
 void QtOrvSlider::setMinimum(int min)

@@ -40,7 +40,8 @@ public:
     virtual int32_t UnregisterEvent(int32_t eventCode, DeviceEventCallback callback,
                                     void *context) = 0;
 
-    /// Closes the camera and destroys the device.
+    /// Closes the camera and destroys the device. Event sinks of its parameters are notified once
+    /// more, with parameters that are not available; after that nothing of the device may be used.
     virtual void Release() = 0;
 
 protected:

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+
+class QLabel;
+class QtOrvSpinBox;
+
+/// Sizes of parts of a form that depend on each other across its layouts.
+namespace FormFit {
+
+/// Makes labels that stand below each other, in rows of their own, equally wide.
+void align(const QList<QLabel *> &labels);
+
+/// Gives the slider that pops up upright the height of the spin box as its width, and as its height
+/// the width of the spin box without its caption.
+void fitUprightSlider(QtOrvSpinBox *spinBox);
+
+} // namespace FormFit

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "heldinput.h"
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QCoreApplication>
+#include <QMouseEvent>
+
+namespace HeldInput {
+
+namespace {
+
+template<class Kind>
+QList<Kind *> partsOf(QWidget *widget)
+{
+    QList<Kind *> parts = widget->findChildren<Kind *>();
+    if (auto *self = qobject_cast<Kind *>(widget))
+        parts.append(self);
+    return parts;
+}
+
+/// What a slider repeats while its groove is held can only be ended from within its class; it goes
+/// on after a release, too, if that came while the first step was being taken.
+class RepeatedStep : public QAbstractSlider
+{
+public:
+    static void end(QAbstractSlider *slider)
+    {
+        const auto setAction = &RepeatedStep::setRepeatAction;
+        (slider->*setAction)(SliderNoAction, 0, 0);
+    }
+};
+
+void releaseMouse(QWidget *widget)
+{
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &release);
+}
+
+} // namespace
+
+bool isDrag(QWidget *widget)
+{
+    for (const QAbstractSlider *slider : partsOf<QAbstractSlider>(widget)) {
+        if (slider->isSliderDown())
+            return true;
+    }
+    return false;
+}
+
+void end(QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (!widget)
+        return;
+    for (QAbstractSlider *slider : partsOf<QAbstractSlider>(widget)) {
+        if (slider->isSliderDown())
+            continue;
+        releaseMouse(slider);
+        RepeatedStep::end(slider);
+    }
+    for (QAbstractSpinBox *spinBox : partsOf<QAbstractSpinBox>(widget))
+        releaseMouse(spinBox);
+}
+
+} // namespace HeldInput

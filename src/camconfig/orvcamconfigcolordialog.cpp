@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "orvcamconfigcolordialog.h"
+
+#include "formfit.h"
+#include "orvcamconfigdialog_p.h"
+#include "ui_orvcamconfigcolordialog.h"
+
+#include <OrvCam/Codes.h>
+
+namespace OrvGui {
+
+namespace {
+
+const int unityGain = 256;
+
+int textWidth(const QWidget *widget, const QString &text)
+{
+    return widget->fontMetrics()
+        .size(Qt::TextSingleLine | Qt::TextIncludeTrailingSpaces, text)
+        .width();
+}
+
+} // namespace
+
+class OrvCamConfigColorDialogPrivate : public OrvCamConfigDialogPrivate,
+                                       public OrvGenParam::ParamEventSink
+{
+public:
+    void prepareToShow() override;
+    void OnParameterUpdate(OrvGenParam::Param *param) override;
+
+protected:
+    void buildForm() override;
+    void release() override;
+    void bind() override;
+
+private:
+    struct Coefficient
+    {
+        const char *feature;
+        QtOrvSpinBox *spinBox;
+        QPushButton *unity;
+        QLabel *statistics;
+        QVector<QWidget *> dependents;
+        const OrvGenParam::Param *bound = nullptr;
+    };
+
+    void bindCoefficient(Coefficient &coefficient);
+    void initStatistics();
+
+    Ui_OrvCamConfigColorDialog ui;
+    QVector<Coefficient> m_coefficients;
+};
+
+void OrvCamConfigColorDialogPrivate::buildForm()
+{
+    ui.setupUi(q);
+    m_coefficients = {
+        {"RedCoefficient",
+         ui.spBoxRed,
+         ui.pushBtnRedUnity,
+         ui.lblRedCoef,
+         // The statistics of all three come and go with the red one.
+         {ui.pushBtnRedUnity, ui.grBoxStatistics}},
+        {"GreenCoefficient",
+         ui.spBoxGreen,
+         ui.pushBtnGreenUnity,
+         ui.lblGreenCoef,
+         {ui.pushBtnGreenUnity}},
+        {"BlueCoefficient",
+         ui.spBoxBlue,
+         ui.pushBtnBlueUnity,
+         ui.lblBlueCoef,
+         {ui.pushBtnBlueUnity}},
+    };
+}
+
+void OrvCamConfigColorDialogPrivate::release()
+{
+    for (Coefficient &coefficient : m_coefficients)
+        coefficient.bound = nullptr;
+}
+
+void OrvCamConfigColorDialogPrivate::bind()
+{
+    for (Coefficient &coefficient : m_coefficients)
+        bindCoefficient(coefficient);
+    bindEnum("BalanceWhiteAuto", ui.cmBoxWhiteBalance);
+    bindEnum("AutoTrackingSpeed", ui.cmBoxTrackingSpeed);
+    initStatistics();
+}
+
+void OrvCamConfigColorDialogPrivate::bindCoefficient(Coefficient &coefficient)
+{
+    QPushButton *unity = coefficient.unity;
+    unity->setMaximumWidth(textWidth(unity, unity->text()) +
+                           2 * textWidth(unity, QStringLiteral("_")));
+    QtOrvSpinBox *spinBox = coefficient.spinBox;
+    if (bindInt(coefficient.feature, spinBox, coefficient.dependents)) {
+        OrvGenParam::Param *param = array->GetInt(coefficient.feature);
+        coefficient.bound = param;
+        param->UnregisterEventSink(this);
+        param->RegisterEventSink(this);
+    }
+    on(unity, &QPushButton::clicked, [spinBox] { spinBox->setValue(unityGain); });
+}
+
+void OrvCamConfigColorDialogPrivate::initStatistics()
+{
+    const QString widest = QString::number(ui.spBoxRed->maximum());
+    for (const Coefficient &coefficient : m_coefficients) {
+        coefficient.statistics->setFixedWidth(
+            textWidth(coefficient.statistics, widest + QLatin1Char(' ')));
+        coefficient.statistics->setText(QString::number(coefficient.spinBox->value()));
+    }
+}
+
+void OrvCamConfigColorDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+{
+    for (const Coefficient &coefficient : m_coefficients) {
+        if (coefficient.bound != param || !param->IsReadable())
+            continue;
+        int32_t error = OrvCam::Success;
+        const qint64 value = static_cast<OrvGenParam::Int *>(param)->GetValue(&error);
+        if (error == OrvCam::Success)
+            coefficient.statistics->setText(QString::number(value));
+    }
+}
+
+void OrvCamConfigColorDialogPrivate::prepareToShow()
+{
+    for (const Coefficient &coefficient : m_coefficients)
+        FormFit::fitUprightSlider(coefficient.spinBox);
+}
+
+OrvCamConfigColorDialog::OrvCamConfigColorDialog(OrvCam::Device *device, QWidget *parent)
+    : OrvCamConfigDialog(new OrvCamConfigColorDialogPrivate, device, parent)
+{
+}
+
+} // namespace OrvGui

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "orvcamconfigdialog.h"
+#include "orvcamconfigmapper.h"
+
+#include <OrvGenParam/Array.h>
+
+#include <QObject>
+
+#include <memory>
+#include <utility>
+
+namespace OrvGui {
+
+/// The private part of a feature dialog: builds the form once, and binds it to a device as often as
+/// another one is set.
+///
+/// Derive from it for each dialog. `bind` is little but a list of what is bound to what; a handler
+/// of the dialog's own is connected by `on`, after the widget has been bound, because binding
+/// disconnects everything else.
+class OrvCamConfigDialogPrivate
+{
+public:
+    OrvCamConfigDialogPrivate();
+    virtual ~OrvCamConfigDialogPrivate();
+
+    /// Runs whenever a device is set, the first time from the dialog's constructor. False when the
+    /// dialog is left disabled.
+    bool init(OrvCamConfigDialog *dialog, OrvCam::Device *device);
+
+    /// Just before the dialog is shown.
+    virtual void prepareToShow() {}
+
+protected:
+    /// Builds the form on `q`; called once, before anything else.
+    virtual void buildForm() = 0;
+
+    /// Gives up what a dialog holds of the device apart from its bindings.
+    virtual void release() {}
+
+    /// Binds the form to `array`, which is not null.
+    virtual void bind() = 0;
+
+    template<class Widget>
+    void bindEnum(const char *feature, Widget *widget)
+    {
+        mapper.mapEnumParam(array->GetEnum(feature), widget);
+    }
+    template<class Widget, class... Extra>
+    auto bindInt(const char *feature, Widget *widget, Extra &&...extra)
+    {
+        return mapper.mapIntParam(array->GetInt(feature), widget, std::forward<Extra>(extra)...);
+    }
+    void bindBoolean(const char *feature, QAbstractButton *button)
+    {
+        mapper.mapBooleanParam(array->GetBoolean(feature), button);
+    }
+    void bindCommand(const char *feature, QPushButton *button, QTimer *timer)
+    {
+        mapper.mapCommandParam(array->GetCommand(feature), button, timer);
+    }
+
+    /// Connects a handler of the dialog's own, until the next device is set.
+    template<class Sender, class Signal, class Handler>
+    void on(Sender *sender, Signal signal, Handler handler)
+    {
+        QObject::connect(sender, signal, m_handlers.get(), handler);
+    }
+
+    OrvCamConfigDialog *q = nullptr;
+    OrvCam::Device *device = nullptr;
+    OrvGenParam::Array *array = nullptr; ///< the device's; null while the dialog is disabled
+    OrvCamConfigMapper mapper;
+
+private:
+    bool target();
+
+    std::unique_ptr<QObject> m_handlers; ///< the receiver of the dialog's own handlers
+    bool m_isFormBuilt = false;
+    bool m_isBinding = false;
+    bool m_isOutdated = false; ///< the device is another one than that which is being bound
+};
+
+} // namespace OrvGui

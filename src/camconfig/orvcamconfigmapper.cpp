@@ -1,0 +1,746 @@
+// SPDX-License-Identifier: MIT
+#include "orvcamconfigmapper.h"
+
+#include "heldinput.h"
+#include "iorvcamconfigintconverter.h"
+#include "qtorvslider.h"
+#include "qtorvsliderspinbox.h"
+#include "qtorvspinbox.h"
+#include "qtorvspinboxval.h"
+#include "valuegrid.h"
+
+#include <OrvCam/Codes.h>
+#include <OrvGenParam/Array.h>
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStandardItemModel>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <algorithm>
+
+using OrvGenParam::Boolean;
+using OrvGenParam::Command;
+using OrvGenParam::Enum;
+using OrvGenParam::EnumEntry;
+using OrvGenParam::Int;
+using OrvGenParam::Param;
+
+namespace OrvGui {
+
+namespace {
+
+QString nameOf(const Param *param)
+{
+    return QString::fromUtf8(param->GetName());
+}
+
+QString symbolicOf(const EnumEntry *entry)
+{
+    return entry ? QString::fromUtf8(entry->GetSymbolic()) : QString();
+}
+
+/// Null when the index is not below the count, too.
+EnumEntry *entryAt(const Enum *param, int index)
+{
+    return index < static_cast<int>(param->GetEntryCount())
+               ? param->GetEntry(static_cast<uint32_t>(index))
+               : nullptr;
+}
+
+/// For buttons without an entry, so that no entry's value finds them.
+int idOfUnused(int index)
+{
+    return std::numeric_limits<int>::min() + index;
+}
+
+/// False only for the entry that is known not to be available at this moment.
+bool canChoose(const Enum *param, int value)
+{
+    for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
+        const EnumEntry *entry = param->GetEntry(i);
+        if (entry && entry->GetValue() == value)
+            return entry->IsAvailable();
+    }
+    return true;
+}
+
+QButtonGroup *groupOf(const OrvCamConfigMapData &record)
+{
+    return record.type == MapEnumButtons ? static_cast<QButtonGroup *>(record.extra) : nullptr;
+}
+
+IOrvCamConfigIntConverter *converterOf(const OrvCamConfigMapData &record)
+{
+    return static_cast<IOrvCamConfigIntConverter *>(record.extra);
+}
+
+QtOrvSlider *sliderOf(const OrvCamConfigMapData &record)
+{
+    if (record.type == MapIntOrvSpinBox) {
+        if (auto *spinBox = qobject_cast<QtOrvSpinBox *>(record.control))
+            return spinBox->slider();
+    }
+    if (record.type == MapIntOrvSliderSpinBox) {
+        if (auto *spinBox = qobject_cast<QtOrvSliderSpinBox *>(record.control))
+            return spinBox->slider();
+    }
+    return nullptr;
+}
+
+void setUsable(const OrvCamConfigMapData &record, const Param *param, bool usable)
+{
+    if (QButtonGroup *group = groupOf(record)) {
+        const auto *choice = dynamic_cast<const Enum *>(param);
+        for (QAbstractButton *button : group->buttons())
+            button->setEnabled(usable && (!choice || canChoose(choice, group->id(button))));
+    } else if (record.control) {
+        record.control->setEnabled(usable);
+    }
+}
+
+/// Calls the function if parameter and widget are of these kinds.
+template<class Kind, class Widget, class Function>
+void with(Param *param, QObject *control, Function function)
+{
+    auto *kind = dynamic_cast<Kind *>(param);
+    auto *widget = qobject_cast<Widget *>(control);
+    if (kind && widget)
+        function(kind, widget);
+}
+
+void report(const QPointer<QObject> &control, const QString &text)
+{
+    HeldInput::end(control);
+    QMessageBox::critical(nullptr, QString(), text, QMessageBox::Ok);
+    // A groove starts to repeat only when its first step has been taken, that is now.
+    if (control)
+        QTimer::singleShot(0, control, [=] { HeldInput::end(control); });
+}
+
+QString intError()
+{
+    return OrvCamConfigMapper::tr("Error while setting the %1 integer value!\r\nError Code: %2");
+}
+
+QString enumError()
+{
+    return OrvCamConfigMapper::tr(
+        "Error while setting the %1 enumeration value!\r\nError Code: %2");
+}
+
+} // namespace
+
+/// While one exists, the widget shows a value of the camera: nothing is written.
+///
+/// Over before its end when a receiver of the widget's signals unmaps the widget or destroys the
+/// mapper. What the widget then still does of the change under way must reach no other camera
+/// either; a parameter that the widget has been given meanwhile is shown afterwards.
+class OrvCamConfigMapper::Showing
+{
+public:
+    Showing(OrvCamConfigMapper &mapper, QObject *control);
+    ~Showing();
+    Q_DISABLE_COPY(Showing)
+
+    const QObject *control() const { return m_control; }
+    bool isOver() const;
+    void end() { m_isOver = true; }
+
+private:
+    OrvCamConfigMapper &m_mapper;
+    const std::shared_ptr<State> m_state;
+    QObject *const m_control;
+    bool m_isOver = false;
+};
+
+struct OrvCamConfigMapper::State
+{
+    bool isShownIn(const QObject *control) const
+    {
+        return std::any_of(showing.begin(), showing.end(),
+                           [=](const Showing *one) { return one->control() == control; });
+    }
+
+    /// What connections of the mapper end with. Null when the mapper is gone.
+    std::unique_ptr<QObject> context{new QObject};
+    QVector<Showing *> showing;
+};
+
+OrvCamConfigMapper::Showing::Showing(OrvCamConfigMapper &mapper, QObject *control)
+    : m_mapper(mapper), m_state(mapper.m_state), m_control(control)
+{
+    m_state->showing.append(this);
+}
+
+OrvCamConfigMapper::Showing::~Showing()
+{
+    m_state->showing.removeOne(this);
+    if (m_isOver && m_state->context && !m_state->isShownIn(m_control))
+        m_mapper.showBoundTo(m_control);
+}
+
+bool OrvCamConfigMapper::Showing::isOver() const
+{
+    return m_isOver || !m_state->context;
+}
+
+OrvCamConfigMapper::OrvCamConfigMapper(qint64 valueCap)
+    : m_valueCap(valueCap), m_state(std::make_shared<State>())
+{
+}
+
+OrvCamConfigMapper::~OrvCamConfigMapper()
+{
+    m_state->context.reset();
+}
+
+QObject *OrvCamConfigMapper::context() const
+{
+    return m_state->context.get();
+}
+
+void OrvCamConfigMapper::OnParameterUpdate(Param *param)
+{
+    const QString name = nameOf(param);
+    if (m_params.value(name) != param)
+        return; // of a camera that this mapper has been taken away from
+
+    // Whoever listens to the widgets may map, unmap or destroy the mapper.
+    const Records records = m_bindings.value(name);
+    const std::shared_ptr<State> state = m_state;
+    const auto isOver = [&] {
+        return !state->context || m_bindings.value(name).constData() != records.constData();
+    };
+
+    const bool available = param->IsAvailable();
+    if (available && param->IsReadable()) {
+        for (const OrvCamConfigMapData &record : records) {
+            show(record, param);
+            if (isOver())
+                return;
+        }
+    }
+    const bool usable = available && param->IsWritable();
+    for (const OrvCamConfigMapData &record : records) {
+        setUsable(record, param, usable);
+        if (isOver())
+            return;
+    }
+}
+
+bool OrvCamConfigMapper::begin(Param *param, const Records &records)
+{
+    if (!param) {
+        for (const OrvCamConfigMapData &record : records)
+            setUsable(record, param, false);
+        return false;
+    }
+    param->UnregisterEventSink(this);
+    cut(records.first());
+
+    // One that is only read-only keeps its state until the next notification.
+    const bool available = param->IsAvailable();
+    if (!available || param->IsWritable()) {
+        for (const OrvCamConfigMapData &record : records)
+            setUsable(record, nullptr, available);
+    }
+
+    const QString name = nameOf(param);
+    const Records former = m_bindings.value(name);
+    if (!former.isEmpty())
+        unmapControl(former.first());
+    m_bindings.insert(name, records);
+    m_params.insert(name, param);
+    return true;
+}
+
+void OrvCamConfigMapper::finish(Param *param)
+{
+    param->RegisterEventSink(this);
+}
+
+void OrvCamConfigMapper::cut(const OrvCamConfigMapData &record)
+{
+    QObject *control = record.control;
+    if (QButtonGroup *group = groupOf(record))
+        control = group;
+    if (!control)
+        return;
+    QObject::disconnect(control, nullptr, nullptr, nullptr);
+    if (QtOrvSlider *slider = sliderOf(record))
+        QObject::disconnect(slider, nullptr, context(), nullptr);
+    for (Showing *showing : m_state->showing) {
+        if (showing->control() == control)
+            showing->end();
+    }
+}
+
+void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
+{
+    cut(record);
+    setUsable(record, nullptr, false);
+}
+
+void OrvCamConfigMapper::unmapParam(const QString &name)
+{
+    m_params.remove(name);
+    m_tabs.remove(name);
+    for (const OrvCamConfigMapData &record : m_bindings.take(name))
+        unmapControl(record);
+}
+
+void OrvCamConfigMapper::unmapAll()
+{
+    for (const QString &name : m_bindings.keys())
+        unmapParam(name);
+}
+
+void OrvCamConfigMapper::write(QObject *control, const QString &format, const Param *param,
+                               const Write &call)
+{
+    if (m_state->isShownIn(control))
+        return;
+    // The write notifies, and whoever listens may destroy the mapper, the widget or the camera.
+    const QString name = nameOf(param);
+    const QPointer<QObject> widget(control);
+    const qint32 code = call();
+    if (code != OrvCam::Success)
+        report(widget, format.arg(name, QString::number(code)));
+}
+
+void OrvCamConfigMapper::writeInt(QObject *control, Int *param, int shown,
+                                  IOrvCamConfigIntConverter *converter)
+{
+    write(control, intError(), param,
+          [=] { return param->SetValue(converter ? converter->ToDevice(shown, param) : shown); });
+}
+
+void OrvCamConfigMapper::mapEnumParam(Enum *param, QComboBox *comboBox)
+{
+    if (!begin(param, {{MapEnumComboBox, comboBox, nullptr}}))
+        return;
+    comboBox->clear();
+    for (uint32_t i = 0; i < param->GetEntryCount(); ++i)
+        comboBox->addItem(symbolicOf(param->GetEntry(i)));
+    comboBox->setCurrentIndex(-1);
+    updateComboBox(param, comboBox);
+    QObject::connect(
+        comboBox, static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged), context(),
+        [=](int index) {
+            if (index < 0)
+                return;
+            write(comboBox, enumError(), param, [=] {
+                return param->SetSymbolicValue(comboBox->itemText(index).toUtf8().constData());
+            });
+        });
+    finish(param);
+}
+
+void OrvCamConfigMapper::updateComboBox(Enum *param, QComboBox *comboBox)
+{
+    if (comboBox->count() == 0)
+        return;
+    int32_t error = OrvCam::Success;
+    const QString current = QString::fromUtf8(param->GetSymbolicValue(&error));
+    const Showing showing(*this, comboBox);
+    if (auto *items = qobject_cast<QStandardItemModel *>(comboBox->model())) {
+        for (int i = 0; i < comboBox->count(); ++i) {
+            const EnumEntry *entry = entryAt(param, i);
+            items->item(i)->setEnabled(entry && entry->IsAvailable());
+        }
+    }
+    if (error == OrvCam::Success)
+        comboBox->setCurrentIndex(
+            comboBox->findText(current, Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+void OrvCamConfigMapper::mapEnumParam(Enum *param, QCheckBox *checkBox)
+{
+    const OrvCamConfigMapData record{MapEnumCheckBox, checkBox, nullptr};
+    if (!begin(param, {record}))
+        return;
+    show(record, param);
+    QObject::connect(checkBox, &QCheckBox::clicked, context(), [=](bool checked) {
+        write(checkBox, enumError(), param, [=] { return param->SetIntValue(checked ? 1 : 0); });
+    });
+    finish(param);
+}
+
+void OrvCamConfigMapper::mapEnumParam(Enum *param, QButtonGroup *buttons)
+{
+    const OrvCamConfigMapData record{MapEnumButtons, nullptr, buttons};
+    if (!begin(param, {record}))
+        return;
+    const QList<QAbstractButton *> all = buttons->buttons();
+    for (int i = 0; i < all.size(); ++i) {
+        const EnumEntry *entry = entryAt(param, i);
+        all[i]->setVisible(entry);
+        buttons->setId(all[i], entry ? ValueGrid::toInt(qint64(entry->GetValue())) : idOfUnused(i));
+        if (entry)
+            all[i]->setText(symbolicOf(entry));
+    }
+    if (param->IsAvailable() && param->IsWritable())
+        setUsable(record, param, true);
+    checkCurrentButton(param, buttons);
+    QObject::connect(
+        buttons,
+        static_cast<void (QButtonGroup::*)(QAbstractButton *, bool)>(&QButtonGroup::buttonToggled),
+        context(), [=](QAbstractButton *button, bool checked) {
+            if (!checked)
+                return;
+            const int value = buttons->id(button);
+            write(buttons, enumError(), param, [=] { return param->SetIntValue(value); });
+        });
+    const QString name = nameOf(param);
+    QObject::connect(buttons, &QObject::destroyed, context(), [=] { m_bindings.remove(name); });
+    finish(param);
+}
+
+void OrvCamConfigMapper::checkCurrentButton(Enum *param, QButtonGroup *buttons)
+{
+    int32_t error = OrvCam::Success;
+    const qint64 value = param->GetIntValue(&error);
+    QAbstractButton *button = buttons->button(ValueGrid::toInt(value));
+    if (error != OrvCam::Success || !button)
+        return;
+    const Showing showing(*this, buttons);
+    button->setChecked(true);
+}
+
+void OrvCamConfigMapper::updateRadioButtons(Enum *param, QButtonGroup *buttons)
+{
+    checkCurrentButton(param, buttons);
+    for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
+        const EnumEntry *entry = param->GetEntry(i);
+        QAbstractButton *button =
+            entry ? buttons->button(ValueGrid::toInt(qint64(entry->GetValue()))) : nullptr;
+        if (button)
+            button->setEnabled(entry->IsAvailable());
+    }
+}
+
+void OrvCamConfigMapper::mapEnumParam(Enum *param, QTabWidget *tabs)
+{
+    if (!begin(param, {{MapEnumTabs, tabs, nullptr}}))
+        return;
+    const int entries = static_cast<int>(param->GetEntryCount());
+    while (tabs->count() > entries) {
+        const int last = tabs->count() - 1;
+        tabs->widget(last)->hide();
+        tabs->removeTab(last);
+    }
+    QHash<QString, int> tabOf;
+    for (int i = 0; i < tabs->count(); ++i) {
+        const EnumEntry *entry = entryAt(param, i);
+        if (entry) {
+            tabs->setTabText(i, symbolicOf(entry));
+            tabOf.insert(symbolicOf(entry), i);
+        } else {
+            tabs->widget(i)->hide();
+        }
+    }
+    m_tabs.insert(nameOf(param), tabOf);
+    updateTabWidget(param, tabs);
+    QObject::connect(tabs, &QTabWidget::currentChanged, context(), [=](int index) {
+        if (index < 0)
+            return;
+        write(tabs, enumError(), param,
+              [=] { return param->SetSymbolicValue(tabs->tabText(index).toUtf8().constData()); });
+    });
+    finish(param);
+}
+
+void OrvCamConfigMapper::updateTabWidget(Enum *param, QTabWidget *tabs)
+{
+    const QHash<QString, int> tabOf = m_tabs.value(nameOf(param));
+    const QString current = QString::fromUtf8(param->GetSymbolicValue());
+    {
+        const Showing showing(*this, tabs);
+        if (tabOf.contains(current))
+            tabs->setCurrentIndex(tabOf.value(current));
+        if (showing.isOver())
+            return;
+    }
+    for (int i = 0; i < tabs->count(); ++i) {
+        const EnumEntry *entry = entryAt(param, i);
+        if (QWidget *page = entry ? tabs->widget(tabOf.value(symbolicOf(entry), -1)) : nullptr)
+            page->setEnabled(entry->IsAvailable());
+    }
+}
+
+void OrvCamConfigMapper::mapCommandParam(Command *param, QPushButton *button, QTimer *timer)
+{
+    if (!begin(param, {{MapCommandButton, button, nullptr}}))
+        return;
+    QObject::connect(button, &QPushButton::clicked, context(), [=] {
+        const QString error = tr("Error while executing the %1 command!\r\nError Code: %2");
+        const QPointer<QTimer> guardedTimer(timer);
+        const QPointer<QPushButton> guardedButton(button);
+        write(button, error, param, [=] {
+            const qint32 code = param->Execute(); // may notify, and whoever listens do anything
+            if (guardedTimer && guardedButton) {
+                guardedButton->setEnabled(false);
+                guardedTimer->start();
+            }
+            return code;
+        });
+    });
+    finish(param);
+}
+
+void OrvCamConfigMapper::mapBooleanParam(Boolean *param, QAbstractButton *button)
+{
+    const OrvCamConfigMapData record{MapBooleanButton, button, nullptr};
+    if (!begin(param, {record}))
+        return;
+    show(record, param);
+    QObject::connect(button, &QAbstractButton::clicked, context(), [=](bool checked) {
+        const QString error = tr("Error while setting the %1 boolean value!\r\nError Code: %2");
+        write(button, error, param, [=] { return param->SetValue(checked); });
+    });
+    finish(param);
+}
+
+void OrvCamConfigMapper::mapIntParam(Int *param, QLineEdit *lineEdit)
+{
+    if (!begin(param, {{MapIntLineEdit, lineEdit, nullptr}}))
+        return;
+    showText(param, lineEdit);
+    QObject::connect(lineEdit, &QLineEdit::editingFinished, context(), [=] {
+        bool ok = false;
+        const int value = lineEdit->text().toInt(&ok);
+        if (!ok || !lineEdit->isModified())
+            return;
+        lineEdit->setModified(false); // an error box takes the focus, which finishes once more
+        writeInt(lineEdit, param, value, nullptr);
+    });
+    finish(param);
+}
+
+void OrvCamConfigMapper::showText(Int *param, QLineEdit *lineEdit)
+{
+    int32_t error = OrvCam::Success;
+    const auto *validator = qobject_cast<const QIntValidator *>(lineEdit->validator());
+    const qint64 min = validator ? param->GetMin(&error) : 0;
+    const qint64 max = validator && error == OrvCam::Success ? param->GetMax(&error) : 0;
+    if (validator && error == OrvCam::Success)
+        const_cast<QIntValidator *>(validator)->setRange(ValueGrid::toInt(min),
+                                                         ValueGrid::toInt(qMin(max, m_valueCap)));
+    const qint64 value = param->GetValue(&error);
+    const bool isTyping = lineEdit->hasFocus() && lineEdit->isModified();
+    if (error == OrvCam::Success && !isTyping)
+        lineEdit->setText(QString::number(qMin(value, m_valueCap)));
+}
+
+void OrvCamConfigMapper::mapIntParam(Int *param, QSpinBox *spinBox)
+{
+    if (!begin(param, {{MapIntSpinBox, spinBox, nullptr}}))
+        return;
+    spinBox->setKeyboardTracking(false);
+    showNumber(param, spinBox, nullptr);
+    QObject::connect(spinBox, static_cast<void (QSpinBox::*)(int)>(&QSpinBox::valueChanged),
+                     context(), [=](int value) { writeInt(spinBox, param, value, nullptr); });
+    finish(param);
+}
+
+void OrvCamConfigMapper::mapIntParam(Int *param, QSlider *slider,
+                                     IOrvCamConfigIntConverter *converter)
+{
+    if (!begin(param, {{MapIntSlider, slider, converter}}))
+        return;
+    showNumber(param, slider, converter);
+    QObject::connect(slider, &QSlider::valueChanged, context(), [=](int value) {
+        if (!slider->isSliderDown())
+            writeInt(slider, param, value, converter);
+    });
+    onDragged(
+        slider, [=] { return slider->value(); },
+        [=] { writeInt(slider, param, slider->value(), converter); },
+        [=] { showNumber(param, slider, converter); });
+    finish(param);
+}
+
+void OrvCamConfigMapper::mapIntParam(Int *param, QtOrvSpinBox *spinBox)
+{
+    QVector<QWidget *> none;
+    mapIntParam(param, spinBox, none);
+}
+
+bool OrvCamConfigMapper::mapIntParam(Int *param, QtOrvSpinBox *spinBox,
+                                     QVector<QWidget *> &dependents)
+{
+    Records records{{MapIntOrvSpinBox, spinBox, nullptr}};
+    for (QWidget *dependent : dependents)
+        records.append({MapDependent, dependent, nullptr});
+    if (!begin(param, records))
+        return false;
+    bindCompound(param, spinBox, nullptr);
+    return true;
+}
+
+void OrvCamConfigMapper::mapIntParam(Int *param, QtOrvSliderSpinBox *spinBox,
+                                     IOrvCamConfigIntConverter *converter)
+{
+    if (begin(param, {{MapIntOrvSliderSpinBox, spinBox, converter}}))
+        bindCompound(param, spinBox, converter);
+}
+
+template<class Compound>
+void OrvCamConfigMapper::bindCompound(Int *param, Compound *widget,
+                                      IOrvCamConfigIntConverter *converter)
+{
+    widget->setValidate(true);
+    widget->setValidateTyping(false);
+    showNumber(param, widget, converter);
+    QObject::connect(widget, static_cast<void (Compound::*)(int)>(&Compound::valueChanged),
+                     context(), [=](int value) { writeInt(widget, param, value, converter); });
+    // The widget says nothing about a drag. Its end is announced here, to all who listen.
+    const auto announce = [=] {
+        const int value = widget->spinBox()->doValidation(widget->value());
+        if (value != widget->value()) {
+            widget->setValue(value);
+        } else {
+            emit widget->valueChanged(widget->spinBox()->text());
+            emit widget->valueChanged(value);
+        }
+    };
+    onDragged(
+        widget->slider(), [=] { return widget->value(); }, announce,
+        [=] { showNumber(param, widget, converter); });
+    finish(param);
+}
+
+template<class Slider>
+void OrvCamConfigMapper::onDragged(Slider *slider, const std::function<int()> &value,
+                                   const std::function<void()> &changed,
+                                   const std::function<void()> &unchanged)
+{
+    const auto atPress = std::make_shared<int>(0);
+    QObject::connect(slider, &Slider::sliderPressed, context(), [=] { *atPress = value(); });
+    // A slider that is disabled under the user's hand is released as well.
+    QObject::connect(slider, &Slider::sliderReleased, context(), [=] {
+        if (slider->isEnabled() && value() != *atPress)
+            changed();
+        else
+            unchanged();
+    });
+}
+
+template<class Widget>
+void OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
+                                    IOrvCamConfigIntConverter *converter)
+{
+    if (HeldInput::isDrag(widget))
+        return; // its end shows or writes the value
+
+    const auto shown = [=](int64_t number) {
+        return converter ? converter->ToControl(static_cast<long>(number), param) : number;
+    };
+    const auto capped = [=](qint64 number) { return ValueGrid::toInt(qMin(number, m_valueCap)); };
+
+    // All is read before anything is shown: what listens to the widget may write.
+    int32_t limitsError = OrvCam::Success;
+    int32_t maxError = OrvCam::Success;
+    int32_t valueError = OrvCam::Success;
+    const int min = ValueGrid::toInt(qint64(shown(param->GetMin(&limitsError))));
+    const int max = capped(shown(param->GetMax(&maxError)));
+    const int step = ValueGrid::toInt(qint64(shown(param->GetInc())));
+    const int value = capped(shown(param->GetValue(&valueError)));
+
+    const Showing showing(*this, widget);
+    if (limitsError == OrvCam::Success && maxError == OrvCam::Success) {
+        // Setting what is set already would end a step that the user holds, or undo their typing.
+        if (widget->minimum() != min || widget->maximum() != max)
+            widget->setRange(min, max);
+        const int validStep = step ? step : 1;
+        if (!showing.isOver() && widget->singleStep() != validStep)
+            widget->setSingleStep(validStep);
+    }
+    if (valueError == OrvCam::Success && !showing.isOver() && widget->value() != value)
+        widget->setValue(value);
+}
+
+void OrvCamConfigMapper::updateSpinBox(Int *param, QtOrvSpinBox *spinBox)
+{
+    showNumber(param, spinBox, nullptr);
+}
+
+void OrvCamConfigMapper::updateSliderSpinBox(Int *param, QtOrvSliderSpinBox *spinBox,
+                                             IOrvCamConfigIntConverter *converter)
+{
+    showNumber(param, spinBox, converter);
+}
+
+void OrvCamConfigMapper::showBoundTo(const QObject *control)
+{
+    for (auto it = m_bindings.constBegin(); it != m_bindings.constEnd(); ++it) {
+        const Records records = it.value();
+        for (const OrvCamConfigMapData &record : records) {
+            if (record.control != control && groupOf(record) != control)
+                continue;
+            show(record, m_params.value(it.key()));
+            return;
+        }
+    }
+}
+
+void OrvCamConfigMapper::show(const OrvCamConfigMapData &record, Param *param)
+{
+    QWidget *control = record.control;
+    switch (record.type) {
+    case MapEnumComboBox:
+        return with<Enum, QComboBox>(param, control,
+                                     [=](auto *p, auto *widget) { updateComboBox(p, widget); });
+    case MapEnumCheckBox:
+        return with<Enum, QCheckBox>(param, control, [](auto *p, auto *widget) {
+            int32_t error = OrvCam::Success;
+            const bool on = p->GetIntValue(&error) != 0;
+            if (error == OrvCam::Success)
+                widget->setChecked(on);
+        });
+    case MapEnumButtons:
+        return with<Enum, QButtonGroup>(param, groupOf(record), [=](auto *p, auto *buttons) {
+            updateRadioButtons(p, buttons);
+        });
+    case MapEnumTabs:
+        return with<Enum, QTabWidget>(param, control,
+                                      [=](auto *p, auto *widget) { updateTabWidget(p, widget); });
+    case MapBooleanButton:
+        return with<Boolean, QAbstractButton>(param, control, [](auto *p, auto *widget) {
+            int32_t error = OrvCam::Success;
+            const bool on = p->GetValue(&error);
+            if (error == OrvCam::Success)
+                widget->setChecked(on);
+        });
+    case MapIntLineEdit:
+        return with<Int, QLineEdit>(param, control,
+                                    [=](auto *p, auto *widget) { showText(p, widget); });
+    case MapIntSpinBox:
+        return with<Int, QSpinBox>(param, control,
+                                   [=](auto *p, auto *widget) { showNumber(p, widget, nullptr); });
+    case MapIntOrvSpinBox:
+        return with<Int, QtOrvSpinBox>(param, control,
+                                       [=](auto *p, auto *widget) { updateSpinBox(p, widget); });
+    case MapIntSlider:
+        return with<Int, QSlider>(param, control, [&](auto *p, auto *widget) {
+            showNumber(p, widget, converterOf(record));
+        });
+    case MapIntOrvSliderSpinBox:
+        return with<Int, QtOrvSliderSpinBox>(param, control, [&](auto *p, auto *widget) {
+            updateSliderSpinBox(p, widget, converterOf(record));
+        });
+    default:
+        return; // commands and dependents show no value
+    }
+}
+
+} // namespace OrvGui

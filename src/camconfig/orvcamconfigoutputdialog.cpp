@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "orvcamconfigoutputdialog.h"
+
+#include "formfit.h"
+#include "orvcamconfigdialog_p.h"
+#include "ui_orvcamconfigoutputdialog.h"
+
+namespace OrvGui {
+
+class OrvCamConfigOutputDialogPrivate : public OrvCamConfigDialogPrivate
+{
+public:
+    void prepareToShow() override;
+
+protected:
+    void buildForm() override;
+    void bind() override;
+
+private:
+    Ui_OrvCamConfigOutputDialog ui;
+};
+
+void OrvCamConfigOutputDialogPrivate::buildForm()
+{
+    ui.setupUi(q);
+    for (QtOrvSpinBox *spinBox : {ui.spBoxDpcDynThres, ui.spBoxHpcDynThres})
+        spinBox->setLeftLabelText(OrvCamConfigOutputDialog::tr("Dyn.Thres.:"));
+    FormFit::align({ui.label_3, ui.label_4});
+}
+
+void OrvCamConfigOutputDialogPrivate::bind()
+{
+    bindEnum("PixelFormat", ui.cmBoxPixelFormat);
+    bindEnum("SensorADCBitDepth11", ui.cmBoxTaps); // the name that cameras give to their taps
+    bindEnum("SensorADCBitDepth", ui.cmBoxDepth);
+    bindEnum("TestImageSelector", ui.cmBoxTestMode);
+    bindEnum("LUTSelector", ui.cmBoxLut);
+    bindEnum("DefectPixelCorrection", ui.cmBoxDpc);
+    bindEnum("HotPixelCorrection", ui.cmBoxHpc);
+    bindInt("DefectPixelThreshold", ui.spBoxDpcDynThres);
+    bindInt("HotPixelThreshold", ui.spBoxHpcDynThres);
+    bindBoolean("LUTEnable", ui.chBoxEnableLut);
+    bindBoolean("ReverseX", ui.chBoxHorMirror);
+    bindBoolean("ReverseY", ui.chBoxVerMirror);
+}
+
+void OrvCamConfigOutputDialogPrivate::prepareToShow()
+{
+    FormFit::fitUprightSlider(ui.spBoxDpcDynThres);
+    FormFit::fitUprightSlider(ui.spBoxHpcDynThres);
+}
+
+OrvCamConfigOutputDialog::OrvCamConfigOutputDialog(OrvCam::Device *device, QWidget *parent)
+    : OrvCamConfigDialog(new OrvCamConfigOutputDialogPrivate, device, parent)
+{
+}
+
+} // namespace OrvGui

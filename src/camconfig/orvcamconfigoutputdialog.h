@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "orvcamconfigdialog.h"
+
+namespace OrvGui {
+
+/// Sets up the image data of a camera: its format, what the camera does to the pixels, and the test
+/// pattern.
+/// See `OrvCamConfigDialog` for the rest.
+class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOutputDialog : public OrvCamConfigDialog
+{
+    Q_OBJECT
+
+public:
+    explicit OrvCamConfigOutputDialog(OrvCam::Device *device, QWidget *parent = nullptr);
+};
+
+} // namespace OrvGui

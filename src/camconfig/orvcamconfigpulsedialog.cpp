@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "orvcamconfigpulsedialog.h"
+
+#include "orvcamconfigdialog_p.h"
+#include "qtorvslider.h"
+#include "ui_orvcamconfigpulsedialog.h"
+
+#include <QButtonGroup>
+
+namespace OrvGui {
+
+namespace {
+
+const double microsecondsPerSecond = 1e6;
+
+QString microsecondsSuffix()
+{
+    return OrvCamConfigPulseDialog::tr(" [%1s]:").arg(QChar(0x03BC));
+}
+
+int textWidth(const QWidget *widget, const QString &text)
+{
+    return widget->fontMetrics().boundingRect(text).width();
+}
+
+void fitSlider(QtOrvSpinBox *spinBox)
+{
+    const QLabel *label = spinBox->leftLabel();
+    spinBox->resizeSlider(spinBox->width() - (label ? label->width() : 0), spinBox->height());
+}
+
+} // namespace
+
+class OrvCamConfigPulseDialogPrivate : public OrvCamConfigDialogPrivate
+{
+public:
+    void prepareToShow() override;
+
+protected:
+    void buildForm() override;
+    void bind() override;
+
+private:
+    void initSpinBoxes();
+    void initButton();
+    void setButtonState(bool isRunning);
+    void showDerivedValues();
+
+    Ui_OrvCamConfigPulseDialog ui;
+    QButtonGroup *modeButtons = nullptr;
+};
+
+void OrvCamConfigPulseDialogPrivate::buildForm()
+{
+    ui.setupUi(q);
+    for (QLabel *label : {ui.lblPeriod, ui.lblWidth, ui.lblDelay})
+        label->setText(label->text() + microsecondsSuffix());
+
+    modeButtons = new QButtonGroup(q);
+    modeButtons->addButton(ui.radioBtnContinious);
+    modeButtons->addButton(ui.radioBtnSend);
+
+    const int width = textWidth(ui.lineEditFreq, QStringLiteral("1000000000.00000000"));
+    ui.lineEditDelay->setMaximumWidth(width);
+    ui.lineEditFreq->setMaximumWidth(width);
+}
+
+void OrvCamConfigPulseDialogPrivate::bind()
+{
+    bindEnum("PulseGenGranularity", ui.cmBoxGranularity);
+    initSpinBoxes();
+    bindEnum("PulseGenMode", modeButtons);
+    initButton();
+    showDerivedValues();
+    setButtonState(ui.pushBtnPulseEnable->isChecked());
+}
+
+void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
+{
+    const auto valueChanged = static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged);
+
+    ui.spBoxPeriod->slider()->setScaleType(QtOrvSlider::ScaleLog10);
+    ui.spBoxPeriod->setSliderOrientation(Qt::Horizontal);
+    bindInt("PulseGenPeriod", ui.spBoxPeriod);
+    on(ui.spBoxPeriod, valueChanged, [this] { showDerivedValues(); });
+
+    ui.spBoxWidth->slider()->setScaleType(QtOrvSlider::ScaleLog10);
+    ui.spBoxWidth->setSliderOrientation(Qt::Horizontal);
+    bindInt("PulseGenWidth", ui.spBoxWidth);
+    on(ui.spBoxWidth, valueChanged, [this] { showDerivedValues(); });
+
+    ui.spBoxNumPulses->setSliderOrientation(Qt::Horizontal);
+    bindInt("PulseGenNumPulses", ui.spBoxNumPulses);
+}
+
+void OrvCamConfigPulseDialogPrivate::initButton()
+{
+    bindBoolean("PulseGenEnable", ui.pushBtnPulseEnable);
+    on(ui.pushBtnPulseEnable, &QPushButton::clicked,
+       [this](bool isRunning) { setButtonState(isRunning); });
+}
+
+void OrvCamConfigPulseDialogPrivate::setButtonState(bool isRunning)
+{
+    // A new text brings a new shortcut, none in this case.
+    const QKeySequence shortcut = ui.pushBtnPulseEnable->shortcut();
+    ui.pushBtnPulseEnable->setText(isRunning ? OrvCamConfigPulseDialog::tr("Stop")
+                                             : OrvCamConfigPulseDialog::tr("Start"));
+    ui.pushBtnPulseEnable->setShortcut(shortcut);
+    ui.lblPulseEnable->setPixmap(QPixmap(isRunning ? QStringLiteral(":/icons/res/greenball.ico")
+                                                   : QStringLiteral(":/icons/res/redball.ico")));
+}
+
+void OrvCamConfigPulseDialogPrivate::showDerivedValues()
+{
+    const int period = ui.spBoxPeriod->value();
+    ui.lineEditDelay->setText(QString::number(qint64(period) - ui.spBoxWidth->value()));
+    const double frequency = period == 0 ? 0.0 : microsecondsPerSecond / period;
+    ui.lineEditFreq->setText(QString::number(frequency, 'f', 6));
+}
+
+void OrvCamConfigPulseDialogPrivate::prepareToShow()
+{
+    for (QtOrvSpinBox *spinBox : {ui.spBoxPeriod, ui.spBoxWidth, ui.spBoxNumPulses})
+        fitSlider(spinBox);
+    const int side = ui.pushBtnPulseEnable->height();
+    ui.lblPulseEnable->setMaximumHeight(side);
+    ui.lblPulseEnable->setMaximumWidth(side);
+}
+
+OrvCamConfigPulseDialog::OrvCamConfigPulseDialog(OrvCam::Device *device, QWidget *parent)
+    : OrvCamConfigDialog(new OrvCamConfigPulseDialogPrivate, device, parent)
+{
+}
+
+} // namespace OrvGui

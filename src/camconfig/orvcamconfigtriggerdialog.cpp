@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "orvcamconfigtriggerdialog.h"
+
+#include "orvcamconfigdialog_p.h"
+#include "ui_orvcamconfigtriggerdialog.h"
+
+namespace OrvGui {
+
+class OrvCamConfigTriggerDialogPrivate : public OrvCamConfigDialogPrivate
+{
+protected:
+    void buildForm() override { ui.setupUi(q); }
+    void bind() override;
+
+private:
+    void enableChoices();
+    void enableSoftwareTrigger();
+
+    Ui_OrvCamConfigTriggerDialog ui;
+};
+
+void OrvCamConfigTriggerDialogPrivate::bind()
+{
+    bindEnum("TriggerMode", ui.chBoxTriggerEnable);
+    on(ui.chBoxTriggerEnable, &QCheckBox::stateChanged, [this] { enableChoices(); });
+    bindEnum("TriggerSource", ui.cmBoxTriggerSource);
+    on(ui.cmBoxTriggerSource,
+       static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged),
+       [this] { enableSoftwareTrigger(); });
+    bindEnum("TriggerActivation", ui.cmBoxTriggerEdge);
+    bindEnum("TriggerDebounce", ui.cmBoxTriggerDebounce);
+    bindCommand("TriggerSoftware", ui.pushBtnSoftwareTrigger, nullptr);
+    enableChoices();
+}
+
+void OrvCamConfigTriggerDialogPrivate::enableChoices()
+{
+    const bool isOn = ui.chBoxTriggerEnable->isChecked();
+    ui.cmBoxTriggerSource->setEnabled(isOn);
+    ui.cmBoxTriggerEdge->setEnabled(isOn);
+    ui.cmBoxTriggerDebounce->setEnabled(isOn);
+    enableSoftwareTrigger();
+}
+
+void OrvCamConfigTriggerDialogPrivate::enableSoftwareTrigger()
+{
+    ui.pushBtnSoftwareTrigger->setEnabled(ui.chBoxTriggerEnable->isChecked() &&
+                                          ui.cmBoxTriggerSource->currentText() ==
+                                              QLatin1String("Software"));
+}
+
+OrvCamConfigTriggerDialog::OrvCamConfigTriggerDialog(OrvCam::Device *device, QWidget *parent)
+    : OrvCamConfigDialog(new OrvCamConfigTriggerDialogPrivate, device, parent)
+{
+}
+
+} // namespace OrvGui

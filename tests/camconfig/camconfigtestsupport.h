@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvCam.h>
+#include <aravis/nodemap.h>
+#include <cameraapi/nodemaparray.h>
+#include <simulation/simulatedcamera.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <memory>
+
+/// Where the handle of the slider is, to be pressed and dragged.
+inline QPoint handleOf(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = slider->orientation();
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = option.sliderValue = slider->value();
+    option.upsideDown = slider->orientation() == Qt::Vertical;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
+/// Drags with the left button, by as many steps as there are between the points.
+inline void dragBy(
+    QSlider *slider, QPoint from, QPoint step, int count,
+    const std::function<void()> &afterEach = [] {})
+{
+    QTest::mousePress(slider, Qt::LeftButton, {}, from);
+    for (int i = 1; i <= count; ++i) {
+        QMouseEvent move(QEvent::MouseMove, from + i * step, Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(slider, &move);
+        afterEach();
+    }
+}
+
+/// Closes the error boxes that appear, as a user would, and keeps their texts. With a `patience`,
+/// each is left open for so long (ms), in which whatever happens by itself can happen.
+class ErrorBoxes : public QObject
+{
+public:
+    explicit ErrorBoxes(int patience = 0)
+    {
+        m_timer.setInterval(2);
+        connect(&m_timer, &QTimer::timeout, this, [=] { look(patience); });
+        m_timer.start();
+    }
+
+    QStringList texts;
+    std::function<void()> meanwhile = [] {}; ///< called while a box is open
+
+private:
+    void look(int patience)
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || box->property("seen").toBool())
+            return;
+        box->setProperty("seen", true);
+        if (box->windowTitle() != QString() || box->icon() != QMessageBox::Critical ||
+            box->standardButtons() != QMessageBox::Ok || box->parent())
+            qFatal("Not the error box that was agreed upon");
+        texts << box->text();
+        meanwhile();
+        QTimer::singleShot(patience, box, &QDialog::accept);
+    }
+
+    QTimer m_timer;
+};
+
+/// A device with the parameters of a node map, or with none but an error.
+class NodeMapDevice : public OrvCam::Device
+{
+public:
+    explicit NodeMapDevice(GenApi::INodeMap &nodeMap)
+        : array(new OrvGenParam::NodeMapArray(nodeMap))
+    {
+    }
+
+    OrvGenParam::Array *GetParamArray(int32_t *code) override
+    {
+        ++asked;
+        *code = error;
+        return array.get();
+    }
+    bool IsConnected() const override { return array != nullptr; }
+    OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
+    int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    void Release() override
+    {
+        if (array)
+            array->detach(OrvCam::ErrorGone);
+        array.reset();
+    }
+
+    std::unique_ptr<OrvGenParam::NodeMapArray> array;
+    int32_t error = OrvCam::Success;
+    int asked = 0;
+};
+
+/// A camera as its node map knows it.
+struct DescribedDevice
+{
+    explicit DescribedDevice(std::unique_ptr<OrvAravis::NodeMap> nodeMap)
+        : map(std::move(nodeMap)), device(*map)
+    {
+    }
+
+    /// Changes a feature as another client would, whose changes the camera reports.
+    void set(const QByteArray &feature, const QByteArray &value)
+    {
+        try {
+            GenApi::CValuePtr(map->GetNode(feature.constData()))->FromString(value.constData());
+        } catch (const GenICam::GenericException &e) {
+            QTest::qFail(e.what(), __FILE__, __LINE__);
+        }
+    }
+    QString get(const QByteArray &feature) const
+    {
+        return GenApi::CValuePtr(map->GetNode(feature.constData()))->ToString().c_str();
+    }
+
+    /// Of anybody to the camera, since its beginning.
+    quint64 writes() const { return map->transactions().writes; }
+
+    std::unique_ptr<OrvAravis::NodeMap> map;
+    NodeMapDevice device;
+};
+
+struct SimulatedDeviceCamera
+{
+    OrvSimulation::SimulatedCamera camera;
+};
+
+/// The simulated camera as a device, with all that it takes.
+struct SimulatedDevice : SimulatedDeviceCamera, DescribedDevice
+{
+    SimulatedDevice() : DescribedDevice(OrvAravis::NodeMap::open(camera.device())) {}
+};

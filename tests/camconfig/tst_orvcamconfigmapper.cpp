@@ -1,0 +1,1162 @@
+// SPDX-License-Identifier: MIT
+#include "camconfigtestsupport.h"
+
+#include <genapi/memorynodemap.h>
+#include <iorvcamconfigintconverter.h>
+#include <orvcamconfigmapper.h>
+#include <qtorvslider.h>
+#include <qtorvsliderspinbox.h>
+#include <qtorvspinbox.h>
+#include <qtorvspinboxval.h>
+
+using namespace OrvGenApi;
+using namespace OrvGui;
+
+namespace {
+
+/// A camera with a feature of each kind that can be bound. Not all names are ASCII.
+struct Camera
+{
+    Camera()
+        : number(map.addInteger("Länge", 5))
+        , choice(map.addEnumeration("Quelle", {{"Aus", 0}, {"Größe", 1}, {"Auto", 2}}))
+        , flag(map.addBoolean("Spiegel"))
+        , command(map.addCommand("Auslösen"))
+    {
+        number.setLimits(0, 10);
+        array = std::make_unique<OrvGenParam::NodeMapArray>(map);
+    }
+
+    MemoryNodeMap map;
+    MemoryInteger &number;
+    MemoryEnumeration &choice;
+    MemoryBoolean &flag;
+    MemoryCommand &command;
+    std::unique_ptr<OrvGenParam::NodeMapArray> array;
+};
+
+const char intText[] = "Error while setting the Länge integer value!\r\nError Code: %1";
+const char enumText[] = "Error while setting the Quelle enumeration value!\r\nError Code: %1";
+const char booleanText[] = "Error while setting the Spiegel boolean value!\r\nError Code: %1";
+const char commandText[] = "Error while executing the Auslösen command!\r\nError Code: %1";
+
+/// A widget that can be bound to its kind of feature, and how a user works with it. Each starts at
+/// one value and is edited to the next.
+class Control
+{
+public:
+    virtual ~Control() = default;
+    virtual void map(OrvCamConfigMapper &mapper, OrvGenParam::Array *array) = 0;
+    virtual void edit() = 0;
+    virtual qint64 shown() const = 0;
+    virtual QWidget *widget() const { return m_widget.data(); }
+    virtual void destroy() { delete m_widget.data(); }
+
+    const char *errorText = intText;
+    qint64 first = 5;
+    qint64 edited = 6;
+    qint64 changed = 8; ///< to what the camera changes it
+
+protected:
+    template<class T>
+    T *own(T *widget)
+    {
+        m_widget = widget;
+        return widget;
+    }
+
+private:
+    QPointer<QWidget> m_widget;
+};
+
+class EnumControl : public Control
+{
+public:
+    EnumControl()
+    {
+        errorText = enumText;
+        first = 0;
+        edited = 1;
+        changed = 2;
+    }
+};
+
+class Combo : public EnumControl
+{
+public:
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapEnumParam(a ? a->GetEnum("Quelle") : nullptr, combo);
+    }
+    void edit() override { QTest::keyClick(combo, Qt::Key_Down); }
+    qint64 shown() const override { return combo->currentIndex(); }
+    QComboBox *combo = own(new QComboBox);
+};
+
+class Check : public EnumControl
+{
+public:
+    Check() { changed = 1; }
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapEnumParam(a ? a->GetEnum("Quelle") : nullptr, check);
+    }
+    void edit() override { QTest::keyClick(check, Qt::Key_Space); }
+    qint64 shown() const override { return check->isChecked(); }
+    QCheckBox *check = own(new QCheckBox);
+};
+
+class Buttons : public EnumControl
+{
+public:
+    Buttons()
+    {
+        auto *layout = new QVBoxLayout(box);
+        for (int i = 0; i < 4; ++i) {
+            auto *button = new QRadioButton;
+            layout->addWidget(button);
+            group->addButton(button);
+        }
+        box->show();
+    }
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapEnumParam(a ? a->GetEnum("Quelle") : nullptr, group);
+    }
+    void edit() override { QTest::keyClick(group->button(1), Qt::Key_Space); }
+    qint64 shown() const override { return group->checkedId(); }
+    QWidget *widget() const override { return group->buttons().value(1); }
+    QWidget *box = own(new QWidget);
+    QButtonGroup *group = new QButtonGroup(box);
+};
+
+class Tabs : public EnumControl
+{
+public:
+    Tabs()
+    {
+        for (int i = 0; i < 4; ++i)
+            tabs->addTab(new QWidget, QString());
+    }
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapEnumParam(a ? a->GetEnum("Quelle") : nullptr, tabs);
+    }
+    void edit() override { QTest::keyClick(tabs->tabBar(), Qt::Key_Right); }
+    qint64 shown() const override { return tabs->currentIndex(); }
+    QTabWidget *tabs = own(new QTabWidget);
+};
+
+class CommandButton : public Control
+{
+public:
+    CommandButton()
+    {
+        errorText = commandText;
+        first = edited = changed = 0;
+    }
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapCommandParam(a ? a->GetCommand("Auslösen") : nullptr, button, nullptr);
+    }
+    void edit() override { QTest::keyClick(button, Qt::Key_Space); }
+    qint64 shown() const override { return 0; }
+    QPushButton *button = own(new QPushButton);
+};
+
+class BooleanButton : public Control
+{
+public:
+    BooleanButton()
+    {
+        errorText = booleanText;
+        first = 0;
+        edited = changed = 1;
+        button->setCheckable(true);
+    }
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapBooleanParam(a ? a->GetBoolean("Spiegel") : nullptr, button);
+    }
+    void edit() override { QTest::keyClick(button, Qt::Key_Space); }
+    qint64 shown() const override { return button->isChecked(); }
+    QPushButton *button = own(new QPushButton);
+};
+
+class LineEdit : public Control
+{
+public:
+    LineEdit() { edit_->setValidator(new QIntValidator(edit_)); }
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        m.mapIntParam(a ? a->GetInt("Länge") : nullptr, edit_);
+    }
+    void edit() override
+    {
+        edit_->selectAll();
+        QTest::keyClicks(edit_, QStringLiteral("6"));
+        QTest::keyClick(edit_, Qt::Key_Return);
+    }
+    qint64 shown() const override { return edit_->text().toLongLong(); }
+    QLineEdit *edit_ = own(new QLineEdit);
+};
+
+/// The integer widgets, whose `part` takes the key.
+template<class Widget>
+class Number : public Control
+{
+public:
+    explicit Number(QWidget *(*part)(Widget *)) : m_part(part) {}
+    void map(OrvCamConfigMapper &m, OrvGenParam::Array *a) override
+    {
+        bind(m, a ? a->GetInt("Länge") : nullptr, number);
+    }
+    void edit() override { QTest::keyClick(m_part(number), Qt::Key_Up); }
+    qint64 shown() const override { return number->value(); }
+    Widget *number = own(new Widget);
+
+private:
+    static void bind(OrvCamConfigMapper &m, OrvGenParam::Int *p, QSpinBox *w)
+    {
+        m.mapIntParam(p, w);
+    }
+    static void bind(OrvCamConfigMapper &m, OrvGenParam::Int *p, QtOrvSpinBox *w)
+    {
+        m.mapIntParam(p, w);
+    }
+    template<class Slider>
+    static void bind(OrvCamConfigMapper &m, OrvGenParam::Int *p, Slider *w)
+    {
+        m.mapIntParam(p, w, nullptr);
+    }
+
+    QWidget *(*m_part)(Widget *);
+};
+
+using Make = std::function<std::unique_ptr<Control>()>;
+
+template<class T>
+Make makeNumber(QWidget *(*part)(T *))
+{
+    return [=] { return std::make_unique<Number<T>>(part); };
+}
+
+void throwRefusal()
+{
+    throw GenICam::AccessException("no", __FILE__, __LINE__);
+}
+
+/// Does something to the feature that the control is bound to, whichever it is.
+template<class Function>
+auto feature(Camera &camera, const Control &control, Function function)
+{
+    if (control.errorText == booleanText)
+        return function(camera.flag);
+    if (control.errorText == commandText)
+        return function(camera.command);
+    if (control.errorText == enumText)
+        return function(camera.choice);
+    return function(camera.number);
+}
+
+void changeTo(MemoryBoolean &node, qint64 value)
+{
+    node.change(value != 0);
+}
+void changeTo(MemoryCommand &node, qint64)
+{
+    node.changed();
+}
+template<class Node>
+void changeTo(Node &node, qint64 value)
+{
+    node.change(value);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Make)
+
+class TestOrvCamConfigMapper : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void bothDirections_data() { controls(); }
+    void bothDirections();
+    void accessModes_data() { controls(); }
+    void accessModes();
+    void refusedWrites_data() { controls(); }
+    void refusedWrites();
+    void failingReads_data() { controls(); }
+    void failingReads();
+    void mappingAgain_data() { controls(); }
+    void mappingAgain();
+    void lifetimes_data() { controls(); }
+    void lifetimes();
+    void limits_data();
+    void limits();
+    void converters();
+    void dependents();
+    void entries();
+    void nullEntries();
+    void commandTimer();
+    void camerasAreNotMixedUp();
+    void fromInside();
+    void noGlitchesAndNoEcho();
+    void typingIsLeftAlone();
+    void drags_data();
+    void drags();
+    void heldWhenRefused_data();
+    void heldWhenRefused();
+
+private:
+    void controls();
+
+    OrvCamConfigMapper m_mapper;
+};
+
+void TestOrvCamConfigMapper::controls()
+{
+    QTest::addColumn<Make>("make");
+    QTest::newRow("combo box") << Make([] { return std::make_unique<Combo>(); });
+    QTest::newRow("check box") << Make([] { return std::make_unique<Check>(); });
+    QTest::newRow("buttons") << Make([] { return std::make_unique<Buttons>(); });
+    QTest::newRow("tabs") << Make([] { return std::make_unique<Tabs>(); });
+    QTest::newRow("command") << Make([] { return std::make_unique<CommandButton>(); });
+    QTest::newRow("boolean") << Make([] { return std::make_unique<BooleanButton>(); });
+    QTest::newRow("line edit") << Make([] { return std::make_unique<LineEdit>(); });
+    QTest::newRow("spin box") << makeNumber<QSpinBox>([](QSpinBox *w) -> QWidget * { return w; });
+    QTest::newRow("spin box with slider")
+        << makeNumber<QtOrvSpinBox>([](QtOrvSpinBox *w) -> QWidget * { return w->spinBox(); });
+    QTest::newRow("slider") << makeNumber<QSlider>([](QSlider *w) -> QWidget * { return w; });
+    QTest::newRow("slider and spin box") << makeNumber<QtOrvSliderSpinBox>(
+        [](QtOrvSliderSpinBox *w) -> QWidget * { return w->slider()->slider(); });
+}
+
+void TestOrvCamConfigMapper::bothDirections()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    const auto control = make();
+    const auto writes = [&] {
+        return feature(camera, *control, [](auto &n) { return n.writes(); });
+    };
+    // As a dialog that is given the same camera again and again does.
+    for (int i = 0; i < 10; ++i) {
+        mapper.unmapAll();
+        QVERIFY(!control->widget()->isEnabled() || i == 0);
+        control->map(mapper, camera.array.get());
+    }
+    QVERIFY(control->widget()->isEnabled());
+    QCOMPARE(control->shown(), control->first);
+    QCOMPARE(writes(), 0);
+
+    control->edit();
+    QCOMPARE(writes(), 1);
+    QCOMPARE(control->shown(), control->edited);
+
+    feature(camera, *control, [&](auto &node) { changeTo(node, control->changed); });
+    QCOMPARE(control->shown(), control->changed);
+    QCOMPARE(writes(), 1);
+
+    // What two mappers show is the same, whoever changes it.
+    OrvCamConfigMapper another;
+    const auto twin = make();
+    twin->map(another, camera.array.get());
+    feature(camera, *control, [&](auto &node) { changeTo(node, control->first); });
+    twin->edit();
+    QCOMPARE(control->shown(), control->edited);
+    QCOMPARE(writes(), 2);
+    mapper.unmapAll();
+    QVERIFY(!control->widget()->isEnabled() && twin->widget()->isEnabled());
+    twin->destroy();
+    control->destroy();
+}
+
+void TestOrvCamConfigMapper::accessModes()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    const auto setAccess = [&](const Control &control, GenApi::EAccessMode mode) {
+        feature(camera, control, [=](auto &node) { node.setAccessMode(mode); });
+    };
+    OrvCamConfigMapper mapper;
+    const auto control = make();
+    control->map(mapper, nullptr);
+    QVERIFY(!control->widget()->isEnabled());
+
+    // Read-only, the state stays as it stands until the camera says something.
+    setAccess(*control, GenApi::RO);
+    control->map(mapper, camera.array.get());
+    QVERIFY(!control->widget()->isEnabled());
+    mapper.unmapAll();
+    setAccess(*control, GenApi::RW);
+    control->map(mapper, camera.array.get());
+    QVERIFY(control->widget()->isEnabled());
+    setAccess(*control, GenApi::RO);
+    QVERIFY(!control->widget()->isEnabled());
+
+    setAccess(*control, GenApi::RW);
+    QVERIFY(control->widget()->isEnabled());
+    setAccess(*control, GenApi::NA);
+    QVERIFY(!control->widget()->isEnabled());
+
+    // Write-only: nothing is read, but it can be set.
+    const int reads = feature(camera, *control, [](auto &node) { return node.reads(); });
+    setAccess(*control, GenApi::WO);
+    QVERIFY(control->widget()->isEnabled());
+    QCOMPARE(feature(camera, *control, [](auto &node) { return node.reads(); }), reads);
+    control->edit();
+    QCOMPARE(feature(camera, *control, [](auto &node) { return node.writes(); }), 1);
+
+    mapper.unmapAll();
+    setAccess(*control, GenApi::NA);
+    control->widget()->setEnabled(true);
+    control->map(mapper, camera.array.get());
+    QVERIFY(!control->widget()->isEnabled());
+    setAccess(*control, GenApi::RW);
+    QVERIFY(control->widget()->isEnabled());
+
+    // A camera that goes takes every feature with it.
+    camera.array->detach(OrvCam::ErrorGone);
+    QVERIFY(!control->widget()->isEnabled());
+    control->destroy();
+}
+
+void TestOrvCamConfigMapper::refusedWrites()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    const auto control = make();
+    control->map(mapper, camera.array.get());
+    feature(camera, *control, [](auto &node) { node.onWrite(throwRefusal); });
+
+    ErrorBoxes boxes;
+    control->edit();
+    QCOMPARE(boxes.texts, QStringList(QString::fromUtf8(control->errorText).arg(-5)));
+    QCOMPARE(control->shown(), control->edited);
+    QVERIFY(control->widget()->isEnabled());
+    feature(camera, *control, [](auto &node) { node.changed(); });
+    QCOMPARE(control->shown(), control->first);
+
+    // It works as soon as the camera does; other failures have other codes.
+    feature(camera, *control, [](auto &node) { node.onWrite({}); });
+    control->edit();
+    QCOMPARE(control->shown(), control->edited);
+    QCOMPARE(feature(camera, *control, [](auto &node) { return node.writes(); }), 2);
+    feature(camera, *control, [&](auto &node) {
+        changeTo(node, control->first);
+        node.setAccessMode(GenApi::NA);
+    });
+    control->widget()->setEnabled(true);
+    boxes.texts.clear();
+    control->edit();
+    QCOMPARE(boxes.texts, QStringList(QString::fromUtf8(control->errorText).arg(-4)));
+
+    // The camera changes by itself what it lets nobody else change.
+    feature(camera, *control, [&](auto &node) { node.setAccessMode(GenApi::RO); });
+    feature(camera, *control, [&](auto &node) { changeTo(node, control->changed); });
+    QCOMPARE(control->shown(), control->changed);
+    QTest::qWait(20);
+    QCOMPARE(boxes.texts.size(), 1);
+    control->destroy();
+}
+
+void TestOrvCamConfigMapper::failingReads()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    const auto control = make();
+    control->map(mapper, camera.array.get());
+    ErrorBoxes boxes;
+    feature(camera, *control, [](auto &node) {
+        node.onRead([] { throw GenICam::TimeoutException("late", __FILE__, __LINE__); });
+        node.changed();
+    });
+    QCOMPARE(control->shown(), control->first);
+    QVERIFY(control->widget()->isEnabled());
+    feature(camera, *control, [&](auto &node) {
+        node.onRead({});
+        changeTo(node, control->changed);
+    });
+    QCOMPARE(control->shown(), control->changed);
+    QTest::qWait(20);
+    QCOMPARE(boxes.texts, QStringList());
+    control->destroy();
+}
+
+void TestOrvCamConfigMapper::mappingAgain()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    const auto former = make();
+    const auto present = make();
+    former->map(mapper, camera.array.get());
+    present->map(mapper, camera.array.get());
+    QVERIFY(!former->widget()->isEnabled() && present->widget()->isEnabled());
+
+    feature(camera, *present, [&](auto &node) { changeTo(node, present->changed); });
+    QCOMPARE(former->shown(), former->first);
+    feature(camera, *present, [&](auto &node) { changeTo(node, present->first); });
+    former->widget()->setEnabled(true);
+    former->edit();
+    QCOMPARE(feature(camera, *present, [](auto &node) { return node.writes(); }), 0);
+    present->edit();
+    QCOMPARE(feature(camera, *present, [](auto &node) { return node.writes(); }), 1);
+    former->destroy();
+    present->destroy();
+}
+
+void TestOrvCamConfigMapper::lifetimes()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    const auto writes = [&](const Control &control) {
+        return feature(camera, control, [](auto &node) { return node.writes(); });
+    };
+    auto mapper = std::make_unique<OrvCamConfigMapper>();
+    auto control = make();
+    control->map(*mapper, camera.array.get());
+
+    // The mapper goes first: the widget is just a widget.
+    mapper.reset();
+    feature(camera, *control, [&](auto &node) { changeTo(node, control->changed); });
+    QCOMPARE(control->shown(), control->first);
+    control->edit();
+    QCOMPARE(writes(*control), 0);
+    control->destroy();
+
+    // The widget goes first.
+    mapper = std::make_unique<OrvCamConfigMapper>();
+    control = make();
+    control->map(*mapper, camera.array.get());
+    control->destroy();
+    feature(camera, *control, [&](auto &node) { changeTo(node, control->first); });
+    mapper->unmapAll();
+
+    // The camera goes first.
+    control = make();
+    control->map(*mapper, camera.array.get());
+    camera.array.reset();
+    mapper->unmapAll();
+    Camera next;
+    control->map(*mapper, next.array.get());
+    control->edit();
+    QCOMPARE(feature(next, *control, [](auto &node) { return node.writes(); }), 1);
+    next.array.reset();
+    mapper.reset();
+    control->destroy();
+}
+
+void TestOrvCamConfigMapper::limits_data()
+{
+    QTest::addColumn<QVector<qlonglong>>("camera"); // minimum, maximum, increment, value
+    QTest::addColumn<QVector<qlonglong>>("shown");
+    const qlonglong cap = 2147483647;
+    const qlonglong lowest = -cap - 1;
+    using Numbers = QVector<qlonglong>;
+    QTest::newRow("as they are") << Numbers{-20, 40, 4, 8} << Numbers{-20, 40, 4, 8};
+    QTest::newRow("no increment") << Numbers{0, 10, 0, 7} << Numbers{0, 10, 1, 7};
+    QTest::newRow("beyond 32 bits")
+        << Numbers{0, 1ll << 40, 1, 1ll << 33} << Numbers{0, cap, 1, cap};
+    QTest::newRow("all 64 bits") << Numbers{std::numeric_limits<qlonglong>::min(),
+                                            std::numeric_limits<qlonglong>::max(), 1, -12}
+                                 << Numbers{lowest, cap, 1, -12};
+    QTest::newRow("increment beyond 32 bits")
+        << Numbers{0, 1ll << 50, 1ll << 40, 0} << Numbers{0, cap, cap, 0};
+}
+
+void TestOrvCamConfigMapper::limits()
+{
+    QFETCH(QVector<qlonglong>, camera);
+    QFETCH(QVector<qlonglong>, shown);
+    Camera cam;
+    const auto furnish = [&] {
+        cam.number.setLimits(camera[0], camera[1]);
+        cam.number.setIncrement(camera[2]);
+        cam.number.change(camera[3]);
+    };
+    OrvGenParam::Int *param = cam.array->GetInt("Länge");
+    QSpinBox plain;
+    QtOrvSpinBox compact;
+    QSlider slider;
+    QtOrvSliderSpinBox wide;
+    QLineEdit text;
+    QIntValidator validator;
+    text.setValidator(&validator);
+    OrvCamConfigMapper mappers[5];
+
+    const auto compare = [&](auto &widget) {
+        QVERIFY((QVector<qlonglong>{widget.minimum(), widget.maximum(), widget.singleStep(),
+                                    widget.value()}) == shown);
+    };
+    for (int whenMapped = 1; whenMapped >= 0; --whenMapped) {
+        if (whenMapped)
+            furnish();
+        mappers[0].mapIntParam(param, &plain);
+        mappers[1].mapIntParam(param, &compact);
+        mappers[2].mapIntParam(param, &slider, nullptr);
+        mappers[3].mapIntParam(param, &wide, nullptr);
+        mappers[4].mapIntParam(param, &text);
+        if (!whenMapped)
+            furnish();
+        compare(plain);
+        compare(compact);
+        compare(slider);
+        compare(wide);
+        QCOMPARE(text.text().toLongLong(), shown[3]);
+        QCOMPARE(qlonglong(validator.bottom()), shown[0]);
+        QCOMPARE(qlonglong(validator.top()), shown[1]);
+        QCOMPARE(cam.number.writes(), 0);
+
+        cam.number.setLimits(0, 5);
+        cam.number.setIncrement(1);
+        cam.number.change(3);
+    }
+    QVERIFY(compact.validate() && !compact.validateTyping());
+    QVERIFY(wide.validate() && !wide.validateTyping());
+
+    // A mapper with a cap of its own.
+    OrvCamConfigMapper capped(4);
+    capped.mapIntParam(param, &compact);
+    QCOMPARE(compact.maximum(), 4);
+}
+
+void TestOrvCamConfigMapper::converters()
+{
+    /// Shows half of what the camera has.
+    class Halves : public IOrvCamConfigIntConverter
+    {
+    public:
+        long ToControl(long value, OrvGenParam::Int *) override { return value / 2; }
+        long ToDevice(long value, OrvGenParam::Int *) override { return value * 2; }
+    } halves;
+    Camera camera;
+    camera.number.setLimits(0, 1ll << 40);
+    camera.number.setIncrement(10);
+    camera.number.change(70);
+    OrvGenParam::Int *param = camera.array->GetInt("Länge");
+    QSlider slider;
+    QtOrvSliderSpinBox wide;
+    OrvCamConfigMapper first;
+    OrvCamConfigMapper second;
+    first.mapIntParam(param, &slider, &halves);
+    second.mapIntParam(param, &wide, &halves);
+    QCOMPARE(wide.value(), 35);
+    QCOMPARE(wide.maximum(), 2147483647);
+    QCOMPARE(wide.singleStep(), 5);
+    QCOMPARE(slider.singleStep(), 5);
+    QTest::keyClick(wide.spinBox(), Qt::Key_Up);
+    QCOMPARE(param->GetValue(), int64_t(80));
+    QTest::keyClick(&slider, Qt::Key_Up);
+    QCOMPARE(param->GetValue(), int64_t(90));
+    QCOMPARE(wide.value(), 45);
+
+    // What half a step makes 0 is 1. What the widget cannot show exactly is not written back.
+    camera.number.setIncrement(1);
+    camera.number.change(91);
+    QCOMPARE(wide.singleStep(), 1);
+    QCOMPARE(wide.value(), 45);
+    QCOMPARE(param->GetValue(), int64_t(91));
+    QCOMPARE(camera.number.writes(), 2);
+}
+
+void TestOrvCamConfigMapper::dependents()
+{
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    QtOrvSpinBox spinBox;
+    QLabel label;
+    QPushButton button;
+    QVector<QWidget *> dependents{&label, &button};
+    int clicks = 0;
+    connect(&button, &QPushButton::clicked, [&] { ++clicks; });
+    const auto isEnabled = [&](bool on) {
+        return spinBox.isEnabled() == on && label.isEnabled() == on && button.isEnabled() == on;
+    };
+
+    QVERIFY(!mapper.mapIntParam(nullptr, &spinBox, dependents));
+    QVERIFY(isEnabled(false));
+    QVERIFY(mapper.mapIntParam(camera.array->GetInt("Länge"), &spinBox, dependents));
+    QVERIFY(isEnabled(true));
+    button.click();
+    QCOMPARE(clicks, 1);
+    camera.number.setAccessMode(GenApi::NA);
+    QVERIFY(isEnabled(false));
+    camera.number.setAccessMode(GenApi::RW);
+    QVERIFY(isEnabled(true));
+    camera.number.setAccessMode(GenApi::RO);
+    QVERIFY(isEnabled(false));
+    camera.number.setAccessMode(GenApi::RW);
+
+    // Only the first widget is let go when the name is bound to another one.
+    QtOrvSpinBox another;
+    mapper.mapIntParam(camera.array->GetInt("Länge"), &another);
+    QVERIFY(!spinBox.isEnabled() && label.isEnabled() && another.isEnabled());
+}
+
+void TestOrvCamConfigMapper::entries()
+{
+    Camera camera;
+    OrvGenParam::Enum *param = camera.array->GetEnum("Quelle");
+    Combo combo;
+    Buttons buttons;
+    Tabs tabs;
+    OrvCamConfigMapper mappers[3];
+    combo.map(mappers[0], camera.array.get());
+    buttons.map(mappers[1], camera.array.get());
+    tabs.map(mappers[2], camera.array.get());
+    const auto items = [&] { return qobject_cast<QStandardItemModel *>(combo.combo->model()); };
+
+    QCOMPARE(combo.combo->count(), 3);
+    QCOMPARE(tabs.tabs->count(), 3);
+    const QString name = QStringLiteral("Größe");
+    QCOMPARE(combo.combo->itemText(1), name);
+    QCOMPARE(buttons.group->button(1)->text(), name);
+    QCOMPARE(tabs.tabs->tabText(1), name);
+    QVERIFY(buttons.group->button(2)->isVisible());
+    QVERIFY(buttons.group->buttons()[3]->isHidden());
+
+    for (bool available : {false, true}) {
+        camera.choice.entry("Größe").setAccessMode(available ? GenApi::RO : GenApi::NA);
+        camera.choice.changed();
+        QCOMPARE(items()->item(1)->isEnabled(), available);
+        QCOMPARE(buttons.group->button(1)->isEnabled(), available);
+        QCOMPARE(tabs.tabs->widget(1)->isEnabled(), available);
+        QVERIFY(items()->item(0)->isEnabled() && buttons.group->button(0)->isEnabled());
+        QVERIFY(tabs.tabs->widget(0)->isEnabled());
+    }
+    camera.choice.entry("Größe").setAccessMode(GenApi::NA);
+    QTest::keyClick(combo.combo, Qt::Key_Down);
+    QCOMPARE(param->GetIntValue(), int64_t(2)); // over the one that is not there
+
+    // Unchecking writes nothing, checking writes once.
+    const int writes = camera.choice.writes();
+    QTest::mouseClick(buttons.group->button(0), Qt::LeftButton);
+    QCOMPARE(camera.choice.writes(), writes + 1);
+    QCOMPARE(combo.shown(), qint64(0));
+    QCOMPARE(tabs.shown(), qint64(0));
+
+    // A value without an entry: no item shows it.
+    camera.choice.change(9);
+    QCOMPARE(combo.combo->currentText(), QString());
+    QCOMPARE(buttons.shown(), qint64(0));
+
+    // The next camera's entries. Buttons that the first one used must not answer to its values.
+    MemoryNodeMap other;
+    other.addEnumeration("Quelle", {{"Ja", 3}, {"Nein", 1}}, 1);
+    OrvGenParam::NodeMapArray otherArray(other);
+    for (OrvCamConfigMapper &mapper : mappers)
+        mapper.unmapAll();
+    buttons.map(mappers[1], &otherArray);
+    combo.map(mappers[0], &otherArray);
+    tabs.map(mappers[2], &otherArray);
+    QCOMPARE(buttons.group->checkedButton(), buttons.group->buttons()[1]);
+    QVERIFY(buttons.group->buttons()[2]->isHidden());
+    QCOMPARE(combo.combo->currentText(), QStringLiteral("Nein"));
+    QCOMPARE(combo.combo->count(), 2);
+    QCOMPARE(tabs.shown(), qint64(1));
+    for (Control *control : {static_cast<Control *>(&combo), static_cast<Control *>(&buttons),
+                             static_cast<Control *>(&tabs)})
+        control->destroy();
+}
+
+void TestOrvCamConfigMapper::nullEntries()
+{
+    /// The enumeration of the camera, whose second entry cannot be had.
+    class Gap : public OrvGenParam::Enum
+    {
+    public:
+        explicit Gap(Enum *e) : m_enum(e) {}
+        const char *GetName() const override { return m_enum->GetName(); }
+        const char *GetDisplayName() const override { return m_enum->GetDisplayName(); }
+        const char *GetDescription() const override { return m_enum->GetDescription(); }
+        OrvGenParam::ParamType GetType() const override { return m_enum->GetType(); }
+        bool IsAvailable() const override { return true; }
+        bool IsReadable() const override { return true; }
+        bool IsWritable() const override { return true; }
+        void RegisterEventSink(OrvGenParam::ParamEventSink *) override {}
+        void UnregisterEventSink(OrvGenParam::ParamEventSink *) override {}
+        uint32_t GetEntryCount() const override { return m_enum->GetEntryCount(); }
+        OrvGenParam::EnumEntry *GetEntry(uint32_t i) const override
+        {
+            return i == 1 ? nullptr : m_enum->GetEntry(i);
+        }
+        int64_t GetIntValue(int32_t *error) const override { return m_enum->GetIntValue(error); }
+        int32_t SetIntValue(int64_t value) override { return m_enum->SetIntValue(value); }
+        const char *GetSymbolicValue(int32_t *error) const override
+        {
+            return m_enum->GetSymbolicValue(error);
+        }
+        int32_t SetSymbolicValue(const char *s) override { return m_enum->SetSymbolicValue(s); }
+
+    private:
+        Enum *m_enum;
+    };
+    Camera camera;
+    camera.choice.change(2);
+    Gap gap(camera.array->GetEnum("Quelle"));
+    OrvCamConfigMapper mapper;
+    Combo combo;
+    Buttons buttons;
+    Tabs tabs;
+
+    mapper.mapEnumParam(&gap, tabs.tabs);
+    mapper.OnParameterUpdate(&gap);
+    QCOMPARE(tabs.shown(), qint64(2));
+    mapper.mapEnumParam(&gap, buttons.group);
+    mapper.OnParameterUpdate(&gap);
+    QCOMPARE(buttons.group->checkedButton(), buttons.group->buttons()[2]);
+    QVERIFY(buttons.group->buttons()[1]->isHidden());
+    mapper.mapEnumParam(&gap, combo.combo);
+    mapper.OnParameterUpdate(&gap);
+    QCOMPARE(combo.shown(), qint64(2));
+    QTest::keyClick(combo.combo, Qt::Key_Up);
+    QCOMPARE(camera.array->GetEnum("Quelle")->GetIntValue(), int64_t(0));
+    for (Control *control : {static_cast<Control *>(&combo), static_cast<Control *>(&buttons),
+                             static_cast<Control *>(&tabs)})
+        control->destroy();
+}
+
+void TestOrvCamConfigMapper::commandTimer()
+{
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    QPushButton button;
+    QTimer timer;
+    timer.setInterval(100000);
+    ErrorBoxes boxes;
+    for (bool refused : {false, true}) {
+        camera.command.onWrite(refused ? throwRefusal : std::function<void()>());
+        mapper.unmapAll();
+        timer.stop();
+        mapper.mapCommandParam(camera.array->GetCommand("Auslösen"), &button, &timer);
+        button.click();
+        QVERIFY(!button.isEnabled());
+        QVERIFY(timer.isActive());
+        QCOMPARE(boxes.texts.size(), int(refused));
+    }
+}
+
+void TestOrvCamConfigMapper::camerasAreNotMixedUp()
+{
+    Camera first;
+    Camera second;
+    OrvCamConfigMapper mapper;
+    QtOrvSpinBox spinBox;
+    mapper.mapIntParam(first.array->GetInt("Länge"), &spinBox);
+    mapper.unmapAll();
+    mapper.mapIntParam(second.array->GetInt("Länge"), &spinBox);
+
+    first.number.change(9);
+    first.number.setAccessMode(GenApi::NA);
+    QCOMPARE(spinBox.value(), 5);
+    QVERIFY(spinBox.isEnabled());
+    QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
+    QCOMPARE(first.number.writes(), 0);
+    QCOMPARE(second.number.writes(), 1);
+}
+
+void TestOrvCamConfigMapper::fromInside()
+{
+    // Whoever hears of a change may do anything; what was under way must not go on with it.
+    Camera first;
+    Camera second;
+    second.number.setLimits(0, 3);
+    second.number.change(2);
+    second.number.setAccessMode(GenApi::RO);
+    auto mapper = std::make_unique<OrvCamConfigMapper>();
+    QtOrvSpinBox spinBox;
+    const auto on = [&](std::function<void()> act) {
+        connect(&spinBox, static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged),
+                act);
+    };
+
+    // Given another camera while the range of the first is being shown.
+    mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
+    on([&] {
+        mapper->unmapAll();
+        mapper->mapIntParam(second.array->GetInt("Länge"), &spinBox);
+    });
+    first.number.setLimits(6, 20);
+    first.number.setIncrement(2);
+    first.number.change(8);
+    QCOMPARE(spinBox.value(), 2);
+    QCOMPARE(spinBox.maximum(), 3);
+    QCOMPARE(spinBox.singleStep(), 1);
+    QVERIFY(!spinBox.isEnabled());
+
+    // And the two agree about the range.
+    Camera twin;
+    twin.number.setLimits(6, 20);
+    twin.number.change(12);
+    Camera changing;
+    mapper->unmapAll();
+    mapper->mapIntParam(changing.array->GetInt("Länge"), &spinBox);
+    on([&] {
+        mapper->unmapAll();
+        mapper->mapIntParam(twin.array->GetInt("Länge"), &spinBox);
+    });
+    changing.number.setLimits(6, 20);
+    QCOMPARE(spinBox.value(), 12);
+    QCOMPARE(twin.number.writes() + changing.number.writes(), 0);
+
+    // Let go, and destroyed.
+    mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
+    on([&] { mapper->unmapAll(); });
+    first.number.change(12);
+    QVERIFY(!spinBox.isEnabled());
+    mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
+    on([&] { mapper.reset(); });
+    first.number.change(14);
+    QVERIFY(!mapper);
+
+    // Destroyed by the notification that a write causes, and while the box of a refusal is open.
+    mapper = std::make_unique<OrvCamConfigMapper>();
+    mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
+    on([&] { mapper.reset(); });
+    QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
+    QVERIFY(!mapper);
+    mapper = std::make_unique<OrvCamConfigMapper>();
+    mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
+    first.number.onWrite(throwRefusal);
+    ErrorBoxes boxes;
+    boxes.meanwhile = [&] {
+        mapper.reset();
+        first.array.reset();
+    };
+    QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
+    QCOMPARE(boxes.texts.size(), 1);
+    QVERIFY(!first.array);
+
+    // A notification in the middle of a map call finds the widgets of before.
+    Camera third;
+    OrvCamConfigMapper other;
+    QLineEdit text;
+    int asked = 0;
+    third.number.bindMax([&] {
+        if (asked++ == 0)
+            third.flag.changed();
+        return int64_t(9);
+    });
+    QCheckBox flag;
+    other.mapBooleanParam(third.array->GetBoolean("Spiegel"), &flag);
+    third.number.changed();
+    asked = 0;
+    other.mapIntParam(third.array->GetInt("Länge"), &spinBox);
+    QCOMPARE(spinBox.maximum(), 9);
+    QVERIFY(asked > 0 && flag.isEnabled());
+}
+
+void TestOrvCamConfigMapper::noGlitchesAndNoEcho()
+{
+    // The new limits exclude the old value: what the spin boxes show in between is not written.
+    Camera camera;
+    OrvCamConfigMapper mappers[2];
+    QtOrvSpinBox spinBox;
+    QtOrvSliderSpinBox wide;
+    mappers[0].mapIntParam(camera.array->GetInt("Länge"), &spinBox);
+    mappers[1].mapIntParam(camera.array->GetInt("Länge"), &wide, nullptr);
+    QSignalSpy changes(&spinBox, SIGNAL(valueChanged(int)));
+    camera.number.bind([] { return int64_t(2); });
+    camera.number.setLimits(0, 3);
+    camera.number.changed();
+    QCOMPARE(spinBox.value(), 2);
+    QCOMPARE(wide.value(), 2);
+    QCOMPARE(camera.number.writes(), 0);
+    QVERIFY(!changes.isEmpty()); // whoever else listens still hears of it
+
+    // A camera that makes something else of what it is given.
+    int64_t value = 2;
+    camera.number.bind([&] { return value; }, [&](int64_t v) { value = v / 3 * 3; });
+    camera.number.setLimits(0, 9);
+    camera.number.changed();
+    QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
+    QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
+    QCOMPARE(spinBox.value(), 3);
+    QCOMPARE(camera.number.writes(), 2);
+}
+
+void TestOrvCamConfigMapper::typingIsLeftAlone()
+{
+    Camera camera;
+    camera.number.setLimits(0, 1000);
+    camera.number.changed();
+    OrvCamConfigMapper mappers[2];
+    QtOrvSpinBox spinBox;
+    QSpinBox plain;
+    mappers[0].mapIntParam(camera.array->GetInt("Länge"), &spinBox);
+    mappers[1].mapIntParam(camera.array->GetInt("Länge"), &plain);
+    const auto typeInto = [&](QSpinBox *box) {
+        box->selectAll();
+        for (char key : {'1', '2', '3'}) {
+            QTest::keyClick(box, key);
+            camera.number.changed(); // as a feature that is polled
+        }
+        QTest::keyClick(box, Qt::Key_Return);
+    };
+    typeInto(spinBox.spinBox());
+    QCOMPARE(camera.number.writes(), 1);
+    QCOMPARE(spinBox.value(), 123);
+    camera.number.change(5);
+    typeInto(&plain);
+    QCOMPARE(camera.number.writes(), 2);
+    QCOMPARE(plain.value(), 123);
+
+    OrvCamConfigMapper third;
+    QLineEdit text;
+    third.mapIntParam(camera.array->GetInt("Länge"), &text);
+    text.show();
+    text.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&text));
+    text.selectAll();
+    QTest::keyClicks(&text, QStringLiteral("45"));
+    camera.number.changed();
+    QTest::keyClick(&text, Qt::Key_Return);
+    QCOMPARE(camera.number.writes(), 3);
+    QCOMPARE(text.text(), QStringLiteral("45"));
+    QTest::keyClicks(&text, QStringLiteral("9"));
+    text.clearFocus();
+    QCOMPARE(camera.number.writes(), 4);
+    camera.number.change(8);
+    QCOMPARE(text.text(), QStringLiteral("8"));
+
+    // One box for a number that is refused, however many keys it took.
+    camera.number.onWrite(throwRefusal);
+    camera.number.change(5);
+    ErrorBoxes boxes;
+    typeInto(spinBox.spinBox());
+    QCOMPARE(boxes.texts.size(), 1);
+    camera.number.change(5);
+    typeInto(&plain);
+    QCOMPARE(boxes.texts.size(), 2);
+}
+
+void TestOrvCamConfigMapper::drags_data()
+{
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("taken") << false;
+    QTest::newRow("refused") << true;
+}
+
+void TestOrvCamConfigMapper::drags()
+{
+    QFETCH(bool, refused);
+    Camera camera;
+    camera.number.setLimits(0, 100);
+    camera.number.changed();
+    OrvGenParam::Int *param = camera.array->GetInt("Länge");
+    if (refused)
+        camera.number.onWrite(throwRefusal);
+    QtOrvSpinBox compact;
+    QtOrvSliderSpinBox wide;
+    QSlider plain(Qt::Horizontal);
+    OrvCamConfigMapper mapper;
+    ErrorBoxes boxes;
+    QVector<int> heard;
+    int dragged = 0;
+
+    const auto drag = [&](QSlider *slider, const auto &map) {
+        mapper.unmapAll();
+        map();
+        camera.number.change(5);
+        const int writes = camera.number.writes();
+        boxes.texts.clear();
+        heard.clear();
+        slider->resize(slider->orientation() == Qt::Horizontal ? QSize(300, 30) : QSize(30, 300));
+        const QPoint from = handleOf(slider);
+        const QPoint step =
+            slider->orientation() == Qt::Horizontal ? QPoint(10, 0) : QPoint(0, -10);
+        dragBy(slider, from, step, 10, [&] { camera.number.changed(); }); // as if it were polled
+        QCOMPARE(camera.number.writes(), writes);
+        dragged = slider->value();
+        QVERIFY(dragged > 20);
+        QTest::mouseRelease(slider, Qt::LeftButton);
+        QCOMPARE(camera.number.writes(), writes + 1);
+        QCOMPARE(param->GetValue(), int64_t(refused ? 5 : dragged));
+        QCOMPARE(boxes.texts.size(), int(refused));
+        QVERIFY(!slider->isSliderDown());
+
+        // A press without a move changes nothing.
+        const QPoint there = handleOf(slider);
+        QTest::mousePress(slider, Qt::LeftButton, {}, there);
+        QVERIFY(slider->isSliderDown());
+        QTest::mouseRelease(slider, Qt::LeftButton, {}, there);
+        QCOMPARE(camera.number.writes(), writes + 1);
+    };
+    drag(compact.slider()->slider(), [&] {
+        mapper.mapIntParam(param, &compact);
+        connect(&compact, static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged),
+                [&](int value) { heard << value; });
+    });
+    QCOMPARE(heard.value(0), dragged);
+    QCOMPARE(compact.value(), refused ? 5 : dragged);
+    drag(wide.slider()->slider(), [&] { mapper.mapIntParam(param, &wide, nullptr); });
+    drag(&plain, [&] { mapper.mapIntParam(param, &plain, nullptr); });
+
+    // Taken from under the user's hand: nothing is written any more.
+    camera.number.onWrite({});
+    camera.number.change(5);
+    const int writes = camera.number.writes();
+    boxes.texts.clear();
+    plain.setSliderDown(true);
+    plain.setSliderPosition(50);
+    camera.number.setAccessMode(GenApi::RO);
+    QCOMPARE(plain.value(), 5);
+    QVERIFY(!plain.isSliderDown());
+    QCOMPARE(camera.number.writes(), writes);
+    QCOMPARE(boxes.texts.size(), 0);
+}
+
+void TestOrvCamConfigMapper::heldWhenRefused_data()
+{
+    QTest::addColumn<bool>("groove");
+    QTest::newRow("spin button") << false;
+    QTest::newRow("groove") << true;
+}
+
+void TestOrvCamConfigMapper::heldWhenRefused()
+{
+    // The box takes the mouse away, so that the button is never seen to be released.
+    QFETCH(bool, groove);
+    Camera camera;
+    camera.number.setLimits(0, 100);
+    camera.number.change(50);
+    camera.number.onWrite(throwRefusal);
+    QtOrvSliderSpinBox wide;
+    OrvCamConfigMapper mapper;
+    mapper.mapIntParam(camera.array->GetInt("Länge"), &wide, nullptr);
+    wide.resize(400, 60);
+    wide.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&wide));
+    QWidget *part = groove ? static_cast<QWidget *>(wide.slider()->slider()) : wide.spinBox();
+    const QPoint point =
+        groove ? QPoint(part->width() - 5, part->height() / 2) : QPoint(part->width() - 5, 5);
+
+    ErrorBoxes boxes(1200); // longer than anything takes to repeat
+    QTest::mousePress(part, Qt::LeftButton, {}, point);
+    QCOMPARE(boxes.texts.size(), 1);
+    QTest::qWait(700);
+    QCOMPARE(boxes.texts.size(), 1);
+    QCOMPARE(camera.number.writes(), 1);
+
+    // While the camera takes it, a held button goes on writing.
+    camera.number.onWrite({});
+    camera.number.changed();
+    QTest::mousePress(part, Qt::LeftButton, {}, point);
+    QTest::qWait(1200);
+    QTest::mouseRelease(part, Qt::LeftButton, {}, point);
+    const int writes = camera.number.writes();
+    qInfo("%d writes in 1.2 s", writes - 1);
+    QVERIFY(writes > 3);
+    QTest::qWait(300);
+    QCOMPARE(camera.number.writes(), writes);
+}
+
+QTEST_MAIN(TestOrvCamConfigMapper)
+#include "tst_orvcamconfigmapper.moc"

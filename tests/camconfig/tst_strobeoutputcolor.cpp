@@ -1,0 +1,656 @@
+// SPDX-License-Identifier: MIT
+#include "camconfigtestsupport.h"
+
+#include <genapi/memorynodemap.h>
+#include <orvcamconfigcolordialog.h>
+#include <orvcamconfigoutputdialog.h>
+#include <orvcamconfigstrobedialog.h>
+#include <qtorvslider.h>
+#include <qtorvsliderspinbox.h>
+#include <qtorvspinbox.h>
+#include <qtorvspinboxval.h>
+
+using namespace OrvGui;
+using OrvSimulation::SimulatedCamera;
+
+namespace {
+
+enum Which { Strobe, Output, Color };
+
+struct Control
+{
+    Which dialog;
+    const char *name;
+    const char *feature;
+};
+
+/// In the order of the Tab key.
+const Control controls[] = {
+    {Strobe, "cmBoxStrobe1Mode", "Strobe1Mode"},
+    {Strobe, "cmBoxStrobe1Ref", "Strobe1Reference"},
+    {Strobe, "spBoxStrobe1Delay", "Strobe1Delay"},
+    {Strobe, "spBoxStrobe1Width", "Strobe1Width"},
+    {Strobe, "cmBoxStrobe2Mode", "Strobe2Mode"},
+    {Strobe, "cmBoxStrobe2Ref", "Strobe2Reference"},
+    {Strobe, "spBoxStrobe2Delay", "Strobe2Delay"},
+    {Strobe, "spBoxStrobe2Width", "Strobe2Width"},
+    {Strobe, "cmBoxOut1Polarity", "OUT1Polarity"},
+    {Strobe, "cmBoxOut1Selector", "OUT1Selector"},
+    {Strobe, "cmBoxOut2Polarity", "OUT2Polarity"},
+    {Strobe, "cmBoxOut2Selector", "OUT2Selector"},
+
+    {Output, "cmBoxTaps", "SensorADCBitDepth11"},
+    {Output, "cmBoxDepth", "SensorADCBitDepth"},
+    {Output, "cmBoxPixelFormat", "PixelFormat"},
+    {Output, "chBoxEnableLut", "LUTEnable"},
+    {Output, "cmBoxLut", "LUTSelector"},
+    {Output, "cmBoxDpc", "DefectPixelCorrection"},
+    {Output, "spBoxDpcDynThres", "DefectPixelThreshold"},
+    {Output, "cmBoxHpc", "HotPixelCorrection"},
+    {Output, "spBoxHpcDynThres", "HotPixelThreshold"},
+    {Output, "chBoxHorMirror", "ReverseX"},
+    {Output, "chBoxVerMirror", "ReverseY"},
+    {Output, "cmBoxTestMode", "TestImageSelector"},
+
+    {Color, "cmBoxWhiteBalance", "BalanceWhiteAuto"},
+    {Color, "cmBoxTrackingSpeed", "AutoTrackingSpeed"},
+    {Color, "spBoxRed", "RedCoefficient"},
+    {Color, "spBoxGreen", "GreenCoefficient"},
+    {Color, "spBoxBlue", "BlueCoefficient"},
+};
+
+void addControls()
+{
+    QTest::addColumn<const Control *>("control");
+    for (const Control &control : controls)
+        QTest::newRow(control.name) << &control;
+}
+
+/// The simulated camera without one of its features, or with all; a second one, if need be.
+class PoorDevice : public DescribedDevice
+{
+public:
+    explicit PoorDevice(const QByteArray &missing = QByteArray())
+        : DescribedDevice(describe(missing))
+    {
+        for (const char *feature : {"DefectPixelCorrection", "HotPixelCorrection"})
+            set(missing == feature ? QByteArray(missing + otherName) : QByteArray(feature),
+                "Dynamic");
+    }
+
+private:
+    static constexpr const char *otherName = "OfOtherCameras";
+
+    static std::unique_ptr<OrvAravis::NodeMap> describe(const QByteArray &missing)
+    {
+        const SimulatedCamera::Text text = SimulatedCamera::description();
+        QByteArray xml(text.data, int(text.size));
+        if (!missing.isEmpty()) {
+            xml.replace("Name=\"" + missing + '"', "Name=\"" + missing + otherName + '"');
+            xml.replace('>' + missing + '<', '>' + missing + otherName + '<');
+        }
+        return OrvAravis::NodeMap::fromText(xml.constData(), std::size_t(xml.size()),
+                                            "poor camera");
+    }
+};
+
+std::unique_ptr<OrvCamConfigDialog> open(Which which, OrvCam::Device *device)
+{
+    std::unique_ptr<OrvCamConfigDialog> dialog;
+    switch (which) {
+    case Strobe:
+        dialog = std::make_unique<OrvCamConfigStrobeDialog>(device);
+        break;
+    case Output:
+        dialog = std::make_unique<OrvCamConfigOutputDialog>(device);
+        break;
+    case Color:
+        dialog = std::make_unique<OrvCamConfigColorDialog>(device);
+        break;
+    }
+    dialog->show();
+    dialog->activateWindow();
+    if (!QTest::qWaitForWindowActive(dialog.get()))
+        qFatal("The dialog does not become active");
+    return dialog;
+}
+
+template<class Widget = QWidget>
+Widget *part(const std::unique_ptr<OrvCamConfigDialog> &dialog, const QByteArray &name)
+{
+    auto *widget = dialog->findChild<Widget *>(QLatin1String(name));
+    if (!widget)
+        qFatal("There is no %s", name.constData());
+    return widget;
+}
+
+QString textOf(const std::unique_ptr<OrvCamConfigDialog> &dialog, const QByteArray &label)
+{
+    return part<QLabel>(dialog, label)->text();
+}
+
+/// The value as the feature would write it.
+QString shown(QWidget *widget)
+{
+    if (auto *combo = qobject_cast<QComboBox *>(widget))
+        return combo->currentText();
+    if (auto *check = qobject_cast<QCheckBox *>(widget))
+        return check->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+    return widget->property("value").toString();
+}
+
+void type(QWidget *spinBox, int value)
+{
+    auto *edit = spinBox->findChild<QLineEdit *>();
+    edit->selectAll();
+    QTest::keyClicks(edit, QString::number(value));
+    QTest::keyClick(edit, Qt::Key_Return);
+}
+
+/// Edits a control to another value, as a user does.
+void edit(QWidget *widget)
+{
+    if (auto *combo = qobject_cast<QComboBox *>(widget)) {
+        const int before = combo->currentIndex();
+        QTest::keyClick(combo, Qt::Key_Down);
+        if (combo->currentIndex() == before)
+            QTest::keyClick(combo, Qt::Key_Up);
+    } else if (qobject_cast<QCheckBox *>(widget)) {
+        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(8, widget->height() / 2));
+    } else {
+        type(widget, 777);
+    }
+}
+
+QSlider *inner(QWidget *compound)
+{
+    return compound->findChild<QSlider *>();
+}
+
+void press(QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = slider->orientation();
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = slider->sliderPosition();
+    option.upsideDown = slider->orientation() == Qt::Vertical;
+    const QRect handle = slider->style()->subControlRect(QStyle::CC_Slider, &option,
+                                                         QStyle::SC_SliderHandle, slider);
+    QTest::mousePress(slider, Qt::LeftButton, {}, handle.center());
+    QVERIFY(slider->isSliderDown());
+}
+
+void moveTo(QSlider *slider, const QPoint &point)
+{
+    QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(slider, &move);
+}
+
+QImage pictureOf(const std::unique_ptr<OrvCamConfigDialog> &dialog)
+{
+    return part<QLabel>(dialog, "lblStrobeImage")->pixmap()->toImage();
+}
+
+QImage resource(const char *name)
+{
+    const QImage image(QStringLiteral(":/images/res/%1.bmp").arg(QLatin1String(name)));
+    if (image.isNull())
+        qFatal("There is no picture %s", name);
+    return QPixmap::fromImage(image).toImage();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(const Control *)
+
+class TestStrobeOutputColor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void bothWays_data() { addControls(); }
+    void bothWays();
+    void missingFeature_data() { addControls(); }
+    void missingFeature();
+    void withoutCamera();
+    void lifetimes();
+    void tabOrder();
+
+    void strobeCaptions();
+    void strobePicture();
+    void strobeDrag();
+
+    void outputDependencies();
+    void popUpSliders();
+
+    void unity();
+    void automaticWhiteBalance();
+    void statisticsOfOtherCamera();
+    void coefficientBecomesUnavailable();
+};
+
+void TestStrobeOutputColor::bothWays()
+{
+    QFETCH(const Control *, control);
+    SimulatedDevice camera;
+    const auto dialog = open(control->dialog, &camera.device);
+    dialog->SetDevice(&camera.device); // must not double anything
+    QWidget *widget = part(dialog, control->name);
+    QVERIFY(widget->isEnabled());
+    const QString before = camera.get(control->feature);
+    QCOMPARE(shown(widget), before);
+    QCOMPARE(camera.writes(), 0U);
+
+    edit(widget);
+    const QString edited = camera.get(control->feature);
+    QVERIFY(edited != before);
+    QCOMPARE(shown(widget), edited);
+    QCOMPARE(camera.writes(), 1U);
+
+    camera.set(control->feature, before.toLatin1());
+    QCOMPARE(shown(widget), before);
+    QCOMPARE(camera.get(control->feature), before);
+    QTest::qWait(5);
+    QCOMPARE(camera.writes(), 2U); // its own and none in answer
+
+    if (auto *combo = qobject_cast<QComboBox *>(widget)) {
+        OrvGenParam::Enum *param = camera.device.array->GetEnum(control->feature);
+        QCOMPARE(combo->count(), int(param->GetEntryCount()));
+        for (int i = 0; i < combo->count(); ++i)
+            QCOMPARE(combo->itemText(i),
+                     QString::fromUtf8(param->GetEntry(uint32_t(i))->GetSymbolic()));
+    }
+}
+
+void TestStrobeOutputColor::missingFeature()
+{
+    QFETCH(const Control *, control);
+    PoorDevice camera(control->feature);
+    ErrorBoxes boxes;
+    const auto dialog = open(control->dialog, &camera.device);
+    QVERIFY(dialog->isEnabled());
+    for (const Control &other : controls) {
+        if (other.dialog == control->dialog)
+            QVERIFY2(part(dialog, other.name)->isEnabled() == (&other != control), other.name);
+    }
+
+    if (control->dialog == Color) {
+        const QByteArray feature(control->feature);
+        const auto isOther = [&](const char *name) { return feature != name; };
+        QCOMPARE(part(dialog, "pushBtnRedUnity")->isEnabled(), isOther("RedCoefficient"));
+        QCOMPARE(part(dialog, "grBoxStatistics")->isEnabled(), isOther("RedCoefficient"));
+        QCOMPARE(part(dialog, "pushBtnGreenUnity")->isEnabled(), isOther("GreenCoefficient"));
+        QCOMPARE(part(dialog, "pushBtnBlueUnity")->isEnabled(), isOther("BlueCoefficient"));
+    }
+
+    // A camera that has it brings the control to life, and the poor one puts it down again.
+    PoorDevice complete;
+    dialog->SetDevice(&complete.device);
+    QVERIFY(part(dialog, control->name)->isEnabled());
+    dialog->SetDevice(&camera.device);
+    QVERIFY(!part(dialog, control->name)->isEnabled());
+    QCOMPARE(boxes.texts, QStringList());
+}
+
+void TestStrobeOutputColor::withoutCamera()
+{
+    SimulatedDevice camera;
+    for (Which which : {Strobe, Output, Color}) {
+        const auto dialog = open(which, nullptr);
+        QVERIFY(!dialog->isEnabled());
+        dialog->SetDevice(&camera.device);
+        QVERIFY(dialog->isEnabled());
+        camera.device.error = OrvCam::Success - 7;
+        dialog->SetDevice(&camera.device);
+        QVERIFY(!dialog->isEnabled());
+        camera.device.error = OrvCam::Success;
+
+        QSignalSpy closing(dialog.get(), &OrvCamConfigDialog::closing);
+        dialog->close();
+        QCOMPARE(closing.count(), 1);
+    }
+}
+
+void TestStrobeOutputColor::lifetimes()
+{
+    SimulatedDevice camera;
+    for (Which which : {Strobe, Output, Color}) {
+        open(which, &camera.device).reset();
+        camera.set("Strobe1Reference", "ReadoutStart");
+        camera.set("ReverseX", "1");
+        camera.set("RedCoefficient", "1000");
+
+        const auto dialog = open(which, &camera.device);
+        const auto usable = [&] {
+            return std::count_if(std::begin(controls), std::end(controls), [&](const Control &c) {
+                return c.dialog == which && part(dialog, c.name)->isEnabled();
+            });
+        };
+        const auto all = usable();
+        QVERIFY(all > 0);
+        const QString red = which == Color ? textOf(dialog, "lblRedCoef") : QString();
+        camera.device.Release();
+        QCOMPARE(usable(), 0);
+        if (which == Color)
+            QCOMPARE(textOf(dialog, "lblRedCoef"), red);
+        camera.device.array = std::make_unique<OrvGenParam::NodeMapArray>(*camera.map);
+        dialog->SetDevice(&camera.device);
+        QCOMPARE(usable(), all);
+    }
+}
+
+void TestStrobeOutputColor::tabOrder()
+{
+    SimulatedDevice camera;
+    for (Which which : {Strobe, Output, Color}) {
+        QStringList expected;
+        for (const Control &control : controls) {
+            if (control.dialog == which)
+                expected << QLatin1String(control.name);
+        }
+        const auto dialog = open(which, &camera.device);
+        part(dialog, expected.first().toLatin1())->setFocus();
+        QStringList visited;
+        for (int presses = 0; presses < 40; ++presses) {
+            QWidget *widget = dialog->focusWidget();
+            while (widget && !expected.contains(widget->objectName()))
+                widget = widget->parentWidget();
+            const QString name = widget ? widget->objectName() : QString(); // Unity
+            if (!name.isEmpty() && visited.value(visited.size() - 1) != name) {
+                if (name == visited.value(0))
+                    break;
+                visited << name;
+            }
+            QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(visited, expected);
+    }
+}
+
+void TestStrobeOutputColor::strobeCaptions()
+{
+    SimulatedDevice camera;
+    const auto dialog = open(Strobe, &camera.device);
+    for (const char *strobe : {"spBoxStrobe1", "spBoxStrobe2"}) {
+        auto *delay = part<QtOrvSliderSpinBox>(dialog, QByteArray(strobe) + "Delay");
+        auto *width = part<QtOrvSliderSpinBox>(dialog, QByteArray(strobe) + "Width");
+        QCOMPARE(delay->leftLabelText(), QString::fromUtf16(u"Delay [\u03BCs]:"));
+        QCOMPARE(width->leftLabelText(), QString::fromUtf16(u"Width [\u03BCs]:"));
+        QCOMPARE(delay->slider()->x(), width->slider()->x());
+        QCOMPARE(delay->slider()->scaleType(), QtOrvSlider::ScaleLog10);
+        QCOMPARE(width->slider()->scaleType(), QtOrvSlider::ScaleLog10);
+    }
+}
+
+void TestStrobeOutputColor::strobePicture()
+{
+    {
+        SimulatedDevice camera;
+        const auto dialog = open(Strobe, &camera.device);
+        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+        QTest::keyClick(part(dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
+        QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
+        QTest::keyClick(part(dialog, "cmBoxStrobe2Ref"), Qt::Key_Up);
+        QCOMPARE(pictureOf(dialog), resource("strobe1Read_strobe2Exp"));
+        camera.set("Strobe1Reference", "ExposureStart");
+        QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
+        camera.set("Strobe2Reference", "ReadoutStart");
+        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+
+        // A camera that lacks a reference leaves the picture as it is.
+        PoorDevice poor("Strobe2Reference");
+        dialog->SetDevice(&poor.device);
+        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+        poor.set("Strobe1Reference", "ReadoutStart");
+        QCOMPARE(part<QComboBox>(dialog, "cmBoxStrobe1Ref")->currentText(),
+                 QStringLiteral("ReadoutStart"));
+        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    }
+    PoorDevice poor("Strobe1Reference");
+    const auto dialog = open(Strobe, &poor.device);
+    poor.set("Strobe2Reference", "ReadoutStart");
+    QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
+}
+
+void TestStrobeOutputColor::strobeDrag()
+{
+    SimulatedDevice camera;
+    const auto dialog = open(Strobe, &camera.device);
+    auto *delay = part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe1Delay");
+    QSlider *slider = inner(delay);
+    press(slider);
+    for (int x = 10; x < slider->width(); x += 7)
+        moveTo(slider, QPoint(x, slider->height() / 2));
+    QVERIFY(delay->value() > 100000);
+    QCOMPARE(camera.get("Strobe1Delay"), QStringLiteral("100"));
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() - 2, 5));
+    QCOMPARE(camera.get("Strobe1Delay"), QString::number(delay->value()));
+    QCOMPARE(camera.writes(), 1U);
+
+    // Values between two positions of the scale are kept.
+    for (int value : {123457, 999999, 3, 0}) {
+        camera.set("Strobe1Delay", QByteArray::number(value));
+        QCOMPARE(delay->value(), value);
+        QCOMPARE(camera.get("Strobe1Delay"), QString::number(value));
+    }
+    QCOMPARE(camera.writes(), 5U);
+}
+
+void TestStrobeOutputColor::outputDependencies()
+{
+    SimulatedDevice camera;
+    const auto dialog = open(Output, &camera.device);
+    const auto canChoose = [&](const char *combo, const char *entry) {
+        auto *box = part<QComboBox>(dialog, combo);
+        auto *items = qobject_cast<QStandardItemModel *>(box->model());
+        return items->item(box->findText(QLatin1String(entry)))->isEnabled();
+    };
+    QVERIFY(canChoose("cmBoxTaps", "Taps10"));
+    QVERIFY(!canChoose("cmBoxPixelFormat", "BayerRG12"));
+    QTest::keyClick(part(dialog, "cmBoxDepth"), Qt::Key_Down);
+    QCOMPARE(camera.get("SensorADCBitDepth"), QStringLiteral("Bit12"));
+    QVERIFY(!canChoose("cmBoxTaps", "Taps10"));
+    QVERIFY(canChoose("cmBoxPixelFormat", "BayerRG12"));
+
+    auto *threshold = part<QtOrvSpinBox>(dialog, "spBoxDpcDynThres");
+    QTest::keyClick(part(dialog, "cmBoxDpc"), Qt::Key_Home);
+    QCOMPARE(camera.get("DefectPixelCorrection"), QStringLiteral("Off"));
+    QVERIFY(!threshold->isEnabled());
+    QVERIFY(part(dialog, "spBoxHpcDynThres")->isEnabled());
+    camera.set("DefectPixelCorrection", "Dynamic");
+    QVERIFY(threshold->isEnabled());
+    QCOMPARE(threshold->value(), 256);
+    QCOMPARE(camera.writes(), 3U);
+}
+
+// They stand upright: as wide as the spin box is high, as high as it is wide without its caption.
+void TestStrobeOutputColor::popUpSliders()
+{
+    SimulatedDevice camera;
+    const auto check = [&](Which which, const QByteArray &name, const QString &caption) {
+        const auto dialog = open(which, &camera.device);
+        for (int width : {0, 500, 900}) { // first as it opens
+            if (width > 0) {
+                dialog->hide();
+                dialog->resize(width, dialog->height());
+                dialog->show();
+            }
+            auto *spinBox = part<QtOrvSpinBox>(dialog, name);
+            QCOMPARE(spinBox->leftLabelText(), caption);
+            const int label = spinBox->leftLabel() ? spinBox->leftLabel()->width() : 0;
+            QCOMPARE(label > 0, !caption.isEmpty());
+            const QSize size(spinBox->height(), spinBox->width() - label);
+            QCOMPARE(spinBox->slider()->size(), size);
+            QVERIFY(size.height() > size.width());
+        }
+    };
+    for (const char *name : {"spBoxDpcDynThres", "spBoxHpcDynThres"})
+        check(Output, name, QStringLiteral("Dyn.Thres.:"));
+    for (const char *name : {"spBoxRed", "spBoxGreen", "spBoxBlue"})
+        check(Color, name, QString());
+}
+
+void TestStrobeOutputColor::unity()
+{
+    SimulatedDevice camera;
+    const auto dialog = open(Color, &camera.device);
+    dialog->SetDevice(&camera.device);
+    quint64 writes = 0;
+    for (const char *color : {"Red", "Green", "Blue"}) {
+        const QByteArray feature = QByteArray(color) + "Coefficient";
+        auto *button = part<QPushButton>(dialog, "pushBtn" + QByteArray(color) + "Unity");
+        QVERIFY(button->width() < 2 * button->fontMetrics().boundingRect(button->text()).width());
+        camera.set(feature, "1000");
+        QCOMPARE(camera.writes(), ++writes);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(camera.get(feature), QStringLiteral("256"));
+        QCOMPARE(camera.writes(), ++writes);
+        QCOMPARE(textOf(dialog, "lbl" + QByteArray(color) + "Coef"), QStringLiteral("256"));
+        QTest::mouseClick(button, Qt::LeftButton); // it is already
+        QCOMPARE(camera.writes(), writes);
+    }
+
+    // No button may take Return for its own.
+    for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
+        camera.set(feature, "1000");
+    type(part(dialog, "spBoxBlue"), 4095);
+    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_Return);
+    for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
+        QCOMPARE(camera.get(feature), QStringLiteral("1000"));
+    QCOMPARE(camera.get("BlueCoefficient"), QStringLiteral("4095"));
+    auto *label = part<QLabel>(dialog, "lblBlueCoef");
+    QCOMPARE(label->text(), QStringLiteral("4095"));
+    QVERIFY(label->sizeHint().width() <= label->width());
+    QCOMPARE(label->minimumWidth(), label->maximumWidth());
+    QCOMPARE(part(dialog, "lblRedCoef")->width(), label->width());
+    QVERIFY(dialog->isVisible());
+}
+
+void TestStrobeOutputColor::automaticWhiteBalance()
+{
+    SimulatedDevice camera;
+    const auto dialog = open(Color, &camera.device);
+    const auto wait = [&](int seconds) {
+        camera.camera.advance(seconds);
+        camera.map->Poll(1000 * seconds);
+    };
+    const auto follows = [&](const char *color) {
+        const QString value = camera.get(QByteArray(color) + "Coefficient");
+        return textOf(dialog, "lbl" + QByteArray(color) + "Coef") == value &&
+               shown(part(dialog, "spBox" + QByteArray(color))) == value;
+    };
+    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_End);
+    QCOMPARE(camera.get("BalanceWhiteAuto"), QStringLiteral("Continuous"));
+
+    const QString red = camera.get("RedCoefficient");
+    const QString blue = camera.get("BlueCoefficient");
+    for (int i = 0; i < 20; ++i) {
+        wait(1);
+        for (const char *color : {"Red", "Green", "Blue"})
+            QVERIFY2(follows(color), color);
+    }
+    QVERIFY(camera.get("RedCoefficient") != red);
+    QVERIFY(camera.get("BlueCoefficient") != blue);
+    QCOMPARE(camera.writes(), 1U);
+
+    // While the user holds a slider, what they hold stays; the statistics go on.
+    auto *spinBox = part<QtOrvSpinBox>(dialog, "spBoxRed");
+    QTest::mouseClick(spinBox->toolButton(), Qt::LeftButton);
+    QSlider *slider = inner(spinBox->slider());
+    press(slider);
+    moveTo(slider, QPoint(slider->width() / 2, slider->height() / 2));
+    const int held = spinBox->value();
+    QVERIFY(held > 1500);
+    wait(1);
+    QCOMPARE(spinBox->value(), held);
+    QCOMPARE(textOf(dialog, "lblRedCoef"), camera.get("RedCoefficient"));
+    QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
+    QTest::mouseRelease(slider, Qt::LeftButton, {},
+                        QPoint(slider->width() / 2, slider->height() / 2));
+    QCOMPARE(camera.get("RedCoefficient"), QString::number(held));
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QString::number(held));
+    QCOMPARE(camera.writes(), 2U);
+    wait(30);
+    QVERIFY(follows("Red"));
+    QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
+
+    // Once: back to off by itself.
+    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_Up);
+    wait(20);
+    wait(1);
+    QCOMPARE(part<QComboBox>(dialog, "cmBoxWhiteBalance")->currentText(), QStringLiteral("Off"));
+    QCOMPARE(camera.writes(), 3U);
+}
+
+void TestStrobeOutputColor::statisticsOfOtherCamera()
+{
+    SimulatedDevice first;
+    PoorDevice second;
+    second.set("RedCoefficient", "2222");
+    const auto dialog = open(Color, &first.device);
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("320"));
+    dialog->SetDevice(&second.device);
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("2222"));
+
+    first.set("RedCoefficient", "100");
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("2222"));
+    QCOMPARE(part<QtOrvSpinBox>(dialog, "spBoxRed")->value(), 2222);
+    QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
+    QCOMPARE(first.get("RedCoefficient"), QStringLiteral("100"));
+    QCOMPARE(second.get("RedCoefficient"), QStringLiteral("256"));
+
+    dialog->SetDevice(nullptr);
+    second.set("RedCoefficient", "300");
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("256"));
+    QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
+    QCOMPARE(second.get("RedCoefficient"), QStringLiteral("300"));
+}
+
+void TestStrobeOutputColor::coefficientBecomesUnavailable()
+{
+    OrvGenApi::MemoryNodeMap map;
+    OrvGenApi::MemoryInteger &red = map.addInteger("RedCoefficient", 300);
+    OrvGenApi::MemoryInteger &green = map.addInteger("GreenCoefficient", 310);
+    for (OrvGenApi::MemoryInteger *coefficient : {&red, &green})
+        coefficient->setLimits(0, 4095);
+    NodeMapDevice device(map);
+    const auto dialog = open(Color, &device);
+    const auto enabled = [&] {
+        QStringList names;
+        for (const char *name : {"spBoxRed", "pushBtnRedUnity", "spBoxGreen", "pushBtnGreenUnity",
+                                 "grBoxStatistics"}) {
+            if (part(dialog, name)->isEnabled())
+                names << QLatin1String(name);
+        }
+        return names.join(QLatin1Char(' '));
+    };
+    const QString all =
+        QStringLiteral("spBoxRed pushBtnRedUnity spBoxGreen pushBtnGreenUnity grBoxStatistics");
+    QCOMPARE(enabled(), all);
+    green.setAccessMode(GenApi::NA);
+    QCOMPARE(enabled(), QStringLiteral("spBoxRed pushBtnRedUnity grBoxStatistics"));
+    QCOMPARE(textOf(dialog, "lblGreenCoef"), QStringLiteral("310"));
+    red.setAccessMode(GenApi::RO);
+    QCOMPARE(enabled(), QString());
+    red.change(333);
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("333"));
+    red.setAccessMode(GenApi::RW);
+    green.setAccessMode(GenApi::RW);
+    QCOMPARE(enabled(), all);
+
+    // A camera that refuses: one box, and what the camera says next counts.
+    ErrorBoxes boxes;
+    red.onWrite([] { throw GenICam::AccessException("no", __FILE__, __LINE__); });
+    QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
+    QCOMPARE(boxes.texts.size(), 1);
+    QVERIFY(boxes.texts.first().startsWith(
+        QStringLiteral("Error while setting the RedCoefficient integer value!\r\nError Code: ")));
+    QCOMPARE(part<QtOrvSpinBox>(dialog, "spBoxRed")->value(), 256);
+    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("333"));
+    QCOMPARE(red.writes(), 1);
+}
+
+QTEST_MAIN(TestStrobeOutputColor)
+#include "tst_strobeoutputcolor.moc"
