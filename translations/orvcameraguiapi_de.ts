@@ -249,6 +249,251 @@ Rückgabewert: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>
+    <name>OrvCamConfigColorDialog</name>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>White Balance</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>Tracking Speed</source>
+        <translation>Nachführgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Red coef.:</source>
+        <translation>Koeff. Rot:</translation>
+    </message>
+    <message>
+        <source>4095</source>
+        <translation>4095</translation>
+    </message>
+    <message>
+        <source>Green coef.:</source>
+        <translation>Koeff. Grün:</translation>
+    </message>
+    <message>
+        <source>Blue coef.:</source>
+        <translation>Koeff. Blau:</translation>
+    </message>
+    <message>
+        <source>Manual WB Coef.</source>
+        <translation>Manuelle WA-Koeff.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Unity</source>
+        <translation>Auf 1</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Data Output</source>
+        <translation>Datenausgabe</translation>
+    </message>
+    <message>
+        <source>Camera Link Output</source>
+        <translation>Camera-Link-Ausgang</translation>
+    </message>
+    <message>
+        <source>Taps:</source>
+        <translation>Taps:</translation>
+    </message>
+    <message>
+        <source>Depth:</source>
+        <translation>Bittiefe:</translation>
+    </message>
+    <message>
+        <source>Pixel Type</source>
+        <translation>Pixeltyp</translation>
+    </message>
+    <message>
+        <source>Pixel Format:</source>
+        <translation>Pixelformat:</translation>
+    </message>
+    <message>
+        <source>LUT Settings</source>
+        <translation>LUT-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>DPC:</source>
+        <translation>DPC:</translation>
+    </message>
+    <message>
+        <source>HPC:</source>
+        <translation>HPC:</translation>
+    </message>
+    <message>
+        <source>Image Flip</source>
+        <translation>Bildspiegelung</translation>
+    </message>
+    <message>
+        <source>H.Mirror</source>
+        <translation>Horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>V.Mirror</source>
+        <translation>Vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>Test Mode</source>
+        <translation>Testmodus</translation>
+    </message>
+    <message>
+        <source>Test Pattern:</source>
+        <translation>Testbild:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigPulseDialog</name>
+    <message>
+        <source>Pulse Control</source>
+        <translation>Impulssteuerung</translation>
+    </message>
+    <message>
+        <source>Internal Pulse Generator</source>
+        <translation>Interner Impulsgenerator</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Granularity:</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Periode</translation>
+    </message>
+    <message>
+        <source>Freq. [Hz]:</source>
+        <translation>Freq. [Hz]:</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Ablauf</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S, Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S, Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Number of Pulses</source>
+        <translation>Anzahl der Impulse</translation>
+    </message>
+    <message>
+        <source>Continious</source>
+        <translation>Kontinuierlich</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Strobe Control</source>
+        <translation>Strobe-Steuerung</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation>Strobe 1</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modus:</translation>
+    </message>
+    <message>
+        <source>Reference:</source>
+        <translation>Bezug:</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation>Strobe 2</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Out1:</source>
+        <translation>Out1:</translation>
+    </message>
+    <message>
+        <source>Out2:</source>
+        <translation>Out2:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigTriggerDialog</name>
+    <message>
+        <source>Trigger Control</source>
+        <translation>Triggersteuerung</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Trigger Source:</source>
+        <translation>Triggerquelle:</translation>
+    </message>
+    <message>
+        <source>Edge:</source>
+        <translation>Flanke:</translation>
+    </message>
+    <message>
+        <source>Debounce:</source>
+        <translation>Entprellung:</translation>
+    </message>
+    <message>
+        <source>Software
+Trigger</source>
+        <translation>Software-
+Trigger</translation>
+    </message>
+</context>
+<context>
     <name>OrvCameraSelectorDialog</name>
     <message>
         <source>Select camera</source>
@@ -265,6 +510,66 @@ Rückgabewert: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>Set IP Address</source>
         <translation>IP-Adresse setzen</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigMapper</name>
+    <message>
+        <source>Error while setting the %1 integer value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Setzen des Ganzzahlwerts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Setzen des Aufzählungswerts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while executing the %1 command!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Ausführen des Befehls %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 boolean value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Setzen des booleschen Werts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Dyn.Thres.:</source>
+        <translation>Dyn. Schwelle:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigPulseDialog</name>
+    <message>
+        <source> [%1s]:</source>
+        <translation> [%1s]:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Delay [%1s]:</source>
+        <translation>Verzögerung [%1s]:</translation>
+    </message>
+    <message>
+        <source>Width [%1s]:</source>
+        <translation>Breite [%1s]:</translation>
     </message>
 </context>
 <context>

@@ -249,6 +249,251 @@ Exit status: 0 success, 1 failure, 2 wrong usage.</source>
     </message>
 </context>
 <context>
+    <name>OrvCamConfigColorDialog</name>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>White Balance</source>
+        <translation>ホワイトバランス</translation>
+    </message>
+    <message>
+        <source>Tracking Speed</source>
+        <translation>追従速度</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>Red coef.:</source>
+        <translation>赤係数:</translation>
+    </message>
+    <message>
+        <source>4095</source>
+        <translation>4095</translation>
+    </message>
+    <message>
+        <source>Green coef.:</source>
+        <translation>緑係数:</translation>
+    </message>
+    <message>
+        <source>Blue coef.:</source>
+        <translation>青係数:</translation>
+    </message>
+    <message>
+        <source>Manual WB Coef.</source>
+        <translation>手動 WB 係数</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Unity</source>
+        <translation>等倍</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Data Output</source>
+        <translation>データ出力</translation>
+    </message>
+    <message>
+        <source>Camera Link Output</source>
+        <translation>Camera Link 出力</translation>
+    </message>
+    <message>
+        <source>Taps:</source>
+        <translation>タップ数:</translation>
+    </message>
+    <message>
+        <source>Depth:</source>
+        <translation>ビット深度:</translation>
+    </message>
+    <message>
+        <source>Pixel Type</source>
+        <translation>ピクセルの種類</translation>
+    </message>
+    <message>
+        <source>Pixel Format:</source>
+        <translation>ピクセルフォーマット:</translation>
+    </message>
+    <message>
+        <source>LUT Settings</source>
+        <translation>LUT 設定</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>補正</translation>
+    </message>
+    <message>
+        <source>DPC:</source>
+        <translation>DPC:</translation>
+    </message>
+    <message>
+        <source>HPC:</source>
+        <translation>HPC:</translation>
+    </message>
+    <message>
+        <source>Image Flip</source>
+        <translation>画像反転</translation>
+    </message>
+    <message>
+        <source>H.Mirror</source>
+        <translation>水平反転</translation>
+    </message>
+    <message>
+        <source>V.Mirror</source>
+        <translation>垂直反転</translation>
+    </message>
+    <message>
+        <source>Test Mode</source>
+        <translation>テストモード</translation>
+    </message>
+    <message>
+        <source>Test Pattern:</source>
+        <translation>テストパターン:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigPulseDialog</name>
+    <message>
+        <source>Pulse Control</source>
+        <translation>パルス制御</translation>
+    </message>
+    <message>
+        <source>Internal Pulse Generator</source>
+        <translation>内部パルスジェネレーター</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>パルス幅</translation>
+    </message>
+    <message>
+        <source>Granularity:</source>
+        <translation>分解能:</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>周期</translation>
+    </message>
+    <message>
+        <source>Freq. [Hz]:</source>
+        <translation>周波数 [Hz]:</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S, Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S, Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Number of Pulses</source>
+        <translation>パルス数</translation>
+    </message>
+    <message>
+        <source>Continious</source>
+        <translation>連続</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>送信</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Strobe Control</source>
+        <translation>ストロボ制御</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation>ストロボ 1</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>モード:</translation>
+    </message>
+    <message>
+        <source>Reference:</source>
+        <translation>基準:</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation>ストロボ 2</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>Out1:</source>
+        <translation>Out1:</translation>
+    </message>
+    <message>
+        <source>Out2:</source>
+        <translation>Out2:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigTriggerDialog</name>
+    <message>
+        <source>Trigger Control</source>
+        <translation>トリガー制御</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Trigger Source:</source>
+        <translation>トリガーソース:</translation>
+    </message>
+    <message>
+        <source>Edge:</source>
+        <translation>エッジ:</translation>
+    </message>
+    <message>
+        <source>Debounce:</source>
+        <translation>デバウンス:</translation>
+    </message>
+    <message>
+        <source>Software
+Trigger</source>
+        <translation>ソフトウェア
+トリガー</translation>
+    </message>
+</context>
+<context>
     <name>OrvCameraSelectorDialog</name>
     <message>
         <source>Select camera</source>
@@ -265,6 +510,66 @@ Exit status: 0 success, 1 failure, 2 wrong usage.</source>
     <message>
         <source>Set IP Address</source>
         <translation>IP アドレスの設定</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigMapper</name>
+    <message>
+        <source>Error while setting the %1 integer value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>整数値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>列挙値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while executing the %1 command!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>コマンド %1 の実行中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 boolean value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>ブール値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Dyn.Thres.:</source>
+        <translation>動的閾値:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigPulseDialog</name>
+    <message>
+        <source> [%1s]:</source>
+        <translation> [%1s]:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Delay [%1s]:</source>
+        <translation>遅延 [%1s]:</translation>
+    </message>
+    <message>
+        <source>Width [%1s]:</source>
+        <translation>幅 [%1s]:</translation>
     </message>
 </context>
 <context>
