@@ -5,9 +5,14 @@
 #include <GenApi/GenApi.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
+#include <orvcamconfigcolordialog.h>
+#include <orvcamconfigframeabdialog.h>
+#include <orvcamconfigoutputdialog.h>
+#include <orvcamconfigpulsedialog.h>
+#include <orvcamconfigstrobedialog.h>
+#include <orvcamconfigtriggerdialog.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
-#include <qtorvspinbox.h>
 #include <setipdialog.h>
 
 #include <QtTest>
@@ -18,8 +23,9 @@ namespace {
 const QChar Open(0xab);  // «
 const QChar Close(0xbb); // »
 
-/// The words that no translation has: a boolean value, as Qt writes it in a cell.
-const QStringList names = {QStringLiteral("true"), QStringLiteral("false")};
+/// The words that no translation has: a boolean value, as Qt writes it in a cell, and the micro
+/// sign.
+const QStringList names = {QStringLiteral("true"), QStringLiteral("false"), QString(QChar(0x3bc))};
 
 QStringList translationFiles()
 {
@@ -131,6 +137,8 @@ private:
     OrvCam::Device *openCamera();
     QStringList strangers(const QStringList &texts) const;
     void check(const QWidget &window);
+    template<typename Dialog>
+    void checkDialog();
 
     OrvCam::System *m_system = nullptr;
     OrvCam::Device *m_device = nullptr;
@@ -306,6 +314,20 @@ void TestTranslations::check(const QWidget &window)
     m_strangers << strangers(texts);
 }
 
+/// Also with each of its toggle buttons pressed, which may change its text.
+template<typename Dialog>
+void TestTranslations::checkDialog()
+{
+    Dialog dialog(m_device, nullptr);
+    dialog.show();
+    check(dialog);
+    for (QPushButton *button : dialog.template findChildren<QPushButton *>()) {
+        if (button->isCheckable())
+            button->click();
+    }
+    check(dialog);
+}
+
 void TestTranslations::everyTextIsTranslated()
 {
     Marker marker;
@@ -348,10 +370,12 @@ void TestTranslations::everyTextIsTranslated()
             }
         }
     }
-    {
-        QtOrvSpinBox box;
-        check(box);
-    }
+    checkDialog<OrvGui::OrvCamConfigFrameABDialog>();
+    checkDialog<OrvGui::OrvCamConfigTriggerDialog>();
+    checkDialog<OrvGui::OrvCamConfigPulseDialog>();
+    checkDialog<OrvGui::OrvCamConfigStrobeDialog>();
+    checkDialog<OrvGui::OrvCamConfigOutputDialog>();
+    checkDialog<OrvGui::OrvCamConfigColorDialog>();
     qInfo("%d texts", m_checked);
     m_strangers.removeDuplicates();
     for (const QString &text : m_strangers)
