@@ -33,5 +33,6 @@ picture() {
     echo "$file"
 }
 echo "There is no display; these are pictures of the windows:"
+picture picker --simulate --window picker --camera SIM-0001
 picture features-basic --simulate
 picture features-guru --simulate --visibility guru

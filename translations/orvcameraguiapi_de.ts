@@ -2,14 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>DeviceTreeModel</name>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-</context>
-<context>
-    <name>FeatureSource</name>
+    <name>Cameras</name>
     <message>
         <source>No camera was found.</source>
         <translation>Es wurde keine Kamera gefunden.</translation>
@@ -22,6 +15,16 @@
         <source>There is no camera &apos;%1&apos;. Found: %2.</source>
         <translation>Es gibt keine Kamera „%1“. Gefunden: %2.</translation>
     </message>
+</context>
+<context>
+    <name>DeviceTreeModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureSource</name>
     <message>
         <source>somebody else has it open</source>
         <translation>ein anderes Programm hat sie geöffnet</translation>
@@ -49,10 +52,6 @@
     <message>
         <source>error code %1</source>
         <translation>Fehlercode %1</translation>
-    </message>
-    <message>
-        <source>The camera system cannot be started.</source>
-        <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
     </message>
     <message>
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
@@ -222,16 +221,6 @@
         <translation>Der Umfang: basic, expert oder guru.</translation>
     </message>
     <message>
-        <source>Save a picture of the window and exit.</source>
-        <translation>Ein Bild des Fensters speichern und beenden.</translation>
-    </message>
-    <message>
-        <source>Shows and changes the features of a camera.
-Exit status: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation>Zeigt und ändert die Parameter einer Kamera.
-Rückgabewert: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
-    </message>
-    <message>
         <source>There is no option &apos;%1&apos;.</source>
         <translation>Es gibt keine Option „%1“.</translation>
     </message>
@@ -244,8 +233,38 @@ Rückgabewert: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
         <translation>Eine Beschreibung wird ohne Kamera gezeigt: --xml steht allein.</translation>
     </message>
     <message>
-        <source>Say what to show: --simulate, --camera ID or --xml FILE.</source>
-        <translation>Bitte angeben, was gezeigt werden soll: --simulate, --camera ID oder --xml FILE.</translation>
+        <source>What to show first: the picker, in which the camera named by --camera is selected, or the tree, without --camera that of the first usable camera. The picker when neither --simulate nor --camera nor --xml says what to show, otherwise the tree.</source>
+        <translation>Was zuerst gezeigt wird: die Kameraauswahl (picker), in der die mit --camera genannte Kamera markiert ist, oder der Baum (tree), ohne --camera der der ersten verwendbaren Kamera. Ohne Angabe: die Kameraauswahl, wenn weder --simulate noch --camera noch --xml sagt, was zu zeigen ist, sonst der Baum.</translation>
+    </message>
+    <message>
+        <source>Print one camera a line and exit: the identifier (MAC address, or vendor and serial number), the name, the IPv4 address if it has one and the access (read-write, read-only, no-access, subnet-mismatch or unknown), with tabs between them.</source>
+        <translation>Je Zeile eine Kamera ausgeben und beenden: die Kennung (MAC-Adresse oder Hersteller und Seriennummer), der Name, die IPv4-Adresse, falls vorhanden, und der Zugriff (read-write, read-only, no-access, subnet-mismatch oder unknown), durch Tabulatoren getrennt.</translation>
+    </message>
+    <message>
+        <source>Save a picture of the first window and exit.</source>
+        <translation>Ein Bild des ersten Fensters speichern und beenden.</translation>
+    </message>
+    <message>
+        <source>Shows and changes the features of a camera, which is picked first.
+Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
+        <translation>Zeigt und ändert die Parameter einer Kamera, die zuerst ausgewählt wird.
+Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use tree or picker.</source>
+        <translation>Es gibt kein Fenster „%1“; möglich sind tree und picker.</translation>
+    </message>
+    <message>
+        <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
+        <translation>Es werden alle Kameras aufgelistet: --list-cameras steht allein oder mit --simulate.</translation>
+    </message>
+    <message>
+        <source>A description is shown without a camera: there is nothing to pick.</source>
+        <translation>Eine Beschreibung wird ohne Kamera gezeigt: Es gibt nichts auszuwählen.</translation>
+    </message>
+    <message>
+        <source>Say whose features to list: --simulate, --camera ID or --xml FILE.</source>
+        <translation>Bitte angeben, wessen Parameter aufgelistet werden sollen: --simulate, --camera ID oder --xml FILE.</translation>
     </message>
 </context>
 <context>
@@ -706,6 +725,14 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     <message>
         <source>The picture &apos;%1&apos; cannot be written.</source>
         <translation>Das Bild „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is gone.</source>
+        <translation>Die Kamera „%1“ ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The camera system cannot be started.</source>
+        <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
     </message>
 </context>
 <context>

@@ -2,14 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>DeviceTreeModel</name>
-    <message>
-        <source>Name</source>
-        <translation>名前</translation>
-    </message>
-</context>
-<context>
-    <name>FeatureSource</name>
+    <name>Cameras</name>
     <message>
         <source>No camera was found.</source>
         <translation>カメラが見つかりませんでした。</translation>
@@ -22,6 +15,16 @@
         <source>There is no camera &apos;%1&apos;. Found: %2.</source>
         <translation>カメラ「%1」はありません。見つかったカメラ: %2。</translation>
     </message>
+</context>
+<context>
+    <name>DeviceTreeModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureSource</name>
     <message>
         <source>somebody else has it open</source>
         <translation>ほかのプログラムが使用中です</translation>
@@ -49,10 +52,6 @@
     <message>
         <source>error code %1</source>
         <translation>エラーコード %1</translation>
-    </message>
-    <message>
-        <source>The camera system cannot be started.</source>
-        <translation>カメラシステムを起動できません。</translation>
     </message>
     <message>
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
@@ -222,16 +221,6 @@
         <translation>表示レベル: basic、expert または guru。</translation>
     </message>
     <message>
-        <source>Save a picture of the window and exit.</source>
-        <translation>ウィンドウの画像を保存して終了します。</translation>
-    </message>
-    <message>
-        <source>Shows and changes the features of a camera.
-Exit status: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation>カメラのパラメーターを表示および変更します。
-終了ステータス: 0 成功、1 失敗、2 使用方法の誤り。</translation>
-    </message>
-    <message>
         <source>There is no option &apos;%1&apos;.</source>
         <translation>オプション「%1」はありません。</translation>
     </message>
@@ -244,8 +233,38 @@ Exit status: 0 success, 1 failure, 2 wrong usage.</source>
         <translation>記述ファイルはカメラなしで表示されます。--xml は単独で指定してください。</translation>
     </message>
     <message>
-        <source>Say what to show: --simulate, --camera ID or --xml FILE.</source>
-        <translation>表示する対象を指定してください: --simulate、--camera ID または --xml FILE。</translation>
+        <source>What to show first: the picker, in which the camera named by --camera is selected, or the tree, without --camera that of the first usable camera. The picker when neither --simulate nor --camera nor --xml says what to show, otherwise the tree.</source>
+        <translation>最初に表示するもの: カメラの選択 (picker、--camera で指定したカメラが選択されます)、またはツリー (tree、--camera がなければ最初に使用できるカメラのもの)。省略時は、--simulate、--camera、--xml のいずれも指定されていなければカメラの選択、それ以外はツリーです。</translation>
+    </message>
+    <message>
+        <source>Print one camera a line and exit: the identifier (MAC address, or vendor and serial number), the name, the IPv4 address if it has one and the access (read-write, read-only, no-access, subnet-mismatch or unknown), with tabs between them.</source>
+        <translation>カメラを 1 行に 1 台ずつ出力して終了します。識別子 (MAC アドレス、またはベンダーとシリアル番号)、名前、IPv4 アドレス (ある場合)、アクセス状態 (read-write、read-only、no-access、subnet-mismatch または unknown) をタブで区切ります。</translation>
+    </message>
+    <message>
+        <source>Save a picture of the first window and exit.</source>
+        <translation>最初のウィンドウの画像を保存して終了します。</translation>
+    </message>
+    <message>
+        <source>Shows and changes the features of a camera, which is picked first.
+Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
+        <translation>最初に選択したカメラのパラメーターを表示および変更します。
+終了ステータス: 0 成功 (カメラを選択しなかった場合を含む)、1 失敗、2 使用方法の誤り。</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use tree or picker.</source>
+        <translation>ウィンドウ「%1」はありません。tree または picker を指定してください。</translation>
+    </message>
+    <message>
+        <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
+        <translation>すべてのカメラが一覧表示されます。--list-cameras は単独で、または --simulate と共に指定してください。</translation>
+    </message>
+    <message>
+        <source>A description is shown without a camera: there is nothing to pick.</source>
+        <translation>記述ファイルはカメラなしで表示されるため、選択するものがありません。</translation>
+    </message>
+    <message>
+        <source>Say whose features to list: --simulate, --camera ID or --xml FILE.</source>
+        <translation>パラメーターを一覧表示する対象を指定してください: --simulate、--camera ID または --xml FILE。</translation>
     </message>
 </context>
 <context>
@@ -706,6 +725,14 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     <message>
         <source>The picture &apos;%1&apos; cannot be written.</source>
         <translation>画像「%1」を書き込めません。</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is gone.</source>
+        <translation>カメラ「%1」は取り外されました。</translation>
+    </message>
+    <message>
+        <source>The camera system cannot be started.</source>
+        <translation>カメラシステムを起動できません。</translation>
     </message>
 </context>
 <context>

@@ -9,8 +9,6 @@
 
 #include <memory>
 
-struct Options;
-
 /// The features that the program shows, and what keeps them alive.
 class FeatureSource
 {
@@ -24,6 +22,9 @@ public:
     /// Where the features come from, for a window's title.
     virtual QString title() const = 0;
 
-    /// Opens what the options ask for. Null on failure, with `error` one line.
-    static std::unique_ptr<FeatureSource> open(const Options &options, QString *error);
+    /// Opens a camera, whose system must outlive it. Null on failure, with `error` one line.
+    static std::unique_ptr<FeatureSource> openCamera(OrvCam::DeviceInfo &camera, QString *error);
+
+    /// Reads a description. Null on failure, with `error` one line.
+    static std::unique_ptr<FeatureSource> openDescription(const QString &fileName, QString *error);
 };

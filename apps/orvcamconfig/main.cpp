@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "cameras.h"
 #include "featurelist.h"
 #include "featuresource.h"
 #include "options.h"
+#include "released.h"
 #include "translation.h"
 
+#include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
@@ -47,11 +51,13 @@ std::unique_ptr<QTemporaryDir> goWithoutDisplay()
     return runtimeFolder;
 }
 
-int printFeatures(const OrvGui::OrvGenParamTreeView &view)
+/// Gives `print` the standard output.
+template<typename Print>
+int printText(Print print)
 {
     QTextStream out(stdout);
     out.setCodec("UTF-8");
-    printFeatures(*view.treeView()->model(), out);
+    print(out);
     out.flush();
     return out.status() == QTextStream::Ok ? Success
                                            : fail(Failure, QObject::tr("The output failed."));
@@ -71,12 +77,97 @@ int takePicture(QWidget &window, const QString &fileName)
                  : fail(Failure, QObject::tr("The picture '%1' cannot be written.").arg(fileName));
 }
 
+int showFeatures(const FeatureSource &source, const Options &options)
+{
+    OrvGui::OrvGenParamTreeView view(source.nodeMap(), nullptr);
+    view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
+    if (options.listFeatures)
+        return printText([&](QTextStream &out) { printFeatures(*view.treeView()->model(), out); });
+
+    view.setWindowTitle(source.title());
+    view.resize(640, 800);
+    view.treeView()->expandToDepth(0);
+    if (!options.screenshot.isEmpty())
+        return takePicture(view, options.screenshot);
+    view.show();
+    return QApplication::exec();
+}
+
+int showDescription(const Options &options)
+{
+    QString error;
+    const auto source = FeatureSource::openDescription(options.description, &error);
+    return source ? showFeatures(*source, options) : fail(Failure, error);
+}
+
+int showCamera(OrvCam::System &system, const Options &options)
+{
+    QString error;
+    OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
+    const auto source = camera ? FeatureSource::openCamera(*camera, &error) : nullptr;
+    return source ? showFeatures(*source, options) : fail(Failure, error);
+}
+
+/// False when the picker has no such camera.
+bool select(const OrvGui::OrvCameraSelectorDialog &picker, const OrvCam::DeviceInfo &camera)
+{
+    auto *tree = picker.findChild<QTreeView *>(QStringLiteral("cameraTreeView"));
+    const QModelIndexList named = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole,
+                                                       QString::fromUtf8(camera.GetDisplayName()),
+                                                       -1, Qt::MatchExactly | Qt::MatchRecursive);
+    for (const QModelIndex &index : named) {
+        tree->setCurrentIndex(index);
+        if (picker.selectedCamera() == &camera)
+            return true;
+    }
+    return false;
+}
+
+/// Lets the user pick until a camera can be opened.
+int pickCamera(OrvCam::System &system, const Options &options)
+{
+    QString error;
+    const OrvCam::DeviceInfo *selected =
+        options.camera.isEmpty() ? nullptr : findCamera(system, options.camera, &error);
+    if (!options.camera.isEmpty() && !selected)
+        return fail(Failure, error);
+
+    OrvGui::OrvCameraSelectorDialog picker(&system);
+    if (selected && !select(picker, *selected))
+        return fail(Failure, QObject::tr("The camera '%1' is gone.").arg(options.camera));
+    if (!options.screenshot.isEmpty())
+        return takePicture(picker, options.screenshot);
+    while (picker.exec() == QDialog::Accepted) {
+        if (const auto source = FeatureSource::openCamera(*picker.selectedCamera(), &error))
+            return showFeatures(*source, options);
+        QMessageBox::critical(nullptr, QApplication::applicationName(), error);
+    }
+    return Success;
+}
+
+int run(const Options &options)
+{
+    if (!options.description.isEmpty())
+        return showDescription(options);
+
+    if (options.simulate)
+        qputenv("ORVCAM_SIMULATION", "1");
+    const Released<OrvCam::System> system(OrvCam_GetSystem());
+    if (!system)
+        return fail(Failure, QObject::tr("The camera system cannot be started."));
+    if (options.listCameras)
+        return printText([&](QTextStream &out) { printCameras(*system, out); });
+    return options.window == Options::Window::Picker ? pickCamera(*system, options)
+                                                     : showCamera(*system, options);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     std::unique_ptr<QTemporaryDir> runtimeFolder;
-    const bool isText = isGiven(argc, argv, "--list-features") || isGiven(argc, argv, "--help") ||
+    const bool isText = isGiven(argc, argv, "--list-features") ||
+                        isGiven(argc, argv, "--list-cameras") || isGiven(argc, argv, "--help") ||
                         isGiven(argc, argv, "-h") || isGiven(argc, argv, "--version");
     if (isText)
         runtimeFolder = goWithoutDisplay();
@@ -91,20 +182,5 @@ int main(int argc, char **argv)
     const Options options = Options::fromArguments(QApplication::arguments(), &error);
     if (!error.isEmpty())
         return fail(WrongUsage, error);
-    const std::unique_ptr<FeatureSource> source = FeatureSource::open(options, &error);
-    if (!source)
-        return fail(Failure, error);
-
-    OrvGui::OrvGenParamTreeView view(source->nodeMap(), nullptr);
-    view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
-    if (options.listFeatures)
-        return printFeatures(view);
-
-    view.setWindowTitle(source->title());
-    view.resize(640, 800);
-    view.treeView()->expandToDepth(0);
-    if (!options.screenshot.isEmpty())
-        return takePicture(view, options.screenshot);
-    view.show();
-    return QApplication::exec();
+    return run(options);
 }

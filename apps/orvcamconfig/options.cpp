@@ -16,6 +16,17 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
         QStringLiteral("xml"),
         tr("Show a GenICam description without a camera; its registers live in memory."),
         QStringLiteral("FILE"));
+    const QCommandLineOption window(
+        QStringLiteral("window"),
+        tr("What to show first: the picker, in which the camera named by --camera is selected, or "
+           "the tree, without --camera that of the first usable camera. The picker when neither "
+           "--simulate nor --camera nor --xml says what to show, otherwise the tree."),
+        QStringLiteral("tree|picker"));
+    const QCommandLineOption listCameras(
+        QStringLiteral("list-cameras"),
+        tr("Print one camera a line and exit: the identifier (MAC address, or vendor and serial "
+           "number), the name, the IPv4 address if it has one and the access (read-write, "
+           "read-only, no-access, subnet-mismatch or unknown), with tabs between them."));
     const QCommandLineOption list(
         QStringLiteral("list-features"),
         tr("Print the features as the tree shows them and exit: two blanks of indentation per "
@@ -24,13 +35,14 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
                                         tr("The level of detail: basic, expert or guru."),
                                         QStringLiteral("LEVEL"), levels.first());
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        tr("Save a picture of the window and exit."),
+                                        tr("Save a picture of the first window and exit."),
                                         QStringLiteral("FILE"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Shows and changes the features of a camera.\n"
-                                        "Exit status: 0 success, 1 failure, 2 wrong usage."));
-    parser.addOptions({simulate, camera, xml, list, visibility, screenshot});
+    parser.setApplicationDescription(
+        tr("Shows and changes the features of a camera, which is picked first.\n"
+           "Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage."));
+    parser.addOptions({simulate, camera, xml, window, listCameras, list, visibility, screenshot});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
 
@@ -45,20 +57,34 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
         parser.showHelp();
 
     options.simulate = parser.isSet(simulate);
+    options.listCameras = parser.isSet(listCameras);
     options.listFeatures = parser.isSet(list);
     options.camera = parser.value(camera);
     options.description = parser.value(xml);
     options.screenshot = parser.value(screenshot);
     options.visibility = levels.indexOf(parser.value(visibility));
+    const QString wanted = parser.value(window);
+    const bool isToldWhat = options.simulate || parser.isSet(camera) || parser.isSet(xml);
+    if (wanted == QLatin1String("picker") || (wanted.isEmpty() && !isToldWhat))
+        options.window = Window::Picker;
 
     if (!parser.positionalArguments().isEmpty())
         *error = tr("There is no option '%1'.").arg(parser.positionalArguments().first());
     else if (options.visibility < 0)
         *error = tr("There is no visibility '%1'; use basic, expert or guru.")
                      .arg(parser.value(visibility));
+    else if (parser.isSet(window) && wanted != QLatin1String("tree") &&
+             wanted != QLatin1String("picker"))
+        *error = tr("There is no window '%1'; use tree or picker.").arg(wanted);
+    else if (options.listCameras &&
+             (parser.isSet(camera) || parser.isSet(xml) || parser.isSet(window) ||
+              options.listFeatures || parser.isSet(screenshot)))
+        *error = tr("All cameras are listed: use --list-cameras alone or with --simulate.");
     else if (parser.isSet(xml) && (options.simulate || parser.isSet(camera)))
         *error = tr("A description is shown without a camera: use --xml alone.");
-    else if (!parser.isSet(xml) && !options.simulate && !parser.isSet(camera))
-        *error = tr("Say what to show: --simulate, --camera ID or --xml FILE.");
+    else if (parser.isSet(xml) && options.window == Window::Picker)
+        *error = tr("A description is shown without a camera: there is nothing to pick.");
+    else if (options.listFeatures && options.window == Window::Picker)
+        *error = tr("Say whose features to list: --simulate, --camera ID or --xml FILE.");
     return options;
 }

@@ -11,9 +11,14 @@ struct Options
     Q_DECLARE_TR_FUNCTIONS(Options)
 
 public:
+    enum class Window { Tree, Picker };
+
+    Window window = Window::Tree; ///< the first to be shown
     bool simulate = false;
+    bool listCameras = false;
     bool listFeatures = false;
-    QString camera;      ///< identifier, serial number or name; empty for the first usable one
+    QString
+        camera; ///< identifier, serial number or name; in the tree, empty for the first usable one
     QString description; ///< file name; empty for a camera
     QString screenshot;  ///< file name; empty for none
     int visibility = 0;  ///< 0 Basic, 1 Expert, 2 Guru

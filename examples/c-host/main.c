@@ -1,18 +1,20 @@
 /* SPDX-License-Identifier: MIT */
 /*
  * A program that knows nothing of Qt: it makes its windows with Xlib and shows the features of a
- * camera in one of them.
+ * camera in one of them. README.md says what it has to do for that.
+ *
+ *   c-host             the first camera that can be controlled
+ *   c-host --simulate  a simulated one
  */
-#include "camera.h"
-
 #include <orvcameraguiapi.h>
 
 #include <X11/Xlib.h>
 #include <glib-unix.h>
 #include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
 
-enum { HEADER_HEIGHT = 40, MARGIN = 8 };
+enum { HEADER_HEIGHT = 40, MARGIN = 8, SEARCH_MS = 200 };
 
 typedef struct
 {
@@ -71,7 +73,7 @@ static void drawHeader(Host *host)
                 (int)strlen(text));
 }
 
-static void handleEvent(Host *host, XEvent *event)
+static void handleEvent(Host *host, const XEvent *event)
 {
     switch (event->type) {
     case Expose:
@@ -81,7 +83,8 @@ static void handleEvent(Host *host, XEvent *event)
         layOut(host, event->xconfigure.width, event->xconfigure.height);
         break;
     case ClientMessage:
-        if ((Atom)event->xclient.data.l[0] == host->deleteWindow)
+        if (event->xclient.window == host->window &&
+            (Atom)event->xclient.data.l[0] == host->deleteWindow)
             host->closed = 1;
         break;
     default:
@@ -120,26 +123,52 @@ static void run(Host *host)
     }
 }
 
-int main(void)
+static OrvCamDevice *openCamera(OrvCamSystem *system)
 {
+    OrvCam_RefreshDevices(system, SEARCH_MS);
+    for (uint32_t i = 0; i < OrvCam_GetDeviceCount(system); ++i) {
+        OrvCamDeviceInfo *info = OrvCam_GetDeviceInfo(system, i);
+        if (OrvCam_GetAccessState(info) != OrvCam_AccessReadWrite)
+            continue;
+        int32_t error = OrvCam_Success;
+        OrvCamDevice *device = OrvCam_CreateDevice(info, &error, OrvCam_AccessControl);
+        if (device)
+            return device;
+        fprintf(stderr, "c-host: %s: error %d\n", OrvCam_GetDisplayName(info), (int)error);
+    }
+    return NULL;
+}
+
+static void showCamera(Host *host, OrvCamDevice *camera)
+{
+    OrvGuiParamTreeView *tree = CreateGenParamTreeViewForArrayA(OrvCam_GetParamArray(camera, NULL),
+                                                                "Features", host->panel);
+    run(host);
+    DestroyGenParamTreeView(tree); /* before what it shows and where it lives */
+}
+
+int main(int argc, char **argv)
+{
+    if (argc > 1 && strcmp(argv[1], "--simulate") == 0)
+        setenv("ORVCAM_SIMULATION", "1", 1);
+    setenv("QT_QPA_PLATFORM", "xcb", 1); /* Qt must speak X, too, also in a Wayland session */
+
     Host host;
     memset(&host, 0, sizeof host);
     if (!openWindow(&host)) {
         fprintf(stderr, "c-host: no X display\n");
         return 1;
     }
-    Camera *camera = openCamera();
-    if (!camera) {
-        fprintf(stderr, "c-host: no camera\n");
-        return 1;
-    }
 
-    OrvGuiParamTreeView *tree =
-        CreateGenParamTreeViewForArrayA(cameraParameters(camera), "Features", host.panel);
-    run(&host);
-    DestroyGenParamTreeView(tree); /* before what it shows and where it lives */
+    OrvCamSystem *system = OrvCam_GetSystem();
+    OrvCamDevice *camera = openCamera(system);
+    if (camera)
+        showCamera(&host, camera);
+    else
+        fprintf(stderr, "c-host: no camera that can be controlled\n");
 
-    closeCamera(camera);
+    OrvCam_ReleaseDevice(camera);
+    OrvCam_ReleaseSystem(system);
     XCloseDisplay(host.display);
-    return 0;
+    return camera ? 0 : 1;
 }

@@ -7,6 +7,20 @@
 
 namespace OrvCam {
 
+namespace {
+
+/// Nothing is lost when it is not released: not everybody does that with a list that is of no use.
+class EmptyList final : public DeviceInfoList
+{
+public:
+    uint32_t GetCount() const override { return 0; }
+    DeviceInfo *GetFirst() override { return nullptr; }
+    DeviceInfo *GetNext() override { return nullptr; }
+    void Release() override {}
+};
+
+} // namespace
+
 CameraInterface::CameraInterface(CameraSystem &system, std::string description,
                                  int32_t transportKind)
     : m_system(system), m_description(std::move(description)), m_transportKind(transportKind)
@@ -62,6 +76,9 @@ int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
 
 DeviceInfoList *CameraInterface::GetDeviceInfoSet()
 {
+    static EmptyList none;
+    if (m_present.empty())
+        return &none;
     return new EntryList<DeviceInfoList, DeviceInfo>({m_present.begin(), m_present.end()});
 }
 

@@ -63,4 +63,19 @@ InterfaceList *CameraSystem::GetInterfaceSet(uint32_t typeMask)
     return new EntryList<InterfaceList, Interface>(std::move(wanted));
 }
 
+int32_t CameraSystem::refreshDevices(uint32_t timeoutMs)
+{
+    int32_t firstError = Success;
+    std::vector<DeviceInfo *> found;
+    for (CameraInterface *interface : interfaces()) {
+        const int32_t error = interface->RefreshDevices(nullptr, timeoutMs);
+        if (error == Success)
+            found.insert(found.end(), interface->present().begin(), interface->present().end());
+        else if (firstError == Success)
+            firstError = error;
+    }
+    m_devices = std::move(found);
+    return firstError;
+}
+
 } // namespace OrvCam

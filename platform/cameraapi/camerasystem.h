@@ -24,9 +24,19 @@ public:
     InterfaceList *GetInterfaceSet(uint32_t typeMask) override;
     void Release() override;
 
+    /// Looks for cameras on every interface. Returns the first error; it does not keep the cameras
+    /// of other interfaces from being found.
+    int32_t refreshDevices(uint32_t timeoutMs);
+
+    /// What `refreshDevices` found, interface by interface.
+    const std::vector<DeviceInfo *> &devices() const { return m_devices; }
+
 protected:
     /// All interfaces that are there at this moment, always in the same order.
     virtual std::vector<CameraInterface *> interfaces() = 0;
+
+private:
+    std::vector<DeviceInfo *> m_devices;
 };
 
 } // namespace OrvCam

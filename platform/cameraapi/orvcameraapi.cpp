@@ -4,6 +4,7 @@
 #include "camerasystem.h"
 #include "devicerecord.h"
 
+#include <OrvGenParam.h>
 #include <aravis/aravissystem.h>
 #include <simulation/simulatedsystem.h>
 
@@ -11,6 +12,33 @@
 #include <cstring>
 
 namespace {
+
+// What C programs and C++ programs call the same.
+constexpr bool equal(int32_t c, int32_t cpp)
+{
+    return c == cpp;
+}
+static_assert(equal(OrvCam_Success, OrvCam::Success) &&
+                  equal(OrvCam_ErrorFailed, OrvCam::ErrorFailed) &&
+                  equal(OrvCam_ErrorInvalidArgument, OrvCam::ErrorInvalidArgument) &&
+                  equal(OrvCam_ErrorNotFound, OrvCam::ErrorNotFound) &&
+                  equal(OrvCam_ErrorNotAvailable, OrvCam::ErrorNotAvailable) &&
+                  equal(OrvCam_ErrorAccessDenied, OrvCam::ErrorAccessDenied) &&
+                  equal(OrvCam_ErrorOutOfRange, OrvCam::ErrorOutOfRange) &&
+                  equal(OrvCam_ErrorTimeout, OrvCam::ErrorTimeout) &&
+                  equal(OrvCam_ErrorBusy, OrvCam::ErrorBusy) &&
+                  equal(OrvCam_ErrorGone, OrvCam::ErrorGone) &&
+                  equal(OrvCam_ErrorWrongSubnet, OrvCam::ErrorWrongSubnet) &&
+                  equal(OrvCam_ErrorBadDescription, OrvCam::ErrorBadDescription),
+              "error codes differ");
+static_assert(equal(OrvCam_AccessUnknown, OrvCam::AccessUnknown) &&
+                  equal(OrvCam_AccessReadWrite, OrvCam::AccessReadWrite) &&
+                  equal(OrvCam_AccessReadOnly, OrvCam::AccessReadOnly) &&
+                  equal(OrvCam_AccessNone, OrvCam::AccessNone) &&
+                  equal(OrvCam_AccessSubnetMismatch, OrvCam::AccessSubnetMismatch) &&
+                  equal(OrvCam_AccessMonitor, OrvCam::AccessMonitor) &&
+                  equal(OrvCam_AccessControl, OrvCam::AccessControl),
+              "access codes differ");
 
 bool isSimulationWanted()
 {
@@ -25,22 +53,140 @@ std::shared_ptr<OrvCam::CameraSystem> makeSystem()
     return std::make_shared<OrvAravis::AravisSystem>();
 }
 
+void store(int32_t *error, int32_t code)
+{
+    if (error)
+        *error = code;
+}
+
+// Only systems and records of this library can do what is asked for here.
+OrvCam::CameraSystem *ours(OrvCamSystem *system)
+{
+    return dynamic_cast<OrvCam::CameraSystem *>(system);
+}
+
+template<class Handle, class Value>
+Value get(const Handle *handle, Value (Handle::*getter)() const)
+{
+    return handle ? (handle->*getter)() : Value();
+}
+
 } // namespace
 
 OrvCamSystem *OrvCam_GetSystem(void)
 {
-    return OrvCam::CameraSystem::acquire(makeSystem);
+    try {
+        return OrvCam::CameraSystem::acquire(makeSystem);
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+void OrvCam_ReleaseSystem(OrvCamSystem *system)
+{
+    if (system)
+        system->Release();
+}
+
+int32_t OrvCam_RefreshDevices(OrvCamSystem *system, uint32_t timeoutMs)
+{
+    try {
+        OrvCam::CameraSystem *known = ours(system);
+        return known ? known->refreshDevices(timeoutMs) : OrvCam_ErrorInvalidArgument;
+    } catch (...) {
+        return OrvCam_ErrorFailed;
+    }
+}
+
+uint32_t OrvCam_GetDeviceCount(OrvCamSystem *system)
+{
+    const OrvCam::CameraSystem *known = ours(system);
+    return known ? static_cast<uint32_t>(known->devices().size()) : 0;
+}
+
+OrvCamDeviceInfo *OrvCam_GetDeviceInfo(OrvCamSystem *system, uint32_t index)
+{
+    return index < OrvCam_GetDeviceCount(system) ? ours(system)->devices()[index] : nullptr;
+}
+
+const char *OrvCam_GetDisplayName(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetDisplayName);
+}
+
+const char *OrvCam_GetVendor(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetVendor);
+}
+
+const char *OrvCam_GetModel(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetModel);
+}
+
+const char *OrvCam_GetSerial(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetSerial);
+}
+
+const char *OrvCam_GetVersionText(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetVersionText);
+}
+
+const char *OrvCam_GetUserName(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetUserName);
+}
+
+const char *OrvCam_GetId(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetId);
+}
+
+const char *OrvCam_GetInterfaceDescription(const OrvCamDeviceInfo *info)
+{
+    return info ? info->GetInterface()->GetDescription() : nullptr;
+}
+
+int32_t OrvCam_GetAccessState(const OrvCamDeviceInfo *info)
+{
+    return get(info, &OrvCamDeviceInfo::GetAccessState);
 }
 
 OrvCamDevice *OrvCam_CreateDevice(OrvCamDeviceInfo *deviceInfo, int32_t *error, int32_t accessMode)
 {
-    int32_t code = OrvCam::ErrorInvalidArgument;
+    int32_t code = OrvCam_ErrorInvalidArgument;
     OrvCam::Device *device = nullptr;
-    // Only records of this library can be opened.
-    auto *record = dynamic_cast<OrvCam::DeviceRecord *>(deviceInfo);
-    if (record && (accessMode == OrvCam::AccessMonitor || accessMode == OrvCam::AccessControl))
-        device = record->open(accessMode, code);
-    if (error)
-        *error = code;
+    try {
+        auto *record = dynamic_cast<OrvCam::DeviceRecord *>(deviceInfo);
+        if (record && (accessMode == OrvCam_AccessMonitor || accessMode == OrvCam_AccessControl))
+            device = record->open(accessMode, code);
+    } catch (...) {
+        code = OrvCam_ErrorFailed;
+    }
+    store(error, code);
     return device;
+}
+
+void OrvCam_ReleaseDevice(OrvCamDevice *device)
+{
+    if (device)
+        device->Release();
+}
+
+OrvGenParamArray *OrvCam_GetParamArray(OrvCamDevice *device, int32_t *error)
+{
+    if (device)
+        return device->GetParamArray(error);
+    store(error, OrvCam_ErrorInvalidArgument);
+    return nullptr;
+}
+
+OrvGenApiNodeMap *OrvGenParam_GetNodeMap(const OrvGenParamArray *array, int32_t *error)
+{
+    if (array)
+        return array->GetNodeMap(error);
+    store(error, OrvCam_ErrorInvalidArgument);
+    return nullptr;
 }

@@ -48,6 +48,16 @@ QSize HostWindow::size() const
     return geometry ? QSize(geometry->width, geometry->height) : QSize();
 }
 
+QRect HostWindow::area() const
+{
+    if (!m_connection)
+        return QRect();
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    const Owned<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
+        m_connection, xcb_translate_coordinates(m_connection, m_window, root, 0, 0), nullptr));
+    return origin ? QRect(QPoint(origin->dst_x, origin->dst_y), size()) : QRect();
+}
+
 void HostWindow::listen()
 {
     const uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QObject>
-#include <QSize>
+#include <QRect>
 
 #include <cstdint>
 
@@ -10,7 +10,7 @@ struct xcb_connection_t;
 
 namespace OrvGui {
 
-/// Tells the size of an X window that belongs to somebody else, which Qt does not.
+/// Tells the place and size of an X window that belongs to somebody else, which Qt does not.
 ///
 /// Asks the default display on a connection of its own; the window's owner, another toolkit or
 /// another process, notices nothing of that. Silent for a window that does not exist, and on a
@@ -25,6 +25,9 @@ public:
 
     /// In device pixels; invalid when unknown.
     QSize size() const;
+
+    /// On the screen, in device pixels; invalid when unknown.
+    QRect area() const;
 
 signals:
     /// In device pixels. Emitted from Qt's event loop.

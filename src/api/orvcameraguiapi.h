@@ -27,13 +27,9 @@
 
 #ifdef __cplusplus
 #include "iorvgenparamtreeview.h"
-typedef GenApi::INodeMap OrvGenApiNodeMap;
-typedef OrvGenParam::Array OrvGenParamArray;
 typedef OrvGui::IOrvGenParamTreeView OrvGuiParamTreeView;
 extern "C" {
 #else
-typedef struct OrvGenApiNodeMap OrvGenApiNodeMap;
-typedef struct OrvGenParamArray OrvGenParamArray;
 typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
 #endif
 

@@ -2,21 +2,54 @@
 #include "selectcamera.h"
 
 #include "applicationbootstrap.h"
+#include "hostwindow.h"
 #include "orvcameraselectordialog.h"
 #include "treeviewparent.h"
 
+#include <QScreen>
+
+#include <memory>
+
 namespace OrvGui {
+
+namespace {
+
+/// Puts the dialog in the middle of the host's window. Its container, the dialog's parent, is
+/// hidden and somewhere else.
+void center(QDialog &dialog, const QRect &devicePixels)
+{
+    if (!devicePixels.isValid())
+        return;
+    const QWindow &window = *dialog.windowHandle();
+    const QRect screen = window.screen()->availableVirtualGeometry();
+    const QPoint middle = devicePixels.center() / window.devicePixelRatio();
+    dialog.resize(dialog.size().expandedTo(dialog.minimumSizeHint()));
+    const QPoint place = middle - dialog.rect().center();
+    dialog.move(qBound(screen.left(), place.x(), screen.right() - dialog.width()),
+                qBound(screen.top(), place.y(), screen.bottom() - dialog.height()));
+}
+
+} // namespace
 
 OrvCam::DeviceInfo *SelectCamera(OrvCam::System *system, const QString &title,
                                  unsigned long parentWindow)
 {
     ensureApplication();
-    TreeViewParent holder; // outlives the dialog
-    if (parentWindow)
-        holder.wrap(parentWindow);
+    TreeViewParent host; // outlives the dialog, as does the following
+    std::unique_ptr<QWindow> hostWindow;
+    if (parentWindow) {
+        host.wrap(parentWindow);
+        // A second one: that in the container is no window of its own any more.
+        hostWindow.reset(QWindow::fromWinId(static_cast<WId>(parentWindow)));
+    }
 
-    OrvCameraSelectorDialog dialog(system, holder.container);
+    OrvCameraSelectorDialog dialog(system, host.container);
     dialog.setWindowTitle(title);
+    if (hostWindow) {
+        dialog.winId(); // makes the native window
+        dialog.windowHandle()->setTransientParent(hostWindow.get());
+        center(dialog, host.hostWindow->area());
+    }
     return dialog.exec() == QDialog::Accepted ? dialog.selectedCamera() : nullptr;
 }
 

@@ -223,6 +223,28 @@ QModelIndex GenParamTreeModelPrivate::findIndexByValueClass(const GenApi::IValue
     return q->createIndex(place.ancestors.back().second, nameColumn, place.ancestors.back().first);
 }
 
+QModelIndex GenParamTreeModelPrivate::parentOf(const GenApi::IValue *value) const
+{
+    const auto known = parents.find(value);
+    if (known == parents.end())
+        return findIndexByValueClass(value, -1, QModelIndex());
+    const Parent &parent = known->second;
+    return parent.value ? q->createIndex(parent.row, nameColumn, parent.value) : QModelIndex();
+}
+
+void GenParamTreeModelPrivate::fillParents(const GenApi::ICategory &category,
+                                           GenApi::IValue *parent, int parentRow)
+{
+    GenApi::FeatureList_t features;
+    category.GetFeatures(features);
+    for (size_t row = 0; row < features.size(); ++row) {
+        GenApi::IValue *feature = features[row];
+        parents.emplace(feature, Parent{parent, parentRow});
+        if (feature->GetNode()->GetPrincipalInterfaceType() == GenApi::intfICategory)
+            fillParents(*GenApi::CCategoryPtr(feature), feature, static_cast<int>(row));
+    }
+}
+
 QVariant GenParamTreeModelPrivate::nameData(const QModelIndex &index, GenApi::INode *node,
                                             int role) const
 {
@@ -310,6 +332,19 @@ bool GenParamTreeModelPrivate::write(GenApi::IValue *value, const QVariant &data
     }
 }
 
+// GenParamTreeModel::ParentTable
+
+GenParamTreeModel::ParentTable::ParentTable(const GenParamTreeModel &model) : m_model(model)
+{
+    if (const GenApi::CCategoryPtr root = model.d->CategoryFromIndex(QModelIndex()))
+        model.d->fillParents(*root, nullptr, -1);
+}
+
+GenParamTreeModel::ParentTable::~ParentTable()
+{
+    m_model.d->parents.clear();
+}
+
 // GenParamTreeModel
 
 GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent)
@@ -350,7 +385,7 @@ QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &par
 QModelIndex GenParamTreeModel::parent(const QModelIndex &index) const
 {
     const GenApi::IValue *value = GenParamTreeModelPrivate::valueFromIndex(index);
-    return value ? d->findIndexByValueClass(value, -1, QModelIndex()) : QModelIndex();
+    return value ? d->parentOf(value) : QModelIndex();
 }
 
 int GenParamTreeModel::rowCount(const QModelIndex &parent) const

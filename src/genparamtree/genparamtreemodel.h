@@ -35,6 +35,21 @@ class GenParamTreeModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
+    /// While one lives, the model answers `parent` from a table instead of by a search from the
+    /// root. For an operation that asks for very many parents, and during which no category changes
+    /// its features. Must not outlive the model.
+    class ParentTable
+    {
+    public:
+        explicit ParentTable(const GenParamTreeModel &model);
+        ~ParentTable();
+        ParentTable(const ParentTable &) = delete;
+        ParentTable &operator=(const ParentTable &) = delete;
+
+    private:
+        const GenParamTreeModel &m_model;
+    };
+
     explicit GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent = nullptr);
 
     /// Works on the node map that the array comes from.

@@ -5,6 +5,7 @@
 
 #include <GenApi/GenApi.h>
 
+#include <unordered_map>
 #include <vector>
 
 /// Private part of `GenParamTreeModel`, and the client of its node callbacks.
@@ -29,6 +30,12 @@ public:
     QModelIndex findIndexByValueClass(const GenApi::IValue *value, int column,
                                       const QModelIndex &parent) const;
 
+    /// The parent index of a feature's first occurrence.
+    QModelIndex parentOf(const GenApi::IValue *value) const;
+
+    /// Notes where everything in a category has its parent, first occurrences first.
+    void fillParents(const GenApi::ICategory &category, GenApi::IValue *parent, int parentRow);
+
     QVariant nameData(const QModelIndex &index, GenApi::INode *node, int role) const;
     static QVariant valueData(GenApi::IValue *value, int role);
 
@@ -38,7 +45,15 @@ public:
     /// False for a kind of feature that cannot be written.
     static bool write(GenApi::IValue *value, const QVariant &data);
 
+    /// A category with its own row; null for the root.
+    struct Parent
+    {
+        GenApi::IValue *value;
+        int row;
+    };
+
     GenParamTreeModel *q = nullptr;
     GenApi::INodeMap *nodeMap = nullptr;
     std::vector<GenApi::CallbackHandleType> callbackHandles;
+    std::unordered_map<const GenApi::IValue *, Parent> parents; ///< empty but for a `ParentTable`
 };

@@ -100,6 +100,7 @@ public:
     void setModel(Source *source);
     void setModel(std::nullptr_t);
     void setSpanForChildren(const QModelIndex &parent);
+    void forgetExpandedLeaves(const QModelIndex &parent);
     void describeCurrent();
 
     void saveState();
@@ -179,8 +180,11 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     ui->treeView->setModel(proxy);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
-    QObject::connect(ui->cbVisibility,
-                     static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged), proxy,
+    const auto levelChanged =
+        static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
+    QObject::connect(ui->cbVisibility, levelChanged, proxy,
+                     [this] { forgetExpandedLeaves(QModelIndex()); });
+    QObject::connect(ui->cbVisibility, levelChanged, proxy,
                      &GenParamTreeVisibilityFilterProxyModel::setFilterVisibility);
     halveColumns();
     setSpanForChildren(QModelIndex());
@@ -196,6 +200,21 @@ void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
             continue;
         ui->treeView->setFirstColumnSpanned(row, parent, true);
         setSpanForChildren(index);
+    }
+}
+
+// `QTreeView::expandAll` remembers leaves as expanded, too. That can be seen nowhere, but makes
+// each change of the level cost the square of their number.
+void OrvGenParamTreeViewPrivate::forgetExpandedLeaves(const QModelIndex &parent)
+{
+    const QAbstractItemModel *model = ui->treeView->model();
+    const int rows = model->rowCount(parent);
+    for (int row = 0; row < rows; ++row) {
+        const QModelIndex index = model->index(row, nameColumn, parent);
+        if (isCategory(index))
+            forgetExpandedLeaves(index);
+        else if (ui->treeView->isExpanded(index))
+            ui->treeView->collapse(index);
     }
 }
 

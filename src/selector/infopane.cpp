@@ -27,15 +27,25 @@ void InfoPane::clear()
     const int width = m_view->columnWidth(labelColumn);
     if (width != 0)
         m_width = width;
-    m_view->setModel(nullptr);
+    setModel(nullptr);
     facts->deleteLater();
+}
+
+void InfoPane::setModel(QAbstractItemModel *facts)
+{
+    m_view->setModel(facts);
+    // The view and its header leave the selection models that they had behind.
+    for (QItemSelectionModel *selection : m_view->findChildren<QItemSelectionModel *>()) {
+        if (selection != m_view->selectionModel())
+            delete selection;
+    }
 }
 
 void InfoPane::show(QStandardItemModel *facts)
 {
     clear();
     facts->setParent(m_view);
-    m_view->setModel(facts);
+    setModel(facts);
     const int mean = (m_view->columnWidth(labelColumn) + m_view->columnWidth(valueColumn)) / 2;
     m_view->setColumnWidth(labelColumn, m_width != 0 ? m_width : mean);
 }
@@ -52,6 +62,7 @@ void InfoPane::add(QStandardItemModel *facts, const QString &label, const QStrin
                    bool isWrong)
 {
     auto *valueItem = new QStandardItem(value);
+    valueItem->setToolTip(value); // the column may be too narrow for it
     if (isWrong)
         valueItem->setBackground(QBrush(Qt::red));
     facts->appendRow({new QStandardItem(label), valueItem});

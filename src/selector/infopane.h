@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QAbstractItemModel;
 class QStandardItemModel;
 class QTreeView;
 
@@ -27,6 +28,8 @@ public:
                     bool isWrong = false);
 
 private:
+    void setModel(QAbstractItemModel *facts);
+
     QTreeView *m_view;
     int m_width = 0; ///< of the labels' column, when something was shown last
 };

@@ -174,16 +174,15 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
         ui->buttonBox->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
     QObject::connect(rescanButton, &QPushButton::clicked, &life, [this] { rescan(); });
 
-    QObject::connect(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged, &life,
-                     [this](const QModelIndex &current) {
+    QObject::connect(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged,
+                     &life, [this](const QModelIndex &current) {
                          FillInfo(current);
                          updateButtons();
                      });
     QObject::connect(ui->cameraTreeView, &QTreeView::activated, okButton, &QPushButton::click);
     QObject::connect(ui->cameraTreeView, &QTreeView::customContextMenuRequested, &life,
                      [this](const QPoint &position) { showContextMenu(position); });
-    QObject::connect(ui->cameraTreeView, &QTreeView::collapsed, model,
-                     &CameraTreeModel::collapsed);
+    QObject::connect(ui->cameraTreeView, &QTreeView::collapsed, model, &CameraTreeModel::collapsed);
     QObject::connect(model, &DeviceTreeModel::modelReset, &life, [this] { expandAll(); });
 }
 

@@ -8,6 +8,7 @@
 namespace {
 
 const unsigned int LowestAddress = 0x01000000;
+const int TextMargin = 20; // pixels around the text of a line edit, its frame included
 
 /// Its text can still be selected and copied.
 void makeLookDisabled(QLineEdit *edit)
@@ -15,6 +16,13 @@ void makeLookDisabled(QLineEdit *edit)
     QPalette palette = edit->palette();
     palette.setBrush(QPalette::Base, palette.color(QPalette::Disabled, QPalette::Base));
     edit->setPalette(palette);
+}
+
+/// The widest MAC address, too, is seen whole.
+void widen(QLineEdit *edit)
+{
+    const QString widest = macAddressText(0xDDDDDDDDDDDD);
+    edit->setMinimumWidth(edit->fontMetrics().size(0, widest).width() + TextMargin);
 }
 
 unsigned int addressIn(const QLineEdit *edit)
@@ -32,8 +40,10 @@ void setAddress(QLineEdit *edit, unsigned int address)
 SetIpDialog::SetIpDialog(QWidget *parent) : QDialog(parent), ui(new Ui_SetIpDialog)
 {
     ui->setupUi(this);
-    for (QLineEdit *edit : {ui->macAddressLineEdit, ui->nicMacLineEdit, ui->nicIpLineEdit,
-                            ui->nicSubnetMaskLineEdit})
+    for (QLineEdit *edit : findChildren<QLineEdit *>())
+        widen(edit);
+    for (QLineEdit *edit :
+         {ui->macAddressLineEdit, ui->nicMacLineEdit, ui->nicIpLineEdit, ui->nicSubnetMaskLineEdit})
         makeLookDisabled(edit);
     for (QLineEdit *edit :
          {ui->ipAddressLineEdit, ui->subnetMaskLineEdit, ui->defaultGatewayLineEdit})

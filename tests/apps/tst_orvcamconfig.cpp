@@ -36,6 +36,7 @@ private slots:
     void listsFeatures_data();
     void listsFeatures();
     void listsASimulatedCamera();
+    void listsCameras();
     void failures_data();
     void failures();
     void savesPictures();
@@ -103,6 +104,29 @@ void TestOrvCamConfig::listsASimulatedCamera()
     QVERIFY2(named.out.contains("Device Serial Number\tSIM-0002\n"), qPrintable(named.err));
 }
 
+void TestOrvCamConfig::listsCameras()
+{
+    const Result result = run({"--simulate", "--list-cameras"});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.err, QString());
+    QVERIFY2(result.out.startsWith(
+                 "Simulated-SIM-0001\tDualFrame 12M (SIM-0001)\t192.0.2.21\tread-write\n"),
+             qPrintable(result.out));
+    QVERIFY(result.out.contains("\t169.254.7.21\tsubnet-mismatch\n"));
+    QVERIFY(result.out.contains("\tno-access\n"));
+    QVERIFY(result.out.contains("(Microscope)\t\tread-only\n"));
+    QVERIFY(result.out.contains(QString::fromUtf8("\xE6\xA4\x9C\xE6\x9F\xBB")));
+    QVERIFY(result.out.endsWith("\tunknown\n"));
+    const QStringList lines = result.out.trimmed().split('\n');
+    QCOMPARE(lines.size(), 10);
+    for (const QString &line : lines)
+        QCOMPARE(line.count('\t'), 3);
+    // What comes first in a line names the camera for the other options.
+    const QString id = lines.at(1).section('\t', 0, 0);
+    const Result named = run({"--simulate", "--list-features", "--camera", id});
+    QVERIFY2(named.out.contains("Device Serial Number\tSIM-0002\n"), qPrintable(named.err));
+}
+
 void TestOrvCamConfig::failures_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -111,7 +135,16 @@ void TestOrvCamConfig::failures_data()
     const auto xml = [this](const char *name) {
         return QStringList({"--list-features", "--xml", m_folder.filePath(name)});
     };
-    QTest::newRow("nothing to show") << QStringList() << 2 << "--simulate";
+    QTest::newRow("nothing to list") << QStringList("--list-features") << 2 << "--simulate";
+    QTest::newRow("window") << QStringList({"--window", "door"}) << 2 << "door";
+    QTest::newRow("no window") << QStringList({"--simulate", "--window", ""}) << 2 << "window";
+    QTest::newRow("picked description")
+        << QStringList({"--xml", "a.xml", "--window", "picker"}) << 2 << "pick";
+    QTest::newRow("one of all cameras")
+        << QStringList({"--simulate", "--list-cameras", "--camera", "a"}) << 2 << "--list-cameras";
+    QTest::newRow("unknown camera to select")
+        << QStringList({"--simulate", "--window", "picker", "--camera", "Nobody"}) << 1
+        << "There is no camera 'Nobody'. Found: ";
     QTest::newRow("unknown option") << QStringList("--nonsense") << 2 << "nonsense";
     QTest::newRow("stray word") << QStringList({"--simulate", "stray"}) << 2 << "stray";
     QTest::newRow("visibility") << QStringList({"--simulate", "--visibility", "all"}) << 2 << "all";
@@ -146,18 +179,25 @@ void TestOrvCamConfig::failures()
 
 void TestOrvCamConfig::savesPictures()
 {
-    const QString fileName = m_folder.filePath("tree.png");
-    const Result result = run({"--xml", m_folder.filePath("sample.xml"), "--screenshot", fileName});
-    QCOMPARE(result.status, 0);
-    const QImage picture(fileName);
-    QVERIFY(picture.width() > 300 && picture.height() > 300);
-    // A window with something in it has more than a handful of colours.
-    QSet<QRgb> colours;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            colours << picture.pixel(x, y);
+    const QStringList picker = {"--simulate", "--window", "picker"};
+    QList<QImage> pictures;
+    for (const QStringList &arguments : {QStringList({"--xml", m_folder.filePath("sample.xml")}),
+                                         picker, picker + QStringList({"--camera", "SIM-0002"})}) {
+        const QString fileName = m_folder.filePath(QString::number(pictures.size()) + ".png");
+        const Result result = run(arguments + QStringList({"--screenshot", fileName}));
+        QCOMPARE(result.status, 0);
+        const QImage picture(fileName);
+        QVERIFY(picture.width() > 300 && picture.height() > 300);
+        // A window with something in it has more than a handful of colours.
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                colours << picture.pixel(x, y);
+        }
+        QVERIFY(colours.size() > 20);
+        QVERIFY(!pictures.contains(picture));
+        pictures << picture;
     }
-    QVERIFY(colours.size() > 20);
 }
 
 QTEST_GUILESS_MAIN(TestOrvCamConfig)

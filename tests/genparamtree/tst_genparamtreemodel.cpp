@@ -27,6 +27,15 @@ QString nameOf(const QModelIndex &index)
     return index.sibling(index.row(), 0).data().toString();
 }
 
+/// All cells below an index.
+void collect(const QAbstractItemModel &model, const QModelIndex &parent, QModelIndexList &indexes)
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        indexes << model.index(row, 0, parent) << model.index(row, 1, parent);
+        collect(model, model.index(row, 0, parent), indexes);
+    }
+}
+
 } // namespace
 
 class TestGenParamTreeModel : public QObject
@@ -37,6 +46,7 @@ private slots:
     void structure();
     void emptyModels();
     void featureListedTwice();
+    void parentTable();
     void names();
     void values_data();
     void values();
@@ -129,6 +139,28 @@ void TestGenParamTreeModel::featureListedTwice()
     QCOMPARE(changes.count(), 2);
     for (const QList<QVariant> &change : changes)
         QCOMPARE(change.at(0).toModelIndex(), first);
+}
+
+// The table says what a search says, also of a feature in two places, and only while it lives.
+void TestGenParamTreeModel::parentTable()
+{
+    SampleNodeMap map;
+    map.addCategory("Favourites").addFeature(map.number("Gain"));
+    const GenParamTreeModel model(&map);
+    QModelIndexList indexes;
+    collect(model, QModelIndex(), indexes);
+    QVERIFY(indexes.size() > 40);
+    QModelIndexList parents;
+    for (const QModelIndex &index : indexes)
+        parents << index.parent();
+    {
+        const GenParamTreeModel::ParentTable table(model);
+        for (int i = 0; i < indexes.size(); ++i)
+            QCOMPARE(indexes.at(i).parent(), parents.at(i));
+    }
+    map.addInteger("Late", 1, "Favourites");
+    QCOMPARE(nameOf(valueCell(model, QStringLiteral("Late")).parent()),
+             QStringLiteral("Favourites"));
 }
 
 void TestGenParamTreeModel::names()

@@ -20,6 +20,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <numeric>
 #include <random>
 #include <stdexcept>
 #include <thread>
@@ -96,6 +97,8 @@ private slots:
     void takenAwayByItsOwnWrite();
     void changedOnAnotherThread();
     void transactions();
+    void readsOnlyWhatIsSeen();
+    void levelOfALargeTree();
 };
 
 void TestOrvGenParamTreeView::form()
@@ -795,6 +798,79 @@ void TestOrvGenParamTreeView::transactions()
     for (int i = 8; i >= 0; --i)
         scroll(end * i / 8);
     QCOMPARE(reads(), scrolled);
+}
+
+// Feature by feature: a row that was on screen has been read, any other has not.
+void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
+{
+    OrvGenApi::MemoryNodeMap map("Many");
+    std::vector<OrvGenApi::MemoryInteger *> features;
+    map.addCategory("All");
+    for (int i = 0; i < 300; ++i)
+        features.push_back(&map.addInteger("Feature" + std::to_string(i), i, "All"));
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    QTRY_VERIFY(features.front()->reads() > 0);
+    QTest::qWait(50);
+
+    QTreeView &tree = driver.tree();
+    const auto isOnScreen = [&](size_t i) {
+        const QModelIndex cell = driver.cell(features[i]->GetName().c_str());
+        return tree.viewport()->rect().intersects(tree.visualRect(cell));
+    };
+    std::vector<int> reads;
+    size_t seen = 0;
+    for (size_t i = 0; i < features.size(); ++i) {
+        reads.push_back(features[i]->reads());
+        QCOMPARE(reads.back() > 0, isOnScreen(i));
+        seen += isOnScreen(i) ? 1 : 0;
+    }
+    QVERIFY(seen > 10 && seen < 100);
+
+    const auto total = [&features] {
+        return std::accumulate(features.begin(), features.end(), 0,
+                               [](int sum, const auto *feature) { return sum + feature->reads(); });
+    };
+    const int before = total();
+    QCOMPARE(before, static_cast<int>(seen));
+    view.hide();
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    for (int y = 5; y < tree.viewport()->height(); y += 15)
+        QTest::mouseMove(view.windowHandle(), tree.viewport()->mapTo(&view, QPoint(300, y)));
+    view.resize(800, 600);
+    tree.viewport()->repaint();
+    QTest::qWait(50);
+    QCOMPARE(total(), before);
+}
+
+// What a change of the level costs must not be the product of the rows that go and those that are
+// expanded: that is minutes here.
+void TestOrvGenParamTreeView::levelOfALargeTree()
+{
+    OrvGenApi::MemoryNodeMap map("Large");
+    for (int i = 0; i < 100; ++i)
+        map.addCategory("Category" + std::to_string(i));
+    for (int i = 0; i < 5000; ++i) {
+        map.addInteger("Feature" + std::to_string(i), i, "Category" + std::to_string(i % 100))
+            .properties()
+            .visibility = static_cast<GenApi::EVisibility>(i / 100 % 3);
+    }
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+
+    QElapsedTimer timer;
+    timer.start();
+    view.setVisibility(OrvGui::Basic);
+    view.setVisibility(OrvGui::Guru);
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    const QAbstractItemModel &model = *driver.tree().model();
+    for (const int row : {0, 99}) {
+        QVERIFY(driver.tree().isExpanded(model.index(row, 0)));
+        QCOMPARE(model.rowCount(model.index(row, 0)), 50);
+    }
 }
 
 QTEST_MAIN(TestOrvGenParamTreeView)

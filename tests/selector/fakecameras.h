@@ -90,8 +90,8 @@ class FakeLists
 {
 public:
     std::vector<Entry *> entries;
-    bool isNull = false;   ///< hand out no list at all
-    int countedAhead = 0;  ///< how many entries more than there are the list pretends to have
+    bool isNull = false;  ///< hand out no list at all
+    int countedAhead = 0; ///< how many entries more than there are the list pretends to have
     int handedOut = 0;
     int released = 0;
 
@@ -117,8 +117,7 @@ private:
 
         uint32_t GetCount() const override
         {
-            return static_cast<uint32_t>(static_cast<int>(m_entries.size()) +
-                                         m_owner.countedAhead);
+            return static_cast<uint32_t>(static_cast<int>(m_entries.size()) + m_owner.countedAhead);
         }
         Entry *GetFirst() override
         {

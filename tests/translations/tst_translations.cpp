@@ -244,8 +244,8 @@ void TestTranslations::programSpeaksTheLanguage_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("text");
 
-    const QString english = "Save a picture of the window and exit.";
-    const QString german = "Ein Bild des Fensters speichern und beenden.";
+    const QString english = "The level of detail: basic, expert or guru.";
+    const QString german = "Der Umfang: basic, expert oder guru.";
     QTest::newRow("none") << ""
                           << "C.UTF-8" << english;
     QTest::newRow("German") << ""
@@ -254,7 +254,7 @@ void TestTranslations::programSpeaksTheLanguage_data()
                               << "de_AT.UTF-8" << german;
     QTest::newRow("Japanese") << ""
                               << "ja_JP.UTF-8"
-                              << QString::fromUtf8("ウィンドウの画像を保存して終了します。");
+                              << QString::fromUtf8("表示レベル: basic、expert または guru。");
     QTest::newRow("one without a translation") << ""
                                                << "fr_FR.UTF-8" << english;
     QTest::newRow("German as the second choice") << "fr:de"

@@ -9,8 +9,8 @@ namespace OrvCam {
 
 class DeviceInfo;
 
-/// A list of camera records. Belongs to the caller, who releases it; the entries belong to the
-/// system.
+/// A list of camera records. Belongs to the caller, who releases it (an empty one need not be); the
+/// entries belong to the system.
 class ORVCAMERAAPI_EXPORT DeviceInfoList
 {
 public:

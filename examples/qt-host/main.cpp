@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+//
+// A Qt program with two feature trees side by side, here of two simulated cameras. It saves what is
+// expanded, the column widths and the levels when its window is closed, and restores them the next
+// time.
+//
+//   qt-host [SETTINGS.ini]
+#include "twotrees.h"
+
+#include <OrvCam.h>
+
+#include <QApplication>
+#include <QSettings>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+struct Release
+{
+    template<class T>
+    void operator()(T *object) const
+    {
+        object->Release();
+    }
+};
+
+using SystemPtr = std::unique_ptr<OrvCam::System, Release>;
+using DevicePtr = std::unique_ptr<OrvCam::Device, Release>;
+
+/// The first cameras that can be controlled.
+std::vector<DevicePtr> openCameras(OrvCam::System *system, std::size_t count)
+{
+    std::vector<DevicePtr> devices;
+    OrvCam_RefreshDevices(system, 200);
+    for (uint32_t i = 0; i < OrvCam_GetDeviceCount(system) && devices.size() < count; ++i) {
+        OrvCam::DeviceInfo *info = OrvCam_GetDeviceInfo(system, i);
+        if (info->GetAccessState() != OrvCam::AccessReadWrite)
+            continue;
+        if (auto *device = OrvCam_CreateDevice(info, nullptr, OrvCam::AccessControl))
+            devices.emplace_back(device);
+    }
+    devices.resize(count);
+    return devices;
+}
+
+OrvGenParam::Array *parametersOf(const DevicePtr &device)
+{
+    return device ? device->GetParamArray() : nullptr;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("OrvCameraGuiApi"));
+    QApplication::setApplicationName(QStringLiteral("qt-host"));
+
+    qputenv("ORVCAM_SIMULATION", "1"); // leave this out to see real cameras
+    const SystemPtr system(OrvCam_GetSystem());
+    const std::vector<DevicePtr> cameras = openCameras(system.get(), 2);
+
+    const QStringList arguments = QApplication::arguments();
+    std::unique_ptr<QSettings> settings(arguments.size() > 1
+                                            ? new QSettings(arguments.at(1), QSettings::IniFormat)
+                                            : new QSettings);
+    // Declared last: the trees must go before the cameras.
+    TwoTrees window(parametersOf(cameras[0]), parametersOf(cameras[1]), *settings);
+    window.setWindowTitle(QApplication::translate("main", "Two cameras"));
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "twotrees.h"
+
+#include <orvgenparamtreeview.h>
+
+#include <QHBoxLayout>
+#include <QSettings>
+#include <QSplitter>
+
+#include <stdexcept>
+
+namespace {
+
+const char leftKey[] = "trees/left";
+const char rightKey[] = "trees/right";
+const char geometryKey[] = "geometry";
+
+} // namespace
+
+TwoTrees::TwoTrees(OrvGenParam::Array *left, OrvGenParam::Array *right, QSettings &settings)
+    : m_left(new OrvGui::OrvGenParamTreeView(left, this))
+    , m_right(new OrvGui::OrvGenParamTreeView(right, this))
+    , m_settings(settings)
+{
+    auto *splitter = new QSplitter;
+    splitter->addWidget(m_left);
+    splitter->addWidget(m_right);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(splitter);
+
+    resize(1000, 640);
+    restoreGeometry(m_settings.value(QLatin1String(geometryKey)).toByteArray());
+    // Before the trees are shown for the first time: then they keep the restored column widths.
+    restore(*m_left, QLatin1String(leftKey));
+    restore(*m_right, QLatin1String(rightKey));
+}
+
+void TwoTrees::restore(OrvGui::OrvGenParamTreeView &tree, const QString &key)
+{
+    try {
+        tree.loadState(m_settings.value(key).toByteArray().constData());
+    } catch (const std::logic_error &) {
+        // Somebody has edited the settings; the tree looks as it does without them.
+    }
+}
+
+void TwoTrees::closeEvent(QCloseEvent *event)
+{
+    m_settings.setValue(QLatin1String(leftKey), QByteArray(m_left->saveState()));
+    m_settings.setValue(QLatin1String(rightKey), QByteArray(m_right->saveState()));
+    m_settings.setValue(QLatin1String(geometryKey), saveGeometry());
+    QWidget::closeEvent(event);
+}

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "ccalls.h"
+
+#include <Base/GCException.h>
+#include <memorynodemap.h>
+#include <xwindow.h>
+
+#include <QApplication>
+#include <QTreeView>
+#include <QWidget>
+#include <QWindow>
+#include <QtTest>
+
+using OrvGui::IOrvGenParamTreeView;
+
+namespace {
+
+QWidget &widget(IOrvGenParamTreeView *view)
+{
+    return dynamic_cast<QWidget &>(*view);
+}
+
+QTreeView &tree(IOrvGenParamTreeView *view)
+{
+    return *widget(view).findChild<QTreeView *>();
+}
+
+/// Features in two categories, at two levels.
+struct Features : OrvGenApi::MemoryNodeMap
+{
+    Features() : MemoryNodeMap("Features")
+    {
+        addCategory("First");
+        addInteger("Width", 640, "First");
+        addCategory("Second").properties().visibility = GenApi::Expert;
+        addString("Name", "name", "Second");
+    }
+};
+
+/// Fails when a tree wants to follow its features.
+struct BrokenFeatures : Features
+{
+    GenApi::INode *GetNode(const GenICam::gcstring &) const override
+    {
+        throw GenICam::RuntimeException("broken", __FILE__, __LINE__);
+    }
+};
+
+} // namespace
+
+/// The library as a program uses it that is not a Qt program; hence no application is made here.
+class TestOrvCameraGuiApi : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void makesTheApplication();
+    void titles_data();
+    void titles();
+    void operations();
+    void sourcesWithoutFeatures();
+    void insideAnotherWindow();
+    void twoInOneProgram();
+    void windowThatIsNotThere();
+
+private:
+    bool shows(xcb_window_t panel, IOrvGenParamTreeView *view)
+    {
+        const QImage expected = widget(view).grab().toImage();
+        return m_screen.picture(panel) == expected.convertToFormat(QImage::Format_RGB32);
+    }
+
+    XView m_screen;
+};
+
+// Whatever a test has opened has gone without a trace.
+void TestOrvCameraGuiApi::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    QVERIFY(QGuiApplication::topLevelWindows().isEmpty());
+}
+
+void TestOrvCameraGuiApi::makesTheApplication()
+{
+    qputenv("ORVCAM_SIMULATION", "1");
+    QVERIFY(!QCoreApplication::instance());
+    closeTreeInC(nullptr);
+    QVERIFY(!QCoreApplication::instance());
+
+    OrvCamSystem *system = OrvCam_GetSystem();
+    OrvCam_RefreshDevices(system, 200);
+    OrvCamDevice *device =
+        OrvCam_CreateDevice(OrvCam_GetDeviceInfo(system, 0), nullptr, OrvCam_AccessControl);
+    IOrvGenParamTreeView *first = openTreeInC(OrvCam_GetParamArray(device, nullptr), 0);
+    const auto *application = qobject_cast<QApplication *>(QCoreApplication::instance());
+    QVERIFY(application);
+    QCOMPARE(widget(first).windowTitle(), QStringLiteral("Paramètres"));
+    QVERIFY(QTest::qWaitForWindowExposed(&widget(first)));
+    QVERIFY(tree(first).model()->rowCount() > 5);
+
+    IOrvGenParamTreeView *second = openTreeInC(nullptr, 0);
+    QCOMPARE(QCoreApplication::instance(), application);
+    QVERIFY(!tree(second).model());
+    closeTreeInC(first);
+    closeTreeInC(second);
+    OrvCam_ReleaseDevice(device);
+    OrvCam_ReleaseSystem(system);
+    QCOMPARE(QCoreApplication::instance(), application);
+}
+
+void TestOrvCameraGuiApi::titles_data()
+{
+    QTest::addColumn<QByteArray>("narrow");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("none") << QByteArray() << QString();
+    QTest::newRow("empty") << QByteArray("") << QString();
+    QTest::newRow("latin") << QByteArray("Camera 1") << QStringLiteral("Camera 1");
+    QTest::newRow("others") << QByteArray("Камера 参数 \xf0\x9f\x93\xb7")
+                            << QStringLiteral("Камера 参数 \U0001F4F7");
+}
+
+void TestOrvCameraGuiApi::titles()
+{
+    QFETCH(QByteArray, narrow);
+    QFETCH(QString, title);
+    const auto check = [&title](IOrvGenParamTreeView *view) {
+        QCOMPARE(widget(view).windowTitle(), title);
+        QVERIFY(widget(view).isVisible());
+        DestroyGenParamTreeView(view);
+    };
+    Features map;
+    const char *text = narrow.isNull() ? nullptr : narrow.constData();
+    check(CreateGenParamTreeViewForNodemapA(&map, text, 0));
+    check(CreateGenParamTreeViewForArrayA(nullptr, text, 0));
+
+    const std::wstring wide = title.toStdWString();
+    const wchar_t *wideText = narrow.isNull() ? nullptr : wide.c_str();
+    check(openWideTreeInC(&map, wideText));
+    check(CreateGenParamTreeViewForArrayW(nullptr, wideText, 0));
+}
+
+void TestOrvCameraGuiApi::operations()
+{
+    Features map;
+    IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "", 0);
+    QCOMPARE(view->visibility(), OrvGui::Basic);
+    QCOMPARE(tree(view).model()->rowCount(), 1);
+    view->setVisibility(OrvGui::Expert);
+    QCOMPARE(tree(view).model()->rowCount(), 2);
+
+    view->loadState("Second&lt;&amp;W123&amp;V1");
+    QCOMPARE(view->saveState(), "Second&lt;&amp;W123&amp;V1");
+    const char *saved = view->saveState();
+    QCOMPARE(QByteArray(saved), QByteArray(view->saveState()));
+
+    view->clearParams();
+    QCOMPARE(view->saveState(), "");
+    view->setParams(&map);
+    QCOMPARE(tree(view).model()->rowCount(), 2);
+    view->setParams(static_cast<OrvGenParam::Array *>(nullptr));
+    QVERIFY(!tree(view).model());
+    DestroyGenParamTreeView(view);
+}
+
+void TestOrvCameraGuiApi::sourcesWithoutFeatures()
+{
+    OrvGenApi::MemoryNodeMap empty("Empty");
+    BrokenFeatures broken;
+    for (GenApi::INodeMap *source :
+         {static_cast<GenApi::INodeMap *>(&empty), static_cast<GenApi::INodeMap *>(&broken),
+          static_cast<GenApi::INodeMap *>(nullptr)}) {
+        IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(source, "Nothing", 0);
+        QVERIFY(widget(view).isVisible());
+        QCOMPARE(tree(view).model() ? tree(view).model()->rowCount() : 0, 0);
+        DestroyGenParamTreeView(view);
+    }
+}
+
+// The picture of the host's window is that of the tree, whatever size the host gives it.
+void TestOrvCameraGuiApi::insideAnotherWindow()
+{
+    const quint32 hostColour = 0xff205080;
+    const quint32 panelColour = 0xff00ff00;
+    QVERIFY(m_screen.isConnected());
+    const xcb_window_t host =
+        m_screen.makeWindow(m_screen.screen().root, QRect(0, 0, 700, 500), hostColour);
+    const xcb_window_t panel = m_screen.makeWindow(host, QRect(20, 30, 600, 400), panelColour);
+    QTRY_COMPARE(m_screen.picture(panel).pixel(599, 399), panelColour);
+
+    Features map;
+    IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "Inside", panel);
+    tree(view).expandAll();
+    QTRY_VERIFY(shows(panel, view));
+    QCOMPARE(widget(view).size(), QSize(600, 400));
+    for (const QSize &size : {QSize(660, 460), QSize(500, 300)}) {
+        m_screen.resize(panel, size);
+        QTRY_COMPARE(widget(view).size(), size);
+        QTRY_VERIFY(shows(panel, view));
+    }
+
+    // The host's windows are where they were, and the host still paints what is its own.
+    QCOMPARE(m_screen.children(host), QList<xcb_window_t>{panel});
+    QCOMPARE(m_screen.geometry(panel), QRect(20, 30, 500, 300));
+    QCOMPARE(m_screen.picture(host).pixel(19, 29), hostColour);
+    QCOMPARE(m_screen.picture(host).pixel(521, 331), hostColour);
+
+    DestroyGenParamTreeView(view);
+    QTRY_VERIFY(m_screen.children(panel).isEmpty());
+    QTRY_COMPARE(m_screen.picture(panel).pixel(250, 150), panelColour);
+    m_screen.destroy(host);
+}
+
+void TestOrvCameraGuiApi::twoInOneProgram()
+{
+    const xcb_window_t left =
+        m_screen.makeWindow(m_screen.screen().root, QRect(0, 0, 350, 500), 0xff);
+    const xcb_window_t right =
+        m_screen.makeWindow(m_screen.screen().root, QRect(360, 0, 350, 500), 0xff);
+    Features map;
+    Features otherMap;
+    IOrvGenParamTreeView *first = CreateGenParamTreeViewForNodemapA(&map, "1", left);
+    IOrvGenParamTreeView *second = CreateGenParamTreeViewForNodemapA(&otherMap, "2", right);
+    second->setVisibility(OrvGui::Guru);
+    QTRY_VERIFY(shows(left, first));
+    QTRY_VERIFY(shows(right, second));
+    DestroyGenParamTreeView(first);
+    m_screen.resize(right, QSize(300, 300));
+    QTRY_COMPARE(widget(second).size(), QSize(300, 300));
+    QTRY_VERIFY(shows(right, second));
+    DestroyGenParamTreeView(second);
+    m_screen.destroy(left);
+    m_screen.destroy(right);
+}
+
+// Hosts make mistakes. They get a tree that cannot be seen.
+void TestOrvCameraGuiApi::windowThatIsNotThere()
+{
+    Features map;
+    DestroyGenParamTreeView(CreateGenParamTreeViewForNodemapA(&map, "", 0x7ffffff));
+
+    const xcb_window_t window =
+        m_screen.makeWindow(m_screen.screen().root, QRect(0, 0, 300, 300), 0xff);
+    IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "", window);
+    QTRY_VERIFY(shows(window, view));
+    m_screen.destroy(window);
+    QTest::qWait(50);
+    dynamic_cast<OrvGenApi::MemoryInteger &>(*map.GetNode("Width")).change(320);
+    DestroyGenParamTreeView(view);
+}
+
+QTEST_APPLESS_MAIN(TestOrvCameraGuiApi)
+#include "tst_orvcameraguiapi.moc"

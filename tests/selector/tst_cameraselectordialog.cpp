@@ -1,0 +1,549 @@
+// SPDX-License-Identifier: MIT
+#include "fakecameras.h"
+#include "modalvisitor.h"
+#include "orvcameraselectordialog.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTreeView>
+#include <QtTest>
+
+using namespace OrvCam;
+
+/// The picker on a camera system that does what it is told: how it opens, what its panes and
+/// buttons show, and what it asks of the system.
+class TestCameraSelectorDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_dialog.reset(); }
+    void opens();
+    void looksOncePerExpansion();
+    void accessStates_data();
+    void accessStates();
+    void interfaceKinds();
+    void panes();
+    void unreadableRows();
+    void columnWidths();
+    void rescan();
+    void listsThatLie();
+    void contextMenu();
+    void proposedAddress_data();
+    void proposedAddress();
+    void forcesAddress();
+    void warnsOfBadAddress();
+    void forcingFails_data();
+    void forcingFails();
+
+private:
+    void open();
+    QTreeView *tree() { return m_dialog->findChild<QTreeView *>("cameraTreeView"); }
+    QTreeView *interfacePane() { return m_dialog->findChild<QTreeView *>("interfaceInfoTreeView"); }
+    QTreeView *devicePane() { return m_dialog->findChild<QTreeView *>("deviceInfoTreeView"); }
+    QPushButton *setIpButton() { return m_dialog->findChild<QPushButton *>("setIpBtn"); }
+    QPushButton *okButton();
+    QPushButton *rescanButton();
+    QModelIndex interfaceRow(int row) { return tree()->model()->index(row, 0); }
+    QModelIndex camera(int interface, int row)
+    {
+        return tree()->model()->index(row, 0, interfaceRow(interface));
+    }
+    QModelIndex networkCamera(int row) { return camera(0, row); }
+    bool force(const QList<ModalVisitor::Action> &dialogs);
+
+    std::unique_ptr<FakeParameters> m_parameters;
+    std::unique_ptr<FakeInterface> m_network;
+    std::unique_ptr<FakeInterface> m_usb;
+    std::unique_ptr<FakeInterface> m_empty;
+    std::unique_ptr<FakeInterface> m_unlisted;
+    std::unique_ptr<FakeSystem> m_system;
+    std::unique_ptr<OrvGui::OrvCameraSelectorDialog> m_dialog;
+};
+
+namespace {
+
+/// What a pane shows, as "label: value".
+QStringList facts(const QTreeView *pane)
+{
+    QStringList rows;
+    const QAbstractItemModel *model = pane->model();
+    for (int row = 0; model && row < model->rowCount(); ++row)
+        rows << model->index(row, 0).data().toString() + ": " +
+                    model->index(row, 1).data().toString();
+    return rows;
+}
+
+QLineEdit *field(const QDialog &dialog, const char *name)
+{
+    return dialog.findChild<QLineEdit *>(name);
+}
+
+void accept(QDialog &dialog)
+{
+    dialog.accept();
+}
+
+/// Presses a button of a message, which must be that one.
+ModalVisitor::Action message(const QString &title, const QString &text,
+                             QMessageBox::StandardButtons buttons,
+                             QMessageBox::StandardButton pressed)
+{
+    return [=](QDialog &dialog) {
+        auto &box = dynamic_cast<QMessageBox &>(dialog);
+        QCOMPARE(box.windowTitle(), title);
+        QCOMPARE(box.text(), text);
+        QCOMPARE(box.icon(), QMessageBox::Critical);
+        QCOMPARE(box.standardButtons(), buttons);
+        QVERIFY(box.isModal());
+        box.button(pressed)->click();
+    };
+}
+
+ModalVisitor::Action failureMessage()
+{
+    return message("Set IP Address", "Can't set IP address", QMessageBox::Ok, QMessageBox::Ok);
+}
+
+ModalVisitor::Action warning(QMessageBox::StandardButton pressed)
+{
+    return message("IP Configuration Warning",
+                   "Specified IP Configuraion is not correct, camera may become undiscoverable\n"
+                   "Press OK to skip the IP Configuration, or press Ignore to confirm",
+                   QMessageBox::Ok | QMessageBox::Ignore, pressed);
+}
+
+} // namespace
+
+void TestCameraSelectorDialog::init()
+{
+    m_parameters.reset(new FakeParameters);
+    m_parameters->values = {{"DeviceSelector", 0},
+                            {"GevInterfaceMACAddress", 0xFF02000000000A},
+                            {"GevInterfaceSubnetIPAddress", 0xC0A8010A},
+                            {"GevInterfaceSubnetMask", 0xFFFFFF00},
+                            {"GevDeviceMACAddress", 0x001B2C3D4E5F},
+                            {"GevDeviceIPAddress", 0xA9FE0715},
+                            {"GevDeviceSubnetMask", 0xFFFF0000},
+                            {"GevDeviceGateway", 0},
+                            {"GevDeviceForceIPAddress", 0},
+                            {"GevDeviceForceSubnetMask", 0},
+                            {"GevDeviceForceGateway", 0xC0A801FE},
+                            {"GevDeviceForceIP", 0}};
+    m_network.reset(new FakeInterface("Network", TransportGigEVision));
+    m_network->parameters = m_parameters.get();
+    m_network->version = "2.1";
+    m_network->add("Near");
+    FakeCamera &far = m_network->add("Far", AccessSubnetMismatch);
+    far.vendor = "Fern & S\xC3\xB6hne";
+    far.serial = "F-1";
+    m_usb.reset(new FakeInterface("USB", TransportUsb3Vision));
+    m_usb->add("Plugged");
+    m_empty.reset(new FakeInterface("Empty", TransportCoaXPress));
+    m_unlisted.reset(new FakeInterface("Unlisted", TransportHdSdi));
+    m_unlisted->cameras.isNull = true;
+    m_system.reset(new FakeSystem);
+    m_system->interfaces.entries = {m_network.get(), m_usb.get(), m_empty.get(), m_unlisted.get()};
+}
+
+void TestCameraSelectorDialog::open()
+{
+    m_dialog.reset(new OrvGui::OrvCameraSelectorDialog(m_system.get(), nullptr));
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+}
+
+QPushButton *TestCameraSelectorDialog::okButton()
+{
+    return m_dialog->findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Ok);
+}
+
+QPushButton *TestCameraSelectorDialog::rescanButton()
+{
+    for (QAbstractButton *button : m_dialog->findChild<QDialogButtonBox *>()->buttons()) {
+        if (button->text() == "&Rescan")
+            return qobject_cast<QPushButton *>(button);
+    }
+    qFatal("There is no button to rescan");
+}
+
+/// True when exactly these dialogs opened.
+bool TestCameraSelectorDialog::force(const QList<ModalVisitor::Action> &dialogs)
+{
+    const ModalVisitor visitor(dialogs);
+    m_parameters->writes.clear();
+    setIpButton()->click();
+    return visitor.isDone();
+}
+
+void TestCameraSelectorDialog::opens()
+{
+    open();
+    QCOMPARE(m_dialog->windowTitle(), QString("Select camera"));
+    QVERIFY(tree()->hasFocus());
+    QVERIFY(!tree()->currentIndex().isValid());
+    QVERIFY(!m_dialog->selectedCamera());
+    QVERIFY(!interfacePane()->model() && !devicePane()->model());
+    QVERIFY(!okButton()->isEnabled());
+    for (int row = 0; row < 4; ++row)
+        QVERIFY(tree()->isExpanded(interfaceRow(row)));
+    QVERIFY(setIpButton()->minimumWidth() > 10);
+    // It is enabled and there is nothing to set.
+    QVERIFY(force({failureMessage()}));
+
+    QTest::keyClick(tree(), Qt::Key_Down);
+    QCOMPARE(tree()->currentIndex(), interfaceRow(0));
+    m_dialog->setSelectedCamera(m_network->cameras.entries[0]);
+    QCOMPARE(tree()->currentIndex(), interfaceRow(0));
+}
+
+void TestCameraSelectorDialog::looksOncePerExpansion()
+{
+    open();
+    const auto looks = [this] {
+        return QList<size_t>{m_network->refreshes.size(), m_usb->refreshes.size(),
+                             m_empty->refreshes.size(), m_unlisted->refreshes.size()};
+    };
+    QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
+    // The view arranges its rows anew.
+    m_dialog->setStyleSheet("QTreeView { font-size: 15pt; }");
+    QTest::qWait(50);
+    m_dialog->resize(700, 900);
+    QTest::qWait(50);
+    QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
+
+    for (int row = 0; row < 4; ++row) {
+        tree()->collapse(interfaceRow(row));
+        tree()->expand(interfaceRow(row));
+    }
+    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 2}));
+    m_empty->add("Late");
+    tree()->collapse(interfaceRow(2));
+    tree()->expand(interfaceRow(2));
+    QCOMPARE(camera(2, 0).data().toString(), QString("Late"));
+    rescanButton()->click();
+    QTest::qWait(50);
+    QCOMPARE(looks(), (QList<size_t>{2, 2, 4, 3}));
+}
+
+void TestCameraSelectorDialog::accessStates_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("usable");
+    QTest::newRow("read-write") << 1 << "ReadWrite" << true;
+    QTest::newRow("read-only") << 2 << "ReadOnly" << true;
+    QTest::newRow("none") << 3 << "NO ACCESS" << false;
+    QTest::newRow("subnet") << 1001 << "IP Subnet Mismatch" << false;
+    QTest::newRow("other") << -7 << "Unknown" << true;
+}
+
+void TestCameraSelectorDialog::accessStates()
+{
+    QFETCH(int, state);
+    QFETCH(QString, text);
+    QFETCH(bool, usable);
+    static_cast<FakeCamera *>(m_usb->cameras.entries[0])->state = state;
+    open();
+    const QModelIndex index = camera(1, 0);
+    tree()->setCurrentIndex(index);
+    QCOMPARE(facts(devicePane()).last(), "Access status: " + text);
+    const QVariant background = devicePane()->model()->index(6, 1).data(Qt::BackgroundRole);
+    QCOMPARE(background, usable ? QVariant() : QVariant(QBrush(Qt::red, Qt::SolidPattern)));
+    QCOMPARE(okButton()->isEnabled(), usable);
+
+    QTest::keyClick(tree(), Qt::Key_Return);
+    QCOMPARE(m_dialog->result(), usable ? int(QDialog::Accepted) : 0);
+    QCOMPARE(m_dialog->isVisible(), !usable);
+    QCOMPARE(m_dialog->selectedCamera(), m_usb->cameras.entries[0]);
+    m_dialog->setResult(0);
+    m_dialog->show();
+    const QPoint place = tree()->visualRect(index).center();
+    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(m_dialog->result(), usable ? int(QDialog::Accepted) : 0);
+}
+
+void TestCameraSelectorDialog::interfaceKinds()
+{
+    const QStringList texts = {"Custom",    "USB3 Vision", "GigE Vision", "CameraLink",
+                               "CoaXPress", "HD-SDI",      "Custom"};
+    for (int kind = 0; kind < texts.size(); ++kind) {
+        m_usb->kind = kind;
+        open();
+        tree()->setCurrentIndex(interfaceRow(1));
+        QCOMPARE(facts(interfacePane()),
+                 (QStringList{"Description: USB", "Type: " + texts[kind], "Version: "}));
+        tree()->setCurrentIndex(camera(1, 0));
+        QCOMPARE(facts(devicePane()).size(), 7); // a network interface without parameters, too
+        QCOMPARE(setIpButton()->isEnabled(), kind == TransportGigEVision);
+    }
+}
+
+void TestCameraSelectorDialog::panes()
+{
+    open();
+    const QStringList network = {
+        "Description: Network",           "Type: GigE Vision",        "Version: 2.1",
+        "MAC Address: 02:00:00:00:00:0A", "IP Address: 192.168.1.10", "Netmask: 255.255.255.0"};
+    tree()->setCurrentIndex(networkCamera(1));
+    QCOMPARE(facts(interfacePane()), network);
+    QCOMPARE(facts(devicePane()),
+             (QStringList{"Display name: Far", QString::fromUtf8("Vendor: Fern & S\xC3\xB6hne"),
+                          "Model: ", "Serial number: F-1", "Version: ", "User name: ",
+                          "Access status: IP Subnet Mismatch", "MAC Address: 00:1B:2C:3D:4E:5F",
+                          "IP Address: 169.254.7.21", "Netmask: 255.255.0.0", "Gateway: 0.0.0.0"}));
+    QCOMPARE(m_parameters->writes, QStringList{"DeviceSelector=1"});
+    QVERIFY(setIpButton()->isEnabled() && !okButton()->isEnabled());
+
+    tree()->setCurrentIndex(interfaceRow(0));
+    QCOMPARE(facts(interfacePane()), network);
+    QVERIFY(!devicePane()->model());
+    QVERIFY(!setIpButton()->isEnabled() && !okButton()->isEnabled());
+    QVERIFY(!m_dialog->selectedCamera());
+
+    tree()->setCurrentIndex(camera(1, 0));
+    QCOMPARE(facts(interfacePane()).first(), QString("Description: USB"));
+    QCOMPARE(facts(devicePane()).size(), 7);
+    QVERIFY(!setIpButton()->isEnabled() && okButton()->isEnabled());
+    tree()->setCurrentIndex(QModelIndex());
+    QVERIFY(!interfacePane()->model() && !devicePane()->model());
+
+    // What was shown is gone.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    for (const QTreeView *pane : {interfacePane(), devicePane()}) {
+        QVERIFY(pane->findChildren<QAbstractItemModel *>("", Qt::FindDirectChildrenOnly).isEmpty());
+        QVERIFY(pane->findChildren<QItemSelectionModel *>().size() <= 1);
+    }
+}
+
+void TestCameraSelectorDialog::unreadableRows()
+{
+    open();
+    m_parameters->errors["GevDeviceSubnetMask"] = ErrorTimeout;
+    m_parameters->errors["GevInterfaceMACAddress"] = ErrorTimeout;
+    tree()->setCurrentIndex(networkCamera(0));
+    QCOMPARE(facts(devicePane()).mid(7),
+             (QStringList{"MAC Address: 00:1B:2C:3D:4E:5F", "IP Address: 169.254.7.21",
+                          "Gateway: 0.0.0.0"}));
+    QCOMPARE(facts(interfacePane()).mid(3),
+             (QStringList{"IP Address: 192.168.1.10", "Netmask: 255.255.255.0"}));
+
+    m_parameters->errors["DeviceSelector"] = ErrorOutOfRange;
+    tree()->setCurrentIndex(networkCamera(1));
+    QCOMPARE(facts(devicePane()).size(), 7);
+    QCOMPARE(facts(interfacePane()).size(), 5);
+    m_parameters->errors.clear();
+    m_network->parametersError = ErrorFailed;
+    tree()->setCurrentIndex(networkCamera(0));
+    QCOMPARE(facts(devicePane()).size(), 7);
+    QVERIFY(force({failureMessage()}));
+}
+
+void TestCameraSelectorDialog::columnWidths()
+{
+    open();
+    tree()->setCurrentIndex(networkCamera(0));
+    const int sum = devicePane()->columnWidth(0) + devicePane()->columnWidth(1);
+    QVERIFY(qAbs(devicePane()->columnWidth(0) - sum / 2) <= sum / 4);
+    devicePane()->setColumnWidth(0, 77);
+    interfacePane()->setColumnWidth(0, 88);
+    for (const QModelIndex &index : {networkCamera(1), interfaceRow(2), networkCamera(0)}) {
+        tree()->setCurrentIndex(index);
+        QCOMPARE(interfacePane()->columnWidth(0), 88);
+    }
+    QCOMPARE(devicePane()->columnWidth(0), 77);
+    QCOMPARE(devicePane()->header()->defaultSectionSize(), 130);
+}
+
+void TestCameraSelectorDialog::rescan()
+{
+    open();
+    tree()->setCurrentIndex(networkCamera(0));
+    QVERIFY(okButton()->isEnabled());
+    m_network->cameras.entries.erase(m_network->cameras.entries.begin());
+    m_system->interfaces.entries.pop_back();
+    rescanButton()->click();
+    QVERIFY(!tree()->currentIndex().isValid() && !m_dialog->selectedCamera());
+    QVERIFY(!interfacePane()->model() && !devicePane()->model());
+    QVERIFY(!okButton()->isEnabled() && !setIpButton()->isEnabled());
+    QCOMPARE(tree()->model()->rowCount(), 3);
+    QCOMPARE(tree()->model()->rowCount(interfaceRow(0)), 1);
+    QVERIFY(tree()->isExpanded(interfaceRow(0)));
+    tree()->setFocus();
+    QVERIFY(!tree()->currentIndex().isValid());
+    tree()->setCurrentIndex(networkCamera(0));
+    QCOMPARE(facts(devicePane()).first(), QString("Display name: Far"));
+    QCOMPARE(m_parameters->writes.last(), QString("DeviceSelector=0"));
+}
+
+void TestCameraSelectorDialog::listsThatLie()
+{
+    m_network->cameras.countedAhead = 3;
+    m_usb->cameras.countedAhead = -1; // none, it says
+    m_system->interfaces.countedAhead = 2;
+    open();
+    QCOMPARE(tree()->model()->rowCount(), 4);
+    QCOMPARE(tree()->model()->rowCount(interfaceRow(1)), 0);
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(tree(), Qt::Key_Down);
+    QCOMPARE(tree()->currentIndex(), interfaceRow(3));
+    rescanButton()->click();
+    m_dialog->grab();
+    QCOMPARE(tree()->model()->rowCount(interfaceRow(0)), 2);
+
+    m_system->interfaces.isNull = true;
+    rescanButton()->click();
+    QCOMPARE(tree()->model()->rowCount(), 0);
+    m_dialog.reset(new OrvGui::OrvCameraSelectorDialog(nullptr, nullptr));
+    m_dialog->show();
+    QVERIFY(!m_dialog->selectedCamera() && !okButton()->isEnabled());
+}
+
+void TestCameraSelectorDialog::contextMenu()
+{
+    open();
+    auto *menu = m_dialog->findChild<QMenu *>();
+    QCOMPARE(menu->actions().size(), 1);
+    QCOMPARE(menu->actions().first()->text(), QString("Set IP address"));
+    const auto request = [&](const QPoint &position) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, position);
+        QApplication::sendEvent(tree()->viewport(), &event);
+        const bool isShown = menu->isVisible();
+        menu->close();
+        return isShown;
+    };
+    const auto at = [this](const QModelIndex &row) { return tree()->visualRect(row).center(); };
+    QVERIFY(request(at(networkCamera(0))));
+    QVERIFY(!request(at(interfaceRow(0))));
+    QVERIFY(!request(at(camera(1, 0))));
+    QVERIFY(!request(QPoint(10, tree()->viewport()->height() - 2)));
+
+    tree()->setCurrentIndex(networkCamera(0));
+    const ModalVisitor visitor({[](QDialog &dialog) { dialog.reject(); }});
+    menu->actions().first()->trigger();
+    QVERIFY(visitor.isDone());
+}
+
+void TestCameraSelectorDialog::proposedAddress_data()
+{
+    QTest::addColumn<quint32>("adapter");
+    QTest::addColumn<QString>("proposed");
+    QTest::newRow("1") << 0xC0A80001u << "192.168.0.2";
+    QTest::newRow("128") << 0xC0A80080u << "192.168.0.129";
+    QTest::newRow("129") << 0xC0A80081u << "192.168.0.128";
+    QTest::newRow("254") << 0xC0A800FEu << "192.168.0.253";
+}
+
+void TestCameraSelectorDialog::proposedAddress()
+{
+    QFETCH(quint32, adapter);
+    QFETCH(QString, proposed);
+    m_parameters->values["GevInterfaceSubnetIPAddress"] = adapter;
+    open();
+    tree()->setCurrentIndex(networkCamera(1));
+    QVERIFY(force({[&](QDialog &dialog) {
+        QCOMPARE(dialog.windowTitle(), QString("Set IP Address"));
+        QCOMPARE(field(dialog, "nicMacLineEdit")->text(), QString("02:00:00:00:00:0A"));
+        QCOMPARE(field(dialog, "macAddressLineEdit")->text(), QString("00:1B:2C:3D:4E:5F"));
+        QCOMPARE(field(dialog, "nicSubnetMaskLineEdit")->text(), QString("255.255.255.0"));
+        QCOMPARE(field(dialog, "subnetMaskLineEdit")->text(), QString("255.255.255.0"));
+        QCOMPARE(field(dialog, "defaultGatewayLineEdit")->text(), QString("192.168.1.254"));
+        QCOMPARE(field(dialog, "ipAddressLineEdit")->text(), proposed);
+        QCOMPARE(dialog.findChild<QLabel *>("ipStatusLabel")->text(),
+                 QString("IP Configuration OK"));
+        dialog.reject();
+    }}));
+    QCOMPARE(m_parameters->writes, QStringList{"DeviceSelector=1"});
+    QVERIFY(!okButton()->isEnabled());
+}
+
+void TestCameraSelectorDialog::forcesAddress()
+{
+    open();
+    tree()->setCurrentIndex(networkCamera(1));
+    QVERIFY(force({[&](QDialog &dialog) {
+        field(dialog, "ipAddressLineEdit")->setText("192.168.1.77");
+        field(dialog, "defaultGatewayLineEdit")->setText("192.168.1.1");
+        m_parameters->values["GevDeviceIPAddress"] = 0xC0A8014D;
+        dialog.accept();
+    }}));
+    QCOMPARE(m_parameters->writes,
+             (QStringList{"DeviceSelector=1", "GevDeviceForceIPAddress=3232235853",
+                          "GevDeviceForceSubnetMask=4294967040", "GevDeviceForceGateway=3232235777",
+                          "GevDeviceForceIP", "DeviceSelector=1"}));
+    QVERIFY(facts(devicePane()).contains("IP Address: 192.168.1.77"));
+    // The status is that of the last scan, but the camera can be accepted.
+    QVERIFY(facts(devicePane()).contains("Access status: IP Subnet Mismatch"));
+    QVERIFY(okButton()->isEnabled());
+    QTest::keyClick(tree(), Qt::Key_Return);
+    QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(m_dialog->selectedCamera(), m_network->cameras.entries[1]);
+}
+
+void TestCameraSelectorDialog::warnsOfBadAddress()
+{
+    const ModalVisitor::Action wrongAddress = [](QDialog &dialog) {
+        field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
+        dialog.accept();
+    };
+    const ModalVisitor::Action wrongMask = [](QDialog &dialog) {
+        field(dialog, "subnetMaskLineEdit")->setText("255.255.255.128");
+        dialog.accept();
+    };
+    open();
+    tree()->setCurrentIndex(networkCamera(0));
+    const QStringList nothing = {"DeviceSelector=0"};
+    QVERIFY(force({wrongAddress, warning(QMessageBox::Ok)}));
+    QCOMPARE(m_parameters->writes, nothing);
+    QVERIFY(force({wrongMask, [](QDialog &box) { QTest::keyClick(&box, Qt::Key_Escape); }}));
+    QCOMPARE(m_parameters->writes, nothing);
+    QVERIFY(force({wrongMask, warning(QMessageBox::Ignore)}));
+    QVERIFY(m_parameters->writes.contains("GevDeviceForceSubnetMask=4294967168"));
+    QVERIFY(m_parameters->writes.contains("GevDeviceForceIP"));
+}
+
+void TestCameraSelectorDialog::forcingFails_data()
+{
+    QTest::addColumn<QByteArray>("feature");
+    QTest::addColumn<bool>("whileFilling");
+    QTest::addColumn<int>("writes");
+    QTest::newRow("selector") << QByteArray("DeviceSelector") << true << 1;
+    for (const char *feature :
+         {"GevInterfaceMACAddress", "GevInterfaceSubnetIPAddress", "GevInterfaceSubnetMask",
+          "GevDeviceMACAddress", "GevDeviceForceGateway"})
+        QTest::newRow(feature) << QByteArray(feature) << true << 1;
+    QTest::newRow("address") << QByteArray("GevDeviceForceIPAddress") << false << 2;
+    QTest::newRow("mask") << QByteArray("GevDeviceForceSubnetMask") << false << 3;
+    QTest::newRow("gateway") << QByteArray("GevDeviceForceGateway") << false << 4;
+    QTest::newRow("command") << QByteArray("GevDeviceForceIP") << false << 5;
+}
+
+void TestCameraSelectorDialog::forcingFails()
+{
+    QFETCH(QByteArray, feature);
+    QFETCH(bool, whileFilling);
+    QFETCH(int, writes);
+    open();
+    tree()->setCurrentIndex(networkCamera(1));
+    QList<ModalVisitor::Action> dialogs = {failureMessage()};
+    if (whileFilling)
+        m_parameters->errors[feature] = ErrorTimeout;
+    else
+        dialogs.prepend([&](QDialog &dialog) {
+            m_parameters->errors[feature] = ErrorTimeout;
+            accept(dialog);
+        });
+    QVERIFY(force(dialogs));
+    QCOMPARE(m_parameters->writes.size(), writes);
+    QVERIFY(!okButton()->isEnabled());
+}
+
+QTEST_MAIN(TestCameraSelectorDialog)
+#include "tst_cameraselectordialog.moc"
