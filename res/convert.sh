@@ -34,6 +34,6 @@ for name in orvicon connected disconnected frameab trigger pulse strobe dataout 
     icon "$name"
 done
 for name in pulseimage strobeBothExp strobeBothRead strobe1Exp_strobe2Read \
-            strobe1Read_strobe2Exp; do
+            strobe1Read_strobe2Exp wdr; do
     picture "$name"
 done

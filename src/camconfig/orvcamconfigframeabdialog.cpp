@@ -1,16 +1,841 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigframeabdialog.h"
 
+#include "areapresets.h"
+#include "heldinput.h"
+#include "iorvcamconfigintconverter.h"
 #include "orvcamconfigdialog_p.h"
+#include "qtorvdoubleslider.h"
+#include "qtorvdoublespinboxval.h"
+#include "qtorvslider.h"
+#include "qtorvspinboxval.h"
+#include "ui_orvcamconfigframeabdialog.h"
+#include "valuegrid.h"
+
+#include <OrvCam/Codes.h>
+
+#include <QAbstractSlider>
+#include <QButtonGroup>
+#include <QDoubleSpinBox>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <cmath>
+#include <limits>
+
+using OrvGenParam::Enum;
+using OrvGenParam::Int;
+using OrvGenParam::Param;
 
 namespace OrvGui {
 
-class OrvCamConfigFrameABDialogPrivate : public OrvCamConfigDialogPrivate
+namespace {
+
+const char frameSelectorName[] = "FrameAB_Selector";
+const char lineTimeName[] = "Frame_LineTime";
+const char exposureLinesName[] = "Frame_ExposureLines";
+const char exposureClocksName[] = "Frame_ExposureClocks";
+const char periodName[] = "Frame_FixedFramePeriodValue";
+const char frameAsName[] = "NumberOfFrameAs";
+const char frameBsName[] = "NumberOfFrameBs";
+
+const qint64 usualPixelClock = 160;
+const int sizeInterval = 1000; // ms
+const double gainStep = 0.125;
+const double fineGainSteps = 64.0;
+
+/// The largest number that goes into a widget.
+const qint64 largest = std::numeric_limits<int>::max();
+
+QString microseconds()
 {
-protected:
-    void buildForm() override {}
-    void bind() override {}
+    return OrvCamConfigFrameABDialog::tr("%1s").arg(QChar(0x03BC));
+}
+
+QString microsecondsCaption()
+{
+    return OrvCamConfigFrameABDialog::tr("[%1]:").arg(microseconds());
+}
+
+qint64 product(qint64 a, qint64 b)
+{
+    qint64 result = 0;
+    if (!__builtin_mul_overflow(a, b, &result))
+        return result;
+    return (a < 0) == (b < 0) ? std::numeric_limits<qint64>::max()
+                              : std::numeric_limits<qint64>::min();
+}
+
+long rounded(double number)
+{
+    const double end = 9.2e18; // just inside of what the result can hold
+    return static_cast<long>(qBound(-end, number + 0.5, end));
+}
+
+/// What the widget has been told to be, whatever the widgets around it are.
+bool isUsable(const QWidget *widget)
+{
+    return !widget->testAttribute(Qt::WA_ForceDisabled);
+}
+
+bool isWritable(const Param *param)
+{
+    return param && param->IsAvailable() && param->IsWritable();
+}
+
+/// Changes the value only if the camera tells it.
+bool read(const Int *param, int64_t (Int::*get)(int32_t *) const, qint64 &value)
+{
+    int32_t error = OrvCam::Success;
+    const qint64 answer = param ? (param->*get)(&error) : 0;
+    if (param && error == OrvCam::Success)
+        value = answer;
+    return param && error == OrvCam::Success;
+}
+
+struct Gain
+{
+    qint64 coarse;
+    qint64 fine;
+
+    bool operator==(Gain other) const { return coarse == other.coarse && fine == other.fine; }
+    double factor() const
+    {
+        return (1.0 + static_cast<double>(fine) / fineGainSteps) *
+               std::ldexp(1.0, static_cast<int>(coarse));
+    }
+    static Gain of(double factor)
+    {
+        qint64 coarse = 0;
+        for (qint64 rest = static_cast<qint64>(factor); rest > 1; rest /= 2)
+            ++coarse;
+        const double base = std::ldexp(1.0, static_cast<int>(coarse));
+        return {coarse, static_cast<qint64>((factor - base) / base * fineGainSteps)};
+    }
 };
+
+template<class... Widgets>
+void alignCaptions(Widgets *...widgets)
+{
+    int width = 0;
+    for (const QLabel *label : {widgets->leftLabel()...})
+        width = qMax(width, label->sizeHint().width());
+    for (QLabel *label : {widgets->leftLabel()...})
+        label->setMinimumWidth(width);
+}
+
+} // namespace
+
+class OrvCamConfigFrameABDialogPrivate : public OrvCamConfigDialogPrivate,
+                                         public IOrvCamConfigIntConverter,
+                                         public OrvGenParam::ParamEventSink
+{
+public:
+    long ToControl(long value, Int *param) override;
+    long ToDevice(long value, Int *param) override;
+    void OnParameterUpdate(Param *param) override;
+
+protected:
+    void buildForm() override;
+    void release() override;
+    void bind() override;
+
+private:
+    class Writing;
+
+    void setCaptions();
+    QButtonGroup *group(std::initializer_list<QAbstractButton *> buttons);
+    void getNeededParams();
+    template<class Kind>
+    Kind *watched(Kind *param);
+    void makeBindings();
+    void bindExposure();
+    void bindPeriod();
+    void connectHandlers();
+    void connectDrags();
+    void startSizeTimer();
+    void showCurrentSize();
+
+    void readLineTime();
+    void readPixelClock();
+    void readTriggerMode();
+    void readExposure();
+    void showPeriod();
+    void updateExposureTime();
+    qint64 timeOf(qint64 lines, qint64 clocks) const;
+    void setExposureTime(int time);
+
+    void initDigitalGain();
+    void readDigitalGain();
+    void showDigitalGain();
+    void setDigitalGain(double factor);
+
+    void onFrameModeChanged(const QString &mode);
+    void onTabChanged(int index);
+    void showOnlyTab(int index);
+    void placeLayout(int index);
+    void bindLineTime(QtOrvSliderSpinBox *spinBox);
+    void bindFrameCounts();
+    void unbindFrameCounts();
+    void dropInput();
+    void catchUp();
+
+    QtOrvSpinBox *areaBox(AreaPresets::Side side) const;
+    void setArea(AreaPresets::Preset preset);
+    void showArea();
+
+    Ui_OrvCamConfigFrameABDialog ui;
+    bool isTriggerOn = false;
+
+    qint64 pixelClock = usualPixelClock; ///< clocks per microsecond
+    qint64 lineTime = 0;                 ///< clocks
+    qint64 exposureLines = 0;
+    qint64 exposureLinesMax = 0;
+    qint64 exposureClocks = 0;
+    qint64 exposureClocksMax = 0;
+    Gain gain{0, 0};
+    Enum *frameSelector = nullptr;
+    Enum *triggerMode = nullptr;
+    Int *pixelClockParam = nullptr;
+    Int *lineTimeParam = nullptr;
+    Int *exposureLinesParam = nullptr;
+    Int *exposureClocksParam = nullptr;
+    Int *periodParam = nullptr;
+    Int *coarseGain = nullptr;
+    Int *fineGain = nullptr;
+    Int *widthActual = nullptr;
+    Int *heightActual = nullptr;
+    AreaPresets area;
+
+    QTimer *sizeTimer = nullptr;
+    QTimer *tabTimer = nullptr; ///< leads back to the tab that the output mode allows
+    QButtonGroup *shutterButtons = nullptr;
+    QButtonGroup *adcButtons = nullptr;
+    QButtonGroup *exposureButtons = nullptr;
+    QButtonGroup *areaButtons = nullptr; ///< the ids are those of `AreaPresets`
+    QButtonGroup *decimationButtons = nullptr;
+    QButtonGroup *analogGainButtons = nullptr;
+    QVector<QWidget *> exposureDependents;
+
+    QVector<qint64> customArea;                ///< that the user has called so
+    QtOrvSliderSpinBox *lineTimeBox = nullptr; ///< the one of the two that is bound
+    bool areFrameCountsBound = false;
+    qint64 selectedFrame = 0;
+    bool isShowingTime = false;
+    bool isShowingGain = false;
+    bool isWriting = false; ///< several values; what follows from them is shown at the end
+};
+
+/// A change of the user's that takes more than one write. What listens to a write may set another
+/// camera or destroy the dialog; the rest must not be written then.
+class OrvCamConfigFrameABDialogPrivate::Writing
+{
+public:
+    explicit Writing(OrvCamConfigFrameABDialogPrivate *part)
+        : m_part(part), m_dialog(part->q), m_array(part->array)
+    {
+        m_part->isWriting = true;
+    }
+    ~Writing()
+    {
+        if (m_dialog)
+            m_part->isWriting = false;
+    }
+    Q_DISABLE_COPY(Writing)
+
+    bool isOver() const { return !m_dialog || m_part->array != m_array; }
+
+private:
+    OrvCamConfigFrameABDialogPrivate *const m_part;
+    const QPointer<QObject> m_dialog;
+    const OrvGenParam::Array *const m_array;
+};
+
+void OrvCamConfigFrameABDialogPrivate::buildForm()
+{
+    ui.setupUi(q);
+    setCaptions();
+    shutterButtons = group({ui.radioBtnRollingShutter, ui.radioBtnGlobalShutter});
+    adcButtons = group({ui.radioBtnAdcSelector10b, ui.radioBtnAdcSelector12b});
+    exposureButtons = group({ui.radioBtnExpOff, ui.radioBtnExpTrigger, ui.radioBtnExpInternal});
+    areaButtons = group({ui.radioBtnFullFrame, ui.radioBtnQFHDFrame, ui.radioBtnCustomFrame});
+    areaButtons->setId(ui.radioBtnFullFrame, AreaPresets::FullFrame);
+    areaButtons->setId(ui.radioBtnQFHDFrame, AreaPresets::Qfhd);
+    areaButtons->setId(ui.radioBtnCustomFrame, AreaPresets::Custom);
+    decimationButtons = group(
+        {ui.radioBtnSubsampleOff, ui.radioBtnSubsampleSubsampling, ui.radioBtnSubsampleAverage});
+    analogGainButtons =
+        group({ui.radioBtnAGain1x, ui.radioBtnAGain2x, ui.radioBtnAGain4x, ui.radioBtnAGain8x});
+    exposureDependents = {ui.spBoxExpTime};
+
+    ui.spBoxExpTime->setValidateTyping(false);
+    ui.spBoxExpTime->slider()->setScaleType(QtOrvSlider::ScaleLog10);
+    ui.spBoxFixedFramePeriodValue->slider()->setScaleType(QtOrvSlider::ScaleLog10);
+    ui.spBoxDigitalGain->setValidate(true);
+    ui.spBoxDigitalGain->setValidateTyping(false);
+
+    tabTimer = new QTimer(q);
+    tabTimer->setSingleShot(true);
+}
+
+void OrvCamConfigFrameABDialogPrivate::setCaptions()
+{
+    const auto tr = [](const char *text) { return OrvCamConfigFrameABDialog::tr(text); };
+    ui.spBoxDualVideo->setLeftLabelText(tr("Dual Video\nLine Time [pclk]:"));
+    ui.spBoxExpTime->setLeftLabelText(tr("Exposure Time ") + microsecondsCaption());
+    ui.spBoxFixedFramePeriodValue->setLeftLabelText(microsecondsCaption());
+    ui.spBoxFrameLineTime->setLeftLabelText(tr("Line Time [pclk]:"));
+    ui.spBoxFrameOffsetX->setLeftLabelText(tr("OffsetX:"));
+    ui.spBoxFrameOffsetY->setLeftLabelText(tr("OffsetY:"));
+    ui.spBoxFrameWidth->setLeftLabelText(tr("Width: "));
+    ui.spBoxFrameHeight->setLeftLabelText(tr("Height:"));
+    ui.spBoxDigitalGain->setLeftLabelText(tr("Digital Gain:"));
+    ui.spBoxBlackLevel->setLeftLabelText(tr("Black Level:"));
+    alignCaptions(ui.spBoxFrameOffsetX, ui.spBoxFrameOffsetY);
+    alignCaptions(ui.spBoxFrameWidth, ui.spBoxFrameHeight);
+    alignCaptions(ui.spBoxDigitalGain, ui.spBoxBlackLevel);
+    const int width = ui.spBoxDigitalGain->spinBox()->sizeHint().width();
+    ui.spBoxDigitalGain->spinBox()->setMinimumWidth(width);
+    ui.spBoxBlackLevel->spinBox()->setMinimumWidth(width);
+    for (QLabel *unit : {ui.lblWdrE1MicroSec, ui.lblWdrE2MicroSec, ui.lblWdrE3MicroSec})
+        unit->setText(microseconds());
+}
+
+QButtonGroup *
+OrvCamConfigFrameABDialogPrivate::group(std::initializer_list<QAbstractButton *> buttons)
+{
+    auto *made = new QButtonGroup(q);
+    for (QAbstractButton *button : buttons)
+        made->addButton(button);
+    return made;
+}
+
+void OrvCamConfigFrameABDialogPrivate::release()
+{
+    delete sizeTimer;
+    sizeTimer = nullptr;
+    tabTimer->stop();
+    frameSelector = triggerMode = nullptr;
+    pixelClockParam = lineTimeParam = exposureLinesParam = exposureClocksParam = nullptr;
+    periodParam = coarseGain = fineGain = widthActual = heightActual = nullptr;
+    lineTime = exposureLines = exposureLinesMax = exposureClocks = exposureClocksMax = 0;
+    area = AreaPresets();
+    customArea.clear();
+    isWriting = false;
+    ui.lineEditFrameCurrentSize->clear();
+}
+
+void OrvCamConfigFrameABDialogPrivate::bind()
+{
+    getNeededParams();
+    makeBindings();
+    startSizeTimer();
+    initDigitalGain();
+    ui.spBoxDualVideo->setEnabled(false);
+    ui.spBoxFrameLineTime->setEnabled(false);
+    lineTimeBox = nullptr;
+    unbindFrameCounts();
+    connectHandlers();
+    onFrameModeChanged(ui.cmBoxFrameMode->currentText());
+    placeLayout(ui.tabFrames->currentIndex());
+    showArea();
+    updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::getNeededParams()
+{
+    frameSelector = watched(array->GetEnum(frameSelectorName));
+    pixelClockParam = watched(array->GetInt("PixelClock"));
+    exposureLinesParam = watched(array->GetInt(exposureLinesName));
+    exposureClocksParam = watched(array->GetInt(exposureClocksName));
+    lineTimeParam = watched(array->GetInt(lineTimeName));
+    periodParam = watched(array->GetInt(periodName));
+    triggerMode = watched(array->GetEnum("TriggerMode"));
+    widthActual = array->GetInt("Frame_WidthActual");
+    heightActual = array->GetInt("Frame_HeightActual");
+    area = AreaPresets(array);
+    for (const char *feature : {"SensorWidth", "SensorHeight"})
+        watched(array->GetInt(feature));
+
+    selectedFrame = frameSelector ? frameSelector->GetIntValue() : 0;
+    readPixelClock();
+    readLineTime();
+    readExposure();
+    readTriggerMode();
+}
+
+/// Null for null. What is watched again is told of after all that have been registered meanwhile.
+template<class Kind>
+Kind *OrvCamConfigFrameABDialogPrivate::watched(Kind *param)
+{
+    if (param) {
+        param->UnregisterEventSink(this);
+        param->RegisterEventSink(this);
+    }
+    return param;
+}
+
+void OrvCamConfigFrameABDialogPrivate::makeBindings()
+{
+    bindEnum("FrameMode", ui.cmBoxFrameMode);
+    bindEnum("Frame_SubsamplingM", ui.cmBoxSubsamplingM);
+    bindEnum("Frame_SubsamplingP", ui.cmBoxSubsamplingP);
+    bindEnum("Frame_Averaging", ui.cmBoxAveraging);
+    bindEnum("Frame_WdrP1", ui.cmBoxWdrP1);
+    bindEnum("Frame_WdrP2", ui.cmBoxWdrP2);
+    bindEnum("Frame_WdrP3", ui.cmBoxWdrP3);
+    bindExposure();
+    for (const AreaPresets::Side side :
+         {AreaPresets::OffsetX, AreaPresets::OffsetY, AreaPresets::Width, AreaPresets::Height}) {
+        bindInt(AreaPresets::featureOf(side), areaBox(side));
+        watched(area.param(side));
+    }
+    bindInt("Frame_WdrE1", ui.spBoxWdrE1);
+    bindInt("Frame_WdrE2", ui.spBoxWdrE2);
+    bindInt("Frame_WdrE3", ui.spBoxWdrE3);
+    bindEnum("ShutterMode", shutterButtons);
+    bindEnum("SensorADCBitDepth", adcButtons);
+    bindEnum("Frame_ExposureControl", exposureButtons);
+    bindEnum("Frame_DecimationMode", decimationButtons);
+    bindEnum("Frame_AnalogGain", analogGainButtons);
+    bindPeriod();
+    bindInt("Frame_BlackLevel", ui.spBoxBlackLevel, nullptr);
+    bindEnum(frameSelectorName, ui.tabFrames);
+    bindBoolean("Frame_FixedFramePeriodEnable", ui.chBoxFixedFramePeriodEnable);
+    bindBoolean("Frame_WdrEnable", ui.chBoxWdrEnable);
+}
+
+void OrvCamConfigFrameABDialogPrivate::bindExposure()
+{
+    // The time is set by both, so it takes both.
+    QVector<QWidget *> none;
+    const bool hasTime = exposureLinesParam && exposureClocksParam;
+    ui.spBoxExpTime->setEnabled(false);
+    bindInt(exposureLinesName, ui.spBoxExpLines, hasTime ? exposureDependents : none);
+    bindInt(exposureClocksName, ui.spBoxExpClocks, hasTime ? exposureDependents : none);
+    // After the mapper, so that the time finds itself enabled.
+    watched(exposureLinesParam);
+    watched(exposureClocksParam);
+}
+
+void OrvCamConfigFrameABDialogPrivate::bindPeriod()
+{
+    bindInt(periodName, ui.spBoxFixedFramePeriodValue,
+            static_cast<IOrvCamConfigIntConverter *>(this));
+    // Whole lines are no grid of microseconds: the box would show other times than it was given.
+    ui.spBoxFixedFramePeriodValue->setValidate(false);
+    showPeriod();
+    watched(periodParam); // after the mapper, as the exposure time needs what the box shows
+}
+
+void OrvCamConfigFrameABDialogPrivate::connectHandlers()
+{
+    on(ui.cmBoxFrameMode, &QComboBox::currentTextChanged,
+       [this](const QString &mode) { onFrameModeChanged(mode); });
+    on(ui.tabFrames, &QTabWidget::currentChanged, [this](int index) { onTabChanged(index); });
+    on(tabTimer, &QTimer::timeout,
+       [this] { onFrameModeChanged(ui.cmBoxFrameMode->currentText()); });
+    for (QAbstractButton *button : exposureButtons->buttons()) {
+        on(button, &QAbstractButton::toggled, [this](bool isChecked) {
+            if (isChecked)
+                updateExposureTime();
+        });
+    }
+    on(ui.chBoxFixedFramePeriodEnable, &QCheckBox::toggled, [this] {
+        showPeriod();
+        updateExposureTime();
+    });
+    for (QAbstractButton *button : areaButtons->buttons()) {
+        const auto preset = static_cast<AreaPresets::Preset>(areaButtons->id(button));
+        on(button, &QAbstractButton::clicked, [=] { setArea(preset); });
+    }
+    on(ui.spBoxExpTime, static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged),
+       [this](int time) { setExposureTime(time); });
+    on(ui.spBoxDigitalGain,
+       static_cast<void (QtOrvGainSlider::*)(double)>(&QtOrvGainSlider::valueChanged),
+       [this](double factor) { setDigitalGain(factor); });
+    connectDrags();
+}
+
+// The widgets say nothing about a drag of their slider. A slider that is disabled is released, too.
+void OrvCamConfigFrameABDialogPrivate::connectDrags()
+{
+    on(ui.spBoxExpTime->slider(), &QtOrvSlider::sliderReleased, [this] {
+        const int time = ui.spBoxExpTime->value();
+        if (ui.spBoxExpTime->slider()->isEnabled() && time != timeOf(exposureLines, exposureClocks))
+            setExposureTime(time);
+        else
+            updateExposureTime();
+    });
+    on(ui.spBoxDigitalGain->slider(), &QtOrvDoubleSlider::sliderReleased, [this] {
+        const double factor = ui.spBoxDigitalGain->value();
+        if (ui.spBoxDigitalGain->slider()->isEnabled() && !(Gain::of(factor) == gain))
+            setDigitalGain(factor);
+        else
+            showDigitalGain();
+    });
+}
+
+void OrvCamConfigFrameABDialogPrivate::startSizeTimer()
+{
+    sizeTimer = new QTimer(q);
+    on(sizeTimer, &QTimer::timeout, [this] { showCurrentSize(); });
+    sizeTimer->start(sizeInterval);
+    showCurrentSize();
+}
+
+void OrvCamConfigFrameABDialogPrivate::showCurrentSize()
+{
+    const auto text = [](const Int *param) {
+        qint64 value = 0;
+        return read(param, &Int::GetValue, value) ? QString::number(value) : QString();
+    };
+    const QString width = text(widthActual);
+    const QString height = text(heightActual);
+    const bool isKnown = !width.isEmpty() || !height.isEmpty();
+    ui.lineEditFrameCurrentSize->setText(isKnown ? width + QLatin1Char('x') + height : QString());
+}
+
+void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
+{
+    if (!array)
+        return;
+    if (param == frameSelector) {
+        dropInput();
+        return;
+    }
+    if (param == triggerMode) {
+        readTriggerMode();
+    } else if (param == pixelClockParam) {
+        readPixelClock();
+        showPeriod();
+    } else if (param == lineTimeParam) {
+        readLineTime();
+        showPeriod();
+    } else if (param == exposureLinesParam || param == exposureClocksParam) {
+        readExposure();
+    } else if (param == coarseGain || param == fineGain) {
+        readDigitalGain();
+        showDigitalGain();
+    } else if (area.dependsOn(param)) {
+        showArea();
+    }
+    updateExposureTime();
+}
+
+void OrvCamConfigFrameABDialogPrivate::readPixelClock()
+{
+    pixelClock = usualPixelClock;
+    read(pixelClockParam, &Int::GetValue, pixelClock);
+}
+
+void OrvCamConfigFrameABDialogPrivate::readLineTime()
+{
+    read(lineTimeParam, &Int::GetValue, lineTime);
+}
+
+void OrvCamConfigFrameABDialogPrivate::readTriggerMode()
+{
+    if (!triggerMode)
+        isTriggerOn = false;
+    else if (triggerMode->IsReadable())
+        isTriggerOn = triggerMode->GetIntValue() > 0;
+    ui.radioBtnExpTrigger->setToolTip(
+        isTriggerOn ? QString() : OrvCamConfigFrameABDialog::tr("The trigger is switched off."));
+}
+
+void OrvCamConfigFrameABDialogPrivate::readExposure()
+{
+    if (isWriting)
+        return; // one of the two has not been written yet
+    read(exposureLinesParam, &Int::GetValue, exposureLines);
+    read(exposureLinesParam, &Int::GetMax, exposureLinesMax);
+    read(exposureClocksParam, &Int::GetValue, exposureClocks);
+    read(exposureClocksParam, &Int::GetMax, exposureClocksMax);
+}
+
+long OrvCamConfigFrameABDialogPrivate::ToControl(long value, Int *)
+{
+    if (pixelClock == 0)
+        return 0;
+    return rounded(static_cast<double>(product(value, lineTime)) / static_cast<double>(pixelClock));
+}
+
+long OrvCamConfigFrameABDialogPrivate::ToDevice(long value, Int *)
+{
+    if (lineTime == 0)
+        return 0;
+    return rounded(static_cast<double>(product(value, pixelClock)) / static_cast<double>(lineTime));
+}
+
+void OrvCamConfigFrameABDialogPrivate::showPeriod()
+{
+    if (periodParam && isUsable(ui.spBoxFixedFramePeriodValue))
+        mapper.updateSliderSpinBox(periodParam, ui.spBoxFixedFramePeriodValue, this);
+}
+
+qint64 OrvCamConfigFrameABDialogPrivate::timeOf(qint64 lines, qint64 clocks) const
+{
+    if (pixelClock == 0)
+        return 0;
+    return (product(qMin(lines, largest), qMin(lineTime, largest)) + qMin(clocks, largest)) /
+           pixelClock;
+}
+
+void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
+{
+    QtOrvSpinBox *const spinBox = ui.spBoxExpTime;
+    if (isWriting || !isUsable(spinBox) || HeldInput::isDrag(spinBox))
+        return;
+    const qint64 max = ui.chBoxFixedFramePeriodEnable->isChecked()
+                           ? ui.spBoxFixedFramePeriodValue->value()
+                           : timeOf(exposureLinesMax, exposureClocksMax);
+    const int end = ValueGrid::toInt(max);
+    const int time = ValueGrid::toInt(timeOf(exposureLines, exposureClocks));
+
+    // Setting what is set already would undo the user's typing.
+    const QScopedValueRollback<bool> showing(isShowingTime, true);
+    if (spinBox->minimum() != 0 || spinBox->maximum() != end)
+        spinBox->setRange(0, end);
+    if (spinBox->value() != time)
+        spinBox->setValue(time);
+}
+
+void OrvCamConfigFrameABDialogPrivate::setExposureTime(int time)
+{
+    if (isShowingTime)
+        return;
+    const qint64 total = product(time, pixelClock);
+    if (lineTime == 0)
+        exposureLines = 0;
+    else
+        exposureLines = lineTime == -1 ? -total : total / lineTime;
+    exposureClocks = total - lineTime * exposureLines;
+
+    const int clocks = ValueGrid::toInt(exposureClocks);
+    {
+        const Writing writing(this);
+        ui.spBoxExpLines->setValue(ValueGrid::toInt(exposureLines));
+        if (writing.isOver())
+            return;
+        ui.spBoxExpClocks->setValue(clocks);
+        if (writing.isOver())
+            return;
+    }
+    catchUp();
+}
+
+void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
+{
+    coarseGain = watched(array->GetInt("Frame_DigitalCourseGain"));
+    fineGain = watched(array->GetInt("Frame_DigitalFineGain"));
+    readDigitalGain();
+    showDigitalGain();
+}
+
+void OrvCamConfigFrameABDialogPrivate::readDigitalGain()
+{
+    if (isWriting)
+        return;
+    gain = {0, 0};
+    read(coarseGain, &Int::GetValue, gain.coarse);
+    read(fineGain, &Int::GetValue, gain.fine);
+}
+
+void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
+{
+    QtOrvGainSlider *const slider = ui.spBoxDigitalGain;
+    slider->setEnabled(isWritable(coarseGain) || isWritable(fineGain));
+    if (isWriting || HeldInput::isDrag(slider))
+        return;
+    Gain least{0, 0};
+    Gain most{0, 0};
+    read(coarseGain, &Int::GetMin, least.coarse);
+    read(fineGain, &Int::GetMin, least.fine);
+    read(coarseGain, &Int::GetMax, most.coarse);
+    read(fineGain, &Int::GetMax, most.fine);
+
+    const QScopedValueRollback<bool> showing(isShowingGain, true);
+    slider->setRange(least.factor(), most.factor());
+    slider->setSingleStep(gainStep);
+    // A step may be less than the camera can do at large gains; the user must get past it.
+    if (!(Gain::of(slider->value()) == gain))
+        slider->setValue(gain.factor());
+}
+
+void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
+{
+    if (isShowingGain)
+        return;
+    gain = Gain::of(factor);
+    const Gain wanted = gain;
+    {
+        const Writing writing(this);
+        if (coarseGain)
+            coarseGain->SetValue(wanted.coarse);
+        if (writing.isOver())
+            return;
+        if (fineGain)
+            fineGain->SetValue(wanted.fine);
+        if (writing.isOver())
+            return;
+    }
+    catchUp();
+}
+
+void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
+{
+    const bool isFrameA = mode == QLatin1String("FrameA");
+    if (isFrameA || mode == QLatin1String("FrameB")) {
+        showOnlyTab(isFrameA ? 0 : 1);
+        bindLineTime(ui.spBoxFrameLineTime);
+        unbindFrameCounts();
+        return;
+    }
+    for (int i = 0; i < ui.tabFrames->count(); ++i)
+        ui.tabFrames->setTabEnabled(i, true);
+    bindLineTime(ui.spBoxDualVideo);
+    bindFrameCounts();
+}
+
+void OrvCamConfigFrameABDialogPrivate::showOnlyTab(int index)
+{
+    if (index >= ui.tabFrames->count())
+        return;
+    ui.tabFrames->setTabEnabled(index, true);
+    ui.tabFrames->setCurrentIndex(index);
+    ui.tabFrames->setTabEnabled(1 - index, false);
+}
+
+void OrvCamConfigFrameABDialogPrivate::onTabChanged(int index)
+{
+    placeLayout(index);
+    if (!ui.tabFrames->isTabEnabled(index)) {
+        // Somebody else has selected the frame that is not put out. They may only have a look at
+        // it, and would see the wrong one if it was taken from them at once.
+        tabTimer->start(0);
+        return;
+    }
+    onFrameModeChanged(ui.cmBoxFrameMode->currentText());
+    updateExposureTime();
+}
+
+/// The frames share one set of widgets.
+void OrvCamConfigFrameABDialogPrivate::placeLayout(int index)
+{
+    QWidget *const page = index > 0 ? ui.tabFrameB : ui.tabFrameA;
+    QWidget *const other = index > 0 ? ui.tabFrameA : ui.tabFrameB;
+    if (other->layout())
+        page->setLayout(other->layout());
+}
+
+void OrvCamConfigFrameABDialogPrivate::bindLineTime(QtOrvSliderSpinBox *spinBox)
+{
+    if (lineTimeBox == spinBox)
+        return;
+    lineTimeBox = spinBox;
+    bindInt(lineTimeName, spinBox, nullptr);
+}
+
+void OrvCamConfigFrameABDialogPrivate::bindFrameCounts()
+{
+    if (areFrameCountsBound)
+        return;
+    areFrameCountsBound = true;
+    bindInt(frameAsName, ui.spBoxNumberOfFrameAs);
+    bindInt(frameBsName, ui.spBoxNumberOfFrameBs);
+}
+
+void OrvCamConfigFrameABDialogPrivate::unbindFrameCounts()
+{
+    areFrameCountsBound = false;
+    mapper.unmapParam(QString::fromLatin1(frameAsName));
+    mapper.unmapParam(QString::fromLatin1(frameBsName));
+    ui.spBoxNumberOfFrameAs->setEnabled(false);
+    ui.spBoxNumberOfFrameBs->setEnabled(false);
+}
+
+// What the user is typing or dragging is meant for the frame that was selected up to now.
+void OrvCamConfigFrameABDialogPrivate::dropInput()
+{
+    const qint64 selected = frameSelector->GetIntValue();
+    if (selected == selectedFrame)
+        return;
+    selectedFrame = selected;
+    QWidget *const focus = q->focusWidget();
+    if (ui.tabFrames->isAncestorOf(focus)) {
+        if (auto *spinBox = qobject_cast<QSpinBox *>(focus))
+            spinBox->setValue(spinBox->value());
+        else if (auto *gainBox = qobject_cast<QDoubleSpinBox *>(focus))
+            gainBox->setValue(gainBox->value());
+    }
+    for (const QAbstractSlider *slider : ui.tabFrames->findChildren<QAbstractSlider *>()) {
+        if (slider->isSliderDown()) {
+            slider->parentWidget()->setEnabled(false);
+            slider->parentWidget()->setEnabled(true);
+        }
+    }
+}
+
+/// After several writes.
+void OrvCamConfigFrameABDialogPrivate::catchUp()
+{
+    readExposure();
+    readDigitalGain();
+    showDigitalGain();
+    showArea();
+    updateExposureTime();
+}
+
+QtOrvSpinBox *OrvCamConfigFrameABDialogPrivate::areaBox(AreaPresets::Side side) const
+{
+    switch (side) {
+    case AreaPresets::OffsetX:
+        return ui.spBoxFrameOffsetX;
+    case AreaPresets::OffsetY:
+        return ui.spBoxFrameOffsetY;
+    case AreaPresets::Width:
+        return ui.spBoxFrameWidth;
+    default:
+        return ui.spBoxFrameHeight;
+    }
+}
+
+void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
+{
+    customArea = preset == AreaPresets::Custom ? area.area() : QVector<qint64>();
+    {
+        const Writing writing(this);
+        for (const auto &step : area.stepsTo(preset)) {
+            areaBox(step.first)->setValue(ValueGrid::toInt(step.second));
+            if (writing.isOver())
+                return;
+        }
+    }
+    catchUp();
+}
+
+void OrvCamConfigFrameABDialogPrivate::showArea()
+{
+    if (isWriting)
+        return;
+    if (area.area() != customArea)
+        customArea.clear();
+    // On a sensor of just that size both presets are the same area; the user's choice stays.
+    AreaPresets::Preset shown = AreaPresets::Custom;
+    if (customArea.isEmpty()) {
+        const auto checked = static_cast<AreaPresets::Preset>(areaButtons->checkedId());
+        if (area.holds(AreaPresets::FullFrame))
+            shown = AreaPresets::FullFrame;
+        if (area.holds(AreaPresets::Qfhd) &&
+            (shown == AreaPresets::Custom || checked == AreaPresets::Qfhd))
+            shown = AreaPresets::Qfhd;
+    }
+    areaButtons->button(shown)->setChecked(true);
+    for (QAbstractButton *button : areaButtons->buttons())
+        button->setEnabled(area.offers(static_cast<AreaPresets::Preset>(areaButtons->id(button))));
+}
 
 OrvCamConfigFrameABDialog::OrvCamConfigFrameABDialog(OrvCam::Device *device, QWidget *parent)
     : OrvCamConfigDialog(new OrvCamConfigFrameABDialogPrivate, device, parent)

@@ -119,6 +119,7 @@ private slots:
     void everySelectorSelects_data();
     void everySelectorSelects();
     void dualVideoSharesTheLineTime();
+    void limitsTakeTheirValuesAlong();
     void timesFollowTheSettings_data();
     void timesFollowTheSettings();
     void decimationMakesTheImageSmaller();
@@ -216,7 +217,7 @@ void TestSimulatedCamera::startValuesAreThoseOfTheirFeature()
             "RgsID=1042 FirmwareBuild=1187 U3VFirmwareBuildNumber=412 PixelClock=160 "
             "Frame_ExposureClocks=480 Frame_OffsetY=456 Frame_Width=3840 Frame_SubsamplingP=P2 "
             "Frame_AnalogGain=x2 Frame_DigitalFineGain=32 Frame_BlackLevel=80 "
-            "Frame_WdrP3=Percent40 Frame_WdrE3=60 GevVersionMinor=2 GevSCPSPacketSize=1500")
+            "Frame_WdrP3=Percent80 Frame_WdrE3=60 GevVersionMinor=2 GevSCPSPacketSize=1500")
             .split(' ');
     for (const QString &pair : expected) {
         const QByteArray name = pair.section('=', 0, 0).toLatin1();
@@ -254,7 +255,7 @@ void TestSimulatedCamera::everySelectorSelects_data()
     QTest::newRow("frame, lines") << QByteArray("FrameAB_Selector") << 0 << 1
                                   << QByteArray("Frame_ExposureLines");
     QTest::newRow("frame, line time")
-        << QByteArray("FrameAB_Selector") << 0 << 1 << QByteArray("Frame_LineTime");
+        << QByteArray("FrameAB_Selector") << 0 << 1 << QByteArray("Frame_LineTimeReg");
     QTest::newRow("frame, gain") << QByteArray("FrameAB_Selector") << 0 << 1
                                  << QByteArray("Frame_DigitalFineGain");
     QTest::newRow("frame, last register")
@@ -300,6 +301,31 @@ void TestSimulatedCamera::dualVideoSharesTheLineTime()
     QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(1500));
     features.choose("FrameMode", "FrameB");
     QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(1200));
+}
+
+// What is set comes back when the limit does.
+void TestSimulatedCamera::limitsTakeTheirValuesAlong()
+{
+    const SimulatedCamera camera;
+    Features features(camera);
+    features.set("Frame_LineTime", 700);
+    features.set("Frame_ExposureClocks", 699);
+    features.choose("SensorADCBitDepth", "Bit12");
+    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(960));
+    features.choose("SensorADCBitDepth", "Bit10");
+    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(700));
+    features.set("Frame_LineTime", 650);
+    QCOMPARE(features.integer("Frame_ExposureClocks"), Q_INT64_C(649));
+
+    features.turn("Frame_FixedFramePeriodEnable", true);
+    features.set("Frame_FixedFramePeriodValue", 100);
+    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(99));
+    QCOMPARE(features.integer("CurrentExposureTime"), gint64((99 * 650 + 649) / 160));
+    features.turn("Frame_FixedFramePeriodEnable", false);
+    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(1600));
+
+    features.set("SensorClockDivider", 64);
+    QCOMPARE(features.integer("PixelClock"), Q_INT64_C(80));
 }
 
 void TestSimulatedCamera::timesFollowTheSettings_data()

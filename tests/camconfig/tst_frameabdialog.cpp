@@ -1,0 +1,1462 @@
+// SPDX-License-Identifier: MIT
+#include "camconfigtestsupport.h"
+
+#include <genapi/memorynodemap.h>
+#include <orvcamconfigframeabdialog.h>
+#include <qtorvdoublespinboxval.h>
+#include <qtorvgainslider.h>
+#include <qtorvslider.h>
+#include <qtorvsliderspinbox.h>
+#include <qtorvspinbox.h>
+#include <qtorvspinboxval.h>
+
+#include <cmath>
+#include <random>
+
+using namespace OrvGui;
+using OrvSimulation::SimulatedCamera;
+
+namespace {
+
+using Names = QList<const char *>;
+using Area = QVector<qint64>;
+
+/// The parameters of another array, apart from some that the camera is said to lack.
+class PartialArray : public OrvGenParam::Array
+{
+public:
+    explicit PartialArray(OrvGenParam::Array *all) : m_all(all) {}
+    QSet<QByteArray> missing;
+
+    uint32_t GetCount() const override { return m_all->GetCount(); }
+    OrvGenParam::Param *GetParam(uint32_t i) const override { return m_all->GetParam(i); }
+    OrvGenParam::Param *GetParam(const char *n) const override
+    {
+        return has(n, m_all->GetParam(n));
+    }
+    OrvGenParam::Int *GetInt(const char *n) const override { return has(n, m_all->GetInt(n)); }
+    OrvGenParam::Float *GetFloat(const char *n) const override
+    {
+        return has(n, m_all->GetFloat(n));
+    }
+    OrvGenParam::Enum *GetEnum(const char *n) const override { return has(n, m_all->GetEnum(n)); }
+    OrvGenParam::Boolean *GetBoolean(const char *n) const override
+    {
+        return has(n, m_all->GetBoolean(n));
+    }
+    OrvGenParam::Command *GetCommand(const char *n) const override
+    {
+        return has(n, m_all->GetCommand(n));
+    }
+    OrvGenParam::String *GetString(const char *n) const override
+    {
+        return has(n, m_all->GetString(n));
+    }
+    int64_t GetIntegerValue(const char *n, int32_t *error) const override
+    {
+        return m_all->GetIntegerValue(n, error);
+    }
+    int32_t SetIntegerValue(const char *n, int64_t value) override
+    {
+        return m_all->SetIntegerValue(n, value);
+    }
+    int32_t ExecuteCommand(const char *n) override { return m_all->ExecuteCommand(n); }
+    GenApi::INodeMap *GetNodeMap(int32_t *error) const override { return m_all->GetNodeMap(error); }
+
+private:
+    template<class Kind>
+    Kind *has(const char *name, Kind *param) const
+    {
+        return missing.contains(name) ? nullptr : param;
+    }
+
+    OrvGenParam::Array *const m_all;
+};
+
+class PartialDevice : public NodeMapDevice
+{
+public:
+    explicit PartialDevice(GenApi::INodeMap &nodeMap) : NodeMapDevice(nodeMap), part(array.get()) {}
+    OrvGenParam::Array *GetParamArray(int32_t *code) override
+    {
+        return NodeMapDevice::GetParamArray(code) ? &part : nullptr;
+    }
+    PartialArray part;
+};
+
+/// A simulated camera and access to it from outside the dialog.
+class Camera
+{
+public:
+    Camera() : map(OrvAravis::NodeMap::open(simulation.device())), device(*map) {}
+
+    OrvGenParam::Array *array() { return &device.part; }
+    OrvGenParam::Int *number(const QByteArray &name) { return device.array->GetInt(name); }
+    OrvGenParam::Enum *choice(const QByteArray &name) { return device.array->GetEnum(name); }
+    OrvGenParam::Boolean *flag(const QByteArray &name) { return device.array->GetBoolean(name); }
+
+    qint64 value(const QByteArray &name) { return number(name)->GetValue(); }
+    QString symbol(const QByteArray &name) { return choice(name)->GetSymbolicValue(); }
+    bool set(const QByteArray &name, qint64 value) { return number(name)->SetValue(value) == 0; }
+    bool choose(const QByteArray &name, const char *symbol)
+    {
+        return choice(name)->SetSymbolicValue(symbol) == 0;
+    }
+    bool turn(const QByteArray &name, bool on) { return flag(name)->SetValue(on) == 0; }
+    int writes() const { return int(map->transactions().writes); }
+
+    SimulatedCamera simulation;
+    std::unique_ptr<OrvAravis::NodeMap> map;
+    PartialDevice device;
+};
+
+/// The frame A/B dialog and how a user works with it.
+class Dialog : public OrvCamConfigFrameABDialog
+{
+public:
+    explicit Dialog(OrvCam::Device *device) : OrvCamConfigFrameABDialog(device) { open(); }
+
+    template<class T = QWidget>
+    T *get(const char *name) const
+    {
+        T *found = findChild<T *>(name);
+        if (!found)
+            qFatal("The dialog has no %s", name);
+        return found;
+    }
+    bool isOn(const char *name) const { return get(name)->isEnabled(); }
+    int shown(const char *name) const { return get(name)->property("value").toInt(); }
+    double gain() const { return get<QtOrvGainSlider>("spBoxDigitalGain")->value(); }
+    QAbstractSpinBox *editor(const char *name) const
+    {
+        return get(name)->findChild<QAbstractSpinBox *>();
+    }
+    QTabWidget *tabs() const { return get<QTabWidget>("tabFrames"); }
+
+    void type(const char *name, const QString &text, bool enter = true)
+    {
+        QAbstractSpinBox *spinBox = editor(name);
+        spinBox->setFocus();
+        spinBox->selectAll();
+        QTest::keyClicks(spinBox, text);
+        if (enter)
+            QTest::keyClick(spinBox, Qt::Key_Return);
+    }
+    void type(const char *name, int number) { type(name, QString::number(number)); }
+    void click(const char *name)
+    {
+        auto *button = get<QAbstractButton>(name);
+        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(10, button->height() / 2));
+    }
+    void clickTab(int index)
+    {
+        QTest::mouseClick(tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
+                          tabs()->tabBar()->tabRect(index).center());
+        settle();
+    }
+    void pick(const char *name, const QString &text)
+    {
+        auto *comboBox = get<QComboBox>(name);
+        comboBox->setFocus();
+        const int index = comboBox->findText(text);
+        for (int i = 0; i < comboBox->count() && comboBox->currentIndex() != index; ++i)
+            QTest::keyClick(comboBox, comboBox->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
+        settle();
+    }
+    void drag(const char *name, double part)
+    {
+        auto *slider = get(name)->findChild<QSlider *>();
+        const QPoint to(int(slider->width() * part), slider->height() / 2);
+        dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
+        QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
+        settle();
+    }
+    static void settle()
+    {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    /// How the dialog differs from what the camera holds; empty when it does not.
+    QStringList differences(Camera &camera);
+
+    void wantsCustom(const Area &area) { m_customArea = area; }
+
+private:
+    void open()
+    {
+        show();
+        activateWindow();
+        if (!QTest::qWaitForWindowActive(this))
+            qFatal("The dialog does not come up");
+    }
+
+    Area m_customArea;
+};
+
+struct Binding
+{
+    const char *feature;
+    const char *widget;
+};
+
+const Binding combos[] = {{"FrameMode", "cmBoxFrameMode"},
+                          {"Frame_SubsamplingM", "cmBoxSubsamplingM"},
+                          {"Frame_SubsamplingP", "cmBoxSubsamplingP"},
+                          {"Frame_Averaging", "cmBoxAveraging"},
+                          {"Frame_WdrP1", "cmBoxWdrP1"},
+                          {"Frame_WdrP2", "cmBoxWdrP2"},
+                          {"Frame_WdrP3", "cmBoxWdrP3"}};
+
+const Binding numbers[] = {{"Frame_ExposureLines", "spBoxExpLines"},
+                           {"Frame_ExposureClocks", "spBoxExpClocks"},
+                           {"Frame_OffsetX", "spBoxFrameOffsetX"},
+                           {"Frame_OffsetY", "spBoxFrameOffsetY"},
+                           {"Frame_Width", "spBoxFrameWidth"},
+                           {"Frame_Height", "spBoxFrameHeight"},
+                           {"Frame_WdrE1", "spBoxWdrE1"},
+                           {"Frame_WdrE2", "spBoxWdrE2"},
+                           {"Frame_WdrE3", "spBoxWdrE3"},
+                           {"Frame_BlackLevel", "spBoxBlackLevel"}};
+
+const Binding checks[] = {{"Frame_FixedFramePeriodEnable", "chBoxFixedFramePeriodEnable"},
+                          {"Frame_WdrEnable", "chBoxWdrEnable"}};
+
+struct Choice
+{
+    const char *feature;
+    Names buttons;
+};
+
+const Choice choices[] = {
+    {"ShutterMode", {"radioBtnRollingShutter", "radioBtnGlobalShutter"}},
+    {"SensorADCBitDepth", {"radioBtnAdcSelector10b", "radioBtnAdcSelector12b"}},
+    {"Frame_ExposureControl", {"radioBtnExpOff", "radioBtnExpTrigger", "radioBtnExpInternal"}},
+    {"Frame_DecimationMode",
+     {"radioBtnSubsampleOff", "radioBtnSubsampleSubsampling", "radioBtnSubsampleAverage"}},
+    {"Frame_AnalogGain",
+     {"radioBtnAGain1x", "radioBtnAGain2x", "radioBtnAGain4x", "radioBtnAGain8x"}}};
+
+const Names presetButtons = {"radioBtnFullFrame", "radioBtnQFHDFrame", "radioBtnCustomFrame"};
+
+Area areaOf(Camera &camera)
+{
+    return {camera.value("Frame_OffsetX"), camera.value("Frame_OffsetY"),
+            camera.value("Frame_Width"), camera.value("Frame_Height")};
+}
+
+/// Which area of the 4096 by 3072 sensor the camera holds, as the index of its button.
+int presetOf(Camera &camera)
+{
+    const Area area = areaOf(camera);
+    return area == Area{0, 0, 4096, 3072} ? 0 : area == Area{128, 456, 3840, 2160} ? 1 : 2;
+}
+
+QStringList Dialog::differences(Camera &camera)
+{
+    QStringList all;
+    const auto expect = [&](const char *what, const QVariant &here, const QVariant &there) {
+        if (here != there)
+            all << QString("%1 shows %2, not %3").arg(what, here.toString(), there.toString());
+    };
+    const auto isUsable = [&](const char *feature) {
+        const auto *param = camera.device.array->GetParam(feature);
+        return param->IsAvailable() && param->IsWritable();
+    };
+
+    for (const Binding &b : combos) {
+        expect(b.widget, isOn(b.widget), isUsable(b.feature));
+        if (camera.choice(b.feature)->IsReadable())
+            expect(b.widget, get<QComboBox>(b.widget)->currentText(), camera.symbol(b.feature));
+    }
+    for (const Binding &b : numbers) {
+        expect(b.widget, isOn(b.widget), isUsable(b.feature));
+        if (!camera.number(b.feature)->IsReadable())
+            continue;
+        expect(b.widget, shown(b.widget), camera.value(b.feature));
+        expect(b.widget, get(b.widget)->property("minimum"),
+               qint64(camera.number(b.feature)->GetMin()));
+        expect(b.widget, get(b.widget)->property("maximum"),
+               qint64(camera.number(b.feature)->GetMax()));
+    }
+    for (const Binding &b : checks) {
+        expect(b.widget, isOn(b.widget), isUsable(b.feature));
+        expect(b.widget, get<QCheckBox>(b.widget)->isChecked(), camera.flag(b.feature)->GetValue());
+    }
+    for (const Choice &c : choices) {
+        for (const char *name : c.buttons) {
+            const auto *button = get<QRadioButton>(name);
+            expect(name, button->isEnabled(), isUsable(c.feature));
+            expect(name, button->isChecked(), button->text() == camera.symbol(c.feature));
+        }
+    }
+
+    const QString mode = camera.symbol("FrameMode");
+    const bool isDual = mode == "DualVideo";
+    const int frame = int(camera.choice("FrameAB_Selector")->GetIntValue());
+    expect("tabFrames", tabs()->currentIndex(), frame);
+    expect("tab of frame A", tabs()->isTabEnabled(0), mode != "FrameB");
+    expect("tab of frame B", tabs()->isTabEnabled(1), mode != "FrameA");
+    expect("page", tabs()->currentWidget()->isAncestorOf(get("grBoxWDR")), true);
+    expect("page", get("grBoxWDR")->isVisible(), true);
+    expect("spBoxNumberOfFrameAs", isOn("spBoxNumberOfFrameAs"), isDual);
+    expect("spBoxNumberOfFrameBs", isOn("spBoxNumberOfFrameBs"), isDual);
+    if (isDual) {
+        expect("spBoxNumberOfFrameAs", shown("spBoxNumberOfFrameAs"),
+               camera.value("NumberOfFrameAs"));
+        expect("spBoxNumberOfFrameBs", shown("spBoxNumberOfFrameBs"),
+               camera.value("NumberOfFrameBs"));
+    }
+    const qint64 lineTime = camera.value("Frame_LineTime");
+    expect("spBoxDualVideo", isOn("spBoxDualVideo"), isDual);
+    expect("spBoxFrameLineTime", isOn("spBoxFrameLineTime"), !isDual);
+    expect("line time", shown(isDual ? "spBoxDualVideo" : "spBoxFrameLineTime"), lineTime);
+
+    const qint64 clock = camera.value("PixelClock");
+    const bool isFixed = camera.flag("Frame_FixedFramePeriodEnable")->GetValue();
+    const auto inMicroseconds = [&](qint64 lines) {
+        return clock ? qint64(double(lines * lineTime) / double(clock) + 0.5) : 0;
+    };
+    expect("spBoxFixedFramePeriodValue", isOn("spBoxFixedFramePeriodValue"), isFixed);
+    if (isFixed)
+        expect("spBoxFixedFramePeriodValue", shown("spBoxFixedFramePeriodValue"),
+               inMicroseconds(camera.value("Frame_FixedFramePeriodValue")));
+    expect("spBoxExpTime", isOn("spBoxExpTime"), isUsable("Frame_ExposureLines"));
+    if (isOn("spBoxExpTime")) {
+        const qint64 clocks =
+            camera.value("Frame_ExposureLines") * lineTime + camera.value("Frame_ExposureClocks");
+        expect("spBoxExpTime", shown("spBoxExpTime"), clock ? clocks / clock : 0);
+        const qint64 most = camera.number("Frame_ExposureLines")->GetMax() * lineTime +
+                            camera.number("Frame_ExposureClocks")->GetMax();
+        expect("end of spBoxExpTime", get("spBoxExpTime")->property("maximum").toLongLong(),
+               isFixed ? inMicroseconds(camera.value("Frame_FixedFramePeriodValue"))
+                       : qMin<qint64>(clock ? most / clock : 0, 2147483647));
+    }
+
+    const double factor = std::ldexp(1 + double(camera.value("Frame_DigitalFineGain")) / 64,
+                                     int(camera.value("Frame_DigitalCourseGain")));
+    if (std::abs(gain() - factor) > 0.125)
+        all << QString("The gain is %1, not %2").arg(gain()).arg(factor);
+
+    // Custom may stay if the user has chosen it for just that area.
+    if (areaOf(camera) != m_customArea)
+        m_customArea = {};
+    const char *const preset = presetButtons[presetOf(camera)];
+    if (m_customArea.isEmpty() || !get<QRadioButton>("radioBtnCustomFrame")->isChecked())
+        expect(preset, get<QRadioButton>(preset)->isChecked(), true);
+    return all;
+}
+
+const auto none = QStringList();
+
+#define VERIFY_SAME(dialog, camera)                                                                \
+    do {                                                                                           \
+        const QStringList differences = (dialog).differences(camera);                              \
+        QVERIFY2(differences.isEmpty(), qPrintable(differences.join("; ")));                       \
+    } while (false)
+
+} // namespace
+
+Q_DECLARE_METATYPE(Names)
+
+class TestFrameABDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void theFormHasItsTexts();
+    void withoutACamera();
+    void eachControlIsBound();
+    void exposureTimeIsSplit();
+    void exposureTimeAtOddCameras_data();
+    void exposureTimeAtOddCameras();
+    void fixedPeriodIsConverted();
+    void gainIsSplit();
+    void gainWithoutAPart();
+    void draggingWritesOnceAtTheEnd();
+    void outputMode();
+    void twoFramesHoldTwoSettings();
+    void typingBelongsToTheFrameItWasBegunFor();
+    void somebodyElseLooksAtTheOtherFrame();
+    void pixelClockChanges();
+    void areaPresets();
+    void areaPresetsOfOtherSensors_data();
+    void areaPresetsOfOtherSensors();
+    void missingFeatures_data();
+    void missingFeatures();
+    void refusedWrites();
+    void otherCameraInTheMiddle();
+    void currentSizeIsRefreshed();
+    void randomWalk();
+};
+
+void TestFrameABDialog::initTestCase()
+{
+    QApplication::setStyle("fusion");
+}
+
+void TestFrameABDialog::theFormHasItsTexts()
+{
+    const QChar mu(0x03BC);
+    Dialog dialog(nullptr);
+    QVERIFY(!dialog.windowIcon().isNull());
+    QVERIFY(!dialog.get<QLabel>("lblWdrImage")->pixmap()->isNull());
+    const QMap<QByteArray, QString> captions = {
+        {"spBoxDualVideo", "Dual Video\nLine Time [pclk]:"},
+        {"spBoxExpTime", QString("Exposure Time [%1s]:").arg(mu)},
+        {"spBoxFixedFramePeriodValue", QString("[%1s]:").arg(mu)},
+        {"spBoxFrameLineTime", "Line Time [pclk]:"},
+        {"spBoxFrameOffsetX", "OffsetX:"},
+        {"spBoxFrameOffsetY", "OffsetY:"},
+        {"spBoxFrameWidth", "Width: "},
+        {"spBoxFrameHeight", "Height:"},
+        {"spBoxDigitalGain", "Digital Gain:"},
+        {"spBoxBlackLevel", "Black Level:"}};
+    for (auto it = captions.begin(); it != captions.end(); ++it)
+        QCOMPARE(dialog.get(it.key())->property("leftLabelText").toString(), it.value());
+    for (const char *name : {"lblWdrE1MicroSec", "lblWdrE2MicroSec", "lblWdrE3MicroSec"})
+        QCOMPARE(dialog.get<QLabel>(name)->text(), QString("%1s").arg(mu));
+}
+
+void TestFrameABDialog::withoutACamera()
+{
+    Camera camera;
+    Dialog dialog(nullptr);
+    QVERIFY(!dialog.isEnabled());
+    dialog.SetDevice(&camera.device);
+    QVERIFY(dialog.isEnabled());
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(camera.writes(), 0);
+
+    camera.device.error = 5;
+    dialog.SetDevice(&camera.device);
+    QVERIFY(!dialog.isEnabled());
+    QCOMPARE(dialog.get<QLineEdit>("lineEditFrameCurrentSize")->text(), QString());
+    // Nothing of the camera reaches a dialog without one, nor the other way round.
+    camera.set("Frame_BlackLevel", 99);
+    camera.choose("FrameMode", "FrameB");
+    QCOMPARE(dialog.shown("spBoxBlackLevel"), 64);
+    QCOMPARE(camera.writes(), 2);
+
+    camera.device.error = OrvCam::Success;
+    dialog.SetDevice(&camera.device);
+    dialog.SetDevice(&camera.device);
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    const int writes = camera.writes();
+    dialog.type("spBoxBlackLevel", 100);
+    dialog.type("spBoxExpTime", 1234);
+    dialog.type("spBoxDigitalGain", QStringLiteral("5"));
+    QCOMPARE(camera.writes(), writes + 5);
+}
+
+void TestFrameABDialog::eachControlIsBound()
+{
+    Camera camera;
+    camera.choose("FrameMode", "DualVideo");
+    camera.turn("Frame_WdrEnable", true);
+    camera.set("Frame_OffsetX", 0);
+    camera.set("Frame_Width", 2048);
+    camera.set("Frame_Height", 1024);
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+
+    const auto arrow = [&](const char *feature, const char *widget) {
+        const qint64 before = camera.value(feature);
+        const int writes = camera.writes();
+        QTest::keyClick(dialog.editor(widget), Qt::Key_Up);
+        return camera.value(feature) == before + camera.number(feature)->GetInc() &&
+               dialog.shown(widget) == camera.value(feature) && camera.writes() == writes + 1;
+    };
+    for (const Binding &b : numbers)
+        QVERIFY2(arrow(b.feature, b.widget), b.widget);
+    QVERIFY(arrow("NumberOfFrameAs", "spBoxNumberOfFrameAs"));
+    QVERIFY(arrow("NumberOfFrameBs", "spBoxNumberOfFrameBs"));
+    QVERIFY(arrow("Frame_LineTime", "spBoxDualVideo"));
+    for (const Choice &c : choices) {
+        for (const char *button : c.buttons) {
+            dialog.click(button);
+            QCOMPARE(camera.symbol(c.feature), dialog.get<QRadioButton>(button)->text());
+        }
+    }
+    for (const Binding &b : checks) {
+        const bool before = camera.flag(b.feature)->GetValue();
+        dialog.click(b.widget);
+        QCOMPARE(camera.flag(b.feature)->GetValue(), !before);
+        dialog.click(b.widget);
+    }
+    dialog.click("radioBtnSubsampleSubsampling");
+    dialog.pick("cmBoxSubsamplingM", "M8");
+    dialog.pick("cmBoxSubsamplingP", "P4");
+    QCOMPARE(camera.symbol("Frame_SubsamplingM"), QString("M8"));
+    QCOMPARE(camera.symbol("Frame_SubsamplingP"), QString("P4"));
+    dialog.click("radioBtnSubsampleAverage");
+    dialog.pick("cmBoxAveraging", "Avg4x4");
+    for (const char *knee : {"P1", "P2", "P3"}) {
+        dialog.pick(QByteArray("cmBoxWdr").append(knee), "Percent20");
+        QCOMPARE(camera.symbol(QByteArray("Frame_Wdr") + knee), QString("Percent20"));
+    }
+    QCOMPARE(camera.symbol("Frame_Averaging"), QString("Avg4x4"));
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(boxes.texts, none);
+}
+
+void TestFrameABDialog::exposureTimeIsSplit()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    QCOMPARE(dialog.shown("spBoxExpTime"), 10000);
+    int writes = camera.writes();
+    dialog.type("spBoxExpTime", 10);
+    QCOMPARE(camera.value("Frame_ExposureLines"), Q_INT64_C(1));
+    QCOMPARE(camera.value("Frame_ExposureClocks"), Q_INT64_C(600));
+    QCOMPARE(camera.writes(), writes + 2);
+    VERIFY_SAME(dialog, camera);
+
+    // Typing alone writes nothing, and the other way round the time follows.
+    writes = camera.writes();
+    dialog.type("spBoxExpTime", "777", false);
+    QCOMPARE(camera.writes(), writes);
+    QTest::keyClick(dialog.editor("spBoxExpTime"), Qt::Key_Return);
+    dialog.type("spBoxExpLines", 16);
+    dialog.type("spBoxExpClocks", 319);
+    QCOMPARE(dialog.shown("spBoxExpTime"), 101);
+    camera.set("Frame_ExposureLines", 32);
+    QCOMPARE(dialog.shown("spBoxExpTime"), 201);
+    camera.set("Frame_LineTime", 2000);
+    QCOMPARE(dialog.shown("spBoxExpTime"), 401);
+    QCOMPARE(camera.value("Frame_ExposureClocks"), Q_INT64_C(319));
+
+    // A time that was longer than what is left of the range is not shortened by being shown.
+    camera.set("Frame_ExposureLines", 5000);
+    camera.turn("Frame_FixedFramePeriodEnable", true);
+    camera.set("Frame_FixedFramePeriodValue", 100);
+    VERIFY_SAME(dialog, camera);
+    camera.turn("Frame_FixedFramePeriodEnable", false);
+    QCOMPARE(camera.value("Frame_ExposureLines"), Q_INT64_C(5000));
+    VERIFY_SAME(dialog, camera);
+
+    // The longest time of a fixed period is one that the camera has no lines for.
+    camera.turn("Frame_FixedFramePeriodEnable", true);
+    const int longest = dialog.get("spBoxExpTime")->property("maximum").toInt();
+    for (int i = 0; i < 2; ++i) {
+        dialog.type("spBoxExpTime", longest);
+        VERIFY_SAME(dialog, camera);
+    }
+
+    camera.choose("Frame_ExposureControl", "Off");
+    QVERIFY(!dialog.isOn("spBoxExpTime"));
+    camera.choose("Frame_ExposureControl", "Internal");
+    VERIFY_SAME(dialog, camera);
+}
+
+void TestFrameABDialog::exposureTimeAtOddCameras_data()
+{
+    QTest::addColumn<qint64>("clock");
+    QTest::addColumn<qint64>("lineTime");
+    QTest::addColumn<int>("time");
+    QTest::addColumn<qint64>("lines");
+    QTest::addColumn<qint64>("clocks");
+    QTest::addColumn<int>("period");
+
+    QTest::newRow("no line time") << 160LL << 0LL << 3 << 0LL << 480LL << 0;
+    QTest::newRow("no pixel clock") << 0LL << 1000LL << 3 << 20LL << 30LL << 0;
+    QTest::newRow("neither") << 0LL << 0LL << 3 << 20LL << 30LL << 0;
+    QTest::newRow("unknown clock") << -1LL << 1000LL << 10 << 1LL << 600LL << 25000;
+    QTest::newRow("slow clock") << 1LL << 1000LL << 2500 << 2LL << 500LL << 2147483647;
+    QTest::newRow("negative line time") << 160LL << -1LL << 0 << 20LL << 30LL << 0;
+}
+
+void TestFrameABDialog::exposureTimeAtOddCameras()
+{
+    QFETCH(qint64, clock);
+    QFETCH(qint64, lineTime);
+    QFETCH(int, time);
+    QFETCH(qint64, lines);
+    QFETCH(qint64, clocks);
+    QFETCH(int, period);
+
+    OrvGenApi::MemoryNodeMap map;
+    map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
+    if (clock >= 0)
+        map.addInteger("PixelClock", clock);
+    map.addInteger("Frame_LineTime", lineTime);
+    auto &linesNode = map.addInteger("Frame_ExposureLines", 20);
+    linesNode.setLimits(0, std::numeric_limits<qint64>::max());
+    auto &clocksNode = map.addInteger("Frame_ExposureClocks", 30);
+    clocksNode.setLimits(0, 1999);
+    auto &periodNode = map.addInteger("Frame_FixedFramePeriodValue", clock == 1 ? 4000000 : 4000);
+    periodNode.setLimits(0, std::numeric_limits<qint64>::max());
+    if (clock == 1)
+        linesNode.setLimits(0, 1000000);
+    NodeMapDevice device(map);
+    Dialog dialog(&device);
+    QCOMPARE(dialog.shown("spBoxFixedFramePeriodValue"), period);
+    dialog.type("spBoxExpTime", time);
+    QCOMPARE(qint64(linesNode.GetValue()), lines);
+    QCOMPARE(qint64(clocksNode.GetValue()), clocks);
+}
+
+void TestFrameABDialog::fixedPeriodIsConverted()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const char *const box = "spBoxFixedFramePeriodValue";
+    QVERIFY(!dialog.isOn(box));
+    dialog.click("chBoxFixedFramePeriodEnable");
+    QVERIFY(dialog.isOn(box));
+    QCOMPARE(dialog.shown(box), 25000);
+    QCOMPARE(dialog.get("spBoxExpTime")->property("maximum").toInt(), 25000);
+
+    const int writes = camera.writes();
+    dialog.type(box, 30000);
+    QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), Q_INT64_C(4800));
+    QCOMPARE(camera.writes(), writes + 1);
+    QCOMPARE(dialog.get("spBoxExpTime")->property("maximum").toInt(), 30000);
+    camera.set("Frame_FixedFramePeriodValue", 1601);
+    QCOMPARE(dialog.shown(box), 10006);
+    QCOMPARE(dialog.get("spBoxExpTime")->property("maximum").toInt(), 10006);
+
+    // The camera keeps the lines when a line takes another time.
+    dialog.type("spBoxFrameLineTime", 1234);
+    QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), Q_INT64_C(1601));
+    VERIFY_SAME(dialog, camera);
+
+    // Each arrow is another number of lines, up and down again.
+    QVector<qint64> lines;
+    for (const Qt::Key key :
+         {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}) {
+        QTest::keyClick(dialog.editor(box), key);
+        lines << camera.value("Frame_FixedFramePeriodValue");
+    }
+    QCOMPARE(lines, (QVector<qint64>{1602, 1603, 1604, 1603, 1602, 1601}));
+}
+
+void TestFrameABDialog::gainIsSplit()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const auto gain = [&] {
+        return qMakePair(camera.value("Frame_DigitalCourseGain"),
+                         camera.value("Frame_DigitalFineGain"));
+    };
+    QCOMPARE(dialog.get("spBoxDigitalGain")->property("maximum").toDouble(), 31.75);
+    const struct
+    {
+        const char *text;
+        QPair<qint64, qint64> parts;
+        double shown;
+    } rows[] = {{"3.0", {1, 32}, 3.0},     {"1.0", {0, 0}, 1.0},      {"1.98", {0, 63}, 2.0},
+                {"7.875", {2, 62}, 7.875}, {"31.75", {4, 63}, 31.75}, {"2", {1, 0}, 2.0}};
+    for (const auto &row : rows) {
+        const int writes = camera.writes();
+        dialog.type("spBoxDigitalGain", QString(row.text));
+        QCOMPARE(dialog.gain(), row.text == QByteArray("1.98") ? 2.0 : row.shown);
+        if (row.text != QByteArray("1.98"))
+            QCOMPARE(gain(), row.parts);
+        QVERIFY(camera.writes() - writes <= 2);
+    }
+
+    const int writes = camera.writes();
+    camera.set("Frame_DigitalCourseGain", 2);
+    camera.set("Frame_DigitalFineGain", 17);
+    QCOMPARE(dialog.gain(), 5.125); // 5.0625 on the grid of the box
+    QCOMPARE(gain(), qMakePair(Q_INT64_C(2), Q_INT64_C(17)));
+    QCOMPARE(camera.writes(), writes + 2);
+
+    // An arrow leads on even where the camera knows no half steps.
+    dialog.type("spBoxDigitalGain", QStringLiteral("20"));
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(dialog.editor("spBoxDigitalGain"), Qt::Key_Up);
+    QCOMPARE(dialog.gain(), 21.0);
+    QCOMPARE(gain(), qMakePair(Q_INT64_C(4), Q_INT64_C(20)));
+}
+
+void TestFrameABDialog::gainWithoutAPart()
+{
+    const QByteArray coarse = "Frame_DigitalCourseGain";
+    const QByteArray fine = "Frame_DigitalFineGain";
+    Camera camera;
+    Dialog dialog(nullptr);
+    const QWidget *const slider = dialog.get("spBoxDigitalGain");
+    camera.set(fine, 16);
+
+    camera.device.part.missing = {coarse};
+    dialog.SetDevice(&camera.device);
+    QCOMPARE(dialog.gain(), 1.25);
+    QCOMPARE(slider->property("minimum").toDouble(), 1.0);
+    QCOMPARE(slider->property("maximum").toDouble(), 1.984375);
+    dialog.type("spBoxDigitalGain", QStringLiteral("1.5"));
+    QCOMPARE(camera.value(fine), Q_INT64_C(32));
+
+    camera.device.part.missing = {fine};
+    dialog.SetDevice(&camera.device);
+    QCOMPARE(slider->property("maximum").toDouble(), 16.0);
+    dialog.type("spBoxDigitalGain", QStringLiteral("8"));
+    QCOMPARE(camera.value(coarse), Q_INT64_C(3));
+    QCOMPARE(camera.value(fine), Q_INT64_C(32));
+    QCOMPARE(dialog.gain(), 8.0);
+
+    camera.device.part.missing = {coarse, fine};
+    dialog.SetDevice(&camera.device);
+    QVERIFY(!slider->isEnabled());
+}
+
+void TestFrameABDialog::draggingWritesOnceAtTheEnd()
+{
+    Camera camera;
+    camera.turn("Frame_FixedFramePeriodEnable", true);
+    Dialog dialog(&camera.device);
+    int writes = camera.writes();
+    dialog.drag("spBoxBlackLevel", 0.5);
+    QCOMPARE(camera.writes(), writes + 1);
+    dialog.drag("spBoxFrameLineTime", 0.1);
+    QCOMPARE(camera.writes(), writes + 2);
+    dialog.drag("spBoxFixedFramePeriodValue", 0.8);
+    QCOMPARE(camera.writes(), writes + 3);
+    dialog.drag("spBoxDigitalGain", 0.5);
+    QCOMPARE(camera.writes(), writes + 5);
+    VERIFY_SAME(dialog, camera);
+    QVERIFY(camera.value("Frame_DigitalCourseGain") == 3 ||
+            camera.value("Frame_DigitalCourseGain") == 4);
+
+    // The exposure time has its slider in a window of its own.
+    writes = camera.writes();
+    auto *box = dialog.get<QtOrvSpinBox>("spBoxExpTime");
+    box->toolButton()->click();
+    QVERIFY(QTest::qWaitForWindowExposed(box->slider()));
+    auto *slider = box->slider()->findChild<QSlider *>();
+    const QPoint to(slider->width() / 2, slider->height() / 5);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
+    QCOMPARE(camera.writes(), writes);
+    camera.set("Frame_ExposureLines", 5); // must not disturb the user
+    QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
+    QVERIFY(camera.value("Frame_ExposureLines") != 5);
+    QVERIFY(camera.writes() <= writes + 3);
+    box->slider()->hide();
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+}
+
+void TestFrameABDialog::outputMode()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(camera.writes(), 0);
+
+    // Each of the two line times is found again where it was.
+    int writes = camera.writes();
+    dialog.pick("cmBoxFrameMode", "FrameB");
+    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
+    QCOMPARE(camera.writes(), writes + 2);
+    VERIFY_SAME(dialog, camera);
+    dialog.type("spBoxFrameLineTime", 1300);
+    dialog.pick("cmBoxFrameMode", "DualVideo");
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(dialog.tabs()->currentIndex(), 1);
+    dialog.type("spBoxDualVideo", 1500);
+    dialog.type("spBoxNumberOfFrameAs", 3);
+    dialog.type("spBoxNumberOfFrameBs", 4);
+    dialog.clickTab(0);
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(dialog.shown("spBoxDualVideo"), 1500);
+    dialog.pick("cmBoxFrameMode", "FrameA");
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1000);
+    QVERIFY(!dialog.isOn("spBoxNumberOfFrameAs") && !dialog.isOn("spBoxNumberOfFrameBs"));
+    dialog.clickTab(1); // is disabled
+    QCOMPARE(dialog.tabs()->currentIndex(), 0);
+
+    // From outside, too, and the counts come back with what they were.
+    writes = camera.writes();
+    camera.choose("FrameMode", "DualVideo");
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(dialog.shown("spBoxNumberOfFrameBs"), 4);
+    QCOMPARE(camera.writes(), writes + 1);
+    camera.choose("FrameMode", "FrameB");
+    Dialog::settle();
+    QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1300);
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(camera.writes(), writes + 3); // the mode, and the frame that goes with it
+    QCOMPARE(boxes.texts, none);
+
+    // A camera that was left with the other frame selected.
+    camera.choose("FrameAB_Selector", "FrameA");
+    dialog.SetDevice(&camera.device);
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
+}
+
+void TestFrameABDialog::twoFramesHoldTwoSettings()
+{
+    Camera camera;
+    camera.choose("FrameMode", "DualVideo");
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+    const auto setUp = [&](int frame) {
+        dialog.clickTab(frame);
+        dialog.click("radioBtnCustomFrame");
+        dialog.type("spBoxFrameOffsetX", 0);
+        dialog.type("spBoxFrameOffsetY", 0);
+        dialog.type("spBoxFrameWidth", frame ? 1024 : 2048);
+        dialog.type("spBoxFrameHeight", frame ? 512 : 768);
+        dialog.type("spBoxFrameOffsetX", frame ? 160 : 320);
+        dialog.type("spBoxFrameOffsetY", frame ? 40 : 80);
+        dialog.type("spBoxExpTime", frame ? 70 : 5000);
+        dialog.type("spBoxDigitalGain", QString(frame ? "6.5" : "1.25"));
+        dialog.type("spBoxBlackLevel", frame ? 11 : 22);
+        dialog.click(frame ? "radioBtnAGain8x" : "radioBtnAGain2x");
+        dialog.click(frame ? "radioBtnSubsampleAverage" : "radioBtnSubsampleSubsampling");
+        if (frame == 0) {
+            dialog.click("chBoxWdrEnable");
+            dialog.type("spBoxWdrE2", 77);
+            dialog.pick("cmBoxWdrP1", "Percent20");
+        } else {
+            dialog.click("chBoxFixedFramePeriodEnable");
+            dialog.type("spBoxFixedFramePeriodValue", 20000);
+        }
+    };
+    setUp(0);
+    setUp(1);
+    for (int i = 0; i < 5; ++i)
+        dialog.clickTab(i % 2);
+    QCOMPARE(boxes.texts, none);
+    VERIFY_SAME(dialog, camera);
+
+    const struct
+    {
+        const char *feature;
+        qint64 frameA;
+        qint64 frameB;
+    } expected[] = {{"Frame_Width", 2048, 1024},
+                    {"Frame_Height", 768, 512},
+                    {"Frame_OffsetX", 320, 160},
+                    {"Frame_OffsetY", 80, 40},
+                    {"Frame_ExposureLines", 571, 8},
+                    {"Frame_ExposureClocks", 600, 0},
+                    {"Frame_DigitalCourseGain", 0, 2},
+                    {"Frame_DigitalFineGain", 16, 40},
+                    {"Frame_BlackLevel", 22, 11},
+                    {"Frame_LineTime", 1400, 1400},
+                    {"Frame_FixedFramePeriodValue", 0, 2286}};
+    for (const char *frame : {"FrameA", "FrameB"}) {
+        const bool isA = frame == QByteArray("FrameA");
+        camera.choose("FrameAB_Selector", frame);
+        for (const auto &row : expected)
+            QVERIFY2(camera.value(row.feature) == (isA ? row.frameA : row.frameB), row.feature);
+        QCOMPARE(camera.symbol("Frame_AnalogGain"), QString(isA ? "x2" : "x8"));
+        QCOMPARE(camera.symbol("Frame_DecimationMode"), QString(isA ? "Subsampling" : "Average"));
+        QCOMPARE(camera.flag("Frame_WdrEnable")->GetValue(), isA);
+        QCOMPARE(camera.flag("Frame_FixedFramePeriodEnable")->GetValue(), !isA);
+    }
+}
+
+void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
+{
+    Camera camera;
+    camera.choose("FrameMode", "DualVideo");
+    Dialog dialog(&camera.device);
+    const auto levels = [&] {
+        const QString selected = camera.symbol("FrameAB_Selector");
+        QVector<qint64> both;
+        for (const char *frame : {"FrameA", "FrameB"}) {
+            camera.choose("FrameAB_Selector", frame);
+            both << camera.value("Frame_BlackLevel");
+        }
+        camera.choose("FrameAB_Selector", selected.toLatin1());
+        Dialog::settle();
+        return both;
+    };
+
+    // A number that is not entered counts for neither frame when the user turns to the other tab.
+    dialog.type("spBoxBlackLevel", "200", false);
+    dialog.clickTab(1);
+    QCOMPARE(dialog.shown("spBoxBlackLevel"), 80);
+    QCOMPARE(levels(), (QVector<qint64>{64, 80}));
+
+    // Nor when somebody else does.
+    for (const qint64 other : {80, 123}) {
+        camera.set("Frame_BlackLevel", 123); // of frame B
+        camera.choose("FrameAB_Selector", "FrameA");
+        camera.set("Frame_BlackLevel", other);
+        Dialog::settle();
+        dialog.type("spBoxBlackLevel", "300", false);
+        camera.choose("FrameAB_Selector", "FrameB");
+        Dialog::settle();
+        VERIFY_SAME(dialog, camera);
+        QCOMPARE(levels(), (QVector<qint64>{other, 123}));
+    }
+
+    // What was dragged does not, either.
+    camera.choose("FrameAB_Selector", "FrameA");
+    Dialog::settle();
+    auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
+    const QPoint to(slider->width() / 2, slider->height() / 2);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
+    QVERIFY(dialog.shown("spBoxBlackLevel") > 400);
+    camera.choose("FrameAB_Selector", "FrameB");
+    QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
+    Dialog::settle();
+    QCOMPARE(levels(), (QVector<qint64>{123, 123}));
+    VERIFY_SAME(dialog, camera);
+}
+
+void TestFrameABDialog::somebodyElseLooksAtTheOtherFrame()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+    for (int i = 0; i < 3; ++i) {
+        const int writes = camera.writes();
+        camera.choose("FrameAB_Selector", "FrameB");
+        QCOMPARE(camera.value("Frame_BlackLevel"), Q_INT64_C(80));
+        camera.choose("FrameAB_Selector", "FrameA");
+        Dialog::settle();
+        QCOMPARE(camera.writes(), writes + 2);
+        VERIFY_SAME(dialog, camera);
+    }
+
+    // Who stays there is led back, once.
+    const int writes = camera.writes();
+    camera.choose("FrameAB_Selector", "FrameB");
+    Dialog::settle();
+    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameA"));
+    QCOMPARE(camera.writes(), writes + 2);
+    VERIFY_SAME(dialog, camera);
+
+    // A dialog that is not shown follows, too.
+    dialog.hide();
+    camera.choose("FrameMode", "FrameB");
+    Dialog::settle();
+    dialog.show();
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    camera.choose("FrameMode", "FrameA");
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(camera.writes(), writes + 6);
+
+    // Two dialogs do not quarrel.
+    Dialog second(&camera.device);
+    camera.choose("FrameMode", "FrameB");
+    Dialog::settle();
+    camera.choose("FrameAB_Selector", "FrameA");
+    Dialog::settle();
+    QVERIFY(camera.writes() <= writes + 6 + 6);
+    VERIFY_SAME(dialog, camera);
+    VERIFY_SAME(second, camera);
+    QCOMPARE(boxes.texts, none);
+}
+
+void TestFrameABDialog::pixelClockChanges()
+{
+    Camera camera;
+    camera.turn("Frame_FixedFramePeriodEnable", true);
+    Dialog dialog(&camera.device);
+    QCOMPARE(dialog.shown("spBoxExpTime"), 10000);
+    const int writes = camera.writes();
+    for (const int divider : {64, 16, 128, 32}) {
+        camera.set("SensorClockDivider", divider);
+        QCOMPARE(dialog.shown("spBoxExpTime"), 10000 * divider / 32);
+        QCOMPARE(dialog.shown("spBoxFixedFramePeriodValue"), 25000 * divider / 32);
+        VERIFY_SAME(dialog, camera);
+    }
+    QCOMPARE(camera.writes(), writes + 4);
+    QCOMPARE(camera.value("Frame_ExposureLines"), Q_INT64_C(1600));
+    QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), Q_INT64_C(4000));
+}
+
+void TestFrameABDialog::areaPresets()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+    QVERIFY(dialog.get<QRadioButton>("radioBtnFullFrame")->isChecked());
+    const QVector<QVector<int>> areas = {{0, 0, 4096, 3072},     {128, 456, 3840, 2160},
+                                         {4032, 3056, 64, 16},   {0, 0, 64, 16},
+                                         {256, 912, 3840, 2160}, {0, 0, 3840, 2160},
+                                         {64, 1000, 4032, 2064}, {2048, 0, 2048, 3072}};
+    for (const QVector<int> &area : areas) {
+        for (const int preset : {0, 1}) {
+            camera.set("Frame_OffsetX", 0);
+            camera.set("Frame_OffsetY", 0);
+            QVERIFY(camera.set("Frame_Width", area[2]) && camera.set("Frame_OffsetX", area[0]));
+            QVERIFY(camera.set("Frame_Height", area[3]) && camera.set("Frame_OffsetY", area[1]));
+            VERIFY_SAME(dialog, camera);
+            const int before = presetOf(camera);
+            const int writes = camera.writes();
+            dialog.click(presetButtons[preset]);
+            QCOMPARE(presetOf(camera), preset);
+            VERIFY_SAME(dialog, camera);
+            QVERIFY(camera.writes() <= writes + (before == preset ? 0 : 4));
+        }
+    }
+
+    // Custom stays until the area is another one; by hand a preset can be met as well.
+    int writes = camera.writes();
+    dialog.click("radioBtnCustomFrame");
+    QVERIFY(dialog.get<QRadioButton>("radioBtnCustomFrame")->isChecked());
+    camera.set("Frame_OffsetX", 128);
+    QVERIFY(dialog.get<QRadioButton>("radioBtnCustomFrame")->isChecked());
+    QCOMPARE(camera.writes(), writes + 1);
+    dialog.type("spBoxFrameOffsetX", 144);
+    dialog.type("spBoxFrameOffsetX", 128);
+    QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
+
+    // Each frame has its own.
+    camera.choose("FrameMode", "DualVideo");
+    dialog.click("radioBtnFullFrame");
+    dialog.clickTab(1);
+    QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
+    dialog.clickTab(0);
+    QVERIFY(dialog.get<QRadioButton>("radioBtnFullFrame")->isChecked());
+
+    // While images are taken the size cannot be changed.
+    const GenApi::CIntegerPtr locked(camera.map->GetNode("TLParamsLocked"));
+    locked->SetValue(1);
+    QVERIFY(!dialog.isOn("radioBtnFullFrame") && !dialog.isOn("radioBtnQFHDFrame"));
+    QVERIFY(dialog.isOn("radioBtnCustomFrame"));
+    locked->SetValue(0);
+    QVERIFY(dialog.isOn("radioBtnFullFrame") && dialog.isOn("radioBtnQFHDFrame"));
+    QCOMPARE(boxes.texts, none);
+}
+
+void TestFrameABDialog::areaPresetsOfOtherSensors_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("tellsSensor");
+    QTest::addColumn<Area>("fullFrame");
+    QTest::addColumn<Area>("qfhd");
+
+    for (const bool tells : {true, false}) {
+        const auto row = [=](const char *name) -> QTestData & {
+            return QTest::addRow("%s, %s", name, tells ? "known" : "found out");
+        };
+        row("small") << 2048 << 1088 << tells << Area{0, 0, 2048, 1088} << Area();
+        row("low") << 4096 << 2144 << tells << Area{0, 0, 4096, 2144} << Area();
+        row("exact") << 3840 << 2160 << tells << Area{0, 0, 3840, 2160} << Area{0, 0, 3840, 2160};
+        row("odd") << 5141 << 4011 << tells << Area{0, 0, 5120, 4000} << Area{640, 924, 3840, 2160};
+    }
+}
+
+void TestFrameABDialog::areaPresetsOfOtherSensors()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(bool, tellsSensor);
+    QFETCH(Area, fullFrame);
+    QFETCH(Area, qfhd);
+
+    const auto text = SimulatedCamera::description();
+    QByteArray xml(text.data, int(text.size));
+    for (const auto &number : {qMakePair(4096, width), qMakePair(3072, height)}) {
+        for (const char *tag : {"Value", "Min", "Max"}) {
+            const QByteArray format = QByteArray("<") + tag + ">%</" + tag + ">";
+            xml.replace(QByteArray(format).replace("%", QByteArray::number(number.first)),
+                        QByteArray(format).replace("%", QByteArray::number(number.second)));
+        }
+    }
+    const auto map = OrvAravis::NodeMap::fromText(xml, std::size_t(xml.size()), "other sensor");
+    PartialDevice device(*map);
+    const auto number = [&](const char *name) { return device.array->GetInt(name); };
+    QCOMPARE(number("Frame_Width")->SetValue(64), 0);
+    QCOMPARE(number("Frame_Height")->SetValue(16), 0);
+    if (!tellsSensor)
+        device.part.missing = {"SensorWidth", "SensorHeight"};
+    Dialog dialog(&device);
+    const ErrorBoxes boxes;
+    const auto area = [&] {
+        return Area{number("Frame_OffsetX")->GetValue(), number("Frame_OffsetY")->GetValue(),
+                    number("Frame_Width")->GetValue(), number("Frame_Height")->GetValue()};
+    };
+    QVERIFY(dialog.isOn("radioBtnFullFrame"));
+    QCOMPARE(dialog.isOn("radioBtnQFHDFrame"), !qfhd.isEmpty());
+    QVERIFY(dialog.get<QRadioButton>("radioBtnCustomFrame")->isChecked());
+    for (int i = 0; i < 2; ++i) {
+        dialog.click("radioBtnQFHDFrame");
+        if (!qfhd.isEmpty()) {
+            QCOMPARE(area(), qfhd);
+            QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
+        }
+        dialog.click("radioBtnFullFrame");
+        QCOMPARE(area(), fullFrame);
+        QVERIFY(dialog.get<QRadioButton>("radioBtnFullFrame")->isChecked());
+    }
+    QCOMPARE(boxes.texts, none);
+}
+
+void TestFrameABDialog::missingFeatures_data()
+{
+    QTest::addColumn<Names>("widgets");
+
+    for (const Binding &b : combos)
+        QTest::newRow(b.feature) << Names{b.widget};
+    for (const Binding &b : numbers)
+        QTest::newRow(b.feature) << Names{b.widget};
+    for (const Binding &b : checks)
+        QTest::newRow(b.feature) << Names{b.widget};
+    for (const Choice &c : choices)
+        QTest::newRow(c.feature) << c.buttons;
+    QTest::newRow("FrameAB_Selector") << Names{"tabFrames"};
+    QTest::newRow("Frame_LineTime") << Names{"spBoxDualVideo", "spBoxFrameLineTime"};
+    QTest::newRow("NumberOfFrameAs") << Names{"spBoxNumberOfFrameAs"};
+    QTest::newRow("NumberOfFrameBs") << Names{"spBoxNumberOfFrameBs"};
+    QTest::newRow("Frame_FixedFramePeriodValue") << Names{"spBoxFixedFramePeriodValue"};
+    for (const char *feature : {"PixelClock", "TriggerMode", "Frame_WidthActual",
+                                "Frame_HeightActual", "SensorWidth", "SensorHeight"})
+        QTest::newRow(feature) << Names();
+}
+
+void TestFrameABDialog::missingFeatures()
+{
+    QFETCH(Names, widgets);
+    const QByteArray missing = QTest::currentDataTag();
+    Camera camera;
+    camera.choose("FrameMode", "DualVideo");
+    camera.turn("Frame_FixedFramePeriodEnable", true);
+    camera.turn("Frame_WdrEnable", true);
+    camera.choose("Frame_DecimationMode", missing == "Frame_Averaging" ? "Average" : "Subsampling");
+    camera.device.part.missing = {missing};
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+
+    for (const char *widget : widgets)
+        QVERIFY2(!dialog.isOn(widget), widget);
+    if (missing != "FrameAB_Selector") {
+        // The rest goes on.
+        const int usable = int(std::count_if(std::begin(numbers), std::end(numbers),
+                                             [&](auto &b) { return dialog.isOn(b.widget); }));
+        QVERIFY(usable >= (widgets.isEmpty() ? 10 : 8));
+        dialog.type("spBoxExpTime", 500);
+        dialog.click("radioBtnQFHDFrame");
+        dialog.clickTab(1);
+        dialog.type("spBoxDigitalGain", QStringLiteral("4"));
+        dialog.clickTab(0);
+        dialog.click("radioBtnFullFrame");
+    }
+    camera.set("SensorClockDivider", 64);
+    camera.choose("FrameAB_Selector", "FrameB");
+    camera.choose("FrameMode", "FrameA");
+    Dialog::settle();
+    QCOMPARE(boxes.texts, none);
+    if (widgets.isEmpty() && missing != "PixelClock")
+        VERIFY_SAME(dialog, camera);
+
+    // Both times need both of their parts.
+    if (missing.startsWith("Frame_ExposureLines") || missing.startsWith("Frame_ExposureClocks"))
+        QVERIFY(!dialog.isOn("spBoxExpTime"));
+    if (widgets.size() == 1 && missing.startsWith("Frame_") &&
+        (missing.contains("Offset") || missing.endsWith("Width") || missing.endsWith("Height")))
+        QVERIFY(!dialog.isOn("radioBtnFullFrame"));
+
+    // A complete camera brings everything back.
+    camera.device.part.missing.clear();
+    dialog.SetDevice(&camera.device);
+    Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+}
+
+void TestFrameABDialog::refusedWrites()
+{
+    OrvGenApi::MemoryNodeMap map;
+    auto &lines = map.addInteger("Frame_ExposureLines", 10);
+    auto &clocks = map.addInteger("Frame_ExposureClocks", 20);
+    auto &lineTime = map.addInteger("Frame_LineTime", 1000);
+    auto &fine = map.addInteger("Frame_DigitalFineGain", 0);
+    auto &selector = map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
+    map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}});
+    for (auto *node : {&lines, &clocks, &lineTime})
+        node->setLimits(0, 100000);
+    fine.setLimits(0, 63);
+    NodeMapDevice device(map);
+    Dialog dialog(&device);
+    const ErrorBoxes boxes;
+    const auto refuse = [] { throw GenICam::AccessException("no", __FILE__, __LINE__); };
+
+    // What could not be written is not claimed to be the exposure time.
+    lines.onWrite(refuse);
+    dialog.type("spBoxExpTime", 1000);
+    QCOMPARE(boxes.texts.size(), 1);
+    QVERIFY(
+        boxes.texts[0].startsWith("Error while setting the Frame_ExposureLines integer value!"));
+    QCOMPARE(qint64(lines.GetValue()), Q_INT64_C(10));
+    QCOMPARE(dialog.shown("spBoxExpTime"), int((10 * 1000 + clocks.GetValue()) / 160));
+
+    // The gain complains about nothing and shows what there is.
+    fine.onWrite(refuse);
+    dialog.type("spBoxDigitalGain", QStringLiteral("1.5"));
+    QCOMPARE(boxes.texts.size(), 1);
+    QCOMPARE(dialog.gain(), 1.0);
+
+    // A frame that cannot be selected is tried once, not for ever.
+    selector.onWrite(refuse);
+    dialog.pick("cmBoxFrameMode", "FrameB");
+    Dialog::settle();
+    QCOMPARE(boxes.texts.size(), 2);
+}
+
+void TestFrameABDialog::otherCameraInTheMiddle()
+{
+    const auto refuse = [] { throw GenICam::AccessException("no", __FILE__, __LINE__); };
+    OrvGenApi::MemoryNodeMap first;
+    auto &lines = first.addInteger("Frame_ExposureLines", 10);
+    lines.setLimits(0, 100000);
+    first.addInteger("Frame_ExposureClocks", 20).setLimits(0, 100000);
+    first.addInteger("Frame_LineTime", 1000).setLimits(0, 100000);
+    lines.onWrite(refuse);
+    first.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
+    NodeMapDevice device(first);
+    Camera camera;
+
+    // While the user reads the error box, the program may turn to another camera or close down.
+    {
+        Dialog dialog(&device);
+        ErrorBoxes boxes;
+        boxes.meanwhile = [&] { dialog.SetDevice(&camera.device); };
+        dialog.type("spBoxExpTime", 1001);
+        Dialog::settle();
+        QCOMPARE(boxes.texts.size(), 1);
+        QCOMPARE(camera.writes(), 0);
+        VERIFY_SAME(dialog, camera);
+        dialog.type("spBoxExpTime", 10);
+        QCOMPARE(camera.value("Frame_ExposureClocks"), Q_INT64_C(600));
+    }
+    QPointer<Dialog> dialog = new Dialog(&device);
+    ErrorBoxes boxes;
+    boxes.meanwhile = [&] { dialog->SetDevice(nullptr); };
+    dialog->type("spBoxExpTime", 1001);
+    QCOMPARE(boxes.texts.size(), 1);
+    QVERIFY(!dialog->isEnabled());
+    delete dialog;
+}
+
+void TestFrameABDialog::currentSizeIsRefreshed()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const auto *edit = dialog.get<QLineEdit>("lineEditFrameCurrentSize");
+    QCOMPARE(edit->text(), QString("4096x3072"));
+    camera.choose("Frame_DecimationMode", "Subsampling");
+    QTRY_COMPARE_WITH_TIMEOUT(edit->text(), QString("2048x1536"), 2000);
+    camera.device.part.missing = {"Frame_WidthActual"};
+    dialog.SetDevice(&camera.device);
+    QCOMPARE(edit->text(), QString("x1536"));
+    camera.device.part.missing = {"Frame_WidthActual", "Frame_HeightActual"};
+    dialog.SetDevice(&camera.device);
+    QCOMPARE(edit->text(), QString());
+}
+
+namespace {
+
+/// Does one thing after the other to the dialog and to the camera behind its back.
+class Walk
+{
+public:
+    Walk(Camera &camera, Dialog &dialog) : m_camera(camera), m_dialog(dialog) {}
+
+    /// The most that the dialog may write for it.
+    int step() { return chance(3) ? outside() : user(); }
+
+    QString what;      ///< the last step
+    int ownWrites = 0; ///< of the last step, not the dialog's
+    QMap<QString, int> counts;
+
+private:
+    bool chance(int one) { return below(one) == 0; }
+    int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
+    template<class List>
+    auto one(const List &list)
+    {
+        return *std::next(std::begin(list), below(int(std::end(list) - std::begin(list))));
+    }
+    int did(const QString &kind, const QString &detail, int allowed)
+    {
+        what = kind + ' ' + detail;
+        ++counts[kind];
+        return allowed;
+    }
+
+    int user()
+    {
+        ownWrites = 0;
+        switch (below(11)) {
+        case 0:
+            return clickTab();
+        case 1:
+            return pickMode();
+        case 2:
+            return number(one(numbers).widget, 1);
+        case 3:
+            return number(one(Names{"spBoxDualVideo", "spBoxFrameLineTime", "spBoxNumberOfFrameAs",
+                                    "spBoxNumberOfFrameBs", "spBoxFixedFramePeriodValue"}),
+                          1);
+        case 4:
+            return number("spBoxExpTime", 2);
+        case 5:
+            return number("spBoxDigitalGain", 2);
+        case 6:
+            return click("a button", one(one(choices).buttons), 1);
+        case 7:
+            return click("a check box", one(checks).widget, 1);
+        case 8:
+            return combo(one(combos).widget);
+        case 9:
+            return preset();
+        default:
+            return drag();
+        }
+    }
+    int clickTab()
+    {
+        const int tab = below(2);
+        m_dialog.clickTab(tab);
+        return did("the tab", QString::number(tab), 1);
+    }
+    int pickMode()
+    {
+        auto *comboBox = m_dialog.get<QComboBox>("cmBoxFrameMode");
+        QTest::keyClick(comboBox, chance(2) ? Qt::Key_Down : Qt::Key_Up);
+        return did("the output mode", comboBox->currentText(), 2);
+    }
+    int number(const char *name, int allowed)
+    {
+        QAbstractSpinBox *editor = m_dialog.editor(name);
+        if (chance(2)) {
+            const Qt::Key key =
+                one(QList<Qt::Key>{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown});
+            QTest::keyClick(editor, key);
+            return did("an arrow", name, allowed);
+        }
+        const double min = m_dialog.get(name)->property("minimum").toDouble();
+        const double max = m_dialog.get(name)->property("maximum").toDouble();
+        // Small numbers are as likely as large ones.
+        const double part = std::pow(double(below(1001)) / 1000, 1 + below(6));
+        const QString text = QString::number(min + (max - min) * part, 'f',
+                                             name == QByteArray("spBoxDigitalGain") ? 3 : 0);
+        const bool isEntered = chance(2);
+        m_dialog.type(name, text, isEntered);
+        if (!isEntered) // the focus goes elsewhere
+            m_dialog.get("lineEditFrameCurrentSize")->setFocus();
+        return did("typing", QString(name) + ' ' + text, allowed);
+    }
+    int click(const QString &kind, const char *name, int allowed)
+    {
+        m_dialog.click(name);
+        return did(kind, name, allowed);
+    }
+    int combo(const char *name)
+    {
+        QTest::keyClick(m_dialog.get(name), chance(2) ? Qt::Key_Down : Qt::Key_Up);
+        return did("a combo box", name, name == QByteArray("cmBoxFrameMode") ? 2 : 1);
+    }
+    int preset()
+    {
+        const char *name = one(presetButtons);
+        m_dialog.wantsCustom(name == presetButtons[2] && presetOf(m_camera) != 2 ? areaOf(m_camera)
+                                                                                 : Area());
+        return click("a preset", name, 4);
+    }
+    int drag()
+    {
+        const char *name = one(Names{"spBoxBlackLevel", "spBoxDigitalGain", "spBoxFrameLineTime",
+                                     "spBoxDualVideo", "spBoxFixedFramePeriodValue"});
+        m_dialog.drag(name, double(below(100)) / 100);
+        return did("a drag", name, 2);
+    }
+
+    int outside()
+    {
+        const int before = m_camera.writes();
+        int allowed = 0;
+        switch (below(6)) {
+        case 0:
+            m_camera.choose("FrameAB_Selector", chance(2) ? "FrameA" : "FrameB");
+            allowed = did("outside: the frame", QString(), 1);
+            break;
+        case 1:
+            m_camera.choose("FrameMode", one(Names{"FrameA", "FrameB", "DualVideo"}));
+            allowed = did("outside: the output mode", QString(), 1);
+            break;
+        case 2:
+            m_camera.set("SensorClockDivider", 16 << below(4));
+            allowed = did("outside: the pixel clock", QString(), 0);
+            break;
+        case 3:
+            allowed = chooseOutside();
+            break;
+        case 4:
+            m_camera.turn(one(checks).feature, chance(2));
+            allowed = did("outside: a switch", QString(), 0);
+            break;
+        default:
+            allowed = setOutside();
+        }
+        // What the dialog writes in reply comes within these writes or in the event loop.
+        ownWrites = qMin(m_camera.writes() - before, 1);
+        return allowed;
+    }
+    int chooseOutside()
+    {
+        const char *feature = chance(4) ? "TriggerMode" : one(choices).feature;
+        OrvGenParam::Enum *param = m_camera.choice(feature);
+        param->SetIntValue(
+            param->GetEntry(uint32_t(below(int(param->GetEntryCount()))))->GetValue());
+        return did("outside: a choice", feature, 0);
+    }
+    int setOutside()
+    {
+        const char *feature =
+            chance(3)
+                ? one(Names{"Frame_LineTime", "Frame_DigitalCourseGain", "Frame_DigitalFineGain",
+                            "NumberOfFrameAs", "Frame_FixedFramePeriodValue"})
+                : one(numbers).feature;
+        OrvGenParam::Int *param = m_camera.number(feature);
+        const qint64 min = param->GetMin();
+        const qint64 steps = (param->GetMax() - min) / qMax<qint64>(param->GetInc(), 1);
+        const double part = std::pow(double(below(1001)) / 1000, 1 + below(6));
+        param->SetValue(min + qint64(double(steps) * part) * param->GetInc());
+        return did("outside: a number", feature, 0);
+    }
+
+    Camera &m_camera;
+    Dialog &m_dialog;
+    std::mt19937 m_random{20261121};
+};
+
+} // namespace
+
+void TestFrameABDialog::randomWalk()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const ErrorBoxes boxes;
+    Walk walk(camera, dialog);
+    int mostWrites = 0;
+    for (int i = 0; i < 2500; ++i) {
+        const int before = camera.writes();
+        const int allowed = walk.step();
+        Dialog::settle();
+        const int writes = camera.writes() - before - walk.ownWrites;
+        const QString where = QString("step %1: %2").arg(i).arg(walk.what);
+        QVERIFY2(boxes.texts.isEmpty(), qPrintable(where + ": " + boxes.texts.join(' ')));
+        const QStringList differences = dialog.differences(camera);
+        QVERIFY2(differences.isEmpty(), qPrintable(where + ": " + differences.join("; ")));
+        QVERIFY2(writes <= allowed, qPrintable(where + ": " + QString::number(writes) + " writes"));
+        mostWrites = qMax(mostWrites, writes);
+        if (i % 50 == 0) // nothing goes on by itself
+            QTest::qWait(1);
+    }
+    // It was no walk through disabled widgets.
+    QVERIFY(mostWrites >= 3 && camera.writes() > 1000);
+    qInfo() << walk.counts << camera.writes() << "writes, at most" << mostWrites << "in reply";
+}
+
+QTEST_MAIN(TestFrameABDialog)
+#include "tst_frameabdialog.moc"
