@@ -323,6 +323,189 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
     </message>
 </context>
 <context>
+    <name>OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>Frame A/B</source>
+        <translation>Bild A/B</translation>
+    </message>
+    <message>
+        <source>Output mode:</source>
+        <translation>Ausgabemodus:</translation>
+    </message>
+    <message>
+        <source>Frame-A +</source>
+        <translation>Bild A +</translation>
+    </message>
+    <message>
+        <source>Frame-B</source>
+        <translation>Bild B</translation>
+    </message>
+    <message>
+        <source>Shutter mode:</source>
+        <translation>Shutter-Modus:</translation>
+    </message>
+    <message>
+        <source>Rolling</source>
+        <translation>Rolling</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>ADC Selector:</source>
+        <translation>ADC-Auswahl:</translation>
+    </message>
+    <message>
+        <source>10 bits</source>
+        <translation>10 Bit</translation>
+    </message>
+    <message>
+        <source>12 bits</source>
+        <translation>12 Bit</translation>
+    </message>
+    <message>
+        <source>Dual Video:</source>
+        <translation>Dual-Video:</translation>
+    </message>
+    <message>
+        <source>Frame-A</source>
+        <translation>Bild A</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>Belichtungssteuerung</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Internal</source>
+        <translation>Intern</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Clocks</source>
+        <translation>Takte</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>Feste Bildperiode</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Frame line time</source>
+        <translation>Zeilenzeit des Bildes</translation>
+    </message>
+    <message>
+        <source>Frame size</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Current size:</source>
+        <translation>Aktuelle Größe:</translation>
+    </message>
+    <message>
+        <source>AOI</source>
+        <translation>AOI</translation>
+    </message>
+    <message>
+        <source>Full Frame</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>QFHD</source>
+        <translation>QFHD</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Subsampling</source>
+        <translation>Unterabtastung</translation>
+    </message>
+    <message>
+        <source>P:</source>
+        <translation>P:</translation>
+    </message>
+    <message>
+        <source>x M:</source>
+        <translation>x M:</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>Mittelung</translation>
+    </message>
+    <message>
+        <source>Video amplifier</source>
+        <translation>Videoverstärker</translation>
+    </message>
+    <message>
+        <source>Analog Gain:</source>
+        <translation>Analogverstärkung:</translation>
+    </message>
+    <message>
+        <source>1x</source>
+        <translation>1x</translation>
+    </message>
+    <message>
+        <source>2x</source>
+        <translation>2x</translation>
+    </message>
+    <message>
+        <source>4x</source>
+        <translation>4x</translation>
+    </message>
+    <message>
+        <source>8x</source>
+        <translation>8x</translation>
+    </message>
+    <message>
+        <source>WDR</source>
+        <translation>WDR</translation>
+    </message>
+    <message>
+        <source>P3:</source>
+        <translation>P3:</translation>
+    </message>
+    <message>
+        <source>P2:</source>
+        <translation>P2:</translation>
+    </message>
+    <message>
+        <source>P1:</source>
+        <translation>P1:</translation>
+    </message>
+    <message>
+        <source>E1:</source>
+        <translation>E1:</translation>
+    </message>
+    <message>
+        <source>us</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>E2:</source>
+        <translation>E2:</translation>
+    </message>
+    <message>
+        <source>E3:</source>
+        <translation>E3:</translation>
+    </message>
+</context>
+<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -529,6 +712,59 @@ Trigger</translation>
     <message>
         <source>Set IP Address</source>
         <translation>IP-Adresse setzen</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>[%1]:</source>
+        <translation>[%1]:</translation>
+    </message>
+    <message>
+        <source>Dual Video
+Line Time [pclk]:</source>
+        <translation>Dual-Video
+Zeilenzeit [pclk]:</translation>
+    </message>
+    <message>
+        <source>Exposure Time </source>
+        <translation>Belichtungszeit </translation>
+    </message>
+    <message>
+        <source>Line Time [pclk]:</source>
+        <translation>Zeilenzeit [pclk]:</translation>
+    </message>
+    <message>
+        <source>OffsetX:</source>
+        <translation>Versatz X:</translation>
+    </message>
+    <message>
+        <source>OffsetY:</source>
+        <translation>Versatz Y:</translation>
+    </message>
+    <message>
+        <source>Width: </source>
+        <translation>Breite: </translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>Digital Gain:</source>
+        <translation>Digitalverstärkung:</translation>
+    </message>
+    <message>
+        <source>Black Level:</source>
+        <translation>Schwarzwert:</translation>
+    </message>
+    <message>
+        <source>The trigger is switched off.</source>
+        <translation>Der Trigger ist ausgeschaltet.</translation>
     </message>
 </context>
 <context>

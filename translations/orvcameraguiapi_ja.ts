@@ -323,6 +323,189 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
     </message>
 </context>
 <context>
+    <name>OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>Frame A/B</source>
+        <translation>フレーム A/B</translation>
+    </message>
+    <message>
+        <source>Output mode:</source>
+        <translation>出力モード:</translation>
+    </message>
+    <message>
+        <source>Frame-A +</source>
+        <translation>フレーム A +</translation>
+    </message>
+    <message>
+        <source>Frame-B</source>
+        <translation>フレーム B</translation>
+    </message>
+    <message>
+        <source>Shutter mode:</source>
+        <translation>シャッターモード:</translation>
+    </message>
+    <message>
+        <source>Rolling</source>
+        <translation>ローリング</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>グローバル</translation>
+    </message>
+    <message>
+        <source>ADC Selector:</source>
+        <translation>ADC 選択:</translation>
+    </message>
+    <message>
+        <source>10 bits</source>
+        <translation>10 ビット</translation>
+    </message>
+    <message>
+        <source>12 bits</source>
+        <translation>12 ビット</translation>
+    </message>
+    <message>
+        <source>Dual Video:</source>
+        <translation>デュアルビデオ:</translation>
+    </message>
+    <message>
+        <source>Frame-A</source>
+        <translation>フレーム A</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>露光制御</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>Internal</source>
+        <translation>内部</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>ライン</translation>
+    </message>
+    <message>
+        <source>Clocks</source>
+        <translation>クロック</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>固定フレーム周期</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Frame line time</source>
+        <translation>フレームのライン時間</translation>
+    </message>
+    <message>
+        <source>Frame size</source>
+        <translation>フレームサイズ</translation>
+    </message>
+    <message>
+        <source>Current size:</source>
+        <translation>現在のサイズ:</translation>
+    </message>
+    <message>
+        <source>AOI</source>
+        <translation>AOI</translation>
+    </message>
+    <message>
+        <source>Full Frame</source>
+        <translation>フルフレーム</translation>
+    </message>
+    <message>
+        <source>QFHD</source>
+        <translation>QFHD</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Subsampling</source>
+        <translation>サブサンプリング</translation>
+    </message>
+    <message>
+        <source>P:</source>
+        <translation>P:</translation>
+    </message>
+    <message>
+        <source>x M:</source>
+        <translation>x M:</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>平均化</translation>
+    </message>
+    <message>
+        <source>Video amplifier</source>
+        <translation>ビデオアンプ</translation>
+    </message>
+    <message>
+        <source>Analog Gain:</source>
+        <translation>アナログゲイン:</translation>
+    </message>
+    <message>
+        <source>1x</source>
+        <translation>1x</translation>
+    </message>
+    <message>
+        <source>2x</source>
+        <translation>2x</translation>
+    </message>
+    <message>
+        <source>4x</source>
+        <translation>4x</translation>
+    </message>
+    <message>
+        <source>8x</source>
+        <translation>8x</translation>
+    </message>
+    <message>
+        <source>WDR</source>
+        <translation>WDR</translation>
+    </message>
+    <message>
+        <source>P3:</source>
+        <translation>P3:</translation>
+    </message>
+    <message>
+        <source>P2:</source>
+        <translation>P2:</translation>
+    </message>
+    <message>
+        <source>P1:</source>
+        <translation>P1:</translation>
+    </message>
+    <message>
+        <source>E1:</source>
+        <translation>E1:</translation>
+    </message>
+    <message>
+        <source>us</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>E2:</source>
+        <translation>E2:</translation>
+    </message>
+    <message>
+        <source>E3:</source>
+        <translation>E3:</translation>
+    </message>
+</context>
+<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -529,6 +712,59 @@ Trigger</source>
     <message>
         <source>Set IP Address</source>
         <translation>IP アドレスの設定</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>[%1]:</source>
+        <translation>[%1]:</translation>
+    </message>
+    <message>
+        <source>Dual Video
+Line Time [pclk]:</source>
+        <translation>デュアルビデオ
+ライン時間 [pclk]:</translation>
+    </message>
+    <message>
+        <source>Exposure Time </source>
+        <translation>露光時間 </translation>
+    </message>
+    <message>
+        <source>Line Time [pclk]:</source>
+        <translation>ライン時間 [pclk]:</translation>
+    </message>
+    <message>
+        <source>OffsetX:</source>
+        <translation>オフセット X:</translation>
+    </message>
+    <message>
+        <source>OffsetY:</source>
+        <translation>オフセット Y:</translation>
+    </message>
+    <message>
+        <source>Width: </source>
+        <translation>幅: </translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高さ:</translation>
+    </message>
+    <message>
+        <source>Digital Gain:</source>
+        <translation>デジタルゲイン:</translation>
+    </message>
+    <message>
+        <source>Black Level:</source>
+        <translation>黒レベル:</translation>
+    </message>
+    <message>
+        <source>The trigger is switched off.</source>
+        <translation>トリガーはオフです。</translation>
     </message>
 </context>
 <context>
