@@ -34,5 +34,6 @@ picture() {
 }
 echo "There is no display; these are pictures of the windows:"
 picture picker --simulate --window picker --camera SIM-0001
+picture main-window --simulate --window main
 picture features-basic --simulate
 picture features-guru --simulate --visibility guru

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CameraWindows</name>
+    <message>
+        <source>Feature Tree</source>
+        <translation>Parameterbaum</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Parameter</translation>
+    </message>
+</context>
+<context>
     <name>Cameras</name>
     <message>
         <source>No camera was found.</source>
@@ -233,10 +244,6 @@
         <translation>Eine Beschreibung wird ohne Kamera gezeigt: --xml steht allein.</translation>
     </message>
     <message>
-        <source>What to show first: the picker, in which the camera named by --camera is selected, or the tree, without --camera that of the first usable camera. The picker when neither --simulate nor --camera nor --xml says what to show, otherwise the tree.</source>
-        <translation>Was zuerst gezeigt wird: die Kameraauswahl (picker), in der die mit --camera genannte Kamera markiert ist, oder der Baum (tree), ohne --camera der der ersten verwendbaren Kamera. Ohne Angabe: die Kameraauswahl, wenn weder --simulate noch --camera noch --xml sagt, was zu zeigen ist, sonst der Baum.</translation>
-    </message>
-    <message>
         <source>Print one camera a line and exit: the identifier (MAC address, or vendor and serial number), the name, the IPv4 address if it has one and the access (read-write, read-only, no-access, subnet-mismatch or unknown), with tabs between them.</source>
         <translation>Je Zeile eine Kamera ausgeben und beenden: die Kennung (MAC-Adresse oder Hersteller und Seriennummer), der Name, die IPv4-Adresse, falls vorhanden, und der Zugriff (read-write, read-only, no-access, subnet-mismatch oder unknown), durch Tabulatoren getrennt.</translation>
     </message>
@@ -251,10 +258,6 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
 Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 falscher Aufruf.</translation>
     </message>
     <message>
-        <source>There is no window &apos;%1&apos;; use tree or picker.</source>
-        <translation>Es gibt kein Fenster „%1“; möglich sind tree und picker.</translation>
-    </message>
-    <message>
         <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
         <translation>Es werden alle Kameras aufgelistet: --list-cameras steht allein oder mit --simulate.</translation>
     </message>
@@ -265,6 +268,121 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
     <message>
         <source>Say whose features to list: --simulate, --camera ID or --xml FILE.</source>
         <translation>Bitte angeben, wessen Parameter aufgelistet werden sollen: --simulate, --camera ID oder --xml FILE.</translation>
+    </message>
+    <message>
+        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; or the tree alone. The last two take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
+        <translation>Was zuerst gezeigt wird: die Kameraauswahl (picker), in der die mit --camera genannte Kamera markiert ist; das Hauptfenster (main) mit dem Baum daneben; oder der Baum (tree) allein. Die letzten beiden nehmen ohne --camera die erste verwendbare Kamera. Ohne Angabe: die Kameraauswahl, wenn weder --simulate noch --camera noch --xml sagt, was zu zeigen ist; der Baum bei --xml und --screenshot; sonst das Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use picker, main or tree.</source>
+        <translation>Es gibt kein Fenster „%1“; möglich sind picker, main und tree.</translation>
+    </message>
+    <message>
+        <source>The main window needs a camera: use --xml alone.</source>
+        <translation>Das Hauptfenster braucht eine Kamera: --xml steht allein.</translation>
+    </message>
+    <message>
+        <source>Only the tree can be printed: use --list-features without --window.</source>
+        <translation>Nur der Baum kann ausgegeben werden: --list-features steht ohne --window.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigAboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <source>Device Information</source>
+        <translation>Geräteinformationen</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Name:</source>
+        <translation>Hersteller:</translation>
+    </message>
+    <message>
+        <source>Device Model Name:</source>
+        <translation>Modell:</translation>
+    </message>
+    <message>
+        <source>Device Family Name:</source>
+        <translation>Gerätefamilie:</translation>
+    </message>
+    <message>
+        <source>Device Version:</source>
+        <translation>Geräteversion:</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Info:</source>
+        <translation>Herstellerangaben:</translation>
+    </message>
+    <message>
+        <source>Device Serial Number:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Device User Defined Name:</source>
+        <translation>Benutzerdefinierter Name:</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Sensor Type:</source>
+        <translation>Sensortyp:</translation>
+    </message>
+    <message>
+        <source>RgsID:</source>
+        <translation>RgsID:</translation>
+    </message>
+    <message>
+        <source>FpgaID:</source>
+        <translation>FpgaID:</translation>
+    </message>
+    <message>
+        <source>EpcsID:</source>
+        <translation>EpcsID:</translation>
+    </message>
+    <message>
+        <source>Firmware Image:</source>
+        <translation>Firmware-Abbild:</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>Firmware-Version:</translation>
+    </message>
+    <message>
+        <source>Firmware Build:</source>
+        <translation>Firmware-Build:</translation>
+    </message>
+    <message>
+        <source>CustomerID:</source>
+        <translation>Kunden-ID:</translation>
+    </message>
+    <message>
+        <source>Xml Version:</source>
+        <translation>XML-Version:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Version:</source>
+        <translation>U3V-Firmware-Version:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Build Number:</source>
+        <translation>U3V-Firmware-Build-Nummer:</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -506,6 +624,153 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
     </message>
 </context>
 <context>
+    <name>OrvCamConfigMainWindow</name>
+    <message>
+        <source>CamConfig</source>
+        <translation>CamConfig</translation>
+    </message>
+    <message>
+        <source>Camera Information</source>
+        <translation>Kamerainformationen</translation>
+    </message>
+    <message>
+        <source>Frame A</source>
+        <translation>Bild A</translation>
+    </message>
+    <message>
+        <source>Frame B</source>
+        <translation>Bild B</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Size, frame A</source>
+        <translation>Größe, Bild A</translation>
+    </message>
+    <message>
+        <source>Size, frame B</source>
+        <translation>Größe, Bild B</translation>
+    </message>
+    <message>
+        <source>PxL</source>
+        <translation>PxL</translation>
+    </message>
+    <message>
+        <source>FPS</source>
+        <translation>FPS</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame A</source>
+        <translation>Bilder je Sekunde, Bild A</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame B</source>
+        <translation>Bilder je Sekunde, Bild B</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>FTM</source>
+        <translation>FTM</translation>
+    </message>
+    <message>
+        <source>Frame time, frame A</source>
+        <translation>Bildzeit, Bild A</translation>
+    </message>
+    <message>
+        <source>Frame time, frame B</source>
+        <translation>Bildzeit, Bild B</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>EXP</source>
+        <translation>EXP</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame A</source>
+        <translation>Belichtungszeit, Bild A</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame B</source>
+        <translation>Belichtungszeit, Bild B</translation>
+    </message>
+    <message>
+        <source>TMP</source>
+        <translation>TMP</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>0C</source>
+        <translation>0C</translation>
+    </message>
+    <message>
+        <source>Frame A/B</source>
+        <translation>Bild A/B</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>Impuls</translation>
+    </message>
+    <message>
+        <source>Strobe</source>
+        <translation>Strobe</translation>
+    </message>
+    <message>
+        <source>Data Out</source>
+        <translation>Datenausgabe</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+</context>
+<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -712,6 +977,52 @@ Trigger</translation>
     <message>
         <source>Set IP Address</source>
         <translation>IP-Adresse setzen</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::CameraInformation</name>
+    <message>
+        <source>OrvCameraConfiguration</source>
+        <translation>OrvCameraConfiguration</translation>
+    </message>
+    <message>
+        <source>1.3.0 (build 2230) </source>
+        <translation>1.3.0 (Build 2230) </translation>
+    </message>
+    <message>
+        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
+        <translation>Copyright %1 2016 Die Entwickler von OrvCameraGuiApi</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>n. v.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfig</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>%1C</source>
+        <translation>%1C</translation>
+    </message>
+    <message>
+        <source>Select a device</source>
+        <translation>Gerät auswählen</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened!</source>
+        <translation>Die Kamera %1 kann nicht geöffnet werden!</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>CameraWindows</name>
+    <message>
+        <source>Feature Tree</source>
+        <translation>パラメーターツリー</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>パラメーター</translation>
+    </message>
+</context>
+<context>
     <name>Cameras</name>
     <message>
         <source>No camera was found.</source>
@@ -233,10 +244,6 @@
         <translation>記述ファイルはカメラなしで表示されます。--xml は単独で指定してください。</translation>
     </message>
     <message>
-        <source>What to show first: the picker, in which the camera named by --camera is selected, or the tree, without --camera that of the first usable camera. The picker when neither --simulate nor --camera nor --xml says what to show, otherwise the tree.</source>
-        <translation>最初に表示するもの: カメラの選択 (picker、--camera で指定したカメラが選択されます)、またはツリー (tree、--camera がなければ最初に使用できるカメラのもの)。省略時は、--simulate、--camera、--xml のいずれも指定されていなければカメラの選択、それ以外はツリーです。</translation>
-    </message>
-    <message>
         <source>Print one camera a line and exit: the identifier (MAC address, or vendor and serial number), the name, the IPv4 address if it has one and the access (read-write, read-only, no-access, subnet-mismatch or unknown), with tabs between them.</source>
         <translation>カメラを 1 行に 1 台ずつ出力して終了します。識別子 (MAC アドレス、またはベンダーとシリアル番号)、名前、IPv4 アドレス (ある場合)、アクセス状態 (read-write、read-only、no-access、subnet-mismatch または unknown) をタブで区切ります。</translation>
     </message>
@@ -251,10 +258,6 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
 終了ステータス: 0 成功 (カメラを選択しなかった場合を含む)、1 失敗、2 使用方法の誤り。</translation>
     </message>
     <message>
-        <source>There is no window &apos;%1&apos;; use tree or picker.</source>
-        <translation>ウィンドウ「%1」はありません。tree または picker を指定してください。</translation>
-    </message>
-    <message>
         <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
         <translation>すべてのカメラが一覧表示されます。--list-cameras は単独で、または --simulate と共に指定してください。</translation>
     </message>
@@ -265,6 +268,121 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
     <message>
         <source>Say whose features to list: --simulate, --camera ID or --xml FILE.</source>
         <translation>パラメーターを一覧表示する対象を指定してください: --simulate、--camera ID または --xml FILE。</translation>
+    </message>
+    <message>
+        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; or the tree alone. The last two take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
+        <translation>最初に表示するもの: カメラの選択 (picker、--camera で指定したカメラが選択されます)、メインウィンドウ (main、横にツリーを表示)、またはツリーのみ (tree)。後の 2 つは --camera がなければ最初に使用できるカメラを開きます。省略時は、--simulate、--camera、--xml のいずれも指定されていなければカメラの選択、--xml または --screenshot が指定されていればツリー、それ以外はメインウィンドウです。</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use picker, main or tree.</source>
+        <translation>ウィンドウ「%1」はありません。picker、main または tree を指定してください。</translation>
+    </message>
+    <message>
+        <source>The main window needs a camera: use --xml alone.</source>
+        <translation>メインウィンドウにはカメラが必要です。--xml は単独で指定してください。</translation>
+    </message>
+    <message>
+        <source>Only the tree can be printed: use --list-features without --window.</source>
+        <translation>出力できるのはツリーのみです。--list-features は --window なしで指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigAboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <source>Device Information</source>
+        <translation>デバイス情報</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Name:</source>
+        <translation>メーカー名:</translation>
+    </message>
+    <message>
+        <source>Device Model Name:</source>
+        <translation>モデル名:</translation>
+    </message>
+    <message>
+        <source>Device Family Name:</source>
+        <translation>ファミリー名:</translation>
+    </message>
+    <message>
+        <source>Device Version:</source>
+        <translation>デバイスのバージョン:</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Info:</source>
+        <translation>メーカー情報:</translation>
+    </message>
+    <message>
+        <source>Device Serial Number:</source>
+        <translation>シリアル番号:</translation>
+    </message>
+    <message>
+        <source>Device User Defined Name:</source>
+        <translation>ユーザー定義名:</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Sensor Type:</source>
+        <translation>センサーの種類:</translation>
+    </message>
+    <message>
+        <source>RgsID:</source>
+        <translation>RgsID:</translation>
+    </message>
+    <message>
+        <source>FpgaID:</source>
+        <translation>FpgaID:</translation>
+    </message>
+    <message>
+        <source>EpcsID:</source>
+        <translation>EpcsID:</translation>
+    </message>
+    <message>
+        <source>Firmware Image:</source>
+        <translation>ファームウェアイメージ:</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>ファームウェアのバージョン:</translation>
+    </message>
+    <message>
+        <source>Firmware Build:</source>
+        <translation>ファームウェアのビルド:</translation>
+    </message>
+    <message>
+        <source>CustomerID:</source>
+        <translation>カスタマー ID:</translation>
+    </message>
+    <message>
+        <source>Xml Version:</source>
+        <translation>XML のバージョン:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Version:</source>
+        <translation>U3V ファームウェアのバージョン:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Build Number:</source>
+        <translation>U3V ファームウェアのビルド番号:</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -506,6 +624,153 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
     </message>
 </context>
 <context>
+    <name>OrvCamConfigMainWindow</name>
+    <message>
+        <source>CamConfig</source>
+        <translation>CamConfig</translation>
+    </message>
+    <message>
+        <source>Camera Information</source>
+        <translation>カメラ情報</translation>
+    </message>
+    <message>
+        <source>Frame A</source>
+        <translation>フレーム A</translation>
+    </message>
+    <message>
+        <source>Frame B</source>
+        <translation>フレーム B</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Size, frame A</source>
+        <translation>サイズ、フレーム A</translation>
+    </message>
+    <message>
+        <source>Size, frame B</source>
+        <translation>サイズ、フレーム B</translation>
+    </message>
+    <message>
+        <source>PxL</source>
+        <translation>PxL</translation>
+    </message>
+    <message>
+        <source>FPS</source>
+        <translation>FPS</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame A</source>
+        <translation>フレームレート、フレーム A</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame B</source>
+        <translation>フレームレート、フレーム B</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>FTM</source>
+        <translation>FTM</translation>
+    </message>
+    <message>
+        <source>Frame time, frame A</source>
+        <translation>フレーム時間、フレーム A</translation>
+    </message>
+    <message>
+        <source>Frame time, frame B</source>
+        <translation>フレーム時間、フレーム B</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>EXP</source>
+        <translation>EXP</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame A</source>
+        <translation>露光時間、フレーム A</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame B</source>
+        <translation>露光時間、フレーム B</translation>
+    </message>
+    <message>
+        <source>TMP</source>
+        <translation>TMP</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>0C</source>
+        <translation>0C</translation>
+    </message>
+    <message>
+        <source>Frame A/B</source>
+        <translation>フレーム A/B</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>パルス</translation>
+    </message>
+    <message>
+        <source>Strobe</source>
+        <translation>ストロボ</translation>
+    </message>
+    <message>
+        <source>Data Out</source>
+        <translation>データ出力</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+</context>
+<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -712,6 +977,52 @@ Trigger</source>
     <message>
         <source>Set IP Address</source>
         <translation>IP アドレスの設定</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::CameraInformation</name>
+    <message>
+        <source>OrvCameraConfiguration</source>
+        <translation>OrvCameraConfiguration</translation>
+    </message>
+    <message>
+        <source>1.3.0 (build 2230) </source>
+        <translation>1.3.0 (ビルド 2230) </translation>
+    </message>
+    <message>
+        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
+        <translation>Copyright %1 2016 OrvCameraGuiApi 開発者</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>該当なし</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfig</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>%1C</source>
+        <translation>%1C</translation>
+    </message>
+    <message>
+        <source>Select a device</source>
+        <translation>デバイスの選択</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened!</source>
+        <translation>カメラ %1 を開けません。</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
     </message>
 </context>
 <context>

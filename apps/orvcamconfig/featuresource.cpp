@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "featuresource.h"
 
-#include "released.h"
-
 #include <aravis/nodemap.h>
 
 #include <QCoreApplication>
@@ -72,15 +70,20 @@ QString reason(int32_t code)
 
 } // namespace
 
-std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
+Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 {
     int32_t code = OrvCam::Success;
     Released<OrvCam::Device> device(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessControl));
-    if (device)
-        return std::make_unique<CameraSource>(std::move(device));
-    *error = FeatureSource::tr("The camera '%1' cannot be opened: %2.")
-                 .arg(QString::fromUtf8(camera.GetId()), reason(code));
-    return nullptr;
+    if (!device)
+        *error = FeatureSource::tr("The camera '%1' cannot be opened: %2.")
+                     .arg(QString::fromUtf8(camera.GetId()), reason(code));
+    return device;
+}
+
+std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
+{
+    Released<OrvCam::Device> device = openDevice(camera, error);
+    return device ? std::make_unique<CameraSource>(std::move(device)) : nullptr;
 }
 
 std::unique_ptr<FeatureSource> FeatureSource::openDescription(const QString &fileName,

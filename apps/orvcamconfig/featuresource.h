@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "released.h"
+
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
@@ -8,6 +10,9 @@
 #include <QString>
 
 #include <memory>
+
+/// Opens a camera, whose system must outlive the device. Null on failure, with `error` one line.
+Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
 
 /// The features that the program shows, and what keeps them alive.
 class FeatureSource

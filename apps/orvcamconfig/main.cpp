@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cameras.h"
+#include "camerawindows.h"
 #include "featurelist.h"
 #include "featuresource.h"
 #include "options.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
@@ -100,6 +102,28 @@ int showDescription(const Options &options)
     return source ? showFeatures(*source, options) : fail(Failure, error);
 }
 
+/// The configuration window and the tree. A picture does not depend on earlier runs.
+int configure(Released<OrvCam::Device> device, const Options &options)
+{
+    const bool isPicture = !options.screenshot.isEmpty();
+    QSettings settings;
+    CameraWindows windows(std::move(device), isPicture ? nullptr : &settings);
+    if (options.isVisibilityGiven)
+        windows.tree().setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
+    if (isPicture)
+        return takePicture(windows.configuration(), options.screenshot);
+    windows.show();
+    return QApplication::exec();
+}
+
+int configureCamera(OrvCam::System &system, const Options &options)
+{
+    QString error;
+    OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
+    Released<OrvCam::Device> device = camera ? openDevice(*camera, &error) : nullptr;
+    return device ? configure(std::move(device), options) : fail(Failure, error);
+}
+
 int showCamera(OrvCam::System &system, const Options &options)
 {
     QString error;
@@ -138,8 +162,8 @@ int pickCamera(OrvCam::System &system, const Options &options)
     if (!options.screenshot.isEmpty())
         return takePicture(picker, options.screenshot);
     while (picker.exec() == QDialog::Accepted) {
-        if (const auto source = FeatureSource::openCamera(*picker.selectedCamera(), &error))
-            return showFeatures(*source, options);
+        if (auto device = openDevice(*picker.selectedCamera(), &error))
+            return configure(std::move(device), options);
         QMessageBox::critical(nullptr, QApplication::applicationName(), error);
     }
     return Success;
@@ -157,8 +181,14 @@ int run(const Options &options)
         return fail(Failure, QObject::tr("The camera system cannot be started."));
     if (options.listCameras)
         return printText([&](QTextStream &out) { printCameras(*system, out); });
-    return options.window == Options::Window::Picker ? pickCamera(*system, options)
-                                                     : showCamera(*system, options);
+    switch (options.window) {
+    case Options::Window::Picker:
+        return pickCamera(*system, options);
+    case Options::Window::Main:
+        return configureCamera(*system, options);
+    default:
+        return showCamera(*system, options);
+    }
 }
 
 } // namespace
@@ -173,7 +203,10 @@ int main(int argc, char **argv)
         runtimeFolder = goWithoutDisplay();
 
     QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("orvcamconfig")); // names the settings' folder
     QApplication::setApplicationName(QStringLiteral("orvcamconfig"));
+    QApplication::setDesktopFileName(QStringLiteral("orvcamconfig"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/res/orvicon.ico")));
     QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
 
     translate(application);

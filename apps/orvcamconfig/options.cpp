@@ -18,10 +18,12 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
         QStringLiteral("FILE"));
     const QCommandLineOption window(
         QStringLiteral("window"),
-        tr("What to show first: the picker, in which the camera named by --camera is selected, or "
-           "the tree, without --camera that of the first usable camera. The picker when neither "
-           "--simulate nor --camera nor --xml says what to show, otherwise the tree."),
-        QStringLiteral("tree|picker"));
+        tr("What to show first: the picker, in which the camera named by --camera is selected; the "
+           "main window, with the tree beside it; or the tree alone. The last two take the first "
+           "usable camera without --camera. The picker when neither --simulate nor --camera nor "
+           "--xml says what to show; the tree for --xml and --screenshot; otherwise the main "
+           "window."),
+        QStringLiteral("picker|main|tree"));
     const QCommandLineOption listCameras(
         QStringLiteral("list-cameras"),
         tr("Print one camera a line and exit: the identifier (MAC address, or vendor and serial "
@@ -63,10 +65,14 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
     options.description = parser.value(xml);
     options.screenshot = parser.value(screenshot);
     options.visibility = levels.indexOf(parser.value(visibility));
+    options.isVisibilityGiven = parser.isSet(visibility);
     const QString wanted = parser.value(window);
     const bool isToldWhat = options.simulate || parser.isSet(camera) || parser.isSet(xml);
+    const bool isTree = parser.isSet(xml) || parser.isSet(screenshot) || options.listFeatures;
     if (wanted == QLatin1String("picker") || (wanted.isEmpty() && !isToldWhat))
         options.window = Window::Picker;
+    else if (wanted == QLatin1String("main") || (wanted.isEmpty() && !isTree))
+        options.window = Window::Main;
 
     if (!parser.positionalArguments().isEmpty())
         *error = tr("There is no option '%1'.").arg(parser.positionalArguments().first());
@@ -74,8 +80,8 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
         *error = tr("There is no visibility '%1'; use basic, expert or guru.")
                      .arg(parser.value(visibility));
     else if (parser.isSet(window) && wanted != QLatin1String("tree") &&
-             wanted != QLatin1String("picker"))
-        *error = tr("There is no window '%1'; use tree or picker.").arg(wanted);
+             wanted != QLatin1String("picker") && wanted != QLatin1String("main"))
+        *error = tr("There is no window '%1'; use picker, main or tree.").arg(wanted);
     else if (options.listCameras &&
              (parser.isSet(camera) || parser.isSet(xml) || parser.isSet(window) ||
               options.listFeatures || parser.isSet(screenshot)))
@@ -84,6 +90,10 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
         *error = tr("A description is shown without a camera: use --xml alone.");
     else if (parser.isSet(xml) && options.window == Window::Picker)
         *error = tr("A description is shown without a camera: there is nothing to pick.");
+    else if (parser.isSet(xml) && options.window == Window::Main)
+        *error = tr("The main window needs a camera: use --xml alone.");
+    else if (options.listFeatures && options.window == Window::Main)
+        *error = tr("Only the tree can be printed: use --list-features without --window.");
     else if (options.listFeatures && options.window == Window::Picker)
         *error = tr("Say whose features to list: --simulate, --camera ID or --xml FILE.");
     return options;

@@ -11,7 +11,7 @@ struct Options
     Q_DECLARE_TR_FUNCTIONS(Options)
 
 public:
-    enum class Window { Tree, Picker };
+    enum class Window { Tree, Picker, Main };
 
     Window window = Window::Tree; ///< the first to be shown
     bool simulate = false;
@@ -22,6 +22,7 @@ public:
     QString description; ///< file name; empty for a camera
     QString screenshot;  ///< file name; empty for none
     int visibility = 0;  ///< 0 Basic, 1 Expert, 2 Guru
+    bool isVisibilityGiven = false;
 
     /// Reads the arguments, the program's name first. Answers "--help" and "--version" and ends
     /// the program. For anything that makes no sense, `error` is one line and the result is of no

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "orvcameraguiapi.h"
 
+#include "applicationbootstrap.h"
 #include "creategenparamtreeview.h"
+#include "orvcamconfig.h"
+#include "orvcamconfigcolordialog.h"
+#include "orvcamconfigoutputdialog.h"
+#include "orvcamconfigpulsedialog.h"
+#include "orvcamconfigstrobedialog.h"
+#include "orvcamconfigtriggerdialog.h"
 #include "selectcamera.h"
 
 #include <cstring>
@@ -16,6 +23,25 @@ QString fromNarrow(const char *text)
 QString fromWide(const wchar_t *text)
 {
     return text ? QString::fromWCharArray(text) : QString();
+}
+
+/// The main window for callers that must not be blocked: without a device it asks for none.
+class SilentCamConfig : public OrvGui::OrvCamConfig
+{
+public:
+    SilentCamConfig(OrvCam::Device *device, QWidget *parent)
+        : OrvCamConfig(NoChoice, device, parent, Qt::WindowFlags())
+    {
+    }
+};
+
+/// The dialog is destroyed on return.
+template<class Dialog>
+void showDialog(OrvCam::Device *device, unsigned long parent)
+{
+    OrvGui::ensureApplication();
+    Dialog dialog(device, parent ? QWidget::find(parent) : nullptr);
+    dialog.show();
 }
 
 } // namespace
@@ -57,4 +83,39 @@ OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title, unsigne
 OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, const wchar_t *title, unsigned long parent)
 {
     return OrvGui::SelectCamera(system, fromWide(title), parent);
+}
+
+void ShowCamConfigDialog(OrvCamDevice *device, unsigned long parent)
+{
+    showDialog<SilentCamConfig>(device, parent);
+}
+
+void ShowColorDialog(OrvCamDevice *device, unsigned long parent)
+{
+    showDialog<OrvGui::OrvCamConfigColorDialog>(device, parent);
+}
+
+void ShowFrameABDialog(OrvCamDevice *device, unsigned long parent)
+{
+    ShowColorDialog(device, parent); // a promise to existing hosts
+}
+
+void ShowOutputDialog(OrvCamDevice *device, unsigned long parent)
+{
+    showDialog<OrvGui::OrvCamConfigOutputDialog>(device, parent);
+}
+
+void ShowPulseDialog(OrvCamDevice *device, unsigned long parent)
+{
+    showDialog<OrvGui::OrvCamConfigPulseDialog>(device, parent);
+}
+
+void ShowStrobeDialog(OrvCamDevice *device, unsigned long parent)
+{
+    showDialog<OrvGui::OrvCamConfigStrobeDialog>(device, parent);
+}
+
+void ShowTriggerDialog(OrvCamDevice *device, unsigned long parent)
+{
+    showDialog<OrvGui::OrvCamConfigTriggerDialog>(device, parent);
 }

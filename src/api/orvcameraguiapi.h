@@ -53,9 +53,9 @@ CreateGenParamTreeViewForNodemapW(OrvGenApiNodeMap *nodeMap, const wchar_t *titl
                                   unsigned long parent);
 ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
 CreateGenParamTreeViewForArrayA(OrvGenParamArray *array, const char *title, unsigned long parent);
-ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
-CreateGenParamTreeViewForArrayW(OrvGenParamArray *array, const wchar_t *title,
-                                unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvGenParamArray *array,
+                                                                            const wchar_t *title,
+                                                                            unsigned long parent);
 
 /* Null is ignored. Not from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
@@ -74,6 +74,24 @@ ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, con
                                                        unsigned long parent);
 ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, const wchar_t *title,
                                                        unsigned long parent);
+
+/*
+ * Each of these shows a dialog for a device and destroys it again before it returns. It blocks for
+ * no longer than that, opens no further window, and leaves nothing behind: no window, and nothing
+ * that is registered with the device. A dialog that is to stay open is made from its class in C++.
+ *
+ * A null device gives a disabled dialog. The device stays the caller's. The parent is the native id
+ * of a Qt widget of this process, which the dialog then belongs to; any other id counts as none.
+ *
+ * ShowFrameABDialog shows the colour dialog, as ShowColorDialog does.
+ */
+ORVCAMERAGUIAPI_EXPORT void ShowCamConfigDialog(OrvCamDevice *device, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT void ShowColorDialog(OrvCamDevice *device, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT void ShowFrameABDialog(OrvCamDevice *device, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT void ShowOutputDialog(OrvCamDevice *device, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT void ShowPulseDialog(OrvCamDevice *device, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT void ShowStrobeDialog(OrvCamDevice *device, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT void ShowTriggerDialog(OrvCamDevice *device, unsigned long parent);
 
 #ifdef __cplusplus
 }

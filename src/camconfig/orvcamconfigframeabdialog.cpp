@@ -9,6 +9,7 @@
 #include "qtorvdoublespinboxval.h"
 #include "qtorvslider.h"
 #include "qtorvspinboxval.h"
+#include "selectordetour.h"
 #include "ui_orvcamconfigframeabdialog.h"
 #include "valuegrid.h"
 
@@ -501,7 +502,7 @@ void OrvCamConfigFrameABDialogPrivate::showCurrentSize()
 
 void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
 {
-    if (!array)
+    if (!array || SelectorDetour::isUnderWay())
         return;
     if (param == frameSelector) {
         dropInput();

@@ -7,6 +7,7 @@
 #include "qtorvsliderspinbox.h"
 #include "qtorvspinbox.h"
 #include "qtorvspinboxval.h"
+#include "selectordetour.h"
 #include "valuegrid.h"
 
 #include <OrvCam/Codes.h>
@@ -211,7 +212,7 @@ QObject *OrvCamConfigMapper::context() const
 void OrvCamConfigMapper::OnParameterUpdate(Param *param)
 {
     const QString name = nameOf(param);
-    if (m_params.value(name) != param)
+    if (SelectorDetour::isUnderWay() || m_params.value(name) != param)
         return; // of a camera that this mapper has been taken away from
 
     // Whoever listens to the widgets may map, unmap or destroy the mapper.

@@ -6,6 +6,7 @@
 #include "ip4validator.h"
 #include "macaddress.h"
 #include "parameterdescription.h"
+#include "selectordetour.h"
 
 #include <OrvGenParam/Array.h>
 
@@ -199,7 +200,7 @@ void GenParamTreeModelPrivate::DeRegisterCallbacks()
 void GenParamTreeModelPrivate::NodeCallback(GenApi::INode *node)
 {
     const auto *value = dynamic_cast<GenApi::IValue *>(node);
-    if (!value)
+    if (!value || OrvGui::SelectorDetour::isUnderWay())
         return;
     const QModelIndex cell = findIndexByValueClass(value, valueColumn, QModelIndex());
     if (cell.isValid())

@@ -10,7 +10,8 @@ trees='CreateGenParamTreeViewFor(Array|Nodemap)[AW]|DestroyGenParamTreeView'
 dialogs='SelectCamera[AW]|Show(CamConfig|Color|FrameAB|Output|Pulse|Strobe|Trigger)Dialog'
 for function in CreateGenParamTreeViewForArrayA CreateGenParamTreeViewForArrayW \
     CreateGenParamTreeViewForNodemapA CreateGenParamTreeViewForNodemapW DestroyGenParamTreeView \
-    SelectCameraA SelectCameraW; do
+    SelectCameraA SelectCameraW ShowCamConfigDialog ShowColorDialog ShowFrameABDialog \
+    ShowOutputDialog ShowPulseDialog ShowStrobeDialog ShowTriggerDialog; do
     echo "$names" | grep -qx "$function" || { echo "not exported: $function" >&2; exit 1; }
 done
 

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <memory>
+
 /// The program as somebody uses it on a screen: from the picker to the chosen camera's features.
 class TestPickAndShow : public QObject
 {
@@ -25,7 +27,8 @@ private:
 
     XView m_screen; // also keeps the server from starting anew between two programs
     QProcess m_program;
-    QString m_window; ///< the last that was waited for
+    std::unique_ptr<QTemporaryDir> m_settings; ///< of the program, instead of the user's
+    QString m_window;               ///< the last that was waited for
 };
 
 namespace {
@@ -44,6 +47,7 @@ QString xdotool(const QStringList &arguments)
 
 void TestPickAndShow::init()
 {
+    m_settings = std::make_unique<QTemporaryDir>();
     m_program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
 }
 
@@ -59,6 +63,7 @@ void TestPickAndShow::start(const QStringList &arguments, bool isSimulated)
     environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver never frees everything
     if (isSimulated)
         environment.insert("ORVCAM_SIMULATION", "1");
+    environment.insert("XDG_CONFIG_HOME", m_settings->path());
     m_program.setProcessEnvironment(environment);
     m_program.start(ORV_PROGRAM, arguments);
     QVERIFY(m_program.waitForStarted());
@@ -102,7 +107,9 @@ void TestPickAndShow::opensThePickedCamera()
     QVERIFY(waitForWindow(pickerTitle));
     press({"Down", "Down", "Down", "Return"});
     QVERIFY(waitForWindow("DualFrame 12M (Inspection)"));
+    closeWindow();
     QVERIFY(!m_program.waitForFinished(500));
+    QVERIFY(waitForWindow("CamConfig"));
     closeWindow();
     QCOMPARE(status(), 0);
 }
@@ -118,7 +125,8 @@ void TestPickAndShow::returnsToThePicker()
     QVERIFY(waitForWindow(pickerTitle));
     press({"Up", "Return"});
     QVERIFY(waitForWindow(QString::fromUtf8("DualFrame 12M (T\xC3\xA9l\xC3\xA9objectif)")));
-    closeWindow();
+    QVERIFY(waitForWindow("CamConfig"));
+    closeWindow(); // and the tree with it
     QCOMPARE(status(), 0);
 }
 

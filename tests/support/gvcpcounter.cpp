@@ -61,18 +61,18 @@ void parse(const QByteArray &packet, QList<GvcpCommand> &commands)
 
 } // namespace
 
-GvcpCounter::GvcpCounter()
-    : m_socket(socket(AF_PACKET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, htons(ETH_P_IP)))
+GvcpCounter::GvcpCounter(const char *adapter)
+    : m_socket(socket(AF_PACKET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, htons(ETH_P_ALL)))
 {
     if (m_socket < 0)
         return;
     const int size = 16 << 20;
     setsockopt(m_socket, SOL_SOCKET, SO_RCVBUF, &size, sizeof size);
-    sockaddr_ll loopback{};
-    loopback.sll_family = AF_PACKET;
-    loopback.sll_protocol = htons(ETH_P_IP);
-    loopback.sll_ifindex = static_cast<int>(if_nametoindex("lo"));
-    if (bind(m_socket, reinterpret_cast<sockaddr *>(&loopback), sizeof loopback) != 0) {
+    sockaddr_ll address{};
+    address.sll_family = AF_PACKET;
+    address.sll_protocol = htons(ETH_P_ALL); // otherwise what goes out is not seen
+    address.sll_ifindex = static_cast<int>(if_nametoindex(adapter));
+    if (bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0) {
         close(m_socket);
         m_socket = -1;
     }
@@ -96,8 +96,8 @@ QList<GvcpCommand> GvcpCounter::take()
                      reinterpret_cast<sockaddr *>(&from), &size);
         if (received < 0)
             return commands;
-        // On the loopback device every packet is seen twice, on its way out and on its way in.
-        if (from.sll_pkttype != PACKET_OUTGOING)
+        // On the loopback device every packet is seen on its way in, too.
+        if (from.sll_pkttype == PACKET_OUTGOING && from.sll_protocol == htons(ETH_P_IP))
             parse(packet.left(static_cast<int>(received)), commands);
     }
 }

@@ -24,12 +24,12 @@ struct GvcpCommand
     bool isRead() const { return kind == ReadRegister || kind == ReadMemory; }
 };
 
-/// Listens on the loopback device to what clients send to GigE Vision cameras. Needs to be root of
-/// its network namespace.
+/// Listens on a network adapter, the loopback device unless told otherwise, to what clients send to
+/// GigE Vision cameras. Needs to be root of its network namespace.
 class GvcpCounter
 {
 public:
-    GvcpCounter();
+    explicit GvcpCounter(const char *adapter = "lo");
     ~GvcpCounter();
     GvcpCounter(const GvcpCounter &) = delete;
     GvcpCounter &operator=(const GvcpCounter &) = delete;

@@ -5,6 +5,7 @@
 #include <GenApi/GenApi.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
+#include <orvcamconfig.h>
 #include <orvcamconfigcolordialog.h>
 #include <orvcamconfigframeabdialog.h>
 #include <orvcamconfigoutputdialog.h>
@@ -371,6 +372,13 @@ void TestTranslations::everyTextIsTranslated()
                 check(dialog);
             }
         }
+    }
+    {
+        OrvGui::OrvCamConfig window(m_device);
+        window.show();
+        check(window); // the information dialog is its child
+        window.SetDevice(nullptr);
+        check(window);
     }
     checkDialog<OrvGui::OrvCamConfigFrameABDialog>();
     checkDialog<OrvGui::OrvCamConfigTriggerDialog>();

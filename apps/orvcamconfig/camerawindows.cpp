@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "camerawindows.h"
+
+#include <OrvCam.h>
+#include <OrvGenParam.h>
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QSettings>
+#include <QTreeView>
+
+namespace {
+
+const char configurationPlace[] = "configuration/geometry";
+const char hiddenButtons[] = "configuration/hiddenButtons";
+const char treePlace[] = "tree/geometry";
+const char treeIsOpen[] = "tree/open";
+const char treeState[] = "tree/state";
+
+QString key(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
+} // namespace
+
+CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings)
+    : m_device(std::move(device)), m_settings(settings), m_configuration(m_device.get())
+{
+    m_tree.setWindowIcon(m_configuration.windowIcon());
+    m_tree.resize(640, 800);
+    m_tree.installEventFilter(this);
+    m_configuration.installEventFilter(this);
+
+    auto *view = m_configuration.findChild<QMenu *>(QStringLiteral("menuView"));
+    view->addSeparator();
+    m_treeAction = view->addAction(tr("Feature Tree"));
+    m_treeAction->setObjectName(QStringLiteral("actionFeatureTree"));
+    m_treeAction->setCheckable(true);
+    connect(m_treeAction, &QAction::toggled, &m_tree, &QWidget::setVisible);
+
+    connect(&m_configuration, &OrvGui::OrvCamConfig::deviceChanged, this, &CameraWindows::follow);
+    connect(&m_configuration, &OrvGui::OrvCamConfig::deviceGivenUp, this,
+            [this] { m_device.reset(); });
+    restore();
+    follow(m_configuration.device());
+}
+
+CameraWindows::~CameraWindows()
+{
+    m_configuration.disconnect(this);
+    m_tree.clearParams(); // the device may be the configuration window's own
+}
+
+void CameraWindows::show()
+{
+    m_configuration.show();
+    const bool isOpen = !m_settings || m_settings->value(key(treeIsOpen), true).toBool();
+    m_treeAction->setChecked(isOpen);
+}
+
+void CameraWindows::follow(OrvCam::Device *device)
+{
+    if (m_tree.treeView()->model())
+        m_treeState = m_tree.saveState();
+    if (!device) {
+        m_tree.clearParams();
+        m_tree.setWindowTitle(tr("Features"));
+        return;
+    }
+    m_tree.setParams(device->GetParamArray());
+    if (m_treeState.isEmpty())
+        m_tree.treeView()->expandToDepth(0);
+    else
+        m_tree.loadState(m_treeState.constData());
+    m_tree.setWindowTitle(QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName()));
+}
+
+bool CameraWindows::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && watched == &m_configuration) {
+        save();
+        m_tree.close();
+    } else if (event->type() == QEvent::Close && watched == &m_tree) {
+        m_treeAction->setChecked(false);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void CameraWindows::restore()
+{
+    if (!m_settings)
+        return;
+    m_configuration.restoreGeometry(m_settings->value(key(configurationPlace)).toByteArray());
+    m_tree.restoreGeometry(m_settings->value(key(treePlace)).toByteArray());
+    m_treeState = m_settings->value(key(treeState)).toByteArray();
+    for (const QString &name : m_settings->value(key(hiddenButtons)).toStringList()) {
+        if (auto *action = m_configuration.findChild<QAction *>(name))
+            action->setChecked(false);
+    }
+}
+
+void CameraWindows::save()
+{
+    if (!m_settings)
+        return;
+    QStringList hidden;
+    for (const QAction *action :
+         m_configuration.findChild<QMenu *>(QStringLiteral("menuView"))->actions()) {
+        if (action->isCheckable() && action != m_treeAction && !action->isChecked())
+            hidden << action->objectName();
+    }
+    if (m_tree.treeView()->model())
+        m_treeState = m_tree.saveState();
+    m_settings->setValue(key(configurationPlace), m_configuration.saveGeometry());
+    m_settings->setValue(key(hiddenButtons), hidden);
+    m_settings->setValue(key(treePlace), m_tree.saveGeometry());
+    m_settings->setValue(key(treeIsOpen), m_treeAction->isChecked());
+    m_settings->setValue(key(treeState), m_treeState);
+}

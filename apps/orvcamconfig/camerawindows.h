@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "released.h"
+
+#include <orvcamconfig.h>
+#include <orvgenparamtreeview.h>
+
+#include <QByteArray>
+#include <QObject>
+
+class QAction;
+class QSettings;
+
+/// The windows of one camera: the configuration window and the tree of all its features, which
+/// always shows the camera that the other has, and is opened from its "View" menu.
+///
+/// The places of the windows, which of them are open and what is unfolded in the tree are kept in
+/// the settings from one run to the next.
+class CameraWindows : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Takes the device over. The settings must outlive the windows; null for none.
+    CameraWindows(Released<OrvCam::Device> device, QSettings *settings);
+    ~CameraWindows() override;
+
+    /// Shows what was open at the end of the last run, the configuration window in any case.
+    void show();
+
+    OrvGui::OrvCamConfig &configuration() { return m_configuration; }
+    OrvGui::OrvGenParamTreeView &tree() { return m_tree; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void follow(OrvCam::Device *device);
+    void restore();
+    void save();
+
+    Released<OrvCam::Device> m_device; ///< outlives the windows; null when they no longer use it
+    QSettings *const m_settings;
+    OrvGui::OrvGenParamTreeView m_tree;
+    OrvGui::OrvCamConfig m_configuration;
+    QAction *m_treeAction;
+    QByteArray m_treeState; ///< of the tree while it shows nothing
+};

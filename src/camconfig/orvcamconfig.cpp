@@ -1,0 +1,562 @@
+// SPDX-License-Identifier: MIT
+#include "orvcamconfig.h"
+
+#include "camerainformation.h"
+#include "devicewatch.h"
+#include "orvcamconfigcolordialog.h"
+#include "orvcamconfigframeabdialog.h"
+#include "orvcamconfigoutputdialog.h"
+#include "orvcamconfigpulsedialog.h"
+#include "orvcamconfigstrobedialog.h"
+#include "orvcamconfigtriggerdialog.h"
+#include "orvcameraselectordialog.h"
+#include "selectordetour.h"
+#include "ui_orvcamconfigmainwindow.h"
+
+#include <OrvCam.h>
+#include <OrvGenParam.h>
+
+#include <QMessageBox>
+#include <QPointer>
+#include <QStyle>
+#include <QTimer>
+#include <QVector>
+
+#include <memory>
+#include <utility>
+
+namespace OrvGui {
+
+namespace {
+
+const int RefreshPeriod = 1000; // ms
+
+const char nameOfFrameA[] = "FrameA";
+const char nameOfFrameB[] = "FrameB";
+
+/// As text; empty when the camera lacks the feature or does not let it be read.
+QString numberOf(const OrvGenParam::Int *param)
+{
+    int32_t error = OrvCam::Success;
+    const qint64 value = param ? param->GetValue(&error) : 0;
+    return param && error == OrvCam::Success ? QString::number(value) : QString();
+}
+
+QString frameRate(const QString &frameTime)
+{
+    if (frameTime.isEmpty())
+        return QString();
+    const double microseconds = frameTime.toDouble();
+    return QString::number(microseconds > 0 ? 1e6 / microseconds : 0.0, 'f', 2);
+}
+
+/// Empty when it cannot be read.
+QByteArray symbolicOf(const OrvGenParam::Enum *param)
+{
+    int32_t error = OrvCam::Success;
+    const QByteArray value = param->GetSymbolicValue(&error);
+    return error == OrvCam::Success ? value : QByteArray();
+}
+
+} // namespace
+
+class OrvCamConfigPrivate : public OrvGenParam::ParamEventSink
+{
+    Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCamConfig)
+
+public:
+    explicit OrvCamConfigPrivate(OrvCamConfig *window);
+
+    /// The first set-up.
+    void begin(OrvCam::Device *device, bool mayAsk);
+
+    /// Works with another device. `created` is the same device if the window has to release it.
+    void use(OrvCam::Device *device, OrvCam::Device *created);
+
+    /// Lets go of all that is not a widget.
+    void end();
+
+    void showTemperature();
+    void closeDialogs();
+    void OnParameterUpdate(OrvGenParam::Param *param) override;
+
+    /// The device, if it has parameters to offer.
+    OrvCam::Device *usable() const { return array ? device : nullptr; }
+
+private:
+    enum Frame { FrameA, FrameB };
+    enum FrameMode { OnlyFrameA, OnlyFrameB, BothFrames };
+
+    struct Column
+    {
+        QLineEdit *size;
+        QLineEdit *fps;
+        QLineEdit *frameTime;
+        QLineEdit *exposure;
+    };
+
+    void build();
+    void buildStatusBar();
+    void connectMenus();
+    template<class Dialog>
+    void addDialog(Dialog *dialog, QPushButton *button, QAction *action);
+    OrvCam::Device *pick();
+
+    void init(OrvCam::Device *newDevice);
+    void getNeededParams();
+    void forgetParams();
+    void layOut();
+    void clearFields();
+    void handOver(OrvCam::Device *newDevice);
+
+    void refresh();
+    void drop();
+    void restore();
+    void refreshFrames();
+    void updateFrame(Frame frame);
+    void updateBoth();
+    void updateStatus();
+    void readSelectedFrame();
+    void readFrameMode();
+
+    OrvCamConfig *const q;
+    OrvCam::Device *device = nullptr;    ///< null while its camera is unplugged
+    OrvCam::System *system = nullptr;    ///< only when the window has obtained it
+    OrvCam::Device *ownDevice = nullptr; ///< which the window has to release
+    OrvGenParam::Array *array = nullptr; ///< the device's
+    DeviceWatch watch;                   ///< keeps the device that is unplugged, too
+    Ui_OrvCamConfigMainWindow ui;
+    std::unique_ptr<CameraInformation> information;
+    QVector<OrvCamConfigDialog *> dialogs; ///< children of the window
+    QLabel *statusText = nullptr;
+    QLabel *statusIcon = nullptr;
+    QTimer timer;
+    QObject receiver; ///< of all connections that lead here
+
+    bool isFrameABSupported = false;
+    bool isFrameModeChanged = true;
+    FrameMode frameMode = BothFrames;
+    Frame selectedFrame = FrameA;
+
+    OrvGenParam::Enum *frameSelector = nullptr;
+    OrvGenParam::Enum *frameModeParam = nullptr;
+    OrvGenParam::Int *temperature = nullptr;
+    OrvGenParam::Int *exposureTime = nullptr;
+    OrvGenParam::Int *frameTime = nullptr;
+    OrvGenParam::Int *width = nullptr;
+    OrvGenParam::Int *height = nullptr;
+};
+
+OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window), timer(window)
+{
+    timer.setObjectName(QStringLiteral("refreshTimer"));
+}
+
+void OrvCamConfigPrivate::begin(OrvCam::Device *newDevice, bool mayAsk)
+{
+    build();
+    if (!newDevice && mayAsk)
+        newDevice = ownDevice = pick();
+    addDialog(new OrvCamConfigFrameABDialog(newDevice, q), ui.pushBtnFrameAB, ui.actionFrame_A_B);
+    addDialog(new OrvCamConfigTriggerDialog(newDevice, q), ui.pushBtnTrigger, ui.actionTrigger);
+    addDialog(new OrvCamConfigPulseDialog(newDevice, q), ui.pushBtnPulse, ui.actionPulse);
+    addDialog(new OrvCamConfigStrobeDialog(newDevice, q), ui.pushBtnStrobe, ui.actionStrobe);
+    addDialog(new OrvCamConfigOutputDialog(newDevice, q), ui.pushBtnDataOut, ui.actionData_Out);
+    addDialog(new OrvCamConfigColorDialog(newDevice, q), ui.pushBtnColor, ui.actionColor);
+    init(newDevice);
+}
+
+void OrvCamConfigPrivate::build()
+{
+    ui.setupUi(q);
+    const QString mu(QChar(0x3BC));
+    ui.lblFrameTime->setText(tr("%1s").arg(mu));
+    ui.lblExposure->setText(tr("%1s").arg(mu));
+    ui.lblTemperature->setText(tr("%1C").arg(QChar(0xB0)));
+    information.reset(new CameraInformation(q));
+    buildStatusBar();
+    connectMenus();
+    QObject::connect(&timer, &QTimer::timeout, &receiver, [this] { refresh(); });
+}
+
+void OrvCamConfigPrivate::buildStatusBar()
+{
+    statusText = new QLabel(q);
+    statusText->setObjectName(QStringLiteral("lblStatusText"));
+    statusText->setTextFormat(Qt::PlainText);
+    statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // names may be long
+    statusIcon = new QLabel(q);
+    statusIcon->setObjectName(QStringLiteral("lblStatusIcon"));
+    ui.statusbar->addWidget(statusText, 1);
+    ui.statusbar->addWidget(statusIcon);
+}
+
+void OrvCamConfigPrivate::connectMenus()
+{
+    QObject::connect(ui.actionQuit, &QAction::triggered, &receiver, [this] { q->close(); });
+    QObject::connect(ui.actionAbout, &QAction::triggered, &receiver, [this] {
+        information->dialog()->show();
+        information->dialog()->raise();
+    });
+    QObject::connect(ui.actionDisconnect, &QAction::triggered, &receiver,
+                     [this] { use(nullptr, nullptr); });
+    QObject::connect(ui.actionConnect, &QAction::triggered, &receiver, [this] {
+        const QPointer<OrvCamConfig> window(q);
+        use(nullptr, nullptr);
+        OrvCam::Device *picked = window ? pick() : nullptr;
+        if (picked)
+            use(picked, picked);
+    });
+}
+
+template<class Dialog>
+void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction *action)
+{
+    dialogs.append(dialog);
+    QObject::connect(dialog, &Dialog::closing, &receiver, [=] { button->setChecked(false); });
+    QObject::connect(button, &QPushButton::toggled, &receiver, [=](bool checked) {
+        if (checked)
+            dialog->show();
+        else
+            dialog->close();
+    });
+    QObject::connect(action, &QAction::toggled, &receiver, [=](bool checked) {
+        button->setVisible(checked);
+        if (!checked)
+            dialog->close();
+    });
+}
+
+OrvCam::Device *OrvCamConfigPrivate::pick()
+{
+    if (!system)
+        system = OrvCam_GetSystem();
+    if (!system)
+        return nullptr;
+
+    // The window may be destroyed meanwhile, and this object and the picker with it.
+    const QPointer<OrvCameraSelectorDialog> picker(new OrvCameraSelectorDialog(system, q));
+    picker->setWindowTitle(tr("Select a device"));
+    const bool isAccepted = picker->exec() == QDialog::Accepted;
+    if (!picker)
+        return nullptr;
+    OrvCam::DeviceInfo *camera = isAccepted ? picker->selectedCamera() : nullptr;
+    delete picker;
+    if (!camera)
+        return nullptr;
+
+    OrvCam::Device *picked = OrvCam_CreateDevice(camera, nullptr, OrvCam::AccessControl);
+    if (!picked) {
+        auto *box = new QMessageBox(
+            QMessageBox::Critical, QString(),
+            tr("The camera %1 cannot be opened!").arg(QString::fromUtf8(camera->GetDisplayName())),
+            QMessageBox::Ok, q);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+    }
+    return picked;
+}
+
+void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created)
+{
+    OrvCam::Device *const former = watch.device();
+    const bool isOwn = std::exchange(ownDevice, created) == former;
+    init(newDevice);
+    handOver(newDevice);
+    const QPointer<OrvCamConfig> window(q);
+    emit q->deviceChanged(usable());
+    if (!former || former == newDevice)
+        return;
+    if (isOwn)
+        former->Release();
+    else if (window)
+        emit window->deviceGivenUp(former);
+}
+
+void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
+{
+    forgetParams();
+    clearFields();
+    device = newDevice;
+    watch.watch(device); // first, so that nothing is missed
+    if (device) {
+        int32_t error = OrvCam::Success;
+        array = device->GetParamArray(&error);
+        if (error != OrvCam::Success)
+            array = nullptr;
+    }
+    if (array)
+        getNeededParams();
+    q->setEnabled(true);
+    timer.start(RefreshPeriod);
+    layOut();
+    showTemperature();
+    updateBoth();
+    updateStatus();
+    information->adjust(array);
+}
+
+void OrvCamConfigPrivate::getNeededParams()
+{
+    frameSelector = array->GetEnum("FrameAB_Selector");
+    frameModeParam = array->GetEnum("FrameMode");
+    temperature = array->GetInt("CurrentTemperature");
+    exposureTime = array->GetInt("CurrentExposureTime");
+    frameTime = array->GetInt("CurrentFrameTime");
+    width = array->GetInt("Width");
+    height = array->GetInt("Height");
+
+    isFrameABSupported = frameSelector;
+    selectedFrame = FrameA;
+    frameMode = BothFrames;
+    if (frameSelector) {
+        readSelectedFrame();
+        frameSelector->RegisterEventSink(this);
+    }
+    if (frameModeParam) {
+        readFrameMode();
+        frameModeParam->RegisterEventSink(this);
+    }
+}
+
+void OrvCamConfigPrivate::forgetParams()
+{
+    if (frameSelector)
+        frameSelector->UnregisterEventSink(this);
+    if (frameModeParam)
+        frameModeParam->UnregisterEventSink(this);
+    array = nullptr;
+    frameSelector = nullptr;
+    frameModeParam = nullptr;
+    temperature = nullptr;
+    exposureTime = nullptr;
+    frameTime = nullptr;
+    width = nullptr;
+    height = nullptr;
+}
+
+void OrvCamConfigPrivate::layOut()
+{
+    ui.lblFrameB->setVisible(isFrameABSupported);
+    ui.actionFrame_A_B->setVisible(isFrameABSupported);
+    const auto limitWidth = [this](QLineEdit *edit) {
+        const QSize text =
+            edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
+        edit->setMinimumWidth(isFrameABSupported ? text.width() : 0);
+        edit->setMaximumWidth(isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
+    };
+    const int columns = isFrameABSupported ? 1 : 2;
+    ui.gridLayout->setColumnStretch(4, isFrameABSupported ? 1 : 0); // takes what those may not
+    ui.gridLayout->removeWidget(ui.lblFrameA);
+    ui.gridLayout->addWidget(ui.lblFrameA, 0, 1, 1, columns);
+    int row = 1;
+    for (QLineEdit *edit : {ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
+                            ui.lineEditExpFrameA}) {
+        ui.gridLayout->removeWidget(edit);
+        ui.gridLayout->addWidget(edit, row++, 1, 1, columns);
+        limitWidth(edit);
+    }
+    for (QLineEdit *edit : {ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
+                            ui.lineEditExpFrameB}) {
+        edit->setVisible(isFrameABSupported);
+        limitWidth(edit);
+    }
+}
+
+void OrvCamConfigPrivate::clearFields()
+{
+    for (QLineEdit *edit : ui.groupBox->findChildren<QLineEdit *>())
+        edit->clear();
+}
+
+void OrvCamConfigPrivate::handOver(OrvCam::Device *newDevice)
+{
+    for (OrvCamConfigDialog *dialog : dialogs)
+        dialog->SetDevice(newDevice);
+}
+
+void OrvCamConfigPrivate::end()
+{
+    timer.stop();
+    forgetParams();
+    watch.watch(nullptr);
+    device = nullptr;
+    clearFields();
+    handOver(nullptr);
+    emit q->deviceChanged(nullptr);
+    if (OrvCam::Device *former = std::exchange(ownDevice, nullptr))
+        former->Release();
+    if (OrvCam::System *former = std::exchange(system, nullptr))
+        former->Release();
+}
+
+void OrvCamConfigPrivate::refresh()
+{
+    switch (watch.take()) {
+    case DeviceWatch::Disconnected:
+        return drop();
+    case DeviceWatch::Reconnected:
+        return restore();
+    default:
+        showTemperature();
+        refreshFrames();
+    }
+}
+
+void OrvCamConfigPrivate::drop()
+{
+    forgetParams();
+    device = nullptr;
+    handOver(nullptr);
+    clearFields();
+    updateStatus();
+    information->adjust(nullptr);
+    emit q->deviceChanged(nullptr);
+}
+
+void OrvCamConfigPrivate::restore()
+{
+    OrvCam::Device *const known = watch.device();
+    handOver(known);
+    init(known);
+    emit q->deviceChanged(usable());
+}
+
+void OrvCamConfigPrivate::refreshFrames()
+{
+    if (!array)
+        return;
+    if (!isFrameABSupported)
+        return updateFrame(FrameA);
+    if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false))
+        return updateBoth();
+    // What the camera tells is of the selected frame; the other column keeps what it shows.
+    const bool isWanted =
+        frameMode == BothFrames || (frameMode == OnlyFrameA) == (selectedFrame == FrameA);
+    if (isWanted)
+        updateFrame(selectedFrame);
+}
+
+void OrvCamConfigPrivate::showTemperature()
+{
+    if (temperature)
+        ui.lineEditTemperature->setText(numberOf(temperature));
+}
+
+void OrvCamConfigPrivate::updateFrame(Frame frame)
+{
+    const Column columnA{ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
+                         ui.lineEditExpFrameA};
+    const Column columnB{ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
+                         ui.lineEditExpFrameB};
+    const Column &column = frame == FrameA ? columnA : columnB;
+    const QString time = numberOf(frameTime);
+    const QString size = numberOf(width) + QLatin1Char('x') + numberOf(height);
+    column.size->setText(size.size() > 1 ? size : QString());
+    column.fps->setText(frameRate(time));
+    column.frameTime->setText(time);
+    column.exposure->setText(numberOf(exposureTime));
+}
+
+void OrvCamConfigPrivate::updateBoth()
+{
+    const Frame first = selectedFrame;
+    updateFrame(first);
+    if (!frameSelector)
+        return;
+    const QByteArray selected = symbolicOf(frameSelector);
+    if (selected.isEmpty())
+        return;
+    const SelectorDetour detour;
+    const bool isA = first == FrameA;
+    if (frameSelector->SetSymbolicValue(isA ? nameOfFrameB : nameOfFrameA) != OrvCam::Success)
+        return;
+    updateFrame(isA ? FrameB : FrameA);
+    frameSelector->SetSymbolicValue(selected.constData());
+}
+
+void OrvCamConfigPrivate::updateStatus()
+{
+    QString text = tr("Disconnected");
+    QString icon = QStringLiteral(":/icons/res/disconnected.ico");
+    if (array) {
+        const OrvGenParam::String *model = array->GetString("DeviceModelName");
+        text = model ? QString::fromUtf8(model->GetValue()) : tr("Unknown");
+        icon = QStringLiteral(":/icons/res/connected.ico");
+    }
+    statusText->setText(text);
+    statusText->setToolTip(array ? text.toHtmlEscaped() : QString());
+    const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
+    statusIcon->setPixmap(QIcon(icon).pixmap(extent));
+}
+
+void OrvCamConfigPrivate::readSelectedFrame()
+{
+    selectedFrame = symbolicOf(frameSelector) == nameOfFrameA ? FrameA : FrameB;
+}
+
+void OrvCamConfigPrivate::readFrameMode()
+{
+    const QByteArray mode = symbolicOf(frameModeParam);
+    frameMode = mode == nameOfFrameA ? OnlyFrameA : mode == nameOfFrameB ? OnlyFrameB : BothFrames;
+}
+
+void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
+{
+    if (!device || !param->IsReadable())
+        return;
+    if (param == frameSelector) {
+        readSelectedFrame();
+    } else if (param == frameModeParam) {
+        isFrameModeChanged = true;
+        readFrameMode();
+    }
+}
+
+void OrvCamConfigPrivate::closeDialogs()
+{
+    for (OrvCamConfigDialog *dialog : dialogs)
+        dialog->close();
+    information->dialog()->close();
+}
+
+OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)
+    : QMainWindow(parent, flags), d(new OrvCamConfigPrivate(this))
+{
+    d->begin(device, true);
+}
+
+OrvCamConfig::OrvCamConfig(Choice, OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)
+    : QMainWindow(parent, flags), d(new OrvCamConfigPrivate(this))
+{
+    d->begin(device, false);
+}
+
+OrvCamConfig::~OrvCamConfig()
+{
+    d->end();
+}
+
+void OrvCamConfig::SetDevice(OrvCam::Device *device)
+{
+    d->use(device, nullptr);
+}
+
+OrvCam::Device *OrvCamConfig::device() const
+{
+    return d->usable();
+}
+
+void OrvCamConfig::showEvent(QShowEvent *event)
+{
+    d->showTemperature();
+    QMainWindow::showEvent(event);
+}
+
+void OrvCamConfig::closeEvent(QCloseEvent *event)
+{
+    d->closeDialogs();
+    QMainWindow::closeEvent(event);
+}
+
+} // namespace OrvGui

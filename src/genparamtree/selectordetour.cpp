@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "selectordetour.h"
+
+namespace OrvGui {
+
+namespace {
+
+thread_local int detours = 0;
+
+} // namespace
+
+SelectorDetour::SelectorDetour()
+{
+    ++detours;
+}
+
+SelectorDetour::~SelectorDetour()
+{
+    --detours;
+}
+
+bool SelectorDetour::isUnderWay()
+{
+    return detours > 0;
+}
+
+} // namespace OrvGui

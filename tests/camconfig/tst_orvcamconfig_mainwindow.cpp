@@ -1,0 +1,848 @@
+// SPDX-License-Identifier: MIT
+#include <arv.h>
+
+#include "camconfigtestsupport.h"
+#include "fakecameras.h"
+#include "modalvisitor.h"
+#include "pluggablecamera.h"
+
+#include <aravis/nodemap.h>
+#include <orvcamconfig.h>
+#include <orvcamconfigdialog.h>
+#include <orvcamconfigmapper.h>
+#include <orvcameraguiapi.h>
+#include <orvgenparamtreeview.h>
+#include <qtorvspinbox.h>
+#include <qtorvspinboxval.h>
+#include <simulation/cameraregisters.h>
+#include <simulation/simulatedcamera.h>
+
+#include <random>
+
+using OrvGui::OrvCamConfig;
+
+namespace {
+
+/// The cameras that the picker offers, in its first interface.
+struct World
+{
+    World() { system.interfaces.entries = {&interface}; }
+
+    PluggableCamera &camera(int i) { return i == 0 ? first : second; }
+
+    PluggableCamera first{"First"};
+    PluggableCamera second{"Second"};
+    FakeInterface interface {
+        "Cable"
+    };
+    FakeCamera &firstInfo = interface.add("First");
+    FakeCamera &secondInfo = interface.add("Second");
+    int systems = 0; ///< handed out and not released
+    struct System final : OrvCam::System
+    {
+        explicit System(World &w) : world(w) {}
+        OrvCam::InterfaceList *GetInterfaceSet(uint32_t) override
+        {
+            return world.system.interfaces.handOut();
+        }
+        void Release() override { --world.systems; }
+        World &world;
+    };
+    FakeSystem system;
+    System handle{*this};
+};
+
+World *theWorld = nullptr;
+
+} // namespace
+
+// The library calls these instead of those of the camera access library.
+
+OrvCamSystem *OrvCam_GetSystem(void)
+{
+    if (!theWorld)
+        return nullptr;
+    ++theWorld->systems;
+    return &theWorld->handle;
+}
+
+OrvCamDevice *OrvCam_CreateDevice(OrvCamDeviceInfo *info, int32_t *error, int32_t accessMode)
+{
+    if (error || accessMode != OrvCam::AccessControl)
+        qFatal("Not how a device is to be created");
+    return CountedDevice::open(theWorld->camera(info == &theWorld->firstInfo ? 0 : 1), *info);
+}
+
+namespace {
+
+template<class Widget = QLineEdit>
+Widget &child(const QWidget &window, const char *name)
+{
+    auto *found = window.findChild<Widget *>(QString::fromLatin1(name));
+    if (!found)
+        qFatal("There is no %s", name);
+    return *found;
+}
+
+QString textOf(const QWidget &window, const char *lineEdit)
+{
+    return child<QLineEdit>(window, lineEdit).text();
+}
+
+QAction &action(const QWidget &window, const char *name)
+{
+    auto *found = window.findChild<QAction *>(QString::fromLatin1(name));
+    if (!found)
+        qFatal("There is no %s", name);
+    return *found;
+}
+
+QString statusOf(const QWidget &window)
+{
+    return child<QLabel>(window, "lblStatusText").text();
+}
+
+/// Lets the window's second be over.
+void tick(const QWidget &window)
+{
+    QMetaObject::invokeMethod(window.findChild<QTimer *>("refreshTimer"), "timeout");
+}
+
+/// What a column shows: size, frames per second, frame time, exposure.
+QString columnOf(const QWidget &window, char frame)
+{
+    QStringList texts;
+    for (const char *field : {"Size", "Fps", "Ftm", "Exp"})
+        texts << textOf(window, qPrintable(QString("lineEdit%1Frame%2").arg(field).arg(frame)));
+    return texts.join(' ');
+}
+
+/// What the window has to show of the frame that the camera's selector addresses.
+QString selectedColumn(OrvGenParam::Array &array)
+{
+    const auto number = [&](const char *name) { return array.GetIntegerValue(name); };
+    return QString("%1x%2 %3 %4 %5")
+        .arg(number("Width"))
+        .arg(number("Height"))
+        .arg(1e6 / double(number("CurrentFrameTime")), 0, 'f', 2)
+        .arg(number("CurrentFrameTime"))
+        .arg(number("CurrentExposureTime"));
+}
+
+/// The simulated camera, opened without a system.
+struct Simulation
+{
+    OrvSimulation::SimulatedCamera camera;
+    const std::unique_ptr<OrvAravis::NodeMap> map = OrvAravis::NodeMap::open(camera.device());
+    NodeMapDevice device{*map};
+    OrvGenParam::Array &array = *device.array;
+
+    void select(const char *frame) { set("FrameAB_Selector", frame); }
+    void set(const char *feature, const char *value)
+    {
+        QCOMPARE(array.GetEnum(feature)->SetSymbolicValue(value), 0);
+    }
+    void set(const char *feature, int64_t value)
+    {
+        QCOMPARE(array.GetInt(feature)->SetValue(value), 0);
+    }
+};
+
+/// Picks the camera with that row in the picker; cancels for -1.
+ModalVisitor::Action picking(int row)
+{
+    return [row](QDialog &picker) {
+        QCOMPARE(picker.windowTitle(), QString("Select a device"));
+        if (row < 0)
+            return picker.reject();
+        auto &tree = child<QTreeView>(picker, "cameraTreeView");
+        tree.setCurrentIndex(tree.model()->index(row, 0, tree.model()->index(0, 0)));
+        picker.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+    };
+}
+
+/// Writes down which windows are shown.
+class ShownWindows : public QObject
+{
+public:
+    ShownWindows() { qApp->installEventFilter(this); }
+    QStringList names;
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        auto *widget = qobject_cast<QWidget *>(object);
+        if (event->type() == QEvent::Show && widget && widget->isWindow())
+            names << QString::fromLatin1(widget->metaObject()->className());
+        return false;
+    }
+};
+
+using Function = void (*)(OrvCamDevice *, unsigned long);
+
+struct Releaser
+{
+    void operator()(OrvCam::Device *device) const { device->Release(); }
+};
+
+/// A main window, two cameras and a host, and what has to be true of them.
+class Story
+{
+public:
+    Story()
+    {
+        theWorld = &world;
+        ModalVisitor user({picking(-1)});
+        window.reset(new OrvCamConfig(nullptr));
+        QObject::connect(window.get(), &OrvCamConfig::deviceChanged,
+                         [this](OrvCam::Device *device) { signalled = device; });
+        window->show();
+    }
+    ~Story()
+    {
+        window.reset();
+        for (OrvCam::Device *host : hosts) {
+            if (host)
+                host->Release();
+        }
+        theWorld = nullptr;
+    }
+
+    /// False when that cannot happen now.
+    bool perform(const QString &word)
+    {
+        const int i = word.endsWith('x') || word.size() < 2 ? -1 : word[1].digitValue();
+        switch (word[0].toLatin1()) {
+        case 'c':
+            return connectTo(i);
+        case 'h':
+            return setByHost(i);
+        case 'd':
+            current = -1;
+            action(*window, "actionDisconnect").trigger();
+            return true;
+        case 'r':
+            return releaseByHost(i);
+        default:
+            world.camera(i).isPlugged = word[0] == 'p';
+            return true;
+        }
+    }
+
+    void check()
+    {
+        for (int i = 0; i < 2; ++i) {
+            const auto &counts = CountedDevice::counts(world.camera(i));
+            QCOMPARE(counts.open, (hosts[i] ? 1 : 0) + (current == i && isOwn ? 1 : 0));
+            QCOMPARE(counts.events, current == i ? 2 : 0);
+        }
+        const bool isConnected = current >= 0 && world.camera(current).isPlugged;
+        const QString status = isConnected ? world.camera(current).name : "Disconnected";
+        QTRY_VERIFY((tick(*window), statusOf(*window) == status));
+        QCOMPARE(window->device() != nullptr, isConnected);
+        QCOMPARE(signalled, window->device());
+        QCOMPARE(textOf(*window, "lineEditTemperature"), QString(isConnected ? "40" : ""));
+        for (QDialog *dialog : window->findChildren<OrvGui::OrvCamConfigDialog *>())
+            QCOMPARE(dialog->isEnabled(), isConnected);
+    }
+
+    void end()
+    {
+        window.reset();
+        QCOMPARE(signalled, static_cast<OrvCam::Device *>(nullptr));
+        QCOMPARE(world.systems, 0);
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(CountedDevice::counts(world.camera(i)).open, hosts[i] ? 1 : 0);
+    }
+
+    World world;
+    std::unique_ptr<OrvCamConfig> window;
+    OrvCam::Device *hosts[2] = {};
+
+private:
+    bool connectTo(int i)
+    {
+        current = i >= 0 && world.camera(i).isPlugged && !hosts[i] ? i : -1;
+        isOwn = true;
+        ModalVisitor user({picking(i)});
+        action(*window, "actionConnect").trigger();
+        for (QMessageBox *box : window->findChildren<QMessageBox *>())
+            box->done(0);
+        return user.isDone();
+    }
+
+    bool setByHost(int i)
+    {
+        if (i >= 0 && !hosts[i]) {
+            hosts[i] =
+                CountedDevice::open(world.camera(i), i == 0 ? world.firstInfo : world.secondInfo);
+            if (!hosts[i])
+                return false;
+        }
+        current = i;
+        isOwn = false;
+        window->SetDevice(i >= 0 ? hosts[i] : nullptr);
+        return true;
+    }
+
+    bool releaseByHost(int i)
+    {
+        if (!hosts[i] || current == i)
+            return false;
+        std::exchange(hosts[i], nullptr)->Release();
+        return true;
+    }
+
+    int current = -1; ///< the camera that the window works with, also while it is unplugged
+    bool isOwn = false;
+    OrvCam::Device *signalled = nullptr;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Function)
+
+class TestOrvCamConfigMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showsBothFrames();
+    void followsTheTemperature();
+    void disturbsNobody();
+    void lockedSelector();
+    void cameraWithOneFrame();
+    void information();
+    void buttonsAndView();
+    void ownership_data();
+    void ownership();
+    void ownershipInAnyOrder();
+    void pickedInTheConstructor();
+    void cameraThatCannotBeOpened();
+    void destroyedWhilePicking();
+    void twoWindowsOnOneCamera();
+    void showFunctions_data();
+    void showFunctions();
+    void showFunctionWithParent();
+};
+
+void TestOrvCamConfigMainWindow::showsBothFrames()
+{
+    Simulation simulation;
+    QVERIFY(simulation.map);
+    simulation.set("FrameMode", "DualVideo");
+    simulation.select("FrameB");
+    simulation.set("Frame_Width", 1024);
+    simulation.set("Frame_ExposureLines", 321);
+    const QString atFirstB = selectedColumn(simulation.array);
+    simulation.select("FrameA");
+    const QString atFirstA = selectedColumn(simulation.array);
+    QVERIFY(atFirstA != atFirstB);
+
+    OrvCamConfig window(&simulation.device);
+    window.show();
+    QCOMPARE(columnOf(window, 'A'), atFirstA);
+    QCOMPARE(columnOf(window, 'B'), atFirstB);
+    QCOMPARE(simulation.array.GetEnum("FrameAB_Selector")->GetSymbolicValue(), "FrameA");
+    QCOMPARE(child<QLabel>(window, "lblFrameTime").text(), QString::fromUtf8("\u03bcs"));
+    QCOMPARE(child<QLabel>(window, "lblTemperature").text(), QString::fromUtf8("\u00b0C"));
+
+    // Within a second, by itself, and only the frame that is addressed.
+    simulation.set("Frame_ExposureLines", 77);
+    const QString changedA = selectedColumn(simulation.array);
+    QVERIFY(changedA != atFirstA);
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_COMPARE(columnOf(window, 'A'), changedA);
+    QVERIFY(timer.elapsed() < 1500);
+    QCOMPARE(columnOf(window, 'B'), atFirstB);
+
+    simulation.select("FrameB");
+    simulation.set("Frame_Height", 512);
+    const QString changedB = selectedColumn(simulation.array);
+    QVERIFY(changedB != atFirstB);
+    tick(window);
+    QCOMPARE(columnOf(window, 'A'), changedA);
+    QCOMPARE(columnOf(window, 'B'), changedB);
+
+    // Only frame A is put out, but frame B is addressed: neither is shown in the other's column.
+    simulation.set("FrameMode", "FrameA");
+    simulation.select("FrameA");
+    tick(window);
+    const QString onlyA = columnOf(window, 'A');
+    QCOMPARE(onlyA, selectedColumn(simulation.array));
+    simulation.select("FrameB");
+    tick(window);
+    QCOMPARE(columnOf(window, 'A'), onlyA);
+    simulation.select("FrameA");
+    tick(window);
+    QCOMPARE(columnOf(window, 'A'), selectedColumn(simulation.array));
+
+    // Both again: both are read at once, and the camera keeps its selection.
+    simulation.set("FrameMode", "FrameB");
+    simulation.set("FrameMode", "DualVideo");
+    simulation.select("FrameA");
+    tick(window);
+    QCOMPARE(simulation.array.GetEnum("FrameAB_Selector")->GetSymbolicValue(), "FrameA");
+    QCOMPARE(columnOf(window, 'A'), selectedColumn(simulation.array));
+    simulation.select("FrameB");
+    QCOMPARE(columnOf(window, 'B'), selectedColumn(simulation.array));
+}
+
+void TestOrvCamConfigMainWindow::followsTheTemperature()
+{
+    Simulation simulation;
+    OrvCamConfig window(&simulation.device);
+    window.show();
+    const auto inside = [&] {
+        guint32 degrees = 0;
+        arv_device_read_register(simulation.camera.device(),
+                                 OrvSimulation::Registers::CurrentTemperature, &degrees, nullptr);
+        return QString::number(degrees);
+    };
+    const QString before = textOf(window, "lineEditTemperature");
+    QCOMPARE(before, inside());
+    for (int i = 0; i < 1000 && inside() == before; ++i)
+        simulation.camera.advance(60);
+    QVERIFY(inside() != before);
+    simulation.map->Poll(1000);
+    QTRY_COMPARE_WITH_TIMEOUT(textOf(window, "lineEditTemperature"), inside(), 1500);
+}
+
+void TestOrvCamConfigMainWindow::disturbsNobody()
+{
+    Simulation simulation;
+    simulation.select("FrameB");
+    simulation.set("Frame_ExposureLines", 500);
+    simulation.select("FrameA");
+    simulation.set("FrameMode", "FrameA");
+
+    OrvCamConfig window(&simulation.device);
+    window.show();
+    tick(window);
+
+    // Somebody types a number for frame A, in the dialog, in widgets of a host and in the tree.
+    child<QPushButton>(window, "pushBtnFrameAB").click();
+    auto &dialogTabs = child<QTabWidget>(window, "tabFrames");
+    auto *clocks = child<QtOrvSpinBox>(window, "spBoxExpClocks").spinBox();
+    clocks->setFocus();
+    clocks->findChild<QLineEdit *>()->setText("11");
+    QSignalSpy dialogSwitches(&dialogTabs, &QTabWidget::currentChanged);
+
+    QWidget host;
+    auto *tabs = new QTabWidget(&host);
+    auto *spinBox = new QtOrvSpinBox(&host);
+    for (int i = 0; i < 2; ++i)
+        tabs->addTab(new QWidget, QString());
+    OrvGui::OrvCamConfigMapper mapper;
+    mapper.mapEnumParam(simulation.array.GetEnum("FrameAB_Selector"), tabs);
+    mapper.mapIntParam(simulation.array.GetInt("Frame_ExposureLines"), spinBox);
+    host.show();
+    QSignalSpy switches(tabs, &QTabWidget::currentChanged);
+    QLineEdit *typed = spinBox->spinBox()->findChild<QLineEdit *>();
+    typed->setText("123");
+
+    OrvGui::OrvGenParamTreeView tree(&simulation.array, nullptr);
+    tree.show();
+    QAbstractItemModel *model = tree.treeView()->model();
+    const QModelIndexList found =
+        model->match(model->index(0, 0), Qt::DisplayRole, QString("Frame Exposure Lines"), 1,
+                     Qt::MatchExactly | Qt::MatchRecursive);
+    QCOMPARE(found.size(), 1);
+    const QModelIndex cell = found.first().siblingAtColumn(1);
+    tree.treeView()->scrollTo(cell);
+    tree.treeView()->edit(cell);
+    auto *editor = tree.treeView()->viewport()->findChild<QSpinBox *>();
+    QVERIFY(editor);
+    editor->findChild<QLineEdit *>()->setText("45");
+    QSignalSpy dataChanges(model, &QAbstractItemModel::dataChanged);
+
+    simulation.set("FrameMode", "DualVideo");
+    dataChanges.clear();
+    dialogSwitches.clear();
+    const QString inDialog = clocks->text();
+    int moves = 0;
+    class Sink : public OrvGenParam::ParamEventSink
+    {
+    public:
+        explicit Sink(int &count) : m_count(count) {}
+        void OnParameterUpdate(OrvGenParam::Param *) override { ++m_count; }
+
+    private:
+        int &m_count;
+    } sink(moves);
+    simulation.array.GetEnum("FrameAB_Selector")->RegisterEventSink(&sink);
+    tick(window);
+    QCOMPARE(moves, 2); // there and back
+    QCOMPARE(switches.count(), 0);
+    QCOMPARE(dialogSwitches.count(), 0);
+    QCOMPARE(clocks->text(), inDialog);
+    QCOMPARE(dataChanges.count(), 0);
+    QCOMPARE(typed->text(), QString("123"));
+    QCOMPARE(editor->cleanText(), QString("45"));
+
+    // Nothing has been written; what is entered now goes to frame A.
+    QTest::keyClick(spinBox->spinBox(), Qt::Key_Return);
+    QCOMPARE(simulation.array.GetIntegerValue("Frame_ExposureLines"), int64_t(123));
+    simulation.select("FrameB");
+    QCOMPARE(simulation.array.GetIntegerValue("Frame_ExposureLines"), int64_t(500));
+    QCOMPARE(tabs->currentIndex(), 1); // others are heard again
+    QCOMPARE(dialogTabs.currentIndex(), 1);
+}
+
+void TestOrvCamConfigMainWindow::lockedSelector()
+{
+    OrvGenApi::MemoryNodeMap map;
+    auto &selector = map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}}, 1);
+    map.addInteger("CurrentFrameTime", 8000);
+    selector.setAccessMode(GenApi::RO);
+    NodeMapDevice device(map);
+    const OrvCamConfig window(&device);
+    QCOMPARE(columnOf(window, 'A'), QString("   ")); // not the values of frame B
+    QCOMPARE(columnOf(window, 'B'), QString(" 125.00 8000 "));
+}
+
+void TestOrvCamConfigMainWindow::cameraWithOneFrame()
+{
+    OrvGenApi::MemoryNodeMap map;
+    auto &frameTime = map.addInteger("CurrentFrameTime", 3);
+    auto &exposure = map.addInteger("CurrentExposureTime", 12);
+    map.addInteger("Width", 640);
+    NodeMapDevice device(map);
+    OrvCamConfig window(&device);
+    window.show();
+    QCOMPARE(columnOf(window, 'A'), QString("640x 333333.33 3 12"));
+    QCOMPARE(statusOf(window), QString("Unknown"));
+    QVERIFY(!child<QLineEdit>(window, "lineEditFpsFrameB").isVisible());
+    QVERIFY(!child<QLabel>(window, "lblFrameB").isVisible());
+    QVERIFY(!action(window, "actionFrame_A_B").isVisible());
+    QCOMPARE(textOf(window, "lineEditTemperature"), QString());
+    // One wide column.
+    QCOMPARE(child<QLineEdit>(window, "lineEditFpsFrameA").width(),
+             child<QLineEdit>(window, "lineEditTemperature").width());
+
+    frameTime.change(0);
+    exposure.setAccessMode(GenApi::WO);
+    tick(window);
+    QCOMPARE(columnOf(window, 'A'), QString("640x 0.00 0 "));
+
+    Simulation other;
+    window.SetDevice(&other.device);
+    QVERIFY(child<QLineEdit>(window, "lineEditFpsFrameB").isVisible());
+    QVERIFY(action(window, "actionFrame_A_B").isVisible());
+    QVERIFY(child<QLineEdit>(window, "lineEditFpsFrameA").width() <
+            child<QLineEdit>(window, "lineEditTemperature").width());
+    QCOMPARE(columnOf(window, 'A'), selectedColumn(other.array));
+    window.SetDevice(nullptr);
+}
+
+void TestOrvCamConfigMainWindow::information()
+{
+    OrvGenApi::MemoryNodeMap map;
+    map.addString("DeviceModelName", "<b>Ünit</b>");
+    map.addString("SensorType", "CMOS").setAccessMode(GenApi::NI);
+    map.addInteger("FirmwareVersion", 0x1234);
+    map.addString("FpgaID", "not a number");
+    NodeMapDevice device(map);
+    OrvCamConfig window(&device);
+    action(window, "actionAbout").trigger();
+    auto &about = child<QDialog>(window, "OrvCamConfigAboutDialog");
+    QVERIFY(about.isVisible());
+    const auto text = [&](const char *label) { return child<QLabel>(about, label).text(); };
+    QCOMPARE(text("lblAppName"), QString("OrvCameraConfiguration"));
+    QCOMPARE(text("lblAppVersion"), QString("1.3.0 (build 2230) "));
+    QVERIFY(text("lblCopyright").contains(QString::fromUtf8("\u00a9 2016 ")));
+    QCOMPARE(text("lblDeviceModelName"), QString::fromUtf8("<b>Ünit</b>"));
+    QCOMPARE(child<QLabel>(about, "lblDeviceModelName").textFormat(), Qt::PlainText);
+    QCOMPARE(text("lblFirmwareVersion"), QString("4660"));
+    QCOMPARE(text("lblSensorType"), QString("N/A"));
+    QCOMPARE(text("lblFpgaID"), QString("N/A"));
+
+    action(window, "actionDisconnect").trigger();
+    int values = 0;
+    for (const QLabel *label : about.findChildren<QLabel *>()) {
+        const QGridLayout *grid = qobject_cast<QGridLayout *>(label->parentWidget()->layout());
+        if (!grid || label->objectName().endsWith("Caption"))
+            continue;
+        ++values;
+        QCOMPARE(label->text(), QString("N/A"));
+    }
+    QCOMPARE(values, 18);
+    child<QPushButton>(about, "okButton").click();
+    QVERIFY(!about.isVisible());
+}
+
+void TestOrvCamConfigMainWindow::buttonsAndView()
+{
+    Simulation simulation;
+    OrvCamConfig window(&simulation.device);
+    window.show();
+    const auto dialogs = window.findChildren<OrvGui::OrvCamConfigDialog *>();
+    QCOMPARE(dialogs.size(), 6);
+    const char *const names[][2] = {
+        {"pushBtnFrameAB", "actionFrame_A_B"}, {"pushBtnTrigger", "actionTrigger"},
+        {"pushBtnPulse", "actionPulse"},       {"pushBtnStrobe", "actionStrobe"},
+        {"pushBtnDataOut", "actionData_Out"},  {"pushBtnColor", "actionColor"}};
+    const char *const classes[] = {
+        "OrvGui::OrvCamConfigFrameABDialog", "OrvGui::OrvCamConfigTriggerDialog",
+        "OrvGui::OrvCamConfigPulseDialog",   "OrvGui::OrvCamConfigStrobeDialog",
+        "OrvGui::OrvCamConfigOutputDialog",  "OrvGui::OrvCamConfigColorDialog"};
+    for (int i = 0; i < 6; ++i) {
+        auto &button = child<QPushButton>(window, names[i][0]);
+        QAction &view = action(window, names[i][1]);
+        QVERIFY(view.isChecked() && button.isVisible() && !button.icon().isNull());
+        button.click();
+        OrvGui::OrvCamConfigDialog *dialog = nullptr;
+        for (OrvGui::OrvCamConfigDialog *candidate : dialogs) {
+            if (candidate->isVisible())
+                dialog = candidate;
+        }
+        QVERIFY(dialog);
+        QCOMPARE(dialog->metaObject()->className(), classes[i]);
+        QSignalSpy closing(dialog, &OrvGui::OrvCamConfigDialog::closing);
+        dialog->close();
+        QVERIFY(!button.isChecked() && !dialog->isVisible());
+        QCOMPARE(closing.count(), 1);
+        button.click();
+        QVERIFY(dialog->isVisible());
+        button.click();
+        QVERIFY(!dialog->isVisible());
+        button.click();
+        view.trigger();
+        QVERIFY(!dialog->isVisible() && !button.isChecked() && !button.isVisible());
+        view.trigger();
+        QVERIFY(button.isVisible() && !dialog->isVisible());
+        button.click();
+    }
+    // With the window all its dialogs are closed, and can be opened again.
+    action(window, "actionQuit").trigger();
+    QVERIFY(!window.isVisible());
+    for (OrvGui::OrvCamConfigDialog *dialog : dialogs)
+        QVERIFY(!dialog->isVisible());
+    QVERIFY(!child<QPushButton>(window, "pushBtnPulse").isChecked());
+}
+
+void TestOrvCamConfigMainWindow::ownership_data()
+{
+    // What happens, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx the host
+    // sets a device of its own, or none; d disconnects; u0, u1 unplug and p0, p1 plug in a camera.
+    QTest::addColumn<QString>("story");
+    QTest::addColumn<QString>("status");
+    QTest::newRow("nothing") << ""
+                             << "Disconnected";
+    QTest::newRow("close") << "c0"
+                           << "First";
+    QTest::newRow("disconnect") << "c0 d"
+                                << "Disconnected";
+    QTest::newRow("same again") << "c0 c0"
+                                << "First";
+    QTest::newRow("another") << "c0 c1"
+                             << "Second";
+    QTest::newRow("cancelled") << "c0 cx"
+                               << "Disconnected";
+    QTest::newRow("unplug, close") << "c0 u0"
+                                   << "Disconnected";
+    QTest::newRow("unplug and back") << "c0 u0 p0"
+                                     << "First";
+    QTest::newRow("unplug, another, first back") << "c0 u0 c1 p0"
+                                                 << "Second";
+    QTest::newRow("unplug, disconnect, back") << "c0 u0 d p0"
+                                              << "Disconnected";
+    QTest::newRow("unplug, host, back") << "c0 u0 h1 p0"
+                                        << "Second";
+    QTest::newRow("host") << "h0"
+                          << "First";
+    QTest::newRow("host's after own") << "c0 h1"
+                                      << "Second";
+    QTest::newRow("own after host's") << "h0 c1"
+                                      << "Second";
+    QTest::newRow("host's, unplugged, back") << "h0 u0 p0"
+                                             << "First";
+    QTest::newRow("host's, unplugged, taken away") << "h0 u0 hx p0"
+                                                   << "Disconnected";
+    QTest::newRow("host's twice") << "h0 h0 u0 p0 u0"
+                                  << "Disconnected";
+    QTest::newRow("host's disconnected") << "h0 d"
+                                         << "Disconnected";
+    QTest::newRow("host's unplugged before") << "h0 hx u0 h0 p0"
+                                             << "First";
+}
+
+void TestOrvCamConfigMainWindow::ownership()
+{
+    QFETCH(QString, story);
+    QFETCH(QString, status);
+    Story told;
+    for (const QString &word : story.split(' ', Qt::SkipEmptyParts)) {
+        QVERIFY2(told.perform(word), qPrintable(word));
+        told.check();
+        if (QTest::currentTestFailed())
+            return;
+    }
+    QCOMPARE(statusOf(*told.window), status);
+    told.end();
+}
+
+void TestOrvCamConfigMainWindow::ownershipInAnyOrder()
+{
+    const QStringList words = {"c0", "c1", "cx", "h0", "h1", "hx", "d",
+                               "u0", "u1", "p0", "p1", "r0", "r1"};
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        std::mt19937 random(seed);
+        Story told;
+        QStringList past;
+        for (int i = 0; i < 40; ++i) {
+            const QString word = words[int(random() % unsigned(words.size()))];
+            if (!told.perform(word))
+                continue;
+            past << word;
+            told.check();
+            if (QTest::currentTestFailed()) {
+                qWarning("seed %u: %s", seed, qPrintable(past.join(' ')));
+                return;
+            }
+        }
+        told.end();
+    }
+}
+
+void TestOrvCamConfigMainWindow::pickedInTheConstructor()
+{
+    World world;
+    theWorld = &world;
+    {
+        ModalVisitor user({picking(1)});
+        OrvCamConfig window(nullptr);
+        QVERIFY(user.isDone());
+        QCOMPARE(statusOf(window), QString("Second"));
+        QCOMPARE(CountedDevice::counts(world.second).open, 1);
+        QCOMPARE(world.systems, 1);
+        for (QDialog *dialog : window.findChildren<OrvGui::OrvCamConfigDialog *>())
+            QVERIFY(dialog->isEnabled());
+    }
+    QCOMPARE(CountedDevice::counts(world.second).open, 0);
+    QCOMPARE(world.systems, 0);
+
+    theWorld = nullptr; // there is no camera system
+    const OrvCamConfig window(nullptr);
+    QCOMPARE(statusOf(window), QString("Disconnected"));
+    for (QDialog *dialog : window.findChildren<OrvGui::OrvCamConfigDialog *>())
+        QVERIFY(!dialog->isEnabled());
+}
+
+void TestOrvCamConfigMainWindow::cameraThatCannotBeOpened()
+{
+    Story told;
+    told.world.first.isPlugged = false;
+    ModalVisitor user({picking(0)});
+    action(*told.window, "actionConnect").trigger();
+    QCOMPARE(statusOf(*told.window), QString("Disconnected"));
+    // The user is told, but nobody is kept waiting.
+    auto *box = told.window->findChild<QMessageBox *>();
+    QVERIFY(box && box->isVisible() && box->text().contains("First"));
+    box->button(QMessageBox::Ok)->click();
+    told.end();
+}
+
+void TestOrvCamConfigMainWindow::destroyedWhilePicking()
+{
+    Story told;
+    QVERIFY(told.perform("c0"));
+    ModalVisitor user({[&](QDialog &) { told.window.reset(); }});
+    action(*told.window, "actionConnect").trigger();
+    QVERIFY(!told.window && user.isDone());
+    QCOMPARE(CountedDevice::counts(told.world.first).open, 0);
+    QCOMPARE(told.world.systems, 0);
+}
+
+void TestOrvCamConfigMainWindow::twoWindowsOnOneCamera()
+{
+    Story told;
+    QVERIFY(told.perform("h0"));
+    auto other = std::make_unique<OrvCamConfig>(told.hosts[0]);
+    QCOMPARE(CountedDevice::counts(told.world.first).events, 4);
+    const auto both = [&](const char *text) {
+        tick(*told.window);
+        tick(*other);
+        return statusOf(*told.window) == text && statusOf(*other) == text;
+    };
+    QVERIFY(both("First"));
+    told.world.first.isPlugged = false;
+    QTRY_VERIFY(both("Disconnected"));
+    told.world.first.isPlugged = true;
+    QTRY_VERIFY(both("First"));
+    other.reset();
+    QCOMPARE(CountedDevice::counts(told.world.first).events, 2);
+    told.check();
+    told.end();
+}
+
+void TestOrvCamConfigMainWindow::showFunctions_data()
+{
+    QTest::addColumn<Function>("function");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char *name, Function function, const char *shown) {
+        QTest::newRow(name) << function << QString("OrvGui::%1").arg(shown);
+    };
+    row("CamConfig", ShowCamConfigDialog, "OrvCamConfig");
+    row("Color", ShowColorDialog, "OrvCamConfigColorDialog");
+    row("FrameAB", ShowFrameABDialog, "OrvCamConfigColorDialog");
+    row("Output", ShowOutputDialog, "OrvCamConfigOutputDialog");
+    row("Pulse", ShowPulseDialog, "OrvCamConfigPulseDialog");
+    row("Strobe", ShowStrobeDialog, "OrvCamConfigStrobeDialog");
+    row("Trigger", ShowTriggerDialog, "OrvCamConfigTriggerDialog");
+}
+
+void TestOrvCamConfigMainWindow::showFunctions()
+{
+    QFETCH(Function, function);
+    QFETCH(QString, shown);
+    const QWidgetList before = QApplication::topLevelWidgets();
+    World world;
+    theWorld = &world;
+    Simulation simulation;
+    for (OrvCam::Device *device : {static_cast<OrvCam::Device *>(&simulation.device),
+                                   static_cast<OrvCam::Device *>(nullptr)}) {
+        const ShownWindows windows;
+        ModalVisitor nobody({});
+        QElapsedTimer timer;
+        timer.start();
+        function(device, 0);
+        QVERIFY(timer.elapsed() < 1000);
+        QVERIFY(nobody.isDone());
+        QCOMPARE(windows.names, QStringList(shown));
+        QCOMPARE(QApplication::topLevelWidgets(), before);
+    }
+    QCOMPARE(world.systems, 0);
+    // The camera has nobody left to tell, and can go.
+    simulation.set("TriggerMode", "On");
+    simulation.set("FrameMode", "FrameA");
+    const std::unique_ptr<CountedDevice, Releaser> counted(
+        CountedDevice::open(world.first, world.firstInfo));
+    function(counted.get(), 0);
+    QCOMPARE(CountedDevice::counts(world.first).events, 0);
+    theWorld = nullptr;
+}
+
+void TestOrvCamConfigMainWindow::showFunctionWithParent()
+{
+    class Parent : public QWidget
+    {
+    public:
+        int added = 0;
+
+    protected:
+        void childEvent(QChildEvent *event) override
+        {
+            added += event->added() ? 1 : 0;
+            QWidget::childEvent(event);
+        }
+    } parent;
+    ShowTriggerDialog(nullptr, static_cast<unsigned long>(parent.winId()));
+    QCOMPARE(parent.added, 1);
+    QVERIFY(parent.children().isEmpty());
+    ShowTriggerDialog(nullptr, 0x7ffffff0); // of nobody
+    QCOMPARE(parent.added, 1);
+}
+
+QTEST_MAIN(TestOrvCamConfigMainWindow)
+#include "tst_orvcamconfig_mainwindow.moc"
