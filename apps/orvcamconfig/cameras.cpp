@@ -12,12 +12,12 @@
 
 namespace {
 
-const quint32 DiscoveryTime = 200; // ms on each interface
-
-QString tr(const char *text)
+struct Cameras
 {
-    return QCoreApplication::translate("Cameras", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Cameras)
+};
+
+const quint32 DiscoveryTime = 200; // ms on each interface
 
 std::vector<OrvCam::Interface *> foundInterfaces(OrvCam::System &system)
 {
@@ -112,11 +112,11 @@ OrvCam::DeviceInfo *findCamera(OrvCam::System &system, const QString &name, QStr
         }
     }
     if (found.isEmpty())
-        *error = tr("No camera was found.");
+        *error = Cameras::tr("No camera was found.");
     else if (name.isEmpty())
-        *error = tr("None of the cameras found can be used: %1.").arg(found.join(", "));
+        *error = Cameras::tr("None of the cameras found can be used: %1.").arg(found.join(", "));
     else
-        *error = tr("There is no camera '%1'. Found: %2.").arg(name, found.join(", "));
+        *error = Cameras::tr("There is no camera '%1'. Found: %2.").arg(name, found.join(", "));
     return nullptr;
 }
 

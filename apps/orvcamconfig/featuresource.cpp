@@ -10,11 +10,6 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FeatureSource", text);
-}
-
 /// A description without a camera.
 class DescriptionSource : public FeatureSource
 {
@@ -57,19 +52,19 @@ QString reason(int32_t code)
 {
     switch (code) {
     case OrvCam::ErrorBusy:
-        return tr("somebody else has it open");
+        return FeatureSource::tr("somebody else has it open");
     case OrvCam::ErrorGone:
-        return tr("it does not answer");
+        return FeatureSource::tr("it does not answer");
     case OrvCam::ErrorTimeout:
-        return tr("it did not answer in time");
+        return FeatureSource::tr("it did not answer in time");
     case OrvCam::ErrorWrongSubnet:
-        return tr("its address does not fit the network adapter's subnet");
+        return FeatureSource::tr("its address does not fit the network adapter's subnet");
     case OrvCam::ErrorBadDescription:
-        return tr("its description cannot be understood");
+        return FeatureSource::tr("its description cannot be understood");
     case OrvCam::ErrorAccessDenied:
-        return tr("it refuses access");
+        return FeatureSource::tr("it refuses access");
     default:
-        return tr("error code %1").arg(code);
+        return FeatureSource::tr("error code %1").arg(code);
     }
 }
 
@@ -80,7 +75,7 @@ Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
     int32_t code = OrvCam::Success;
     Released<OrvCam::Device> device(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessControl));
     if (!device)
-        *error = tr("The camera '%1' cannot be opened: %2.")
+        *error = FeatureSource::tr("The camera '%1' cannot be opened: %2.")
                      .arg(QString::fromUtf8(camera.GetId()), reason(code));
     return device;
 }

@@ -6,6 +6,7 @@
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
@@ -16,6 +17,8 @@ Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
 /// The features that the program shows, and what keeps them alive.
 class FeatureSource
 {
+    Q_DECLARE_TR_FUNCTIONS(FeatureSource)
+
 public:
     virtual ~FeatureSource() = default;
 

@@ -5,6 +5,7 @@
 #include "featuresource.h"
 #include "options.h"
 #include "released.h"
+#include "translation.h"
 
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
@@ -207,6 +208,8 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("orvcamconfig"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/res/orvicon.ico")));
     QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
+
+    translate(application);
 
     QString error;
     const Options options = Options::fromArguments(QApplication::arguments(), &error);

@@ -2,16 +2,6 @@
 #include "options.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Options", text);
-}
-
-} // namespace
 
 Options Options::fromArguments(const QStringList &arguments, QString *error)
 {

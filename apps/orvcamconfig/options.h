@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 /// What the user asked for on the command line.
 struct Options
 {
+    Q_DECLARE_TR_FUNCTIONS(Options)
+
+public:
     enum class Window { Tree, Picker, Main };
 
     Window window = Window::Tree; ///< the first to be shown

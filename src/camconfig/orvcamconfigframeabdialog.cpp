@@ -17,6 +17,7 @@
 
 #include <QAbstractSlider>
 #include <QButtonGroup>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -132,6 +133,8 @@ class OrvCamConfigFrameABDialogPrivate : public OrvCamConfigDialogPrivate,
                                          public IOrvCamConfigIntConverter,
                                          public OrvGenParam::ParamEventSink
 {
+    Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCamConfigFrameABDialog)
+
 public:
     long ToControl(long value, Int *param) override;
     long ToDevice(long value, Int *param) override;
@@ -282,7 +285,6 @@ void OrvCamConfigFrameABDialogPrivate::buildForm()
 
 void OrvCamConfigFrameABDialogPrivate::setCaptions()
 {
-    const auto tr = [](const char *text) { return OrvCamConfigFrameABDialog::tr(text); };
     ui.spBoxDualVideo->setLeftLabelText(tr("Dual Video\nLine Time [pclk]:"));
     ui.spBoxExpTime->setLeftLabelText(tr("Exposure Time ") + microsecondsCaption());
     ui.spBoxFixedFramePeriodValue->setLeftLabelText(microsecondsCaption());

@@ -1,0 +1,398 @@
+// SPDX-License-Identifier: MIT
+#include "textcollector.h"
+#include "translationfile.h"
+
+#include <GenApi/GenApi.h>
+#include <OrvCam.h>
+#include <OrvGenParam.h>
+#include <orvcamconfig.h>
+#include <orvcamconfigcolordialog.h>
+#include <orvcamconfigframeabdialog.h>
+#include <orvcamconfigoutputdialog.h>
+#include <orvcamconfigpulsedialog.h>
+#include <orvcamconfigstrobedialog.h>
+#include <orvcamconfigtriggerdialog.h>
+#include <orvcameraselectordialog.h>
+#include <orvgenparamtreeview.h>
+#include <setipdialog.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace {
+
+const QChar Open(0xab);  // «
+const QChar Close(0xbb); // »
+
+/// The words that no translation has: a boolean value, as Qt writes it in a cell, and the micro
+/// sign.
+const QStringList names = {QStringLiteral("true"), QStringLiteral("false"), QString(QChar(0x3bc))};
+
+QStringList translationFiles()
+{
+    QStringList files;
+    const QDir folder(ORV_TRANSLATIONS);
+    for (const QString &name : folder.entryList({"*.ts"}))
+        files << folder.filePath(name);
+    return files;
+}
+
+/// What must be the same in a text and its translation, in order of its name.
+QStringList fixedParts(const QString &text)
+{
+    static const QRegularExpression part("%L?\\d|</?\\w+>|&(?=\\w)|\\n|--\\w+");
+    QStringList parts;
+    for (auto i = part.globalMatch(text); i.hasNext();)
+        parts << i.next().captured();
+    parts.sort();
+    return parts;
+}
+
+/// Encloses each translated text in marks, but for what stands in the place of "%1". A text that
+/// the translation files do not have under its class stays as it is.
+class Marker : public QTranslator
+{
+public:
+    Marker()
+    {
+        for (const TranslationFile::Message &message :
+             TranslationFile(translationFiles().first()).messages)
+            m_known.insert({message.context, message.source});
+    }
+
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        const bool isOfQt = context[0] == 'Q' && !QByteArray(context).startsWith("QtOrv");
+        if (!isOfQt && !m_known.contains({QString::fromUtf8(context), text}))
+            return QString();
+        static const QRegularExpression place("(%L?\\d)");
+        QString marked = Open + text + Close;
+        return marked.replace(place, QString(Close) + "\\1" + Open);
+    }
+
+private:
+    QSet<QPair<QString, QString>> m_known;
+};
+
+/// What the camera and the system say of themselves.
+class CameraTexts
+{
+public:
+    void add(const QString &text)
+    {
+        const QString plain =
+            Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+        m_texts.insert(plain.simplified());
+    }
+    void add(const char *text) { add(QString::fromUtf8(text)); }
+
+    void add(const GenApi::INodeMap &map)
+    {
+        GenApi::NodeList_t nodes;
+        map.GetNodes(nodes);
+        for (GenApi::INode *node : nodes) {
+            add(node->GetName().c_str());
+            add(node->GetDisplayName().c_str());
+            add(node->GetDescription().c_str());
+            add(node->GetToolTip().c_str());
+            auto *string = dynamic_cast<GenApi::IString *>(node);
+            const GenApi::EAccessMode access = node->GetAccessMode();
+            if (string && (access == GenApi::RW || access == GenApi::RO))
+                add(string->GetValue().c_str());
+            if (auto *integer = dynamic_cast<GenApi::IInteger *>(node))
+                add(integer->GetUnit().c_str());
+            if (auto *number = dynamic_cast<GenApi::IFloat *>(node))
+                add(number->GetUnit().c_str());
+            if (auto *entry = dynamic_cast<GenApi::IEnumEntry *>(node))
+                add(entry->GetSymbolic().c_str());
+        }
+    }
+
+    bool contains(const QString &text) const { return m_texts.contains(text.simplified()); }
+
+private:
+    QSet<QString> m_texts;
+};
+
+} // namespace
+
+/// That the translations are complete, and that no text gets past them.
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void filesAreUpToDate();
+    void filesAreFinished();
+    void libraryHasTranslations();
+    void programSpeaksTheLanguage_data();
+    void programSpeaksTheLanguage();
+    void everyTextIsTranslated();
+    void cleanupTestCase();
+
+private:
+    OrvCam::Device *openCamera();
+    QStringList strangers(const QStringList &texts) const;
+    void check(const QWidget &window);
+    template<typename Dialog>
+    void checkDialog();
+
+    OrvCam::System *m_system = nullptr;
+    OrvCam::Device *m_device = nullptr;
+    CameraTexts m_cameraTexts;
+    QStringList m_strangers;
+    int m_checked = 0;
+};
+
+void TestTranslations::initTestCase()
+{
+    qputenv("ORVCAM_SIMULATION", "1");
+    m_system = OrvCam_GetSystem();
+    QVERIFY(m_system);
+    m_device = openCamera();
+    QVERIFY(m_device);
+    int32_t code = OrvCam::Success;
+    m_cameraTexts.add(*m_device->GetParamArray(&code)->GetNodeMap());
+}
+
+void TestTranslations::cleanupTestCase()
+{
+    if (m_device)
+        m_device->Release();
+    if (m_system)
+        m_system->Release();
+}
+
+/// The first camera that can be opened; notes the texts of all on the way.
+OrvCam::Device *TestTranslations::openCamera()
+{
+    OrvCam::Device *device = nullptr;
+    OrvCam::InterfaceList *interfaces = m_system->GetInterfaceSet(OrvCam::InterfaceAll);
+    for (auto *i = interfaces->GetFirst(); i; i = interfaces->GetNext()) {
+        m_cameraTexts.add(i->GetDescription());
+        m_cameraTexts.add(i->GetVersionText());
+        i->RefreshDevices(nullptr, 100);
+        OrvCam::DeviceInfoList *cameras = i->GetDeviceInfoSet();
+        if (!cameras)
+            continue;
+        for (auto *info = cameras->GetFirst(); info; info = cameras->GetNext()) {
+            for (const char *text :
+                 {info->GetDisplayName(), info->GetVendor(), info->GetModel(), info->GetSerial(),
+                  info->GetVersionText(), info->GetUserName()})
+                m_cameraTexts.add(text);
+            int32_t code = OrvCam::Success;
+            if (!device && info->GetAccessState() == OrvCam::AccessReadWrite)
+                device = OrvCam_CreateDevice(info, &code, OrvCam::AccessControl);
+        }
+        cameras->Release();
+    }
+    interfaces->Release();
+    return device;
+}
+
+void TestTranslations::filesAreUpToDate()
+{
+    QTemporaryDir folder;
+    for (const QString &file : translationFiles())
+        QVERIFY(QFile::copy(file, folder.filePath(QFileInfo(file).fileName())));
+    QProcess update;
+    update.start(ORV_TRANSLATIONS "/update.sh", {folder.path()});
+    QVERIFY(update.waitForFinished(60000));
+    QVERIFY2(update.exitCode() == 0, update.readAllStandardError());
+
+    for (const QString &name : translationFiles()) {
+        QFile committed(name);
+        QFile updated(folder.filePath(QFileInfo(name).fileName()));
+        QVERIFY(committed.open(QIODevice::ReadOnly) && updated.open(QIODevice::ReadOnly));
+        QVERIFY2(committed.readAll() == updated.readAll(),
+                 qPrintable(name + " is out of date: run translations/update.sh"));
+    }
+}
+
+void TestTranslations::filesAreFinished()
+{
+    QCOMPARE(translationFiles().size(), 2);
+    for (const QString &file : translationFiles()) {
+        const TranslationFile translations(file);
+        QVERIFY(!translations.messages.isEmpty());
+        for (const TranslationFile::Message &message : translations.messages) {
+            const QString where = file + ": " + message.context + ": " + message.source;
+            QVERIFY2(message.isFinished && !message.translation.isEmpty(), qPrintable(where));
+            QVERIFY2(fixedParts(message.source) == fixedParts(message.translation),
+                     qPrintable(where));
+        }
+    }
+}
+
+void TestTranslations::libraryHasTranslations()
+{
+    for (const QString &file : translationFiles()) {
+        QTranslator translator;
+        QVERIFY(translator.load(":/translations/" + QFileInfo(file).baseName() + ".qm"));
+        for (const TranslationFile::Message &message : TranslationFile(file).messages)
+            QCOMPARE(translator.translate(message.context.toUtf8(), message.source.toUtf8()),
+                     message.translation);
+    }
+}
+
+void TestTranslations::programSpeaksTheLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("text");
+
+    const QString english = "The level of detail: basic, expert or guru.";
+    const QString german = "Der Umfang: basic, expert oder guru.";
+    QTest::newRow("none") << ""
+                          << "C.UTF-8" << english;
+    QTest::newRow("German") << ""
+                            << "de_DE.UTF-8" << german;
+    QTest::newRow("Austrian") << ""
+                              << "de_AT.UTF-8" << german;
+    QTest::newRow("Japanese") << ""
+                              << "ja_JP.UTF-8"
+                              << QString::fromUtf8("表示レベル: basic、expert または guru。");
+    QTest::newRow("one without a translation") << ""
+                                               << "fr_FR.UTF-8" << english;
+    QTest::newRow("German as the second choice") << "fr:de"
+                                                 << "fr_FR.UTF-8" << german;
+    QTest::newRow("German after English") << "en:de"
+                                          << "en_GB.UTF-8" << english;
+}
+
+void TestTranslations::programSpeaksTheLanguage()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, locale);
+    QFETCH(QString, text);
+
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LANGUAGE", language);
+    environment.insert("LC_ALL", locale);
+    program.setProcessEnvironment(environment);
+    program.start(ORV_PROGRAM, {"--help"});
+    QVERIFY(program.waitForFinished(60000));
+    QString help = QString::fromUtf8(program.readAllStandardOutput());
+    QVERIFY2(help.remove(QRegularExpression("\\s")).contains(text.remove(' ')), qPrintable(help));
+}
+
+/// Those of the texts that are neither translated nor the camera's.
+QStringList TestTranslations::strangers(const QStringList &texts) const
+{
+    static const QRegularExpression marked(QString("%1[^%1%2]*%2").arg(Open).arg(Close));
+    static const QRegularExpression letter("\\pL");
+    static const QRegularExpression number("^([-+]?[0-9.]+(e[-+][0-9]+)?)?");
+    static const QRegularExpression hexadecimalOrSize(
+        "^(0x)?[0-9A-Fa-f]+(:[0-9A-F]{2})*$|^[0-9]+x[0-9]+$");
+    const auto isKnown = [&](QString text) {
+        return text.contains(hexadecimalOrSize) || m_cameraTexts.contains(text) ||
+               names.contains(text) || !text.remove(number).contains(letter) ||
+               m_cameraTexts.contains(text);
+    };
+    QStringList result;
+    for (const QString &text : texts) {
+        for (const QString &part : text.mid(text.indexOf('|') + 1).split(marked)) {
+            bool isFine = isKnown(part.trimmed());
+            if (!isFine) { // a list
+                const QStringList words = part.split(QRegularExpression("[,\\n]"));
+                isFine = std::all_of(words.begin(), words.end(),
+                                     [&](const QString &word) { return isKnown(word.trimmed()); });
+            }
+            if (!isFine)
+                result << text;
+        }
+    }
+    return result;
+}
+
+void TestTranslations::check(const QWidget &window)
+{
+    const QStringList texts = textsOf(window);
+    m_checked += texts.size();
+    m_strangers << strangers(texts);
+}
+
+/// Also with each of its toggle buttons pressed, which may change its text.
+template<typename Dialog>
+void TestTranslations::checkDialog()
+{
+    Dialog dialog(m_device, nullptr);
+    dialog.show();
+    check(dialog);
+    for (QPushButton *button : dialog.template findChildren<QPushButton *>()) {
+        if (button->isCheckable())
+            button->click();
+    }
+    check(dialog);
+}
+
+void TestTranslations::everyTextIsTranslated()
+{
+    Marker marker;
+    QVERIFY(QCoreApplication::installTranslator(&marker));
+    int32_t code = OrvCam::Success;
+    QCOMPARE(strangers(textsOf(QLabel("Value <b>of</b> what"))).size(), 1);
+
+    {
+        OrvGui::OrvGenParamTreeView view(m_device->GetParamArray(&code), nullptr);
+        view.setVisibility(OrvGui::Guru);
+        view.show();
+        QTreeView &tree = *view.treeView();
+        tree.expandAll();
+        for (QModelIndex i = tree.model()->index(0, 0); i.isValid(); i = tree.indexBelow(i)) {
+            tree.setCurrentIndex(i);
+            tree.openPersistentEditor(i.sibling(i.row(), 1));
+            check(*view.findChild<QTextEdit *>());
+        }
+        check(view);
+    }
+    {
+        OrvGui::OrvCameraSelectorDialog dialog(m_system);
+        dialog.show();
+        auto *tree = dialog.findChild<QTreeView *>();
+        tree->expandAll();
+        for (QModelIndex i = tree->model()->index(0, 0); i.isValid(); i = tree->indexBelow(i)) {
+            tree->setCurrentIndex(i);
+            check(dialog);
+        }
+    }
+    {
+        SetIpDialog dialog;
+        dialog.setNicIPAddress(0xc0a80001);
+        dialog.setNicNetmask(0xffffff00);
+        for (const unsigned int address : {0xc0a80001u, 0xc0a80002u, 0x0a000001u}) {
+            for (const unsigned int mask : {0xffffff00u, 0xffff0000u}) {
+                dialog.setIPAddress(address);
+                dialog.setNetmask(mask);
+                check(dialog);
+            }
+        }
+    }
+    {
+        OrvGui::OrvCamConfig window(m_device);
+        window.show();
+        check(window); // the information dialog is its child
+        window.SetDevice(nullptr);
+        check(window);
+    }
+    checkDialog<OrvGui::OrvCamConfigFrameABDialog>();
+    checkDialog<OrvGui::OrvCamConfigTriggerDialog>();
+    checkDialog<OrvGui::OrvCamConfigPulseDialog>();
+    checkDialog<OrvGui::OrvCamConfigStrobeDialog>();
+    checkDialog<OrvGui::OrvCamConfigOutputDialog>();
+    checkDialog<OrvGui::OrvCamConfigColorDialog>();
+    qInfo("%d texts", m_checked);
+    m_strangers.removeDuplicates();
+    for (const QString &text : m_strangers)
+        qWarning("not translated: %s", qPrintable(text));
+    QVERIFY(m_strangers.isEmpty());
+}
+
+QTEST_MAIN(TestTranslations)
+
+#include "tst_translations.moc"

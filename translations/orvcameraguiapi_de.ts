@@ -1,0 +1,1351 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CameraWindows</name>
+    <message>
+        <source>Feature Tree</source>
+        <translation>Parameterbaum</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Parameter</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras</name>
+    <message>
+        <source>No camera was found.</source>
+        <translation>Es wurde keine Kamera gefunden.</translation>
+    </message>
+    <message>
+        <source>None of the cameras found can be used: %1.</source>
+        <translation>Keine der gefundenen Kameras ist verwendbar: %1.</translation>
+    </message>
+    <message>
+        <source>There is no camera &apos;%1&apos;. Found: %2.</source>
+        <translation>Es gibt keine Kamera „%1“. Gefunden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceTreeModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureSource</name>
+    <message>
+        <source>somebody else has it open</source>
+        <translation>ein anderes Programm hat sie geöffnet</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>sie antwortet nicht</translation>
+    </message>
+    <message>
+        <source>it did not answer in time</source>
+        <translation>sie hat nicht rechtzeitig geantwortet</translation>
+    </message>
+    <message>
+        <source>its address does not fit the network adapter&apos;s subnet</source>
+        <translation>ihre Adresse passt nicht zum Subnetz des Netzwerkadapters</translation>
+    </message>
+    <message>
+        <source>its description cannot be understood</source>
+        <translation>ihre Beschreibung ist nicht verständlich</translation>
+    </message>
+    <message>
+        <source>it refuses access</source>
+        <translation>sie verweigert den Zugriff</translation>
+    </message>
+    <message>
+        <source>error code %1</source>
+        <translation>Fehlercode %1</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
+        <translation>Die Kamera „%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>GenParamDelegate</name>
+    <message>
+        <source>True</source>
+        <translation>Wahr</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falsch</translation>
+    </message>
+</context>
+<context>
+    <name>GenParamTreeModel</name>
+    <message>
+        <source>&lt;Value not available&gt;</source>
+        <translation>&lt;Wert nicht verfügbar&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;Value not readable&gt;</source>
+        <translation>&lt;Wert nicht lesbar&gt;</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>Ganzzahl</translation>
+    </message>
+    <message>
+        <source>Boolean</source>
+        <translation>Boolesch</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>Gleitkommazahl</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Zeichenkette</translation>
+    </message>
+    <message>
+        <source>Enumeration</source>
+        <translation>Aufzählung</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Limits&lt;/i&gt;: Min: %1, Max: %2</source>
+        <translation>&lt;i&gt;Grenzen&lt;/i&gt;: Min.: %1, Max.: %2</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Increment&lt;/i&gt;: %1</source>
+        <translation>&lt;i&gt;Schrittweite&lt;/i&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Valid values&lt;/i&gt;: %1</source>
+        <translation>&lt;i&gt;Gültige Werte&lt;/i&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Enumeration entries&lt;/i&gt;:</source>
+        <translation>&lt;i&gt;Einträge der Aufzählung&lt;/i&gt;:</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 (0x%3)</source>
+        <translation>„%1“: %2 (0x%3)</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Name:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;Name:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Type:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;Typ:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Selectors:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;Selektoren:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Description:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;Beschreibung:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>Wahr</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falsch</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Streamable:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;Streamfähig:&lt;/i&gt; %1</translation>
+    </message>
+</context>
+<context>
+    <name>GenParamTreeView</name>
+    <message>
+        <source>GenParamTreeView</source>
+        <translation>GenParamTreeView</translation>
+    </message>
+    <message>
+        <source>Visibility:</source>
+        <translation>Sichtbarkeit:</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>Basis</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Experte</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>Guru</translation>
+    </message>
+</context>
+<context>
+    <name>InfoPane</name>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>Options</name>
+    <message>
+        <source>Use simulated cameras; nothing is sent anywhere.</source>
+        <translation>Simulierte Kameras verwenden; es wird nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>Open the camera of this identifier, serial number or name.</source>
+        <translation>Die Kamera mit dieser Kennung, Seriennummer oder diesem Namen öffnen.</translation>
+    </message>
+    <message>
+        <source>Show a GenICam description without a camera; its registers live in memory.</source>
+        <translation>Eine GenICam-Beschreibung ohne Kamera zeigen; ihre Register liegen im Speicher.</translation>
+    </message>
+    <message>
+        <source>Print the features as the tree shows them and exit: two blanks of indentation per level, the name, a tab, the value.</source>
+        <translation>Die Parameter so ausgeben, wie der Baum sie zeigt, und beenden: je Ebene zwei Leerzeichen Einzug, der Name, ein Tabulator, der Wert.</translation>
+    </message>
+    <message>
+        <source>The level of detail: basic, expert or guru.</source>
+        <translation>Der Umfang: basic, expert oder guru.</translation>
+    </message>
+    <message>
+        <source>There is no option &apos;%1&apos;.</source>
+        <translation>Es gibt keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no visibility &apos;%1&apos;; use basic, expert or guru.</source>
+        <translation>Es gibt keine Sichtbarkeit „%1“; möglich sind basic, expert und guru.</translation>
+    </message>
+    <message>
+        <source>A description is shown without a camera: use --xml alone.</source>
+        <translation>Eine Beschreibung wird ohne Kamera gezeigt: --xml steht allein.</translation>
+    </message>
+    <message>
+        <source>Print one camera a line and exit: the identifier (MAC address, or vendor and serial number), the name, the IPv4 address if it has one and the access (read-write, read-only, no-access, subnet-mismatch or unknown), with tabs between them.</source>
+        <translation>Je Zeile eine Kamera ausgeben und beenden: die Kennung (MAC-Adresse oder Hersteller und Seriennummer), der Name, die IPv4-Adresse, falls vorhanden, und der Zugriff (read-write, read-only, no-access, subnet-mismatch oder unknown), durch Tabulatoren getrennt.</translation>
+    </message>
+    <message>
+        <source>Save a picture of the first window and exit.</source>
+        <translation>Ein Bild des ersten Fensters speichern und beenden.</translation>
+    </message>
+    <message>
+        <source>Shows and changes the features of a camera, which is picked first.
+Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
+        <translation>Zeigt und ändert die Parameter einer Kamera, die zuerst ausgewählt wird.
+Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
+        <translation>Es werden alle Kameras aufgelistet: --list-cameras steht allein oder mit --simulate.</translation>
+    </message>
+    <message>
+        <source>A description is shown without a camera: there is nothing to pick.</source>
+        <translation>Eine Beschreibung wird ohne Kamera gezeigt: Es gibt nichts auszuwählen.</translation>
+    </message>
+    <message>
+        <source>Say whose features to list: --simulate, --camera ID or --xml FILE.</source>
+        <translation>Bitte angeben, wessen Parameter aufgelistet werden sollen: --simulate, --camera ID oder --xml FILE.</translation>
+    </message>
+    <message>
+        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; or the tree alone. The last two take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
+        <translation>Was zuerst gezeigt wird: die Kameraauswahl (picker), in der die mit --camera genannte Kamera markiert ist; das Hauptfenster (main) mit dem Baum daneben; oder der Baum (tree) allein. Die letzten beiden nehmen ohne --camera die erste verwendbare Kamera. Ohne Angabe: die Kameraauswahl, wenn weder --simulate noch --camera noch --xml sagt, was zu zeigen ist; der Baum bei --xml und --screenshot; sonst das Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use picker, main or tree.</source>
+        <translation>Es gibt kein Fenster „%1“; möglich sind picker, main und tree.</translation>
+    </message>
+    <message>
+        <source>The main window needs a camera: use --xml alone.</source>
+        <translation>Das Hauptfenster braucht eine Kamera: --xml steht allein.</translation>
+    </message>
+    <message>
+        <source>Only the tree can be printed: use --list-features without --window.</source>
+        <translation>Nur der Baum kann ausgegeben werden: --list-features steht ohne --window.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigAboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <source>Device Information</source>
+        <translation>Geräteinformationen</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Name:</source>
+        <translation>Hersteller:</translation>
+    </message>
+    <message>
+        <source>Device Model Name:</source>
+        <translation>Modell:</translation>
+    </message>
+    <message>
+        <source>Device Family Name:</source>
+        <translation>Gerätefamilie:</translation>
+    </message>
+    <message>
+        <source>Device Version:</source>
+        <translation>Geräteversion:</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Info:</source>
+        <translation>Herstellerangaben:</translation>
+    </message>
+    <message>
+        <source>Device Serial Number:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Device User Defined Name:</source>
+        <translation>Benutzerdefinierter Name:</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Sensor Type:</source>
+        <translation>Sensortyp:</translation>
+    </message>
+    <message>
+        <source>RgsID:</source>
+        <translation>RgsID:</translation>
+    </message>
+    <message>
+        <source>FpgaID:</source>
+        <translation>FpgaID:</translation>
+    </message>
+    <message>
+        <source>EpcsID:</source>
+        <translation>EpcsID:</translation>
+    </message>
+    <message>
+        <source>Firmware Image:</source>
+        <translation>Firmware-Abbild:</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>Firmware-Version:</translation>
+    </message>
+    <message>
+        <source>Firmware Build:</source>
+        <translation>Firmware-Build:</translation>
+    </message>
+    <message>
+        <source>CustomerID:</source>
+        <translation>Kunden-ID:</translation>
+    </message>
+    <message>
+        <source>Xml Version:</source>
+        <translation>XML-Version:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Version:</source>
+        <translation>U3V-Firmware-Version:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Build Number:</source>
+        <translation>U3V-Firmware-Build-Nummer:</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigColorDialog</name>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>White Balance</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>Tracking Speed</source>
+        <translation>Nachführgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Red coef.:</source>
+        <translation>Koeff. Rot:</translation>
+    </message>
+    <message>
+        <source>4095</source>
+        <translation>4095</translation>
+    </message>
+    <message>
+        <source>Green coef.:</source>
+        <translation>Koeff. Grün:</translation>
+    </message>
+    <message>
+        <source>Blue coef.:</source>
+        <translation>Koeff. Blau:</translation>
+    </message>
+    <message>
+        <source>Manual WB Coef.</source>
+        <translation>Manuelle WA-Koeff.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Unity</source>
+        <translation>Auf 1</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>Frame A/B</source>
+        <translation>Bild A/B</translation>
+    </message>
+    <message>
+        <source>Output mode:</source>
+        <translation>Ausgabemodus:</translation>
+    </message>
+    <message>
+        <source>Frame-A +</source>
+        <translation>Bild A +</translation>
+    </message>
+    <message>
+        <source>Frame-B</source>
+        <translation>Bild B</translation>
+    </message>
+    <message>
+        <source>Shutter mode:</source>
+        <translation>Shutter-Modus:</translation>
+    </message>
+    <message>
+        <source>Rolling</source>
+        <translation>Rolling</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>ADC Selector:</source>
+        <translation>ADC-Auswahl:</translation>
+    </message>
+    <message>
+        <source>10 bits</source>
+        <translation>10 Bit</translation>
+    </message>
+    <message>
+        <source>12 bits</source>
+        <translation>12 Bit</translation>
+    </message>
+    <message>
+        <source>Dual Video:</source>
+        <translation>Dual-Video:</translation>
+    </message>
+    <message>
+        <source>Frame-A</source>
+        <translation>Bild A</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>Belichtungssteuerung</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Internal</source>
+        <translation>Intern</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Clocks</source>
+        <translation>Takte</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>Feste Bildperiode</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Frame line time</source>
+        <translation>Zeilenzeit des Bildes</translation>
+    </message>
+    <message>
+        <source>Frame size</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Current size:</source>
+        <translation>Aktuelle Größe:</translation>
+    </message>
+    <message>
+        <source>AOI</source>
+        <translation>AOI</translation>
+    </message>
+    <message>
+        <source>Full Frame</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>QFHD</source>
+        <translation>QFHD</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Subsampling</source>
+        <translation>Unterabtastung</translation>
+    </message>
+    <message>
+        <source>P:</source>
+        <translation>P:</translation>
+    </message>
+    <message>
+        <source>x M:</source>
+        <translation>x M:</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>Mittelung</translation>
+    </message>
+    <message>
+        <source>Video amplifier</source>
+        <translation>Videoverstärker</translation>
+    </message>
+    <message>
+        <source>Analog Gain:</source>
+        <translation>Analogverstärkung:</translation>
+    </message>
+    <message>
+        <source>1x</source>
+        <translation>1x</translation>
+    </message>
+    <message>
+        <source>2x</source>
+        <translation>2x</translation>
+    </message>
+    <message>
+        <source>4x</source>
+        <translation>4x</translation>
+    </message>
+    <message>
+        <source>8x</source>
+        <translation>8x</translation>
+    </message>
+    <message>
+        <source>WDR</source>
+        <translation>WDR</translation>
+    </message>
+    <message>
+        <source>P3:</source>
+        <translation>P3:</translation>
+    </message>
+    <message>
+        <source>P2:</source>
+        <translation>P2:</translation>
+    </message>
+    <message>
+        <source>P1:</source>
+        <translation>P1:</translation>
+    </message>
+    <message>
+        <source>E1:</source>
+        <translation>E1:</translation>
+    </message>
+    <message>
+        <source>us</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>E2:</source>
+        <translation>E2:</translation>
+    </message>
+    <message>
+        <source>E3:</source>
+        <translation>E3:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigMainWindow</name>
+    <message>
+        <source>CamConfig</source>
+        <translation>CamConfig</translation>
+    </message>
+    <message>
+        <source>Camera Information</source>
+        <translation>Kamerainformationen</translation>
+    </message>
+    <message>
+        <source>Frame A</source>
+        <translation>Bild A</translation>
+    </message>
+    <message>
+        <source>Frame B</source>
+        <translation>Bild B</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Size, frame A</source>
+        <translation>Größe, Bild A</translation>
+    </message>
+    <message>
+        <source>Size, frame B</source>
+        <translation>Größe, Bild B</translation>
+    </message>
+    <message>
+        <source>PxL</source>
+        <translation>PxL</translation>
+    </message>
+    <message>
+        <source>FPS</source>
+        <translation>FPS</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame A</source>
+        <translation>Bilder je Sekunde, Bild A</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame B</source>
+        <translation>Bilder je Sekunde, Bild B</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>FTM</source>
+        <translation>FTM</translation>
+    </message>
+    <message>
+        <source>Frame time, frame A</source>
+        <translation>Bildzeit, Bild A</translation>
+    </message>
+    <message>
+        <source>Frame time, frame B</source>
+        <translation>Bildzeit, Bild B</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>EXP</source>
+        <translation>EXP</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame A</source>
+        <translation>Belichtungszeit, Bild A</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame B</source>
+        <translation>Belichtungszeit, Bild B</translation>
+    </message>
+    <message>
+        <source>TMP</source>
+        <translation>TMP</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>0C</source>
+        <translation>0C</translation>
+    </message>
+    <message>
+        <source>Frame A/B</source>
+        <translation>Bild A/B</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>Impuls</translation>
+    </message>
+    <message>
+        <source>Strobe</source>
+        <translation>Strobe</translation>
+    </message>
+    <message>
+        <source>Data Out</source>
+        <translation>Datenausgabe</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Data Output</source>
+        <translation>Datenausgabe</translation>
+    </message>
+    <message>
+        <source>Camera Link Output</source>
+        <translation>Camera-Link-Ausgang</translation>
+    </message>
+    <message>
+        <source>Taps:</source>
+        <translation>Taps:</translation>
+    </message>
+    <message>
+        <source>Depth:</source>
+        <translation>Bittiefe:</translation>
+    </message>
+    <message>
+        <source>Pixel Type</source>
+        <translation>Pixeltyp</translation>
+    </message>
+    <message>
+        <source>Pixel Format:</source>
+        <translation>Pixelformat:</translation>
+    </message>
+    <message>
+        <source>LUT Settings</source>
+        <translation>LUT-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>DPC:</source>
+        <translation>DPC:</translation>
+    </message>
+    <message>
+        <source>HPC:</source>
+        <translation>HPC:</translation>
+    </message>
+    <message>
+        <source>Image Flip</source>
+        <translation>Bildspiegelung</translation>
+    </message>
+    <message>
+        <source>H.Mirror</source>
+        <translation>Horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>V.Mirror</source>
+        <translation>Vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>Test Mode</source>
+        <translation>Testmodus</translation>
+    </message>
+    <message>
+        <source>Test Pattern:</source>
+        <translation>Testbild:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigPulseDialog</name>
+    <message>
+        <source>Pulse Control</source>
+        <translation>Impulssteuerung</translation>
+    </message>
+    <message>
+        <source>Internal Pulse Generator</source>
+        <translation>Interner Impulsgenerator</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Granularity:</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Periode</translation>
+    </message>
+    <message>
+        <source>Freq. [Hz]:</source>
+        <translation>Freq. [Hz]:</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Ablauf</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S, Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S, Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Number of Pulses</source>
+        <translation>Anzahl der Impulse</translation>
+    </message>
+    <message>
+        <source>Continious</source>
+        <translation>Kontinuierlich</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Strobe Control</source>
+        <translation>Strobe-Steuerung</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation>Strobe 1</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modus:</translation>
+    </message>
+    <message>
+        <source>Reference:</source>
+        <translation>Bezug:</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation>Strobe 2</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Out1:</source>
+        <translation>Out1:</translation>
+    </message>
+    <message>
+        <source>Out2:</source>
+        <translation>Out2:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigTriggerDialog</name>
+    <message>
+        <source>Trigger Control</source>
+        <translation>Triggersteuerung</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Trigger Source:</source>
+        <translation>Triggerquelle:</translation>
+    </message>
+    <message>
+        <source>Edge:</source>
+        <translation>Flanke:</translation>
+    </message>
+    <message>
+        <source>Debounce:</source>
+        <translation>Entprellung:</translation>
+    </message>
+    <message>
+        <source>Software
+Trigger</source>
+        <translation>Software-
+Trigger</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCameraSelectorDialog</name>
+    <message>
+        <source>Select camera</source>
+        <translation>Kamera auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Interface info</source>
+        <translation>&amp;Schnittstelle</translation>
+    </message>
+    <message>
+        <source>&amp;Device info</source>
+        <translation>&amp;Gerät</translation>
+    </message>
+    <message>
+        <source>Set IP Address</source>
+        <translation>IP-Adresse setzen</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::CameraInformation</name>
+    <message>
+        <source>OrvCameraConfiguration</source>
+        <translation>OrvCameraConfiguration</translation>
+    </message>
+    <message>
+        <source>1.3.0 (build 2230) </source>
+        <translation>1.3.0 (Build 2230) </translation>
+    </message>
+    <message>
+        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
+        <translation>Copyright %1 2016 Die Entwickler von OrvCameraGuiApi</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>n. v.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfig</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>%1C</source>
+        <translation>%1C</translation>
+    </message>
+    <message>
+        <source>Select a device</source>
+        <translation>Gerät auswählen</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened!</source>
+        <translation>Die Kamera %1 kann nicht geöffnet werden!</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>[%1]:</source>
+        <translation>[%1]:</translation>
+    </message>
+    <message>
+        <source>Dual Video
+Line Time [pclk]:</source>
+        <translation>Dual-Video
+Zeilenzeit [pclk]:</translation>
+    </message>
+    <message>
+        <source>Exposure Time </source>
+        <translation>Belichtungszeit </translation>
+    </message>
+    <message>
+        <source>Line Time [pclk]:</source>
+        <translation>Zeilenzeit [pclk]:</translation>
+    </message>
+    <message>
+        <source>OffsetX:</source>
+        <translation>Versatz X:</translation>
+    </message>
+    <message>
+        <source>OffsetY:</source>
+        <translation>Versatz Y:</translation>
+    </message>
+    <message>
+        <source>Width: </source>
+        <translation>Breite: </translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>Digital Gain:</source>
+        <translation>Digitalverstärkung:</translation>
+    </message>
+    <message>
+        <source>Black Level:</source>
+        <translation>Schwarzwert:</translation>
+    </message>
+    <message>
+        <source>The trigger is switched off.</source>
+        <translation>Der Trigger ist ausgeschaltet.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigMapper</name>
+    <message>
+        <source>Error while setting the %1 integer value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Setzen des Ganzzahlwerts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Setzen des Aufzählungswerts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while executing the %1 command!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Ausführen des Befehls %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 boolean value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>Fehler beim Setzen des booleschen Werts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Dyn.Thres.:</source>
+        <translation>Dyn. Schwelle:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigPulseDialog</name>
+    <message>
+        <source> [%1s]:</source>
+        <translation> [%1s]:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Delay [%1s]:</source>
+        <translation>Verzögerung [%1s]:</translation>
+    </message>
+    <message>
+        <source>Width [%1s]:</source>
+        <translation>Breite [%1s]:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCameraSelectorDialog</name>
+    <message>
+        <source>Set IP address</source>
+        <translation>IP-Adresse setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Rescan</source>
+        <translation>&amp;Neu suchen</translation>
+    </message>
+    <message>
+        <source>Display name</source>
+        <translation>Anzeigename</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Access status</source>
+        <translation>Zugriffsstatus</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Netmask</source>
+        <translation>Netzmaske</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Gateway</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>ReadWrite</source>
+        <translation>Lesen und Schreiben</translation>
+    </message>
+    <message>
+        <source>ReadOnly</source>
+        <translation>Nur Lesen</translation>
+    </message>
+    <message>
+        <source>NO ACCESS</source>
+        <translation>KEIN ZUGRIFF</translation>
+    </message>
+    <message>
+        <source>IP Subnet Mismatch</source>
+        <translation>IP-Subnetz passt nicht</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>USB3 Vision</source>
+        <translation>USB3 Vision</translation>
+    </message>
+    <message>
+        <source>GigE Vision</source>
+        <translation>GigE Vision</translation>
+    </message>
+    <message>
+        <source>CameraLink</source>
+        <translation>CameraLink</translation>
+    </message>
+    <message>
+        <source>CoaXPress</source>
+        <translation>CoaXPress</translation>
+    </message>
+    <message>
+        <source>HD-SDI</source>
+        <translation>HD-SDI</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Set IP Address</source>
+        <translation>IP-Adresse setzen</translation>
+    </message>
+    <message>
+        <source>Can&apos;t set IP address</source>
+        <translation>Die IP-Adresse kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>IP Configuration Warning</source>
+        <translation>Warnung zur IP-Konfiguration</translation>
+    </message>
+    <message>
+        <source>Specified IP Configuraion is not correct, camera may become undiscoverable
+Press OK to skip the IP Configuration, or press Ignore to confirm</source>
+        <translation>Die angegebene IP-Konfiguration ist nicht richtig, die Kamera ist danach vielleicht nicht mehr auffindbar
+OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>The output failed.</source>
+        <translation>Die Ausgabe ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>The picture &apos;%1&apos; cannot be written.</source>
+        <translation>Das Bild „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is gone.</source>
+        <translation>Die Kamera „%1“ ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The camera system cannot be started.</source>
+        <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>QtOrvSpinBox</name>
+    <message>
+        <source>Show a slider</source>
+        <translation>Schieberegler anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>SetIpDialog</name>
+    <message>
+        <source>Set IP Address</source>
+        <translation>IP-Adresse setzen</translation>
+    </message>
+    <message>
+        <source>Network Adapter IP Configuration</source>
+        <translation>IP-Konfiguration des Netzwerkadapters</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Subnet Mask       </source>
+        <translation>Subnetzmaske       </translation>
+    </message>
+    <message>
+        <source>Camera IP Configuration</source>
+        <translation>IP-Konfiguration der Kamera</translation>
+    </message>
+    <message>
+        <source>IP &amp;Address</source>
+        <translation>IP-&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Subnet Mask</source>
+        <translation>&amp;Subnetzmaske</translation>
+    </message>
+    <message>
+        <source>Default &amp;Gateway</source>
+        <translation>Standard-&amp;Gateway</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <source>Subnet mask mismatch!</source>
+        <translation>Subnetzmaske passt nicht!</translation>
+    </message>
+    <message>
+        <source>Subnet IP mismatch!</source>
+        <translation>IP-Subnetz passt nicht!</translation>
+    </message>
+    <message>
+        <source>Incorrect IP address!</source>
+        <translation>Falsche IP-Adresse!</translation>
+    </message>
+    <message>
+        <source>IP Configuration OK</source>
+        <translation>IP-Konfiguration in Ordnung</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1351 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CameraWindows</name>
+    <message>
+        <source>Feature Tree</source>
+        <translation>パラメーターツリー</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>パラメーター</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras</name>
+    <message>
+        <source>No camera was found.</source>
+        <translation>カメラが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>None of the cameras found can be used: %1.</source>
+        <translation>見つかったカメラはいずれも使用できません: %1。</translation>
+    </message>
+    <message>
+        <source>There is no camera &apos;%1&apos;. Found: %2.</source>
+        <translation>カメラ「%1」はありません。見つかったカメラ: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceTreeModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureSource</name>
+    <message>
+        <source>somebody else has it open</source>
+        <translation>ほかのプログラムが使用中です</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>応答がありません</translation>
+    </message>
+    <message>
+        <source>it did not answer in time</source>
+        <translation>時間内に応答がありませんでした</translation>
+    </message>
+    <message>
+        <source>its address does not fit the network adapter&apos;s subnet</source>
+        <translation>アドレスがネットワークアダプターのサブネットに合っていません</translation>
+    </message>
+    <message>
+        <source>its description cannot be understood</source>
+        <translation>記述ファイルを解釈できません</translation>
+    </message>
+    <message>
+        <source>it refuses access</source>
+        <translation>アクセスが拒否されました</translation>
+    </message>
+    <message>
+        <source>error code %1</source>
+        <translation>エラーコード %1</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
+        <translation>カメラ「%1」を開けません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>GenParamDelegate</name>
+    <message>
+        <source>True</source>
+        <translation>真</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>偽</translation>
+    </message>
+</context>
+<context>
+    <name>GenParamTreeModel</name>
+    <message>
+        <source>&lt;Value not available&gt;</source>
+        <translation>&lt;値は利用できません&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;Value not readable&gt;</source>
+        <translation>&lt;値は読み取れません&gt;</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>Boolean</source>
+        <translation>ブール値</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮動小数点数</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>Enumeration</source>
+        <translation>列挙</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Limits&lt;/i&gt;: Min: %1, Max: %2</source>
+        <translation>&lt;i&gt;範囲&lt;/i&gt;: 最小: %1、最大: %2</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Increment&lt;/i&gt;: %1</source>
+        <translation>&lt;i&gt;増分&lt;/i&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Valid values&lt;/i&gt;: %1</source>
+        <translation>&lt;i&gt;有効な値&lt;/i&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Enumeration entries&lt;/i&gt;:</source>
+        <translation>&lt;i&gt;列挙エントリ&lt;/i&gt;:</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 (0x%3)</source>
+        <translation>「%1」: %2 (0x%3)</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Name:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;名前:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Type:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;型:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Selectors:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;セレクター:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Description:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;説明:&lt;/i&gt; %1</translation>
+    </message>
+    <message>
+        <source>True</source>
+        <translation>真</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>偽</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Streamable:&lt;/i&gt; %1</source>
+        <translation>&lt;i&gt;ストリーム可能:&lt;/i&gt; %1</translation>
+    </message>
+</context>
+<context>
+    <name>GenParamTreeView</name>
+    <message>
+        <source>GenParamTreeView</source>
+        <translation>GenParamTreeView</translation>
+    </message>
+    <message>
+        <source>Visibility:</source>
+        <translation>表示レベル:</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>基本</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>エキスパート</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>グル</translation>
+    </message>
+</context>
+<context>
+    <name>InfoPane</name>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+</context>
+<context>
+    <name>Options</name>
+    <message>
+        <source>Use simulated cameras; nothing is sent anywhere.</source>
+        <translation>シミュレーションのカメラを使用します。外部には何も送信しません。</translation>
+    </message>
+    <message>
+        <source>Open the camera of this identifier, serial number or name.</source>
+        <translation>この識別子、シリアル番号または名前のカメラを開きます。</translation>
+    </message>
+    <message>
+        <source>Show a GenICam description without a camera; its registers live in memory.</source>
+        <translation>カメラなしで GenICam 記述ファイルを表示します。レジスターはメモリー上に置かれます。</translation>
+    </message>
+    <message>
+        <source>Print the features as the tree shows them and exit: two blanks of indentation per level, the name, a tab, the value.</source>
+        <translation>パラメーターをツリーの表示どおりに出力して終了します。階層ごとに空白 2 個の字下げ、名前、タブ、値の順です。</translation>
+    </message>
+    <message>
+        <source>The level of detail: basic, expert or guru.</source>
+        <translation>表示レベル: basic、expert または guru。</translation>
+    </message>
+    <message>
+        <source>There is no option &apos;%1&apos;.</source>
+        <translation>オプション「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>There is no visibility &apos;%1&apos;; use basic, expert or guru.</source>
+        <translation>表示レベル「%1」はありません。basic、expert または guru を指定してください。</translation>
+    </message>
+    <message>
+        <source>A description is shown without a camera: use --xml alone.</source>
+        <translation>記述ファイルはカメラなしで表示されます。--xml は単独で指定してください。</translation>
+    </message>
+    <message>
+        <source>Print one camera a line and exit: the identifier (MAC address, or vendor and serial number), the name, the IPv4 address if it has one and the access (read-write, read-only, no-access, subnet-mismatch or unknown), with tabs between them.</source>
+        <translation>カメラを 1 行に 1 台ずつ出力して終了します。識別子 (MAC アドレス、またはベンダーとシリアル番号)、名前、IPv4 アドレス (ある場合)、アクセス状態 (read-write、read-only、no-access、subnet-mismatch または unknown) をタブで区切ります。</translation>
+    </message>
+    <message>
+        <source>Save a picture of the first window and exit.</source>
+        <translation>最初のウィンドウの画像を保存して終了します。</translation>
+    </message>
+    <message>
+        <source>Shows and changes the features of a camera, which is picked first.
+Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
+        <translation>最初に選択したカメラのパラメーターを表示および変更します。
+終了ステータス: 0 成功 (カメラを選択しなかった場合を含む)、1 失敗、2 使用方法の誤り。</translation>
+    </message>
+    <message>
+        <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
+        <translation>すべてのカメラが一覧表示されます。--list-cameras は単独で、または --simulate と共に指定してください。</translation>
+    </message>
+    <message>
+        <source>A description is shown without a camera: there is nothing to pick.</source>
+        <translation>記述ファイルはカメラなしで表示されるため、選択するものがありません。</translation>
+    </message>
+    <message>
+        <source>Say whose features to list: --simulate, --camera ID or --xml FILE.</source>
+        <translation>パラメーターを一覧表示する対象を指定してください: --simulate、--camera ID または --xml FILE。</translation>
+    </message>
+    <message>
+        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; or the tree alone. The last two take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
+        <translation>最初に表示するもの: カメラの選択 (picker、--camera で指定したカメラが選択されます)、メインウィンドウ (main、横にツリーを表示)、またはツリーのみ (tree)。後の 2 つは --camera がなければ最初に使用できるカメラを開きます。省略時は、--simulate、--camera、--xml のいずれも指定されていなければカメラの選択、--xml または --screenshot が指定されていればツリー、それ以外はメインウィンドウです。</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use picker, main or tree.</source>
+        <translation>ウィンドウ「%1」はありません。picker、main または tree を指定してください。</translation>
+    </message>
+    <message>
+        <source>The main window needs a camera: use --xml alone.</source>
+        <translation>メインウィンドウにはカメラが必要です。--xml は単独で指定してください。</translation>
+    </message>
+    <message>
+        <source>Only the tree can be printed: use --list-features without --window.</source>
+        <translation>出力できるのはツリーのみです。--list-features は --window なしで指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigAboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <source>Device Information</source>
+        <translation>デバイス情報</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Name:</source>
+        <translation>メーカー名:</translation>
+    </message>
+    <message>
+        <source>Device Model Name:</source>
+        <translation>モデル名:</translation>
+    </message>
+    <message>
+        <source>Device Family Name:</source>
+        <translation>ファミリー名:</translation>
+    </message>
+    <message>
+        <source>Device Version:</source>
+        <translation>デバイスのバージョン:</translation>
+    </message>
+    <message>
+        <source>Device Manufacturer Info:</source>
+        <translation>メーカー情報:</translation>
+    </message>
+    <message>
+        <source>Device Serial Number:</source>
+        <translation>シリアル番号:</translation>
+    </message>
+    <message>
+        <source>Device User Defined Name:</source>
+        <translation>ユーザー定義名:</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Sensor Type:</source>
+        <translation>センサーの種類:</translation>
+    </message>
+    <message>
+        <source>RgsID:</source>
+        <translation>RgsID:</translation>
+    </message>
+    <message>
+        <source>FpgaID:</source>
+        <translation>FpgaID:</translation>
+    </message>
+    <message>
+        <source>EpcsID:</source>
+        <translation>EpcsID:</translation>
+    </message>
+    <message>
+        <source>Firmware Image:</source>
+        <translation>ファームウェアイメージ:</translation>
+    </message>
+    <message>
+        <source>Firmware Version:</source>
+        <translation>ファームウェアのバージョン:</translation>
+    </message>
+    <message>
+        <source>Firmware Build:</source>
+        <translation>ファームウェアのビルド:</translation>
+    </message>
+    <message>
+        <source>CustomerID:</source>
+        <translation>カスタマー ID:</translation>
+    </message>
+    <message>
+        <source>Xml Version:</source>
+        <translation>XML のバージョン:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Version:</source>
+        <translation>U3V ファームウェアのバージョン:</translation>
+    </message>
+    <message>
+        <source>U3V Firmware Build Number:</source>
+        <translation>U3V ファームウェアのビルド番号:</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigColorDialog</name>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>White Balance</source>
+        <translation>ホワイトバランス</translation>
+    </message>
+    <message>
+        <source>Tracking Speed</source>
+        <translation>追従速度</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>Red coef.:</source>
+        <translation>赤係数:</translation>
+    </message>
+    <message>
+        <source>4095</source>
+        <translation>4095</translation>
+    </message>
+    <message>
+        <source>Green coef.:</source>
+        <translation>緑係数:</translation>
+    </message>
+    <message>
+        <source>Blue coef.:</source>
+        <translation>青係数:</translation>
+    </message>
+    <message>
+        <source>Manual WB Coef.</source>
+        <translation>手動 WB 係数</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Unity</source>
+        <translation>等倍</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>Frame A/B</source>
+        <translation>フレーム A/B</translation>
+    </message>
+    <message>
+        <source>Output mode:</source>
+        <translation>出力モード:</translation>
+    </message>
+    <message>
+        <source>Frame-A +</source>
+        <translation>フレーム A +</translation>
+    </message>
+    <message>
+        <source>Frame-B</source>
+        <translation>フレーム B</translation>
+    </message>
+    <message>
+        <source>Shutter mode:</source>
+        <translation>シャッターモード:</translation>
+    </message>
+    <message>
+        <source>Rolling</source>
+        <translation>ローリング</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>グローバル</translation>
+    </message>
+    <message>
+        <source>ADC Selector:</source>
+        <translation>ADC 選択:</translation>
+    </message>
+    <message>
+        <source>10 bits</source>
+        <translation>10 ビット</translation>
+    </message>
+    <message>
+        <source>12 bits</source>
+        <translation>12 ビット</translation>
+    </message>
+    <message>
+        <source>Dual Video:</source>
+        <translation>デュアルビデオ:</translation>
+    </message>
+    <message>
+        <source>Frame-A</source>
+        <translation>フレーム A</translation>
+    </message>
+    <message>
+        <source>Exposure control</source>
+        <translation>露光制御</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>Internal</source>
+        <translation>内部</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>ライン</translation>
+    </message>
+    <message>
+        <source>Clocks</source>
+        <translation>クロック</translation>
+    </message>
+    <message>
+        <source>Fixed frame period</source>
+        <translation>固定フレーム周期</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Frame line time</source>
+        <translation>フレームのライン時間</translation>
+    </message>
+    <message>
+        <source>Frame size</source>
+        <translation>フレームサイズ</translation>
+    </message>
+    <message>
+        <source>Current size:</source>
+        <translation>現在のサイズ:</translation>
+    </message>
+    <message>
+        <source>AOI</source>
+        <translation>AOI</translation>
+    </message>
+    <message>
+        <source>Full Frame</source>
+        <translation>フルフレーム</translation>
+    </message>
+    <message>
+        <source>QFHD</source>
+        <translation>QFHD</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Subsampling</source>
+        <translation>サブサンプリング</translation>
+    </message>
+    <message>
+        <source>P:</source>
+        <translation>P:</translation>
+    </message>
+    <message>
+        <source>x M:</source>
+        <translation>x M:</translation>
+    </message>
+    <message>
+        <source>Averaging</source>
+        <translation>平均化</translation>
+    </message>
+    <message>
+        <source>Video amplifier</source>
+        <translation>ビデオアンプ</translation>
+    </message>
+    <message>
+        <source>Analog Gain:</source>
+        <translation>アナログゲイン:</translation>
+    </message>
+    <message>
+        <source>1x</source>
+        <translation>1x</translation>
+    </message>
+    <message>
+        <source>2x</source>
+        <translation>2x</translation>
+    </message>
+    <message>
+        <source>4x</source>
+        <translation>4x</translation>
+    </message>
+    <message>
+        <source>8x</source>
+        <translation>8x</translation>
+    </message>
+    <message>
+        <source>WDR</source>
+        <translation>WDR</translation>
+    </message>
+    <message>
+        <source>P3:</source>
+        <translation>P3:</translation>
+    </message>
+    <message>
+        <source>P2:</source>
+        <translation>P2:</translation>
+    </message>
+    <message>
+        <source>P1:</source>
+        <translation>P1:</translation>
+    </message>
+    <message>
+        <source>E1:</source>
+        <translation>E1:</translation>
+    </message>
+    <message>
+        <source>us</source>
+        <translation>µs</translation>
+    </message>
+    <message>
+        <source>E2:</source>
+        <translation>E2:</translation>
+    </message>
+    <message>
+        <source>E3:</source>
+        <translation>E3:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigMainWindow</name>
+    <message>
+        <source>CamConfig</source>
+        <translation>CamConfig</translation>
+    </message>
+    <message>
+        <source>Camera Information</source>
+        <translation>カメラ情報</translation>
+    </message>
+    <message>
+        <source>Frame A</source>
+        <translation>フレーム A</translation>
+    </message>
+    <message>
+        <source>Frame B</source>
+        <translation>フレーム B</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Size, frame A</source>
+        <translation>サイズ、フレーム A</translation>
+    </message>
+    <message>
+        <source>Size, frame B</source>
+        <translation>サイズ、フレーム B</translation>
+    </message>
+    <message>
+        <source>PxL</source>
+        <translation>PxL</translation>
+    </message>
+    <message>
+        <source>FPS</source>
+        <translation>FPS</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame A</source>
+        <translation>フレームレート、フレーム A</translation>
+    </message>
+    <message>
+        <source>Frames per second, frame B</source>
+        <translation>フレームレート、フレーム B</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>FTM</source>
+        <translation>FTM</translation>
+    </message>
+    <message>
+        <source>Frame time, frame A</source>
+        <translation>フレーム時間、フレーム A</translation>
+    </message>
+    <message>
+        <source>Frame time, frame B</source>
+        <translation>フレーム時間、フレーム B</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>EXP</source>
+        <translation>EXP</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame A</source>
+        <translation>露光時間、フレーム A</translation>
+    </message>
+    <message>
+        <source>Exposure time, frame B</source>
+        <translation>露光時間、フレーム B</translation>
+    </message>
+    <message>
+        <source>TMP</source>
+        <translation>TMP</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>0C</source>
+        <translation>0C</translation>
+    </message>
+    <message>
+        <source>Frame A/B</source>
+        <translation>フレーム A/B</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガー</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>パルス</translation>
+    </message>
+    <message>
+        <source>Strobe</source>
+        <translation>ストロボ</translation>
+    </message>
+    <message>
+        <source>Data Out</source>
+        <translation>データ出力</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Data Output</source>
+        <translation>データ出力</translation>
+    </message>
+    <message>
+        <source>Camera Link Output</source>
+        <translation>Camera Link 出力</translation>
+    </message>
+    <message>
+        <source>Taps:</source>
+        <translation>タップ数:</translation>
+    </message>
+    <message>
+        <source>Depth:</source>
+        <translation>ビット深度:</translation>
+    </message>
+    <message>
+        <source>Pixel Type</source>
+        <translation>ピクセルの種類</translation>
+    </message>
+    <message>
+        <source>Pixel Format:</source>
+        <translation>ピクセルフォーマット:</translation>
+    </message>
+    <message>
+        <source>LUT Settings</source>
+        <translation>LUT 設定</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation>補正</translation>
+    </message>
+    <message>
+        <source>DPC:</source>
+        <translation>DPC:</translation>
+    </message>
+    <message>
+        <source>HPC:</source>
+        <translation>HPC:</translation>
+    </message>
+    <message>
+        <source>Image Flip</source>
+        <translation>画像反転</translation>
+    </message>
+    <message>
+        <source>H.Mirror</source>
+        <translation>水平反転</translation>
+    </message>
+    <message>
+        <source>V.Mirror</source>
+        <translation>垂直反転</translation>
+    </message>
+    <message>
+        <source>Test Mode</source>
+        <translation>テストモード</translation>
+    </message>
+    <message>
+        <source>Test Pattern:</source>
+        <translation>テストパターン:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigPulseDialog</name>
+    <message>
+        <source>Pulse Control</source>
+        <translation>パルス制御</translation>
+    </message>
+    <message>
+        <source>Internal Pulse Generator</source>
+        <translation>内部パルスジェネレーター</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>パルス幅</translation>
+    </message>
+    <message>
+        <source>Granularity:</source>
+        <translation>分解能:</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>周期</translation>
+    </message>
+    <message>
+        <source>Freq. [Hz]:</source>
+        <translation>周波数 [Hz]:</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S, Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S, Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Number of Pulses</source>
+        <translation>パルス数</translation>
+    </message>
+    <message>
+        <source>Continious</source>
+        <translation>連続</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>送信</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Strobe Control</source>
+        <translation>ストロボ制御</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation>ストロボ 1</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>モード:</translation>
+    </message>
+    <message>
+        <source>Reference:</source>
+        <translation>基準:</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation>ストロボ 2</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>Out1:</source>
+        <translation>Out1:</translation>
+    </message>
+    <message>
+        <source>Out2:</source>
+        <translation>Out2:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigTriggerDialog</name>
+    <message>
+        <source>Trigger Control</source>
+        <translation>トリガー制御</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Trigger Source:</source>
+        <translation>トリガーソース:</translation>
+    </message>
+    <message>
+        <source>Edge:</source>
+        <translation>エッジ:</translation>
+    </message>
+    <message>
+        <source>Debounce:</source>
+        <translation>デバウンス:</translation>
+    </message>
+    <message>
+        <source>Software
+Trigger</source>
+        <translation>ソフトウェア
+トリガー</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCameraSelectorDialog</name>
+    <message>
+        <source>Select camera</source>
+        <translation>カメラの選択</translation>
+    </message>
+    <message>
+        <source>&amp;Interface info</source>
+        <translation>インターフェイス情報(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Device info</source>
+        <translation>デバイス情報(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Set IP Address</source>
+        <translation>IP アドレスの設定</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::CameraInformation</name>
+    <message>
+        <source>OrvCameraConfiguration</source>
+        <translation>OrvCameraConfiguration</translation>
+    </message>
+    <message>
+        <source>1.3.0 (build 2230) </source>
+        <translation>1.3.0 (ビルド 2230) </translation>
+    </message>
+    <message>
+        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
+        <translation>Copyright %1 2016 OrvCameraGuiApi 開発者</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>該当なし</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfig</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>%1C</source>
+        <translation>%1C</translation>
+    </message>
+    <message>
+        <source>Select a device</source>
+        <translation>デバイスの選択</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened!</source>
+        <translation>カメラ %1 を開けません。</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigFrameABDialog</name>
+    <message>
+        <source>%1s</source>
+        <translation>%1s</translation>
+    </message>
+    <message>
+        <source>[%1]:</source>
+        <translation>[%1]:</translation>
+    </message>
+    <message>
+        <source>Dual Video
+Line Time [pclk]:</source>
+        <translation>デュアルビデオ
+ライン時間 [pclk]:</translation>
+    </message>
+    <message>
+        <source>Exposure Time </source>
+        <translation>露光時間 </translation>
+    </message>
+    <message>
+        <source>Line Time [pclk]:</source>
+        <translation>ライン時間 [pclk]:</translation>
+    </message>
+    <message>
+        <source>OffsetX:</source>
+        <translation>オフセット X:</translation>
+    </message>
+    <message>
+        <source>OffsetY:</source>
+        <translation>オフセット Y:</translation>
+    </message>
+    <message>
+        <source>Width: </source>
+        <translation>幅: </translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高さ:</translation>
+    </message>
+    <message>
+        <source>Digital Gain:</source>
+        <translation>デジタルゲイン:</translation>
+    </message>
+    <message>
+        <source>Black Level:</source>
+        <translation>黒レベル:</translation>
+    </message>
+    <message>
+        <source>The trigger is switched off.</source>
+        <translation>トリガーはオフです。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigMapper</name>
+    <message>
+        <source>Error while setting the %1 integer value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>整数値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>列挙値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while executing the %1 command!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>コマンド %1 の実行中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 boolean value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation>ブール値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigOutputDialog</name>
+    <message>
+        <source>Dyn.Thres.:</source>
+        <translation>動的閾値:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigPulseDialog</name>
+    <message>
+        <source> [%1s]:</source>
+        <translation> [%1s]:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigStrobeDialog</name>
+    <message>
+        <source>Delay [%1s]:</source>
+        <translation>遅延 [%1s]:</translation>
+    </message>
+    <message>
+        <source>Width [%1s]:</source>
+        <translation>幅 [%1s]:</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCameraSelectorDialog</name>
+    <message>
+        <source>Set IP address</source>
+        <translation>IP アドレスの設定</translation>
+    </message>
+    <message>
+        <source>&amp;Rescan</source>
+        <translation>再検索(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Display name</source>
+        <translation>表示名</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>ベンダー</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>Access status</source>
+        <translation>アクセス状態</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC アドレス</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>IP アドレス</translation>
+    </message>
+    <message>
+        <source>Netmask</source>
+        <translation>ネットマスク</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>ゲートウェイ</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>ReadWrite</source>
+        <translation>読み書き可能</translation>
+    </message>
+    <message>
+        <source>ReadOnly</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>NO ACCESS</source>
+        <translation>アクセス不可</translation>
+    </message>
+    <message>
+        <source>IP Subnet Mismatch</source>
+        <translation>IP サブネット不一致</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>USB3 Vision</source>
+        <translation>USB3 Vision</translation>
+    </message>
+    <message>
+        <source>GigE Vision</source>
+        <translation>GigE Vision</translation>
+    </message>
+    <message>
+        <source>CameraLink</source>
+        <translation>CameraLink</translation>
+    </message>
+    <message>
+        <source>CoaXPress</source>
+        <translation>CoaXPress</translation>
+    </message>
+    <message>
+        <source>HD-SDI</source>
+        <translation>HD-SDI</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Set IP Address</source>
+        <translation>IP アドレスの設定</translation>
+    </message>
+    <message>
+        <source>Can&apos;t set IP address</source>
+        <translation>IP アドレスを設定できません</translation>
+    </message>
+    <message>
+        <source>IP Configuration Warning</source>
+        <translation>IP 設定の警告</translation>
+    </message>
+    <message>
+        <source>Specified IP Configuraion is not correct, camera may become undiscoverable
+Press OK to skip the IP Configuration, or press Ignore to confirm</source>
+        <translation>指定された IP 設定は正しくありません。カメラを検出できなくなるおそれがあります
+IP 設定を中止するには [OK]、そのまま設定するには [無視] を押してください</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>The output failed.</source>
+        <translation>出力に失敗しました。</translation>
+    </message>
+    <message>
+        <source>The picture &apos;%1&apos; cannot be written.</source>
+        <translation>画像「%1」を書き込めません。</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is gone.</source>
+        <translation>カメラ「%1」は取り外されました。</translation>
+    </message>
+    <message>
+        <source>The camera system cannot be started.</source>
+        <translation>カメラシステムを起動できません。</translation>
+    </message>
+</context>
+<context>
+    <name>QtOrvSpinBox</name>
+    <message>
+        <source>Show a slider</source>
+        <translation>スライダーを表示</translation>
+    </message>
+</context>
+<context>
+    <name>SetIpDialog</name>
+    <message>
+        <source>Set IP Address</source>
+        <translation>IP アドレスの設定</translation>
+    </message>
+    <message>
+        <source>Network Adapter IP Configuration</source>
+        <translation>ネットワークアダプターの IP 設定</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC アドレス</translation>
+    </message>
+    <message>
+        <source>IP Address</source>
+        <translation>IP アドレス</translation>
+    </message>
+    <message>
+        <source>Subnet Mask       </source>
+        <translation>サブネットマスク       </translation>
+    </message>
+    <message>
+        <source>Camera IP Configuration</source>
+        <translation>カメラの IP 設定</translation>
+    </message>
+    <message>
+        <source>IP &amp;Address</source>
+        <translation>IP アドレス(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Subnet Mask</source>
+        <translation>サブネットマスク(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Default &amp;Gateway</source>
+        <translation>デフォルトゲートウェイ(&amp;G)</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <source>Subnet mask mismatch!</source>
+        <translation>サブネットマスクが一致しません。</translation>
+    </message>
+    <message>
+        <source>Subnet IP mismatch!</source>
+        <translation>IP サブネットが一致しません。</translation>
+    </message>
+    <message>
+        <source>Incorrect IP address!</source>
+        <translation>IP アドレスが正しくありません。</translation>
+    </message>
+    <message>
+        <source>IP Configuration OK</source>
+        <translation>IP 設定は正常です</translation>
+    </message>
+</context>
+</TS>
