@@ -55,20 +55,6 @@ struct CountingCamera
     NodeMapDevice device;
 };
 
-void refuse()
-{
-    throw GenICam::AccessException("no", __FILE__, __LINE__);
-}
-
-template<class T>
-T *part(const QWidget &dialog, const char *name)
-{
-    T *widget = dialog.findChild<T *>(QLatin1String(name));
-    if (!widget)
-        qFatal("No %s", name);
-    return widget;
-}
-
 QComboBox *combo(const QWidget &dialog, const char *name)
 {
     return part<QComboBox>(dialog, name);
@@ -76,8 +62,7 @@ QComboBox *combo(const QWidget &dialog, const char *name)
 
 void click(const QWidget &dialog, const char *name)
 {
-    auto *button = part<QAbstractButton>(dialog, name);
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+    ::click(part(dialog, name));
 }
 
 /// Opens the list and clicks on the entry, as a user does.
@@ -92,13 +77,6 @@ void choose(QComboBox *box, const QString &text)
     QTest::mouseMove(box->view()->viewport(), box->view()->visualRect(item).center());
     QTest::mouseClick(box->view()->viewport(), Qt::LeftButton, {},
                       box->view()->visualRect(item).center());
-}
-
-void type(QtOrvSpinBox *spinBox, const char *number)
-{
-    spinBox->spinBox()->selectAll();
-    QTest::keyClicks(spinBox->spinBox(), QLatin1String(number));
-    QTest::keyClick(spinBox->spinBox(), Qt::Key_Return);
 }
 
 QStringList disabled(const QWidget &dialog, std::initializer_list<const char *> names)
@@ -150,27 +128,17 @@ class TestFeatureDialogs : public QObject
 
 private slots:
     void initTestCase() { QApplication::setDoubleClickInterval(20); }
-    void triggerBothDirections();
     void triggerRules();
-    void pulseBothDirections();
     void pulseForm();
     void pulseDerivedValues();
     void pulseButton();
     void pulseAccess();
-    void withoutCamera_data() { dialogs(); }
-    void withoutCamera();
     void missingFeatures_data() { dialogs(); }
     void missingFeatures();
     void closing_data() { dialogs(); }
     void closing();
-    void settingAgain();
-    void lifetimes_data() { dialogs(); }
-    void lifetimes();
     void fromInside();
-    void sharing();
-    void readsOnce();
     void transactions();
-    void refusals();
 
 private:
     void dialogs();
@@ -181,40 +149,6 @@ void TestFeatureDialogs::dialogs()
     QTest::addColumn<MakeDialog>("make");
     QTest::newRow("trigger") << maker<OrvCamConfigTriggerDialog>();
     QTest::newRow("pulse") << maker<OrvCamConfigPulseDialog>();
-}
-
-void TestFeatureDialogs::triggerBothDirections()
-{
-    SimulatedDevice sim;
-    OrvCamConfigTriggerDialog dialog(&sim.device);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-
-    click(dialog, "chBoxTriggerEnable");
-    QCOMPARE(sim.get("TriggerMode"), QStringLiteral("On"));
-    choose(combo(dialog, "cmBoxTriggerSource"), "Software");
-    QCOMPARE(sim.get("TriggerSource"), QStringLiteral("Software"));
-    choose(combo(dialog, "cmBoxTriggerEdge"), "FallingEdge");
-    QCOMPARE(sim.get("TriggerActivation"), QStringLiteral("FallingEdge"));
-    choose(combo(dialog, "cmBoxTriggerDebounce"), "Us50");
-    QCOMPARE(sim.get("TriggerDebounce"), QStringLiteral("Us50"));
-    const int count = sim.get("TriggerCount").toInt();
-    click(dialog, "pushBtnSoftwareTrigger");
-    sim.camera.advance(0);
-    QCOMPARE(sim.get("TriggerCount").toInt(), count + 1);
-    QVERIFY(part<QWidget>(dialog, "pushBtnSoftwareTrigger")->isEnabled());
-    click(dialog, "chBoxTriggerEnable");
-    QCOMPARE(sim.get("TriggerMode"), QStringLiteral("Off"));
-
-    sim.set("TriggerMode", "On");
-    QVERIFY(part<QCheckBox>(dialog, "chBoxTriggerEnable")->isChecked());
-    sim.set("TriggerSource", "IN2");
-    QCOMPARE(combo(dialog, "cmBoxTriggerSource")->currentText(), QStringLiteral("IN2"));
-    sim.set("TriggerActivation", "RisingEdge");
-    QCOMPARE(combo(dialog, "cmBoxTriggerEdge")->currentText(), QStringLiteral("RisingEdge"));
-    sim.set("TriggerDebounce", "Ms10");
-    QCOMPARE(combo(dialog, "cmBoxTriggerDebounce")->currentText(), QStringLiteral("Ms10"));
-    QCOMPARE(combo(dialog, "cmBoxTriggerDebounce")->count(), 8);
 }
 
 void TestFeatureDialogs::triggerRules()
@@ -272,49 +206,6 @@ void TestFeatureDialogs::triggerRules()
     QVERIFY(state(dialog).contains("cmBoxTriggerDebounce"));
     camera.debounce.changed();
     QVERIFY(!state(dialog).contains("cmBoxTriggerDebounce"));
-}
-
-void TestFeatureDialogs::pulseBothDirections()
-{
-    SimulatedDevice sim;
-    OrvCamConfigPulseDialog dialog(&sim.device);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const auto spinBox = [&](const char *name) { return part<QtOrvSpinBox>(dialog, name); };
-
-    choose(combo(dialog, "cmBoxGranularity"), "Us100");
-    QCOMPARE(sim.get("PulseGenGranularity"), QStringLiteral("Us100"));
-    type(spinBox("spBoxPeriod"), "5000");
-    QCOMPARE(sim.get("PulseGenPeriod"), QStringLiteral("5000"));
-    type(spinBox("spBoxWidth"), "750");
-    QCOMPARE(sim.get("PulseGenWidth"), QStringLiteral("750"));
-    click(dialog, "radioBtnSend");
-    QCOMPARE(sim.get("PulseGenMode"), QStringLiteral("Burst"));
-    type(spinBox("spBoxNumPulses"), "12");
-    QCOMPARE(sim.get("PulseGenNumPulses"), QStringLiteral("12"));
-    QTest::keyClick(spinBox("spBoxNumPulses")->spinBox(), Qt::Key_Up);
-    QCOMPARE(sim.get("PulseGenNumPulses"), QStringLiteral("13"));
-    click(dialog, "radioBtnContinious");
-    QCOMPARE(sim.get("PulseGenMode"), QStringLiteral("Continuous"));
-    click(dialog, "pushBtnPulseEnable");
-    QCOMPARE(sim.get("PulseGenEnable"), QStringLiteral("1"));
-    dialog.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    QTest::keySequence(&dialog, QKeySequence("Ctrl+Shift+S, Ctrl+Shift+S"));
-    QTRY_COMPARE(sim.get("PulseGenEnable"), QStringLiteral("0")); // the button shows the click
-
-    sim.set("PulseGenGranularity", "Ms1");
-    QCOMPARE(combo(dialog, "cmBoxGranularity")->currentText(), QStringLiteral("Ms1"));
-    sim.set("PulseGenPeriod", "8000000");
-    QCOMPARE(spinBox("spBoxPeriod")->value(), 8000000);
-    sim.set("PulseGenWidth", "3");
-    QCOMPARE(spinBox("spBoxWidth")->value(), 3);
-    sim.set("PulseGenMode", "Burst");
-    QVERIFY(part<QRadioButton>(dialog, "radioBtnSend")->isChecked());
-    sim.set("PulseGenNumPulses", "65535");
-    QCOMPARE(spinBox("spBoxNumPulses")->value(), 65535);
-    sim.set("PulseGenEnable", "1");
-    QVERIFY(part<QPushButton>(dialog, "pushBtnPulseEnable")->isChecked());
 }
 
 void TestFeatureDialogs::pulseForm()
@@ -439,34 +330,6 @@ void TestFeatureDialogs::pulseAccess()
     QCOMPARE(disabled(late, pulseNames), whileRunning);
 }
 
-void TestFeatureDialogs::withoutCamera()
-{
-    QFETCH(MakeDialog, make);
-    CountingCamera good;
-    CountingCamera bad;
-    const auto dialog = make(nullptr);
-    dialog->show();
-    QVERIFY(!dialog->isEnabled());
-    QVERIFY(!dialog->windowTitle().isEmpty());
-    dialog->SetDevice(&good.device);
-    QVERIFY(dialog->isEnabled());
-    QCOMPARE(good.device.asked, 1);
-    bad.device.error = OrvCam::ErrorTimeout;
-    dialog->SetDevice(&bad.device);
-    QVERIFY(!dialog->isEnabled());
-    bad.device.error = OrvCam::Success;
-    bad.device.Release();
-    dialog->SetDevice(&bad.device);
-    QVERIFY(!dialog->isEnabled());
-    dialog->SetDevice(&good.device);
-    QVERIFY(dialog->isEnabled());
-    dialog->SetDevice(nullptr);
-    QVERIFY(!dialog->isEnabled());
-    good.mode.change(1);
-    good.period.change(5);
-    QVERIFY(!dialog->isEnabled());
-}
-
 void TestFeatureDialogs::missingFeatures()
 {
     QFETCH(MakeDialog, make);
@@ -529,110 +392,6 @@ void TestFeatureDialogs::closing()
     connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
     dialog->close();
     QVERIFY(!dialog);
-}
-
-void TestFeatureDialogs::settingAgain()
-{
-    CountingCamera camera;
-    camera.mode.change(1);
-    camera.source.change(1);
-    OrvCamConfigTriggerDialog trigger(&camera.device);
-    OrvCamConfigPulseDialog pulse(&camera.device);
-    for (int i = 0; i < 10; ++i) {
-        trigger.SetDevice(&camera.device);
-        pulse.SetDevice(&camera.device);
-    }
-    trigger.show();
-    pulse.show();
-    QVERIFY(disabled(trigger, triggerNames).isEmpty());
-    QVERIFY(disabled(pulse, pulseNames).isEmpty());
-    QCOMPARE(combo(trigger, "cmBoxTriggerSource")->count(), 3);
-
-    click(trigger, "pushBtnSoftwareTrigger");
-    QCOMPARE(camera.fire.writes(), 1);
-    choose(combo(trigger, "cmBoxTriggerEdge"), "Falling");
-    QCOMPARE(camera.edge.writes(), 1);
-    choose(combo(trigger, "cmBoxTriggerDebounce"), "Long");
-    QCOMPARE(camera.debounce.writes(), 1);
-    choose(combo(trigger, "cmBoxTriggerSource"), "Line");
-    QCOMPARE(camera.source.writes(), 1);
-    click(trigger, "chBoxTriggerEnable");
-    QCOMPARE(camera.mode.writes(), 1);
-    choose(combo(pulse, "cmBoxGranularity"), "Ms1");
-    QCOMPARE(camera.granularity.writes(), 1);
-    type(part<QtOrvSpinBox>(pulse, "spBoxPeriod"), "500");
-    QCOMPARE(camera.period.writes(), 1);
-    type(part<QtOrvSpinBox>(pulse, "spBoxWidth"), "50");
-    QCOMPARE(camera.width.writes(), 1);
-    type(part<QtOrvSpinBox>(pulse, "spBoxNumPulses"), "5");
-    QCOMPARE(camera.pulses.writes(), 1);
-    click(pulse, "radioBtnSend");
-    QCOMPARE(camera.pulseMode.writes(), 1);
-    click(pulse, "pushBtnPulseEnable");
-    QCOMPARE(camera.enable.writes(), 1);
-
-    // Nor does the first camera get what is meant for the second.
-    CountingCamera second;
-    pulse.SetDevice(&second.device);
-    camera.period.change(77);
-    camera.width.setAccessMode(GenApi::NA);
-    QCOMPARE(part<QtOrvSpinBox>(pulse, "spBoxPeriod")->value(), 1000);
-    QVERIFY(part<QWidget>(pulse, "spBoxWidth")->isEnabled());
-    type(part<QtOrvSpinBox>(pulse, "spBoxPeriod"), "400");
-    QCOMPARE(camera.period.writes(), 1);
-    QCOMPARE(second.period.writes(), 1);
-}
-
-void TestFeatureDialogs::lifetimes()
-{
-    QFETCH(MakeDialog, make);
-    const auto pokeAll = [](CountingCamera &camera) {
-        for (MemoryEnumeration *node :
-             {&camera.mode, &camera.source, &camera.edge, &camera.debounce, &camera.granularity})
-            node->change(1 - node->GetIntValue());
-        camera.period.change(4);
-        camera.width.change(3);
-        camera.pulseMode.change(4);
-        camera.enable.change(true);
-        camera.fire.changed();
-    };
-    auto camera = std::make_unique<CountingCamera>();
-    camera->granularity.change(0);
-
-    // The dialog goes first, shown or not.
-    for (bool shown : {false, true}) {
-        auto dialog = make(&camera->device);
-        dialog->setVisible(shown);
-        dialog.reset();
-        pokeAll(*camera);
-    }
-
-    // The camera goes first: nothing is left that could be used, until there is another one.
-    const auto dialog = make(&camera->device);
-    dialog->show();
-    const auto names = dialog->findChild<QCheckBox *>() ? triggerNames : pulseNames;
-    QVERIFY(disabled(*dialog, names) != list(names));
-    camera->device.Release();
-    QCOMPARE(disabled(*dialog, names), list(names));
-    camera.reset();
-    for (const char *name : names) {
-        auto *widget = part<QWidget>(*dialog, name);
-        QTest::mouseClick(widget, Qt::LeftButton);
-        QTest::keyClick(widget, Qt::Key_Down);
-    }
-    dialog->close();
-    dialog->show();
-    CountingCamera next;
-    dialog->SetDevice(&next.device);
-    QVERIFY(disabled(*dialog, names) != list(names));
-    pokeAll(next);
-
-    // Both lost and back under the same device.
-    next.device.array->detach(OrvCam::ErrorGone);
-    QCOMPARE(disabled(*dialog, names), list(names));
-    next.device.array = std::make_unique<OrvGenParam::NodeMapArray>(next.map);
-    dialog->SetDevice(&next.device);
-    QVERIFY(disabled(*dialog, names) != list(names));
 }
 
 void TestFeatureDialogs::fromInside()
@@ -705,64 +464,6 @@ void TestFeatureDialogs::fromInside()
     QCOMPARE(boxes.texts, QStringList());
 }
 
-void TestFeatureDialogs::sharing()
-{
-    CountingCamera camera;
-    OrvCamConfigPulseDialog one(&camera.device);
-    auto two = std::make_unique<OrvCamConfigPulseDialog>(&camera.device);
-    OrvCamConfigTriggerDialog other(&camera.device);
-    one.show();
-    two->show();
-    type(part<QtOrvSpinBox>(one, "spBoxPeriod"), "640");
-    QCOMPARE(part<QtOrvSpinBox>(*two, "spBoxPeriod")->value(), 640);
-    QCOMPARE(part<QLineEdit>(*two, "lineEditDelay")->text(), QStringLiteral("440"));
-    click(*two, "radioBtnSend");
-    QVERIFY(part<QRadioButton>(one, "radioBtnSend")->isChecked());
-    QCOMPARE(camera.period.writes() + camera.pulseMode.writes(), 2);
-    two->SetDevice(nullptr);
-    type(part<QtOrvSpinBox>(one, "spBoxPeriod"), "650");
-    QCOMPARE(part<QtOrvSpinBox>(*two, "spBoxPeriod")->value(), 640);
-    two->SetDevice(&camera.device);
-    QCOMPARE(part<QtOrvSpinBox>(*two, "spBoxPeriod")->value(), 650);
-    two.reset();
-    type(part<QtOrvSpinBox>(one, "spBoxPeriod"), "660");
-    QCOMPARE(camera.period.writes(), 3);
-}
-
-void TestFeatureDialogs::readsOnce()
-{
-    CountingCamera camera;
-    const auto reads = [&] {
-        return QVector<int>{
-            camera.mode.reads(),      camera.source.reads(), camera.edge.reads(),
-            camera.debounce.reads(),  camera.fire.reads(),   camera.granularity.reads(),
-            camera.period.reads(),    camera.width.reads(),  camera.pulses.reads(),
-            camera.pulseMode.reads(), camera.enable.reads()};
-    };
-    for (Node *node : std::initializer_list<Node *>{
-             &camera.mode, &camera.source, &camera.edge, &camera.debounce, &camera.granularity,
-             &camera.period, &camera.width, &camera.pulses, &camera.pulseMode, &camera.enable})
-        node->properties().cachingMode = GenApi::NoCache; // each time that one is asked for counts
-    QCOMPARE(reads(), QVector<int>(11));
-    OrvCamConfigTriggerDialog trigger(&camera.device);
-    QCOMPARE(reads(), QVector<int>({1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0}));
-    OrvCamConfigPulseDialog pulse(&camera.device);
-    const QVector<int> once{1, 1, 1, 1, 0, 1, 1, 1, 1, 1, 1};
-    QCOMPARE(reads(), once);
-    trigger.show();
-    pulse.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&pulse));
-    QTest::qWait(300);
-    QCOMPARE(reads(), once);
-
-    // A change, whoever makes it, is shown by one more.
-    camera.edge.change(1);
-    camera.width.change(30);
-    click(pulse, "radioBtnSend");
-    type(part<QtOrvSpinBox>(pulse, "spBoxPeriod"), "500");
-    QCOMPARE(reads(), QVector<int>({1, 1, 2, 1, 0, 1, 2, 2, 1, 2, 1}));
-}
-
 void TestFeatureDialogs::transactions()
 {
     SimulatedDevice sim;
@@ -803,99 +504,6 @@ void TestFeatureDialogs::transactions()
     QCOMPARE(cost([&] { sim.set("PulseGenWidth", "7"); }), oneWrite);
     QCOMPARE(cost([&] { click(*pulse, "radioBtnSend"); }), Cost(1, 1)); // now there is a number
     QCOMPARE(cost([&] { click(*pulse, "pushBtnPulseEnable"); }), oneWrite);
-}
-
-void TestFeatureDialogs::refusals()
-{
-    CountingCamera camera;
-    camera.mode.change(1);
-    camera.source.change(1);
-    OrvCamConfigTriggerDialog trigger(&camera.device);
-    OrvCamConfigPulseDialog pulse(&camera.device);
-    trigger.show();
-    pulse.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&pulse));
-    for (MemoryEnumeration *node : {&camera.mode, &camera.source, &camera.edge, &camera.debounce,
-                                    &camera.granularity, &camera.pulseMode})
-        node->onWrite(refuse);
-    for (MemoryInteger *node : {&camera.period, &camera.width, &camera.pulses})
-        node->onWrite(refuse);
-    camera.fire.onWrite(refuse);
-    camera.enable.onWrite(refuse);
-
-    ErrorBoxes boxes;
-    const auto one = [&](const char *text) {
-        const QStringList seen = std::exchange(boxes.texts, {});
-        return seen == QStringList(QLatin1String(text) + "\r\nError Code: -5");
-    };
-    click(trigger, "pushBtnSoftwareTrigger");
-    QVERIFY(one("Error while executing the TriggerSoftware command!"));
-    choose(combo(trigger, "cmBoxTriggerEdge"), "Falling");
-    QVERIFY(one("Error while setting the TriggerActivation enumeration value!"));
-    QCOMPARE(combo(trigger, "cmBoxTriggerEdge")->currentText(), QStringLiteral("Falling"));
-    choose(combo(trigger, "cmBoxTriggerSource"), "Line");
-    QVERIFY(one("Error while setting the TriggerSource enumeration value!"));
-    click(trigger, "chBoxTriggerEnable");
-    QVERIFY(one("Error while setting the TriggerMode enumeration value!"));
-    click(pulse, "radioBtnSend");
-    QVERIFY(one("Error while setting the PulseGenMode enumeration value!"));
-    click(pulse, "pushBtnPulseEnable");
-    QVERIFY(one("Error while setting the PulseGenEnable boolean value!"));
-    type(part<QtOrvSpinBox>(pulse, "spBoxNumPulses"), "12345");
-    QVERIFY(one("Error while setting the PulseGenNumPulses integer value!"));
-
-    // The next word of the camera puts all right, and everything works as before.
-    for (MemoryEnumeration *node : {&camera.mode, &camera.source, &camera.edge, &camera.pulseMode})
-        node->onWrite({}), node->changed();
-    camera.pulses.onWrite({});
-    camera.pulses.changed();
-    QCOMPARE(combo(trigger, "cmBoxTriggerEdge")->currentText(), QStringLiteral("Rising"));
-    QVERIFY(part<QRadioButton>(pulse, "radioBtnContinious")->isChecked());
-    QCOMPARE(part<QtOrvSpinBox>(pulse, "spBoxNumPulses")->value(), 10);
-    choose(combo(trigger, "cmBoxTriggerEdge"), "Falling");
-    click(pulse, "radioBtnSend");
-    QCOMPARE(camera.edge.GetIntValue(), int64_t(1));
-    QCOMPARE(camera.pulseMode.GetIntValue(), int64_t(4));
-
-    // How often a user who holds on writes, and is told that it is refused.
-    auto *width = part<QtOrvSpinBox>(pulse, "spBoxWidth");
-    const auto hold = [&](QWidget *widget, const QPoint &point, const char *what) {
-        const int writes = camera.width.writes();
-        boxes.texts.clear();
-        QTest::mousePress(widget, Qt::LeftButton, {}, point);
-        QTest::qWait(1500);
-        QTest::mouseRelease(widget, Qt::LeftButton, {}, point);
-        const QPair<int, int> seen(camera.width.writes() - writes, boxes.texts.size());
-        qInfo("%s held for 1.5 s: %d writes, %d boxes", what, seen.first, seen.second);
-        return seen;
-    };
-    const auto drag = [&](const char *what) {
-        const int writes = camera.width.writes();
-        boxes.texts.clear();
-        QTest::mouseClick(width->toolButton(), Qt::LeftButton);
-        QSlider *slider = width->slider()->slider();
-        if (!slider->isVisible())
-            qFatal("The slider does not open");
-        const QPoint from = handleOf(slider);
-        dragBy(slider, from, QPoint(1, 0), 40);
-        QTest::mouseRelease(slider, Qt::LeftButton, {}, from + QPoint(40, 0));
-        QTest::keyClick(slider, Qt::Key_Escape);
-        QTest::qWait(1); // a refusal lets go of the widget once more afterwards
-        const QPair<int, int> seen(camera.width.writes() - writes, boxes.texts.size());
-        qInfo("%s of 40 moves: %d writes, %d boxes", what, seen.first, seen.second);
-        return seen;
-    };
-    using Seen = QPair<int, int>;
-    const QPoint upButton(width->spinBox()->width() - 5, 5);
-    QCOMPARE(hold(width->spinBox(), upButton, "Refused spin button"), Seen(1, 1));
-    camera.width.changed();
-    QCOMPARE(drag("Refused drag"), Seen(1, 1));
-    camera.width.onWrite({});
-    camera.width.changed();
-    const Seen held = hold(width->spinBox(), upButton, "Spin button");
-    QVERIFY(held.first > 3 && held.second == 0);
-    QCOMPARE(drag("Drag"), Seen(1, 0));
-    QVERIFY(pulse.isVisible() && width->isEnabled());
 }
 
 QTEST_MAIN(TestFeatureDialogs)

@@ -78,10 +78,7 @@ namespace {
 template<class Widget = QLineEdit>
 Widget &child(const QWidget &window, const char *name)
 {
-    auto *found = window.findChild<Widget *>(QString::fromLatin1(name));
-    if (!found)
-        qFatal("There is no %s", name);
-    return *found;
+    return *part<Widget>(window, name);
 }
 
 QString textOf(const QWidget &window, const char *lineEdit)
@@ -91,10 +88,7 @@ QString textOf(const QWidget &window, const char *lineEdit)
 
 QAction &action(const QWidget &window, const char *name)
 {
-    auto *found = window.findChild<QAction *>(QString::fromLatin1(name));
-    if (!found)
-        qFatal("There is no %s", name);
-    return *found;
+    return *part<QAction>(window, name);
 }
 
 QString statusOf(const QWidget &window)
@@ -130,22 +124,11 @@ QString selectedColumn(OrvGenParam::Array &array)
 }
 
 /// The simulated camera, opened without a system.
-struct Simulation
+struct Simulation : SimulatedDevice
 {
-    OrvSimulation::SimulatedCamera camera;
-    const std::unique_ptr<OrvAravis::NodeMap> map = OrvAravis::NodeMap::open(camera.device());
-    NodeMapDevice device{*map};
-    OrvGenParam::Array &array = *device.array;
-
     void select(const char *frame) { set("FrameAB_Selector", frame); }
-    void set(const char *feature, const char *value)
-    {
-        QCOMPARE(array.GetEnum(feature)->SetSymbolicValue(value), 0);
-    }
-    void set(const char *feature, int64_t value)
-    {
-        QCOMPARE(array.GetInt(feature)->SetValue(value), 0);
-    }
+
+    OrvGenParam::Array &array = *device.array;
 };
 
 /// Picks the camera with that row in the picker; cancels for -1.
@@ -331,8 +314,8 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QVERIFY(simulation.map);
     simulation.set("FrameMode", "DualVideo");
     simulation.select("FrameB");
-    simulation.set("Frame_Width", 1024);
-    simulation.set("Frame_ExposureLines", 321);
+    simulation.set("Frame_Width", "1024");
+    simulation.set("Frame_ExposureLines", "321");
     const QString atFirstB = selectedColumn(simulation.array);
     simulation.select("FrameA");
     const QString atFirstA = selectedColumn(simulation.array);
@@ -347,7 +330,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QCOMPARE(child<QLabel>(window, "lblTemperature").text(), QString::fromUtf8("\u00b0C"));
 
     // Within a second, by itself, and only the frame that is addressed.
-    simulation.set("Frame_ExposureLines", 77);
+    simulation.set("Frame_ExposureLines", "77");
     const QString changedA = selectedColumn(simulation.array);
     QVERIFY(changedA != atFirstA);
     QElapsedTimer timer;
@@ -357,7 +340,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QCOMPARE(columnOf(window, 'B'), atFirstB);
 
     simulation.select("FrameB");
-    simulation.set("Frame_Height", 512);
+    simulation.set("Frame_Height", "512");
     const QString changedB = selectedColumn(simulation.array);
     QVERIFY(changedB != atFirstB);
     tick(window);
@@ -412,7 +395,7 @@ void TestOrvCamConfigMainWindow::disturbsNobody()
 {
     Simulation simulation;
     simulation.select("FrameB");
-    simulation.set("Frame_ExposureLines", 500);
+    simulation.set("Frame_ExposureLines", "500");
     simulation.select("FrameA");
     simulation.set("FrameMode", "FrameA");
 
@@ -625,54 +608,32 @@ void TestOrvCamConfigMainWindow::ownership_data()
 {
     // What happens, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx the host
     // sets a device of its own, or none; d disconnects; u0, u1 unplug and p0, p1 plug in a camera.
-    QTest::addColumn<QString>("story");
     QTest::addColumn<QString>("status");
-    QTest::newRow("nothing") << ""
-                             << "Disconnected";
-    QTest::newRow("close") << "c0"
-                           << "First";
-    QTest::newRow("disconnect") << "c0 d"
-                                << "Disconnected";
-    QTest::newRow("same again") << "c0 c0"
-                                << "First";
-    QTest::newRow("another") << "c0 c1"
-                             << "Second";
-    QTest::newRow("cancelled") << "c0 cx"
-                               << "Disconnected";
-    QTest::newRow("unplug, close") << "c0 u0"
-                                   << "Disconnected";
-    QTest::newRow("unplug and back") << "c0 u0 p0"
-                                     << "First";
-    QTest::newRow("unplug, another, first back") << "c0 u0 c1 p0"
-                                                 << "Second";
-    QTest::newRow("unplug, disconnect, back") << "c0 u0 d p0"
-                                              << "Disconnected";
-    QTest::newRow("unplug, host, back") << "c0 u0 h1 p0"
-                                        << "Second";
-    QTest::newRow("host") << "h0"
-                          << "First";
-    QTest::newRow("host's after own") << "c0 h1"
-                                      << "Second";
-    QTest::newRow("own after host's") << "h0 c1"
-                                      << "Second";
-    QTest::newRow("host's, unplugged, back") << "h0 u0 p0"
-                                             << "First";
-    QTest::newRow("host's, unplugged, taken away") << "h0 u0 hx p0"
-                                                   << "Disconnected";
-    QTest::newRow("host's twice") << "h0 h0 u0 p0 u0"
-                                  << "Disconnected";
-    QTest::newRow("host's disconnected") << "h0 d"
-                                         << "Disconnected";
-    QTest::newRow("host's unplugged before") << "h0 hx u0 h0 p0"
-                                             << "First";
+    const char *const rows[][2] = {{"c0 d", "Disconnected"},
+                                   {"c0 c0", "First"},
+                                   {"c0 c1", "Second"},
+                                   {"c0 cx", "Disconnected"},
+                                   {"c0 u0 p0", "First"},
+                                   {"c0 u0 c1 p0", "Second"},
+                                   {"c0 u0 d p0", "Disconnected"},
+                                   {"c0 u0 h1 p0", "Second"},
+                                   {"c0 h1", "Second"},
+                                   {"h0 c1", "Second"},
+                                   {"h0 u0 p0", "First"},
+                                   {"h0 u0 hx p0", "Disconnected"},
+                                   {"h0 d", "Disconnected"},
+                                   {"h0 h0 u0 p0 u0", "Disconnected"},
+                                   {"h0 hx u0 h0 p0", "First"}};
+    for (const auto &row : rows)
+        QTest::newRow(row[0]) << QString(row[1]);
 }
 
 void TestOrvCamConfigMainWindow::ownership()
 {
-    QFETCH(QString, story);
     QFETCH(QString, status);
+    const QString story = QTest::currentDataTag();
     Story told;
-    for (const QString &word : story.split(' ', Qt::SkipEmptyParts)) {
+    for (const QString &word : story.split(' ')) {
         QVERIFY2(told.perform(word), qPrintable(word));
         told.check();
         if (QTest::currentTestFailed())
