@@ -255,12 +255,12 @@ void TestStrobeOutputColor::missingFeature()
         QCOMPARE(part(*dialog, "pushBtnBlueUnity")->isEnabled(), isOther("BlueCoefficient"));
     }
 
-    // A camera that has it brings the control to life, and the poor one puts it down again.
-    Camera complete;
-    dialog->SetDevice(&complete.device);
-    QVERIFY(part(*dialog, control->name)->isEnabled());
-    dialog->SetDevice(&camera.device);
-    QVERIFY(!part(*dialog, control->name)->isEnabled());
+    // A camera that has it brings the control to life, and one without puts it down again.
+    for (const bool isComplete : {true, false}) {
+        camera.device.part.missing = {isComplete ? QByteArray() : QByteArray(control->feature)};
+        dialog->SetDevice(&camera.device);
+        QCOMPARE(part(*dialog, control->name)->isEnabled(), isComplete);
+    }
     QCOMPARE(boxes.texts, QStringList());
 }
 
@@ -365,31 +365,29 @@ void TestStrobeOutputColor::strobeCaptions()
 
 void TestStrobeOutputColor::strobePicture()
 {
-    {
-        Camera camera;
-        const auto dialog = open(Strobe, &camera.device);
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-        QTest::keyClick(part(*dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
-        QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
-        QTest::keyClick(part(*dialog, "cmBoxStrobe2Ref"), Qt::Key_Up);
-        QCOMPARE(pictureOf(dialog), resource("strobe1Read_strobe2Exp"));
-        camera.set("Strobe1Reference", "ExposureStart");
-        QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
-        camera.set("Strobe2Reference", "ReadoutStart");
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    Camera camera;
+    auto dialog = open(Strobe, &camera.device);
+    QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    QTest::keyClick(part(*dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
+    QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
+    QTest::keyClick(part(*dialog, "cmBoxStrobe2Ref"), Qt::Key_Up);
+    QCOMPARE(pictureOf(dialog), resource("strobe1Read_strobe2Exp"));
+    camera.set("Strobe1Reference", "ExposureStart");
+    QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
+    camera.set("Strobe2Reference", "ReadoutStart");
+    QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
 
-        // A camera that lacks a reference leaves the picture as it is.
-        Camera poor("Strobe2Reference");
-        dialog->SetDevice(&poor.device);
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-        poor.set("Strobe1Reference", "ReadoutStart");
-        QCOMPARE(part<QComboBox>(*dialog, "cmBoxStrobe1Ref")->currentText(),
-                 QStringLiteral("ReadoutStart"));
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-    }
-    Camera poor("Strobe1Reference");
-    const auto dialog = open(Strobe, &poor.device);
-    poor.set("Strobe2Reference", "ReadoutStart");
+    // A camera that lacks a reference leaves the picture as it is.
+    camera.device.part.missing = {"Strobe2Reference"};
+    dialog->SetDevice(&camera.device);
+    camera.set("Strobe1Reference", "ReadoutStart");
+    QCOMPARE(part<QComboBox>(*dialog, "cmBoxStrobe1Ref")->currentText(),
+             QStringLiteral("ReadoutStart"));
+    QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    camera.device.part.missing = {"Strobe1Reference"};
+    dialog = open(Strobe, &camera.device);
+    camera.set("Strobe2Reference", "ExposureStart");
+    camera.set("Strobe2Reference", "ReadoutStart");
     QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
 }
 
@@ -563,7 +561,8 @@ void TestStrobeOutputColor::automaticWhiteBalance()
 void TestStrobeOutputColor::statisticsOfOtherCamera()
 {
     Camera first;
-    Camera second;
+    const SimulatedCamera::Text text = SimulatedCamera::description();
+    DescribedDevice second(OrvAravis::NodeMap::fromText(text.data, text.size, "second"));
     second.set("RedCoefficient", "2222");
     const auto dialog = open(Color, &first.device);
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("320"));
