@@ -16,28 +16,8 @@ namespace {
 /// A camera that counts what is read and written, feature by feature, and can be made to fail.
 struct CountingCamera
 {
-    CountingCamera()
-        : mode(add("TriggerMode", {{"Off", 0}, {"On", 1}}))
-        , source(add("TriggerSource", {{"Line", 0}, {"Software", 1}, {"software", 2}}))
-        , edge(add("TriggerActivation", {{"Rising", 0}, {"Falling", 1}}))
-        , debounce(add("TriggerDebounce", {{"None", 0}, {"Long", 1}}))
-        , fire(map.addCommand("TriggerSoftware"))
-        , granularity(add("PulseGenGranularity", {{"Us1", 0}, {"Ms1", 3}}))
-        , period(add("PulseGenPeriod", 1000))
-        , width(add("PulseGenWidth", 200))
-        , pulses(add("PulseGenNumPulses", 10))
-        , pulseMode(add("PulseGenMode", {{"Endlos", 7}, {"Gezählt", 4}}))
-        , enable(map.addBoolean("PulseGenEnable"))
-        , device(map)
-    {
-        pulseMode.change(7);
-    }
+    CountingCamera() { pulseMode.change(7); }
 
-    MemoryEnumeration &add(const char *name,
-                           std::initializer_list<std::pair<std::string, int64_t>> entries)
-    {
-        return map.addEnumeration(name, entries);
-    }
     MemoryInteger &add(const char *name, int64_t value)
     {
         MemoryInteger &node = map.addInteger(name, value);
@@ -46,13 +26,22 @@ struct CountingCamera
     }
 
     MemoryNodeMap map;
-    MemoryEnumeration &mode, &source, &edge, &debounce;
-    MemoryCommand &fire;
-    MemoryEnumeration &granularity;
-    MemoryInteger &period, &width, &pulses;
-    MemoryEnumeration &pulseMode;
-    MemoryBoolean &enable;
-    NodeMapDevice device;
+    MemoryEnumeration &mode = map.addEnumeration("TriggerMode", {{"Off", 0}, {"On", 1}});
+    MemoryEnumeration &source =
+        map.addEnumeration("TriggerSource", {{"Line", 0}, {"Software", 1}, {"software", 2}});
+    MemoryEnumeration &edge =
+        map.addEnumeration("TriggerActivation", {{"Rising", 0}, {"Falling", 1}});
+    MemoryEnumeration &debounce = map.addEnumeration("TriggerDebounce", {{"None", 0}, {"Long", 1}});
+    MemoryCommand &fire = map.addCommand("TriggerSoftware");
+    MemoryEnumeration &granularity =
+        map.addEnumeration("PulseGenGranularity", {{"Us1", 0}, {"Ms1", 3}});
+    MemoryInteger &period = add("PulseGenPeriod", 1000);
+    MemoryInteger &width = add("PulseGenWidth", 200);
+    MemoryInteger &pulses = add("PulseGenNumPulses", 10);
+    MemoryEnumeration &pulseMode =
+        map.addEnumeration("PulseGenMode", {{"Endlos", 7}, {"Gezählt", 4}});
+    MemoryBoolean &enable = map.addBoolean("PulseGenEnable");
+    NodeMapDevice device{map};
 };
 
 QComboBox *combo(const QWidget &dialog, const char *name)
@@ -110,17 +99,7 @@ bool shows(const QWidget &dialog, const char *label, const char *resource)
            pixmap->toImage() == QPixmap(QLatin1String(resource)).toImage();
 }
 
-using MakeDialog = std::function<std::unique_ptr<OrvCamConfigDialog>(OrvCam::Device *)>;
-
-template<class Dialog>
-MakeDialog maker()
-{
-    return [](OrvCam::Device *device) { return std::make_unique<Dialog>(device, nullptr); };
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(MakeDialog)
 
 class TestFeatureDialogs : public QObject
 {
@@ -129,27 +108,13 @@ class TestFeatureDialogs : public QObject
 private slots:
     void initTestCase() { QApplication::setDoubleClickInterval(20); }
     void triggerRules();
-    void pulseForm();
     void pulseDerivedValues();
     void pulseButton();
     void pulseAccess();
-    void missingFeatures_data() { dialogs(); }
     void missingFeatures();
-    void closing_data() { dialogs(); }
-    void closing();
     void fromInside();
     void transactions();
-
-private:
-    void dialogs();
 };
-
-void TestFeatureDialogs::dialogs()
-{
-    QTest::addColumn<MakeDialog>("make");
-    QTest::newRow("trigger") << maker<OrvCamConfigTriggerDialog>();
-    QTest::newRow("pulse") << maker<OrvCamConfigPulseDialog>();
-}
 
 void TestFeatureDialogs::triggerRules()
 {
@@ -172,6 +137,7 @@ void TestFeatureDialogs::triggerRules()
                 click(dialog, "chBoxTriggerEnable");
         };
         change("TriggerMode", "On", nullptr);
+        QCOMPARE(sim.get("TriggerMode"), QStringLiteral("On"));
         QCOMPARE(state(dialog), button);
         change("TriggerSource", "Software", "cmBoxTriggerSource");
         QCOMPARE(state(dialog), QStringList());
@@ -208,36 +174,6 @@ void TestFeatureDialogs::triggerRules()
     QVERIFY(!state(dialog).contains("cmBoxTriggerDebounce"));
 }
 
-void TestFeatureDialogs::pulseForm()
-{
-    CountingCamera camera;
-    OrvCamConfigPulseDialog dialog(&camera.device);
-    dialog.show();
-    QCOMPARE(part<QLabel>(dialog, "lblWidth")->text(), QString::fromUtf8("Width [μs]:"));
-    QCOMPARE(part<QLabel>(dialog, "lblDelay")->text(), QString::fromUtf8("Delay [μs]:"));
-    dialog.SetDevice(&camera.device);
-    QCOMPARE(part<QLabel>(dialog, "lblPeriod")->text(), QString::fromUtf8("Period [μs]:"));
-    QVERIFY(shows(dialog, "label", ":/images/res/pulseimage.bmp"));
-    QVERIFY(!dialog.windowIcon().isNull());
-
-    // The camera's entries are what the radio buttons stand for.
-    QCOMPARE(part<QRadioButton>(dialog, "radioBtnContinious")->text(), QStringLiteral("Endlos"));
-    QCOMPARE(part<QRadioButton>(dialog, "radioBtnSend")->text(), QString::fromUtf8("Gezählt"));
-    click(dialog, "radioBtnSend");
-    QCOMPARE(camera.pulseMode.GetIntValue(), int64_t(4));
-    QCOMPARE(camera.pulseMode.writes(), 1);
-
-    for (const char *name : {"spBoxPeriod", "spBoxWidth", "spBoxNumPulses"}) {
-        const auto *box = part<QtOrvSpinBox>(dialog, name);
-        QCOMPARE(box->sliderOrientation(), Qt::Horizontal);
-        QCOMPARE(box->slider()->size(), box->size());
-        QCOMPARE(box->slider()->scaleType() == QtOrvSlider::ScaleLog10,
-                 qstrcmp(name, "spBoxNumPulses") != 0);
-    }
-    const int side = part<QWidget>(dialog, "pushBtnPulseEnable")->height();
-    QCOMPARE(part<QWidget>(dialog, "lblPulseEnable")->maximumSize(), QSize(side, side));
-}
-
 void TestFeatureDialogs::pulseDerivedValues()
 {
     CountingCamera camera;
@@ -256,9 +192,6 @@ void TestFeatureDialogs::pulseDerivedValues()
     QCOMPARE(shown(), QStringList({"-1497", "333333.333333"}));
     camera.granularity.change(3); // no part of it
     QCOMPARE(shown(), QStringList({"-1497", "333333.333333"}));
-    CountingCamera other;
-    dialog.SetDevice(&other.device);
-    QCOMPARE(shown(), QStringList({"800", "1000.000000"}));
     QVERIFY(!part<QWidget>(dialog, "lineEditDelay")->isEnabled());
     QVERIFY(!part<QWidget>(dialog, "lineEditFreq")->isEnabled());
 }
@@ -277,6 +210,7 @@ void TestFeatureDialogs::pulseButton()
                      running ? ":/icons/res/greenball.ico" : ":/icons/res/redball.ico");
     };
     QVERIFY(isShown(false));
+    QVERIFY(shows(dialog, "label", ":/images/res/pulseimage.bmp"));
     click(dialog, "pushBtnPulseEnable");
     QVERIFY(isShown(true));
     QVERIFY(camera.enable.GetValue());
@@ -332,7 +266,6 @@ void TestFeatureDialogs::pulseAccess()
 
 void TestFeatureDialogs::missingFeatures()
 {
-    QFETCH(MakeDialog, make);
     MemoryNodeMap nothing;
     nothing.addInteger("TriggerMode"); // of another kind
     NodeMapDevice empty(nothing);
@@ -340,90 +273,32 @@ void TestFeatureDialogs::missingFeatures()
     full.mode.change(1);
     full.source.change(1);
     ErrorBoxes boxes;
-    const auto dialog = make(&full.device);
-    dialog->show();
-    dialog->SetDevice(&empty);
-    QVERIFY(dialog->isEnabled());
-    if (auto *check = dialog->findChild<QCheckBox *>()) {
-        // The dialog's own rule goes by the check box as the last camera left it, and enables boxes
-        // that write nothing.
-        QVERIFY(!check->isEnabled());
-        QCOMPARE(disabled(*dialog, triggerNames), list({"chBoxTriggerEnable"}));
-        for (QComboBox *box : dialog->findChildren<QComboBox *>()) {
-            QTest::keyClick(box, Qt::Key_Up);
-            QTest::keyClick(box, Qt::Key_Down);
-        }
-    } else {
-        QCOMPARE(disabled(*dialog, pulseNames), list(pulseNames));
-        QCOMPARE(part<QPushButton>(*dialog, "pushBtnPulseEnable")->text(), QStringLiteral("Start"));
-        QVERIFY(shows(*dialog, "lblPulseEnable", ":/icons/res/redball.ico"));
-    }
-    QCOMPARE(full.source.writes() + full.edge.writes() + full.granularity.writes(), 0);
-    QCOMPARE(boxes.texts, QStringList());
-}
-
-void TestFeatureDialogs::closing()
-{
-    QFETCH(MakeDialog, make);
-    CountingCamera camera;
-    auto dialog = make(&camera.device);
-    QSignalSpy closings(dialog.get(), &OrvCamConfigDialog::closing);
-    int expected = 0;
-    for (bool escape : {false, true, false}) {
+    OrvCamConfigTriggerDialog trigger(&full.device);
+    OrvCamConfigPulseDialog pulse(&full.device);
+    for (OrvCamConfigDialog *dialog :
+         {static_cast<OrvCamConfigDialog *>(&trigger), static_cast<OrvCamConfigDialog *>(&pulse)}) {
         dialog->show();
-        QVERIFY(dialog->isVisible());
-        if (escape)
-            QTest::keyClick(dialog.get(), Qt::Key_Escape);
-        else
-            dialog->close();
-        QVERIFY(!dialog->isVisible());
-        QCOMPARE(closings.size(), ++expected);
+        dialog->SetDevice(&empty);
+        QVERIFY(dialog->isEnabled());
     }
-    dialog->reject(); // is closed already
-    QCOMPARE(closings.size(), expected);
-
-    // The Return key is for the numbers; it neither closes the dialog nor presses a button.
-    dialog->show();
-    QTest::keyClick(dialog.get(), Qt::Key_Return);
-    QVERIFY(dialog->isVisible());
-    QCOMPARE(camera.fire.writes() + camera.enable.writes(), 0);
-
-    // A host may destroy it as soon as it hears.
-    connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
-    dialog->close();
-    QVERIFY(!dialog);
+    // The dialog's own rule goes by the check box as the last camera left it, and enables boxes
+    // that write nothing.
+    QCOMPARE(disabled(trigger, triggerNames), list({"chBoxTriggerEnable"}));
+    for (QComboBox *box : trigger.findChildren<QComboBox *>()) {
+        QTest::keyClick(box, Qt::Key_Up);
+        QTest::keyClick(box, Qt::Key_Down);
+    }
+    QCOMPARE(full.source.writes() + full.edge.writes(), 0);
+    QCOMPARE(disabled(pulse, pulseNames), list(pulseNames));
+    QVERIFY(shows(pulse, "lblPulseEnable", ":/icons/res/redball.ico"));
+    QCOMPARE(boxes.texts, QStringList());
 }
 
 void TestFeatureDialogs::fromInside()
 {
     CountingCamera first;
     CountingCamera second;
-    second.period.change(90);
-    second.width.change(60);
-    second.period.setLimits(50, 100);
     second.mode.change(1);
-    ErrorBoxes boxes;
-    const auto valueChanged = static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged);
-
-    // Another camera while a change of the first is being shown; and none.
-    OrvCamConfigPulseDialog pulse(&first.device);
-    pulse.show();
-    auto *period = part<QtOrvSpinBox>(pulse, "spBoxPeriod");
-    for (OrvCam::Device *next :
-         {static_cast<OrvCam::Device *>(&second.device), static_cast<OrvCam::Device *>(nullptr)}) {
-        pulse.SetDevice(&first.device);
-        connect(period, valueChanged, [&, next] { pulse.SetDevice(next); });
-        first.period.setLimits(2000, 9000);
-        QCOMPARE(pulse.isEnabled(), next != nullptr);
-        if (next) {
-            QCOMPARE(period->value(), 90);
-            QCOMPARE(period->maximum(), 100);
-            QCOMPARE(period->minimum(), 50);
-            QCOMPARE(part<QLineEdit>(pulse, "lineEditDelay")->text(), QStringLiteral("30"));
-        }
-        first.period.setLimits(0, 10000);
-        first.period.change(700);
-    }
 
     // Another camera while the first is being bound: the last one set counts.
     OrvCamConfigTriggerDialog trigger(nullptr);
@@ -441,27 +316,6 @@ void TestFeatureDialogs::fromInside()
     QCOMPARE(second.mode.writes(), 1);
     first.mode.change(1);
     QVERIFY(!part<QCheckBox>(trigger, "chBoxTriggerEnable")->isChecked());
-
-    // Notifications, of features bound already and of the one that is being bound.
-    CountingCamera third;
-    third.mode.change(1);
-    third.edge.onRead([&] {
-        third.mode.changed();
-        third.source.change(1);
-    });
-    int depth = 0;
-    third.debounce.onRead([&] {
-        if (depth++ == 0)
-            third.debounce.changed();
-    });
-    trigger.SetDevice(&third.device);
-    QCOMPARE(combo(trigger, "cmBoxTriggerSource")->currentText(), QStringLiteral("Software"));
-    QCOMPARE(disabled(trigger, triggerNames), QStringList());
-
-    QCOMPARE(first.period.writes() + second.period.writes() + first.width.writes() +
-                 second.width.writes() + third.source.writes(),
-             0);
-    QCOMPARE(boxes.texts, QStringList());
 }
 
 void TestFeatureDialogs::transactions()

@@ -40,6 +40,27 @@ public:
     int writes() const { return int(SimulatedDevice::writes()); }
 };
 
+/// A camera with little, which can be made to refuse.
+struct PlainCamera
+{
+    PlainCamera()
+    {
+        map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}});
+        for (auto *node : {&lines, &clocks, &map.addInteger("Frame_LineTime", 1000)})
+            node->setLimits(0, 100000);
+        fine.setLimits(0, 63);
+        device = std::make_unique<NodeMapDevice>(map);
+    }
+
+    OrvGenApi::MemoryNodeMap map;
+    OrvGenApi::MemoryInteger &lines = map.addInteger("Frame_ExposureLines", 10);
+    OrvGenApi::MemoryInteger &clocks = map.addInteger("Frame_ExposureClocks", 20);
+    OrvGenApi::MemoryInteger &fine = map.addInteger("Frame_DigitalFineGain", 0);
+    OrvGenApi::MemoryEnumeration &selector =
+        map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
+    std::unique_ptr<NodeMapDevice> device;
+};
+
 /// The frame A/B dialog and how a user works with it.
 class Dialog : public OrvCamConfigFrameABDialog
 {
@@ -333,15 +354,13 @@ void TestFrameABDialog::withoutACamera()
     QCOMPARE(camera.writes(), 2);
 
     camera.device.error = OrvCam::Success;
-    dialog.SetDevice(&camera.device);
-    dialog.SetDevice(&camera.device);
+    for (int i = 0; i < 2; ++i) // must not double anything
+        dialog.SetDevice(&camera.device);
     Dialog::settle();
     VERIFY_SAME(dialog, camera);
     const int writes = camera.writes();
     dialog.type("spBoxBlackLevel", 100);
-    dialog.type("spBoxExpTime", 1234);
-    dialog.type("spBoxDigitalGain", QStringLiteral("5"));
-    QCOMPARE(camera.writes(), writes + 5);
+    QCOMPARE(camera.writes(), writes + 1);
 }
 
 void TestFrameABDialog::exposureTimeIsSplit()
@@ -370,27 +389,20 @@ void TestFrameABDialog::exposureTimeIsSplit()
     QCOMPARE(dialog.shown("spBoxExpTime"), 401);
     QCOMPARE(camera.value("Frame_ExposureClocks"), Q_INT64_C(319));
 
-    // A time that was longer than what is left of the range is not shortened by being shown.
+    // A time that is longer than the period is not shortened by being shown, and the longest time
+    // of a period is one that the camera has no lines for.
     camera.set("Frame_ExposureLines", 5000);
     camera.turn("Frame_FixedFramePeriodEnable", true);
     camera.set("Frame_FixedFramePeriodValue", 100);
     VERIFY_SAME(dialog, camera);
     camera.turn("Frame_FixedFramePeriodEnable", false);
     QCOMPARE(camera.value("Frame_ExposureLines"), Q_INT64_C(5000));
-    VERIFY_SAME(dialog, camera);
-
-    // The longest time of a fixed period is one that the camera has no lines for.
     camera.turn("Frame_FixedFramePeriodEnable", true);
     const int longest = dialog.get("spBoxExpTime")->property("maximum").toInt();
     for (int i = 0; i < 2; ++i) {
         dialog.type("spBoxExpTime", longest);
         VERIFY_SAME(dialog, camera);
     }
-
-    camera.choose("Frame_ExposureControl", "Off");
-    QVERIFY(!dialog.isOn("spBoxExpTime"));
-    camera.choose("Frame_ExposureControl", "Internal");
-    VERIFY_SAME(dialog, camera);
 }
 
 void TestFrameABDialog::exposureTimeAtOddCameras_data()
@@ -458,11 +470,6 @@ void TestFrameABDialog::fixedPeriodIsConverted()
     camera.set("Frame_FixedFramePeriodValue", 1601);
     QCOMPARE(dialog.shown(box), 10006);
     QCOMPARE(dialog.get("spBoxExpTime")->property("maximum").toInt(), 10006);
-
-    // The camera keeps the lines when a line takes another time.
-    dialog.type("spBoxFrameLineTime", 1234);
-    QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), Q_INT64_C(1601));
-    VERIFY_SAME(dialog, camera);
 
     // Each arrow is another number of lines, up and down again.
     QVector<qint64> lines;
@@ -551,18 +558,8 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     Camera camera;
     camera.turn("Frame_FixedFramePeriodEnable", true);
     Dialog dialog(&camera.device);
-    int writes = camera.writes();
-    for (const char *name : {"spBoxBlackLevel", "spBoxFrameLineTime", "spBoxFixedFramePeriodValue"})
-        dialog.drag(name, 0.5);
-    QCOMPARE(camera.writes(), writes + 3);
-    dialog.drag("spBoxDigitalGain", 0.5);
-    QCOMPARE(camera.writes(), writes + 5);
-    VERIFY_SAME(dialog, camera);
-    QVERIFY(camera.value("Frame_DigitalCourseGain") == 3 ||
-            camera.value("Frame_DigitalCourseGain") == 4);
-
     // The exposure time has its slider in a window of its own.
-    writes = camera.writes();
+    const int writes = camera.writes();
     auto *box = dialog.get<QtOrvSpinBox>("spBoxExpTime");
     box->toolButton()->click();
     QVERIFY(QTest::qWaitForWindowExposed(box->slider()));
@@ -602,13 +599,9 @@ void TestFrameABDialog::outputMode()
     dialog.type("spBoxNumberOfFrameBs", 4);
     dialog.clickTab(0);
     VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.shown("spBoxDualVideo"), 1500);
     dialog.pick("cmBoxFrameMode", "FrameA");
     VERIFY_SAME(dialog, camera);
     QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1000);
-    QVERIFY(!dialog.isOn("spBoxNumberOfFrameAs") && !dialog.isOn("spBoxNumberOfFrameBs"));
-    dialog.clickTab(1); // is disabled
-    QCOMPARE(dialog.tabs()->currentIndex(), 0);
 
     // From outside, too.
     writes = camera.writes();
@@ -618,13 +611,6 @@ void TestFrameABDialog::outputMode()
     VERIFY_SAME(dialog, camera);
     QCOMPARE(camera.writes(), writes + 2); // the mode, and the frame that goes with it
     QCOMPARE(boxes.texts, none);
-
-    // A camera that was left with the other frame selected.
-    camera.choose("FrameAB_Selector", "FrameA");
-    dialog.SetDevice(&camera.device);
-    Dialog::settle();
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
 }
 
 void TestFrameABDialog::twoFramesHoldTwoSettings()
@@ -708,21 +694,13 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
     // Nor when somebody else does.
-    for (const qint64 other : {80, 123}) {
-        camera.set("Frame_BlackLevel", 123); // of frame B
-        camera.choose("FrameAB_Selector", "FrameA");
-        camera.set("Frame_BlackLevel", other);
-        Dialog::settle();
-        dialog.type("spBoxBlackLevel", "300", false);
-        camera.choose("FrameAB_Selector", "FrameB");
-        Dialog::settle();
-        VERIFY_SAME(dialog, camera);
-        QCOMPARE(levels(), (QVector<qint64>{other, 123}));
-    }
-
-    // What was dragged does not, either.
+    dialog.type("spBoxBlackLevel", "300", false);
     camera.choose("FrameAB_Selector", "FrameA");
     Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(levels(), (QVector<qint64>{64, 80}));
+
+    // What was dragged does not, either.
     auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 2);
     dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
@@ -730,7 +708,7 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     camera.choose("FrameAB_Selector", "FrameB");
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
     Dialog::settle();
-    QCOMPARE(levels(), (QVector<qint64>{123, 123}));
+    QCOMPARE(levels(), (QVector<qint64>{64, 80}));
     VERIFY_SAME(dialog, camera);
 }
 
@@ -739,16 +717,6 @@ void TestFrameABDialog::somebodyElseLooksAtTheOtherFrame()
     Camera camera;
     Dialog dialog(&camera.device);
     const ErrorBoxes boxes;
-    for (int i = 0; i < 3; ++i) {
-        const int writes = camera.writes();
-        camera.choose("FrameAB_Selector", "FrameB");
-        QCOMPARE(camera.value("Frame_BlackLevel"), Q_INT64_C(80));
-        camera.choose("FrameAB_Selector", "FrameA");
-        Dialog::settle();
-        QCOMPARE(camera.writes(), writes + 2);
-        VERIFY_SAME(dialog, camera);
-    }
-
     // Who stays there is led back, once.
     const int writes = camera.writes();
     camera.choose("FrameAB_Selector", "FrameB");
@@ -803,14 +771,6 @@ void TestFrameABDialog::areaPresets()
     dialog.type("spBoxFrameOffsetX", 144);
     dialog.type("spBoxFrameOffsetX", 128);
     QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
-
-    // Each frame has its own.
-    camera.choose("FrameMode", "DualVideo");
-    dialog.click("radioBtnFullFrame");
-    dialog.clickTab(1);
-    QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
-    dialog.clickTab(0);
-    QVERIFY(dialog.get<QRadioButton>("radioBtnFullFrame")->isChecked());
 
     // While images are taken the size cannot be changed.
     const GenApi::CIntegerPtr locked(camera.map->GetNode("TLParamsLocked"));
@@ -926,9 +886,6 @@ void TestFrameABDialog::missingFeatures()
         QVERIFY2(!dialog.isOn(widget), widget);
     if (missing != "FrameAB_Selector") {
         // The rest goes on.
-        const int usable = int(std::count_if(std::begin(numbers), std::end(numbers),
-                                             [&](auto &b) { return dialog.isOn(b.widget); }));
-        QVERIFY(usable >= (widgets.isEmpty() ? 10 : 8));
         dialog.type("spBoxExpTime", 500);
         dialog.click("radioBtnQFHDFrame");
         dialog.clickTab(1);
@@ -944,12 +901,8 @@ void TestFrameABDialog::missingFeatures()
     if (widgets.isEmpty() && missing != "PixelClock")
         VERIFY_SAME(dialog, camera);
 
-    // Both times need both of their parts.
     if (missing.startsWith("Frame_ExposureLines") || missing.startsWith("Frame_ExposureClocks"))
-        QVERIFY(!dialog.isOn("spBoxExpTime"));
-    if (widgets.size() == 1 && missing.startsWith("Frame_") &&
-        (missing.contains("Offset") || missing.endsWith("Width") || missing.endsWith("Height")))
-        QVERIFY(!dialog.isOn("radioBtnFullFrame"));
+        QVERIFY(!dialog.isOn("spBoxExpTime")); // needs both
 
     // A complete camera brings everything back.
     camera.device.part.missing.clear();
@@ -960,37 +913,28 @@ void TestFrameABDialog::missingFeatures()
 
 void TestFrameABDialog::refusedWrites()
 {
-    OrvGenApi::MemoryNodeMap map;
-    auto &lines = map.addInteger("Frame_ExposureLines", 10);
-    auto &clocks = map.addInteger("Frame_ExposureClocks", 20);
-    auto &lineTime = map.addInteger("Frame_LineTime", 1000);
-    auto &fine = map.addInteger("Frame_DigitalFineGain", 0);
-    auto &selector = map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
-    map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}});
-    for (auto *node : {&lines, &clocks, &lineTime})
-        node->setLimits(0, 100000);
-    fine.setLimits(0, 63);
-    NodeMapDevice device(map);
+    PlainCamera plain;
+    NodeMapDevice &device = *plain.device;
     Dialog dialog(&device);
     const ErrorBoxes boxes;
 
     // What could not be written is not claimed to be the exposure time.
-    lines.onWrite(throwRefusal);
+    plain.lines.onWrite(throwRefusal);
     dialog.type("spBoxExpTime", 1000);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(
         boxes.texts[0].startsWith("Error while setting the Frame_ExposureLines integer value!"));
-    QCOMPARE(qint64(lines.GetValue()), Q_INT64_C(10));
-    QCOMPARE(dialog.shown("spBoxExpTime"), int((10 * 1000 + clocks.GetValue()) / 160));
+    QCOMPARE(qint64(plain.lines.GetValue()), Q_INT64_C(10));
+    QCOMPARE(dialog.shown("spBoxExpTime"), int((10 * 1000 + plain.clocks.GetValue()) / 160));
 
     // The gain complains about nothing and shows what there is.
-    fine.onWrite(throwRefusal);
+    plain.fine.onWrite(throwRefusal);
     dialog.type("spBoxDigitalGain", QStringLiteral("1.5"));
     QCOMPARE(boxes.texts.size(), 1);
     QCOMPARE(dialog.gain(), 1.0);
 
     // A frame that cannot be selected is tried once, not for ever.
-    selector.onWrite(throwRefusal);
+    plain.selector.onWrite(throwRefusal);
     dialog.pick("cmBoxFrameMode", "FrameB");
     Dialog::settle();
     QCOMPARE(boxes.texts.size(), 2);
@@ -998,14 +942,9 @@ void TestFrameABDialog::refusedWrites()
 
 void TestFrameABDialog::otherCameraInTheMiddle()
 {
-    OrvGenApi::MemoryNodeMap first;
-    auto &lines = first.addInteger("Frame_ExposureLines", 10);
-    lines.setLimits(0, 100000);
-    first.addInteger("Frame_ExposureClocks", 20).setLimits(0, 100000);
-    first.addInteger("Frame_LineTime", 1000).setLimits(0, 100000);
-    lines.onWrite(throwRefusal);
-    first.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
-    NodeMapDevice device(first);
+    PlainCamera plain;
+    plain.lines.onWrite(throwRefusal);
+    NodeMapDevice &device = *plain.device;
     Camera camera;
 
     // While the user reads the error box, the program may turn to another camera or close down.
@@ -1059,7 +998,6 @@ public:
 
     QString what;      ///< the last step
     int ownWrites = 0; ///< of the last step, not the dialog's
-    QMap<QString, int> counts;
 
 private:
     bool chance(int one) { return below(one) == 0; }
@@ -1069,21 +1007,23 @@ private:
     {
         return *std::next(std::begin(list), below(int(std::end(list) - std::begin(list))));
     }
-    int did(const QString &kind, const QString &detail, int allowed)
+    int did(const QString &step, int allowed)
     {
-        what = kind + ' ' + detail;
-        ++counts[kind];
+        what = step;
         return allowed;
     }
 
     int user()
     {
         ownWrites = 0;
-        switch (below(11)) {
-        case 0:
-            return clickTab();
+        switch (below(10)) {
+        case 0: {
+            const int tab = below(2);
+            m_dialog.clickTab(tab);
+            return did("tab " + QString::number(tab), 1);
+        }
         case 1:
-            return pickMode();
+            return combo("cmBoxFrameMode");
         case 2:
             return number(one(numbers).widget, 1);
         case 3:
@@ -1091,78 +1031,63 @@ private:
                                     "spBoxNumberOfFrameBs", "spBoxFixedFramePeriodValue"}),
                           1);
         case 4:
-            return number("spBoxExpTime", 2);
+            return number(one(Names{"spBoxExpTime", "spBoxDigitalGain"}), 2);
         case 5:
-            return number("spBoxDigitalGain", 2);
+            return click(one(one(choices).buttons), 1);
         case 6:
-            return click("a button", one(one(choices).buttons), 1);
+            return click(one(checks).widget, 1);
         case 7:
-            return click("a check box", one(checks).widget, 1);
-        case 8:
             return combo(one(combos).widget);
-        case 9:
+        case 8:
             return preset();
         default:
             return drag();
         }
     }
-    int clickTab()
-    {
-        const int tab = below(2);
-        m_dialog.clickTab(tab);
-        return did("the tab", QString::number(tab), 1);
-    }
-    int pickMode()
-    {
-        auto *comboBox = m_dialog.get<QComboBox>("cmBoxFrameMode");
-        QTest::keyClick(comboBox, chance(2) ? Qt::Key_Down : Qt::Key_Up);
-        return did("the output mode", comboBox->currentText(), 2);
-    }
     int number(const char *name, int allowed)
     {
-        QAbstractSpinBox *editor = m_dialog.editor(name);
         if (chance(2)) {
-            const Qt::Key key =
-                one(QList<Qt::Key>{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown});
-            QTest::keyClick(editor, key);
-            return did("an arrow", name, allowed);
+            QTest::keyClick(
+                m_dialog.editor(name),
+                one(QList<Qt::Key>{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}));
+            return did(QString("arrow ") + name, allowed);
         }
         const double min = m_dialog.get(name)->property("minimum").toDouble();
         const double max = m_dialog.get(name)->property("maximum").toDouble();
-        // Small numbers are as likely as large ones.
-        const double part = std::pow(double(below(1001)) / 1000, 1 + below(6));
-        const QString text = QString::number(min + (max - min) * part, 'f',
+        const QString text = QString::number(min + (max - min) * portion(), 'f',
                                              name == QByteArray("spBoxDigitalGain") ? 3 : 0);
         const bool isEntered = chance(2);
         m_dialog.type(name, text, isEntered);
         if (!isEntered) // the focus goes elsewhere
             m_dialog.get("lineEditFrameCurrentSize")->setFocus();
-        return did("typing", QString(name) + ' ' + text, allowed);
+        return did(QString(name) + ' ' + text, allowed);
     }
-    int click(const QString &kind, const char *name, int allowed)
+    int click(const char *name, int allowed)
     {
         m_dialog.click(name);
-        return did(kind, name, allowed);
+        return did(name, allowed);
     }
     int combo(const char *name)
     {
         QTest::keyClick(m_dialog.get(name), chance(2) ? Qt::Key_Down : Qt::Key_Up);
-        return did("a combo box", name, name == QByteArray("cmBoxFrameMode") ? 2 : 1);
+        return did(name, name == QByteArray("cmBoxFrameMode") ? 2 : 1);
     }
     int preset()
     {
         const char *name = one(presetButtons);
         m_dialog.wantsCustom(name == presetButtons[2] && presetOf(m_camera) != 2 ? areaOf(m_camera)
                                                                                  : Area());
-        return click("a preset", name, 4);
+        return click(name, 4);
     }
     int drag()
     {
         const char *name = one(Names{"spBoxBlackLevel", "spBoxDigitalGain", "spBoxFrameLineTime",
                                      "spBoxDualVideo", "spBoxFixedFramePeriodValue"});
         m_dialog.drag(name, double(below(100)) / 100);
-        return did("a drag", name, 2);
+        return did(QString("drag ") + name, 2);
     }
+    /// Small ones are as likely as large ones.
+    double portion() { return std::pow(double(below(1001)) / 1000, 1 + below(6)); }
 
     int outside()
     {
@@ -1171,51 +1096,47 @@ private:
         switch (below(6)) {
         case 0:
             m_camera.choose("FrameAB_Selector", chance(2) ? "FrameA" : "FrameB");
-            allowed = did("outside: the frame", QString(), 1);
+            allowed = did("outside: the frame", 1);
             break;
         case 1:
             m_camera.choose("FrameMode", one(Names{"FrameA", "FrameB", "DualVideo"}));
-            allowed = did("outside: the output mode", QString(), 1);
+            allowed = did("outside: the output mode", 1);
             break;
         case 2:
             m_camera.set("SensorClockDivider", 16 << below(4));
-            allowed = did("outside: the pixel clock", QString(), 0);
+            allowed = did("outside: the pixel clock", 0);
             break;
         case 3:
-            allowed = chooseOutside();
+            allowed = chooseOutside(chance(4) ? "TriggerMode" : one(choices).feature);
             break;
         case 4:
             m_camera.turn(one(checks).feature, chance(2));
-            allowed = did("outside: a switch", QString(), 0);
+            allowed = did("outside: a switch", 0);
             break;
         default:
-            allowed = setOutside();
+            allowed = setOutside(chance(3) ? one(Names{"Frame_LineTime", "Frame_DigitalCourseGain",
+                                                       "Frame_DigitalFineGain", "NumberOfFrameAs",
+                                                       "Frame_FixedFramePeriodValue"})
+                                           : one(numbers).feature);
         }
         // What the dialog writes in reply comes within these writes or in the event loop.
         ownWrites = qMin(m_camera.writes() - before, 1);
         return allowed;
     }
-    int chooseOutside()
+    int chooseOutside(const char *feature)
     {
-        const char *feature = chance(4) ? "TriggerMode" : one(choices).feature;
         OrvGenParam::Enum *param = m_camera.choice(feature);
         param->SetIntValue(
             param->GetEntry(uint32_t(below(int(param->GetEntryCount()))))->GetValue());
-        return did("outside: a choice", feature, 0);
+        return did(QString("outside: ") + feature, 0);
     }
-    int setOutside()
+    int setOutside(const char *feature)
     {
-        const char *feature =
-            chance(3)
-                ? one(Names{"Frame_LineTime", "Frame_DigitalCourseGain", "Frame_DigitalFineGain",
-                            "NumberOfFrameAs", "Frame_FixedFramePeriodValue"})
-                : one(numbers).feature;
         OrvGenParam::Int *param = m_camera.number(feature);
         const qint64 min = param->GetMin();
         const qint64 steps = (param->GetMax() - min) / qMax<qint64>(param->GetInc(), 1);
-        const double part = std::pow(double(below(1001)) / 1000, 1 + below(6));
-        param->SetValue(min + qint64(double(steps) * part) * param->GetInc());
-        return did("outside: a number", feature, 0);
+        param->SetValue(min + qint64(double(steps) * portion()) * param->GetInc());
+        return did(QString("outside: ") + feature, 0);
     }
 
     Camera &m_camera;
@@ -1248,7 +1169,7 @@ void TestFrameABDialog::randomWalk()
     }
     // It was no walk through disabled widgets.
     QVERIFY(mostWrites >= 3 && camera.writes() > 1000);
-    qInfo() << walk.counts << camera.writes() << "writes, at most" << mostWrites << "in reply";
+    qInfo("%d writes, at most %d in reply", camera.writes(), mostWrites);
 }
 
 QTEST_MAIN(TestFrameABDialog)

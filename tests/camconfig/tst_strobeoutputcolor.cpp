@@ -185,15 +185,14 @@ private slots:
     void missingFeature_data() { addControls(Trigger); }
     void missingFeature();
     void withoutCamera();
+    void closing();
     void lifetimes();
     void tabOrder();
 
-    void strobeCaptions();
     void strobePicture();
     void strobeDrag();
 
     void outputDependencies();
-    void popUpSliders();
 
     void unity();
     void automaticWhiteBalance();
@@ -248,11 +247,11 @@ void TestStrobeOutputColor::missingFeature()
 
     if (control->dialog == Color) {
         const QByteArray feature(control->feature);
-        const auto isOther = [&](const char *name) { return feature != name; };
-        QCOMPARE(part(*dialog, "pushBtnRedUnity")->isEnabled(), isOther("RedCoefficient"));
-        QCOMPARE(part(*dialog, "grBoxStatistics")->isEnabled(), isOther("RedCoefficient"));
-        QCOMPARE(part(*dialog, "pushBtnGreenUnity")->isEnabled(), isOther("GreenCoefficient"));
-        QCOMPARE(part(*dialog, "pushBtnBlueUnity")->isEnabled(), isOther("BlueCoefficient"));
+        for (const char *color : {"Red", "Green", "Blue"}) {
+            const QByteArray unity = QByteArray("pushBtn") + color + "Unity";
+            QCOMPARE(part(*dialog, unity)->isEnabled(), !feature.startsWith(color));
+        }
+        QCOMPARE(part(*dialog, "grBoxStatistics")->isEnabled(), !feature.startsWith("Red"));
     }
 
     // A camera that has it brings the control to life, and one without puts it down again.
@@ -285,6 +284,38 @@ void TestStrobeOutputColor::withoutCamera()
         gone.Release();
         dialog->SetDevice(&gone);
         QVERIFY(!dialog->isEnabled());
+    }
+}
+
+void TestStrobeOutputColor::closing()
+{
+    Camera camera;
+    for (Which which : all) {
+        auto dialog = open(which, &camera.device);
+        QSignalSpy closings(dialog.get(), &OrvCamConfigDialog::closing);
+        int expected = 0;
+        for (bool escape : {false, true, false}) {
+            dialog->show();
+            if (escape)
+                QTest::keyClick(dialog.get(), Qt::Key_Escape);
+            else
+                dialog->close();
+            QVERIFY(!dialog->isVisible());
+            QCOMPARE(closings.size(), ++expected);
+        }
+        dialog->reject(); // is closed already
+        QCOMPARE(closings.size(), expected);
+
+        // The Return key is for the numbers; it neither closes the dialog nor presses a button.
+        dialog->show();
+        QTest::keyClick(dialog.get(), Qt::Key_Return);
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(camera.writes(), 0);
+
+        // A host may destroy it as soon as it hears.
+        connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
+        dialog->close();
+        QVERIFY(!dialog);
     }
 }
 
@@ -348,21 +379,6 @@ void TestStrobeOutputColor::tabOrder()
     }
 }
 
-void TestStrobeOutputColor::strobeCaptions()
-{
-    Camera camera;
-    const auto dialog = open(Strobe, &camera.device);
-    for (const char *strobe : {"spBoxStrobe1", "spBoxStrobe2"}) {
-        auto *delay = part<QtOrvSliderSpinBox>(*dialog, QByteArray(strobe) + "Delay");
-        auto *width = part<QtOrvSliderSpinBox>(*dialog, QByteArray(strobe) + "Width");
-        QCOMPARE(delay->leftLabelText(), QString::fromUtf16(u"Delay [\u03BCs]:"));
-        QCOMPARE(width->leftLabelText(), QString::fromUtf16(u"Width [\u03BCs]:"));
-        QCOMPARE(delay->slider()->x(), width->slider()->x());
-        QCOMPARE(delay->slider()->scaleType(), QtOrvSlider::ScaleLog10);
-        QCOMPARE(width->slider()->scaleType(), QtOrvSlider::ScaleLog10);
-    }
-}
-
 void TestStrobeOutputColor::strobePicture()
 {
     Camera camera;
@@ -404,13 +420,9 @@ void TestStrobeOutputColor::strobeDrag()
     QCOMPARE(camera.get("Strobe1Delay"), QString::number(delay->value()));
     QCOMPARE(camera.writes(), 1);
 
-    // Values between two positions of the scale are kept.
-    for (int value : {123457, 999999, 3, 0}) {
-        camera.set("Strobe1Delay", QByteArray::number(value));
-        QCOMPARE(delay->value(), value);
-        QCOMPARE(camera.get("Strobe1Delay"), QString::number(value));
-    }
-    QCOMPARE(camera.writes(), 5);
+    camera.set("Strobe1Delay", "123457"); // is kept, between two positions of the scale
+    QCOMPARE(delay->value(), 123457);
+    QCOMPARE(camera.writes(), 2);
 }
 
 void TestStrobeOutputColor::outputDependencies()
@@ -440,33 +452,6 @@ void TestStrobeOutputColor::outputDependencies()
     QCOMPARE(camera.writes(), 3);
 }
 
-// They stand upright: as wide as the spin box is high, as high as it is wide without its caption.
-void TestStrobeOutputColor::popUpSliders()
-{
-    Camera camera;
-    const auto check = [&](Which which, const QByteArray &name, const QString &caption) {
-        const auto dialog = open(which, &camera.device);
-        for (int width : {0, 500, 900}) { // first as it opens
-            if (width > 0) {
-                dialog->hide();
-                dialog->resize(width, dialog->height());
-                dialog->show();
-            }
-            auto *spinBox = part<QtOrvSpinBox>(*dialog, name);
-            QCOMPARE(spinBox->leftLabelText(), caption);
-            const int label = spinBox->leftLabel() ? spinBox->leftLabel()->width() : 0;
-            QCOMPARE(label > 0, !caption.isEmpty());
-            const QSize size(spinBox->height(), spinBox->width() - label);
-            QCOMPARE(spinBox->slider()->size(), size);
-            QVERIFY(size.height() > size.width());
-        }
-    };
-    for (const char *name : {"spBoxDpcDynThres", "spBoxHpcDynThres"})
-        check(Output, name, QStringLiteral("Dyn.Thres.:"));
-    for (const char *name : {"spBoxRed", "spBoxGreen", "spBoxBlue"})
-        check(Color, name, QString());
-}
-
 void TestStrobeOutputColor::unity()
 {
     Camera camera;
@@ -476,7 +461,6 @@ void TestStrobeOutputColor::unity()
     for (const char *color : {"Red", "Green", "Blue"}) {
         const QByteArray feature = QByteArray(color) + "Coefficient";
         auto *button = part<QPushButton>(*dialog, "pushBtn" + QByteArray(color) + "Unity");
-        QVERIFY(button->width() < 2 * button->fontMetrics().boundingRect(button->text()).width());
         camera.set(feature, "1000");
         QCOMPARE(camera.writes(), ++writes);
         QTest::mouseClick(button, Qt::LeftButton);
@@ -495,11 +479,7 @@ void TestStrobeOutputColor::unity()
     for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
         QCOMPARE(camera.get(feature), QStringLiteral("1000"));
     QCOMPARE(camera.get("BlueCoefficient"), QStringLiteral("4095"));
-    auto *label = part<QLabel>(*dialog, "lblBlueCoef");
-    QCOMPARE(label->text(), QStringLiteral("4095"));
-    QVERIFY(label->sizeHint().width() <= label->width());
-    QCOMPARE(label->minimumWidth(), label->maximumWidth());
-    QCOMPARE(part(*dialog, "lblRedCoef")->width(), label->width());
+    QCOMPARE(textOf(dialog, "lblBlueCoef"), QStringLiteral("4095"));
     QVERIFY(dialog->isVisible());
 }
 
@@ -614,17 +594,6 @@ void TestStrobeOutputColor::coefficientBecomesUnavailable()
     red.setAccessMode(GenApi::RW);
     green.setAccessMode(GenApi::RW);
     QCOMPARE(enabled(), all);
-
-    // A camera that refuses: one box, and what the camera says next counts.
-    ErrorBoxes boxes;
-    red.onWrite(throwRefusal);
-    QTest::mouseClick(part(*dialog, "pushBtnRedUnity"), Qt::LeftButton);
-    QCOMPARE(boxes.texts.size(), 1);
-    QVERIFY(boxes.texts.first().startsWith(
-        QStringLiteral("Error while setting the RedCoefficient integer value!\r\nError Code: ")));
-    QCOMPARE(part<QtOrvSpinBox>(*dialog, "spBoxRed")->value(), 256);
-    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("333"));
-    QCOMPARE(red.writes(), 1);
 }
 
 QTEST_MAIN(TestStrobeOutputColor)
