@@ -534,6 +534,7 @@ void TestOrvCamConfigMapper::limits()
         cam.number.setIncrement(1);
         cam.number.change(3);
     }
+
     // A mapper with a cap of its own.
     OrvCamConfigMapper capped(4);
     capped.mapIntParam(param, &compact);
@@ -599,6 +600,7 @@ void TestOrvCamConfigMapper::dependents()
     QVERIFY(isEnabled(false));
     camera.number.setAccessMode(GenApi::RW);
     QVERIFY(isEnabled(true));
+
     // Only the first widget is let go when the name is bound to another one.
     QtOrvSpinBox another;
     mapper.mapIntParam(camera.array->GetInt("Länge"), &another);
@@ -717,8 +719,8 @@ void TestOrvCamConfigMapper::fromInside()
     QCOMPARE(spinBox.maximum(), 3);
     QCOMPARE(spinBox.singleStep(), 1);
     QVERIFY(!spinBox.isEnabled());
-
     mapper->unmapAll();
+
     // Let go, and destroyed.
     mapper->mapIntParam(first.array->GetInt("Länge"), &spinBox);
     on([&] { mapper->unmapAll(); });
