@@ -312,7 +312,6 @@ private Q_SLOTS:
     void gainIsSplit();
     void gainWithoutAPart();
     void draggingWritesOnceAtTheEnd();
-    void outputMode();
     void twoFramesHoldTwoSettings();
     void typingBelongsToTheFrameItWasBegunFor();
     void somebodyElseLooksAtTheOtherFrame();
@@ -574,43 +573,6 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     box->slider()->hide();
     Dialog::settle();
     VERIFY_SAME(dialog, camera);
-}
-
-void TestFrameABDialog::outputMode()
-{
-    Camera camera;
-    Dialog dialog(&camera.device);
-    const ErrorBoxes boxes;
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.writes(), 0);
-
-    // Each of the two line times is found again where it was.
-    int writes = camera.writes();
-    dialog.pick("cmBoxFrameMode", "FrameB");
-    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
-    QCOMPARE(camera.writes(), writes + 2);
-    VERIFY_SAME(dialog, camera);
-    dialog.type("spBoxFrameLineTime", 1300);
-    dialog.pick("cmBoxFrameMode", "DualVideo");
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.tabs()->currentIndex(), 1);
-    dialog.type("spBoxDualVideo", 1500);
-    dialog.type("spBoxNumberOfFrameAs", 3);
-    dialog.type("spBoxNumberOfFrameBs", 4);
-    dialog.clickTab(0);
-    VERIFY_SAME(dialog, camera);
-    dialog.pick("cmBoxFrameMode", "FrameA");
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1000);
-
-    // From outside, too.
-    writes = camera.writes();
-    camera.choose("FrameMode", "FrameB");
-    Dialog::settle();
-    QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1300);
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.writes(), writes + 2); // the mode, and the frame that goes with it
-    QCOMPARE(boxes.texts, none);
 }
 
 void TestFrameABDialog::twoFramesHoldTwoSettings()
