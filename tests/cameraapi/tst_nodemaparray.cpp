@@ -131,32 +131,24 @@ void TestNodeMapArray::values()
     Camera camera;
     NodeMapArray array(camera.map);
     int32_t error = -1;
-
-    Int *width = array.GetInt("Width");
-    QCOMPARE(width->SetValue(320), int32_t(OrvCam::Success));
-    QCOMPARE(width->GetValue(&error), int64_t(320));
+    QCOMPARE(array.GetInt("Width")->SetValue(320), int32_t(OrvCam::Success));
+    QCOMPARE(array.GetInt("Width")->GetValue(&error), int64_t(320));
     QCOMPARE(error, int32_t(OrvCam::Success));
-    QVERIFY(width->GetMin() == 16 && width->GetMax() == 1280 && width->GetInc() == 16);
-    QCOMPARE(width->GetUnit(), "px");
+    QCOMPARE(array.GetInt("Width")->GetInc(), int64_t(16));
+    QCOMPARE(array.GetInt("Width")->GetUnit(), "px");
 
     Float *exposure = array.GetFloat("ExposureTime");
-    QCOMPARE(exposure->SetValue(0.75), int32_t(OrvCam::Success));
-    QCOMPARE(exposure->GetValue(&error), 0.75);
     QVERIFY(exposure->GetMin() == 0.5 && exposure->GetMax() == 1e6);
-    QCOMPARE(exposure->GetInc(&error), 0.0);
+    QCOMPARE(exposure->GetInc(&error), 0.0); // none is no error
     QCOMPARE(error, int32_t(OrvCam::Success));
     camera.exposure.setIncrement(0.25);
     QCOMPARE(exposure->GetInc(), 0.25);
-
-    QCOMPARE(array.GetBoolean("ReverseX")->SetValue(false), int32_t(OrvCam::Success));
-    QCOMPARE(array.GetBoolean("ReverseX")->GetValue(), false);
 
     int executions = 0;
     camera.trigger.onExecute([&] { ++executions; });
     QCOMPARE(array.GetCommand("TriggerSoftware")->Execute(), int32_t(OrvCam::Success));
     QCOMPARE(array.ExecuteCommand("TriggerSoftware"), int32_t(OrvCam::Success));
     QCOMPARE(executions, 2);
-    QVERIFY(array.GetCommand("TriggerSoftware")->IsDone());
 
     String *name = array.GetString("DeviceUserID");
     QCOMPARE(QString::fromUtf8(name->GetValue()), QString::fromUtf8("Käfer"));
