@@ -2,6 +2,8 @@
 #include "ccalls.h"
 
 #include <Base/GCException.h>
+#include <OrvCam.h>
+#include <OrvGenParam.h>
 #include <memorynodemap.h>
 #include <xwindow.h>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <programonscreen.h>
 
+#include <memory>
+
 /// The program as somebody uses it on a screen: from the picker to the chosen camera's features.
 class TestPickAndShow : public QObject
 {
@@ -17,16 +19,17 @@ private:
     void start(const QStringList &arguments);
 
     ProgramOnScreen m_program;
-    QTemporaryDir m_settings; ///< of the program, instead of the user's
+    std::unique_ptr<QTemporaryDir> m_settings; ///< of the program, instead of the user's
 };
 
 void TestPickAndShow::start(const QStringList &arguments)
 {
+    m_settings = std::make_unique<QTemporaryDir>();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver never frees everything
     if (!arguments.contains("--simulate"))
         environment.insert("ORVCAM_SIMULATION", "1");
-    environment.insert("XDG_CONFIG_HOME", m_settings.path());
+    environment.insert("XDG_CONFIG_HOME", m_settings->path());
     m_program.setProcessEnvironment(environment);
     m_program.start(ORV_PROGRAM, arguments);
     QVERIFY(m_program.waitForWindow("Select camera"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <aravis/nodemap.h>
+#include <featuresteps.h>
 
 #include <GenApi/GenApi.h>
 
@@ -358,11 +359,7 @@ void TestNodeMap::formulaVariables()
              "<IntSwissKnife Name='Others'><pVariable Name='B'>Bool</pVariable>"
              "<pVariable Name='E'>Enum</pVariable><pVariable Name='E.Enum.A'>Enum</pVariable>"
              "<Formula>B * 100 + E * 10 + E.Enum.A</Formula></IntSwissKnife>");
-    QCOMPARE(textOf(*map, "Limits"), QString("912"));
-    QCOMPARE(textOf(*map, "Others"), QString("143"));
-    CEnumerationPtr(map->GetNode("Enum"))->FromString("A");
-    CBooleanPtr(map->GetNode("Bool"))->SetValue(false);
-    QCOMPARE(textOf(*map, "Others"), QString("33"));
+    QCOMPARE(FeatureSteps(*map).run("Limits?912 Others?143 Enum=A Bool=0 Others?33"), QString());
 }
 
 void TestNodeMap::converters()
@@ -379,20 +376,11 @@ void TestNodeMap::converters()
         "<IntConverter Name='Double'><FormulaTo>FROM / 2</FormulaTo>"
         "<FormulaFrom>TO * 2</FormulaFrom><pValue>Raw</pValue></IntConverter>"
         "<Float Name='Feature'><pValue>Rate</pValue><Unit>Hz</Unit></Float>");
-    // No rate yet, but one can be set.
-    QCOMPARE(access(*map, "Feature"), WO);
-    real(*map, "Feature") = 40;
-    QCOMPARE(integer(*map, "Reg").GetValue(), int64_t(25));
-    QCOMPARE(access(*map, "Feature"), RW);
-    QCOMPARE(real(*map, "Feature").GetValue(), 40.0);
-    QCOMPARE(real(*map, "Feature").GetMin(), 5.0);
-    QCOMPARE(real(*map, "Feature").GetMax(), 1000.0);
-    QCOMPARE(real(*map, "Linear").GetValue(), 2.5);
-    QCOMPARE(real(*map, "Linear").GetInc(), 0.2);
-    integer(*map, "Double") = 30;
-    QCOMPARE(integer(*map, "Raw").GetValue(), int64_t(15));
-    QCOMPARE(integer(*map, "Double").GetMax(), int64_t(400));
-    QVERIFY_EXCEPTION_THROWN(real(*map, "Rate") = 1001, GenICam::OutOfRangeException);
+    QCOMPARE(
+        FeatureSteps(*map).run("Feature:WO Feature=40 Reg?25 Feature:RW Feature?40 Feature.Min?5 "
+                               "Feature.Max?1000 Linear?2.5 Linear.Inc?0.2 Double=30 Raw?15 "
+                               "Double.Max?400 Rate!1001"),
+        QString());
 }
 
 void TestNodeMap::indexedValues()
@@ -403,12 +391,8 @@ void TestNodeMap::indexedValues()
                           "<ValueIndexed Index='0'>10</ValueIndexed>"
                           "<pValueIndexed Index='1'>Reg</pValueIndexed>"
                           "<ValueDefault>99</ValueDefault></Integer>");
-    QCOMPARE(textOf(*map, "Value"), QString("10"));
-    integer(*map, "Index") = 1;
-    integer(*map, "Value") = 55;
-    QCOMPARE(textOf(*map, "Reg"), QString("55"));
-    integer(*map, "Index") = 2;
-    QCOMPARE(textOf(*map, "Value"), QString("99"));
+    QCOMPARE(FeatureSteps(*map).run("Value?10 Index=1 Value=55 Reg?55 Index=2 Value?99"),
+             QString());
 }
 
 void TestNodeMap::addressesThatMove()
@@ -455,19 +439,10 @@ void TestNodeMap::accessModes()
                        "<Command Name='Command'><pIsLocked>Locked</pIsLocked>"
                        "<pValue>WriteOnly</pValue></Command>";
     const auto map = load(nodes);
-    QCOMPARE(access(*map, "A"), NI);
-    integer(*map, "Implemented") = 1;
-    QCOMPARE(access(*map, "A"), NA);
-    QCOMPARE(access(*map, "Above"), NA);
-    integer(*map, "Available") = 1;
-    QCOMPARE(access(*map, "A"), RW);
-    QCOMPARE(access(*map, "Command"), WO);
-    integer(*map, "Locked") = 1;
-    QCOMPARE(access(*map, "A"), RO);
-    QCOMPARE(access(*map, "Above"), RO);
-    QCOMPARE(access(*map, "Command"), NA);
-    QCOMPARE(access(*map, "Imposed"), RO);
-    QCOMPARE(access(*map, "Root"), RO);
+    QCOMPARE(FeatureSteps(*map).run(
+                 "A:NI Implemented=1 A:NA Above:NA Available=1 A:RW Command:WO Locked=1 "
+                 "A:RO Above:RO Command:NA Imposed:RO Root:RO A!1 WriteOnly:WO"),
+             QString());
     QVERIFY_EXCEPTION_THROWN(integer(*map, "A") = 1, GenICam::AccessException);
     QVERIFY_EXCEPTION_THROWN(integer(*map, "WriteOnly").GetValue(), GenICam::AccessException);
 }
@@ -482,17 +457,10 @@ void TestNodeMap::commandsAndCopies()
              "<pCommandValue>Value</pCommandValue></Command>"
              "<Integer Name='Both'><pValue>Reg</pValue>"
              "<pValueCopy>Copy</pValueCopy></Integer>");
-    CCommandPtr start(map->GetNode("Start"));
-    QVERIFY(start->IsDone());
-    start->Execute();
-    QCOMPARE(textOf(*map, "Reg"), QString("77"));
-    QVERIFY(!start->IsDone()); // the register still holds it
-    integer(*map, "Reg") = 0;
-    QVERIFY(start->IsDone());
-    integer(*map, "Value") = 5;
-    QCOMPARE(textOf(*map, "Copy"), QString("0"));
-    CCommandPtr(map->GetNode("Other"))->Execute();
-    QCOMPARE(textOf(*map, "Reg") + textOf(*map, "Copy"), QString("55"));
+    QCOMPARE(FeatureSteps(*map).run(
+                 "Start?1 Start=1 Reg?77 Start?0 Reg=0 Start?1 Value=5 Copy?0 Other=1 "
+                 "Reg?5 Copy?5"),
+             QString());
 }
 
 void TestNodeMap::limitsAndIncrements()
@@ -505,18 +473,13 @@ void TestNodeMap::limitsAndIncrements()
              "<Integer Name='Above'><pValue>Width</pValue></Integer>"
              "<Integer Name='Free'><pValue>Reg</pValue></Integer>"
              "<Float Name='F'><pValue>Width</pValue></Float>");
-    IInteger &above = integer(*map, "Above");
-    QCOMPARE(above.GetMin(), int64_t(16));
-    QCOMPARE(above.GetMax(), int64_t(100));
-    QCOMPARE(above.GetInc(), int64_t(4));
-    QCOMPARE(above.GetIncMode(), fixedIncrement);
-    integer(*map, "Offset") = 40;
-    QCOMPARE(above.GetMax(), int64_t(60));
-    QCOMPARE(real(*map, "F").GetMax(), 60.0);
+    QCOMPARE(FeatureSteps(*map).run(
+                 "Above.Min?16 Above.Max?100 Above.Inc?4 Offset=40 Above.Max?60 F.Max?60 "
+                 "Above!62 Above!30 Above=32 Reg?32"),
+             QString());
+    QCOMPARE(integer(*map, "Above").GetIncMode(), fixedIncrement);
     QCOMPARE(integer(*map, "Free").GetIncMode(), noIncrement);
-    QVERIFY_EXCEPTION_THROWN(above = 62, GenICam::OutOfRangeException);
-    QVERIFY_EXCEPTION_THROWN(above = 30, GenICam::OutOfRangeException);
-    above = 32;
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "Above") = 62, GenICam::OutOfRangeException);
 }
 
 void TestNodeMap::validValues()

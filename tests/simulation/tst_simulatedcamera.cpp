@@ -2,6 +2,9 @@
 #include "simulation/cameraregisters.h"
 #include "simulation/simulatedcamera.h"
 
+#include <aravis/nodemap.h>
+#include <featuresteps.h>
+
 #include <Base/GCException.h>
 
 #undef signals // GLib has members of that name
@@ -49,10 +52,6 @@ public:
     {
         arv_device_set_string_feature_value(m_device, name, entry, &m_error);
     }
-    bool boolean(const char *name) const
-    {
-        return arv_device_get_boolean_feature_value(m_device, name, &m_error) != 0;
-    }
     void turn(const char *name, bool on)
     {
         arv_device_set_boolean_feature_value(m_device, name, on, &m_error);
@@ -61,21 +60,9 @@ public:
     {
         return arv_device_get_float_feature_value(m_device, name, &m_error);
     }
-    void execute(const char *name) { arv_device_execute_command(m_device, name, &m_error); }
     bool isAvailable(const char *name) const
     {
         return arv_device_is_feature_available(m_device, name, &m_error) != 0;
-    }
-    bool isLocked(const char *name) const
-    {
-        return arv_gc_feature_node_is_locked(ARV_GC_FEATURE_NODE(node(name)), &m_error) != 0;
-    }
-
-    quint32 memory(Registers::Address address) const
-    {
-        guint32 value = 0;
-        arv_device_read_register(m_device, address, &value, &m_error);
-        return value;
     }
 
     ~Features()
@@ -114,22 +101,13 @@ class TestSimulatedCamera : public QObject
 private slots:
     void startValuesAreValid_data();
     void startValuesAreValid();
-    void startValuesAreThoseOfTheirFeature();
     void identityIsWhatItWasMadeWith();
-    void everySelectorSelects_data();
-    void everySelectorSelects();
-    void limitsTakeTheirValuesAlong();
-    void timesFollowTheSettings_data();
-    void timesFollowTheSettings();
-    void decimationMakesTheImageSmaller();
-    void accessFollowsOtherFeatures();
-    void temperatureDrifts();
+    void behaviour_data();
+    void behaviour();
     void whiteBalance_data();
     void whiteBalance();
-    void pulseGenerator_data();
-    void pulseGenerator();
-    void commandsEndByThemselves();
-    void userSets();
+    void temperatureDrifts();
+    void zeroes();
     void openingTwiceIsRefused();
     void timePassesInTheMainLoop();
 };
@@ -196,33 +174,6 @@ void TestSimulatedCamera::startValuesAreValid()
     QVERIFY(checked > 200);
 }
 
-// The description and the camera's own code each have the addresses.
-void TestSimulatedCamera::startValuesAreThoseOfTheirFeature()
-{
-    const SimulatedCamera camera;
-    Features features(camera);
-    features.choose("FrameAB_Selector", "FrameB");
-    const QStringList expected =
-        QString(
-            "PixelFormat=BayerRG8 SensorClockDivider=32 StreamBufferDepth=8 PulseGenWidth=1000 "
-            "PulseGenPeriod=10000 Strobe1Mode=BothFrames Strobe1Delay=100 Strobe1Width=1000 "
-            "Strobe2Mode=Off Strobe2Reference=ReadoutStart Strobe2Width=500 OUT1Selector=Strobe1 "
-            "OUT2Polarity=ActiveHigh OUT2Selector=ExposureActive AutoTrackingSpeed=Medium "
-            "BlueCoefficient=384 Gamma=1 DefectPixelThreshold=256 HotPixelCorrection=Dynamic "
-            "RgsID=1042 FirmwareBuild=1187 U3VFirmwareBuildNumber=412 PixelClock=160 "
-            "Frame_ExposureClocks=480 Frame_OffsetY=456 Frame_Width=3840 Frame_SubsamplingP=P2 "
-            "Frame_AnalogGain=x2 Frame_DigitalFineGain=32 Frame_BlackLevel=80 "
-            "Frame_WdrP3=Percent80 Frame_WdrE3=60 GevVersionMinor=2 GevSCPSPacketSize=1500")
-            .split(' ');
-    for (const QString &pair : expected) {
-        const QByteArray name = pair.section('=', 0, 0).toLatin1();
-        auto *node = ARV_GC_FEATURE_NODE(features.node(name));
-        QVERIFY2(node, name);
-        const QString value = arv_gc_feature_node_get_value_as_string(node, nullptr);
-        QCOMPARE(QString(name) + '=' + value, pair);
-    }
-}
-
 void TestSimulatedCamera::identityIsWhatItWasMadeWith()
 {
     CameraIdentity identity = named("SIM-4711");
@@ -241,211 +192,121 @@ void TestSimulatedCamera::identityIsWhatItWasMadeWith()
     QCOMPARE(camera.identity().serial, std::string("SIM-4711"));
 }
 
-void TestSimulatedCamera::everySelectorSelects_data()
+void TestSimulatedCamera::behaviour_data()
 {
-    QTest::addColumn<QByteArray>("selector");
-    QTest::addColumn<int>("first");
-    QTest::addColumn<int>("second");
-    QTest::addColumn<QByteArray>("selected");
-    const auto row = [](const char *selector, int first, int second, const char *selected) {
-        QTest::newRow(selected) << QByteArray(selector) << first << second << QByteArray(selected);
+    QTest::addColumn<QString>("steps");
+    const auto row = [](const char *name, const char *steps) {
+        QTest::newRow(name) << QString(steps);
     };
-    row("FrameAB_Selector", 0, 1, "Frame_ExposureLines");
-    row("FrameAB_Selector", 0, 1, "Frame_LineTimeReg");
-    row("FrameAB_Selector", 0, 1, "Frame_WdrE3");
-    row("LUTSelector", 0, 3, "LUTValue");
-    row("LUTIndex", 0, 255, "LUTValue");
-    row("LineSelector", 1, 2, "LineFormat");
-    row("UserOutputSelector", 0, 1, "UserOutputValueReg");
-    row("ChunkSelector", 0, 3, "ChunkEnableReg");
-    row("EventSelector", 2, 3, "EventNotification");
-    row("ServiceAddress", 0, 15, "ServiceValue");
-}
-
-void TestSimulatedCamera::everySelectorSelects()
-{
-    QFETCH(QByteArray, selector);
-    QFETCH(int, first);
-    QFETCH(int, second);
-    QFETCH(QByteArray, selected);
-    const SimulatedCamera camera;
-    Features features(camera);
-    features.set(selector, first);
-    features.set(selected, 1);
-    features.set(selector, second);
-    features.set(selected, 0);
-    features.set(selector, first);
-    QCOMPARE(features.integer(selected), Q_INT64_C(1));
-    features.set(selector, second);
-    QCOMPARE(features.integer(selected), Q_INT64_C(0));
-}
-
-// What is set comes back when the limit does.
-void TestSimulatedCamera::limitsTakeTheirValuesAlong()
-{
-    const SimulatedCamera camera;
-    Features features(camera);
-    features.set("Frame_LineTime", 700);
-    features.set("Frame_ExposureClocks", 699);
-    features.choose("SensorADCBitDepth", "Bit12");
-    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(960));
-    features.choose("SensorADCBitDepth", "Bit10");
-    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(700));
-    features.set("Frame_LineTime", 650);
-    QCOMPARE(features.integer("Frame_ExposureClocks"), Q_INT64_C(649));
-
-    features.turn("Frame_FixedFramePeriodEnable", true);
-    features.set("Frame_FixedFramePeriodValue", 100);
-    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(99));
-    QCOMPARE(features.integer("CurrentExposureTime"), gint64((99 * 650 + 649) / 160));
-    features.turn("Frame_FixedFramePeriodEnable", false);
-    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(1600));
-
-    features.set("SensorClockDivider", 64);
-    QCOMPARE(features.integer("PixelClock"), Q_INT64_C(80));
-
-    // In dual video both frames share their line time.
-    features.choose("FrameMode", "DualVideo");
-    features.set("Frame_LineTime", 1500);
-    features.choose("FrameAB_Selector", "FrameB");
-    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(1500));
-    features.choose("FrameMode", "FrameB");
-    QCOMPARE(features.integer("Frame_LineTime"), Q_INT64_C(1200));
-}
-
-void TestSimulatedCamera::timesFollowTheSettings_data()
-{
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<int>("clocks");
-    QTest::addColumn<int>("lineTime");
-    QTest::addColumn<int>("fixedPeriod");
-    QTest::addColumn<int>("exposureTime");
-    QTest::addColumn<int>("frameTime");
+    // The description and the camera's own code each have the addresses.
+    row("start values",
+        "FrameAB_Selector=FrameB PixelFormat?BayerRG8 SensorClockDivider?32 StreamBufferDepth?8 "
+        "PulseGenWidth?1000 PulseGenPeriod?10000 Strobe1Mode?BothFrames Strobe1Delay?100 "
+        "Strobe1Width?1000 Strobe2Mode?Off Strobe2Reference?ReadoutStart Strobe2Width?500 "
+        "OUT1Selector?Strobe1 OUT2Polarity?ActiveHigh OUT2Selector?ExposureActive "
+        "AutoTrackingSpeed?Medium BlueCoefficient?384 Gamma?1 DefectPixelThreshold?256 "
+        "HotPixelCorrection?Dynamic RgsID?1042 FirmwareBuild?1187 U3VFirmwareBuildNumber?412 "
+        "PixelClock?160 Frame_ExposureClocks?480 Frame_OffsetY?456 Frame_Width?3840 "
+        "Frame_SubsamplingP?P2 Frame_AnalogGain?x2 Frame_DigitalFineGain?32 Frame_BlackLevel?80 "
+        "Frame_WdrP3?Percent80 Frame_WdrE3?60 GevVersionMinor?2 GevSCPSPacketSize?1500");
+    // What is set comes back when the limit does.
+    row("limits",
+        "Frame_LineTime=700 Frame_ExposureClocks=699 SensorADCBitDepth=Bit12 Frame_LineTime?960 "
+        "SensorADCBitDepth=Bit10 Frame_LineTime?700 Frame_LineTime=650 Frame_ExposureClocks?649 "
+        "Frame_FixedFramePeriodEnable=1 Frame_FixedFramePeriodValue=100 Frame_ExposureLines?99 "
+        "CurrentExposureTime?406 Frame_FixedFramePeriodEnable=0 Frame_ExposureLines?1600 "
+        "SensorClockDivider=64 PixelClock?80");
+    row("dual video shares the line time",
+        "FrameMode=DualVideo Frame_LineTime=1500 FrameAB_Selector=FrameB Frame_LineTime?1500 "
+        "FrameMode=FrameB Frame_LineTime?1200");
 
     // 3072 lines of the image and 38 more are read out; 160 clocks are a microsecond.
-    QTest::newRow("read-out decides") << "Internal" << 1 << 600 << 1000 << 0 << 10 << 19437;
-    QTest::newRow("exposure decides") << "Internal" << 6398 << 0 << 1000 << 0 << 39987 << 40000;
-    QTest::newRow("fixed period") << "Internal" << 100 << 0 << 1600 << 5000 << 1000 << 50000;
-    QTest::newRow("not controlled") << "Off" << 6398 << 0 << 1000 << 0 << 19437 << 19437;
-    QTest::newRow("fractions are cut") << "Internal" << 0 << 799 << 960 << 0 << 4 << 18660;
-}
+    row("read-out decides", "Frame_LineTime=1000 Frame_ExposureLines=1 Frame_ExposureClocks=600 "
+                            "CurrentExposureTime?10 CurrentFrameTime?19437");
+    row("exposure decides", "Frame_LineTime=1000 Frame_ExposureLines=6398 Frame_ExposureClocks=0 "
+                            "CurrentExposureTime?39987 CurrentFrameTime?40000 "
+                            "Frame_ExposureControl=Off CurrentFrameTime?19437");
+    row("fixed period", "Frame_LineTime=1600 Frame_ExposureLines=100 Frame_ExposureClocks=0 "
+                        "Frame_FixedFramePeriodEnable=1 Frame_FixedFramePeriodValue=5000 "
+                        "CurrentExposureTime?1000 CurrentFrameTime?50000");
+    row("fractions are cut", "Frame_LineTime=960 Frame_ExposureLines=0 Frame_ExposureClocks=799 "
+                             "CurrentExposureTime?4 CurrentFrameTime?18660");
+    row("decimation",
+        "Frame_DecimationMode=Subsampling Frame_SubsamplingM=M8 Width?512 Frame_HeightActual?384 "
+        "Width=128 Frame_Width?1024 Frame_DecimationMode=Average Frame_WidthActual?512 "
+        "PayloadSize?786432 Frame_OffsetX.Max?3072");
+    row("access",
+        "TriggerSoftware:NA NumberOfFrameAs:NA Frame_ExposureLines:RW PulseGenMode:RW "
+        "TriggerMode=On TriggerSource=Software FrameMode=DualVideo Frame_ExposureControl=Trigger "
+        "PulseGenEnable=1 TriggerSoftware:WO NumberOfFrameAs:RW Frame_ExposureLines:RO "
+        "PulseGenMode:RO CoolerEnable:NI PixelFormat!BayerRG12 SensorADCBitDepth=Bit12 "
+        "PixelFormat=BayerRG12");
+    row("commands", "TriggerMode=On TriggerSource=Software TriggerSoftware=1 TriggerSoftware?0 +0 "
+                    "TriggerSoftware?1 TriggerCount?1 +5 TimestampLatch=1 +2.5 "
+                    "TimestampLatchValue?7500000000 +-3 +nan UpTime?7 TriggerCount?1");
+    row("user sets",
+        "Frame_ExposureLines=55 PixelFormat=Mono8 LUTIndex=100 LUTValue=7 "
+        "UserSetSelector=UserSet2 UserSetSave=1 +0 UserSetSelector=Default UserSetSave:NA "
+        "UserSetLoad=1 +0 Frame_ExposureLines?1600 PixelFormat?BayerRG8 LUTValue?1605 "
+        "UserSetSelector?Default UserSetSelector=UserSet2 UserSetLoad=1 +0 "
+        "Frame_ExposureLines?55 PixelFormat?Mono8 LUTValue?7");
+    row("outputs", "OUT1Selector=UserOutput OUT2Selector=PulseGenerator OUT2Polarity=ActiveLow +0 "
+                   "LineStatusAll?8 UserOutputValue=1 PulseGenEnable=1 +0 LineStatusAll?4 "
+                   "LineSelector=OUT2 LineStatus?0 +0.0015 LineStatus?1");
+    row("service key", "ServiceKey=1 +0 ServiceValue:NA ServiceKey=1330796033 +0 ServiceValue:RW "
+                       "ServiceKey=0 +0 ServiceValue:NA");
 
-void TestSimulatedCamera::timesFollowTheSettings()
-{
-    QFETCH(QString, control);
-    QFETCH(int, lines);
-    QFETCH(int, clocks);
-    QFETCH(int, lineTime);
-    QFETCH(int, fixedPeriod);
-    const SimulatedCamera camera;
-    Features features(camera);
-    features.set("Frame_LineTime", lineTime);
-    features.set("Frame_ExposureLines", lines);
-    features.set("Frame_ExposureClocks", clocks);
-    features.choose("Frame_ExposureControl", control.toLatin1());
-    if (fixedPeriod > 0) {
-        features.turn("Frame_FixedFramePeriodEnable", true);
-        features.set("Frame_FixedFramePeriodValue", fixedPeriod);
-    }
-    QTEST(int(features.integer("CurrentExposureTime")), "exposureTime");
-    QTEST(int(features.integer("CurrentFrameTime")), "frameTime");
-
-    // A camera that does not tell its pixel clock has no times, but no error either.
-    arv_device_write_register(camera.device(), Registers::PixelClock, 0, nullptr);
-    QCOMPARE(features.integer("CurrentExposureTime"), Q_INT64_C(0));
-    QCOMPARE(features.real("ResultingFrameRate"), 0.0);
-}
-
-void TestSimulatedCamera::decimationMakesTheImageSmaller()
-{
-    const SimulatedCamera camera;
-    Features features(camera);
-    features.choose("Frame_DecimationMode", "Subsampling");
-    features.choose("Frame_SubsamplingM", "M8");
-    QCOMPARE(features.integer("Width"), Q_INT64_C(512));
-    QCOMPARE(features.integer("Frame_HeightActual"), Q_INT64_C(384));
-    features.set("Width", 128);
-    QCOMPARE(features.integer("Frame_Width"), Q_INT64_C(1024));
-    features.choose("Frame_DecimationMode", "Average");
-    QCOMPARE(features.integer("Frame_WidthActual"), Q_INT64_C(512));
-    QCOMPARE(features.integer("PayloadSize"), Q_INT64_C(512 * 1536));
-
-    GError *error = nullptr;
-    QCOMPARE(arv_gc_integer_get_max(ARV_GC_INTEGER(features.node("Frame_OffsetX")), &error),
-             gint64(4096 - 1024));
-    QVERIFY(!error);
-}
-
-void TestSimulatedCamera::accessFollowsOtherFeatures()
-{
-    const SimulatedCamera camera;
-    Features features(camera);
-    const auto isAvailable12Bit = [&features] {
-        guint count = 0;
-        const char **names = arv_gc_enumeration_dup_available_string_values(
-            ARV_GC_ENUMERATION(features.node("PixelFormat")), &count, nullptr);
-        const bool found = std::find_if(names, names + count, [](const char *name) {
-                               return qstrcmp(name, "BayerRG12") == 0;
-                           }) != names + count;
-        g_free(names);
-        return found;
+    const QString pulses = "TriggerMode=On TriggerSource=PulseGenerator PulseGenMode=%1 "
+                           "PulseGenGranularity=%2 PulseGenPeriod=%3 PulseGenEnable=1 +%4 +%4 "
+                           "PulseGenPulseCount?%5 TriggerCount?%5 PulseGenEnable?%6 "
+                           "PulseGenEnable=0 +1 PulseGenEnable=1 +0 PulseGenPulseCount?0";
+    const auto pulse = [&pulses](const QString &values) {
+        QString steps = pulses;
+        for (const QString &value : values.split(' '))
+            steps = steps.arg(value);
+        QTest::newRow(qPrintable(values)) << steps;
     };
-    for (const bool isChanged : {false, true}) {
-        if (isChanged) {
-            features.choose("TriggerMode", "On");
-            features.choose("TriggerSource", "Software");
-            features.choose("FrameMode", "DualVideo");
-            features.choose("Frame_ExposureControl", "Trigger");
-            features.turn("PulseGenEnable", true);
-            features.choose("SensorADCBitDepth", "Bit12");
-        }
-        QCOMPARE(features.isAvailable("TriggerSoftware"), isChanged);
-        QCOMPARE(features.isAvailable("NumberOfFrameAs"), isChanged);
-        QCOMPARE(features.isLocked("Frame_ExposureLines"), isChanged);
-        QCOMPARE(features.isLocked("PulseGenMode"), isChanged);
-        QCOMPARE(isAvailable12Bit(), isChanged);
-    }
+    pulse("Burst Us1 10000 0.0475 9 1");
+    pulse("Burst Us1 10000 0.05 10 0");
+    pulse("Burst Ms1 1500 0.008 8 1");
+    pulse("Continuous Us1 10000 30 6000 1");
 
-    GError *error = nullptr;
-    QVERIFY(!arv_gc_feature_node_is_implemented(ARV_GC_FEATURE_NODE(features.node("CoolerEnable")),
-                                                &error));
-    QVERIFY(!error);
+    for (const char *names :
+         {"FrameAB_Selector 0 1 Frame_ExposureLines", "FrameAB_Selector 0 1 Frame_LineTimeReg",
+          "FrameAB_Selector 0 1 Frame_WdrE3", "LUTSelector 0 3 LUTValue", "LUTIndex 0 255 LUTValue",
+          "LineSelector 1 2 LineFormat", "UserOutputSelector 0 1 UserOutputValueReg",
+          "ChunkSelector 0 3 ChunkEnableReg", "EventSelector 2 3 EventNotification",
+          "ServiceAddress 0 15 ServiceValue"}) {
+        QString steps = "ServiceKey=1330796033 +0 %1=%2 %4=1 %1=%3 %4=0 %1=%2 %4?1 %1=%3 %4?0";
+        for (const QString &name : QString(names).split(' '))
+            steps = steps.arg(name);
+        QTest::newRow(names) << steps;
+    }
 }
 
-void TestSimulatedCamera::temperatureDrifts()
+void TestSimulatedCamera::behaviour()
 {
+    QFETCH(QString, steps);
     SimulatedCamera camera;
-    const Features features(camera);
-    QSet<qint64> degrees;
-    for (int minute = 0; minute < 60; ++minute) {
-        camera.advance(60);
-        const double temperature = features.real("DeviceTemperature");
-        QVERIFY(temperature > 30 && temperature < 55);
-        QCOMPARE(features.integer("CurrentTemperature"), qRound64(temperature));
-        degrees << qRound64(temperature);
-    }
-    QVERIFY(degrees.size() > 1);
+    const auto map = OrvAravis::NodeMap::open(camera.device());
+    FeatureSteps features(*map, [&](double seconds) { camera.advance(seconds); });
+    QCOMPARE(features.run(steps), QString());
 }
 
 void TestSimulatedCamera::whiteBalance_data()
 {
     QTest::addColumn<QByteArray>("mode");
     QTest::addColumn<QByteArray>("speed");
-    QTest::addColumn<bool>("moves");
     QTest::addColumn<bool>("arrivesInThreeSeconds");
-    const QByteArray once("Once");
-    const QByteArray fast("Fast");
-    QTest::newRow("off") << QByteArray("Off") << fast << false << false;
-    QTest::newRow("continuous") << QByteArray("Continuous") << fast << true << false;
-    QTest::newRow("once, fast") << once << fast << true << true;
-    QTest::newRow("once, slow") << once << QByteArray("Slow") << true << false;
+    QTest::newRow("off") << QByteArray("Off") << QByteArray("Fast") << false;
+    QTest::newRow("continuous") << QByteArray("Continuous") << QByteArray("Fast") << false;
+    QTest::newRow("once, fast") << QByteArray("Once") << QByteArray("Fast") << true;
+    QTest::newRow("once, slow") << QByteArray("Once") << QByteArray("Slow") << false;
 }
 
 void TestSimulatedCamera::whiteBalance()
 {
     QFETCH(QByteArray, mode);
-    QFETCH(bool, moves);
     QFETCH(bool, arrivesInThreeSeconds);
     QFETCH(QByteArray, speed);
     SimulatedCamera camera;
@@ -455,7 +316,7 @@ void TestSimulatedCamera::whiteBalance()
     features.choose("BalanceWhiteAuto", mode);
     for (int i = 0; i < 15; ++i)
         camera.advance(0.2);
-    QCOMPARE(features.integer("RedCoefficient") != red, moves);
+    QCOMPARE(features.integer("RedCoefficient") != red, mode != "Off");
     QCOMPARE(features.integer("GreenCoefficient"), Q_INT64_C(256));
     if (mode == "Once") {
         QCOMPARE(features.text("BalanceWhiteAuto"),
@@ -476,102 +337,35 @@ void TestSimulatedCamera::whiteBalance()
     QVERIFY(features.integer("RedCoefficient") > 2000);
 }
 
-void TestSimulatedCamera::pulseGenerator_data()
+void TestSimulatedCamera::temperatureDrifts()
 {
-    QTest::addColumn<QByteArray>("mode");
-    QTest::addColumn<QByteArray>("grid");
-    QTest::addColumn<int>("period");
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<int>("pulses");
-    QTest::addColumn<bool>("runs");
-    const QByteArray burst("Burst");
-    const QByteArray endless("Continuous");
-    const QByteArray fine("Us1");
-    QTest::newRow("burst, before its end") << burst << fine << 10000 << 0.095 << 9 << true;
-    QTest::newRow("burst, at its end") << burst << fine << 10000 << 0.1 << 10 << false;
-    QTest::newRow("coarse") << burst << QByteArray("Ms1") << 1500 << 0.016 << 8 << true;
-    QTest::newRow("continuous") << endless << fine << 10000 << 60.0 << 6000 << true;
-    QTest::newRow("period of 0") << endless << fine << 0 << 0.001 << 1000 << true;
+    SimulatedCamera camera;
+    const Features features(camera);
+    QSet<qint64> degrees;
+    for (int minute = 0; minute < 60; ++minute) {
+        camera.advance(60);
+        const double temperature = features.real("DeviceTemperature");
+        QVERIFY(temperature > 30 && temperature < 55);
+        QCOMPARE(features.integer("CurrentTemperature"), qRound64(temperature));
+        degrees << qRound64(temperature);
+    }
+    QVERIFY(degrees.size() > 1);
 }
 
-void TestSimulatedCamera::pulseGenerator()
+/// What no feature allows, but a register takes.
+void TestSimulatedCamera::zeroes()
 {
-    QFETCH(QByteArray, mode);
-    QFETCH(QByteArray, grid);
-    QFETCH(int, period);
-    QFETCH(double, seconds);
     SimulatedCamera camera;
     Features features(camera);
-    features.choose("TriggerMode", "On");
-    features.choose("TriggerSource", "PulseGenerator");
-    features.choose("PulseGenMode", mode);
-    features.choose("PulseGenGranularity", grid);
-    arv_device_write_register(camera.device(), Registers::PulseGenPeriod, quint32(period), nullptr);
+    arv_device_write_register(camera.device(), Registers::PixelClock, 0, nullptr);
+    QCOMPARE(features.integer("CurrentExposureTime"), Q_INT64_C(0));
+    QCOMPARE(features.real("ResultingFrameRate"), 0.0);
+
+    arv_device_write_register(camera.device(), Registers::PulseGenPeriod, 0, nullptr);
+    features.choose("PulseGenMode", "Continuous");
     features.turn("PulseGenEnable", true);
-    camera.advance(seconds / 2);
-    camera.advance(seconds / 2);
-    QTEST(int(features.integer("PulseGenPulseCount")), "pulses");
-    QTEST(int(features.integer("TriggerCount")), "pulses");
-    QTEST(features.boolean("PulseGenEnable"), "runs");
-
-    features.turn("PulseGenEnable", false);
-    camera.advance(1);
-    features.turn("PulseGenEnable", true);
-    camera.advance(0);
-    QCOMPARE(features.integer("PulseGenPulseCount"), Q_INT64_C(0));
-}
-
-void TestSimulatedCamera::commandsEndByThemselves()
-{
-    SimulatedCamera camera;
-    Features features(camera);
-    features.choose("TriggerMode", "On");
-    features.choose("TriggerSource", "Software");
-    features.execute("TriggerSoftware");
-    QCOMPARE(features.memory(Registers::TriggerSoftware), 1U);
-    camera.advance(0);
-    QCOMPARE(features.memory(Registers::TriggerSoftware), 0U);
-    QCOMPARE(features.integer("TriggerCount"), Q_INT64_C(1));
-
-    camera.advance(5);
-    features.execute("TimestampLatch");
-    camera.advance(2.5);
-    QCOMPARE(features.integer("TimestampLatchValue"), Q_INT64_C(7500000000));
-    camera.advance(-3);
-    camera.advance(qQNaN());
-    QCOMPARE(features.integer("UpTime"), Q_INT64_C(7));
-    QCOMPARE(features.integer("TriggerCount"), Q_INT64_C(1));
-}
-
-void TestSimulatedCamera::userSets()
-{
-    SimulatedCamera camera;
-    Features features(camera);
-    features.set("Frame_ExposureLines", 55);
-    features.choose("PixelFormat", "Mono8");
-    features.set("LUTIndex", 100);
-    features.set("LUTValue", 7);
-    features.choose("UserSetSelector", "UserSet2");
-    features.execute("UserSetSave");
-    camera.advance(0);
-
-    features.choose("UserSetSelector", "Default");
-    QVERIFY(features.isLocked("UserSetSave"));
-    arv_device_write_register(camera.device(), Registers::UserSetSave, 1, nullptr); // not a chance
-    camera.advance(0);
-    features.execute("UserSetLoad");
-    camera.advance(0);
-    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(1600));
-    QCOMPARE(features.text("PixelFormat"), QString("BayerRG8"));
-    QCOMPARE(features.integer("LUTValue"), Q_INT64_C(1605));
-    QCOMPARE(features.text("UserSetSelector"), QString("Default"));
-
-    features.choose("UserSetSelector", "UserSet2");
-    features.execute("UserSetLoad");
-    camera.advance(0);
-    QCOMPARE(features.integer("Frame_ExposureLines"), Q_INT64_C(55));
-    QCOMPARE(features.text("PixelFormat"), QString("Mono8"));
-    QCOMPARE(features.integer("LUTValue"), Q_INT64_C(7));
+    camera.advance(0.001);
+    QCOMPARE(features.integer("PulseGenPulseCount"), Q_INT64_C(1000));
 }
 
 void TestSimulatedCamera::openingTwiceIsRefused()
