@@ -204,11 +204,12 @@ void TestSimulatedCamera::behaviour_data()
         "PulseGenWidth?1000 PulseGenPeriod?10000 Strobe1Mode?BothFrames Strobe1Delay?100 "
         "Strobe1Width?1000 Strobe2Mode?Off Strobe2Reference?ReadoutStart Strobe2Width?500 "
         "OUT1Selector?Strobe1 OUT2Polarity?ActiveHigh OUT2Selector?ExposureActive "
-        "AutoTrackingSpeed?Medium BlueCoefficient?384 Gamma?1 DefectPixelThreshold?256 "
+        "AutoTrackingSpeed?Medium BlueCoefficient?384 Gamma?1.00 DefectPixelThreshold?256 "
         "HotPixelCorrection?Dynamic RgsID?1042 FirmwareBuild?1187 U3VFirmwareBuildNumber?412 "
         "PixelClock?160 Frame_ExposureClocks?480 Frame_OffsetY?456 Frame_Width?3840 "
-        "Frame_SubsamplingP?P2 Frame_AnalogGain?x2 Frame_DigitalFineGain?32 Frame_BlackLevel?80 "
-        "Frame_WdrP3?Percent80 Frame_WdrE3?60 GevVersionMinor?2 GevSCPSPacketSize?1500");
+        "Frame_AnalogGain?x2 Frame_DigitalFineGain?32 Frame_BlackLevel?80 "
+        "GevVersionMinor?2 GevSCPSPacketSize?1500 Frame_WdrEnable=1 Frame_WdrP3?Percent80 "
+        "Frame_WdrE3?60 Frame_DecimationMode=Subsampling Frame_SubsamplingP?P2");
     // What is set comes back when the limit does.
     row("limits",
         "Frame_LineTime=700 Frame_ExposureClocks=699 SensorADCBitDepth=Bit12 Frame_LineTime?960 "
@@ -238,7 +239,7 @@ void TestSimulatedCamera::behaviour_data()
     row("access",
         "TriggerSoftware:NA NumberOfFrameAs:NA Frame_ExposureLines:RW PulseGenMode:RW "
         "TriggerMode=On TriggerSource=Software FrameMode=DualVideo Frame_ExposureControl=Trigger "
-        "PulseGenEnable=1 TriggerSoftware:WO NumberOfFrameAs:RW Frame_ExposureLines:RO "
+        "PulseGenEnable=1 TriggerSoftware:RW NumberOfFrameAs:RW Frame_ExposureLines:RO "
         "PulseGenMode:RO CoolerEnable:NI PixelFormat!BayerRG12 SensorADCBitDepth=Bit12 "
         "PixelFormat=BayerRG12");
     row("commands", "TriggerMode=On TriggerSource=Software TriggerSoftware=1 TriggerSoftware?0 +0 "
@@ -246,7 +247,7 @@ void TestSimulatedCamera::behaviour_data()
                     "TimestampLatchValue?7500000000 +-3 +nan UpTime?7 TriggerCount?1");
     row("user sets",
         "Frame_ExposureLines=55 PixelFormat=Mono8 LUTIndex=100 LUTValue=7 "
-        "UserSetSelector=UserSet2 UserSetSave=1 +0 UserSetSelector=Default UserSetSave:NA "
+        "UserSetSelector=UserSet2 UserSetSave=1 +0 UserSetSelector=Default UserSetSave:RO "
         "UserSetLoad=1 +0 Frame_ExposureLines?1600 PixelFormat?BayerRG8 LUTValue?1605 "
         "UserSetSelector?Default UserSetSelector=UserSet2 UserSetLoad=1 +0 "
         "Frame_ExposureLines?55 PixelFormat?Mono8 LUTValue?7");
@@ -273,10 +274,10 @@ void TestSimulatedCamera::behaviour_data()
 
     for (const char *names :
          {"FrameAB_Selector 0 1 Frame_ExposureLines", "FrameAB_Selector 0 1 Frame_LineTimeReg",
-          "FrameAB_Selector 0 1 Frame_WdrE3", "LUTSelector 0 3 LUTValue", "LUTIndex 0 255 LUTValue",
-          "LineSelector 1 2 LineFormat", "UserOutputSelector 0 1 UserOutputValueReg",
-          "ChunkSelector 0 3 ChunkEnableReg", "EventSelector 2 3 EventNotification",
-          "ServiceAddress 0 15 ServiceValue"}) {
+          "FrameAB_Selector 0 1 Frame_WdrE3Reg", "LUTSelector 0 3 LUTValue",
+          "LUTIndex 0 255 LUTValue", "LineSelector 1 2 LineFormat",
+          "UserOutputSelector 0 1 UserOutputValueReg", "ChunkSelector 0 3 ChunkEnableReg",
+          "EventSelector 2 3 EventNotification", "ServiceAddress 0 15 ServiceValue"}) {
         QString steps = "ServiceKey=1330796033 +0 %1=%2 %4=1 %1=%3 %4=0 %1=%2 %4?1 %1=%3 %4?0";
         for (const QString &name : QString(names).split(' '))
             steps = steps.arg(name);
