@@ -96,12 +96,10 @@ private slots:
     void registers();
     void bitFieldsShareTheirRegister();
     void formulas();
-    void formulaVariables();
-    void converters();
-    void indexedValues();
+    void values_data();
+    void values();
     void addressesThatMove();
     void accessModes();
-    void commandsAndCopies();
     void limitsAndIncrements();
     void validValues();
     void senselessReferences();
@@ -345,54 +343,66 @@ void TestNodeMap::formulas()
     }
 }
 
-void TestNodeMap::formulaVariables()
+void TestNodeMap::values_data()
 {
-    const auto map =
-        load(root({}) +
-             "<Integer Name='Int'><Value>5</Value><Min>1</Min><Max>9</Max><Inc>2</Inc></Integer>"
-             "<Boolean Name='Bool'><Value>1</Value></Boolean>"
-             "<Enumeration Name='Enum'><EnumEntry Name='A'><Value>3</Value></EnumEntry>"
-             "<EnumEntry Name='B'><Value>4</Value></EnumEntry><Value>4</Value></Enumeration>"
-             "<IntSwissKnife Name='Limits'><pVariable Name='V.Max'>Int</pVariable>"
-             "<pVariable Name='V.Min'>Int</pVariable><pVariable Name='V.Inc'>Int</pVariable>"
-             "<Formula>V.Max * 100 + V.Min * 10 + V.Inc</Formula></IntSwissKnife>"
-             "<IntSwissKnife Name='Others'><pVariable Name='B'>Bool</pVariable>"
-             "<pVariable Name='E'>Enum</pVariable><pVariable Name='E.Enum.A'>Enum</pVariable>"
-             "<Formula>B * 100 + E * 10 + E.Enum.A</Formula></IntSwissKnife>");
-    QCOMPARE(FeatureSteps(*map).run("Limits?912 Others?143 Enum=A Bool=0 Others?33"), QString());
+    QTest::addColumn<QByteArray>("nodes");
+    QTest::addColumn<QString>("steps");
+    const auto row = [](const char *name, const QByteArray &nodes, const char *steps) {
+        QTest::newRow(name) << nodes << QString(steps);
+    };
+    row("variables of formulas",
+        "<Integer Name='Int'><Value>5</Value><Min>1</Min><Max>9</Max><Inc>2</Inc></Integer>"
+        "<Boolean Name='Bool'><Value>1</Value></Boolean>"
+        "<Enumeration Name='Enum'><EnumEntry Name='A'><Value>3</Value></EnumEntry>"
+        "<EnumEntry Name='B'><Value>4</Value></EnumEntry><Value>4</Value></Enumeration>"
+        "<IntSwissKnife Name='Limits'><pVariable Name='V.Max'>Int</pVariable>"
+        "<pVariable Name='V.Min'>Int</pVariable><pVariable Name='V.Inc'>Int</pVariable>"
+        "<Formula>V.Max * 100 + V.Min * 10 + V.Inc</Formula></IntSwissKnife>"
+        "<IntSwissKnife Name='Others'><pVariable Name='B'>Bool</pVariable>"
+        "<pVariable Name='E'>Enum</pVariable><pVariable Name='E.Enum.A'>Enum</pVariable>"
+        "<Formula>B * 100 + E * 10 + E.Enum.A</Formula></IntSwissKnife>",
+        "Limits?912 Others?143 Enum=A Bool=0 Others?33");
+    row("converters",
+        intReg("Reg", "0") +
+            "<Integer "
+            "Name='Raw'><pValue>Reg</pValue><Min>1</Min><Max>200</Max><Inc>2</Inc></Integer>"
+            "<Converter Name='Rate'><FormulaTo>1000 / FROM</FormulaTo>"
+            "<FormulaFrom>1000 / TO</FormulaFrom><pValue>Raw</pValue><Slope>Decreasing</Slope>"
+            "</Converter>"
+            "<Converter Name='Linear'><FormulaTo>FROM * 10</FormulaTo>"
+            "<FormulaFrom>TO / 10</FormulaFrom><pValue>Raw</pValue><Slope>Increasing</Slope>"
+            "<IsLinear>Yes</IsLinear></Converter>"
+            "<IntConverter Name='Double'><FormulaTo>FROM / 2</FormulaTo>"
+            "<FormulaFrom>TO * 2</FormulaFrom><pValue>Raw</pValue></IntConverter>"
+            "<Float Name='Feature'><pValue>Rate</pValue><Unit>Hz</Unit></Float>",
+        "Feature:WO Feature=40 Reg?25 Feature:RW Feature?40 Feature.Min?5 "
+        "Feature.Max?1000 Linear?2.5 Linear.Inc?0.2 Double=30 Raw?15 "
+        "Double.Max?400 Rate!1001");
+    row("indexed values",
+        intReg("Reg", "0") + "<Integer Name='Index'><Value>0</Value></Integer>"
+                             "<Integer Name='Value'><pIndex>Index</pIndex>"
+                             "<ValueIndexed Index='0'>10</ValueIndexed>"
+                             "<pValueIndexed Index='1'>Reg</pValueIndexed>"
+                             "<ValueDefault>99</ValueDefault></Integer>",
+        "Value?10 Index=1 Value=55 Reg?55 Index=2 Value?99");
+    row("commands and copies",
+        intReg("Reg", "0") + intReg("Value", "4") + intReg("Copy", "8") +
+            "<Command Name='Start'><pValue>Reg</pValue>"
+            "<CommandValue>77</CommandValue></Command>"
+            "<Command Name='Other'><pValue>Both</pValue>"
+            "<pCommandValue>Value</pCommandValue></Command>"
+            "<Integer Name='Both'><pValue>Reg</pValue>"
+            "<pValueCopy>Copy</pValueCopy></Integer>",
+
+        "Start?1 Start=1 Reg?77 Start?0 Reg=0 Start?1 Value=5 Copy?0 Other=1 "
+        "Reg?5 Copy?5");
 }
 
-void TestNodeMap::converters()
+void TestNodeMap::values()
 {
-    const auto map = load(
-        root({}) + intReg("Reg", "0") +
-        "<Integer Name='Raw'><pValue>Reg</pValue><Min>1</Min><Max>200</Max><Inc>2</Inc></Integer>"
-        "<Converter Name='Rate'><FormulaTo>1000 / FROM</FormulaTo>"
-        "<FormulaFrom>1000 / TO</FormulaFrom><pValue>Raw</pValue><Slope>Decreasing</Slope>"
-        "</Converter>"
-        "<Converter Name='Linear'><FormulaTo>FROM * 10</FormulaTo>"
-        "<FormulaFrom>TO / 10</FormulaFrom><pValue>Raw</pValue><Slope>Increasing</Slope>"
-        "<IsLinear>Yes</IsLinear></Converter>"
-        "<IntConverter Name='Double'><FormulaTo>FROM / 2</FormulaTo>"
-        "<FormulaFrom>TO * 2</FormulaFrom><pValue>Raw</pValue></IntConverter>"
-        "<Float Name='Feature'><pValue>Rate</pValue><Unit>Hz</Unit></Float>");
-    QCOMPARE(
-        FeatureSteps(*map).run("Feature:WO Feature=40 Reg?25 Feature:RW Feature?40 Feature.Min?5 "
-                               "Feature.Max?1000 Linear?2.5 Linear.Inc?0.2 Double=30 Raw?15 "
-                               "Double.Max?400 Rate!1001"),
-        QString());
-}
-
-void TestNodeMap::indexedValues()
-{
-    const auto map = load(root({}) + intReg("Reg", "0") +
-                          "<Integer Name='Index'><Value>0</Value></Integer>"
-                          "<Integer Name='Value'><pIndex>Index</pIndex>"
-                          "<ValueIndexed Index='0'>10</ValueIndexed>"
-                          "<pValueIndexed Index='1'>Reg</pValueIndexed>"
-                          "<ValueDefault>99</ValueDefault></Integer>");
-    QCOMPARE(FeatureSteps(*map).run("Value?10 Index=1 Value=55 Reg?55 Index=2 Value?99"),
-             QString());
+    QFETCH(QByteArray, nodes);
+    QFETCH(QString, steps);
+    QCOMPARE(FeatureSteps(*load(root({}) + nodes)).run(steps), QString());
 }
 
 void TestNodeMap::addressesThatMove()
@@ -439,22 +449,6 @@ void TestNodeMap::accessModes()
              QString());
     QVERIFY_EXCEPTION_THROWN(integer(*map, "A") = 1, GenICam::AccessException);
     QVERIFY_EXCEPTION_THROWN(integer(*map, "WriteOnly").GetValue(), GenICam::AccessException);
-}
-
-void TestNodeMap::commandsAndCopies()
-{
-    const auto map =
-        load(root({}) + intReg("Reg", "0") + intReg("Value", "4") + intReg("Copy", "8") +
-             "<Command Name='Start'><pValue>Reg</pValue>"
-             "<CommandValue>77</CommandValue></Command>"
-             "<Command Name='Other'><pValue>Both</pValue>"
-             "<pCommandValue>Value</pCommandValue></Command>"
-             "<Integer Name='Both'><pValue>Reg</pValue>"
-             "<pValueCopy>Copy</pValueCopy></Integer>");
-    QCOMPARE(FeatureSteps(*map).run(
-                 "Start?1 Start=1 Reg?77 Start?0 Reg=0 Start?1 Value=5 Copy?0 Other=1 "
-                 "Reg?5 Copy?5"),
-             QString());
 }
 
 void TestNodeMap::limitsAndIncrements()
