@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <xwindow.h>
-
-#include <QtTest>
+#include <programonscreen.h>
 
 #include <memory>
 
@@ -11,139 +9,79 @@ class TestPickAndShow : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
     void opensThePickedCamera();
     void returnsToThePicker();
+    void cancels_data();
     void cancels();
-    void startsWithThePicker();
-    void cleanup();
+    void cleanup() { m_program.end(); }
 
 private:
-    void start(const QStringList &arguments, bool isSimulated = true);
-    bool waitForWindow(const QString &title);
-    void press(const QStringList &keys);
-    void closeWindow();
-    int status();
+    void start(const QStringList &arguments);
 
-    XView m_screen; // also keeps the server from starting anew between two programs
-    QProcess m_program;
+    ProgramOnScreen m_program;
     std::unique_ptr<QTemporaryDir> m_settings; ///< of the program, instead of the user's
-    QString m_window;               ///< the last that was waited for
 };
 
-namespace {
-
-const char *const pickerTitle = "Select camera";
-
-QString xdotool(const QStringList &arguments)
-{
-    QProcess process;
-    process.start("xdotool", arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-}
-
-} // namespace
-
-void TestPickAndShow::init()
+void TestPickAndShow::start(const QStringList &arguments)
 {
     m_settings = std::make_unique<QTemporaryDir>();
-    m_program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-}
-
-void TestPickAndShow::cleanup()
-{
-    m_program.kill();
-    m_program.waitForFinished();
-}
-
-void TestPickAndShow::start(const QStringList &arguments, bool isSimulated)
-{
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver never frees everything
-    if (isSimulated)
+    if (!arguments.contains("--simulate"))
         environment.insert("ORVCAM_SIMULATION", "1");
     environment.insert("XDG_CONFIG_HOME", m_settings->path());
     m_program.setProcessEnvironment(environment);
     m_program.start(ORV_PROGRAM, arguments);
-    QVERIFY(m_program.waitForStarted());
-}
-
-/// Without a window manager it is not given the keyboard.
-bool TestPickAndShow::waitForWindow(const QString &title)
-{
-    const QString pattern = '^' + QRegularExpression::escape(title) + '$';
-    return QTest::qWaitFor(
-        [&] {
-            m_window = xdotool({"search", "--onlyvisible", "--name", pattern}).section('\n', 0, 0);
-            if (m_window.isEmpty())
-                return false;
-            xdotool({"windowfocus", "--sync", m_window});
-            return true;
-        },
-        10000);
-}
-
-void TestPickAndShow::press(const QStringList &keys)
-{
-    xdotool(QStringList{"key", "--delay", "20"} + keys);
-}
-
-void TestPickAndShow::closeWindow()
-{
-    m_screen.askToClose(m_window.toUInt());
-}
-
-int TestPickAndShow::status()
-{
-    if (m_program.state() == QProcess::Running && !m_program.waitForFinished(10000))
-        return -1;
-    return m_program.exitStatus() == QProcess::NormalExit ? m_program.exitCode() : -2;
+    QVERIFY(m_program.waitForWindow("Select camera"));
 }
 
 void TestPickAndShow::opensThePickedCamera()
 {
-    start({"--simulate", "--window", "picker"}, false);
-    QVERIFY(waitForWindow(pickerTitle));
-    press({"Down", "Down", "Down", "Return"});
-    QVERIFY(waitForWindow("DualFrame 12M (Inspection)"));
-    closeWindow();
+    start({"--simulate", "--window", "picker"});
+    m_program.press({"Down", "Down", "Down", "Return"});
+    QVERIFY(m_program.waitForWindow("DualFrame 12M (Inspection)"));
+    m_program.closeWindow();
     QVERIFY(!m_program.waitForFinished(500));
-    QVERIFY(waitForWindow("CamConfig"));
-    closeWindow();
-    QCOMPARE(status(), 0);
+    QVERIFY(m_program.waitForWindow("CamConfig"));
+    m_program.closeWindow();
+    QCOMPARE(m_program.status(), 0);
 }
 
 /// A camera that somebody else controls can be picked, but not opened.
 void TestPickAndShow::returnsToThePicker()
 {
     start({"--window", "picker", "--camera", "SIM-0012"});
-    QVERIFY(waitForWindow(pickerTitle));
-    press({"Return"});
-    QVERIFY(waitForWindow("orvcamconfig"));
-    press({"Return"});
-    QVERIFY(waitForWindow(pickerTitle));
-    press({"Up", "Return"});
-    QVERIFY(waitForWindow(QString::fromUtf8("DualFrame 12M (T\xC3\xA9l\xC3\xA9objectif)")));
-    QVERIFY(waitForWindow("CamConfig"));
-    closeWindow(); // and the tree with it
-    QCOMPARE(status(), 0);
+    m_program.press({"Return"});
+    QVERIFY(m_program.waitForWindow("orvcamconfig"));
+    m_program.press({"Return"});
+    QVERIFY(m_program.waitForWindow("Select camera"));
+    m_program.press({"Up", "Return"});
+    QVERIFY(
+        m_program.waitForWindow(QString::fromUtf8("DualFrame 12M (T\xC3\xA9l\xC3\xA9objectif)")));
+    QVERIFY(m_program.waitForWindow("CamConfig"));
+    m_program.closeWindow(); // and the tree with it
+    QCOMPARE(m_program.status(), 0);
+}
+
+void TestPickAndShow::cancels_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("keys");
+    QTest::newRow("escape") << QStringList({"--simulate", "--window", "picker"})
+                            << QStringList({"Down", "Down", "Escape"});
+    QTest::newRow("closed, started without a word") << QStringList() << QStringList();
 }
 
 void TestPickAndShow::cancels()
 {
-    start({"--simulate", "--window", "picker"}, false);
-    QVERIFY(waitForWindow(pickerTitle));
-    press({"Down", "Down", "Escape"});
-    QCOMPARE(status(), 0);
-}
-
-void TestPickAndShow::startsWithThePicker()
-{
-    start({});
-    QVERIFY(waitForWindow(pickerTitle));
-    closeWindow();
-    QCOMPARE(status(), 0);
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, keys);
+    start(arguments);
+    if (keys.isEmpty())
+        m_program.closeWindow();
+    else
+        m_program.press(keys);
+    QCOMPARE(m_program.status(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestPickAndShow)

@@ -98,22 +98,15 @@ void TestRefresh::everyVisibleChangeIsReported_data()
 {
     QTest::addColumn<QString>("feature");
     QTest::addColumn<QString>("value");
-    QTest::newRow("selector") << "FrameAB_Selector"
-                              << "FrameB";
-    QTest::newRow("availability") << "FrameMode"
-                                  << "DualVideo";
-    QTest::newRow("trigger") << "TriggerMode"
-                             << "On";
-    QTest::newRow("limits and times") << "Frame_ExposureLines"
-                                      << "500";
-    QTest::newRow("size") << "Frame_Width"
-                          << "1024";
-    QTest::newRow("mode") << "Frame_DecimationMode"
-                          << "Subsampling";
-    QTest::newRow("pulse") << "PulseGenMode"
-                           << "Burst";
-    QTest::newRow("name") << "DeviceUserDefinedName"
-                          << "Left";
+    for (const auto &[feature, value] : {std::make_pair("FrameAB_Selector", "FrameB"),
+                                         {"FrameMode", "DualVideo"},
+                                         {"TriggerMode", "On"},
+                                         {"Frame_ExposureLines", "500"},
+                                         {"Frame_Width", "1024"},
+                                         {"Frame_DecimationMode", "Subsampling"},
+                                         {"PulseGenMode", "Burst"},
+                                         {"DeviceUserDefinedName", "Left"}})
+        QTest::newRow(feature) << QString(feature) << QString(value);
 }
 
 void TestRefresh::everyVisibleChangeIsReported()

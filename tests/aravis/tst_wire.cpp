@@ -5,20 +5,22 @@
 
 #include "gvcpcounter.h"
 
+#include "../genparamtree/treecells.h"
+
 #include <aravis/nodemap.h>
-#include <genparamtreemodel.h>
 
 #include <QtTest>
 
 namespace {
 
-/// What another client of the camera says of a feature.
-QString askedElsewhere(const QString &feature)
+/// What another client of the camera finds, or complains of.
+QString askedElsewhere(const QStringList &question)
 {
     QProcess tool;
-    tool.start("arv-tool-0.8", {"--address=127.0.0.1", "control", feature});
+    tool.setProcessChannelMode(QProcess::MergedChannels);
+    tool.start("arv-tool-0.8", QStringList("--address=127.0.0.1") + question);
     tool.waitForFinished(20000);
-    return QString::fromUtf8(tool.readAllStandardOutput());
+    return QString::fromUtf8(tool.readAll());
 }
 
 /// Reads everything that a view can ask of the cells.
@@ -34,21 +36,6 @@ void readAllCells(const QAbstractItemModel &model, const QModelIndex &parent = Q
         }
         readAllCells(model, model.index(row, 0, parent));
     }
-}
-
-QModelIndex valueCell(const QAbstractItemModel &model, const QString &feature,
-                      const QModelIndex &parent = QModelIndex())
-{
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex name = model.index(row, 0, parent);
-        auto *value = name.data(Qt::UserRole).value<GenApi::IValue *>();
-        if (feature == value->GetNode()->GetName().c_str())
-            return model.index(row, 1, parent);
-        const QModelIndex found = valueCell(model, feature, name);
-        if (found.isValid())
-            return found;
-    }
-    return QModelIndex();
 }
 
 } // namespace
@@ -174,10 +161,15 @@ void TestWire::anotherClientSeesTheValue()
 {
     QVERIFY(m_model->setData(valueCell(*m_model, "Frame_ExposureLines"), 777));
     QVERIFY(m_model->setData(valueCell(*m_model, "DeviceUserDefinedName"), "Left camera"));
-    const QString lines = askedElsewhere("Frame_ExposureLines");
+    const QString lines = askedElsewhere({"control", "Frame_ExposureLines"});
     QVERIFY2(lines.contains("Frame_ExposureLines = 777"), qPrintable(lines));
-    const QString name = askedElsewhere("DeviceUserDefinedName");
+    const QString name = askedElsewhere({"control", "DeviceUserDefinedName"});
     QVERIFY2(name.contains("Left camera"), qPrintable(name));
+
+    // Nothing in the description is amiss for anybody.
+    const QString all = askedElsewhere({"values"});
+    QVERIFY2(all.contains("'Root'") && all.contains("'GevSCDA'"), qPrintable(all));
+    QVERIFY2(!all.contains("rror") && !all.contains("ailed"), qPrintable(all));
 }
 
 void TestWire::aSilentCameraCostsOneWait()

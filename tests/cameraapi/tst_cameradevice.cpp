@@ -78,6 +78,13 @@ public:
 /// Collects event codes.
 struct Events
 {
+    Events() = default;
+    explicit Events(Device &device)
+    {
+        device.RegisterEvent(EventDisconnected, note, this);
+        device.RegisterEvent(EventReconnected, note, this);
+    }
+
     static void note(int32_t code, void *context)
     {
         auto *self = static_cast<Events *>(context);
@@ -103,7 +110,6 @@ class TestCameraDevice : public QObject
 
 private slots:
     void openAndClose();
-    void badDescription();
     void unplugAndReplug();
     void takenByOthersMeanwhile();
     void registrations();
@@ -142,37 +148,11 @@ void TestCameraDevice::openAndClose()
     QVERIFY(array->ExecuteCommand("AcquisitionStart") != Success);
 }
 
-void TestCameraDevice::badDescription()
-{
-    int32_t error = Success;
-    class Thrower final : public CameraConnector
-    {
-    public:
-        std::unique_ptr<CameraConnection> open(int32_t, int32_t &) override
-        {
-            class Broken final : public CameraConnection
-            {
-                GenApi::INodeMap &nodeMap() override
-                {
-                    throw GenICam::RuntimeException("nonsense", __FILE__, __LINE__);
-                }
-                bool isAlive() override { return true; }
-            };
-            return std::make_unique<Broken>();
-        }
-    };
-    QVERIFY(
-        !CameraDevice::open(nullptr, m_info, std::make_shared<Thrower>(), AccessControl, error));
-    QCOMPARE(error, int32_t(ErrorBadDescription));
-}
-
 void TestCameraDevice::unplugAndReplug()
 {
     World world;
-    Events events;
     Released<Device> device = open(world);
-    device->RegisterEvent(EventDisconnected, Events::note, &events);
-    device->RegisterEvent(EventReconnected, Events::note, &events);
+    Events events(*device);
     std::vector<OrvGenParam::Int *> widths{device->GetParamArray()->GetInt("Width")};
 
     const int rounds = 3;
@@ -210,10 +190,8 @@ void TestCameraDevice::unplugAndReplug()
 void TestCameraDevice::takenByOthersMeanwhile()
 {
     World world;
-    Events events;
     const Released<Device> device = open(world);
-    device->RegisterEvent(EventDisconnected, Events::note, &events);
-    device->RegisterEvent(EventReconnected, Events::note, &events);
+    Events events(*device);
     world.isTaken = true;
     world.isPlugged = false;
     QTRY_COMPARE(events.seen().size(), size_t(1));

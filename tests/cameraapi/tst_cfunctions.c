@@ -43,24 +43,10 @@ static void search(OrvCamSystem *system)
         nameless += !OrvCam_GetModel(info) && !OrvCam_GetUserName(info);
     }
     CHECK(nameless == 1);
+    CHECK(strcmp(OrvCam_GetUserName(OrvCam_GetDeviceInfo(system, 1)), "Inspection") == 0);
+    CHECK(strcmp(OrvCam_GetSerial(OrvCam_GetDeviceInfo(system, 1)), "SIM-0002") == 0);
     CHECK(!OrvCam_GetDeviceInfo(system, i));
     CHECK(!OrvCam_GetDeviceInfo(system, UINT32_MAX));
-
-    CHECK(find(system, OrvCam_AccessReadWrite));
-    CHECK(find(system, OrvCam_AccessReadOnly));
-    CHECK(find(system, OrvCam_AccessNone));
-    CHECK(find(system, OrvCam_AccessSubnetMismatch));
-}
-
-static void texts(OrvCamSystem *system)
-{
-    const OrvCamDeviceInfo *info = OrvCam_GetDeviceInfo(system, 1);
-    CHECK(strcmp(OrvCam_GetUserName(info), "Inspection") == 0);
-    CHECK(strcmp(OrvCam_GetSerial(info), "SIM-0002") == 0);
-    CHECK(strstr(OrvCam_GetId(info), "SIM-0002"));
-    CHECK(strstr(OrvCam_GetDisplayName(info), OrvCam_GetModel(info)));
-    CHECK(strlen(OrvCam_GetVendor(info)) > 0);
-    CHECK(strlen(OrvCam_GetVersionText(info)) > 0);
 }
 
 static void openAndClose(OrvCamSystem *system)
@@ -83,11 +69,6 @@ static void openAndClose(OrvCamSystem *system)
     OrvCam_ReleaseDevice(device);
     CHECK(OrvCam_RefreshDevices(system, 200) == OrvCam_Success);
     CHECK(find(system, OrvCam_AccessReadWrite) == info);
-
-    CHECK(!OrvCam_CreateDevice(info, &error, 0) && error == OrvCam_ErrorInvalidArgument);
-    CHECK(!OrvCam_CreateDevice(find(system, OrvCam_AccessSubnetMismatch), &error,
-                               OrvCam_AccessControl));
-    CHECK(error == OrvCam_ErrorWrongSubnet);
 }
 
 static void nothing(void)
@@ -128,7 +109,6 @@ int main(void)
     OrvCamSystem *system = OrvCam_GetSystem();
     CHECK(system);
     search(system);
-    texts(system);
     openAndClose(system);
     nothing();
     deviceOutlivesSystem(system); /* releases it */

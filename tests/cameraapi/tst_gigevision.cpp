@@ -36,11 +36,11 @@ private slots:
     void unplugAndReplug();
     void controlTakenAway();
     void cablePulled();
-    void releaseWithoutCamera();
 
 private:
     Interface *interface(const char *adapter);
     DeviceInfo *waitForCamera(const char *adapter, const char *serial);
+    Released<Device> open(const char *serial);
 
     std::unique_ptr<CameraNetwork> m_first;
     std::unique_ptr<CameraNetwork> m_second;
@@ -103,6 +103,15 @@ DeviceInfo *TestGigEVision::waitForCamera(const char *adapter, const char *seria
         }
     }
     qFatal("The camera %s does not come up", serial);
+}
+
+Released<Device> TestGigEVision::open(const char *serial)
+{
+    Released<Device> device(
+        OrvCam_CreateDevice(waitForCamera("orv0", serial), nullptr, AccessControl));
+    if (!device)
+        qFatal("The camera %s cannot be opened", serial);
+    return device;
 }
 
 void TestGigEVision::adaptersAndCameras()
@@ -367,9 +376,7 @@ void TestGigEVision::forcedIpFails()
 void TestGigEVision::unplugAndReplug()
 {
     auto camera = m_first->startCamera("LIVELY");
-    DeviceInfo *info = waitForCamera("orv0", "LIVELY");
-    const Released<Device> device(OrvCam_CreateDevice(info, nullptr, AccessControl));
-    QVERIFY(device);
+    const Released<Device> device = open("LIVELY");
     Events events(*device);
     OrvGenParam::Array *array = device->GetParamArray();
     OrvGenParam::Int *width = array->GetInt("Width");
@@ -402,31 +409,35 @@ void TestGigEVision::unplugAndReplug()
     QCOMPARE(present->SetIntegerValue("Width", 256), int32_t(Success));
     QCOMPARE(events.disconnected.load(), 1);
     interface("orv0")->RefreshDevices(nullptr, 200);
-    QCOMPARE(info->GetAccessState(), int32_t(AccessNone));
+    QCOMPARE(device->GetDeviceInfo()->GetAccessState(), int32_t(AccessNone));
 }
 
 void TestGigEVision::controlTakenAway()
 {
     // A camera that restarts between two looks answers all the time, but knows nobody any more.
     auto camera = m_first->startCamera("RESTART");
-    const Released<Device> device(
-        OrvCam_CreateDevice(waitForCamera("orv0", "RESTART"), nullptr, AccessControl));
-    QVERIFY(device);
+    Released<Device> device = open("RESTART");
     Events events(*device);
     camera.reset();
     camera = m_first->startCamera("RESTART");
     QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
     QCOMPARE(events.disconnected.load(), 1);
     QVERIFY(device->GetParamArray()->GetIntegerValue("Width") > 0);
+
+    // Released without a camera.
+    camera.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(!device->IsConnected(), patience);
+    QElapsedTimer timer;
+    timer.start();
+    device.reset();
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void TestGigEVision::cablePulled()
 {
     // The camera goes on and may still take its lost controller for the present one.
     const auto camera = m_first->startCamera("CABLE");
-    const Released<Device> device(
-        OrvCam_CreateDevice(waitForCamera("orv0", "CABLE"), nullptr, AccessControl));
-    QVERIFY(device);
+    const Released<Device> device = open("CABLE");
     Events events(*device);
     QCOMPARE(device->GetParamArray()->SetIntegerValue("Width", 96), int32_t(Success));
     CameraNetwork::run("ip", "link set orv0 down");
@@ -435,20 +446,6 @@ void TestGigEVision::cablePulled()
     QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
     QCOMPARE(device->GetParamArray()->GetIntegerValue("Width"), int64_t(96));
     QCOMPARE(device->GetParamArray()->SetIntegerValue("Width", 64), int32_t(Success));
-}
-
-void TestGigEVision::releaseWithoutCamera()
-{
-    auto camera = m_first->startCamera("LOST");
-    DeviceInfo *info = waitForCamera("orv0", "LOST");
-    Released<Device> device(OrvCam_CreateDevice(info, nullptr, AccessControl));
-    QVERIFY(device);
-    camera.reset();
-    QTRY_VERIFY_WITH_TIMEOUT(!device->IsConnected(), patience);
-    QElapsedTimer timer;
-    timer.start();
-    device.reset();
-    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(TestGigEVision)

@@ -7,13 +7,6 @@ using namespace OrvAravis;
 
 namespace {
 
-QByteArray bytes(const Gvcp::Packet &packet)
-{
-    return QByteArray(reinterpret_cast<const char *>(packet.data()),
-                      static_cast<int>(packet.size()))
-        .toHex(' ');
-}
-
 /// What a camera at 192.168.1.10 answers to discovery request 0x1234.
 QByteArray discoveryAnswer()
 {
@@ -48,26 +41,10 @@ class TestGvcp : public QObject
     Q_OBJECT
 
 private slots:
-    void commands();
     void identity();
     void registers();
-    void badAnswers_data();
-    void badAnswers();
     void everyTruncation();
 };
-
-void TestGvcp::commands()
-{
-    QCOMPARE(bytes(Gvcp::discoveryCommand(0xABCD)), QByteArray("42 11 00 02 00 00 ab cd"));
-    QCOMPARE(bytes(Gvcp::readRegisterCommand(1, 0x0A00)),
-             QByteArray("42 01 00 80 00 04 00 01 00 00 0a 00"));
-    QCOMPARE(
-        bytes(Gvcp::forceIpCommand(0x0102, 0xFF02001B2C3D4E5F, 0xC0A8010B, 0xFFFFFF00, 0xC0A80101)),
-        QByteArray("42 11 00 04 00 38 01 02 00 00 00 1b 2c 3d 4e 5f "
-                   "00 00 00 00 00 00 00 00 00 00 00 00 c0 a8 01 0b "
-                   "00 00 00 00 00 00 00 00 00 00 00 00 ff ff ff 00 "
-                   "00 00 00 00 00 00 00 00 00 00 00 00 c0 a8 01 01"));
-}
 
 void TestGvcp::identity()
 {
@@ -107,24 +84,10 @@ void TestGvcp::registers()
     QVERIFY(!Gvcp::parseRegister(*parse(refusal)));
 }
 
-void TestGvcp::badAnswers_data()
-{
-    QTest::addColumn<QByteArray>("packet");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("short header") << QByteArray::fromHex("0000 0003 00f8 12");
-    QTest::newRow("less than it claims") << QByteArray::fromHex("0000 0081 0004 0007 123456");
-    QTest::newRow("claims everything") << QByteArray::fromHex("0000 0003 ffff 1234 00");
-}
-
-void TestGvcp::badAnswers()
-{
-    QFETCH(QByteArray, packet);
-    QVERIFY(!parse(packet));
-}
-
 void TestGvcp::everyTruncation()
 {
     // Also with a length that fits the shorter packet: then the header is fine, the contents not.
+    QVERIFY(!parse(QByteArray::fromHex("0000 0003 ffff 1234 00"))); // claims everything
     const QByteArray whole = discoveryAnswer();
     for (int size = 0; size < whole.size(); ++size) {
         // A heap copy of exactly this size lets the sanitizer see a read beyond its end.

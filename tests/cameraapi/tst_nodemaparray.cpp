@@ -85,10 +85,8 @@ private slots:
     void lookUp();
     void values();
     void enumeration();
-    void texts();
     void errorCodes_data();
     void errorCodes();
-    void vanishedFeature();
     void detached();
     void sinksFollowChanges();
     void sinksMayActFromInside();
@@ -100,6 +98,10 @@ private slots:
 void TestNodeMapArray::lookUp()
 {
     Camera camera;
+    camera.width.properties().displayName = "Image Width";
+    camera.width.properties().toolTip = "short";
+    camera.width.properties().description = "long";
+    camera.exposure.properties().toolTip = "only this";
     const NodeMapArray array(camera.map);
 
     QStringList names;
@@ -109,20 +111,14 @@ void TestNodeMapArray::lookUp()
                                  "DeviceUserID"}));
     QVERIFY(!array.GetParam(array.GetCount()));
 
-    QVERIFY(array.GetInt("Width"));
     QCOMPARE(array.GetParam("Width"), static_cast<Param *>(array.GetInt("Width")));
     QCOMPARE(array.GetInt("Width")->GetType(), ParamInt);
-    QVERIFY(array.GetFloat("ExposureTime"));
-    QVERIFY(array.GetEnum("Mode"));
-    QVERIFY(array.GetBoolean("ReverseX"));
-    QVERIFY(array.GetCommand("TriggerSoftware"));
-    QVERIFY(array.GetString("DeviceUserID"));
-
-    QVERIFY(!array.GetInt("ExposureTime"));
-    QVERIFY(!array.GetFloat("Width"));
-    QVERIFY(!array.GetInt("HiddenRegister"));
-    QVERIFY(!array.GetString("LUT"));
-    QVERIFY(!array.GetParam("Root"));
+    QCOMPARE(array.GetParam("Width")->GetDisplayName(), "Image Width");
+    QCOMPARE(array.GetParam("Width")->GetDescription(), "long");
+    QCOMPARE(array.GetParam("ExposureTime")->GetDisplayName(), "ExposureTime");
+    QCOMPARE(array.GetParam("ExposureTime")->GetDescription(), "only this");
+    QVERIFY(!array.GetInt("ExposureTime") && !array.GetFloat("Width") && !array.GetString("LUT"));
+    QVERIFY(!array.GetInt("HiddenRegister") && !array.GetParam("Root"));
     QVERIFY(!array.GetParam(static_cast<const char *>(nullptr)));
 
     int32_t error = -1;
@@ -135,38 +131,24 @@ void TestNodeMapArray::values()
     Camera camera;
     NodeMapArray array(camera.map);
     int32_t error = -1;
-
-    Int *width = array.GetInt("Width");
-    QCOMPARE(width->SetValue(320), int32_t(OrvCam::Success));
-    QCOMPARE(width->GetValue(&error), int64_t(320));
+    QCOMPARE(array.GetInt("Width")->SetValue(320), int32_t(OrvCam::Success));
+    QCOMPARE(array.GetInt("Width")->GetValue(&error), int64_t(320));
     QCOMPARE(error, int32_t(OrvCam::Success));
-    QCOMPARE(width->GetMin(), int64_t(16));
-    QCOMPARE(width->GetMax(), int64_t(1280));
-    QCOMPARE(width->GetInc(), int64_t(16));
-    QCOMPARE(width->GetUnit(), "px");
-    QCOMPARE(array.SetIntegerValue("Width", 336), int32_t(OrvCam::Success));
-    QCOMPARE(array.GetIntegerValue("Width"), int64_t(336));
+    QCOMPARE(array.GetInt("Width")->GetInc(), int64_t(16));
+    QCOMPARE(array.GetInt("Width")->GetUnit(), "px");
 
     Float *exposure = array.GetFloat("ExposureTime");
-    QCOMPARE(exposure->SetValue(0.75), int32_t(OrvCam::Success));
-    QCOMPARE(exposure->GetValue(&error), 0.75);
-    QCOMPARE(exposure->GetMin(), 0.5);
-    QCOMPARE(exposure->GetMax(), 1e6);
-    QCOMPARE(exposure->GetInc(&error), 0.0);
+    QVERIFY(exposure->GetMin() == 0.5 && exposure->GetMax() == 1e6);
+    QCOMPARE(exposure->GetInc(&error), 0.0); // none is no error
     QCOMPARE(error, int32_t(OrvCam::Success));
     camera.exposure.setIncrement(0.25);
     QCOMPARE(exposure->GetInc(), 0.25);
-
-    Boolean *reverse = array.GetBoolean("ReverseX");
-    QCOMPARE(reverse->SetValue(false), int32_t(OrvCam::Success));
-    QCOMPARE(reverse->GetValue(), false);
 
     int executions = 0;
     camera.trigger.onExecute([&] { ++executions; });
     QCOMPARE(array.GetCommand("TriggerSoftware")->Execute(), int32_t(OrvCam::Success));
     QCOMPARE(array.ExecuteCommand("TriggerSoftware"), int32_t(OrvCam::Success));
     QCOMPARE(executions, 2);
-    QVERIFY(array.GetCommand("TriggerSoftware")->IsDone());
 
     String *name = array.GetString("DeviceUserID");
     QCOMPARE(QString::fromUtf8(name->GetValue()), QString::fromUtf8("Käfer"));
@@ -203,21 +185,6 @@ void TestNodeMapArray::enumeration()
     QVERIFY(mode->SetIntValue(4) != OrvCam::Success);
 }
 
-void TestNodeMapArray::texts()
-{
-    Camera camera;
-    camera.width.properties().displayName = "Image Width";
-    camera.width.properties().toolTip = "short";
-    camera.width.properties().description = "long";
-    camera.exposure.properties().toolTip = "only this";
-    const NodeMapArray array(camera.map);
-
-    QCOMPARE(array.GetParam("Width")->GetDisplayName(), "Image Width");
-    QCOMPARE(array.GetParam("Width")->GetDescription(), "long");
-    QCOMPARE(array.GetParam("ExposureTime")->GetDisplayName(), "ExposureTime");
-    QCOMPARE(array.GetParam("ExposureTime")->GetDescription(), "only this");
-}
-
 using Breaker = std::function<void(Camera &)>;
 using Call = std::function<int32_t(NodeMapArray &)>;
 Q_DECLARE_METATYPE(Breaker)
@@ -239,52 +206,45 @@ void TestNodeMapArray::errorCodes_data()
             camera.width.onWrite(hook);
         });
     };
-    const auto write = [](int64_t value) {
-        return Call([value](NodeMapArray &a) { return a.SetIntegerValue("Width", value); });
+    const auto write = [](int64_t value, const char *name = "Width") {
+        return Call([=](NodeMapArray &a) { return a.SetIntegerValue(name, value); });
     };
-    const Call read = [](NodeMapArray &array) {
-        int32_t error = 0;
-        const int64_t value = array.GetIntegerValue("Width", &error);
-        return error != 0 && value != 0 ? 99 : error;
+    const auto readOf = [](const char *name) {
+        return Call([name](NodeMapArray &array) {
+            int32_t error = 0;
+            const int64_t value = array.GetIntegerValue(name, &error);
+            return error != 0 && value != 0 ? 99 : error;
+        });
+    };
+    const Call read = readOf("Width");
+    const Call command = [](NodeMapArray &a) { return a.ExecuteCommand("Width"); };
+    const auto text = [](const char *value) {
+        return Call([=](NodeMapArray &a) { return a.GetString("DeviceUserID")->SetValue(value); });
+    };
+    const Breaker late =
+        failing([] { throw GenICam::TimeoutException("late", __FILE__, __LINE__); });
+    const Breaker refusing =
+        failing([] { throw GenICam::AccessException("no", __FILE__, __LINE__); });
+    const auto row = [](const char *name, const Breaker &breaker, const Call &call, int code) {
+        QTest::newRow(name) << breaker << call << code;
     };
 
-    QTest::newRow("no such feature")
-        << asItIs << Call([](NodeMapArray &a) { return a.SetIntegerValue("Depth", 1); })
-        << int(OrvCam::ErrorNotFound);
-    QTest::newRow("wrong kind, read") << asItIs << Call([](NodeMapArray &a) {
-        int32_t error = 0;
-        a.GetIntegerValue("ExposureTime", &error);
-        return error;
-    }) << int(OrvCam::ErrorNotFound);
-    QTest::newRow("wrong kind, command")
-        << asItIs << Call([](NodeMapArray &a) { return a.ExecuteCommand("Width"); })
-        << int(OrvCam::ErrorNotFound);
-    QTest::newRow("above maximum") << asItIs << write(1296) << int(OrvCam::ErrorOutOfRange);
-    QTest::newRow("off increment") << asItIs << write(17) << int(OrvCam::ErrorOutOfRange);
-    QTest::newRow("read-only") << access(GenApi::RO) << write(32) << int(OrvCam::ErrorAccessDenied);
-    QTest::newRow("write-only") << access(GenApi::WO) << read << int(OrvCam::ErrorAccessDenied);
-    QTest::newRow("unavailable, write")
-        << access(GenApi::NA) << write(32) << int(OrvCam::ErrorNotAvailable);
-    QTest::newRow("unavailable, read")
-        << access(GenApi::NA) << read << int(OrvCam::ErrorNotAvailable);
-    QTest::newRow("not implemented")
-        << access(GenApi::NI) << read << int(OrvCam::ErrorNotAvailable);
-    QTest::newRow("timeout, read")
-        << failing([] { throw GenICam::TimeoutException("late", __FILE__, __LINE__); }) << read
-        << int(OrvCam::ErrorTimeout);
-    QTest::newRow("camera refuses")
-        << failing([] { throw GenICam::AccessException("no", __FILE__, __LINE__); }) << write(32)
-        << int(OrvCam::ErrorAccessDenied);
-    QTest::newRow("runtime error")
-        << failing(throwRuntime) << write(32) << int(OrvCam::ErrorFailed);
-    QTest::newRow("not even GenICam")
-        << failing([] { throw 42; }) << read << int(OrvCam::ErrorFailed);
-    QTest::newRow("null text") << asItIs << Call([](NodeMapArray &a) {
-        return a.GetString("DeviceUserID")->SetValue(nullptr);
-    }) << int(OrvCam::ErrorInvalidArgument);
-    QTest::newRow("long text") << asItIs << Call([](NodeMapArray &a) {
-        return a.GetString("DeviceUserID")->SetValue("123456789");
-    }) << int(OrvCam::ErrorOutOfRange);
+    row("no such feature", asItIs, write(1, "Depth"), OrvCam::ErrorNotFound);
+    row("wrong kind, read", asItIs, readOf("ExposureTime"), OrvCam::ErrorNotFound);
+    row("wrong kind, command", asItIs, command, OrvCam::ErrorNotFound);
+    row("above maximum", asItIs, write(1296), OrvCam::ErrorOutOfRange);
+    row("off increment", asItIs, write(17), OrvCam::ErrorOutOfRange);
+    row("read-only", access(GenApi::RO), write(32), OrvCam::ErrorAccessDenied);
+    row("write-only", access(GenApi::WO), read, OrvCam::ErrorAccessDenied);
+    row("unavailable, write", access(GenApi::NA), write(32), OrvCam::ErrorNotAvailable);
+    row("unavailable, read", access(GenApi::NA), read, OrvCam::ErrorNotAvailable);
+    row("not implemented", access(GenApi::NI), read, OrvCam::ErrorNotAvailable);
+    row("timeout, read", late, read, OrvCam::ErrorTimeout);
+    row("camera refuses", refusing, write(32), OrvCam::ErrorAccessDenied);
+    row("runtime error", failing(throwRuntime), write(32), OrvCam::ErrorFailed);
+    row("not even GenICam", failing([] { throw 42; }), read, OrvCam::ErrorFailed);
+    row("null text", asItIs, text(nullptr), OrvCam::ErrorInvalidArgument);
+    row("long text", asItIs, text("123456789"), OrvCam::ErrorOutOfRange);
 }
 
 void TestNodeMapArray::errorCodes()
@@ -296,21 +256,11 @@ void TestNodeMapArray::errorCodes()
     NodeMapArray array(camera.map);
     breaker(camera);
     QCOMPARE(call(array), int32_t(code));
-}
-
-void TestNodeMapArray::vanishedFeature()
-{
-    Camera camera;
-    const NodeMapArray array(camera.map);
-    const Param *width = array.GetParam("Width");
-    QVERIFY(width->IsAvailable() && width->IsReadable() && width->IsWritable());
-
-    camera.width.setAccessMode(GenApi::RO);
-    QVERIFY(width->IsAvailable() && width->IsReadable() && !width->IsWritable());
-    camera.width.setAccessMode(GenApi::NA);
-    QVERIFY(!width->IsAvailable() && !width->IsReadable() && !width->IsWritable());
-    camera.width.setAccessMode(GenApi::RW);
-    QVERIFY(width->IsWritable());
+    const Param &width = *array.GetParam("Width");
+    const GenApi::EAccessMode mode = camera.width.GetAccessMode();
+    QCOMPARE(width.IsAvailable(), mode != GenApi::NA && mode != GenApi::NI);
+    QCOMPARE(width.IsReadable(), mode == GenApi::RW || mode == GenApi::RO);
+    QCOMPARE(width.IsWritable(), mode == GenApi::RW || mode == GenApi::WO);
 }
 
 void TestNodeMapArray::detached()
@@ -507,13 +457,9 @@ void TestNodeMapArray::registrationsUnderLoad()
     Sink steady;
     array.GetParam("Width")->RegisterEventSink(&steady);
     int made = 0;
-    for (QElapsedTimer timer =
-             [] {
-                 QElapsedTimer t;
-                 t.start();
-                 return t;
-             }();
-         !timer.hasExpired(300); ++made) {
+    QElapsedTimer timer;
+    timer.start();
+    for (; !timer.hasExpired(300); ++made) {
         NodeMapArray passing(camera.map);
         Sink sink;
         passing.GetParam("Width")->RegisterEventSink(&sink);

@@ -1,20 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <xwindow.h>
-
-#include <QProcess>
-#include <QtTest>
+#include <programonscreen.h>
 
 #include <csignal>
 
-namespace {
-
-const QPoint panelPosition(8, 40);
-const QRgb hostColour = 0xffd8e4f0;
-const QRgb panelColour = 0xffffffff;
-
-} // namespace
-
-/// The C host as somebody uses it who only has its window, a mouse and a keyboard.
+/// The C host as somebody uses it on a screen.
 class TestCHost : public QObject
 {
     Q_OBJECT
@@ -28,55 +17,36 @@ private slots:
     void withoutDisplay();
 
 private:
-    QImage panel() const { return m_screen.picture(m_screen.children(m_window).value(0)); }
+    QImage panel() const
+    {
+        return m_host.screen.picture(m_host.screen.children(m_host.window).value(0));
+    }
     int rowsOfText() const;
-    static void xdotool(const QStringList &arguments)
-    {
-        QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-    }
-    static void click(int x, int y)
-    {
-        xdotool({QStringLiteral("mousemove"), QString::number(x), QString::number(y),
-                 QStringLiteral("click"), QStringLiteral("1")});
-    }
 
-    XView m_screen;
-    QProcess m_host;
-    xcb_window_t m_window = 0;
+    ProgramOnScreen m_host;
 };
 
 void TestCHost::init()
 {
-    m_host.start(ORV_C_HOST, {QStringLiteral("--simulate")});
-    QVERIFY(m_host.waitForStarted());
-    m_window = 0;
-    const auto find = [this] {
-        for (const xcb_window_t window : m_screen.children(m_screen.screen().root)) {
-            if (m_screen.title(window) == "C host")
-                m_window = window;
-        }
-        return m_window != 0;
-    };
-    QTRY_VERIFY(find());
-    // The tree has been painted when it no longer is the panel that is seen.
-    QTRY_VERIFY(!panel().isNull() && panel().pixel(2, 2) != panelColour);
+    m_host.start(ORV_C_HOST, {"--simulate"});
+    QVERIFY(m_host.waitForWindow("C host"));
+    // The tree has been painted when it no longer is the white panel that is seen.
+    QTRY_VERIFY(!panel().isNull() && panel().pixel(2, 2) != 0xffffffff);
 }
 
 void TestCHost::cleanup()
 {
-    if (m_host.state() == QProcess::NotRunning)
-        return;
-    ::kill(static_cast<pid_t>(m_host.processId()), SIGTERM);
-    QVERIFY(m_host.waitForFinished());
-    QCOMPARE(m_host.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(m_host.exitCode(), 0);
+    if (m_host.state() == QProcess::Running)
+        ::kill(static_cast<pid_t>(m_host.processId()), SIGTERM);
+    QCOMPARE(m_host.status(), 0);
 }
 
 void TestCHost::fillsTheWindow()
 {
+    const QRgb hostColour = 0xffd8e4f0;
     const QRgb treeColour = panel().pixel(2, 2);
     for (const QSize &size : {QSize(900, 700), QSize(400, 300)}) {
-        m_screen.resize(m_window, size);
+        m_host.screen.resize(m_host.window, size);
         const QSize panelSize(size.width() - 16, size.height() - 48);
         QTRY_COMPARE(panel().size(), panelSize);
         QTRY_COMPARE(panel().pixel(panelSize.width() - 3, panelSize.height() - 3), treeColour);
@@ -84,9 +54,8 @@ void TestCHost::fillsTheWindow()
         QCOMPARE(panel().pixel(panelSize.width() - 3, 2), treeColour);
 
         // Around the tree there is still the host.
-        const QImage whole = m_screen.picture(m_window);
-        QCOMPARE(whole.pixel(panelPosition.x() - 1, panelPosition.y()), hostColour);
-        QCOMPARE(whole.pixel(size.width() - 1, size.height() - 1), hostColour);
+        QCOMPARE(m_host.picture().pixel(7, 40), hostColour);
+        QCOMPARE(m_host.picture().pixel(size.width() - 1, size.height() - 1), hostColour);
     }
 }
 
@@ -108,32 +77,29 @@ int TestCHost::rowsOfText() const
 
 void TestCHost::input()
 {
-    m_screen.resize(m_window, QSize(700, 760));
+    m_host.screen.resize(m_host.window, QSize(700, 760));
     QTRY_COMPARE(panel().height(), 712);
     // The first category is opened with the keyboard, for which it is clicked.
     const QImage closed = panel();
-    click(100, 92);
+    m_host.click(100, 92);
     QTRY_VERIFY(panel() != closed);
     const int rows = rowsOfText();
     QVERIFY(rows > 5);
-    xdotool({QStringLiteral("key"), QStringLiteral("Right")});
+    m_host.press({"Right"});
     QTRY_VERIFY(rowsOfText() > rows);
 }
 
 void TestCHost::endsWithItsWindow()
 {
-    // What a window manager does when the user closes the window.
-    m_screen.askToClose(m_window);
+    m_host.closeWindow();
     QVERIFY(m_host.waitForFinished());
-    QCOMPARE(m_host.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(m_host.exitCode(), 0);
 }
 
 void TestCHost::withoutDisplay()
 {
     QProcess host;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove("DISPLAY");
     host.setProcessEnvironment(environment);
     host.start(ORV_C_HOST, QStringList());
     QVERIFY(host.waitForFinished());

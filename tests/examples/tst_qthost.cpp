@@ -16,7 +16,6 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void looksAsItWasLeft();
-    void spoiltSettings();
 
 private:
     OrvGenParam::Array *parameters(int camera) const
@@ -73,18 +72,6 @@ void TestQtHost::looksAsItWasLeft()
     QCOMPARE(QByteArray(window.left().saveState()), left);
     QCOMPARE(QByteArray(window.right().saveState()), right);
     QVERIFY(window.left().treeView()->isExpanded(window.left().treeView()->model()->index(2, 0)));
-}
-
-void TestQtHost::spoiltSettings()
-{
-    QSettings settings(m_folder.filePath(QStringLiteral("spoilt.ini")), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("trees/left"), QStringLiteral("&amp;Wide"));
-    settings.setValue(QStringLiteral("trees/right"), QStringLiteral("&amp;V1"));
-    settings.setValue(QStringLiteral("geometry"), QByteArray("?"));
-    TwoTrees window(parameters(0), nullptr, settings);
-    window.show();
-    QVERIFY(window.left().treeView()->model()->rowCount() > 0);
-    QVERIFY(!window.right().treeView()->model());
 }
 
 QTEST_MAIN(TestQtHost)

@@ -43,54 +43,14 @@ struct Range
 };
 
 // Elements of a node in the order in which the schema wants them.
-const QStringList elementOrder{"ToolTip",
-                               "Description",
-                               "DisplayName",
-                               "Visibility",
-                               "pIsImplemented",
-                               "pIsAvailable",
-                               "pIsLocked",
-                               "ImposedAccessMode",
-                               "Streamable",
-                               "EnumEntry",
-                               "pVariable",
-                               "FormulaTo",
-                               "FormulaFrom",
-                               "Formula",
-                               "pAddress",
-                               "Address",
-                               "pIndex",
-                               "Length",
-                               "AccessMode",
-                               "pPort",
-                               "Cachable",
-                               "PollingTime",
-                               "pInvalidator",
-                               "Value",
-                               "pValue",
-                               "CommandValue",
-                               "pMin",
-                               "Min",
-                               "pMax",
-                               "Max",
-                               "pInc",
-                               "Inc",
-                               "ValidValueSet",
-                               "Bit",
-                               "LSB",
-                               "MSB",
-                               "Sign",
-                               "Endianess",
-                               "Unit",
-                               "Representation",
-                               "DisplayNotation",
-                               "DisplayPrecision",
-                               "OnValue",
-                               "OffValue",
-                               "Slope",
-                               "pSelected",
-                               "pFeature",
-                               "StructEntry"};
+const QStringList elementOrder =
+    QString("ToolTip Description DisplayName Visibility pIsImplemented pIsAvailable pIsLocked "
+            "ImposedAccessMode Streamable EnumEntry pVariable FormulaTo FormulaFrom Formula "
+            "pAddress Address pIndex Length AccessMode pPort Cachable PollingTime pInvalidator "
+            "Value pValue CommandValue pMin Min pMax Max pInc Inc ValidValueSet Bit LSB MSB Sign "
+            "Endianess Unit Representation DisplayNotation DisplayPrecision OnValue OffValue Slope "
+            "pSelected pFeature StructEntry")
+        .split(' ');
 
 constexpr qint64 memorySize = 0x10000;
 
@@ -102,8 +62,7 @@ class TestCameraDescription : public QObject
 
 private slots:
     void initTestCase();
-    void namesAreUniqueAndReferencesLeadSomewhere();
-    void elementsAreInOrder();
+    void namesReferencesAndOrder();
     void featuresAreDocumented();
     void registersDoNotOverlap();
     void changesByTheCameraReachTheHost();
@@ -175,33 +134,25 @@ void TestCameraDescription::collectFeatures(const QString &category, int depth)
     }
 }
 
-void TestCameraDescription::namesAreUniqueAndReferencesLeadSomewhere()
+void TestCameraDescription::namesReferencesAndOrder()
 {
     int named = 0;
     for (const Node &node : qAsConst(m_nodes)) {
         if (node.element != "EnumEntry" && !node.name.isEmpty())
             ++named;
+        int last = 0;
         for (const Child &child : node.children) {
             const QString &e = child.element;
             if (e.size() > 1 && e[0] == 'p' && e[1].isUpper())
                 QVERIFY2(m_byName.contains(child.text), qPrintable(node.name + ": " + child.text));
-        }
-    }
-    QCOMPARE(m_byName.size(), named);
-}
-
-void TestCameraDescription::elementsAreInOrder()
-{
-    for (const Node &node : qAsConst(m_nodes)) {
-        int last = 0;
-        for (const Child &child : node.children) {
-            if (node.element == "StructEntry" && child.element == "Address")
+            if (node.element == "StructEntry" && e == "Address")
                 continue;
-            const int place = elementOrder.indexOf(child.element);
-            QVERIFY2(place >= last, qPrintable(node.name + ": " + child.element));
+            const int place = elementOrder.indexOf(e);
+            QVERIFY2(place >= last, qPrintable(node.name + ": " + e));
             last = place;
         }
     }
+    QCOMPARE(m_byName.size(), named);
 }
 
 void TestCameraDescription::featuresAreDocumented()

@@ -56,7 +56,7 @@ public:
         sync();
     }
 
-    void askToClose(xcb_window_t window)
+    void askToClose(xcb_window_t window) const
     {
         xcb_client_message_event_t event = {};
         event.response_type = XCB_CLIENT_MESSAGE;
@@ -85,6 +85,16 @@ public:
         for (int i = 0; reply && i < xcb_query_tree_children_length(reply.get()); ++i)
             found << xcb_query_tree_children(reply.get())[i];
         return found;
+    }
+
+    /// A window on the screen with that title, or 0.
+    xcb_window_t find(const QByteArray &wanted) const
+    {
+        for (const xcb_window_t window : children(screen().root)) {
+            if (title(window) == wanted)
+                return window;
+        }
+        return 0;
     }
 
     QByteArray title(xcb_window_t window) const
@@ -127,7 +137,7 @@ private:
         return std::unique_ptr<Reply, Free>(reply);
     }
 
-    xcb_atom_t atom(const char *name)
+    xcb_atom_t atom(const char *name) const
     {
         const auto reply = owned(xcb_intern_atom_reply(
             m_connection,
@@ -136,7 +146,7 @@ private:
         return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }
 
-    void sync()
+    void sync() const
     {
         owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
     }
