@@ -36,7 +36,6 @@ private slots:
     void integers();
     void integerLimits();
     void floats();
-    void comboBoxes_data();
     void comboBoxes();
     void comboBoxCommitsOnChange();
     void commands();
@@ -112,47 +111,36 @@ void TestGenParamDelegate::floats()
     QCOMPARE(m_bench->map.number("ExposureTime").GetValue(), 512.5);
 }
 
-void TestGenParamDelegate::comboBoxes_data()
-{
-    QTest::addColumn<QString>("feature");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("afterFirst");
-
-    QTest::newRow("boolean") << "ReverseX" << QStringList{"True", "False"} << 1
-                             << int(QMetaType::Bool) << "1";
-    QTest::newRow("enumeration") << "PixelFormat" << QStringList{"Mono8", "Mono12"} << 0
-                                 << int(QMetaType::LongLong) << "Mono8";
-    QTest::newRow("integer list") << "BinningHorizontal" << QStringList{"1px", "2px", "4px", "8px"}
-                                  << 0 << int(QMetaType::LongLong) << "1";
-    QTest::newRow("float list") << "Gain"
-                                << QStringList{"0dB", "1.5dB", "3dB", "6dB", "12dB", "24dB"} << 1
-                                << int(QMetaType::Double) << "0";
-}
-
 void TestGenParamDelegate::comboBoxes()
 {
-    QFETCH(QString, feature);
-    QFETCH(QStringList, texts);
-    QFETCH(int, type);
-    QFETCH(QString, afterFirst);
+    const struct
+    {
+        const char *feature;
+        QStringList texts;
+        int current, type;
+        const char *afterFirst;
+    } rows[] = {
+        {"ReverseX", {"True", "False"}, 1, QMetaType::Bool, "1"},
+        {"PixelFormat", {"Mono8", "Mono12"}, 0, QMetaType::LongLong, "Mono8"},
+        {"BinningHorizontal", {"1px", "2px", "4px", "8px"}, 0, QMetaType::LongLong, "1"},
+        {"Gain", {"0dB", "1.5dB", "3dB", "6dB", "12dB", "24dB"}, 1, QMetaType::Double, "0"},
+    };
+    for (const auto &row : rows) {
+        auto *comboBox = open<QComboBox>(row.feature);
+        QVERIFY2(comboBox, row.feature);
+        QStringList shown;
+        for (int i = 0; i < comboBox->count(); ++i) {
+            shown.append(comboBox->itemText(i));
+            QCOMPARE(comboBox->itemData(i).userType(), row.type);
+        }
+        QCOMPARE(shown, row.texts);
+        QCOMPARE(comboBox->currentIndex(), row.current);
 
-    const QByteArray name = feature.toLatin1();
-    auto *comboBox = open<QComboBox>(name.constData());
-    QVERIFY(comboBox);
-    QStringList shown;
-    for (int i = 0; i < comboBox->count(); ++i) {
-        shown.append(comboBox->itemText(i));
-        QCOMPARE(comboBox->itemData(i).userType(), type);
+        comboBox->setCurrentIndex(0);
+        commit(row.feature);
+        const GenApi::CValuePtr value(m_bench->map.GetNode(row.feature));
+        QCOMPARE(value->ToString().c_str(), row.afterFirst);
     }
-    QCOMPARE(shown, texts);
-    QTEST(comboBox->currentIndex(), "current");
-
-    comboBox->setCurrentIndex(0);
-    commit(name.constData());
-    const GenApi::CValuePtr value(m_bench->map.GetNode(name.constData()));
-    QCOMPARE(QString::fromLatin1(value->ToString()), afterFirst);
 }
 
 // A combo box asks for both, in this order, for every change of its index: also for the one that

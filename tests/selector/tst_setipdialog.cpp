@@ -25,7 +25,6 @@ private slots:
     void verdicts();
     void gatewayTakesNoPart();
     void addresses();
-    void startsAtTheHostNumber();
 
 private:
     QLineEdit *field(const char *name) { return m_dialog->findChild<QLineEdit *>(name); }
@@ -120,20 +119,6 @@ void TestSetIpDialog::addresses()
         QTest::keyClicks(field(name), "a10..300.7.");
         QCOMPARE(field(name)->text(), QString("10..30.7"));
     }
-}
-
-void TestSetIpDialog::startsAtTheHostNumber()
-{
-    QLineEdit *edit = field("ipAddressLineEdit");
-    m_dialog->setIPAddress(0xC0A8010B);
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
-    QVERIFY(edit->hasFocus());
-    QCOMPARE(edit->selectedText(), QString("11"));
-    m_dialog->hide();
-    edit->setText("192");
-    m_dialog->show();
-    QCOMPARE(edit->selectedText(), QString("192"));
 }
 
 QTEST_MAIN(TestSetIpDialog)

