@@ -8,7 +8,6 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QtTest>
@@ -39,7 +38,6 @@ private slots:
     void comboBoxes();
     void comboBoxCommitsOnChange();
     void commands();
-    void addresses();
     void visibilityFilter();
 
 private:
@@ -182,23 +180,6 @@ void TestGenParamDelegate::commands()
         QCOMPARE(m_bench->map.resets, clicks);
     }
     QCOMPARE(closes.count(), 0);
-}
-
-void TestGenParamDelegate::addresses()
-{
-    auto *lineEdit = open<QLineEdit>("GevPersistentIPAddress");
-    QCOMPARE(lineEdit->text(), QString("192.168.1.2"));
-    lineEdit->setText(QString("10.0.0.256"));
-    QVERIFY(!lineEdit->hasAcceptableInput());
-    lineEdit->setText(QString("10.0.0.25"));
-    commit("GevPersistentIPAddress");
-    QCOMPARE(m_bench->map.integer("GevPersistentIPAddress").GetValue(), int64_t(0x0a000019));
-
-    // The default editor of a text field serves strings.
-    auto *text = open<QLineEdit>("DeviceUserID");
-    text->setText(QString("left camera"));
-    commit("DeviceUserID");
-    QCOMPARE(valueCell(m_bench->model, "DeviceUserID").data().toString(), QString("left camera"));
 }
 
 void TestGenParamDelegate::visibilityFilter()

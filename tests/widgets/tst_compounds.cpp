@@ -48,9 +48,7 @@ class TestCompounds : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void passOnTheRange();
-    void followTheSliderInSilence();
-    void showCaptions();
+    void behaveAlike();
     void treatSteps();
     void treatPositionsOffTheGrid();
     void keepWhatTheSliderCannotShow();
@@ -67,6 +65,8 @@ private:
     void checkDragging();
     template<class Widget>
     void checkCaptions();
+    template<class Widget>
+    void checkAll();
 };
 
 template<class Widget>
@@ -89,13 +89,6 @@ void TestCompounds::checkRange()
     widget.slider()->setMaximum(30);
     QCOMPARE(ranges.last(), (QVariantList{T(12), T(30)}));
     QCOMPARE(widget.spinBox()->maximum(), T(30));
-}
-
-void TestCompounds::passOnTheRange()
-{
-    checkRange<QtOrvSpinBox>();
-    checkRange<QtOrvSliderSpinBox>();
-    checkRange<QtOrvGainSlider>();
 }
 
 template<class Widget>
@@ -126,13 +119,6 @@ void TestCompounds::checkDragging()
     QCOMPARE(values.count(), 3);
 }
 
-void TestCompounds::followTheSliderInSilence()
-{
-    checkDragging<QtOrvSpinBox>();
-    checkDragging<QtOrvSliderSpinBox>();
-    checkDragging<QtOrvGainSlider>();
-}
-
 template<class Widget>
 void TestCompounds::checkCaptions()
 {
@@ -153,11 +139,19 @@ void TestCompounds::checkCaptions()
     QVERIFY(widget.leftLabel()->isHidden());
 }
 
-void TestCompounds::showCaptions()
+template<class Widget>
+void TestCompounds::checkAll()
 {
-    checkCaptions<QtOrvSpinBox>();
-    checkCaptions<QtOrvSliderSpinBox>();
-    checkCaptions<QtOrvGainSlider>();
+    checkRange<Widget>();
+    checkDragging<Widget>();
+    checkCaptions<Widget>();
+}
+
+void TestCompounds::behaveAlike()
+{
+    checkAll<QtOrvSpinBox>();
+    checkAll<QtOrvSliderSpinBox>();
+    checkAll<QtOrvGainSlider>();
 }
 
 void TestCompounds::treatSteps()
