@@ -368,22 +368,14 @@ void TestOrvGenParamTreeView::escapeAndClickElsewhere()
 void TestOrvGenParamTreeView::failingNode()
 {
     SampleNodeMap map;
-    const auto fail = [] { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); };
     OrvGenParamTreeView view(&map, nullptr);
     TreeDriver driver(view);
     driver.show();
-    map.integer("Width").bindMax([fail]() -> int64_t {
-        fail();
-        return 0;
-    });
+    map.integer("Width").bindMax(
+        []() -> int64_t { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); });
     map.integer("Width").changed();
     driver.click("Width");
     QVERIFY(!driver.isEditing());
-    map.number("ExposureTime").onRead(fail);
-    map.number("ExposureTime").changed();
-    driver.click("ExposureTime");
-    QVERIFY(driver.isEditing());
-    QCOMPARE(driver.text("ExposureTime"), QString());
 }
 
 void TestOrvGenParamTreeView::dragging()
@@ -435,20 +427,6 @@ void TestOrvGenParamTreeView::draggingLimits()
     QTRY_COMPARE(tree.viewport()->cursor().shape(), Qt::SplitHCursor);
     QTest::mouseMove(window, inWindow(border - QPoint(30, 0)));
     QTRY_COMPARE(tree.viewport()->cursor().shape(), Qt::ArrowCursor);
-
-    // Only the left button ends what it has begun.
-    const int width = tree.columnWidth(0);
-    const QPoint start = inWindow(border);
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
-    QTest::mousePress(window, Qt::RightButton, Qt::NoModifier, start);
-    QTest::mouseRelease(window, Qt::RightButton, Qt::NoModifier, start);
-    QTest::mouseMove(window, start + QPoint(15, 0));
-    QCoreApplication::processEvents();
-    QCOMPARE(tree.columnWidth(0), width + 15);
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(15, 0));
-    QTest::mouseMove(window, start + QPoint(40, 0));
-    QCoreApplication::processEvents();
-    QCOMPARE(tree.columnWidth(0), width + 15);
 }
 
 void TestOrvGenParamTreeView::savedState()

@@ -103,7 +103,8 @@ void TestSelectCamera::keyboard()
     OrvCam::DeviceInfo *camera = select({[](QDialog &dialog) {
         activate(dialog);
         pressAndWait({"Down", "Down", "Down"});
-        QCOMPARE(cameraTree(dialog)->currentIndex(), rowNamed(*cameraTree(dialog), "Inspection"));
+        const QString current = cameraTree(dialog)->currentIndex().data().toString();
+        QVERIFY2(current.contains("Inspection"), qPrintable(current));
         pressAndWait({"Down", "Return"}); // cannot be accepted
         QVERIFY(dialog.isVisible());
         pressAndWait({"Alt+r"}); // rescan
