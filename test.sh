@@ -1,17 +1,25 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds and runs every test. Arguments go to ctest.
-#   ORV_PRESET=asan ./test.sh    tests another preset than dev
+# Installs what is missing, builds and runs every test: first as developers build, then with
+# clang's address and undefined-behaviour sanitizers, where the fuzzers have a short turn, too.
+# Arguments go to ctest.
+#   ORV_PRESET=dev ./test.sh    tests one preset only
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
-preset=${ORV_PRESET:-dev}
+presets=${ORV_PRESET:-dev fuzz}
 
 "$root/packaging/setup-debian.sh"
+case " $presets " in
+*" fuzz "*) "$root/packaging/setup-debian.sh" clang-packages.txt ;;
+esac
 
 cd "$root"
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
-cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; echo "test.sh: cmake failed" >&2; exit 1; }
-cmake --build --preset "$preset" || { echo "test.sh: the build failed" >&2; exit 1; }
-ctest --preset "$preset" "$@"
+for preset in $presets; do
+    echo "test.sh: preset $preset"
+    cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; echo "test.sh: cmake failed" >&2; exit 1; }
+    cmake --build --preset "$preset" || { echo "test.sh: the build failed" >&2; exit 1; }
+    ctest --preset "$preset" "$@"
+done

@@ -13,7 +13,7 @@ bool install(QCoreApplication &application, const QLocale &locale, const QString
 {
     auto *translator = new QTranslator(&application);
     return translator->load(locale, name, QStringLiteral("_"), folder) &&
-           application.installTranslator(translator);
+           QCoreApplication::installTranslator(translator);
 }
 
 } // namespace

@@ -204,7 +204,7 @@ void DescribedString::writeValue(const std::string &value)
 
 int64_t DescribedString::readMaxLength()
 {
-    if (reference)
+    if (reference && !links().isUnusable)
         return reference->GetMaxLength();
     if (links().reg)
         return links().reg->maxTextLength();
@@ -213,23 +213,32 @@ int64_t DescribedString::readMaxLength()
 
 // DescribedRegister
 
+RegisterAccess &DescribedRegister::reg() const
+{
+    if (links().isUnusable || !links().reg)
+        throw GenICam::PropertyException(
+            ("The description of the register '" + name() + "' makes no sense").c_str(), __FILE__,
+            __LINE__);
+    return *links().reg;
+}
+
 int64_t DescribedRegister::GetAddress(bool)
 {
     const AutoLock lock(map().GetLock());
-    return links().reg->address();
+    return reg().address();
 }
 
 void DescribedRegister::writeBytes(const std::vector<uint8_t> &bytes)
 {
     std::vector<uint8_t> contents = bytes;
-    const auto length = static_cast<std::size_t>(links().reg->length());
+    const auto length = static_cast<std::size_t>(reg().length());
     if (contents.size() < length) {
-        const std::vector<uint8_t> present = links().reg->bytes();
+        const std::vector<uint8_t> present = reg().bytes();
         contents.insert(contents.end(),
                         present.begin() + static_cast<std::ptrdiff_t>(contents.size()),
                         present.end());
     }
-    links().reg->setBytes(contents);
+    reg().setBytes(contents);
 }
 
 // PlainNode

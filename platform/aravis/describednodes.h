@@ -186,9 +186,12 @@ public:
 
 protected:
     GenApi::EAccessMode ownAccessMode() const override { return registerMode; }
-    std::vector<uint8_t> readBytes() override { return links().reg->bytes(); }
+    std::vector<uint8_t> readBytes() override { return reg().bytes(); }
     void writeBytes(const std::vector<uint8_t> &bytes) override;
-    int64_t readLength() override { return links().reg->length(); }
+    int64_t readLength() override { return reg().length(); }
+
+private:
+    RegisterAccess &reg() const;
 };
 
 class DescribedCategory : public DescribedNode<OrvGenApi::CategoryNode>

@@ -26,7 +26,7 @@ std::string text(const xmlChar *characters)
 
 std::string taken(xmlChar *characters)
 {
-    const std::string result = text(characters);
+    std::string result = text(characters);
     xmlFree(characters);
     return result;
 }

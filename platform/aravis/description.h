@@ -29,10 +29,10 @@ struct DescriptionNode
     std::vector<DescriptionProperty> properties;
 
     /// The first property of that tag, or null.
-    const DescriptionProperty *find(const char *tag) const;
+    const DescriptionProperty *find(const char *wanted) const;
 
     /// Its text, or the fallback.
-    std::string text(const char *tag, const std::string &fallback = {}) const;
+    std::string text(const char *wanted, const std::string &fallback = {}) const;
 };
 
 /// A GenICam device description as it is written: what it says of each node, nothing computed.

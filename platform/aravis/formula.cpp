@@ -11,6 +11,7 @@
 
 #include <arv.h>
 
+#include <algorithm>
 #include <cctype>
 
 using namespace OrvGenApi;
@@ -51,6 +52,18 @@ bool callsFunction(const std::string &text)
             return true;
     }
     return false;
+}
+
+bool divides(const DescriptionNode &node, const std::string &text)
+{
+    const auto hasDivision = [](const std::string &formula) {
+        return formula.find_first_of("/%") != std::string::npos;
+    };
+    return hasDivision(text) ||
+           std::any_of(node.properties.begin(), node.properties.end(),
+                       [&](const DescriptionProperty &property) {
+                           return property.tag == "Expression" && hasDivision(property.text);
+                       });
 }
 
 Number valueOf(Node &node)
@@ -104,6 +117,7 @@ Number numberOf(Node &node, const std::string &which)
 Formula::Formula(const DescriptionNode &node, const std::string &text)
     : m_owner(node.name)
     , m_usesFunctions(callsFunction(text))
+    , m_divides(divides(node, text))
     , m_evaluator(newEvaluator(node, text))
 {
     for (const DescriptionProperty &property : node.properties)
@@ -114,15 +128,8 @@ Formula::Formula(const DescriptionNode &node, const std::string &text)
 bool Formula::isWellFormed(const DescriptionNode &node, const std::string &text,
                            const std::vector<std::string> &variables)
 {
-    const auto divides = [](const std::string &formula) {
-        return formula.find_first_of("/%") != std::string::npos;
-    };
-    if (divides(text))
+    if (divides(node, text))
         return true;
-    for (const DescriptionProperty &property : node.properties) {
-        if (property.tag == "Expression" && divides(property.text))
-            return true;
-    }
     ArvEvaluator *evaluator = newEvaluator(node, text);
     for (const std::string &variable : variables)
         arv_evaluator_set_int64_variable(evaluator, variable.c_str(), 1);
@@ -144,6 +151,15 @@ void Formula::addVariable(const std::string &name, Node &node)
     m_variables.emplace_back(name, &node);
 }
 
+void Formula::setInteger(const std::string &name, int64_t value)
+{
+    // The smallest integer divided by -1 does not fit into an integer: the processor would end the
+    // program. It is the lower limit of everything that states none.
+    if (m_divides && value == INT64_MIN)
+        ++value;
+    arv_evaluator_set_int64_variable(m_evaluator, name.c_str(), value);
+}
+
 void Formula::setVariable(const std::string &name, Node &node)
 {
     const auto point = name.find('.');
@@ -152,7 +168,7 @@ void Formula::setVariable(const std::string &name, Node &node)
     if (number.isReal)
         arv_evaluator_set_double_variable(m_evaluator, name.c_str(), number.real);
     else
-        arv_evaluator_set_int64_variable(m_evaluator, name.c_str(), number.integer);
+        setInteger(name, number.integer);
 }
 
 void Formula::setVariables()
@@ -165,7 +181,7 @@ int64_t Formula::integer(const std::string &inputName, int64_t input)
 {
     setVariables();
     if (!inputName.empty())
-        arv_evaluator_set_int64_variable(m_evaluator, inputName.c_str(), input);
+        setInteger(inputName, input);
     GError *error = nullptr;
     if (m_usesFunctions) {
         const double value = arv_evaluator_evaluate_as_double(m_evaluator, &error);

@@ -40,10 +40,12 @@ public:
 
 private:
     void setVariables();
+    void setInteger(const std::string &name, int64_t value);
     void setVariable(const std::string &name, OrvGenApi::Node &node);
 
     std::string m_owner;
     bool m_usesFunctions = false; ///< such as ROUND, which exist for floating-point numbers only
+    bool m_divides;
     ArvEvaluator *m_evaluator;
     std::vector<std::pair<std::string, OrvGenApi::Node *>> m_variables;
 };

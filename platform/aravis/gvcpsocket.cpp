@@ -60,7 +60,8 @@ GvcpSocket::GvcpSocket(const NetworkAdapter &adapter)
     // Bound to the adapter's address, it would not get what is broadcast.
     sockaddr_in any{};
     any.sin_family = AF_INET;
-    bind(m_socket, reinterpret_cast<const sockaddr *>(&any), sizeof any);
+    // Should it fail, the first packet that is sent binds the socket.
+    static_cast<void>(bind(m_socket, reinterpret_cast<const sockaddr *>(&any), sizeof any));
 }
 
 GvcpSocket::~GvcpSocket()

@@ -197,8 +197,14 @@ NodeLinks &NodeMapBuilder::newLinks()
 
 void NodeMapBuilder::makeNode(const DescriptionNode &description)
 {
-    if (m_map.node(description.name))
-        return; // described twice: the first description counts
+    if (Node *first = m_map.node(description.name)) {
+        // Described twice: the first description counts. The engine takes the last and would
+        // compute what nobody has looked at.
+        Item &item = *itemOf(first);
+        if (item.description->tag != "Category" && description.tag != "EnumEntry")
+            item.links->isUnusable = true;
+        return;
+    }
     NodeLinks &links = newLinks();
     std::unique_ptr<Node> node = newNode(description, links);
     m_indexOf[node.get()] = m_items.size();
@@ -233,9 +239,9 @@ std::unique_ptr<Node> NodeMapBuilder::newNode(const DescriptionNode &description
                                        properties);
 }
 
-ArvGcNode *NodeMapBuilder::engineNode(const std::string &name) const
+ArvGcNode *NodeMapBuilder::engineNode(const DescriptionNode &description) const
 {
-    return arv_gc_get_node(m_map.m_engine, name.c_str());
+    return arv_gc_get_node(m_map.m_engine, description.name.c_str());
 }
 
 Node *NodeMapBuilder::referenced(Item &item, const std::string &name)
@@ -358,7 +364,7 @@ void NodeMapBuilder::connectRegister(Item &item)
 {
     const DescriptionNode &description = *item.description;
     NodeLinks &links = *item.links;
-    ArvGcNode *engine = engineNode(description.name);
+    ArvGcNode *engine = engineNode(description);
     if (!engine || !ARV_IS_GC_REGISTER(engine)) {
         links.isUnusable = true;
         return;
@@ -509,8 +515,9 @@ std::unique_ptr<NumberSource> NodeMapBuilder::newSource(Item &item)
         item.links->writtenChildren.insert(item.links->writtenChildren.begin(), value);
         return std::make_unique<ReferenceSource>(*value, copies);
     }
-    ArvGcNode *engine = description.find("Value") ? engineNode(description.name) : nullptr;
-    if (!engine)
+    ArvGcNode *engine = description.find("Value") ? engineNode(description) : nullptr;
+    if (!ARV_IS_GC_INTEGER(engine) && !ARV_IS_GC_FLOAT(engine) && !ARV_IS_GC_BOOLEAN(engine) &&
+        !ARV_IS_GC_ENUMERATION(engine))
         return nullptr;
     return std::make_unique<ConstantSource>(engine, description.name);
 }

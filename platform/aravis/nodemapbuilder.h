@@ -32,7 +32,7 @@ private:
     NodeLinks &newLinks();
     void makeNode(const DescriptionNode &description);
     std::unique_ptr<OrvGenApi::Node> newNode(const DescriptionNode &description, NodeLinks &links);
-    ArvGcNode *engineNode(const std::string &name) const;
+    ArvGcNode *engineNode(const DescriptionNode &description) const;
 
     OrvGenApi::Node *referenced(Item &item, const std::string &name);
     OrvGenApi::Node *referenced(Item &item, const char *tag);

@@ -4,11 +4,20 @@
 #include "errors.h"
 #include "rawvalue.h"
 
+#include <Base/GCException.h>
+
 #include <arv.h>
 
 #include <type_traits>
 
 namespace OrvAravis {
+
+namespace {
+
+/// No camera has a register nearly as long.
+constexpr int64_t maxLength = 16 << 20;
+
+} // namespace
 
 RegisterAccess::RegisterAccess(ArvGcNode *engineNode, RegisterCache &cache, std::string name,
                                GenApi::ECachingMode mode)
@@ -35,12 +44,18 @@ auto RegisterAccess::checked(Call call)
     }
 }
 
-void RegisterAccess::prepare()
+void RegisterAccess::prepare(int64_t minLength)
 {
     // The engine computes the address by itself, but it takes a formula that fails for 0 and knows
     // nothing of what is outdated: compute everything that the address depends on beforehand.
     for (OrvGenApi::Node *node : m_addressSources)
         rawInteger(*node);
+    // It takes a buffer as long as the register, too, and ends the program when there is none.
+    const int64_t size = length();
+    if (size < minLength || size > maxLength)
+        throw GenICam::OutOfRangeException(
+            (m_name + ": a register of " + std::to_string(size) + " bytes").c_str(), __FILE__,
+            __LINE__);
     if (!isCachable())
         markStale();
     if (m_staleSince == 0)
@@ -48,10 +63,7 @@ void RegisterAccess::prepare()
     const auto address = checked([&](GError **error) {
         return arv_gc_register_get_address(ARV_GC_REGISTER(m_engineNode), error);
     });
-    const auto length = checked([&](GError **error) {
-        return arv_gc_register_get_length(ARV_GC_REGISTER(m_engineNode), error);
-    });
-    m_cache.forget(address, length, m_staleSince);
+    m_cache.forget(address, static_cast<uint64_t>(size), m_staleSince);
     m_staleSince = 0;
 }
 
@@ -87,7 +99,7 @@ std::string RegisterAccess::text()
 
 std::vector<uint8_t> RegisterAccess::bytes()
 {
-    prepare();
+    prepare(0);
     std::vector<uint8_t> result(static_cast<std::size_t>(length()));
     if (result.empty())
         return result;
@@ -169,7 +181,7 @@ int64_t RegisterAccess::maxTextLength()
 
 int64_t RegisterAccess::address()
 {
-    prepare();
+    prepare(0);
     return static_cast<int64_t>(checked([&](GError **error) {
         return arv_gc_register_get_address(ARV_GC_REGISTER(m_engineNode), error);
     }));

@@ -45,7 +45,7 @@ public:
     bool isCachable() const { return m_mode != GenApi::NoCache; }
 
 private:
-    void prepare();
+    void prepare(int64_t minLength = 1);
     void written();
 
     template<typename Call>

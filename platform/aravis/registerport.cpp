@@ -9,7 +9,7 @@ namespace OrvAravis {
 
 namespace {
 
-constexpr int64_t SilenceAfterTimeout = 5 * G_USEC_PER_SEC;
+constexpr int64_t SilenceAfterTimeout = int64_t{5} * G_USEC_PER_SEC;
 
 } // namespace
 

@@ -40,7 +40,7 @@ struct Block
 constexpr Block userSetBlocks[] = {
     {PixelFormat, 4},
     {Settings, SettingsSize},
-    {FrameSettings, FrameCount *FrameStride},
+    {FrameSettings, std::size_t{FrameCount} * FrameStride},
     {LookUpTables, LookUpTablesSize},
 };
 

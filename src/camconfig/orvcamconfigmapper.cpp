@@ -13,6 +13,7 @@
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>
 
+#include <QAccessible>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -276,6 +277,10 @@ void OrvCamConfigMapper::cut(const OrvCamConfigMapData &record)
         control = group;
     if (!control)
         return;
+    // What Qt keeps for screen readers goes by a signal of the control; it would outlive the
+    // control.
+    if (QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(accessible));
     QObject::disconnect(control, nullptr, nullptr, nullptr);
     if (QtOrvSlider *slider = sliderOf(record))
         QObject::disconnect(slider, nullptr, context(), nullptr);

@@ -175,7 +175,7 @@ GenApi::CCategoryPtr GenParamTreeModelPrivate::CategoryFromIndex(const QModelInd
     return GenApi::CCategoryPtr(nodeMap ? nodeMap->GetNode("Root") : nullptr);
 }
 
-void GenParamTreeModelPrivate::RegisterCallbackForChildren(GenApi::CCategoryPtr category)
+void GenParamTreeModelPrivate::RegisterCallbackForChildren(const GenApi::CCategoryPtr &category)
 {
     if (!category)
         return;

@@ -21,7 +21,7 @@ public:
     /// Null when the index stands for no feature.
     static GenApi::IValue *valueFromIndex(const QModelIndex &index);
 
-    void RegisterCallbackForChildren(GenApi::CCategoryPtr category);
+    void RegisterCallbackForChildren(const GenApi::CCategoryPtr &category);
     void DeRegisterCallbacks();
     void NodeCallback(GenApi::INode *node);
 

@@ -45,7 +45,7 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orient
     // Window managers don't give the focus to a tool tip; it has to be taken past them.
     slider->setWindowFlags(Qt::ToolTip | Qt::BypassWindowManagerHint);
     slider->setAttribute(Qt::WA_WindowPropagation);
-    slider->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    slider->setFrameStyle(int(QFrame::Panel) | QFrame::Raised);
     slider->setLineWidth(2);
     connect(slider, &QtOrvSlider::focusOut, slider, &QWidget::hide);
     slider->installEventFilter(this);

@@ -106,6 +106,7 @@ private slots:
     void limitsAndIncrements();
     void validValues();
     void senselessReferences();
+    void senselessNodes();
     void circles();
     void cachingModes();
     void pollingAndInvalidation();
@@ -586,6 +587,32 @@ void TestNodeMap::senselessReferences()
         QCOMPARE(access(*map, name), NA);
         QVERIFY(textOf(*map, name).startsWith("exception: "));
     }
+    QCOMPARE(map->transactions().reads, uint64_t(0));
+}
+
+void TestNodeMap::senselessNodes()
+{
+    const QByteArray tail = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
+    const auto map = load(
+        root({}) + "<IntReg Name='Endless'><Address>0</Address><Length>-1</Length>" + tail +
+        "</IntReg><Register Name='Vast'><Address>0</Address><Length>1099511627776</Length>" + tail +
+        "</Register><StringReg Name='Nothing'><Address>0</Address><Length>0</Length>" + tail +
+        "</StringReg><Command Name='Constant'><Value>1</Value></Command>"
+        "<Integer Name='Twice'><Value>1</Value></Integer><Integer Name='Twice'><pIndex>Twice"
+        "</pIndex><ValueDefault>1</ValueDefault></Integer>"
+        "<Integer Name='Raw'><Value>1</Value></Integer><IntConverter Name='Unbounded'><FormulaTo>"
+        "-FROM</FormulaTo><FormulaFrom>TO / -1</FormulaFrom><pValue>Raw</pValue></IntConverter>"
+        "<Register Name='Other'><Address>0</Address><Length>4</Length></Register>"
+        "<Integer Name='Other'><Value>1</Value></Integer><String "
+        "Name='Circular'><pValue>Circular</pValue></String>");
+    for (const char *name :
+         {"Endless", "Vast", "Nothing", "Constant", "Twice", "Other", "Circular"})
+        QVERIFY2(textOf(*map, name).startsWith("exception: "), name);
+    QVERIFY_EXCEPTION_THROWN(CRegisterPtr(map->GetNode("Other"))->GetAddress(),
+                             GenICam::PropertyException);
+    QCOMPARE(integer(*map, "Unbounded").GetMax(), INT64_MAX);
+    QCOMPARE(CStringPtr(map->GetNode("Circular"))->GetMaxLength(), int64_t(INT64_MAX));
+    QCOMPARE(access(*map, "Constant"), NA);
     QCOMPARE(map->transactions().reads, uint64_t(0));
 }
 

@@ -25,7 +25,7 @@ include=$prefix/include
 while read -r header; do
     echo "#include <$header>" >"$work/header.cpp"
     # shellcheck disable=SC2086 # flags are words
-    c++ -std=c++17 -fPIC -Wall -Wextra -Werror -fsyntax-only $cxxflags "$work/header.cpp" \
+    ${CXX:-c++} -std=c++17 -fPIC -Wall -Wextra -Werror -fsyntax-only $cxxflags "$work/header.cpp" \
         || fail "$header can't be used on its own"
 done <"$work/headers"
 echo "$(wc -l <"$work/headers") headers can be used on their own"
@@ -40,7 +40,7 @@ int main(void)
 }
 EOF
 # shellcheck disable=SC2046,SC2086 # flags are words
-cc -std=c99 -Wall -Wextra -Werror ${CFLAGS:-} "$work/host.c" -o "$work/host" \
+${CC:-cc} -std=c99 -Wall -Wextra -Werror ${CFLAGS:-} "$work/host.c" -o "$work/host" \
     $(pkg-config --cflags --libs orvcameraguiapi) ${LDFLAGS:-}
 LD_LIBRARY_PATH=$(dirname -- "$pkgconfig") QT_QPA_PLATFORM=offscreen "$work/host" \
     || fail "a C program can't use the installed library"

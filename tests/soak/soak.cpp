@@ -1,0 +1,320 @@
+// SPDX-License-Identifier: MIT
+// soak [SECONDS [SEED [WINDOW]]]
+// Clicks and types at random into every window there is, or one of them, while the camera's values
+// change and the camera comes and goes, and watches what the process holds: bytes, resident memory,
+// open files. Ends with 1 when that grows. The platform "offscreen" does as well as a display.
+#include "soakcamera.h"
+#include "usage.h"
+
+#include <OrvCam.h>
+#include <orvcameraapi.h>
+
+#include <orvcamconfig.h>
+#include <orvcamconfigcolordialog.h>
+#include <orvcamconfigframeabdialog.h>
+#include <orvcamconfigoutputdialog.h>
+#include <orvcamconfigpulsedialog.h>
+#include <orvcamconfigstrobedialog.h>
+#include <orvcamconfigtriggerdialog.h>
+#include <orvcameraselectordialog.h>
+#include <orvgenparamtreeview.h>
+
+#include <QElapsedTimer>
+#include <QtTest>
+#include <QtWidgets>
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <random>
+#include <vector>
+
+using namespace OrvGui;
+
+namespace {
+
+const int stepsPerWindow = 40;
+const int warmUpRounds = 15;
+
+/// One of the windows. It may be given a null device, which it has to give up the former one for.
+struct Window
+{
+    const char *name;
+    std::function<QWidget *(OrvCam::Device *)> make;
+    std::function<void(QWidget &, OrvCam::Device *)> setDevice;
+};
+
+template<typename Config>
+Window configWindow(const char *name)
+{
+    return {name, [](OrvCam::Device *device) { return new Config(device); },
+            [](QWidget &window, OrvCam::Device *device) {
+                static_cast<Config &>(window).SetDevice(device);
+            }};
+}
+
+Window featureTree()
+{
+    return {"feature tree",
+            [](OrvCam::Device *device) {
+                auto *tree = new OrvGenParamTreeView;
+                tree->setParams(device->GetParamArray());
+                tree->setVisibility(Guru);
+                return tree;
+            },
+            [](QWidget &tree, OrvCam::Device *device) {
+                auto &view = static_cast<OrvGenParamTreeView &>(tree);
+                const std::string state = view.saveState();
+                view.setParams(device ? device->GetParamArray() : nullptr);
+                view.loadState(state.c_str());
+            }};
+}
+
+Window cameraPicker(OrvCam::System *system)
+{
+    return {"camera picker",
+            [system](OrvCam::Device *) { return new OrvCameraSelectorDialog(system); },
+            [](QWidget &, OrvCam::Device *) {}};
+}
+
+std::vector<Window> windows(OrvCam::System *system)
+{
+    return {featureTree(),
+            configWindow<OrvCamConfig>("main window"),
+            cameraPicker(system),
+            configWindow<OrvCamConfigTriggerDialog>("trigger"),
+            configWindow<OrvCamConfigPulseDialog>("pulse"),
+            configWindow<OrvCamConfigStrobeDialog>("strobe"),
+            configWindow<OrvCamConfigOutputDialog>("output"),
+            configWindow<OrvCamConfigColorDialog>("colour"),
+            configWindow<OrvCamConfigFrameABDialog>("frames")};
+}
+
+/// A user who does anything anywhere.
+class Monkey : public QObject
+{
+public:
+    explicit Monkey(unsigned seed) : m_random(seed)
+    {
+        // Dialogs and menus that run until they are closed would stop everything.
+        // The timer stands still until its slot returns, but leaving one may open the next.
+        connect(&m_patience, &QTimer::timeout, this,
+                [this] { QTimer::singleShot(0, this, [this] { leaveWhatStops(); }); });
+        m_patience.start(20);
+    }
+
+    std::mt19937 &random() { return m_random; }
+    unsigned clicks() const { return m_clicks; }
+
+    void doSomethingIn(QWidget &window)
+    {
+        if (QWidget *popup = QApplication::activePopupWidget())
+            return leavePopup(*popup);
+        if (!window.isVisible())
+            window.show();
+        const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+        QList<QWidget *> usable;
+        for (QWidget *widget : widgets) {
+            if (widget->isVisible() && widget->isEnabled() && takesInput(*widget))
+                usable << widget;
+        }
+        if (usable.isEmpty())
+            return;
+        use(*usable[below(usable.size())]);
+        ++m_clicks;
+    }
+
+private:
+    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
+
+    static bool takesInput(const QWidget &widget)
+    {
+        return widget.focusPolicy() != Qt::NoFocus || qobject_cast<const QMenuBar *>(&widget) ||
+               qobject_cast<const QTabBar *>(&widget);
+    }
+
+    QPoint somewhereIn(const QWidget &widget)
+    {
+        return {below(qMax(1, widget.width())), below(qMax(1, widget.height()))};
+    }
+
+    void use(QWidget &widget)
+    {
+        static const Qt::Key keys[] = {Qt::Key_Up,   Qt::Key_Down,     Qt::Key_Left,  Qt::Key_Right,
+                                       Qt::Key_Home, Qt::Key_End,      Qt::Key_Tab,   Qt::Key_Space,
+                                       Qt::Key_F2,   Qt::Key_PageDown, Qt::Key_1,     Qt::Key_7,
+                                       Qt::Key_Plus, Qt::Key_Return,   Qt::Key_Escape};
+        const QPointer<QWidget> target(&widget);
+        if (below(3) == 0) {
+            widget.setFocus();
+            for (int i = 0; i < 3 && target; ++i)
+                QTest::keyClick(target, keys[below(static_cast<int>(std::size(keys)))]);
+            return;
+        }
+        auto *area = qobject_cast<QAbstractScrollArea *>(&widget);
+        QWidget *clicked = area ? area->viewport() : &widget;
+        const QPoint point = somewhereIn(*clicked);
+        if (below(4) == 0)
+            QTest::mouseDClick(clicked, Qt::LeftButton, {}, point);
+        else
+            QTest::mouseClick(clicked, Qt::LeftButton, {}, point);
+    }
+
+    void leavePopup(QWidget &popup)
+    {
+        const QPointer<QWidget> open(&popup);
+        if (below(2) == 0)
+            QTest::mouseClick(&popup, Qt::LeftButton, {}, somewhereIn(popup));
+        if (open)
+            open->close();
+    }
+
+    void leaveWhatStops()
+    {
+        if (QWidget *popup = QApplication::activePopupWidget())
+            return leavePopup(*popup);
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        const auto buttons = dialog->findChildren<QAbstractButton *>();
+        const int chosen = below(buttons.size() + 1);
+        const QPointer<QWidget> open(dialog);
+        if (chosen < buttons.size() && buttons[chosen]->isVisible())
+            QTest::mouseClick(buttons[chosen], Qt::LeftButton);
+        if (open)
+            open->close();
+    }
+
+    std::mt19937 m_random;
+    QTimer m_patience;
+    unsigned m_clicks = 0;
+};
+
+struct Deleter
+{
+    void operator()(OrvCam::Device *device) const { device->Release(); }
+};
+
+class Soak
+{
+public:
+    /// An empty name stands for all windows.
+    Soak(OrvCam::System *system, unsigned seed, const QString &window) : m_monkey(seed)
+    {
+        for (const Window &candidate : windows(system)) {
+            if (window.isEmpty() || window == candidate.name)
+                m_windows.push_back(candidate);
+        }
+    }
+
+    /// Every window once, at the same camera.
+    void round()
+    {
+        SoakCamera camera;
+        const std::unique_ptr<OrvCam::Device, Deleter> device(camera.open());
+        for (const Window &window : m_windows)
+            visit(window, camera, *device);
+    }
+
+    unsigned clicks() const { return m_monkey.clicks(); }
+
+private:
+    void visit(const Window &window, SoakCamera &camera, OrvCam::Device &device)
+    {
+        waitUntil([&] { return device.IsConnected(); });
+        const std::unique_ptr<QWidget> widget(window.make(&device));
+        widget->show();
+        for (int step = 0; step < stepsPerWindow; ++step) {
+            SoakCamera::changeSomething(device, m_monkey.random());
+            if (step == stepsPerWindow / 2)
+                replug(window, *widget, camera, device);
+            m_monkey.doSomethingIn(*widget);
+            QApplication::processEvents();
+        }
+        window.setDevice(*widget, nullptr);
+        m_monkey.doSomethingIn(*widget);
+    }
+
+    void replug(const Window &window, QWidget &widget, SoakCamera &camera, OrvCam::Device &device)
+    {
+        camera.unplug();
+        waitUntil([&] { return !device.IsConnected(); });
+        for (int i = 0; i < 5; ++i) // at a dead camera, which the window may or may not know of
+            m_monkey.doSomethingIn(widget);
+        camera.plugIn();
+        waitUntil([&] { return device.IsConnected(); });
+        window.setDevice(widget, &device);
+    }
+
+    template<typename Condition>
+    static void waitUntil(Condition condition)
+    {
+        if (!QTest::qWaitFor(condition, 10000))
+            qFatal("the camera did not come or go");
+    }
+
+    Monkey m_monkey;
+    std::vector<Window> m_windows;
+};
+
+/// What is held once everything that may be thrown away has been.
+Usage usageNow()
+{
+    QPixmapCache::clear();
+    return Usage::now();
+}
+
+/// What the platform "offscreen" says of everything that it cannot do is left out.
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith("This plugin does not support "))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("ORVCAM_SIMULATION", "1");
+    qInstallMessageHandler(printMessage);
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QStringList arguments = QApplication::arguments();
+    const int seconds = arguments.value(1, "60").toInt();
+    const unsigned seed = arguments.value(2, "1").toUInt();
+
+    OrvCam::System *system = OrvCam_GetSystem();
+    auto soak = std::make_unique<Soak>(system, seed, arguments.value(3));
+    Usage before;
+    Usage after;
+    int rounds = -warmUpRounds; // what Qt and Aravis keep for good is made in these
+    QElapsedTimer clock;
+    // Each round is an event of its own: what deletes itself later does so between them.
+    QTimer next;
+    QObject::connect(&next, &QTimer::timeout, [&] {
+        if (rounds == 0) {
+            before = usageNow();
+            std::printf("soak: at the start %s\n", before.text().c_str());
+            std::fflush(stdout);
+            clock.start();
+        } else if (rounds > 0 && clock.elapsed() >= seconds * 1000) {
+            after = usageNow();
+            std::printf("soak: after %d rounds and %u clicks %s\n", rounds, soak->clicks(),
+                        after.text().c_str());
+            QCoreApplication::exit();
+            return;
+        }
+        soak->round();
+        ++rounds;
+    });
+    next.start(0);
+    QApplication::exec();
+    soak.reset();
+    system->Release();
+
+    const std::string growth = after.grownBeyond(before, rounds);
+    if (growth.empty())
+        return 0;
+    std::printf("soak: too much growth: %s\n", growth.c_str());
+    return 1;
+}
