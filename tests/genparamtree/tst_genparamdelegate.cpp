@@ -44,7 +44,7 @@ private:
     template<typename T>
     T *open(const char *feature)
     {
-        const QModelIndex cell = valueCell(m_bench->model, QString::fromLatin1(feature));
+        const QModelIndex cell = valueCell(m_bench->model, feature);
         m_bench->editor.reset(
             m_bench->delegate.createEditor(&m_bench->parent, QStyleOptionViewItem(), cell));
         m_bench->delegate.setEditorData(m_bench->editor.get(), cell);
@@ -53,7 +53,7 @@ private:
     void commit(const char *feature)
     {
         m_bench->delegate.setModelData(m_bench->editor.get(), &m_bench->model,
-                                       valueCell(m_bench->model, QString::fromLatin1(feature)));
+                                       valueCell(m_bench->model, feature));
     }
 
     std::unique_ptr<Bench> m_bench;

@@ -10,7 +10,6 @@
 
 #include <stdexcept>
 
-using GenICam::AccessException;
 using GenICam::TimeoutException;
 
 namespace {

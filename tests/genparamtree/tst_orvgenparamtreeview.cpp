@@ -9,12 +9,9 @@
 #include <simulation/simulatedcamera.h>
 
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QSplitter>
 #include <QTextBrowser>
 #include <QtTest>
 

@@ -4,7 +4,6 @@
 #include "orvcameraselectordialog.h"
 #include "pickerparts.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>

@@ -3,7 +3,6 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QMetaProperty>
 #include <QTabBar>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
