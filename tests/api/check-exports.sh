@@ -4,7 +4,7 @@
 # the members and type information of its public classes. Nothing else.
 set -eu
 library=$1
-names=$(nm -D --defined-only "$library" | awk '{ print $NF }' | sort -u)
+names=$("${NM:-nm}" -D --defined-only "$library" | awk '{ print $NF }' | sort -u)
 
 trees='CreateGenParamTreeViewFor(Array|Nodemap)[AW]|DestroyGenParamTreeView'
 dialogs='SelectCamera[AW]|Show(CamConfig|Color|FrameAB|Output|Pulse|Strobe|Trigger)Dialog'

@@ -11,6 +11,40 @@
 
 #include <memory>
 
+/// The widget or action of that name, which is there.
+template<class T = QWidget>
+T *part(const QWidget &window, const QByteArray &name)
+{
+    T *found = window.findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("There is no %s", name.constData());
+    return found;
+}
+
+inline void throwRefusal()
+{
+    throw GenICam::AccessException("no", __FILE__, __LINE__);
+}
+
+/// Enters a number into a spin box or into the one that the widget consists of.
+inline void type(QWidget *widget, const QString &number, bool enter = true)
+{
+    auto *spinBox = qobject_cast<QAbstractSpinBox *>(widget);
+    if (!spinBox)
+        spinBox = widget->findChild<QAbstractSpinBox *>();
+    spinBox->setFocus();
+    spinBox->selectAll();
+    QTest::keyClicks(spinBox, number);
+    if (enter)
+        QTest::keyClick(spinBox, Qt::Key_Return);
+}
+
+/// Clicks where also the mark of a check box or of a radio button is.
+inline void click(QWidget *button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+}
+
 /// Where the handle of the slider is, to be pressed and dragged.
 inline QPoint handleOf(const QSlider *slider)
 {
@@ -103,6 +137,62 @@ public:
     int asked = 0;
 };
 
+/// The parameters of another array, apart from some that the camera is said to lack.
+class PartialArray : public OrvGenParam::Array
+{
+public:
+    QSet<QByteArray> missing;
+    OrvGenParam::Array *all = nullptr;
+
+    uint32_t GetCount() const override { return all->GetCount(); }
+    OrvGenParam::Param *GetParam(uint32_t i) const override { return all->GetParam(i); }
+    OrvGenParam::Param *GetParam(const char *n) const override { return has(n, all->GetParam(n)); }
+    OrvGenParam::Int *GetInt(const char *n) const override { return has(n, all->GetInt(n)); }
+    OrvGenParam::Float *GetFloat(const char *n) const override { return has(n, all->GetFloat(n)); }
+    OrvGenParam::Enum *GetEnum(const char *n) const override { return has(n, all->GetEnum(n)); }
+    OrvGenParam::Boolean *GetBoolean(const char *n) const override
+    {
+        return has(n, all->GetBoolean(n));
+    }
+    OrvGenParam::Command *GetCommand(const char *n) const override
+    {
+        return has(n, all->GetCommand(n));
+    }
+    OrvGenParam::String *GetString(const char *n) const override
+    {
+        return has(n, all->GetString(n));
+    }
+    int64_t GetIntegerValue(const char *n, int32_t *error) const override
+    {
+        return all->GetIntegerValue(n, error);
+    }
+    int32_t SetIntegerValue(const char *n, int64_t value) override
+    {
+        return all->SetIntegerValue(n, value);
+    }
+    int32_t ExecuteCommand(const char *n) override { return all->ExecuteCommand(n); }
+    GenApi::INodeMap *GetNodeMap(int32_t *error) const override { return all->GetNodeMap(error); }
+
+private:
+    template<class Kind>
+    Kind *has(const char *name, Kind *param) const
+    {
+        return missing.contains(name) ? nullptr : param;
+    }
+};
+
+class PartialDevice : public NodeMapDevice
+{
+public:
+    using NodeMapDevice::NodeMapDevice;
+    OrvGenParam::Array *GetParamArray(int32_t *code) override
+    {
+        part.all = NodeMapDevice::GetParamArray(code);
+        return part.all ? &part : nullptr;
+    }
+    PartialArray part;
+};
+
 /// A camera as its node map knows it.
 struct DescribedDevice
 {
@@ -129,7 +219,7 @@ struct DescribedDevice
     quint64 writes() const { return map->transactions().writes; }
 
     std::unique_ptr<OrvAravis::NodeMap> map;
-    NodeMapDevice device;
+    PartialDevice device;
 };
 
 struct SimulatedDeviceCamera

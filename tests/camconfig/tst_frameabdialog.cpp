@@ -21,76 +21,10 @@ namespace {
 using Names = QList<const char *>;
 using Area = QVector<qint64>;
 
-/// The parameters of another array, apart from some that the camera is said to lack.
-class PartialArray : public OrvGenParam::Array
-{
-public:
-    explicit PartialArray(OrvGenParam::Array *all) : m_all(all) {}
-    QSet<QByteArray> missing;
-
-    uint32_t GetCount() const override { return m_all->GetCount(); }
-    OrvGenParam::Param *GetParam(uint32_t i) const override { return m_all->GetParam(i); }
-    OrvGenParam::Param *GetParam(const char *n) const override
-    {
-        return has(n, m_all->GetParam(n));
-    }
-    OrvGenParam::Int *GetInt(const char *n) const override { return has(n, m_all->GetInt(n)); }
-    OrvGenParam::Float *GetFloat(const char *n) const override
-    {
-        return has(n, m_all->GetFloat(n));
-    }
-    OrvGenParam::Enum *GetEnum(const char *n) const override { return has(n, m_all->GetEnum(n)); }
-    OrvGenParam::Boolean *GetBoolean(const char *n) const override
-    {
-        return has(n, m_all->GetBoolean(n));
-    }
-    OrvGenParam::Command *GetCommand(const char *n) const override
-    {
-        return has(n, m_all->GetCommand(n));
-    }
-    OrvGenParam::String *GetString(const char *n) const override
-    {
-        return has(n, m_all->GetString(n));
-    }
-    int64_t GetIntegerValue(const char *n, int32_t *error) const override
-    {
-        return m_all->GetIntegerValue(n, error);
-    }
-    int32_t SetIntegerValue(const char *n, int64_t value) override
-    {
-        return m_all->SetIntegerValue(n, value);
-    }
-    int32_t ExecuteCommand(const char *n) override { return m_all->ExecuteCommand(n); }
-    GenApi::INodeMap *GetNodeMap(int32_t *error) const override { return m_all->GetNodeMap(error); }
-
-private:
-    template<class Kind>
-    Kind *has(const char *name, Kind *param) const
-    {
-        return missing.contains(name) ? nullptr : param;
-    }
-
-    OrvGenParam::Array *const m_all;
-};
-
-class PartialDevice : public NodeMapDevice
-{
-public:
-    explicit PartialDevice(GenApi::INodeMap &nodeMap) : NodeMapDevice(nodeMap), part(array.get()) {}
-    OrvGenParam::Array *GetParamArray(int32_t *code) override
-    {
-        return NodeMapDevice::GetParamArray(code) ? &part : nullptr;
-    }
-    PartialArray part;
-};
-
 /// A simulated camera and access to it from outside the dialog.
-class Camera
+class Camera : public SimulatedDevice
 {
 public:
-    Camera() : map(OrvAravis::NodeMap::open(simulation.device())), device(*map) {}
-
-    OrvGenParam::Array *array() { return &device.part; }
     OrvGenParam::Int *number(const QByteArray &name) { return device.array->GetInt(name); }
     OrvGenParam::Enum *choice(const QByteArray &name) { return device.array->GetEnum(name); }
     OrvGenParam::Boolean *flag(const QByteArray &name) { return device.array->GetBoolean(name); }
@@ -103,11 +37,28 @@ public:
         return choice(name)->SetSymbolicValue(symbol) == 0;
     }
     bool turn(const QByteArray &name, bool on) { return flag(name)->SetValue(on) == 0; }
-    int writes() const { return int(map->transactions().writes); }
+    int writes() const { return int(SimulatedDevice::writes()); }
+};
 
-    SimulatedCamera simulation;
-    std::unique_ptr<OrvAravis::NodeMap> map;
-    PartialDevice device;
+/// A camera with little, which can be made to refuse.
+struct PlainCamera
+{
+    PlainCamera()
+    {
+        map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}});
+        for (auto *node : {&lines, &clocks, &map.addInteger("Frame_LineTime", 1000)})
+            node->setLimits(0, 100000);
+        fine.setLimits(0, 63);
+        device = std::make_unique<NodeMapDevice>(map);
+    }
+
+    OrvGenApi::MemoryNodeMap map;
+    OrvGenApi::MemoryInteger &lines = map.addInteger("Frame_ExposureLines", 10);
+    OrvGenApi::MemoryInteger &clocks = map.addInteger("Frame_ExposureClocks", 20);
+    OrvGenApi::MemoryInteger &fine = map.addInteger("Frame_DigitalFineGain", 0);
+    OrvGenApi::MemoryEnumeration &selector =
+        map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
+    std::unique_ptr<NodeMapDevice> device;
 };
 
 /// The frame A/B dialog and how a user works with it.
@@ -119,10 +70,7 @@ public:
     template<class T = QWidget>
     T *get(const char *name) const
     {
-        T *found = findChild<T *>(name);
-        if (!found)
-            qFatal("The dialog has no %s", name);
-        return found;
+        return part<T>(*this, name);
     }
     bool isOn(const char *name) const { return get(name)->isEnabled(); }
     int shown(const char *name) const { return get(name)->property("value").toInt(); }
@@ -135,19 +83,10 @@ public:
 
     void type(const char *name, const QString &text, bool enter = true)
     {
-        QAbstractSpinBox *spinBox = editor(name);
-        spinBox->setFocus();
-        spinBox->selectAll();
-        QTest::keyClicks(spinBox, text);
-        if (enter)
-            QTest::keyClick(spinBox, Qt::Key_Return);
+        ::type(get(name), text, enter);
     }
     void type(const char *name, int number) { type(name, QString::number(number)); }
-    void click(const char *name)
-    {
-        auto *button = get<QAbstractButton>(name);
-        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(10, button->height() / 2));
-    }
+    void click(const char *name) { ::click(get(name)); }
     void clickTab(int index)
     {
         QTest::mouseClick(tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
@@ -365,9 +304,7 @@ class TestFrameABDialog : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void theFormHasItsTexts();
     void withoutACamera();
-    void eachControlIsBound();
     void exposureTimeIsSplit();
     void exposureTimeAtOddCameras_data();
     void exposureTimeAtOddCameras();
@@ -375,11 +312,9 @@ private Q_SLOTS:
     void gainIsSplit();
     void gainWithoutAPart();
     void draggingWritesOnceAtTheEnd();
-    void outputMode();
     void twoFramesHoldTwoSettings();
     void typingBelongsToTheFrameItWasBegunFor();
     void somebodyElseLooksAtTheOtherFrame();
-    void pixelClockChanges();
     void areaPresets();
     void areaPresetsOfOtherSensors_data();
     void areaPresetsOfOtherSensors();
@@ -394,29 +329,6 @@ private Q_SLOTS:
 void TestFrameABDialog::initTestCase()
 {
     QApplication::setStyle("fusion");
-}
-
-void TestFrameABDialog::theFormHasItsTexts()
-{
-    const QChar mu(0x03BC);
-    Dialog dialog(nullptr);
-    QVERIFY(!dialog.windowIcon().isNull());
-    QVERIFY(!dialog.get<QLabel>("lblWdrImage")->pixmap()->isNull());
-    const QMap<QByteArray, QString> captions = {
-        {"spBoxDualVideo", "Dual Video\nLine Time [pclk]:"},
-        {"spBoxExpTime", QString("Exposure Time [%1s]:").arg(mu)},
-        {"spBoxFixedFramePeriodValue", QString("[%1s]:").arg(mu)},
-        {"spBoxFrameLineTime", "Line Time [pclk]:"},
-        {"spBoxFrameOffsetX", "OffsetX:"},
-        {"spBoxFrameOffsetY", "OffsetY:"},
-        {"spBoxFrameWidth", "Width: "},
-        {"spBoxFrameHeight", "Height:"},
-        {"spBoxDigitalGain", "Digital Gain:"},
-        {"spBoxBlackLevel", "Black Level:"}};
-    for (auto it = captions.begin(); it != captions.end(); ++it)
-        QCOMPARE(dialog.get(it.key())->property("leftLabelText").toString(), it.value());
-    for (const char *name : {"lblWdrE1MicroSec", "lblWdrE2MicroSec", "lblWdrE3MicroSec"})
-        QCOMPARE(dialog.get<QLabel>(name)->text(), QString("%1s").arg(mu));
 }
 
 void TestFrameABDialog::withoutACamera()
@@ -441,66 +353,13 @@ void TestFrameABDialog::withoutACamera()
     QCOMPARE(camera.writes(), 2);
 
     camera.device.error = OrvCam::Success;
-    dialog.SetDevice(&camera.device);
-    dialog.SetDevice(&camera.device);
+    for (int i = 0; i < 2; ++i) // must not double anything
+        dialog.SetDevice(&camera.device);
     Dialog::settle();
     VERIFY_SAME(dialog, camera);
     const int writes = camera.writes();
     dialog.type("spBoxBlackLevel", 100);
-    dialog.type("spBoxExpTime", 1234);
-    dialog.type("spBoxDigitalGain", QStringLiteral("5"));
-    QCOMPARE(camera.writes(), writes + 5);
-}
-
-void TestFrameABDialog::eachControlIsBound()
-{
-    Camera camera;
-    camera.choose("FrameMode", "DualVideo");
-    camera.turn("Frame_WdrEnable", true);
-    camera.set("Frame_OffsetX", 0);
-    camera.set("Frame_Width", 2048);
-    camera.set("Frame_Height", 1024);
-    Dialog dialog(&camera.device);
-    const ErrorBoxes boxes;
-
-    const auto arrow = [&](const char *feature, const char *widget) {
-        const qint64 before = camera.value(feature);
-        const int writes = camera.writes();
-        QTest::keyClick(dialog.editor(widget), Qt::Key_Up);
-        return camera.value(feature) == before + camera.number(feature)->GetInc() &&
-               dialog.shown(widget) == camera.value(feature) && camera.writes() == writes + 1;
-    };
-    for (const Binding &b : numbers)
-        QVERIFY2(arrow(b.feature, b.widget), b.widget);
-    QVERIFY(arrow("NumberOfFrameAs", "spBoxNumberOfFrameAs"));
-    QVERIFY(arrow("NumberOfFrameBs", "spBoxNumberOfFrameBs"));
-    QVERIFY(arrow("Frame_LineTime", "spBoxDualVideo"));
-    for (const Choice &c : choices) {
-        for (const char *button : c.buttons) {
-            dialog.click(button);
-            QCOMPARE(camera.symbol(c.feature), dialog.get<QRadioButton>(button)->text());
-        }
-    }
-    for (const Binding &b : checks) {
-        const bool before = camera.flag(b.feature)->GetValue();
-        dialog.click(b.widget);
-        QCOMPARE(camera.flag(b.feature)->GetValue(), !before);
-        dialog.click(b.widget);
-    }
-    dialog.click("radioBtnSubsampleSubsampling");
-    dialog.pick("cmBoxSubsamplingM", "M8");
-    dialog.pick("cmBoxSubsamplingP", "P4");
-    QCOMPARE(camera.symbol("Frame_SubsamplingM"), QString("M8"));
-    QCOMPARE(camera.symbol("Frame_SubsamplingP"), QString("P4"));
-    dialog.click("radioBtnSubsampleAverage");
-    dialog.pick("cmBoxAveraging", "Avg4x4");
-    for (const char *knee : {"P1", "P2", "P3"}) {
-        dialog.pick(QByteArray("cmBoxWdr").append(knee), "Percent20");
-        QCOMPARE(camera.symbol(QByteArray("Frame_Wdr") + knee), QString("Percent20"));
-    }
-    QCOMPARE(camera.symbol("Frame_Averaging"), QString("Avg4x4"));
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(boxes.texts, none);
+    QCOMPARE(camera.writes(), writes + 1);
 }
 
 void TestFrameABDialog::exposureTimeIsSplit()
@@ -529,27 +388,20 @@ void TestFrameABDialog::exposureTimeIsSplit()
     QCOMPARE(dialog.shown("spBoxExpTime"), 401);
     QCOMPARE(camera.value("Frame_ExposureClocks"), Q_INT64_C(319));
 
-    // A time that was longer than what is left of the range is not shortened by being shown.
+    // A time that is longer than the period is not shortened by being shown, and the longest time
+    // of a period is one that the camera has no lines for.
     camera.set("Frame_ExposureLines", 5000);
     camera.turn("Frame_FixedFramePeriodEnable", true);
     camera.set("Frame_FixedFramePeriodValue", 100);
     VERIFY_SAME(dialog, camera);
     camera.turn("Frame_FixedFramePeriodEnable", false);
     QCOMPARE(camera.value("Frame_ExposureLines"), Q_INT64_C(5000));
-    VERIFY_SAME(dialog, camera);
-
-    // The longest time of a fixed period is one that the camera has no lines for.
     camera.turn("Frame_FixedFramePeriodEnable", true);
     const int longest = dialog.get("spBoxExpTime")->property("maximum").toInt();
     for (int i = 0; i < 2; ++i) {
         dialog.type("spBoxExpTime", longest);
         VERIFY_SAME(dialog, camera);
     }
-
-    camera.choose("Frame_ExposureControl", "Off");
-    QVERIFY(!dialog.isOn("spBoxExpTime"));
-    camera.choose("Frame_ExposureControl", "Internal");
-    VERIFY_SAME(dialog, camera);
 }
 
 void TestFrameABDialog::exposureTimeAtOddCameras_data()
@@ -563,7 +415,6 @@ void TestFrameABDialog::exposureTimeAtOddCameras_data()
 
     QTest::newRow("no line time") << 160LL << 0LL << 3 << 0LL << 480LL << 0;
     QTest::newRow("no pixel clock") << 0LL << 1000LL << 3 << 20LL << 30LL << 0;
-    QTest::newRow("neither") << 0LL << 0LL << 3 << 20LL << 30LL << 0;
     QTest::newRow("unknown clock") << -1LL << 1000LL << 10 << 1LL << 600LL << 25000;
     QTest::newRow("slow clock") << 1LL << 1000LL << 2500 << 2LL << 500LL << 2147483647;
     QTest::newRow("negative line time") << 160LL << -1LL << 0 << 20LL << 30LL << 0;
@@ -619,11 +470,6 @@ void TestFrameABDialog::fixedPeriodIsConverted()
     QCOMPARE(dialog.shown(box), 10006);
     QCOMPARE(dialog.get("spBoxExpTime")->property("maximum").toInt(), 10006);
 
-    // The camera keeps the lines when a line takes another time.
-    dialog.type("spBoxFrameLineTime", 1234);
-    QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), Q_INT64_C(1601));
-    VERIFY_SAME(dialog, camera);
-
     // Each arrow is another number of lines, up and down again.
     QVector<qint64> lines;
     for (const Qt::Key key :
@@ -648,14 +494,16 @@ void TestFrameABDialog::gainIsSplit()
         const char *text;
         QPair<qint64, qint64> parts;
         double shown;
-    } rows[] = {{"3.0", {1, 32}, 3.0},     {"1.0", {0, 0}, 1.0},      {"1.98", {0, 63}, 2.0},
-                {"7.875", {2, 62}, 7.875}, {"31.75", {4, 63}, 31.75}, {"2", {1, 0}, 2.0}};
+    } rows[] = {{"3.0", {1, 32}, 3.0},
+                {"1.0", {0, 0}, 1.0},
+                {"7.875", {2, 62}, 7.875},
+                {"31.75", {4, 63}, 31.75},
+                {"2", {1, 0}, 2.0}};
     for (const auto &row : rows) {
         const int writes = camera.writes();
         dialog.type("spBoxDigitalGain", QString(row.text));
-        QCOMPARE(dialog.gain(), row.text == QByteArray("1.98") ? 2.0 : row.shown);
-        if (row.text != QByteArray("1.98"))
-            QCOMPARE(gain(), row.parts);
+        QCOMPARE(dialog.gain(), row.shown);
+        QCOMPARE(gain(), row.parts);
         QVERIFY(camera.writes() - writes <= 2);
     }
 
@@ -709,21 +557,8 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     Camera camera;
     camera.turn("Frame_FixedFramePeriodEnable", true);
     Dialog dialog(&camera.device);
-    int writes = camera.writes();
-    dialog.drag("spBoxBlackLevel", 0.5);
-    QCOMPARE(camera.writes(), writes + 1);
-    dialog.drag("spBoxFrameLineTime", 0.1);
-    QCOMPARE(camera.writes(), writes + 2);
-    dialog.drag("spBoxFixedFramePeriodValue", 0.8);
-    QCOMPARE(camera.writes(), writes + 3);
-    dialog.drag("spBoxDigitalGain", 0.5);
-    QCOMPARE(camera.writes(), writes + 5);
-    VERIFY_SAME(dialog, camera);
-    QVERIFY(camera.value("Frame_DigitalCourseGain") == 3 ||
-            camera.value("Frame_DigitalCourseGain") == 4);
-
     // The exposure time has its slider in a window of its own.
-    writes = camera.writes();
+    const int writes = camera.writes();
     auto *box = dialog.get<QtOrvSpinBox>("spBoxExpTime");
     box->toolButton()->click();
     QVERIFY(QTest::qWaitForWindowExposed(box->slider()));
@@ -738,59 +573,6 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     box->slider()->hide();
     Dialog::settle();
     VERIFY_SAME(dialog, camera);
-}
-
-void TestFrameABDialog::outputMode()
-{
-    Camera camera;
-    Dialog dialog(&camera.device);
-    const ErrorBoxes boxes;
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.writes(), 0);
-
-    // Each of the two line times is found again where it was.
-    int writes = camera.writes();
-    dialog.pick("cmBoxFrameMode", "FrameB");
-    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
-    QCOMPARE(camera.writes(), writes + 2);
-    VERIFY_SAME(dialog, camera);
-    dialog.type("spBoxFrameLineTime", 1300);
-    dialog.pick("cmBoxFrameMode", "DualVideo");
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.tabs()->currentIndex(), 1);
-    dialog.type("spBoxDualVideo", 1500);
-    dialog.type("spBoxNumberOfFrameAs", 3);
-    dialog.type("spBoxNumberOfFrameBs", 4);
-    dialog.clickTab(0);
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.shown("spBoxDualVideo"), 1500);
-    dialog.pick("cmBoxFrameMode", "FrameA");
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1000);
-    QVERIFY(!dialog.isOn("spBoxNumberOfFrameAs") && !dialog.isOn("spBoxNumberOfFrameBs"));
-    dialog.clickTab(1); // is disabled
-    QCOMPARE(dialog.tabs()->currentIndex(), 0);
-
-    // From outside, too, and the counts come back with what they were.
-    writes = camera.writes();
-    camera.choose("FrameMode", "DualVideo");
-    Dialog::settle();
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(dialog.shown("spBoxNumberOfFrameBs"), 4);
-    QCOMPARE(camera.writes(), writes + 1);
-    camera.choose("FrameMode", "FrameB");
-    Dialog::settle();
-    QCOMPARE(dialog.shown("spBoxFrameLineTime"), 1300);
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.writes(), writes + 3); // the mode, and the frame that goes with it
-    QCOMPARE(boxes.texts, none);
-
-    // A camera that was left with the other frame selected.
-    camera.choose("FrameAB_Selector", "FrameA");
-    dialog.SetDevice(&camera.device);
-    Dialog::settle();
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
 }
 
 void TestFrameABDialog::twoFramesHoldTwoSettings()
@@ -812,15 +594,9 @@ void TestFrameABDialog::twoFramesHoldTwoSettings()
         dialog.type("spBoxDigitalGain", QString(frame ? "6.5" : "1.25"));
         dialog.type("spBoxBlackLevel", frame ? 11 : 22);
         dialog.click(frame ? "radioBtnAGain8x" : "radioBtnAGain2x");
-        dialog.click(frame ? "radioBtnSubsampleAverage" : "radioBtnSubsampleSubsampling");
-        if (frame == 0) {
-            dialog.click("chBoxWdrEnable");
-            dialog.type("spBoxWdrE2", 77);
-            dialog.pick("cmBoxWdrP1", "Percent20");
-        } else {
-            dialog.click("chBoxFixedFramePeriodEnable");
+        dialog.click(frame ? "chBoxFixedFramePeriodEnable" : "chBoxWdrEnable");
+        if (frame == 1)
             dialog.type("spBoxFixedFramePeriodValue", 20000);
-        }
     };
     setUp(0);
     setUp(1);
@@ -851,7 +627,6 @@ void TestFrameABDialog::twoFramesHoldTwoSettings()
         for (const auto &row : expected)
             QVERIFY2(camera.value(row.feature) == (isA ? row.frameA : row.frameB), row.feature);
         QCOMPARE(camera.symbol("Frame_AnalogGain"), QString(isA ? "x2" : "x8"));
-        QCOMPARE(camera.symbol("Frame_DecimationMode"), QString(isA ? "Subsampling" : "Average"));
         QCOMPARE(camera.flag("Frame_WdrEnable")->GetValue(), isA);
         QCOMPARE(camera.flag("Frame_FixedFramePeriodEnable")->GetValue(), !isA);
     }
@@ -881,21 +656,13 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
     // Nor when somebody else does.
-    for (const qint64 other : {80, 123}) {
-        camera.set("Frame_BlackLevel", 123); // of frame B
-        camera.choose("FrameAB_Selector", "FrameA");
-        camera.set("Frame_BlackLevel", other);
-        Dialog::settle();
-        dialog.type("spBoxBlackLevel", "300", false);
-        camera.choose("FrameAB_Selector", "FrameB");
-        Dialog::settle();
-        VERIFY_SAME(dialog, camera);
-        QCOMPARE(levels(), (QVector<qint64>{other, 123}));
-    }
-
-    // What was dragged does not, either.
+    dialog.type("spBoxBlackLevel", "300", false);
     camera.choose("FrameAB_Selector", "FrameA");
     Dialog::settle();
+    VERIFY_SAME(dialog, camera);
+    QCOMPARE(levels(), (QVector<qint64>{64, 80}));
+
+    // What was dragged does not, either.
     auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 2);
     dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
@@ -903,7 +670,7 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     camera.choose("FrameAB_Selector", "FrameB");
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
     Dialog::settle();
-    QCOMPARE(levels(), (QVector<qint64>{123, 123}));
+    QCOMPARE(levels(), (QVector<qint64>{64, 80}));
     VERIFY_SAME(dialog, camera);
 }
 
@@ -912,16 +679,6 @@ void TestFrameABDialog::somebodyElseLooksAtTheOtherFrame()
     Camera camera;
     Dialog dialog(&camera.device);
     const ErrorBoxes boxes;
-    for (int i = 0; i < 3; ++i) {
-        const int writes = camera.writes();
-        camera.choose("FrameAB_Selector", "FrameB");
-        QCOMPARE(camera.value("Frame_BlackLevel"), Q_INT64_C(80));
-        camera.choose("FrameAB_Selector", "FrameA");
-        Dialog::settle();
-        QCOMPARE(camera.writes(), writes + 2);
-        VERIFY_SAME(dialog, camera);
-    }
-
     // Who stays there is led back, once.
     const int writes = camera.writes();
     camera.choose("FrameAB_Selector", "FrameB");
@@ -930,46 +687,16 @@ void TestFrameABDialog::somebodyElseLooksAtTheOtherFrame()
     QCOMPARE(camera.writes(), writes + 2);
     VERIFY_SAME(dialog, camera);
 
-    // A dialog that is not shown follows, too.
-    dialog.hide();
-    camera.choose("FrameMode", "FrameB");
-    Dialog::settle();
-    dialog.show();
-    Dialog::settle();
-    VERIFY_SAME(dialog, camera);
-    camera.choose("FrameMode", "FrameA");
-    Dialog::settle();
-    VERIFY_SAME(dialog, camera);
-    QCOMPARE(camera.writes(), writes + 6);
-
     // Two dialogs do not quarrel.
     Dialog second(&camera.device);
     camera.choose("FrameMode", "FrameB");
     Dialog::settle();
     camera.choose("FrameAB_Selector", "FrameA");
     Dialog::settle();
-    QVERIFY(camera.writes() <= writes + 6 + 6);
+    QVERIFY(camera.writes() <= writes + 2 + 6);
     VERIFY_SAME(dialog, camera);
     VERIFY_SAME(second, camera);
     QCOMPARE(boxes.texts, none);
-}
-
-void TestFrameABDialog::pixelClockChanges()
-{
-    Camera camera;
-    camera.turn("Frame_FixedFramePeriodEnable", true);
-    Dialog dialog(&camera.device);
-    QCOMPARE(dialog.shown("spBoxExpTime"), 10000);
-    const int writes = camera.writes();
-    for (const int divider : {64, 16, 128, 32}) {
-        camera.set("SensorClockDivider", divider);
-        QCOMPARE(dialog.shown("spBoxExpTime"), 10000 * divider / 32);
-        QCOMPARE(dialog.shown("spBoxFixedFramePeriodValue"), 25000 * divider / 32);
-        VERIFY_SAME(dialog, camera);
-    }
-    QCOMPARE(camera.writes(), writes + 4);
-    QCOMPARE(camera.value("Frame_ExposureLines"), Q_INT64_C(1600));
-    QCOMPARE(camera.value("Frame_FixedFramePeriodValue"), Q_INT64_C(4000));
 }
 
 void TestFrameABDialog::areaPresets()
@@ -978,10 +705,8 @@ void TestFrameABDialog::areaPresets()
     Dialog dialog(&camera.device);
     const ErrorBoxes boxes;
     QVERIFY(dialog.get<QRadioButton>("radioBtnFullFrame")->isChecked());
-    const QVector<QVector<int>> areas = {{0, 0, 4096, 3072},     {128, 456, 3840, 2160},
-                                         {4032, 3056, 64, 16},   {0, 0, 64, 16},
-                                         {256, 912, 3840, 2160}, {0, 0, 3840, 2160},
-                                         {64, 1000, 4032, 2064}, {2048, 0, 2048, 3072}};
+    const QVector<QVector<int>> areas = {
+        {0, 0, 4096, 3072}, {4032, 3056, 64, 16}, {256, 912, 3840, 2160}, {64, 1000, 4032, 2064}};
     for (const QVector<int> &area : areas) {
         for (const int preset : {0, 1}) {
             camera.set("Frame_OffsetX", 0);
@@ -1008,14 +733,6 @@ void TestFrameABDialog::areaPresets()
     dialog.type("spBoxFrameOffsetX", 144);
     dialog.type("spBoxFrameOffsetX", 128);
     QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
-
-    // Each frame has its own.
-    camera.choose("FrameMode", "DualVideo");
-    dialog.click("radioBtnFullFrame");
-    dialog.clickTab(1);
-    QVERIFY(dialog.get<QRadioButton>("radioBtnQFHDFrame")->isChecked());
-    dialog.clickTab(0);
-    QVERIFY(dialog.get<QRadioButton>("radioBtnFullFrame")->isChecked());
 
     // While images are taken the size cannot be changed.
     const GenApi::CIntegerPtr locked(camera.map->GetNode("TLParamsLocked"));
@@ -1131,9 +848,6 @@ void TestFrameABDialog::missingFeatures()
         QVERIFY2(!dialog.isOn(widget), widget);
     if (missing != "FrameAB_Selector") {
         // The rest goes on.
-        const int usable = int(std::count_if(std::begin(numbers), std::end(numbers),
-                                             [&](auto &b) { return dialog.isOn(b.widget); }));
-        QVERIFY(usable >= (widgets.isEmpty() ? 10 : 8));
         dialog.type("spBoxExpTime", 500);
         dialog.click("radioBtnQFHDFrame");
         dialog.clickTab(1);
@@ -1149,12 +863,8 @@ void TestFrameABDialog::missingFeatures()
     if (widgets.isEmpty() && missing != "PixelClock")
         VERIFY_SAME(dialog, camera);
 
-    // Both times need both of their parts.
     if (missing.startsWith("Frame_ExposureLines") || missing.startsWith("Frame_ExposureClocks"))
-        QVERIFY(!dialog.isOn("spBoxExpTime"));
-    if (widgets.size() == 1 && missing.startsWith("Frame_") &&
-        (missing.contains("Offset") || missing.endsWith("Width") || missing.endsWith("Height")))
-        QVERIFY(!dialog.isOn("radioBtnFullFrame"));
+        QVERIFY(!dialog.isOn("spBoxExpTime")); // needs both
 
     // A complete camera brings everything back.
     camera.device.part.missing.clear();
@@ -1165,38 +875,28 @@ void TestFrameABDialog::missingFeatures()
 
 void TestFrameABDialog::refusedWrites()
 {
-    OrvGenApi::MemoryNodeMap map;
-    auto &lines = map.addInteger("Frame_ExposureLines", 10);
-    auto &clocks = map.addInteger("Frame_ExposureClocks", 20);
-    auto &lineTime = map.addInteger("Frame_LineTime", 1000);
-    auto &fine = map.addInteger("Frame_DigitalFineGain", 0);
-    auto &selector = map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
-    map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}});
-    for (auto *node : {&lines, &clocks, &lineTime})
-        node->setLimits(0, 100000);
-    fine.setLimits(0, 63);
-    NodeMapDevice device(map);
+    PlainCamera plain;
+    NodeMapDevice &device = *plain.device;
     Dialog dialog(&device);
     const ErrorBoxes boxes;
-    const auto refuse = [] { throw GenICam::AccessException("no", __FILE__, __LINE__); };
 
     // What could not be written is not claimed to be the exposure time.
-    lines.onWrite(refuse);
+    plain.lines.onWrite(throwRefusal);
     dialog.type("spBoxExpTime", 1000);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(
         boxes.texts[0].startsWith("Error while setting the Frame_ExposureLines integer value!"));
-    QCOMPARE(qint64(lines.GetValue()), Q_INT64_C(10));
-    QCOMPARE(dialog.shown("spBoxExpTime"), int((10 * 1000 + clocks.GetValue()) / 160));
+    QCOMPARE(qint64(plain.lines.GetValue()), Q_INT64_C(10));
+    QCOMPARE(dialog.shown("spBoxExpTime"), int((10 * 1000 + plain.clocks.GetValue()) / 160));
 
     // The gain complains about nothing and shows what there is.
-    fine.onWrite(refuse);
+    plain.fine.onWrite(throwRefusal);
     dialog.type("spBoxDigitalGain", QStringLiteral("1.5"));
     QCOMPARE(boxes.texts.size(), 1);
     QCOMPARE(dialog.gain(), 1.0);
 
     // A frame that cannot be selected is tried once, not for ever.
-    selector.onWrite(refuse);
+    plain.selector.onWrite(throwRefusal);
     dialog.pick("cmBoxFrameMode", "FrameB");
     Dialog::settle();
     QCOMPARE(boxes.texts.size(), 2);
@@ -1204,15 +904,9 @@ void TestFrameABDialog::refusedWrites()
 
 void TestFrameABDialog::otherCameraInTheMiddle()
 {
-    const auto refuse = [] { throw GenICam::AccessException("no", __FILE__, __LINE__); };
-    OrvGenApi::MemoryNodeMap first;
-    auto &lines = first.addInteger("Frame_ExposureLines", 10);
-    lines.setLimits(0, 100000);
-    first.addInteger("Frame_ExposureClocks", 20).setLimits(0, 100000);
-    first.addInteger("Frame_LineTime", 1000).setLimits(0, 100000);
-    lines.onWrite(refuse);
-    first.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
-    NodeMapDevice device(first);
+    PlainCamera plain;
+    plain.lines.onWrite(throwRefusal);
+    NodeMapDevice &device = *plain.device;
     Camera camera;
 
     // While the user reads the error box, the program may turn to another camera or close down.
@@ -1266,7 +960,6 @@ public:
 
     QString what;      ///< the last step
     int ownWrites = 0; ///< of the last step, not the dialog's
-    QMap<QString, int> counts;
 
 private:
     bool chance(int one) { return below(one) == 0; }
@@ -1276,21 +969,23 @@ private:
     {
         return *std::next(std::begin(list), below(int(std::end(list) - std::begin(list))));
     }
-    int did(const QString &kind, const QString &detail, int allowed)
+    int did(const QString &step, int allowed)
     {
-        what = kind + ' ' + detail;
-        ++counts[kind];
+        what = step;
         return allowed;
     }
 
     int user()
     {
         ownWrites = 0;
-        switch (below(11)) {
-        case 0:
-            return clickTab();
+        switch (below(10)) {
+        case 0: {
+            const int tab = below(2);
+            m_dialog.clickTab(tab);
+            return did("tab " + QString::number(tab), 1);
+        }
         case 1:
-            return pickMode();
+            return combo("cmBoxFrameMode");
         case 2:
             return number(one(numbers).widget, 1);
         case 3:
@@ -1298,78 +993,63 @@ private:
                                     "spBoxNumberOfFrameBs", "spBoxFixedFramePeriodValue"}),
                           1);
         case 4:
-            return number("spBoxExpTime", 2);
+            return number(one(Names{"spBoxExpTime", "spBoxDigitalGain"}), 2);
         case 5:
-            return number("spBoxDigitalGain", 2);
+            return click(one(one(choices).buttons), 1);
         case 6:
-            return click("a button", one(one(choices).buttons), 1);
+            return click(one(checks).widget, 1);
         case 7:
-            return click("a check box", one(checks).widget, 1);
-        case 8:
             return combo(one(combos).widget);
-        case 9:
+        case 8:
             return preset();
         default:
             return drag();
         }
     }
-    int clickTab()
-    {
-        const int tab = below(2);
-        m_dialog.clickTab(tab);
-        return did("the tab", QString::number(tab), 1);
-    }
-    int pickMode()
-    {
-        auto *comboBox = m_dialog.get<QComboBox>("cmBoxFrameMode");
-        QTest::keyClick(comboBox, chance(2) ? Qt::Key_Down : Qt::Key_Up);
-        return did("the output mode", comboBox->currentText(), 2);
-    }
     int number(const char *name, int allowed)
     {
-        QAbstractSpinBox *editor = m_dialog.editor(name);
         if (chance(2)) {
-            const Qt::Key key =
-                one(QList<Qt::Key>{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown});
-            QTest::keyClick(editor, key);
-            return did("an arrow", name, allowed);
+            QTest::keyClick(
+                m_dialog.editor(name),
+                one(QList<Qt::Key>{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}));
+            return did(QString("arrow ") + name, allowed);
         }
         const double min = m_dialog.get(name)->property("minimum").toDouble();
         const double max = m_dialog.get(name)->property("maximum").toDouble();
-        // Small numbers are as likely as large ones.
-        const double part = std::pow(double(below(1001)) / 1000, 1 + below(6));
-        const QString text = QString::number(min + (max - min) * part, 'f',
+        const QString text = QString::number(min + (max - min) * portion(), 'f',
                                              name == QByteArray("spBoxDigitalGain") ? 3 : 0);
         const bool isEntered = chance(2);
         m_dialog.type(name, text, isEntered);
         if (!isEntered) // the focus goes elsewhere
             m_dialog.get("lineEditFrameCurrentSize")->setFocus();
-        return did("typing", QString(name) + ' ' + text, allowed);
+        return did(QString(name) + ' ' + text, allowed);
     }
-    int click(const QString &kind, const char *name, int allowed)
+    int click(const char *name, int allowed)
     {
         m_dialog.click(name);
-        return did(kind, name, allowed);
+        return did(name, allowed);
     }
     int combo(const char *name)
     {
         QTest::keyClick(m_dialog.get(name), chance(2) ? Qt::Key_Down : Qt::Key_Up);
-        return did("a combo box", name, name == QByteArray("cmBoxFrameMode") ? 2 : 1);
+        return did(name, name == QByteArray("cmBoxFrameMode") ? 2 : 1);
     }
     int preset()
     {
         const char *name = one(presetButtons);
         m_dialog.wantsCustom(name == presetButtons[2] && presetOf(m_camera) != 2 ? areaOf(m_camera)
                                                                                  : Area());
-        return click("a preset", name, 4);
+        return click(name, 4);
     }
     int drag()
     {
         const char *name = one(Names{"spBoxBlackLevel", "spBoxDigitalGain", "spBoxFrameLineTime",
                                      "spBoxDualVideo", "spBoxFixedFramePeriodValue"});
         m_dialog.drag(name, double(below(100)) / 100);
-        return did("a drag", name, 2);
+        return did(QString("drag ") + name, 2);
     }
+    /// Small ones are as likely as large ones.
+    double portion() { return std::pow(double(below(1001)) / 1000, 1 + below(6)); }
 
     int outside()
     {
@@ -1378,51 +1058,47 @@ private:
         switch (below(6)) {
         case 0:
             m_camera.choose("FrameAB_Selector", chance(2) ? "FrameA" : "FrameB");
-            allowed = did("outside: the frame", QString(), 1);
+            allowed = did("outside: the frame", 1);
             break;
         case 1:
             m_camera.choose("FrameMode", one(Names{"FrameA", "FrameB", "DualVideo"}));
-            allowed = did("outside: the output mode", QString(), 1);
+            allowed = did("outside: the output mode", 1);
             break;
         case 2:
             m_camera.set("SensorClockDivider", 16 << below(4));
-            allowed = did("outside: the pixel clock", QString(), 0);
+            allowed = did("outside: the pixel clock", 0);
             break;
         case 3:
-            allowed = chooseOutside();
+            allowed = chooseOutside(chance(4) ? "TriggerMode" : one(choices).feature);
             break;
         case 4:
             m_camera.turn(one(checks).feature, chance(2));
-            allowed = did("outside: a switch", QString(), 0);
+            allowed = did("outside: a switch", 0);
             break;
         default:
-            allowed = setOutside();
+            allowed = setOutside(chance(3) ? one(Names{"Frame_LineTime", "Frame_DigitalCourseGain",
+                                                       "Frame_DigitalFineGain", "NumberOfFrameAs",
+                                                       "Frame_FixedFramePeriodValue"})
+                                           : one(numbers).feature);
         }
         // What the dialog writes in reply comes within these writes or in the event loop.
         ownWrites = qMin(m_camera.writes() - before, 1);
         return allowed;
     }
-    int chooseOutside()
+    int chooseOutside(const char *feature)
     {
-        const char *feature = chance(4) ? "TriggerMode" : one(choices).feature;
         OrvGenParam::Enum *param = m_camera.choice(feature);
         param->SetIntValue(
             param->GetEntry(uint32_t(below(int(param->GetEntryCount()))))->GetValue());
-        return did("outside: a choice", feature, 0);
+        return did(QString("outside: ") + feature, 0);
     }
-    int setOutside()
+    int setOutside(const char *feature)
     {
-        const char *feature =
-            chance(3)
-                ? one(Names{"Frame_LineTime", "Frame_DigitalCourseGain", "Frame_DigitalFineGain",
-                            "NumberOfFrameAs", "Frame_FixedFramePeriodValue"})
-                : one(numbers).feature;
         OrvGenParam::Int *param = m_camera.number(feature);
         const qint64 min = param->GetMin();
         const qint64 steps = (param->GetMax() - min) / qMax<qint64>(param->GetInc(), 1);
-        const double part = std::pow(double(below(1001)) / 1000, 1 + below(6));
-        param->SetValue(min + qint64(double(steps) * part) * param->GetInc());
-        return did("outside: a number", feature, 0);
+        param->SetValue(min + qint64(double(steps) * portion()) * param->GetInc());
+        return did(QString("outside: ") + feature, 0);
     }
 
     Camera &m_camera;
@@ -1455,7 +1131,7 @@ void TestFrameABDialog::randomWalk()
     }
     // It was no walk through disabled widgets.
     QVERIFY(mostWrites >= 3 && camera.writes() > 1000);
-    qInfo() << walk.counts << camera.writes() << "writes, at most" << mostWrites << "in reply";
+    qInfo("%d writes, at most %d in reply", camera.writes(), mostWrites);
 }
 
 QTEST_MAIN(TestFrameABDialog)

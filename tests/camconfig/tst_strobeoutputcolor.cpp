@@ -4,7 +4,9 @@
 #include <genapi/memorynodemap.h>
 #include <orvcamconfigcolordialog.h>
 #include <orvcamconfigoutputdialog.h>
+#include <orvcamconfigpulsedialog.h>
 #include <orvcamconfigstrobedialog.h>
+#include <orvcamconfigtriggerdialog.h>
 #include <qtorvslider.h>
 #include <qtorvsliderspinbox.h>
 #include <qtorvspinbox.h>
@@ -15,7 +17,9 @@ using OrvSimulation::SimulatedCamera;
 
 namespace {
 
-enum Which { Strobe, Output, Color };
+enum Which { Strobe, Output, Color, Trigger, Pulse };
+
+const auto all = {Strobe, Output, Color, Trigger, Pulse};
 
 struct Control
 {
@@ -57,41 +61,44 @@ const Control controls[] = {
     {Color, "spBoxRed", "RedCoefficient"},
     {Color, "spBoxGreen", "GreenCoefficient"},
     {Color, "spBoxBlue", "BlueCoefficient"},
+
+    {Trigger, "cmBoxTriggerSource", "TriggerSource"},
+    {Trigger, "cmBoxTriggerEdge", "TriggerActivation"},
+    {Trigger, "cmBoxTriggerDebounce", "TriggerDebounce"},
+
+    {Pulse, "cmBoxGranularity", "PulseGenGranularity"},
+    {Pulse, "spBoxPeriod", "PulseGenPeriod"},
+    {Pulse, "spBoxWidth", "PulseGenWidth"},
+    {Pulse, "spBoxNumPulses", "PulseGenNumPulses"},
 };
 
-void addControls()
+void addControls(int without = -1)
 {
     QTest::addColumn<const Control *>("control");
-    for (const Control &control : controls)
-        QTest::newRow(control.name) << &control;
+    for (const Control &control : controls) {
+        if (control.dialog != without)
+            QTest::newRow(control.name) << &control;
+    }
 }
 
-/// The simulated camera without one of its features, or with all; a second one, if need be.
-class PoorDevice : public DescribedDevice
+/// The simulated camera with everything on that the controls need, maybe without a feature.
+struct Camera : SimulatedDevice
 {
-public:
-    explicit PoorDevice(const QByteArray &missing = QByteArray())
-        : DescribedDevice(describe(missing))
+    explicit Camera(const QByteArray &missing = QByteArray())
     {
-        for (const char *feature : {"DefectPixelCorrection", "HotPixelCorrection"})
-            set(missing == feature ? QByteArray(missing + otherName) : QByteArray(feature),
-                "Dynamic");
+        set("TriggerMode", "On");
+        set("PulseGenMode", "Burst");
+        set("DefectPixelCorrection", "Dynamic");
+        set("HotPixelCorrection", "Dynamic");
+        device.part.missing = {missing};
+        m_before = SimulatedDevice::writes();
     }
+
+    /// Since all that.
+    int writes() const { return int(SimulatedDevice::writes() - m_before); }
 
 private:
-    static constexpr const char *otherName = "OfOtherCameras";
-
-    static std::unique_ptr<OrvAravis::NodeMap> describe(const QByteArray &missing)
-    {
-        const SimulatedCamera::Text text = SimulatedCamera::description();
-        QByteArray xml(text.data, int(text.size));
-        if (!missing.isEmpty()) {
-            xml.replace("Name=\"" + missing + '"', "Name=\"" + missing + otherName + '"');
-            xml.replace('>' + missing + '<', '>' + missing + otherName + '<');
-        }
-        return OrvAravis::NodeMap::fromText(xml.constData(), std::size_t(xml.size()),
-                                            "poor camera");
-    }
+    quint64 m_before;
 };
 
 std::unique_ptr<OrvCamConfigDialog> open(Which which, OrvCam::Device *device)
@@ -107,6 +114,12 @@ std::unique_ptr<OrvCamConfigDialog> open(Which which, OrvCam::Device *device)
     case Color:
         dialog = std::make_unique<OrvCamConfigColorDialog>(device);
         break;
+    case Trigger:
+        dialog = std::make_unique<OrvCamConfigTriggerDialog>(device);
+        break;
+    case Pulse:
+        dialog = std::make_unique<OrvCamConfigPulseDialog>(device);
+        break;
     }
     dialog->show();
     dialog->activateWindow();
@@ -115,18 +128,9 @@ std::unique_ptr<OrvCamConfigDialog> open(Which which, OrvCam::Device *device)
     return dialog;
 }
 
-template<class Widget = QWidget>
-Widget *part(const std::unique_ptr<OrvCamConfigDialog> &dialog, const QByteArray &name)
-{
-    auto *widget = dialog->findChild<Widget *>(QLatin1String(name));
-    if (!widget)
-        qFatal("There is no %s", name.constData());
-    return widget;
-}
-
 QString textOf(const std::unique_ptr<OrvCamConfigDialog> &dialog, const QByteArray &label)
 {
-    return part<QLabel>(dialog, label)->text();
+    return part<QLabel>(*dialog, label)->text();
 }
 
 /// The value as the feature would write it.
@@ -139,14 +143,6 @@ QString shown(QWidget *widget)
     return widget->property("value").toString();
 }
 
-void type(QWidget *spinBox, int value)
-{
-    auto *edit = spinBox->findChild<QLineEdit *>();
-    edit->selectAll();
-    QTest::keyClicks(edit, QString::number(value));
-    QTest::keyClick(edit, Qt::Key_Return);
-}
-
 /// Edits a control to another value, as a user does.
 void edit(QWidget *widget)
 {
@@ -156,41 +152,15 @@ void edit(QWidget *widget)
         if (combo->currentIndex() == before)
             QTest::keyClick(combo, Qt::Key_Up);
     } else if (qobject_cast<QCheckBox *>(widget)) {
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(8, widget->height() / 2));
+        click(widget);
     } else {
-        type(widget, 777);
+        type(widget, QStringLiteral("777"));
     }
-}
-
-QSlider *inner(QWidget *compound)
-{
-    return compound->findChild<QSlider *>();
-}
-
-void press(QSlider *slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(slider);
-    option.orientation = slider->orientation();
-    option.minimum = slider->minimum();
-    option.maximum = slider->maximum();
-    option.sliderPosition = slider->sliderPosition();
-    option.upsideDown = slider->orientation() == Qt::Vertical;
-    const QRect handle = slider->style()->subControlRect(QStyle::CC_Slider, &option,
-                                                         QStyle::SC_SliderHandle, slider);
-    QTest::mousePress(slider, Qt::LeftButton, {}, handle.center());
-    QVERIFY(slider->isSliderDown());
-}
-
-void moveTo(QSlider *slider, const QPoint &point)
-{
-    QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(slider, &move);
 }
 
 QImage pictureOf(const std::unique_ptr<OrvCamConfigDialog> &dialog)
 {
-    return part<QLabel>(dialog, "lblStrobeImage")->pixmap()->toImage();
+    return part<QLabel>(*dialog, "lblStrobeImage")->pixmap()->toImage();
 }
 
 QImage resource(const char *name)
@@ -212,18 +182,17 @@ class TestStrobeOutputColor : public QObject
 private slots:
     void bothWays_data() { addControls(); }
     void bothWays();
-    void missingFeature_data() { addControls(); }
+    void missingFeature_data() { addControls(Trigger); }
     void missingFeature();
     void withoutCamera();
+    void closing();
     void lifetimes();
     void tabOrder();
 
-    void strobeCaptions();
     void strobePicture();
     void strobeDrag();
 
     void outputDependencies();
-    void popUpSliders();
 
     void unity();
     void automaticWhiteBalance();
@@ -234,26 +203,26 @@ private slots:
 void TestStrobeOutputColor::bothWays()
 {
     QFETCH(const Control *, control);
-    SimulatedDevice camera;
+    Camera camera;
     const auto dialog = open(control->dialog, &camera.device);
     dialog->SetDevice(&camera.device); // must not double anything
-    QWidget *widget = part(dialog, control->name);
+    QWidget *widget = part(*dialog, control->name);
     QVERIFY(widget->isEnabled());
     const QString before = camera.get(control->feature);
     QCOMPARE(shown(widget), before);
-    QCOMPARE(camera.writes(), 0U);
+    QCOMPARE(camera.writes(), 0);
 
     edit(widget);
     const QString edited = camera.get(control->feature);
     QVERIFY(edited != before);
     QCOMPARE(shown(widget), edited);
-    QCOMPARE(camera.writes(), 1U);
+    QCOMPARE(camera.writes(), 1);
 
     camera.set(control->feature, before.toLatin1());
     QCOMPARE(shown(widget), before);
     QCOMPARE(camera.get(control->feature), before);
     QTest::qWait(5);
-    QCOMPARE(camera.writes(), 2U); // its own and none in answer
+    QCOMPARE(camera.writes(), 2); // its own and none in answer
 
     if (auto *combo = qobject_cast<QComboBox *>(widget)) {
         OrvGenParam::Enum *param = camera.device.array->GetEnum(control->feature);
@@ -267,37 +236,37 @@ void TestStrobeOutputColor::bothWays()
 void TestStrobeOutputColor::missingFeature()
 {
     QFETCH(const Control *, control);
-    PoorDevice camera(control->feature);
+    Camera camera(control->feature);
     ErrorBoxes boxes;
     const auto dialog = open(control->dialog, &camera.device);
     QVERIFY(dialog->isEnabled());
     for (const Control &other : controls) {
         if (other.dialog == control->dialog)
-            QVERIFY2(part(dialog, other.name)->isEnabled() == (&other != control), other.name);
+            QVERIFY2(part(*dialog, other.name)->isEnabled() == (&other != control), other.name);
     }
 
     if (control->dialog == Color) {
         const QByteArray feature(control->feature);
-        const auto isOther = [&](const char *name) { return feature != name; };
-        QCOMPARE(part(dialog, "pushBtnRedUnity")->isEnabled(), isOther("RedCoefficient"));
-        QCOMPARE(part(dialog, "grBoxStatistics")->isEnabled(), isOther("RedCoefficient"));
-        QCOMPARE(part(dialog, "pushBtnGreenUnity")->isEnabled(), isOther("GreenCoefficient"));
-        QCOMPARE(part(dialog, "pushBtnBlueUnity")->isEnabled(), isOther("BlueCoefficient"));
+        for (const char *color : {"Red", "Green", "Blue"}) {
+            const QByteArray unity = QByteArray("pushBtn") + color + "Unity";
+            QCOMPARE(part(*dialog, unity)->isEnabled(), !feature.startsWith(color));
+        }
+        QCOMPARE(part(*dialog, "grBoxStatistics")->isEnabled(), !feature.startsWith("Red"));
     }
 
-    // A camera that has it brings the control to life, and the poor one puts it down again.
-    PoorDevice complete;
-    dialog->SetDevice(&complete.device);
-    QVERIFY(part(dialog, control->name)->isEnabled());
-    dialog->SetDevice(&camera.device);
-    QVERIFY(!part(dialog, control->name)->isEnabled());
+    // A camera that has it brings the control to life, and one without puts it down again.
+    for (const bool isComplete : {true, false}) {
+        camera.device.part.missing = {isComplete ? QByteArray() : QByteArray(control->feature)};
+        dialog->SetDevice(&camera.device);
+        QCOMPARE(part(*dialog, control->name)->isEnabled(), isComplete);
+    }
     QCOMPARE(boxes.texts, QStringList());
 }
 
 void TestStrobeOutputColor::withoutCamera()
 {
-    SimulatedDevice camera;
-    for (Which which : {Strobe, Output, Color}) {
+    Camera camera;
+    for (Which which : all) {
         const auto dialog = open(which, nullptr);
         QVERIFY(!dialog->isEnabled());
         dialog->SetDevice(&camera.device);
@@ -307,16 +276,53 @@ void TestStrobeOutputColor::withoutCamera()
         QVERIFY(!dialog->isEnabled());
         camera.device.error = OrvCam::Success;
 
-        QSignalSpy closing(dialog.get(), &OrvCamConfigDialog::closing);
+        // The parameters cannot be had, and the device is gone.
+        OrvGenApi::MemoryNodeMap nothing;
+        NodeMapDevice gone(nothing);
+        dialog->SetDevice(&gone);
+        QVERIFY(dialog->isEnabled());
+        gone.Release();
+        dialog->SetDevice(&gone);
+        QVERIFY(!dialog->isEnabled());
+    }
+}
+
+void TestStrobeOutputColor::closing()
+{
+    Camera camera;
+    for (Which which : all) {
+        auto dialog = open(which, &camera.device);
+        QSignalSpy closings(dialog.get(), &OrvCamConfigDialog::closing);
+        int expected = 0;
+        for (bool escape : {false, true, false}) {
+            dialog->show();
+            if (escape)
+                QTest::keyClick(dialog.get(), Qt::Key_Escape);
+            else
+                dialog->close();
+            QVERIFY(!dialog->isVisible());
+            QCOMPARE(closings.size(), ++expected);
+        }
+        dialog->reject(); // is closed already
+        QCOMPARE(closings.size(), expected);
+
+        // The Return key is for the numbers; it neither closes the dialog nor presses a button.
+        dialog->show();
+        QTest::keyClick(dialog.get(), Qt::Key_Return);
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(camera.writes(), 0);
+
+        // A host may destroy it as soon as it hears.
+        connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
         dialog->close();
-        QCOMPARE(closing.count(), 1);
+        QVERIFY(!dialog);
     }
 }
 
 void TestStrobeOutputColor::lifetimes()
 {
-    SimulatedDevice camera;
-    for (Which which : {Strobe, Output, Color}) {
+    Camera camera;
+    for (Which which : all) {
         open(which, &camera.device).reset();
         camera.set("Strobe1Reference", "ReadoutStart");
         camera.set("ReverseX", "1");
@@ -325,25 +331,29 @@ void TestStrobeOutputColor::lifetimes()
         const auto dialog = open(which, &camera.device);
         const auto usable = [&] {
             return std::count_if(std::begin(controls), std::end(controls), [&](const Control &c) {
-                return c.dialog == which && part(dialog, c.name)->isEnabled();
+                return c.dialog == which && part(*dialog, c.name)->isEnabled();
             });
         };
-        const auto all = usable();
-        QVERIFY(all > 0);
+        const auto most = usable();
+        QVERIFY(most > 0);
         const QString red = which == Color ? textOf(dialog, "lblRedCoef") : QString();
         camera.device.Release();
         QCOMPARE(usable(), 0);
+        for (const Control &c : controls) {
+            if (c.dialog == which)
+                edit(part(*dialog, c.name));
+        }
         if (which == Color)
             QCOMPARE(textOf(dialog, "lblRedCoef"), red);
         camera.device.array = std::make_unique<OrvGenParam::NodeMapArray>(*camera.map);
         dialog->SetDevice(&camera.device);
-        QCOMPARE(usable(), all);
+        QCOMPARE(usable(), most);
     }
 }
 
 void TestStrobeOutputColor::tabOrder()
 {
-    SimulatedDevice camera;
+    Camera camera;
     for (Which which : {Strobe, Output, Color}) {
         QStringList expected;
         for (const Control &control : controls) {
@@ -351,7 +361,7 @@ void TestStrobeOutputColor::tabOrder()
                 expected << QLatin1String(control.name);
         }
         const auto dialog = open(which, &camera.device);
-        part(dialog, expected.first().toLatin1())->setFocus();
+        part(*dialog, expected.first().toLatin1())->setFocus();
         QStringList visited;
         for (int presses = 0; presses < 40; ++presses) {
             QWidget *widget = dialog->focusWidget();
@@ -369,139 +379,88 @@ void TestStrobeOutputColor::tabOrder()
     }
 }
 
-void TestStrobeOutputColor::strobeCaptions()
-{
-    SimulatedDevice camera;
-    const auto dialog = open(Strobe, &camera.device);
-    for (const char *strobe : {"spBoxStrobe1", "spBoxStrobe2"}) {
-        auto *delay = part<QtOrvSliderSpinBox>(dialog, QByteArray(strobe) + "Delay");
-        auto *width = part<QtOrvSliderSpinBox>(dialog, QByteArray(strobe) + "Width");
-        QCOMPARE(delay->leftLabelText(), QString::fromUtf16(u"Delay [\u03BCs]:"));
-        QCOMPARE(width->leftLabelText(), QString::fromUtf16(u"Width [\u03BCs]:"));
-        QCOMPARE(delay->slider()->x(), width->slider()->x());
-        QCOMPARE(delay->slider()->scaleType(), QtOrvSlider::ScaleLog10);
-        QCOMPARE(width->slider()->scaleType(), QtOrvSlider::ScaleLog10);
-    }
-}
-
 void TestStrobeOutputColor::strobePicture()
 {
-    {
-        SimulatedDevice camera;
-        const auto dialog = open(Strobe, &camera.device);
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-        QTest::keyClick(part(dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
-        QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
-        QTest::keyClick(part(dialog, "cmBoxStrobe2Ref"), Qt::Key_Up);
-        QCOMPARE(pictureOf(dialog), resource("strobe1Read_strobe2Exp"));
-        camera.set("Strobe1Reference", "ExposureStart");
-        QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
-        camera.set("Strobe2Reference", "ReadoutStart");
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    Camera camera;
+    auto dialog = open(Strobe, &camera.device);
+    QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    QTest::keyClick(part(*dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
+    QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
+    QTest::keyClick(part(*dialog, "cmBoxStrobe2Ref"), Qt::Key_Up);
+    QCOMPARE(pictureOf(dialog), resource("strobe1Read_strobe2Exp"));
+    camera.set("Strobe1Reference", "ExposureStart");
+    QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
+    camera.set("Strobe2Reference", "ReadoutStart");
+    QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
 
-        // A camera that lacks a reference leaves the picture as it is.
-        PoorDevice poor("Strobe2Reference");
-        dialog->SetDevice(&poor.device);
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-        poor.set("Strobe1Reference", "ReadoutStart");
-        QCOMPARE(part<QComboBox>(dialog, "cmBoxStrobe1Ref")->currentText(),
-                 QStringLiteral("ReadoutStart"));
-        QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
-    }
-    PoorDevice poor("Strobe1Reference");
-    const auto dialog = open(Strobe, &poor.device);
-    poor.set("Strobe2Reference", "ReadoutStart");
+    // A camera that lacks a reference leaves the picture as it is.
+    camera.device.part.missing = {"Strobe2Reference"};
+    dialog->SetDevice(&camera.device);
+    camera.set("Strobe1Reference", "ReadoutStart");
+    QCOMPARE(part<QComboBox>(*dialog, "cmBoxStrobe1Ref")->currentText(),
+             QStringLiteral("ReadoutStart"));
+    QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
+    camera.device.part.missing = {"Strobe1Reference"};
+    dialog = open(Strobe, &camera.device);
+    camera.set("Strobe2Reference", "ExposureStart");
+    camera.set("Strobe2Reference", "ReadoutStart");
     QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
 }
 
 void TestStrobeOutputColor::strobeDrag()
 {
-    SimulatedDevice camera;
+    Camera camera;
     const auto dialog = open(Strobe, &camera.device);
-    auto *delay = part<QtOrvSliderSpinBox>(dialog, "spBoxStrobe1Delay");
-    QSlider *slider = inner(delay);
-    press(slider);
-    for (int x = 10; x < slider->width(); x += 7)
-        moveTo(slider, QPoint(x, slider->height() / 2));
+    auto *delay = part<QtOrvSliderSpinBox>(*dialog, "spBoxStrobe1Delay");
+    QSlider *slider = delay->findChild<QSlider *>();
+    dragBy(slider, handleOf(slider), QPoint(7, 0), slider->width() / 7);
     QVERIFY(delay->value() > 100000);
     QCOMPARE(camera.get("Strobe1Delay"), QStringLiteral("100"));
     QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() - 2, 5));
     QCOMPARE(camera.get("Strobe1Delay"), QString::number(delay->value()));
-    QCOMPARE(camera.writes(), 1U);
+    QCOMPARE(camera.writes(), 1);
 
-    // Values between two positions of the scale are kept.
-    for (int value : {123457, 999999, 3, 0}) {
-        camera.set("Strobe1Delay", QByteArray::number(value));
-        QCOMPARE(delay->value(), value);
-        QCOMPARE(camera.get("Strobe1Delay"), QString::number(value));
-    }
-    QCOMPARE(camera.writes(), 5U);
+    camera.set("Strobe1Delay", "123457"); // is kept, between two positions of the scale
+    QCOMPARE(delay->value(), 123457);
+    QCOMPARE(camera.writes(), 2);
 }
 
 void TestStrobeOutputColor::outputDependencies()
 {
-    SimulatedDevice camera;
+    Camera camera;
     const auto dialog = open(Output, &camera.device);
     const auto canChoose = [&](const char *combo, const char *entry) {
-        auto *box = part<QComboBox>(dialog, combo);
+        auto *box = part<QComboBox>(*dialog, combo);
         auto *items = qobject_cast<QStandardItemModel *>(box->model());
         return items->item(box->findText(QLatin1String(entry)))->isEnabled();
     };
     QVERIFY(canChoose("cmBoxTaps", "Taps10"));
     QVERIFY(!canChoose("cmBoxPixelFormat", "BayerRG12"));
-    QTest::keyClick(part(dialog, "cmBoxDepth"), Qt::Key_Down);
+    QTest::keyClick(part(*dialog, "cmBoxDepth"), Qt::Key_Down);
     QCOMPARE(camera.get("SensorADCBitDepth"), QStringLiteral("Bit12"));
     QVERIFY(!canChoose("cmBoxTaps", "Taps10"));
     QVERIFY(canChoose("cmBoxPixelFormat", "BayerRG12"));
 
-    auto *threshold = part<QtOrvSpinBox>(dialog, "spBoxDpcDynThres");
-    QTest::keyClick(part(dialog, "cmBoxDpc"), Qt::Key_Home);
+    auto *threshold = part<QtOrvSpinBox>(*dialog, "spBoxDpcDynThres");
+    QTest::keyClick(part(*dialog, "cmBoxDpc"), Qt::Key_Home);
     QCOMPARE(camera.get("DefectPixelCorrection"), QStringLiteral("Off"));
     QVERIFY(!threshold->isEnabled());
-    QVERIFY(part(dialog, "spBoxHpcDynThres")->isEnabled());
+    QVERIFY(part(*dialog, "spBoxHpcDynThres")->isEnabled());
     camera.set("DefectPixelCorrection", "Dynamic");
     QVERIFY(threshold->isEnabled());
     QCOMPARE(threshold->value(), 256);
-    QCOMPARE(camera.writes(), 3U);
-}
-
-// They stand upright: as wide as the spin box is high, as high as it is wide without its caption.
-void TestStrobeOutputColor::popUpSliders()
-{
-    SimulatedDevice camera;
-    const auto check = [&](Which which, const QByteArray &name, const QString &caption) {
-        const auto dialog = open(which, &camera.device);
-        for (int width : {0, 500, 900}) { // first as it opens
-            if (width > 0) {
-                dialog->hide();
-                dialog->resize(width, dialog->height());
-                dialog->show();
-            }
-            auto *spinBox = part<QtOrvSpinBox>(dialog, name);
-            QCOMPARE(spinBox->leftLabelText(), caption);
-            const int label = spinBox->leftLabel() ? spinBox->leftLabel()->width() : 0;
-            QCOMPARE(label > 0, !caption.isEmpty());
-            const QSize size(spinBox->height(), spinBox->width() - label);
-            QCOMPARE(spinBox->slider()->size(), size);
-            QVERIFY(size.height() > size.width());
-        }
-    };
-    for (const char *name : {"spBoxDpcDynThres", "spBoxHpcDynThres"})
-        check(Output, name, QStringLiteral("Dyn.Thres.:"));
-    for (const char *name : {"spBoxRed", "spBoxGreen", "spBoxBlue"})
-        check(Color, name, QString());
+    QCOMPARE(camera.writes(), 3);
 }
 
 void TestStrobeOutputColor::unity()
 {
-    SimulatedDevice camera;
+    Camera camera;
     const auto dialog = open(Color, &camera.device);
     dialog->SetDevice(&camera.device);
-    quint64 writes = 0;
+    int writes = 0;
     for (const char *color : {"Red", "Green", "Blue"}) {
         const QByteArray feature = QByteArray(color) + "Coefficient";
-        auto *button = part<QPushButton>(dialog, "pushBtn" + QByteArray(color) + "Unity");
-        QVERIFY(button->width() < 2 * button->fontMetrics().boundingRect(button->text()).width());
+        auto *button = part<QPushButton>(*dialog, "pushBtn" + QByteArray(color) + "Unity");
         camera.set(feature, "1000");
         QCOMPARE(camera.writes(), ++writes);
         QTest::mouseClick(button, Qt::LeftButton);
@@ -515,22 +474,18 @@ void TestStrobeOutputColor::unity()
     // No button may take Return for its own.
     for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
         camera.set(feature, "1000");
-    type(part(dialog, "spBoxBlue"), 4095);
-    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_Return);
+    type(part(*dialog, "spBoxBlue"), QStringLiteral("4095"));
+    QTest::keyClick(part(*dialog, "cmBoxWhiteBalance"), Qt::Key_Return);
     for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
         QCOMPARE(camera.get(feature), QStringLiteral("1000"));
     QCOMPARE(camera.get("BlueCoefficient"), QStringLiteral("4095"));
-    auto *label = part<QLabel>(dialog, "lblBlueCoef");
-    QCOMPARE(label->text(), QStringLiteral("4095"));
-    QVERIFY(label->sizeHint().width() <= label->width());
-    QCOMPARE(label->minimumWidth(), label->maximumWidth());
-    QCOMPARE(part(dialog, "lblRedCoef")->width(), label->width());
+    QCOMPARE(textOf(dialog, "lblBlueCoef"), QStringLiteral("4095"));
     QVERIFY(dialog->isVisible());
 }
 
 void TestStrobeOutputColor::automaticWhiteBalance()
 {
-    SimulatedDevice camera;
+    Camera camera;
     const auto dialog = open(Color, &camera.device);
     const auto wait = [&](int seconds) {
         camera.camera.advance(seconds);
@@ -539,9 +494,9 @@ void TestStrobeOutputColor::automaticWhiteBalance()
     const auto follows = [&](const char *color) {
         const QString value = camera.get(QByteArray(color) + "Coefficient");
         return textOf(dialog, "lbl" + QByteArray(color) + "Coef") == value &&
-               shown(part(dialog, "spBox" + QByteArray(color))) == value;
+               shown(part(*dialog, "spBox" + QByteArray(color))) == value;
     };
-    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_End);
+    QTest::keyClick(part(*dialog, "cmBoxWhiteBalance"), Qt::Key_End);
     QCOMPARE(camera.get("BalanceWhiteAuto"), QStringLiteral("Continuous"));
 
     const QString red = camera.get("RedCoefficient");
@@ -553,41 +508,41 @@ void TestStrobeOutputColor::automaticWhiteBalance()
     }
     QVERIFY(camera.get("RedCoefficient") != red);
     QVERIFY(camera.get("BlueCoefficient") != blue);
-    QCOMPARE(camera.writes(), 1U);
+    QCOMPARE(camera.writes(), 1);
 
     // While the user holds a slider, what they hold stays; the statistics go on.
-    auto *spinBox = part<QtOrvSpinBox>(dialog, "spBoxRed");
+    auto *spinBox = part<QtOrvSpinBox>(*dialog, "spBoxRed");
     QTest::mouseClick(spinBox->toolButton(), Qt::LeftButton);
-    QSlider *slider = inner(spinBox->slider());
-    press(slider);
-    moveTo(slider, QPoint(slider->width() / 2, slider->height() / 2));
+    QSlider *slider = spinBox->slider()->slider();
+    const QPoint to(slider->width() / 2, slider->height() / 2);
+    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
     const int held = spinBox->value();
     QVERIFY(held > 1500);
     wait(1);
     QCOMPARE(spinBox->value(), held);
     QCOMPARE(textOf(dialog, "lblRedCoef"), camera.get("RedCoefficient"));
     QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
-    QTest::mouseRelease(slider, Qt::LeftButton, {},
-                        QPoint(slider->width() / 2, slider->height() / 2));
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, to);
     QCOMPARE(camera.get("RedCoefficient"), QString::number(held));
     QCOMPARE(textOf(dialog, "lblRedCoef"), QString::number(held));
-    QCOMPARE(camera.writes(), 2U);
+    QCOMPARE(camera.writes(), 2);
     wait(30);
     QVERIFY(follows("Red"));
     QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
 
     // Once: back to off by itself.
-    QTest::keyClick(part(dialog, "cmBoxWhiteBalance"), Qt::Key_Up);
+    QTest::keyClick(part(*dialog, "cmBoxWhiteBalance"), Qt::Key_Up);
     wait(20);
     wait(1);
-    QCOMPARE(part<QComboBox>(dialog, "cmBoxWhiteBalance")->currentText(), QStringLiteral("Off"));
-    QCOMPARE(camera.writes(), 3U);
+    QCOMPARE(part<QComboBox>(*dialog, "cmBoxWhiteBalance")->currentText(), QStringLiteral("Off"));
+    QCOMPARE(camera.writes(), 3);
 }
 
 void TestStrobeOutputColor::statisticsOfOtherCamera()
 {
-    SimulatedDevice first;
-    PoorDevice second;
+    Camera first;
+    const SimulatedCamera::Text text = SimulatedCamera::description();
+    DescribedDevice second(OrvAravis::NodeMap::fromText(text.data, text.size, "second"));
     second.set("RedCoefficient", "2222");
     const auto dialog = open(Color, &first.device);
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("320"));
@@ -596,15 +551,15 @@ void TestStrobeOutputColor::statisticsOfOtherCamera()
 
     first.set("RedCoefficient", "100");
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("2222"));
-    QCOMPARE(part<QtOrvSpinBox>(dialog, "spBoxRed")->value(), 2222);
-    QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
+    QCOMPARE(part<QtOrvSpinBox>(*dialog, "spBoxRed")->value(), 2222);
+    QTest::mouseClick(part(*dialog, "pushBtnRedUnity"), Qt::LeftButton);
     QCOMPARE(first.get("RedCoefficient"), QStringLiteral("100"));
     QCOMPARE(second.get("RedCoefficient"), QStringLiteral("256"));
 
     dialog->SetDevice(nullptr);
     second.set("RedCoefficient", "300");
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("256"));
-    QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
+    QTest::mouseClick(part(*dialog, "pushBtnRedUnity"), Qt::LeftButton);
     QCOMPARE(second.get("RedCoefficient"), QStringLiteral("300"));
 }
 
@@ -621,7 +576,7 @@ void TestStrobeOutputColor::coefficientBecomesUnavailable()
         QStringList names;
         for (const char *name : {"spBoxRed", "pushBtnRedUnity", "spBoxGreen", "pushBtnGreenUnity",
                                  "grBoxStatistics"}) {
-            if (part(dialog, name)->isEnabled())
+            if (part(*dialog, name)->isEnabled())
                 names << QLatin1String(name);
         }
         return names.join(QLatin1Char(' '));
@@ -639,17 +594,6 @@ void TestStrobeOutputColor::coefficientBecomesUnavailable()
     red.setAccessMode(GenApi::RW);
     green.setAccessMode(GenApi::RW);
     QCOMPARE(enabled(), all);
-
-    // A camera that refuses: one box, and what the camera says next counts.
-    ErrorBoxes boxes;
-    red.onWrite([] { throw GenICam::AccessException("no", __FILE__, __LINE__); });
-    QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
-    QCOMPARE(boxes.texts.size(), 1);
-    QVERIFY(boxes.texts.first().startsWith(
-        QStringLiteral("Error while setting the RedCoefficient integer value!\r\nError Code: ")));
-    QCOMPARE(part<QtOrvSpinBox>(dialog, "spBoxRed")->value(), 256);
-    QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("333"));
-    QCOMPARE(red.writes(), 1);
 }
 
 QTEST_MAIN(TestStrobeOutputColor)
