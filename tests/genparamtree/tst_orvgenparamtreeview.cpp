@@ -9,13 +9,9 @@
 #include <simulation/simulatedcamera.h>
 
 #include <QComboBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QSplitter>
 #include <QTextBrowser>
 #include <QtTest>
 
@@ -26,8 +22,6 @@
 #include <thread>
 
 using OrvGui::OrvGenParamTreeView;
-
-Q_DECLARE_METATYPE(Qt::Key)
 
 namespace {
 
@@ -49,6 +43,17 @@ struct CameraTree
     }
 };
 
+/// A shown tree of a node map in memory.
+struct MemoryTree
+{
+    MemoryTree() { driver.show(); }
+
+    SampleNodeMap map;
+    OrvGenParamTreeView view{&map, nullptr};
+    TreeDriver driver{view};
+    QTreeView &tree = *view.treeView();
+};
+
 /// Counts how often a widget is shown from now on.
 struct ShowCounter : QObject
 {
@@ -61,14 +66,34 @@ struct ShowCounter : QObject
     int count = 0;
 };
 
+struct TypingCase
+{
+    const char *feature = nullptr;
+    const char *keys = nullptr;
+    const char *shown = nullptr;
+    const char *written = nullptr; ///< as shown, unless given
+    const char *proof = nullptr;   ///< another feature that tells what was written
+};
+
+struct ChoosingCase
+{
+    const char *feature = nullptr;
+    Qt::Key key = Qt::Key_Down;
+    const char *before = nullptr;
+    const char *after = nullptr;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(TypingCase)
+Q_DECLARE_METATYPE(ChoosingCase)
 
 class TestOrvGenParamTreeView : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void form();
+    void withoutNodeMap();
     void levelsAndSpans();
     void description();
     void firstShow();
@@ -78,9 +103,7 @@ private slots:
     void choosing_data();
     void choosing();
     void listOpensOnce();
-    void executing();
     void escapeAndClickElsewhere();
-    void refusedWrite();
     void failingNode();
 
     void dragging();
@@ -88,7 +111,6 @@ private slots:
 
     void savedState();
     void restoredState();
-    void roundTrip();
     void oddStates();
 
     void takenAwayWhileEditing_data();
@@ -96,46 +118,20 @@ private slots:
     void takenAwayByItsOwnWrite_data();
     void takenAwayByItsOwnWrite();
     void changedOnAnotherThread();
-    void transactions();
     void readsOnlyWhatIsSeen();
     void levelOfALargeTree();
 };
 
-void TestOrvGenParamTreeView::form()
+void TestOrvGenParamTreeView::withoutNodeMap()
 {
     OrvGenParamTreeView view;
-    QCOMPARE(view.objectName(), QStringLiteral("GenParamTreeView"));
-    QCOMPARE(view.windowTitle(), QStringLiteral("GenParamTreeView"));
-    QCOMPARE(view.size(), QSize(564, 410));
     QCOMPARE(view.saveState(), "");
     view.loadState("&amp;W200&amp;V1");
     QCOMPARE(view.visibility(), OrvGui::Basic);
-
-    auto *tree = view.findChild<QTreeView *>(QStringLiteral("treeView"));
-    QCOMPARE(tree, view.treeView());
-    QVERIFY(!tree->model());
-    QVERIFY(tree->isHeaderHidden());
-    QVERIFY(tree->uniformRowHeights());
-    QVERIFY(tree->alternatingRowColors());
-    QCOMPARE(tree->editTriggers(),
-             QAbstractItemView::CurrentChanged | QAbstractItemView::DoubleClicked |
-                 QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
-    QVERIFY(tree->itemDelegateForColumn(1));
-    QVERIFY(!tree->itemDelegateForColumn(0));
-
-    auto *splitter = view.findChild<QSplitter *>();
-    QVERIFY(!splitter->childrenCollapsible());
-    QCOMPARE(splitter->orientation(), Qt::Vertical);
-    QCOMPARE(splitter->widget(0), tree);
-    QCOMPARE(splitter->widget(1)->objectName(), QStringLiteral("whatsThisLabel"));
-
-    auto *levels = view.findChild<QComboBox *>(QStringLiteral("cbVisibility"));
-    const QStringList names{QStringLiteral("Basic"), QStringLiteral("Expert"),
-                            QStringLiteral("Guru")};
-    for (int i = 0; i < names.size(); ++i)
-        QCOMPARE(levels->itemText(i), names.at(i));
-    QCOMPARE(view.findChild<QLabel *>(QStringLiteral("label"))->text(),
-             QStringLiteral("Visibility:"));
+    QVERIFY(!view.treeView()->model());
+    view.setParams(static_cast<GenApi::INodeMap *>(nullptr));
+    view.setParams(static_cast<OrvGenParam::Array *>(nullptr));
+    QVERIFY(!view.treeView()->model());
 }
 
 void TestOrvGenParamTreeView::levelsAndSpans()
@@ -152,7 +148,7 @@ void TestOrvGenParamTreeView::levelsAndSpans()
     QVERIFY(!driver.cell("FirmwareKey").isValid());
 
     // A level takes effect at once, and the model stays.
-    auto *levels = view.findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+    auto *levels = view.findChild<QComboBox *>("cbVisibility");
     levels->setCurrentIndex(2);
     QCOMPARE(view.visibility(), OrvGui::Guru);
     QVERIFY(driver.cell("FirmwareKey").isValid());
@@ -166,29 +162,24 @@ void TestOrvGenParamTreeView::levelsAndSpans()
     QVERIFY(tree->isFirstColumnSpanned(0, driver.cell("TransportLayerControl", 0)));
     view.clearParams();
     QVERIFY(!tree->model());
-    view.setParams(static_cast<GenApi::INodeMap *>(nullptr));
-    view.setParams(static_cast<OrvGenParam::Array *>(nullptr));
-    QVERIFY(!tree->model());
 }
 
 void TestOrvGenParamTreeView::description()
 {
-    SampleNodeMap map;
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    driver.show();
-    auto *panel = view.findChild<QTextBrowser *>(QStringLiteral("whatsThisLabel"));
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    auto *panel = shown.view.findChild<QTextBrowser *>("whatsThisLabel");
     QVERIFY(panel->toPlainText().isEmpty());
 
     driver.click("Width", 0);
     QCOMPARE(driver.tree().currentIndex(), driver.cell("Width", 0));
-    QVERIFY(panel->toPlainText().contains(QStringLiteral("Width of the image in pixels.")));
+    QVERIFY(panel->toPlainText().contains("Width of the image in pixels."));
     driver.click("DeviceControl", 0);
-    QVERIFY(panel->toPlainText().startsWith(QStringLiteral("Name: Device Control")));
+    QVERIFY(panel->toPlainText().startsWith("Name: Device Control"));
     driver.tree().setCurrentIndex(QModelIndex());
     QVERIFY(panel->toPlainText().isEmpty());
     driver.click("Width", 0);
-    view.clearParams();
+    shown.view.clearParams();
     QVERIFY(panel->toPlainText().isEmpty());
 }
 
@@ -218,126 +209,99 @@ void TestOrvGenParamTreeView::firstShow()
 
 void TestOrvGenParamTreeView::typing_data()
 {
-    QTest::addColumn<QString>("feature");
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<QString>("proof");
-    QTest::addColumn<QString>("written");
-
-    const auto row = [](const char *name, const char *feature, const char *keys, const char *shown,
-                        const char *written) {
-        QTest::newRow(name) << feature << keys << shown << feature << written;
-    };
-    row("integer", "PulseGenPeriod", "2500", "2500", "2500");
-    row("hexadecimal", "ServiceAddress", "c", "C", "0xC");
-    row("float", "Gamma", "1.25", "1.25", "1.25");
-    row("string", "DeviceUserDefinedName", "left camera", "left camera", "left camera");
-    row("address", "GevPersistentIPAddress", "10.1.2.3", "10.1.2.3", "10.1.2.3");
-    QTest::newRow("write only") << "ServiceKey"
-                                << "1"
-                                << "<Value not readable>"
-                                << "ServiceUnlocked"
-                                << "0";
+    QTest::addColumn<TypingCase>("row");
+    QTest::newRow("integer") << TypingCase{"PulseGenPeriod", "2500", "2500"};
+    QTest::newRow("hexadecimal") << TypingCase{"ServiceAddress", "c", "C", "0xC"};
+    QTest::newRow("float") << TypingCase{"Gamma", "1.25", "1.25"};
+    QTest::newRow("string") << TypingCase{"DeviceUserDefinedName", "left camera", "left camera"};
+    QTest::newRow("address") << TypingCase{"GevPersistentIPAddress", "10.1.2.3", "10.1.2.3"};
+    QTest::newRow("write only") << TypingCase{"ServiceKey", "1", "<Value not readable>", "0",
+                                              "ServiceUnlocked"};
 }
 
 void TestOrvGenParamTreeView::typing()
 {
-    QFETCH(QString, feature);
-    QFETCH(QString, keys);
-    QFETCH(QString, shown);
-    QFETCH(QString, proof);
-    QFETCH(QString, written);
-
+    QFETCH(TypingCase, row);
+    const QString written = row.written ? row.written : row.shown;
+    const QString proof = row.proof ? row.proof : row.feature;
     CameraTree tree;
     GenApi::CIntegerPtr(tree.nodeMap->GetNode("ServiceKey"))->SetValue(0x4F525601);
     tree.camera.advance(0);
     tree.driver.show();
-    const QByteArray name = feature.toLatin1();
     QVERIFY(tree.written(proof) != written);
-    tree.driver.click(name.constData());
+    tree.driver.click(row.feature);
     QVERIFY(tree.driver.isEditing());
     QCOMPARE(QApplication::focusWidget()->parentWidget(), tree.driver.tree().viewport());
-    tree.driver.type(keys);
+    tree.driver.type(row.keys);
     QVERIFY(tree.written(proof) != written);
     tree.driver.press(Qt::Key_Return);
     QTRY_VERIFY(!tree.driver.isEditing());
     tree.camera.advance(0);
     QCOMPARE(tree.written(proof), written);
-    QCOMPARE(tree.driver.text(name.constData()), shown);
+    QCOMPARE(tree.driver.text(row.feature), QString(row.shown));
 }
 
 void TestOrvGenParamTreeView::choosing_data()
 {
-    QTest::addColumn<QString>("feature");
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-
-    QTest::newRow("boolean") << "ReverseX" << Qt::Key_Up << "0"
-                             << "1";
-    QTest::newRow("enumeration") << "TriggerMode" << Qt::Key_Down << "Off"
-                                 << "On";
-    QTest::newRow("integer list") << "StreamBufferDepth" << Qt::Key_Down << "8"
-                                  << "16";
-    QTest::newRow("hexadecimal list") << "SensorClockDivider" << Qt::Key_Down << "0x20"
-                                      << "0x40";
+    QTest::addColumn<ChoosingCase>("row");
+    for (const ChoosingCase &row :
+         {ChoosingCase{"ReverseX", Qt::Key_Up, "0", "1"},
+          ChoosingCase{"TriggerMode", Qt::Key_Down, "Off", "On"},
+          ChoosingCase{"StreamBufferDepth", Qt::Key_Down, "8", "16"},
+          ChoosingCase{"SensorClockDivider", Qt::Key_Down, "0x20", "0x40"}})
+        QTest::newRow(row.feature) << row;
 }
 
 void TestOrvGenParamTreeView::choosing()
 {
-    QFETCH(QString, feature);
-    QFETCH(Qt::Key, key);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-
+    QFETCH(ChoosingCase, row);
+    const QString before = row.before;
     CameraTree tree;
     tree.driver.show();
-    const QByteArray name = feature.toLatin1();
-    QCOMPARE(tree.written(feature), before);
+    QCOMPARE(tree.written(row.feature), before);
 
     // With the keyboard: the list is open already.
-    tree.driver.click(name.constData());
+    tree.driver.click(row.feature);
     QVERIFY(tree.driver.editor<QComboBox>());
     QVERIFY(QApplication::activePopupWidget());
-    tree.driver.press(key);
-    QCOMPARE(tree.written(feature), before);
+    tree.driver.press(row.key);
+    QCOMPARE(tree.written(row.feature), before);
     tree.driver.press(Qt::Key_Return);
     QTRY_VERIFY(!tree.driver.isEditing());
     QVERIFY(!QApplication::activePopupWidget());
-    QCOMPARE(tree.written(feature), after);
+    QCOMPARE(tree.written(row.feature), QString(row.after));
 
     // And back with the mouse.
     tree.driver.tree().setCurrentIndex(QModelIndex());
-    tree.driver.click(name.constData());
+    tree.driver.click(row.feature);
     auto *comboBox = tree.driver.editor<QComboBox>();
     QVERIFY(comboBox);
     QAbstractItemView *list = comboBox->view();
     QTRY_VERIFY(list->window()->windowHandle()->isExposed());
-    const int row = comboBox->currentIndex() + (key == Qt::Key_Down ? -1 : 1);
-    const QRect entry = list->visualRect(list->model()->index(row, 0));
+    const int other = comboBox->currentIndex() + (row.key == Qt::Key_Down ? -1 : 1);
+    const QRect entry = list->visualRect(list->model()->index(other, 0));
     TreeDriver::click(*list->viewport(), entry.center());
     QTRY_VERIFY(!tree.driver.isEditing());
     QVERIFY(!QApplication::activePopupWidget());
-    QCOMPARE(tree.written(feature), before);
+    QCOMPARE(tree.written(row.feature), before);
 
     // Escape closes the list, then the editor; nothing is written.
     tree.driver.tree().setCurrentIndex(QModelIndex());
-    tree.driver.click(name.constData());
-    tree.driver.press(key);
+    tree.driver.click(row.feature);
+    tree.driver.press(row.key);
     tree.driver.press(Qt::Key_Escape);
     QVERIFY(!QApplication::activePopupWidget());
     tree.driver.press(Qt::Key_Escape);
     QTRY_VERIFY(!tree.driver.isEditing());
-    QCOMPARE(tree.written(feature), before);
+    QCOMPARE(tree.written(row.feature), before);
 }
 
 // Writing a choice, and a change by the camera, make the node report; the list must not flash.
 void TestOrvGenParamTreeView::listOpensOnce()
 {
-    SampleNodeMap map;
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    driver.show();
+    MemoryTree shown;
+    SampleNodeMap &map = shown.map;
+    TreeDriver &driver = shown.driver;
     for (const bool byCamera : {false, true}) {
         driver.tree().setCurrentIndex(QModelIndex());
         driver.click("PixelFormat");
@@ -353,30 +317,8 @@ void TestOrvGenParamTreeView::listOpensOnce()
         QVERIFY(!driver.isEditing());
         QVERIFY(!QApplication::activePopupWidget());
         QCOMPARE(counter.count, 0);
-        QCOMPARE(driver.text("PixelFormat"),
-                 byCamera ? QStringLiteral("Mono8") : QStringLiteral("Mono12"));
+        QCOMPARE(driver.text("PixelFormat"), byCamera ? QString("Mono8") : QString("Mono12"));
     }
-}
-
-void TestOrvGenParamTreeView::executing()
-{
-    CameraTree tree;
-    tree.driver.show();
-    GenApi::CIntegerPtr timestamp(tree.other->GetNode("TimestampLatchValue"));
-    const int64_t before = timestamp->GetValue();
-    tree.camera.advance(1);
-
-    tree.driver.click("TimestampLatch");
-    auto *button = tree.driver.editor<QPushButton>();
-    QVERIFY(button);
-    QCOMPARE(button->text(), QStringLiteral("Execute"));
-    QCOMPARE(timestamp->GetValue(false, true), before);
-    TreeDriver::click(*button, button->rect().center());
-    tree.camera.advance(0);
-    QVERIFY(timestamp->GetValue(false, true) > before);
-    QVERIFY(tree.driver.isEditing());
-    TreeDriver::click(*tree.driver.tree().viewport(), QPoint(20, 2));
-    QTRY_VERIFY(!tree.driver.isEditing());
 }
 
 void TestOrvGenParamTreeView::escapeAndClickElsewhere()
@@ -388,7 +330,7 @@ void TestOrvGenParamTreeView::escapeAndClickElsewhere()
     driver.show();
 
     driver.click("Width");
-    driver.type(QStringLiteral("640"));
+    driver.type("640");
     driver.press(Qt::Key_Escape);
     QTRY_VERIFY(!driver.isEditing());
     QCOMPARE(width.writes(), 0);
@@ -419,60 +361,25 @@ void TestOrvGenParamTreeView::escapeAndClickElsewhere()
     QCOMPARE(width.GetValue(), int64_t(320));
 }
 
-void TestOrvGenParamTreeView::refusedWrite()
-{
-    SampleNodeMap map;
-    map.integer("Width").onWrite(
-        [] { throw GenICam::AccessException("locked by another program", __FILE__, __LINE__); });
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    driver.show();
-    driver.click("Width");
-    driver.type(QStringLiteral("640"));
-    driver.press(Qt::Key_Return);
-    QTRY_VERIFY(!driver.isEditing());
-    QCOMPARE(map.integer("Width").writes(), 1);
-    QCOMPARE(driver.text("Width"), QStringLiteral("1280"));
-
-    // The increment of the node, not that of the spin box, has the last word.
-    map.integer("Width").onWrite({});
-    driver.tree().setCurrentIndex(QModelIndex());
-    driver.click("Width");
-    driver.type(QStringLiteral("641"));
-    driver.press(Qt::Key_Return);
-    QTRY_VERIFY(!driver.isEditing());
-    QCOMPARE(driver.text("Width"), QStringLiteral("1280"));
-}
-
 // A node that fails gets no editor, and nothing worse happens.
 void TestOrvGenParamTreeView::failingNode()
 {
     SampleNodeMap map;
-    const auto fail = [] { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); };
     OrvGenParamTreeView view(&map, nullptr);
     TreeDriver driver(view);
     driver.show();
-    map.integer("Width").bindMax([fail]() -> int64_t {
-        fail();
-        return 0;
-    });
+    map.integer("Width").bindMax(
+        []() -> int64_t { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); });
     map.integer("Width").changed();
     driver.click("Width");
     QVERIFY(!driver.isEditing());
-    map.number("ExposureTime").onRead(fail);
-    map.number("ExposureTime").changed();
-    driver.click("ExposureTime");
-    QVERIFY(driver.isEditing());
-    QCOMPARE(driver.text("ExposureTime"), QString());
 }
 
 void TestOrvGenParamTreeView::dragging()
 {
-    SampleNodeMap map;
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    driver.show();
-    QTreeView &tree = driver.tree();
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    QTreeView &tree = shown.tree;
     const auto dragBorder = [&](int y, int by) {
         const QPoint from(tree.columnWidth(0) - 1, y);
         driver.drag(from, from + QPoint(by, 0));
@@ -500,11 +407,9 @@ void TestOrvGenParamTreeView::dragging()
 
 void TestOrvGenParamTreeView::draggingLimits()
 {
-    SampleNodeMap map;
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    driver.show();
-    QTreeView &tree = driver.tree();
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    QTreeView &tree = shown.tree;
     auto &resizer = *tree.findChild<TreeViewResizer *>();
     const QRect rect = tree.visualRect(driver.cell("ExposureTime", 0));
     const QPoint border(rect.right(), rect.center().y() + 4);
@@ -513,28 +418,12 @@ void TestOrvGenParamTreeView::draggingLimits()
     for (const int distance : {-5, 5})
         QVERIFY(!resizer.ifResizable(border + QPoint(distance, 0)).isValid());
 
-    QWindow *window = view.windowHandle();
-    QTest::mouseMove(window, tree.viewport()->mapTo(&view, border));
+    QWindow *window = shown.view.windowHandle();
+    const auto inWindow = [&](const QPoint &at) { return tree.viewport()->mapTo(&shown.view, at); };
+    QTest::mouseMove(window, inWindow(border));
     QTRY_COMPARE(tree.viewport()->cursor().shape(), Qt::SplitHCursor);
-    QTest::mouseMove(window, tree.viewport()->mapTo(&view, border - QPoint(30, 0)));
+    QTest::mouseMove(window, inWindow(border - QPoint(30, 0)));
     QTRY_COMPARE(tree.viewport()->cursor().shape(), Qt::ArrowCursor);
-
-    // Only the left button ends what it has begun.
-    const int width = tree.columnWidth(0);
-    const QPoint start = tree.viewport()->mapTo(&view, border);
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
-    QTest::mousePress(window, Qt::RightButton, Qt::NoModifier, start);
-    QTest::mouseRelease(window, Qt::RightButton, Qt::NoModifier, start);
-    QTest::mouseMove(window, start + QPoint(15, 0));
-    QCoreApplication::processEvents();
-    QCOMPARE(tree.columnWidth(0), width + 15);
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(15, 0));
-    QTest::mouseMove(window, start + QPoint(40, 0));
-    QCoreApplication::processEvents();
-    QCOMPARE(tree.columnWidth(0), width + 15);
-
-    tree.header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    QVERIFY(!resizer.ifResizable(QPoint(tree.columnWidth(0) - 1, border.y())).isValid());
 }
 
 void TestOrvGenParamTreeView::savedState()
@@ -593,27 +482,13 @@ void TestOrvGenParamTreeView::restoredState()
     view.loadState(nullptr);
     view.loadState("");
     QVERIFY(expanded("GigEVision"));
-}
 
-void TestOrvGenParamTreeView::roundTrip()
-{
-    SampleNodeMap map;
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    view.setVisibility(OrvGui::Guru);
-    view.treeView()->expand(driver.cell("TransportLayerControl", 0));
-    view.treeView()->expand(driver.cell("GigEVision", 0));
-    view.treeView()->setColumnWidth(0, 173);
     const QByteArray state(view.saveState());
-
     view.loadState("&amp;W90");
     QVERIFY(QByteArray(view.saveState()) != state);
-    view.loadState(state.constData());
-    QCOMPARE(QByteArray(view.saveState()), state);
-    view.loadState(view.saveState()); // its own buffer
-    QCOMPARE(QByteArray(view.saveState()), state);
     view.setParams(&map);
     view.loadState(state.constData());
+    view.loadState(view.saveState()); // its own buffer
     QCOMPARE(QByteArray(view.saveState()), state);
 }
 
@@ -651,9 +526,7 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
     for (const char *feature : {"Width", "Gain", "PixelFormat", "DeviceUserID", "DeviceReset",
                                 "GevPersistentIPAddress"}) {
         for (const char *how : {"replace", "clear", "delete"})
-            QTest::newRow(
-                qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(feature), QLatin1String(how))))
-                << feature << how;
+            QTest::addRow("%s %s", feature, how) << feature << how;
     }
 }
 
@@ -691,7 +564,7 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing()
     if (view && view->treeView()->model()) {
         driver.show();
         driver.click("Width");
-        driver.type(QStringLiteral("640"));
+        driver.type("640");
         driver.press(Qt::Key_Return);
         QTRY_COMPARE(next.integer("Width").GetValue(), int64_t(640));
     }
@@ -730,77 +603,29 @@ void TestOrvGenParamTreeView::takenAwayByItsOwnWrite()
     QVERIFY(!QApplication::activePopupWidget());
     GenApi::Deregister(handle);
     map.integer("Width").change(16);
-    QVERIFY(driver.text("Width") != QStringLiteral("16"));
+    QVERIFY(driver.text("Width") != QString("16"));
 }
 
 void TestOrvGenParamTreeView::changedOnAnotherThread()
 {
-    SampleNodeMap map;
-    OrvGenParamTreeView view(&map, nullptr);
-    TreeDriver driver(view);
-    driver.show();
+    MemoryTree shown;
+    SampleNodeMap &map = shown.map;
+    TreeDriver &driver = shown.driver;
     QSignalSpy changes(driver.tree().model(), &QAbstractItemModel::dataChanged);
     std::thread([&map] { map.integer("Width").change(320); }).join();
     QTRY_COMPARE(changes.count(), 1);
     QCOMPARE(changes.first().first().toModelIndex(), driver.cell("Width"));
-    QCOMPARE(driver.text("Width"), QStringLiteral("320"));
+    QCOMPARE(driver.text("Width"), QString("320"));
 
     // Changes that are still on their way when the tree goes are forgotten.
     std::thread([&map] { map.integer("Width").change(640); }).join();
-    view.clearParams();
+    shown.view.clearParams();
     QCoreApplication::processEvents();
     QCOMPARE(changes.count(), 1);
 }
 
-// What costs the user's time is what is asked of the camera.
-void TestOrvGenParamTreeView::transactions()
-{
-    CameraTree tree;
-    tree.view.setVisibility(OrvGui::Guru);
-    tree.view.resize(700, 500);
-    const auto reads = [&tree] { return tree.nodeMap->transactions().reads; };
-    const auto settle = [] { QTest::qWait(50); };
-
-    QCOMPARE(reads(), uint64_t(0));
-    tree.driver.show();
-    settle();
-    const uint64_t shown = reads();
-    QVERIFY(shown > 0);
-
-    // Rows that were never on screen have not been read.
-    uint64_t hidden = 0;
-    for (const char *feature : {"GevPersistentIPAddress", "ServiceKey", "UserSetDescription"}) {
-        const GenApi::CValuePtr value(tree.nodeMap->GetNode(feature));
-        hidden += value->IsValueCacheValid() ? 0 : 1;
-    }
-    QCOMPARE(hidden, uint64_t(3));
-
-    QTreeView &view = tree.driver.tree();
-    view.viewport()->repaint();
-    tree.view.resize(720, 500);
-    settle();
-    for (int y = 5; y < view.viewport()->height(); y += 15)
-        QTest::mouseMove(tree.view.windowHandle(),
-                         view.viewport()->mapTo(&tree.view, QPoint(300, y)));
-    settle();
-    QCOMPARE(reads(), shown);
-
-    // Scrolling reads what comes into view, once.
-    const auto scroll = [&](int to) {
-        view.verticalScrollBar()->setValue(to);
-        settle();
-    };
-    const int end = view.verticalScrollBar()->maximum();
-    for (int i = 0; i <= 8; ++i)
-        scroll(end * i / 8);
-    const uint64_t scrolled = reads();
-    QVERIFY(scrolled > shown);
-    for (int i = 8; i >= 0; --i)
-        scroll(end * i / 8);
-    QCOMPARE(reads(), scrolled);
-}
-
-// Feature by feature: a row that was on screen has been read, any other has not.
+// What costs the user's time is what is asked of the camera: a row that was on screen has been
+// read, any other has not.
 void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
 {
     OrvGenApi::MemoryNodeMap map("Many");
@@ -810,6 +635,7 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
         features.push_back(&map.addInteger("Feature" + std::to_string(i), i, "All"));
     OrvGenParamTreeView view(&map, nullptr);
     TreeDriver driver(view);
+    QCOMPARE(features.front()->reads(), 0);
     driver.show();
     QTRY_VERIFY(features.front()->reads() > 0);
     QTest::qWait(50);
@@ -819,12 +645,10 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
         const QModelIndex cell = driver.cell(features[i]->GetName().c_str());
         return tree.viewport()->rect().intersects(tree.visualRect(cell));
     };
-    std::vector<int> reads;
-    size_t seen = 0;
+    int seen = 0;
     for (size_t i = 0; i < features.size(); ++i) {
-        reads.push_back(features[i]->reads());
-        QCOMPARE(reads.back() > 0, isOnScreen(i));
-        seen += isOnScreen(i) ? 1 : 0;
+        QCOMPARE(features[i]->reads(), isOnScreen(i) ? 1 : 0);
+        seen += features[i]->reads();
     }
     QVERIFY(seen > 10 && seen < 100);
 
@@ -832,8 +656,6 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
         return std::accumulate(features.begin(), features.end(), 0,
                                [](int sum, const auto *feature) { return sum + feature->reads(); });
     };
-    const int before = total();
-    QCOMPARE(before, static_cast<int>(seen));
     view.hide();
     view.show();
     QVERIFY(QTest::qWaitForWindowActive(&view));
@@ -842,7 +664,15 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
     view.resize(800, 600);
     tree.viewport()->repaint();
     QTest::qWait(50);
-    QCOMPARE(total(), before);
+    QCOMPARE(total(), seen);
+
+    // Scrolling reads what comes into view, once.
+    QScrollBar &bar = *tree.verticalScrollBar();
+    for (int i = -40; i <= 40; ++i) {
+        bar.setValue(bar.maximum() * qAbs(i) / 40);
+        tree.viewport()->repaint();
+    }
+    QCOMPARE(total(), int(features.size()));
 }
 
 // What a change of the level costs must not be the product of the rows that go and those that are

@@ -87,14 +87,15 @@ public:
         return found;
     }
 
-    /// A window on the screen with that title, or 0.
-    xcb_window_t find(const QByteArray &wanted) const
+    /// The window that this one is to stay above.
+    xcb_window_t ownerOf(xcb_window_t window) const
     {
-        for (const xcb_window_t window : children(screen().root)) {
-            if (title(window) == wanted)
-                return window;
-        }
-        return 0;
+        const auto reply = owned(xcb_get_property_reply(m_connection,
+                                                        xcb_get_property(m_connection, 0, window,
+                                                                         XCB_ATOM_WM_TRANSIENT_FOR,
+                                                                         XCB_ATOM_WINDOW, 0, 1),
+                                                        nullptr));
+        return reply ? *static_cast<xcb_window_t *>(xcb_get_property_value(reply.get())) : 0;
     }
 
     QByteArray title(xcb_window_t window) const

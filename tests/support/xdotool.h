@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProcess>
+#include <QWidget>
+#include <QtTest>
+
+// A user at the keyboard and the mouse of the X server.
+
+inline void xdotool(const QStringList &arguments)
+{
+    QProcess process;
+    process.start("xdotool", arguments);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QCoreApplication::processEvents();
+}
+
+/// The keys have reached the X server, not yet the program.
+inline void press(const QStringList &keys)
+{
+    xdotool(QStringList{"key", "--delay", "0"} + keys);
+}
+
+/// Moves the pointer there and does something.
+inline void point(const QWidget *widget, const QPoint &place, const QStringList &actions = {})
+{
+    const QPoint global = widget->mapToGlobal(place);
+    xdotool(QStringList{"mousemove", QString::number(global.x()), QString::number(global.y())} +
+            actions);
+}
