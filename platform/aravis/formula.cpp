@@ -112,13 +112,101 @@ Number numberOf(Node &node, const std::string &which)
                                     __FILE__, __LINE__);
 }
 
+/// What a formula nests deeper is left to Aravis as a whole.
+const int MaximumDepth = 64;
+
+/// The text without the white space and the parentheses around it.
+std::string stripped(std::string text)
+{
+    const char *space = " \t\r\n";
+    for (int pair = 0; pair < MaximumDepth; ++pair) {
+        const auto first = text.find_first_not_of(space);
+        if (first == std::string::npos)
+            return {};
+        text = text.substr(first, text.find_last_not_of(space) - first + 1);
+        if (text.front() != '(')
+            return text;
+        int depth = 0;
+        std::size_t end = 0;
+        for (; end < text.size(); ++end) {
+            depth += (text[end] == '(') - (text[end] == ')');
+            if (depth == 0)
+                break;
+        }
+        if (end + 1 != text.size())
+            return text;
+        text = text.substr(1, text.size() - 2);
+    }
+    return text;
+}
+
+/// The places of the question mark and the colon of a text that is "condition ? value : other" as
+/// a whole; both `npos` when it is something else.
+std::pair<std::size_t, std::size_t> findChoice(const std::string &text)
+{
+    const auto none = std::make_pair(std::string::npos, std::string::npos);
+    auto question = std::string::npos;
+    int depth = 0;
+    int open = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        depth += (text[i] == '(') - (text[i] == ')');
+        if (depth != 0)
+            continue;
+        if (text[i] == '?') {
+            if (open++ == 0 && question == std::string::npos)
+                question = i;
+        } else if (text[i] == ':' && --open <= 0) {
+            return open == 0 ? std::make_pair(question, i) : none;
+        }
+    }
+    return none;
+}
+
 } // namespace
+
+/// A formula, or a choice between two. Aravis computes both sides of a choice and fails when it
+/// divides by zero in the one that is not taken, which is just what a description's
+/// "(X = 0) ? 0 : (1 / X)" guards against.
+struct Formula::Term
+{
+    ArvEvaluator *evaluator; ///< of the condition when there is a choice
+    std::unique_ptr<Term> yes;
+    std::unique_ptr<Term> no;
+
+    explicit Term(ArvEvaluator *newEvaluator) : evaluator(newEvaluator) {}
+    ~Term() { g_object_unref(evaluator); }
+    Term(const Term &) = delete;
+    Term &operator=(const Term &) = delete;
+
+    template<typename Function>
+    void forEach(const Function &function)
+    {
+        function(evaluator);
+        if (yes) {
+            yes->forEach(function);
+            no->forEach(function);
+        }
+    }
+};
+
+std::unique_ptr<Formula::Term> Formula::newTerm(const DescriptionNode &node,
+                                                const std::string &text, int maximumDepth)
+{
+    const std::string inner = maximumDepth > 0 ? stripped(text) : text;
+    const auto [question, colon] = findChoice(inner);
+    if (maximumDepth == 0 || question == std::string::npos)
+        return std::make_unique<Term>(newEvaluator(node, inner));
+    auto term = std::make_unique<Term>(newEvaluator(node, inner.substr(0, question)));
+    term->yes = newTerm(node, inner.substr(question + 1, colon - question - 1), maximumDepth - 1);
+    term->no = newTerm(node, inner.substr(colon + 1), maximumDepth - 1);
+    return term;
+}
 
 Formula::Formula(const DescriptionNode &node, const std::string &text)
     : m_owner(node.name)
     , m_usesFunctions(callsFunction(text))
     , m_divides(divides(node, text))
-    , m_evaluator(newEvaluator(node, text))
+    , m_term(newTerm(node, text, m_divides ? MaximumDepth : 0))
 {
     for (const DescriptionProperty &property : node.properties)
         m_usesFunctions =
@@ -141,10 +229,7 @@ bool Formula::isWellFormed(const DescriptionNode &node, const std::string &text,
     return wellFormed;
 }
 
-Formula::~Formula()
-{
-    g_object_unref(m_evaluator);
-}
+Formula::~Formula() = default;
 
 void Formula::addVariable(const std::string &name, Node &node)
 {
@@ -157,7 +242,16 @@ void Formula::setInteger(const std::string &name, int64_t value)
     // program. It is the lower limit of everything that states none.
     if (m_divides && value == INT64_MIN)
         ++value;
-    arv_evaluator_set_int64_variable(m_evaluator, name.c_str(), value);
+    m_term->forEach([&](ArvEvaluator *evaluator) {
+        arv_evaluator_set_int64_variable(evaluator, name.c_str(), value);
+    });
+}
+
+void Formula::setReal(const std::string &name, double value)
+{
+    m_term->forEach([&](ArvEvaluator *evaluator) {
+        arv_evaluator_set_double_variable(evaluator, name.c_str(), value);
+    });
 }
 
 void Formula::setVariable(const std::string &name, Node &node)
@@ -166,7 +260,7 @@ void Formula::setVariable(const std::string &name, Node &node)
     const Number number =
         numberOf(node, point == std::string::npos ? std::string() : name.substr(point + 1));
     if (number.isReal)
-        arv_evaluator_set_double_variable(m_evaluator, name.c_str(), number.real);
+        setReal(name, number.real);
     else
         setInteger(name, number.integer);
 }
@@ -177,31 +271,42 @@ void Formula::setVariables()
         setVariable(name, *node);
 }
 
+int64_t Formula::evaluateInteger(const Term &term)
+{
+    GError *error = nullptr;
+    const int64_t value = m_usesFunctions
+                              ? toInteger(arv_evaluator_evaluate_as_double(term.evaluator, &error))
+                              : arv_evaluator_evaluate_as_int64(term.evaluator, &error);
+    throwIfFailed(error, m_owner);
+    if (!term.yes)
+        return value;
+    return evaluateInteger(value != 0 ? *term.yes : *term.no);
+}
+
+double Formula::evaluateReal(const Term &term)
+{
+    GError *error = nullptr;
+    const double value = arv_evaluator_evaluate_as_double(term.evaluator, &error);
+    throwIfFailed(error, m_owner);
+    if (!term.yes)
+        return value;
+    return evaluateReal(value != 0 ? *term.yes : *term.no);
+}
+
 int64_t Formula::integer(const std::string &inputName, int64_t input)
 {
     setVariables();
     if (!inputName.empty())
         setInteger(inputName, input);
-    GError *error = nullptr;
-    if (m_usesFunctions) {
-        const double value = arv_evaluator_evaluate_as_double(m_evaluator, &error);
-        throwIfFailed(error, m_owner);
-        return toInteger(value);
-    }
-    const int64_t value = arv_evaluator_evaluate_as_int64(m_evaluator, &error);
-    throwIfFailed(error, m_owner);
-    return value;
+    return evaluateInteger(*m_term);
 }
 
 double Formula::real(const std::string &inputName, double input)
 {
     setVariables();
     if (!inputName.empty())
-        arv_evaluator_set_double_variable(m_evaluator, inputName.c_str(), input);
-    GError *error = nullptr;
-    const double value = arv_evaluator_evaluate_as_double(m_evaluator, &error);
-    throwIfFailed(error, m_owner);
-    return value;
+        setReal(inputName, input);
+    return evaluateReal(*m_term);
 }
 
 } // namespace OrvAravis

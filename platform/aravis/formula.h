@@ -3,11 +3,10 @@
 
 #include <genapi/nodes/node.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
-
-typedef struct _ArvEvaluator ArvEvaluator;
 
 namespace OrvAravis {
 
@@ -39,14 +38,21 @@ public:
     double real(const std::string &inputName = {}, double input = 0);
 
 private:
+    struct Term;
+
+    static std::unique_ptr<Term> newTerm(const DescriptionNode &node, const std::string &text,
+                                         int maximumDepth);
+    int64_t evaluateInteger(const Term &term);
+    double evaluateReal(const Term &term);
     void setVariables();
     void setInteger(const std::string &name, int64_t value);
+    void setReal(const std::string &name, double value);
     void setVariable(const std::string &name, OrvGenApi::Node &node);
 
     std::string m_owner;
     bool m_usesFunctions = false; ///< such as ROUND, which exist for floating-point numbers only
     bool m_divides;
-    ArvEvaluator *m_evaluator;
+    std::unique_ptr<Term> m_term;
     std::vector<std::pair<std::string, OrvGenApi::Node *>> m_variables;
 };
 

@@ -581,9 +581,9 @@ void TestStrobeOutputColor::coefficientBecomesUnavailable()
         }
         return names.join(QLatin1Char(' '));
     };
-    const QString all =
+    const QString everything =
         QStringLiteral("spBoxRed pushBtnRedUnity spBoxGreen pushBtnGreenUnity grBoxStatistics");
-    QCOMPARE(enabled(), all);
+    QCOMPARE(enabled(), everything);
     green.setAccessMode(GenApi::NA);
     QCOMPARE(enabled(), QStringLiteral("spBoxRed pushBtnRedUnity grBoxStatistics"));
     QCOMPARE(textOf(dialog, "lblGreenCoef"), QStringLiteral("310"));
@@ -593,7 +593,7 @@ void TestStrobeOutputColor::coefficientBecomesUnavailable()
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("333"));
     red.setAccessMode(GenApi::RW);
     green.setAccessMode(GenApi::RW);
-    QCOMPARE(enabled(), all);
+    QCOMPARE(enabled(), everything);
 }
 
 QTEST_MAIN(TestStrobeOutputColor)
