@@ -17,6 +17,9 @@ namespace OrvGui {
 ///
 /// Returns the camera, which belongs to the system and is not opened yet, or null when the user
 /// cancels.
+///
+/// To be called on the GUI thread: that of the application or, without one, the thread that makes
+/// all calls. Blocks until the user has decided, with an event loop of its own.
 ORVCAMERAGUIAPI_EXPORT OrvCam::DeviceInfo *
 SelectCamera(OrvCam::System *system, const QString &title, unsigned long parentWindow);
 

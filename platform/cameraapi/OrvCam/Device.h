@@ -16,7 +16,8 @@ class DeviceInfo;
 /// run on a thread of the library: do no more than note the event.
 using DeviceEventCallback = void (*)(int32_t eventCode, void *context);
 
-/// An opened camera. Belongs to whoever created it with `OrvCam_CreateDevice`.
+/// An opened camera. Belongs to whoever created it with `OrvCam_CreateDevice`. Everything but
+/// `Release` may be called on any thread.
 class ORVCAMERAAPI_EXPORT Device
 {
 public:
@@ -42,6 +43,8 @@ public:
 
     /// Closes the camera and destroys the device. Event sinks of its parameters are notified once
     /// more, with parameters that are not available; after that nothing of the device may be used.
+    /// To be called on the thread that opened the device, and neither from a `DeviceEventCallback`
+    /// nor from a notification of one of its parameters.
     virtual void Release() = 0;
 
 protected:

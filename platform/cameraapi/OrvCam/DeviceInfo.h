@@ -11,13 +11,14 @@ class Interface;
 
 /// What discovery found out about one camera. Belongs to the system and stays valid as long as it,
 /// also when the camera disappears. Texts are UTF-8, null where the camera says nothing, and stay
-/// valid until the interface's next `RefreshDevices`.
+/// valid until the interface's next `RefreshDevices`. To be called on the one thread that uses the
+/// system.
 class ORVCAMERAAPI_EXPORT DeviceInfo
 {
 public:
     virtual ~DeviceInfo() = default;
 
-    /// The name to show a user.
+    /// The name to show a user. Never null.
     virtual const char *GetDisplayName() const = 0;
     virtual const char *GetVendor() const = 0;
     virtual const char *GetModel() const = 0;
@@ -34,6 +35,7 @@ public:
     virtual Interface *GetInterface() const = 0;
 
     /// Names the camera among all cameras of the system: MAC address or vendor and serial number.
+    /// Never null.
     virtual const char *GetId() const = 0;
 };
 

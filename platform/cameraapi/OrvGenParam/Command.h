@@ -9,9 +9,12 @@ namespace OrvGenParam {
 class ORVCAMERAAPI_EXPORT Command : public Param
 {
 public:
+    /// Blocks until the camera has taken the command, not until it has carried it out, which
+    /// `IsDone` tells. Only "GevDeviceForceIP" of an interface waits for the outcome, for at most
+    /// five seconds.
     virtual int32_t Execute() = 0;
 
-    /// True when the last execution is finished; asks the camera.
+    /// True when the last execution is finished; asks the camera. False when that fails.
     virtual bool IsDone(int32_t *error = nullptr) const = 0;
 };
 

@@ -16,6 +16,8 @@ public:
 
     /// 1 when every value within the limits is valid.
     virtual int64_t GetInc(int32_t *error = nullptr) const = 0;
+
+    /// Empty for a number without a unit.
     virtual const char *GetUnit() const = 0;
 };
 

@@ -19,16 +19,27 @@ enum ParamType : int32_t {
     ParamString
 };
 
-/// A feature of a camera or of an interface. Belongs to its `Array`. Texts are UTF-8 and belong to
-/// the parameter. Nothing here throws: what fails answers an `OrvCam::ErrorCode`.
+/// A feature of a camera or of an interface. Belongs to its `Array`. Texts are UTF-8, never null,
+/// and belong to the parameter: unless they are said to change, they stay as they are as long as
+/// it. Nothing here throws: what fails answers an `OrvCam::ErrorCode`.
+///
+/// What is not yet known is asked for at the camera, and what is set is sent there; such a call
+/// blocks until the camera has answered. A camera's parameters may be called on any thread, where a
+/// call waits for those of other threads at the same camera; an operation whose text changes with
+/// the next call is for one thread at a time. An interface's parameters are for the one thread that
+/// uses the system.
 class ORVCAMERAAPI_EXPORT Param
 {
 public:
     virtual ~Param() = default;
 
-    /// The feature's name; never null, valid as long as the parameter.
+    /// The feature's name.
     virtual const char *GetName() const = 0;
+
+    /// The name to show a user; the feature's name when the description gives none.
     virtual const char *GetDisplayName() const = 0;
+
+    /// What the feature means; its tool tip when there is nothing longer, empty without either.
     virtual const char *GetDescription() const = 0;
     virtual ParamType GetType() const = 0;
 
