@@ -29,10 +29,12 @@ function(orv_add_genapi_headers)
     endif()
 endfunction()
 
-# orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] SOURCES file... [LIBRARIES target...])
+# orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] [TIMEOUT seconds] SOURCES file...
+#              [LIBRARIES target...])
 # A QtTest program, run offscreen; with XVFB under a virtual X server, with NETNS in a network
 # namespace of its own. STARTS_PROGRAMS (implied by NETNS) says that it starts others, which can't
-# be done in the emulator that runs the tests of another processor.
+# be done in the emulator that runs the tests of another processor. It fails after TIMEOUT, 120
+# unless given; the emulator is given ten times as long.
 function(orv_add_test name)
     cmake_parse_arguments(arg "XVFB;NETNS;STARTS_PROGRAMS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})

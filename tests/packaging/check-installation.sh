@@ -46,9 +46,14 @@ LD_LIBRARY_PATH=$(dirname -- "$pkgconfig") QT_QPA_PLATFORM=offscreen "$work/host
     || fail "a C program can't use the installed library"
 echo "a C program made with pkg-config runs"
 
-for example in "$source"/examples/*/CMakeLists.txt; do
+# The program in the README, the first code of each language there, is an example like the others.
+code() { awk -v "start=\`\`\`$1" '$0 == "```" { if (on) exit } on; $0 == start { on = 1 }' "$source/README.md"; }
+mkdir "$work/readme"
+code cpp >"$work/readme/main.cpp"
+code cmake >"$work/readme/CMakeLists.txt"
+for example in "$source"/examples/*/CMakeLists.txt "$work/readme/CMakeLists.txt"; do
     name=$(basename -- "$(dirname -- "$example")")
-    cp -r "$source/examples/$name" "$work/$name"
+    [ "$name" = readme ] || cp -r "$source/examples/$name" "$work/$name"
     cmake -S "$work/$name" -B "$work/$name/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" \
         >"$work/$name.log" 2>&1 || { cat "$work/$name.log"; fail "$name: cmake failed"; }
     cmake --build "$work/$name/build" >"$work/$name.log" 2>&1 \

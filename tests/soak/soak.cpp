@@ -2,7 +2,8 @@
 // soak [SECONDS [SEED [WINDOW]]]
 // Clicks and types at random into every window there is, or one of them, while the camera's values
 // change and the camera comes and goes, and watches what the process holds: bytes, resident memory,
-// open files. Ends with 1 when that grows. The platform "offscreen" does as well as a display.
+// open files. Ends with 1 when that grows, with 2 when there is no such window or nothing in one
+// took a click. The platform "offscreen" does as well as a display.
 #include "soakcamera.h"
 #include "usage.h"
 
@@ -23,6 +24,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <memory>
@@ -42,6 +44,7 @@ struct Window
     const char *name;
     std::function<QWidget *(OrvCam::Device *)> make;
     std::function<void(QWidget &, OrvCam::Device *)> setDevice;
+    unsigned clicks = 0;
 };
 
 template<typename Config>
@@ -77,17 +80,22 @@ Window cameraPicker(OrvCam::System *system)
             [](QWidget &, OrvCam::Device *) {}};
 }
 
-std::vector<Window> windows(OrvCam::System *system)
+/// The window of that name, or all when it is empty.
+std::vector<Window> windows(OrvCam::System *system, const QString &name)
 {
-    return {featureTree(),
-            configWindow<OrvCamConfig>("main window"),
-            cameraPicker(system),
-            configWindow<OrvCamConfigTriggerDialog>("trigger"),
-            configWindow<OrvCamConfigPulseDialog>("pulse"),
-            configWindow<OrvCamConfigStrobeDialog>("strobe"),
-            configWindow<OrvCamConfigOutputDialog>("output"),
-            configWindow<OrvCamConfigColorDialog>("colour"),
-            configWindow<OrvCamConfigFrameABDialog>("frames")};
+    std::vector<Window> all{featureTree(),
+                            configWindow<OrvCamConfig>("main window"),
+                            cameraPicker(system),
+                            configWindow<OrvCamConfigTriggerDialog>("trigger"),
+                            configWindow<OrvCamConfigPulseDialog>("pulse"),
+                            configWindow<OrvCamConfigStrobeDialog>("strobe"),
+                            configWindow<OrvCamConfigOutputDialog>("output"),
+                            configWindow<OrvCamConfigColorDialog>("colour"),
+                            configWindow<OrvCamConfigFrameABDialog>("frames")};
+    const auto isAnother = [&](const Window &window) { return name != window.name; };
+    if (!name.isEmpty())
+        all.erase(std::remove_if(all.begin(), all.end(), isAnother), all.end());
+    return all;
 }
 
 /// A user who does anything anywhere.
@@ -198,13 +206,8 @@ struct Deleter
 class Soak
 {
 public:
-    /// An empty name stands for all windows.
-    Soak(OrvCam::System *system, unsigned seed, const QString &window) : m_monkey(seed)
+    Soak(std::vector<Window> windows, unsigned seed) : m_monkey(seed), m_windows(std::move(windows))
     {
-        for (const Window &candidate : windows(system)) {
-            if (window.isEmpty() || window == candidate.name)
-                m_windows.push_back(candidate);
-        }
     }
 
     /// Every window once, at the same camera.
@@ -212,11 +215,24 @@ public:
     {
         SoakCamera camera;
         const std::unique_ptr<OrvCam::Device, Deleter> device(camera.open());
-        for (const Window &window : m_windows)
+        for (Window &window : m_windows) {
+            const unsigned before = clicks();
             visit(window, camera, *device);
+            window.clicks += clicks() - before;
+        }
     }
 
     unsigned clicks() const { return m_monkey.clicks(); }
+
+    /// The first window in which nothing took a click; null when there is none.
+    const char *untouched() const
+    {
+        for (const Window &window : m_windows) {
+            if (window.clicks == 0)
+                return window.name;
+        }
+        return nullptr;
+    }
 
 private:
     void visit(const Window &window, SoakCamera &camera, OrvCam::Device &device)
@@ -284,7 +300,13 @@ int main(int argc, char *argv[])
     const unsigned seed = arguments.value(2, "1").toUInt();
 
     OrvCam::System *system = OrvCam_GetSystem();
-    auto soak = std::make_unique<Soak>(system, seed, arguments.value(3));
+    std::vector<Window> used = windows(system, arguments.value(3));
+    if (used.empty()) {
+        std::printf("soak: there is no window '%s'\n", qPrintable(arguments.value(3)));
+        system->Release();
+        return 2;
+    }
+    auto soak = std::make_unique<Soak>(std::move(used), seed);
     Usage before;
     Usage after;
     int rounds = -warmUpRounds; // what Qt and Aravis keep for good is made in these
@@ -309,9 +331,14 @@ int main(int argc, char *argv[])
     });
     next.start(0);
     QApplication::exec();
+    const char *untouched = soak->untouched();
     soak.reset();
     system->Release();
 
+    if (untouched) {
+        std::printf("soak: nothing in the window '%s' takes a click\n", untouched);
+        return 2;
+    }
     const std::string growth = after.grownBeyond(before, rounds);
     if (growth.empty())
         return 0;
