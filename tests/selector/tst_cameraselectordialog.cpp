@@ -34,6 +34,7 @@ private slots:
     void forcesAddress();
     void warnsOfBadAddress();
     void forcingFails();
+    void destroyedMeanwhile();
 
 private:
     void open();
@@ -447,9 +448,6 @@ void TestCameraSelectorDialog::forcingFails()
         int writes;
     } rows[] = {{"DeviceSelector", true, 1},
                 {"GevInterfaceMACAddress", true, 1},
-                {"GevInterfaceSubnetIPAddress", true, 1},
-                {"GevInterfaceSubnetMask", true, 1},
-                {"GevDeviceMACAddress", true, 1},
                 {"GevDeviceForceGateway", true, 1},
                 {"GevDeviceForceIPAddress", false, 2},
                 {"GevDeviceForceSubnetMask", false, 3},
@@ -470,6 +468,29 @@ void TestCameraSelectorDialog::forcingFails()
         QVERIFY2(force(dialogs), row.feature);
         QCOMPARE(m_parameters->writes.size(), row.writes);
         QVERIFY(!okButton()->isEnabled());
+    }
+}
+
+/// By its owner, while one of the picker's own dialogs is open.
+void TestCameraSelectorDialog::destroyedMeanwhile()
+{
+    const ModalVisitor::Action destroys = [this](QDialog &) { m_dialog.reset(); };
+    const ModalVisitor::Action wrongAddress = [](QDialog &dialog) {
+        field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
+        dialog.accept();
+    };
+    const struct
+    {
+        int32_t error;
+        QList<ModalVisitor::Action> dialogs;
+    } rows[] = {
+        {Success, {destroys}}, {Success, {wrongAddress, destroys}}, {ErrorFailed, {destroys}}};
+    for (const auto &row : rows) {
+        m_network->parametersError = row.error;
+        open();
+        tree()->setCurrentIndex(networkCamera(0));
+        QVERIFY(force(row.dialogs));
+        QVERIFY(!m_dialog && !m_parameters->writes.contains("GevDeviceForceIP"));
     }
 }
 
