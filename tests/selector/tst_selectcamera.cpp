@@ -224,17 +224,11 @@ void TestSelectCamera::foreignParent()
 
 void TestSelectCamera::noSuchParent()
 {
-    const auto reject = [](QDialog &dialog) {
+    const ModalVisitor visitor({[](QDialog &dialog) {
         QVERIFY(QGuiApplication::primaryScreen()->geometry().contains(dialog.geometry()));
         dialog.reject();
-    };
-    const ModalVisitor visitor({reject, reject});
+    }});
     QVERIFY(!SelectCameraA(m_system, "", 0x1ffffff0));
-    // Nor does anybody answer who could say where it is.
-    const QByteArray display = qgetenv("DISPLAY");
-    qputenv("DISPLAY", ":4711");
-    QVERIFY(!SelectCameraA(m_system, "", 0x1ffffff0));
-    qputenv("DISPLAY", display);
     QVERIFY(visitor.isDone());
 }
 
