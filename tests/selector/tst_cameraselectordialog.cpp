@@ -86,6 +86,12 @@ ModalVisitor::Action message(const QString &title, const QString &text,
     };
 }
 
+void enterWrongAddress(QDialog &dialog)
+{
+    field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
+    dialog.accept();
+}
+
 ModalVisitor::Action failureMessage()
 {
     return message("Set IP Address", "Can't set IP address", QMessageBox::Ok, QMessageBox::Ok);
@@ -419,10 +425,6 @@ void TestCameraSelectorDialog::forcesAddress()
 
 void TestCameraSelectorDialog::warnsOfBadAddress()
 {
-    const ModalVisitor::Action wrongAddress = [](QDialog &dialog) {
-        field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
-        dialog.accept();
-    };
     const ModalVisitor::Action wrongMask = [](QDialog &dialog) {
         field(dialog, "subnetMaskLineEdit")->setText("255.255.255.128");
         dialog.accept();
@@ -430,7 +432,7 @@ void TestCameraSelectorDialog::warnsOfBadAddress()
     open();
     tree()->setCurrentIndex(networkCamera(0));
     const QStringList nothing = {"DeviceSelector=0"};
-    QVERIFY(force({wrongAddress, warning(QMessageBox::Ok)}));
+    QVERIFY(force({enterWrongAddress, warning(QMessageBox::Ok)}));
     QCOMPARE(m_parameters->writes, nothing);
     QVERIFY(force({wrongMask, [](QDialog &box) { QTest::keyClick(&box, Qt::Key_Escape); }}));
     QCOMPARE(m_parameters->writes, nothing);
@@ -475,16 +477,12 @@ void TestCameraSelectorDialog::forcingFails()
 void TestCameraSelectorDialog::destroyedMeanwhile()
 {
     const ModalVisitor::Action destroys = [this](QDialog &) { m_dialog.reset(); };
-    const ModalVisitor::Action wrongAddress = [](QDialog &dialog) {
-        field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
-        dialog.accept();
-    };
     const struct
     {
         int32_t error;
         QList<ModalVisitor::Action> dialogs;
     } rows[] = {
-        {Success, {destroys}}, {Success, {wrongAddress, destroys}}, {ErrorFailed, {destroys}}};
+        {Success, {destroys}}, {Success, {enterWrongAddress, destroys}}, {ErrorFailed, {destroys}}};
     for (const auto &row : rows) {
         m_network->parametersError = row.error;
         open();
