@@ -94,7 +94,7 @@ public:
         if (fill(editor, index)) {
             if (alive)
                 rememberContent(editor);
-        } else if (auto *comboBox = qobject_cast<QComboBox *>(editor)) {
+        } else if (auto *comboBox = qobject_cast<QComboBox *>(alive.data())) {
             openList(comboBox);
         }
     }
