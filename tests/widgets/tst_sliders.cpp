@@ -64,6 +64,7 @@ private Q_SLOTS:
     void bearsEveryInt();
     void keepsTheValueWhenTheMappingChanges();
     void announcesChangesOnly();
+    void announcesTheLatestRangeOnly();
 
     void mapsRealValues();
     void keepsItsPromisesForAnyRealRange();
@@ -302,6 +303,13 @@ void TestSliders::announcesChangesOnly()
     QCOMPARE(values, (QList<QVariantList>{{1}})); // 10^1.03 is 10.7
     slider.slider()->setSliderDown(false);
 
+    // A key stretches its own move only.
+    slider.setValue(10000);
+    const int position = slider.slider()->value();
+    QTest::keyClick(slider.slider(), Qt::Key_Up);
+    slider.slider()->setValue(position);
+    QCOMPARE(values.last(), QVariantList{9990});
+
     // A slot that moves the slider on has the last word.
     connect(&slider, &QtOrvSlider::valueChanged, &slider, [&slider](int value) {
         if (value == 500000)
@@ -314,6 +322,27 @@ void TestSliders::announcesChangesOnly()
         QCOMPARE(slider.value(), 0);
         QCOMPARE(values.count(), 2);
     }
+}
+
+template<class Slider, class T>
+void checkRangeSetBySlot()
+{
+    Slider slider;
+    slider.setValue(80);
+    QObject::connect(&slider, &Slider::valueChanged, &slider, [&](T value) {
+        if (value == T(50))
+            slider.setRange(0, 200);
+    });
+    QSignalSpy ranges(&slider, &Slider::rangeChanged);
+    slider.setRange(0, 50);
+    QCOMPARE(ranges, (QList<QVariantList>{{T(0), T(200)}}));
+    QCOMPARE(slider.value(), T(50));
+}
+
+void TestSliders::announcesTheLatestRangeOnly()
+{
+    checkRangeSetBySlot<QtOrvSlider, int>();
+    checkRangeSetBySlot<QtOrvDoubleSlider, double>();
 }
 
 void TestSliders::mapsRealValues()
