@@ -75,9 +75,6 @@ void TestCompounds::checkRange()
 {
     using T = Number<Widget>;
     Widget widget;
-    QCOMPARE(widget.spinBox()->minimum(), T(0));
-    QCOMPARE(widget.spinBox()->maximum(), T(100));
-
     QSignalSpy ranges(&widget, &Widget::rangeChanged);
     widget.setRange(10, 20);
     QCOMPARE(ranges, (QList<QVariantList>{{T(10), T(20)}}));
@@ -159,12 +156,6 @@ void TestCompounds::treatSteps()
 {
     QtOrvSliderSpinBox widget;
     widget.setSingleStep(8);
-    widget.setValidate(true);
-    widget.setValidateTyping(false);
-    widget.setValue(13);
-    QCOMPARE(widget.value(), 16);
-    QCOMPARE(widget.slider()->value(), 16);
-
     // A step that the spin box has already goes no further.
     widget.slider()->setSingleStep(5);
     widget.setSingleStep(8);
@@ -255,9 +246,7 @@ void TestCompounds::hideTheButtonWhenReadOnly()
     widget.show();
     widget.toolButton()->click();
     QVERIFY(widget.slider()->isVisible());
-    innerSlider(widget)->setSliderDown(true);
     widget.setReadOnly(true);
-    QVERIFY(!innerSlider(widget)->isSliderDown());
     QVERIFY(widget.isReadOnly() && widget.spinBox()->isReadOnly());
     QVERIFY(!widget.isSliderButtonVisible() && !widget.slider()->isVisible());
     widget.setReadOnly(false);
