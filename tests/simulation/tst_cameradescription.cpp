@@ -66,8 +66,7 @@ private slots:
     void featuresAreDocumented();
     void registersDoNotOverlap();
     void changesByTheCameraReachTheHost();
-    void dialogFeatures_data();
-    void dialogFeatures();
+    void dialogsFindTheirFeatures();
 
 private:
     void readNode(QXmlStreamReader &xml, int structure);
@@ -259,55 +258,27 @@ void TestCameraDescription::changesByTheCameraReachTheHost()
         QVERIFY2(!m_nodes[m_byName.value(name)].text("PollingTime").isEmpty(), name);
 }
 
-void TestCameraDescription::dialogFeatures_data()
+// Whatever looks like a name in the sources of the dialogs is one that the camera has.
+void TestCameraDescription::dialogsFindTheirFeatures()
 {
-    QTest::addColumn<QStringList>("elements");
-    QTest::addColumn<QStringList>("features");
-
-    const QString identity =
-        "DeviceManufacturerName DeviceModelName DeviceFamilyName DeviceVersion "
-        "DeviceManufacturerInfo DeviceSerialNumber DeviceUserDefinedName "
-        "SensorType";
-    const QString integers =
-        "RgsID FpgaID EpcsID FirmwareImage FirmwareVersion FirmwareBuild CustomerID XmlVersion "
-        "U3VFirmwareVersion U3VFirmwareBuildNumber CurrentTemperature CurrentExposureTime "
-        "CurrentFrameTime Width Height PixelClock RedCoefficient GreenCoefficient BlueCoefficient "
-        "NumberOfFrameAs NumberOfFrameBs Frame_ExposureLines Frame_ExposureClocks "
-        "Frame_FixedFramePeriodValue Frame_LineTime Frame_OffsetX Frame_OffsetY Frame_Width "
-        "Frame_Height Frame_WidthActual Frame_HeightActual Frame_DigitalCourseGain "
-        "Frame_DigitalFineGain Frame_BlackLevel Frame_WdrE1 Frame_WdrE2 Frame_WdrE3 Strobe1Delay "
-        "Strobe1Width Strobe2Delay Strobe2Width PulseGenWidth PulseGenPeriod PulseGenNumPulses "
-        "DefectPixelThreshold HotPixelThreshold GevCurrentIPAddress GevCurrentSubnetMask "
-        "GevCurrentDefaultGateway GevPersistentIPAddress GevPersistentSubnetMask "
-        "GevPersistentDefaultGateway GevPrimaryApplicationIPAddress GevSCDA GevMACAddress";
-    const QString enumerations =
-        "FrameAB_Selector FrameMode ShutterMode SensorADCBitDepth SensorADCBitDepth11 "
-        "Frame_ExposureControl Frame_DecimationMode Frame_AnalogGain Frame_SubsamplingM "
-        "Frame_SubsamplingP Frame_Averaging Frame_WdrP1 Frame_WdrP2 Frame_WdrP3 BalanceWhiteAuto "
-        "AutoTrackingSpeed TriggerMode TriggerSource TriggerActivation TriggerDebounce Strobe1Mode "
-        "Strobe1Reference Strobe2Mode Strobe2Reference OUT1Polarity OUT1Selector OUT2Polarity "
-        "OUT2Selector PulseGenGranularity PulseGenMode PixelFormat LUTSelector "
-        "DefectPixelCorrection HotPixelCorrection TestImageSelector";
-    const QString booleans =
-        "Frame_FixedFramePeriodEnable Frame_WdrEnable PulseGenEnable LUTEnable "
-        "ReverseX ReverseY";
-
-    QTest::newRow("strings") << QStringList{"StringReg"} << identity.split(' ');
-    QTest::newRow("integers") << QStringList{"Integer", "IntReg"} << integers.split(' ');
-    QTest::newRow("enumerations") << QStringList{"Enumeration"} << enumerations.split(' ');
-    QTest::newRow("booleans") << QStringList{"Boolean"} << booleans.split(' ');
-    QTest::newRow("commands") << QStringList{"Command"} << QStringList{"TriggerSoftware"};
-}
-
-void TestCameraDescription::dialogFeatures()
-{
-    QFETCH(QStringList, elements);
-    QFETCH(QStringList, features);
-    for (const QString &feature : qAsConst(features)) {
-        QVERIFY2(m_features.contains(feature), qPrintable(feature));
-        const QString element = m_nodes[m_byName.value(feature)].element;
-        QVERIFY2(elements.contains(element), qPrintable(feature + " is a " + element));
+    QSet<QString> known{"Disconnected", "OrvCameraConfiguration", "Start", "Stop", "Unknown"};
+    known += m_features.toSet();
+    for (const Node &node : qAsConst(m_nodes)) {
+        if (node.element == "EnumEntry")
+            known << node.name;
     }
+    const QRegularExpression name("\"([A-Z]\\w+)\"");
+    QSet<QString> used;
+    const QDir folder(ORV_DIALOGS);
+    for (const QString &file : folder.entryList({"*.cpp", "*.h"})) {
+        QFile source(folder.filePath(file));
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        for (auto match = name.globalMatch(source.readAll()); match.hasNext();)
+            used << match.next().captured(1);
+    }
+    QVERIFY(used.size() > 80);
+    used -= known;
+    QCOMPARE(used.values(), QStringList());
 }
 
 QTEST_APPLESS_MAIN(TestCameraDescription)
