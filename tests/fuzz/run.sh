@@ -22,7 +22,7 @@ export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1
 export UBSAN_OPTIONS=print_stacktrace=1
 export LSAN_OPTIONS="suppressions=$here/../support/lsan.supp:print_suppressions=0"
 
-# About a quarter of a minute each.
+# Some seconds each.
 runs_of() {
     case $1 in
     state) echo 4000 ;;
