@@ -338,6 +338,7 @@ void OrvCamConfigFrameABDialogPrivate::bind()
     // What this camera lacks must not count as the former one had it.
     ui.cmBoxFrameMode->clear();
     ui.chBoxFixedFramePeriodEnable->setChecked(false);
+    ui.spBoxFixedFramePeriodValue->setRange(0, 0);
 
     getNeededParams();
     makeBindings();
