@@ -874,14 +874,15 @@ void TestFrameABDialog::missingFeatures()
     const QByteArray missing = QTest::currentDataTag();
     Camera camera;
     camera.choose("FrameMode", "FrameB");
+    camera.choose("FrameAB_Selector", "FrameB");
     camera.turn("Frame_FixedFramePeriodEnable", true);
-    camera.turn("Frame_WdrEnable", true);
-    camera.choose("Frame_DecimationMode", missing == "Frame_Averaging" ? "Average" : "Subsampling");
     Dialog dialog(&camera.device);
     dialog.SetDevice(nullptr);
     camera.choose("FrameMode", "DualVideo");
     camera.choose("FrameAB_Selector", "FrameA");
     camera.turn("Frame_FixedFramePeriodEnable", missing != "Frame_FixedFramePeriodEnable");
+    camera.turn("Frame_WdrEnable", true);
+    camera.choose("Frame_DecimationMode", missing == "Frame_Averaging" ? "Average" : "Subsampling");
     camera.device.part.missing = {missing};
     dialog.SetDevice(&camera.device);
     const ErrorBoxes boxes;
