@@ -4,7 +4,9 @@
 # the members and type information of its public classes. Nothing else.
 set -eu
 library=$1
-names=$("${NM:-nm}" -D --defined-only "$library" | awk '{ print $NF }' | sort -u)
+# The linker marks ends of sections in a library for ARM.
+names=$("${NM:-nm}" -D --defined-only "$library" | awk '{ print $NF }' | sort -u |
+    grep -vxE '_*(bss_start|bss_end|end)_*')
 
 trees='CreateGenParamTreeViewFor(Array|Nodemap)[AW]|DestroyGenParamTreeView'
 dialogs='SelectCamera[AW]|Show(CamConfig|Color|FrameAB|Output|Pulse|Strobe|Trigger)Dialog'
