@@ -44,8 +44,8 @@ bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
     if (watched == tree && event->type() == QEvent::Show)
         emit showed();
     const QEvent::Type type = event->type();
-    if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress
-        && type != QEvent::MouseButtonRelease)
+    if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress &&
+        type != QEvent::MouseButtonRelease)
         return false; // also while the tree is being destroyed, when it has no viewport to ask for
     if (watched != tree->viewport())
         return false;

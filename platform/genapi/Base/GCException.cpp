@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <Base/GCException.h>
 
-namespace GenICam_3_0
-{
+namespace GenICam_3_0 {
 
 GenericException::GenericException(const char *description, const char *sourceFileName,
                                    unsigned int sourceLine)

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <Base/GCString.h>
 
-namespace GenICam_3_0
-{
+namespace GenICam_3_0 {
 
-gcstring::gcstring(const char *text)
-    : m_text(text ? text : "")
-{
-}
+gcstring::gcstring(const char *text) : m_text(text ? text : "") {}
 
 gcstring::gcstring(const char *text, std::size_t length)
     : m_text(text ? std::string(text, length) : std::string())

@@ -5,8 +5,7 @@
 
 #include <vector>
 
-namespace GenICam_3_0
-{
+namespace GenICam_3_0 {
 
 /// A list of strings.
 class gcstring_vector : public std::vector<gcstring>

@@ -6,8 +6,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A list of numbers of fixed size, returned by value.
 template<typename T>
@@ -15,10 +14,7 @@ class Autovector
 {
 public:
     Autovector() = default;
-    explicit Autovector(std::size_t size)
-        : m_values(size)
-    {
-    }
+    explicit Autovector(std::size_t size) : m_values(size) {}
 
     std::size_t size() const { return m_values.size(); }
     T &operator[](std::size_t index) { return m_values[index]; }

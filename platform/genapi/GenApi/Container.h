@@ -6,8 +6,7 @@
 
 #include <vector>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 struct INode;
 struct IValue;

@@ -3,8 +3,7 @@
 
 #include <GenApi/Types.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// Root of every node interface. Nodes may be deleted through it.
 struct GENAPI_DECL IBase

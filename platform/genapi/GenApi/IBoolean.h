@@ -3,8 +3,7 @@
 
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A switch. Its text is "1" or "0"; "true" and "false" are understood too.
 struct GENAPI_DECL IBoolean : virtual public IValue

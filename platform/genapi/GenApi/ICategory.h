@@ -4,8 +4,7 @@
 #include <GenApi/Container.h>
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A group of features.
 struct GENAPI_DECL ICategory : virtual public IValue

@@ -3,8 +3,7 @@
 
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// Something the camera can be told to do.
 struct GENAPI_DECL ICommand : virtual public IValue

@@ -3,8 +3,7 @@
 
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// One entry of an enumeration.
 struct GENAPI_DECL IEnumEntry : virtual public IValue

@@ -5,8 +5,7 @@
 #include <GenApi/IEnumEntry.h>
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A choice between entries. Its text is the symbolic name of the current entry.
 struct GENAPI_DECL IEnumeration : virtual public IValue

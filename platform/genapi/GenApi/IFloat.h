@@ -4,8 +4,7 @@
 #include <GenApi/Autovector.h>
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A floating-point number.
 struct GENAPI_DECL IFloat : virtual public IValue

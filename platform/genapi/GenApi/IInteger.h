@@ -4,8 +4,7 @@
 #include <GenApi/Autovector.h>
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A 64-bit integer.
 struct GENAPI_DECL IInteger : virtual public IValue

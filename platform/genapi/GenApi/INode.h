@@ -4,8 +4,7 @@
 #include <GenApi/Container.h>
 #include <GenApi/IBase.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 struct INodeMap;
 class CNodeCallback;
@@ -33,7 +32,8 @@ struct GENAPI_DECL INode : virtual public IBase
     /// The name to show; empty when the description gives none.
     virtual GenICam::gcstring GetDisplayName() const = 0;
     virtual GenICam::gcstring GetDeviceName() const = 0;
-    virtual void GetChildren(NodeList_t &Children, ELinkType LinkType = ctReadingChildren) const = 0;
+    virtual void GetChildren(NodeList_t &Children,
+                             ELinkType LinkType = ctReadingChildren) const = 0;
     virtual void GetParents(NodeList_t &Parents) const = 0;
 
     /// Takes ownership of the callback. The handle stays valid until it is deregistered.

@@ -4,8 +4,7 @@
 #include <GenApi/Container.h>
 #include <GenApi/Synch.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 struct INode;
 

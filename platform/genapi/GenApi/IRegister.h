@@ -3,8 +3,7 @@
 
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// Raw bytes in the camera. Its text is "0x" and two hexadecimal digits a byte.
 struct GENAPI_DECL IRegister : virtual public IValue

@@ -4,8 +4,7 @@
 #include <GenApi/Container.h>
 #include <GenApi/IBase.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A feature that may select other features, or be selected by some.
 struct GENAPI_DECL ISelector : virtual public IBase

@@ -3,8 +3,7 @@
 
 #include <GenApi/IValue.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// A text.
 struct GENAPI_DECL IString : virtual public IValue

@@ -3,8 +3,7 @@
 
 #include <GenApi/IBase.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 struct INode;
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <GenApi/NodeCallback.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 void Deregister(CallbackHandleType handle)
 {

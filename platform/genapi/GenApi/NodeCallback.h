@@ -3,19 +3,14 @@
 
 #include <GenApi/INode.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// Something to be called when a node changed. The node calls it twice per change, once for each
 /// callback type; it acts only on its own.
 class GENAPI_DECL CNodeCallback
 {
 public:
-    CNodeCallback(INode *node, ECallbackType type)
-        : m_node(node)
-        , m_type(type)
-    {
-    }
+    CNodeCallback(INode *node, ECallbackType type) : m_node(node), m_type(type) {}
     virtual ~CNodeCallback() = default;
     CNodeCallback(const CNodeCallback &) = delete;
     CNodeCallback &operator=(const CNodeCallback &) = delete;
@@ -37,8 +32,7 @@ class FunctionNodeCallback : public CNodeCallback
 {
 public:
     FunctionNodeCallback(INode *node, const Function &function, ECallbackType type)
-        : CNodeCallback(node, type)
-        , m_function(function)
+        : CNodeCallback(node, type), m_function(function)
     {
     }
 
@@ -59,9 +53,7 @@ class MemberNodeCallback : public CNodeCallback
 {
 public:
     MemberNodeCallback(INode *node, Client &client, Member member, ECallbackType type)
-        : CNodeCallback(node, type)
-        , m_client(client)
-        , m_member(member)
+        : CNodeCallback(node, type), m_client(client), m_member(member)
     {
     }
 

@@ -3,8 +3,7 @@
 
 #include <GenApi/IBase.h>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 struct INode;
 struct IValue;
@@ -27,10 +26,7 @@ class CPointer
 {
 public:
     CPointer() = default;
-    CPointer(B *base)
-        : m_pointer(dynamic_cast<T *>(base))
-    {
-    }
+    CPointer(B *base) : m_pointer(dynamic_cast<T *>(base)) {}
     virtual ~CPointer() = default;
     CPointer(const CPointer &) = default;
     CPointer &operator=(const CPointer &) = default;

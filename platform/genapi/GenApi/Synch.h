@@ -7,8 +7,7 @@
 #include <mutex>
 #include <thread>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// The recursive lock of a node map.
 class GENAPI_DECL CLock
@@ -37,11 +36,7 @@ private:
 class AutoLock
 {
 public:
-    explicit AutoLock(CLock &lock)
-        : m_lock(lock)
-    {
-        m_lock.Lock();
-    }
+    explicit AutoLock(CLock &lock) : m_lock(lock) { m_lock.Lock(); }
     ~AutoLock() { m_lock.Unlock(); }
     AutoLock(const AutoLock &) = delete;
     AutoLock &operator=(const AutoLock &) = delete;

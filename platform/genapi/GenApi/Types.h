@@ -5,18 +5,17 @@
 
 #include <cstdint>
 
-namespace GenApi_3_0
-{
+namespace GenApi_3_0 {
 
 /// How a node can be accessed at this moment.
 typedef enum _EAccessMode {
-    NI,                     ///< not implemented
-    NA,                     ///< not available
-    WO,                     ///< write only
-    RO,                     ///< read only
-    RW,                     ///< read and write
-    _UndefinedAccesMode,    ///< not yet determined
-    _CycleDetectAccesMode   ///< being determined; used to find cycles
+    NI,                   ///< not implemented
+    NA,                   ///< not available
+    WO,                   ///< write only
+    RO,                   ///< read only
+    RW,                   ///< read and write
+    _UndefinedAccesMode,  ///< not yet determined
+    _CycleDetectAccesMode ///< being determined; used to find cycles
 } EAccessMode;
 
 /// The audience a node is meant for.
@@ -78,17 +77,9 @@ typedef enum _ECachingMode {
 } ECachingMode;
 
 /// Where a node's name is defined.
-typedef enum _ENameSpace {
-    Custom,
-    Standard,
-    _UndefinedNameSpace
-} ENameSpace;
+typedef enum _ENameSpace { Custom, Standard, _UndefinedNameSpace } ENameSpace;
 
-typedef enum _EYesNo {
-    No = 0,
-    Yes = 1,
-    _UndefinedYesNo = 2
-} EYesNo;
+typedef enum _EYesNo { No = 0, Yes = 1, _UndefinedYesNo = 2 } EYesNo;
 
 /// How a floating-point number should be written.
 typedef enum _EDisplayNotation {
@@ -100,13 +91,13 @@ typedef enum _EDisplayNotation {
 
 /// Which neighbours of a node are asked for.
 typedef enum _ELinkType {
-    ctParentNodes,            ///< nodes that refer to this one
-    ctReadingChildren,        ///< nodes read when this one is read
-    ctWritingChildren,        ///< nodes written when this one is written
-    ctInvalidatingChildren,   ///< nodes whose change invalidates this one
-    ctDependingNodes,         ///< nodes that this one's change invalidates, directly or not
-    ctTerminalNodes,          ///< the registers at the ends of the reading chain
-    ctValueChangingChildren   ///< nodes whose change can change this one's value
+    ctParentNodes,          ///< nodes that refer to this one
+    ctReadingChildren,      ///< nodes read when this one is read
+    ctWritingChildren,      ///< nodes written when this one is written
+    ctInvalidatingChildren, ///< nodes whose change invalidates this one
+    ctDependingNodes,       ///< nodes that this one's change invalidates, directly or not
+    ctTerminalNodes,        ///< the registers at the ends of the reading chain
+    ctValueChangingChildren ///< nodes whose change can change this one's value
 } ELinkType;
 
 /// Names one registration of a callback at a node.
