@@ -13,6 +13,7 @@
 #include "selectordetour.h"
 #include "ui_orvcamconfigmainwindow.h"
 
+#include <GenApi/GenApi.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
@@ -31,6 +32,7 @@ namespace {
 
 const int RefreshPeriod = 1000; // ms
 
+const char nameOfSelector[] = "FrameAB_Selector";
 const char nameOfFrameA[] = "FrameA";
 const char nameOfFrameB[] = "FrameB";
 
@@ -115,6 +117,7 @@ private:
     void refreshFrames();
     void updateFrame(Frame frame);
     void updateBoth();
+    bool visit(Frame frame, const QByteArray &back);
     void updateStatus();
     void readSelectedFrame();
     void readFrameMode();
@@ -298,7 +301,7 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 
 void OrvCamConfigPrivate::getNeededParams()
 {
-    frameSelector = array->GetEnum("FrameAB_Selector");
+    frameSelector = array->GetEnum(nameOfSelector);
     frameModeParam = array->GetEnum("FrameMode");
     temperature = array->GetInt("CurrentTemperature");
     exposureTime = array->GetInt("CurrentExposureTime");
@@ -462,17 +465,26 @@ void OrvCamConfigPrivate::updateBoth()
 {
     const Frame first = selectedFrame;
     updateFrame(first);
-    if (!frameSelector)
+    const QByteArray selected = frameSelector ? symbolicOf(frameSelector) : QByteArray();
+    if (selected.isEmpty() || visit(first == FrameA ? FrameB : FrameA, selected))
         return;
-    const QByteArray selected = symbolicOf(frameSelector);
-    if (selected.isEmpty())
-        return;
+    // The camera stays with the other frame, which nobody has taken notice of.
+    GenApi::INodeMap *nodeMap = array->GetNodeMap();
+    if (GenApi::INode *node = nodeMap ? nodeMap->GetNode(nameOfSelector) : nullptr)
+        node->InvalidateNode();
+}
+
+/// False when there is no way back.
+bool OrvCamConfigPrivate::visit(Frame frame, const QByteArray &back)
+{
     const SelectorDetour detour;
-    const bool isA = first == FrameA;
-    if (frameSelector->SetSymbolicValue(isA ? nameOfFrameB : nameOfFrameA) != OrvCam::Success)
-        return;
-    updateFrame(isA ? FrameB : FrameA);
-    frameSelector->SetSymbolicValue(selected.constData());
+    const auto select = [this](const char *name) {
+        return frameSelector->SetSymbolicValue(name) == OrvCam::Success;
+    };
+    if (!select(frame == FrameA ? nameOfFrameA : nameOfFrameB))
+        return true;
+    updateFrame(frame);
+    return select(back.constData()) || select(back.constData());
 }
 
 void OrvCamConfigPrivate::updateStatus()
@@ -485,7 +497,8 @@ void OrvCamConfigPrivate::updateStatus()
         icon = QStringLiteral(":/icons/res/connected.ico");
     }
     statusText->setText(text);
-    statusText->setToolTip(array ? text.toHtmlEscaped() : QString());
+    const QString toolTip = QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+    statusText->setToolTip(array ? toolTip : QString());
     const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
     statusIcon->setPixmap(QIcon(icon).pixmap(extent));
 }

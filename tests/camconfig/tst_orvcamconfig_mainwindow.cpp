@@ -195,7 +195,8 @@ public:
         const int i = word.endsWith('x') || word.size() < 2 ? -1 : word[1].digitValue();
         switch (word[0].toLatin1()) {
         case 'c':
-            return connectTo(i);
+            connectTo(i);
+            return true;
         case 'h':
             return setByHost(i);
         case 'd':
@@ -241,7 +242,7 @@ public:
     OrvCam::Device *hosts[2] = {};
 
 private:
-    bool connectTo(int i)
+    void connectTo(int i)
     {
         current = i >= 0 && world.camera(i).isPlugged && !hosts[i] ? i : -1;
         isOwn = true;
@@ -249,7 +250,7 @@ private:
         action(*window, "actionConnect").trigger();
         for (QMessageBox *box : window->findChildren<QMessageBox *>())
             box->done(0);
-        return user.isDone();
+        QVERIFY(user.isDone());
     }
 
     bool setByHost(int i)
@@ -441,6 +442,34 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     const OrvCamConfig window(&device);
     QCOMPARE(columnOf(window, 'A'), QString("   ")); // not the values of frame B
     QCOMPARE(columnOf(window, 'B'), QString(" 125.00 8000 "));
+
+    // Locked when it has been moved: all go by the frame that the camera stays with.
+    Simulation simulation;
+    simulation.set("FrameMode", "FrameA");
+    OrvCamConfig stuck(&simulation.device);
+    auto &tabs = child<QTabWidget>(stuck, "tabFrames");
+    OrvGui::OrvGenParamTreeView tree(&simulation.array, nullptr);
+    QSignalSpy dataChanges(tree.treeView()->model(), &QAbstractItemModel::dataChanged);
+    simulation.set("FrameMode", "DualVideo");
+    struct Lock : OrvGenParam::ParamEventSink
+    {
+        explicit Lock(GenApi::INode &n) : node(n) {}
+        void OnParameterUpdate(OrvGenParam::Param *) override
+        {
+            if (!std::exchange(isLocked, true))
+                node.ImposeAccessMode(GenApi::RO);
+        }
+        GenApi::INode &node;
+        bool isLocked = false;
+    } lock(*simulation.map->GetNode("FrameAB_Selector"));
+    simulation.array.GetEnum("FrameAB_Selector")->RegisterEventSink(&lock);
+    dataChanges.clear();
+    tick(stuck);
+    QVERIFY(lock.isLocked);
+    QCOMPARE(tabs.tabText(tabs.currentIndex()), simulation.get("FrameAB_Selector"));
+    QCOMPARE(QString::number(child<QtOrvSpinBox>(stuck, "spBoxExpLines").value()),
+             simulation.get("Frame_ExposureLines"));
+    QVERIFY(!dataChanges.isEmpty());
 }
 
 void TestOrvCamConfigMainWindow::cameraWithOneFrame()
@@ -491,6 +520,9 @@ void TestOrvCamConfigMainWindow::information()
     QCOMPARE(text("lblFirmwareVersion"), QString("4660"));
     QCOMPARE(text("lblSensorType"), QString("N/A"));
     QCOMPARE(text("lblFpgaID"), QString("N/A"));
+    const QString toolTip = child<QLabel>(window, "lblStatusText").toolTip();
+    QVERIFY(Qt::mightBeRichText(toolTip));
+    QCOMPARE(QTextDocumentFragment::fromHtml(toolTip).toPlainText(), statusOf(window));
 
     action(window, "actionDisconnect").trigger();
     int values = 0;

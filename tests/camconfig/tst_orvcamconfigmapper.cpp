@@ -9,6 +9,8 @@
 #include <qtorvspinbox.h>
 #include <qtorvspinboxval.h>
 
+#include <cstring>
+
 using namespace OrvGenApi;
 using namespace OrvGui;
 
@@ -230,6 +232,36 @@ int writesOf(Camera &camera, const Control &control)
     return feature(camera, control, [](auto &node) { return node.writes(); });
 }
 
+/// Two entries, of which there is only the second, with the value 0.
+class GapEnum final : public OrvGenParam::Enum
+{
+    struct Entry final : OrvGenParam::EnumEntry
+    {
+        int64_t GetValue() const override { return 0; }
+        const char *GetSymbolic() const override { return "Da"; }
+        const char *GetDisplayName() const override { return "Da"; }
+        bool IsAvailable() const override { return true; }
+    };
+    mutable Entry m_entry;
+
+public:
+    const char *GetName() const override { return "Lücke"; }
+    const char *GetDisplayName() const override { return ""; }
+    const char *GetDescription() const override { return ""; }
+    OrvGenParam::ParamType GetType() const override { return OrvGenParam::ParamEnum; }
+    bool IsAvailable() const override { return true; }
+    bool IsReadable() const override { return true; }
+    bool IsWritable() const override { return true; }
+    void RegisterEventSink(OrvGenParam::ParamEventSink *) override {}
+    void UnregisterEventSink(OrvGenParam::ParamEventSink *) override {}
+    uint32_t GetEntryCount() const override { return 2; }
+    OrvGenParam::EnumEntry *GetEntry(uint32_t i) const override { return i ? &m_entry : nullptr; }
+    int64_t GetIntValue(int32_t *) const override { return 0; }
+    int32_t SetIntValue(int64_t) override { return 0; }
+    const char *GetSymbolicValue(int32_t *) const override { return "Da"; }
+    int32_t SetSymbolicValue(const char *) override { return 0; }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Make)
@@ -448,13 +480,18 @@ void TestOrvCamConfigMapper::lifetimes()
     QCOMPARE(writesOf(camera, *control), 0);
     control.reset();
 
-    // The widget goes first.
+    // The widget goes first, also when another mapper has taken it over.
     mapper = std::make_unique<OrvCamConfigMapper>();
-    control = make();
-    control->map(*mapper, camera.array.get());
-    delete control->owner.data();
-    change(camera, *control, control->first);
-    mapper->unmapAll();
+    for (bool taken : {false, true}) {
+        control = make();
+        control->map(*mapper, camera.array.get());
+        OrvCamConfigMapper another;
+        if (taken)
+            control->map(another, camera.array.get());
+        delete control->owner.data();
+        change(camera, *control, control->first);
+        mapper->unmapAll();
+    }
 
     // The camera goes first.
     control = make();
@@ -550,6 +587,15 @@ void TestOrvCamConfigMapper::converters()
         long ToControl(long value, OrvGenParam::Int *) override { return value / 2; }
         long ToDevice(long value, OrvGenParam::Int *) override { return value * 2; }
     } halves;
+    // Hosts count on the two being the first in the table.
+    const auto slotOf = [](long (IOrvCamConfigIntConverter::*operation)(long, OrvGenParam::Int *)) {
+        std::size_t offset = 0;
+        std::memcpy(&offset, &operation, sizeof offset);
+        return int(offset / sizeof(void *));
+    };
+    QCOMPARE(slotOf(&IOrvCamConfigIntConverter::ToControl), 0);
+    QCOMPARE(slotOf(&IOrvCamConfigIntConverter::ToDevice), 1);
+
     Camera camera;
     camera.number.setLimits(0, 1ll << 40);
     camera.number.setIncrement(10);
@@ -669,6 +715,38 @@ void TestOrvCamConfigMapper::entries()
     QCOMPARE(box->currentText(), QStringLiteral("Nein"));
     QCOMPARE(box->count(), 2);
     QCOMPARE(qint64(pages->currentIndex()), qint64(1));
+
+    // Values that are no ids of a group.
+    const qint64 values[] = {-1, 0x81080001, 0x81080002};
+    MemoryNodeMap odd;
+    auto &oddChoice = odd.addEnumeration(
+        "Quelle", {{"Auto", values[0]}, {"Mono", values[1]}, {"Bunt", values[2]}}, values[2]);
+    OrvGenParam::NodeMapArray oddArray(odd);
+    map(oddArray);
+    for (int i : {2, 0, 1}) {
+        oddChoice.change(values[i]);
+        QCOMPARE(group->checkedButton(), group->buttons()[i]);
+        click(group->buttons()[(i + 1) % 3]);
+        QCOMPARE(oddArray.GetEnum("Quelle")->GetIntValue(), int64_t(values[(i + 1) % 3]));
+    }
+    oddChoice.entry("Bunt").setAccessMode(GenApi::NA);
+    oddChoice.changed();
+    QVERIFY(group->buttons()[1]->isEnabled() && !group->buttons()[2]->isEnabled());
+
+    // A choice of which the camera library does not know every entry.
+    GapEnum gap;
+    for (int i = 0; i < 3; ++i)
+        mappers[i].unmapAll();
+    mappers[0].mapEnumParam(&gap, box);
+    mappers[1].mapEnumParam(&gap, group);
+    mappers[2].mapEnumParam(&gap, pages);
+    for (OrvCamConfigMapper &mapper : mappers)
+        mapper.OnParameterUpdate(&gap);
+    QVERIFY(!items()->item(0)->isEnabled() && items()->item(1)->isEnabled());
+    QVERIFY(group->buttons()[0]->isHidden() && group->buttons()[1]->isChecked());
+    QVERIFY(pages->widget(0)->isHidden());
+    QCOMPARE(qint64(pages->currentIndex()), qint64(1));
+    QCOMPARE(box->currentText(), QStringLiteral("Da"));
 }
 
 void TestOrvCamConfigMapper::commandTimer()
@@ -748,6 +826,29 @@ void TestOrvCamConfigMapper::fromInside()
     QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(!first.array);
+
+    // Buttons, of which the others are not shown any more.
+    const auto box = buttons();
+    auto *group = box->owner->findChild<QButtonGroup *>();
+    const auto onToggled = [&](std::function<void()> act) {
+        connect(group,
+                static_cast<void (QButtonGroup::*)(QAbstractButton *, bool)>(
+                    &QButtonGroup::buttonToggled),
+                act);
+    };
+    mapper = std::make_unique<OrvCamConfigMapper>();
+    box->map(*mapper, second.array.get());
+    onToggled([&] { mapper->unmapAll(); });
+    second.choice.change(1);
+    for (const QAbstractButton *button : group->buttons())
+        QVERIFY(!button->isEnabled());
+    box->map(*mapper, second.array.get());
+    onToggled([&] {
+        mapper.reset();
+        second.array.reset();
+    });
+    second.choice.change(2);
+    QVERIFY(!mapper);
 }
 
 void TestOrvCamConfigMapper::noGlitchesAndNoEcho()
@@ -837,8 +938,6 @@ void TestOrvCamConfigMapper::drags()
 {
     QFETCH(bool, refused);
     Camera camera;
-    camera.number.setLimits(0, 100);
-    camera.number.changed();
     OrvGenParam::Int *param = camera.array->GetInt("Länge");
     if (refused)
         camera.number.onWrite(throwRefusal);
@@ -852,6 +951,7 @@ void TestOrvCamConfigMapper::drags()
     const auto drag = [&](QSlider *slider, const auto &map) {
         mapper.unmapAll();
         map();
+        camera.number.setLimits(0, 100);
         camera.number.change(5);
         const int writes = camera.number.writes();
         boxes.texts.clear();
@@ -860,6 +960,8 @@ void TestOrvCamConfigMapper::drags()
         const QPoint step =
             slider->orientation() == Qt::Horizontal ? QPoint(10, 0) : QPoint(0, -10);
         dragBy(slider, from, step, 10, [&] { camera.number.changed(); }); // as if it were polled
+        camera.number.setLimits(0, 120);
+        camera.number.changed();
         QCOMPARE(camera.number.writes(), writes);
         dragged = slider->value();
         QVERIFY(dragged > 20);
@@ -868,6 +970,8 @@ void TestOrvCamConfigMapper::drags()
         QCOMPARE(param->GetValue(), int64_t(refused ? 5 : dragged));
         QCOMPARE(boxes.texts.size(), int(refused));
         QVERIFY(!slider->isSliderDown());
+        QCOMPARE(slider->value(), dragged);
+        QCOMPARE(slider->maximum(), 120);
 
         // A press without a move changes nothing.
         const QPoint there = handleOf(slider);
