@@ -13,7 +13,6 @@
 #include "selectordetour.h"
 #include "ui_orvcamconfigmainwindow.h"
 
-#include <GenApi/GenApi.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
@@ -32,7 +31,6 @@ namespace {
 
 const int RefreshPeriod = 1000; // ms
 
-const char nameOfSelector[] = "FrameAB_Selector";
 const char nameOfFrameA[] = "FrameA";
 const char nameOfFrameB[] = "FrameB";
 
@@ -116,8 +114,7 @@ private:
     void restore();
     void refreshFrames();
     void updateFrame(Frame frame);
-    void updateBoth();
-    bool visit(Frame frame, const QByteArray &back);
+    bool updateBoth();
     void updateStatus();
     void readSelectedFrame();
     void readFrameMode();
@@ -294,14 +291,15 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     timer.start(RefreshPeriod);
     layOut();
     showTemperature();
-    updateBoth();
+    if (!updateBoth())
+        handOver(device);
     updateStatus();
     information->adjust(array);
 }
 
 void OrvCamConfigPrivate::getNeededParams()
 {
-    frameSelector = array->GetEnum(nameOfSelector);
+    frameSelector = array->GetEnum("FrameAB_Selector");
     frameModeParam = array->GetEnum("FrameMode");
     temperature = array->GetInt("CurrentTemperature");
     exposureTime = array->GetInt("CurrentExposureTime");
@@ -431,8 +429,13 @@ void OrvCamConfigPrivate::refreshFrames()
         return;
     if (!isFrameABSupported)
         return updateFrame(FrameA);
-    if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false))
-        return updateBoth();
+    if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false)) {
+        if (!updateBoth()) {
+            handOver(device);
+            emit q->deviceChanged(device);
+        }
+        return;
+    }
     // What the camera tells is of the selected frame; the other column keeps what it shows.
     const bool isWanted =
         frameMode == BothFrames || (frameMode == OnlyFrameA) == (selectedFrame == FrameA);
@@ -461,30 +464,23 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
     column.exposure->setText(numberOf(exposureTime));
 }
 
-void OrvCamConfigPrivate::updateBoth()
+/// False when the camera stays with the other frame, of which only this window knows then.
+bool OrvCamConfigPrivate::updateBoth()
 {
     const Frame first = selectedFrame;
     updateFrame(first);
     const QByteArray selected = frameSelector ? symbolicOf(frameSelector) : QByteArray();
-    if (selected.isEmpty() || visit(first == FrameA ? FrameB : FrameA, selected))
-        return;
-    // The camera stays with the other frame, which nobody has taken notice of.
-    GenApi::INodeMap *nodeMap = array->GetNodeMap();
-    if (GenApi::INode *node = nodeMap ? nodeMap->GetNode(nameOfSelector) : nullptr)
-        node->InvalidateNode();
-}
-
-/// False when there is no way back.
-bool OrvCamConfigPrivate::visit(Frame frame, const QByteArray &back)
-{
+    if (selected.isEmpty())
+        return true;
     const SelectorDetour detour;
     const auto select = [this](const char *name) {
         return frameSelector->SetSymbolicValue(name) == OrvCam::Success;
     };
-    if (!select(frame == FrameA ? nameOfFrameA : nameOfFrameB))
+    const bool isA = first == FrameA;
+    if (!select(isA ? nameOfFrameB : nameOfFrameA))
         return true;
-    updateFrame(frame);
-    return select(back.constData()) || select(back.constData());
+    updateFrame(isA ? FrameB : FrameA);
+    return select(selected.constData()) || select(selected.constData());
 }
 
 void OrvCamConfigPrivate::updateStatus()

@@ -50,7 +50,8 @@ public:
 
 Q_SIGNALS:
     /// What `device` answers has changed, or it is the same device with other parameters, for it
-    /// was unplugged. Give up everything of the former device: it may be released next.
+    /// was unplugged, or with a frame selector that could not be moved back. Give up everything of
+    /// the former device: it may be released next.
     void deviceChanged(OrvCam::Device *device);
 
     /// The window has given up a device that it was given, because the user has disconnected it or
