@@ -502,7 +502,7 @@ void TestOrvCamConfigMainWindow::cameraWithOneFrame()
 void TestOrvCamConfigMainWindow::information()
 {
     OrvGenApi::MemoryNodeMap map;
-    map.addString("DeviceModelName", "<b>Ünit</b>");
+    map.addString("DeviceModelName", "\"Ü\" & Söhne");
     map.addString("SensorType", "CMOS").setAccessMode(GenApi::NI);
     map.addInteger("FirmwareVersion", 0x1234);
     map.addString("FpgaID", "not a number");
@@ -513,7 +513,7 @@ void TestOrvCamConfigMainWindow::information()
     QVERIFY(about.isVisible());
     const auto text = [&](const char *label) { return child<QLabel>(about, label).text(); };
     QCOMPARE(text("lblAppVersion"), QString("1.3.0 (build 2230) "));
-    QCOMPARE(text("lblDeviceModelName"), QString::fromUtf8("<b>Ünit</b>"));
+    QCOMPARE(text("lblDeviceModelName"), QString::fromUtf8("\"Ü\" & Söhne"));
     QCOMPARE(child<QLabel>(about, "lblDeviceModelName").textFormat(), Qt::PlainText);
     QCOMPARE(text("lblFirmwareVersion"), QString("4660"));
     QCOMPARE(text("lblSensorType"), QString("N/A"));

@@ -723,12 +723,14 @@ void TestOrvCamConfigMapper::entries()
         "Quelle", {{"Auto", values[0]}, {"Mono", values[1]}, {"Bunt", values[2]}}, values[2]);
     OrvGenParam::NodeMapArray oddArray(odd);
     map(oddArray);
+    const ErrorBoxes boxes;
     for (int i : {2, 0, 1}) {
         oddChoice.change(values[i]);
         QCOMPARE(group->checkedButton(), group->buttons()[i]);
         click(group->buttons()[(i + 1) % 3]);
         QCOMPARE(oddArray.GetEnum("Quelle")->GetIntValue(), int64_t(values[(i + 1) % 3]));
     }
+    QCOMPARE(boxes.texts, QStringList());
     oddChoice.entry("Bunt").setAccessMode(GenApi::NA);
     oddChoice.changed();
     QVERIFY(group->buttons()[1]->isEnabled() && !group->buttons()[2]->isEnabled());
