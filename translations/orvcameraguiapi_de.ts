@@ -285,6 +285,14 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
         <source>Only the tree can be printed: use --list-features without --window.</source>
         <translation>Nur der Baum kann ausgegeben werden: --list-features steht ohne --window.</translation>
     </message>
+    <message>
+        <source>Print this help and exit.</source>
+        <translation>Diese Hilfe ausgeben und beenden.</translation>
+    </message>
+    <message>
+        <source>The option &apos;--%1&apos; needs a value.</source>
+        <translation>Die Option „--%1“ braucht einen Wert.</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigAboutDialog</name>

@@ -285,6 +285,14 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
         <source>Only the tree can be printed: use --list-features without --window.</source>
         <translation>出力できるのはツリーのみです。--list-features は --window なしで指定してください。</translation>
     </message>
+    <message>
+        <source>Print this help and exit.</source>
+        <translation>このヘルプを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>The option &apos;--%1&apos; needs a value.</source>
+        <translation>オプション「--%1」には値が必要です。</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigAboutDialog</name>

@@ -44,8 +44,10 @@ std::vector<OrvCam::DeviceInfo *> foundCameras(OrvCam::Interface &interface)
 
 bool isCalled(const OrvCam::DeviceInfo &info, const QString &name)
 {
-    for (const char *text :
-         {info.GetId(), info.GetSerial(), info.GetUserName(), info.GetDisplayName()}) {
+    // A MAC address is written in either case.
+    if (name.compare(QString::fromUtf8(info.GetId()), Qt::CaseInsensitive) == 0)
+        return true;
+    for (const char *text : {info.GetSerial(), info.GetUserName(), info.GetDisplayName()}) {
         if (text && name == QString::fromUtf8(text))
             return true;
     }

@@ -10,6 +10,8 @@
 #include <QSettings>
 #include <QTreeView>
 
+#include <stdexcept>
+
 namespace {
 
 const char configurationPlace[] = "configuration/geometry";
@@ -70,11 +72,21 @@ void CameraWindows::follow(OrvCam::Device *device)
         return;
     }
     m_tree.setParams(device->GetParamArray());
+    unfoldTree();
+    m_tree.setWindowTitle(QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName()));
+}
+
+void CameraWindows::unfoldTree()
+{
+    try {
+        // Only the level that the first time brings has all the categories that were unfolded.
+        for (int time = 0; time < 2; ++time)
+            m_tree.loadState(m_treeState.constData());
+    } catch (const std::logic_error &) {
+        m_treeState.clear(); // the settings are damaged
+    }
     if (m_treeState.isEmpty())
         m_tree.treeView()->expandToDepth(0);
-    else
-        m_tree.loadState(m_treeState.constData());
-    m_tree.setWindowTitle(QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName()));
 }
 
 bool CameraWindows::eventFilter(QObject *watched, QEvent *event)

@@ -37,6 +37,7 @@ protected:
 
 private:
     void follow(OrvCam::Device *device);
+    void unfoldTree();
     void restore();
     void save();
 

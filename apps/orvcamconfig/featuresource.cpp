@@ -32,13 +32,12 @@ private:
 class CameraSource : public FeatureSource
 {
 public:
-    explicit CameraSource(Released<OrvCam::Device> device) : m_device(std::move(device)) {}
-
-    GenApi::INodeMap *nodeMap() const override
+    CameraSource(Released<OrvCam::Device> device, GenApi::INodeMap *map)
+        : m_device(std::move(device)), m_map(map)
     {
-        OrvGenParam::Array *array = m_device->GetParamArray();
-        return array ? array->GetNodeMap() : nullptr;
     }
+
+    GenApi::INodeMap *nodeMap() const override { return m_map; }
     QString title() const override
     {
         return QString::fromUtf8(m_device->GetDeviceInfo()->GetDisplayName());
@@ -46,6 +45,7 @@ public:
 
 private:
     Released<OrvCam::Device> m_device;
+    GenApi::INodeMap *const m_map; ///< the device's, also after the camera has vanished
 };
 
 QString reason(int32_t code)
@@ -68,6 +68,12 @@ QString reason(int32_t code)
     }
 }
 
+QString failure(const OrvCam::DeviceInfo &camera, int32_t code)
+{
+    return FeatureSource::tr("The camera '%1' cannot be opened: %2.")
+        .arg(QString::fromUtf8(camera.GetId()), reason(code));
+}
+
 } // namespace
 
 Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
@@ -75,15 +81,25 @@ Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
     int32_t code = OrvCam::Success;
     Released<OrvCam::Device> device(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessControl));
     if (!device)
-        *error = FeatureSource::tr("The camera '%1' cannot be opened: %2.")
-                     .arg(QString::fromUtf8(camera.GetId()), reason(code));
+        *error = failure(camera, code);
     return device;
 }
 
 std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
 {
     Released<OrvCam::Device> device = openDevice(camera, error);
-    return device ? std::make_unique<CameraSource>(std::move(device)) : nullptr;
+    return device ? ofDevice(std::move(device), error) : nullptr;
+}
+
+std::unique_ptr<FeatureSource> FeatureSource::ofDevice(Released<OrvCam::Device> device,
+                                                       QString *error)
+{
+    OrvGenParam::Array *array = device->GetParamArray();
+    GenApi::INodeMap *map = array ? array->GetNodeMap() : nullptr;
+    if (map)
+        return std::make_unique<CameraSource>(std::move(device), map);
+    *error = failure(*device->GetDeviceInfo(), OrvCam::ErrorGone);
+    return nullptr;
 }
 
 std::unique_ptr<FeatureSource> FeatureSource::openDescription(const QString &fileName,

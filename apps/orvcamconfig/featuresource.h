@@ -22,6 +22,7 @@ class FeatureSource
 public:
     virtual ~FeatureSource() = default;
 
+    /// Never null.
     virtual GenApi::INodeMap *nodeMap() const = 0;
 
     /// Where the features come from, for a window's title.
@@ -29,6 +30,10 @@ public:
 
     /// Opens a camera, whose system must outlive it. Null on failure, with `error` one line.
     static std::unique_ptr<FeatureSource> openCamera(OrvCam::DeviceInfo &camera, QString *error);
+
+    /// Takes over an opened camera, whose system must outlive it. Null when it has vanished
+    /// meanwhile, with `error` one line.
+    static std::unique_ptr<FeatureSource> ofDevice(Released<OrvCam::Device> device, QString *error);
 
     /// Reads a description. Null on failure, with `error` one line.
     static std::unique_ptr<FeatureSource> openDescription(const QString &fileName, QString *error);

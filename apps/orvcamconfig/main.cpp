@@ -18,7 +18,6 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include <cstring>
 #include <memory>
 
 namespace {
@@ -31,13 +30,12 @@ int fail(ExitStatus status, const QString &message)
     return status;
 }
 
-bool isGiven(int argc, char **argv, const char *option)
+/// Ends the program for help and version. Needs no display, whatever is asked for.
+Options readOptions(int argc, char **argv, QString *error)
 {
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], option) == 0)
-            return true;
-    }
-    return false;
+    QCoreApplication application(argc, argv);
+    translate(application);
+    return Options::fromArguments(QCoreApplication::arguments(), error);
 }
 
 /// Text needs no display, nor the session that Qt would miss with a complaint.
@@ -195,25 +193,21 @@ int run(const Options &options)
 
 int main(int argc, char **argv)
 {
-    std::unique_ptr<QTemporaryDir> runtimeFolder;
-    const bool isText = isGiven(argc, argv, "--list-features") ||
-                        isGiven(argc, argv, "--list-cameras") || isGiven(argc, argv, "--help") ||
-                        isGiven(argc, argv, "-h") || isGiven(argc, argv, "--version");
-    if (isText)
-        runtimeFolder = goWithoutDisplay();
-
-    QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("orvcamconfig")); // names the settings' folder
     QApplication::setApplicationName(QStringLiteral("orvcamconfig"));
-    QApplication::setDesktopFileName(QStringLiteral("orvcamconfig"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/res/orvicon.ico")));
     QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
 
-    translate(application);
-
     QString error;
-    const Options options = Options::fromArguments(QApplication::arguments(), &error);
+    const Options options = readOptions(argc, argv, &error);
     if (!error.isEmpty())
         return fail(WrongUsage, error);
+
+    std::unique_ptr<QTemporaryDir> runtimeFolder;
+    if (options.listFeatures || options.listCameras)
+        runtimeFolder = goWithoutDisplay();
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral("orvcamconfig"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/res/orvicon.ico")));
+    translate(application);
     return run(options);
 }

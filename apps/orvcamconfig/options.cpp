@@ -3,6 +3,41 @@
 
 #include <QCommandLineParser>
 
+namespace {
+
+/// Has the parser pass over what Qt takes from the command line by itself.
+void addOptionsOfQt(QCommandLineParser &parser)
+{
+    const auto add = [&parser](const char *name, const QString &value) {
+        QCommandLineOption option(QString::fromLatin1(name), QString(), value);
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+    };
+    for (const char *name : {"dograb", "nograb", "reverse", "widgetcount"})
+        add(name, QString());
+    for (const char *name :
+         {"display", "geometry", "icon", "name", "platform", "platformpluginpath", "platformtheme",
+          "plugin", "qwindowgeometry", "qwindowicon", "qwindowtitle", "session", "style",
+          "stylesheet", "title", "visual"})
+        add(name, QStringLiteral("VALUE"));
+    // With one hyphen or two.
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+}
+
+/// The first option that lacks the value it needs.
+QString optionWithoutValue(const QCommandLineParser &parser,
+                           const QList<QCommandLineOption> &options)
+{
+    for (const QCommandLineOption &option : options) {
+        const bool needsValue = !option.valueName().isEmpty();
+        if (needsValue && parser.isSet(option) && parser.value(option).isEmpty())
+            return option.names().first();
+    }
+    return QString();
+}
+
+} // namespace
+
 Options Options::fromArguments(const QStringList &arguments, QString *error)
 {
     const QStringList levels = {QStringLiteral("basic"), QStringLiteral("expert"),
@@ -44,9 +79,15 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
     parser.setApplicationDescription(
         tr("Shows and changes the features of a camera, which is picked first.\n"
            "Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage."));
-    parser.addOptions({simulate, camera, xml, window, listCameras, list, visibility, screenshot});
-    const QCommandLineOption help = parser.addHelpOption();
+    const QList<QCommandLineOption> own = {simulate,    camera, xml,        window,
+                                           listCameras, list,   visibility, screenshot};
+    parser.addOptions(own);
+    const QCommandLineOption help(
+        {QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("help-all")},
+        tr("Print this help and exit."));
+    parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
+    addOptionsOfQt(parser);
 
     Options options;
     if (!parser.parse(arguments)) {
@@ -74,7 +115,10 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
     else if (wanted == QLatin1String("main") || (wanted.isEmpty() && !isTree))
         options.window = Window::Main;
 
-    if (!parser.positionalArguments().isEmpty())
+    const QString valueless = optionWithoutValue(parser, own);
+    if (!valueless.isEmpty())
+        *error = tr("The option '--%1' needs a value.").arg(valueless);
+    else if (!parser.positionalArguments().isEmpty())
         *error = tr("There is no option '%1'.").arg(parser.positionalArguments().first());
     else if (options.visibility < 0)
         *error = tr("There is no visibility '%1'; use basic, expert or guru.")

@@ -38,8 +38,10 @@ TwoTrees::TwoTrees(OrvGenParam::Array *left, OrvGenParam::Array *right, QSetting
 
 void TwoTrees::restore(OrvGui::OrvGenParamTreeView &tree, const QString &key)
 {
+    const QByteArray state = m_settings.value(key).toByteArray();
     try {
-        tree.loadState(m_settings.value(key).toByteArray().constData());
+        tree.loadState(state.constData()); // the level first:
+        tree.loadState(state.constData()); // what was expanded may not be shown at another one
     } catch (const std::logic_error &) {
         // Somebody has edited the settings; the tree looks as it does without them.
     }

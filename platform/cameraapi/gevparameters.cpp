@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "gevparameters.h"
 
+#include <algorithm>
+#include <utility>
+
 using namespace OrvGenApi;
 
 namespace OrvCam {
@@ -23,6 +26,9 @@ namespace {
         throw GenICam::RuntimeException("The address could not be set", __FILE__, __LINE__);
     }
 }
+
+/// Of "DeviceSelector", when the selected camera is gone.
+constexpr int64_t noRow = -1;
 
 } // namespace
 
@@ -109,7 +115,9 @@ void GevParameters::addForced(const char *name, uint32_t GevAddresses::*part)
 GevAddresses GevParameters::selected() const
 {
     const auto row = static_cast<std::size_t>(m_row);
-    return row < m_cameras.size() ? m_cameras[row] : GevAddresses();
+    if (row >= m_cameras.size())
+        throw GenICam::AccessException("The selected camera is gone", __FILE__, __LINE__);
+    return m_cameras[row];
 }
 
 GevAddresses GevParameters::forced() const
@@ -129,11 +137,12 @@ void GevParameters::force()
 
 void GevParameters::networkChanged()
 {
-    m_cameras = m_network.cameras();
+    const std::vector<GevAddresses> former = std::exchange(m_cameras, m_network.cameras());
     const auto count = static_cast<int64_t>(m_cameras.size());
     m_selector->setLimits(0, count ? count - 1 : 0);
-    if (m_row >= count)
-        m_selector->change(0);
+    const auto row = static_cast<std::size_t>(m_row);
+    if (row < former.size())
+        follow(former[row].mac);
     m_selector->setAccessMode(count ? GenApi::RW : GenApi::NA);
     for (MemoryInteger *node : m_cameraNodes)
         node->setAccessMode(count ? GenApi::RO : GenApi::NA);
@@ -142,6 +151,17 @@ void GevParameters::networkChanged()
     m_command->setAccessMode(count ? GenApi::WO : GenApi::NA);
     for (MemoryInteger *node : m_adapterNodes)
         node->changed();
+}
+
+/// Keeps a camera selected, wherever it is listed now. No other one takes its place unasked.
+void GevParameters::follow(uint64_t mac)
+{
+    const auto camera =
+        std::find_if(m_cameras.begin(), m_cameras.end(),
+                     [mac](const GevAddresses &candidate) { return candidate.mac == mac; });
+    const int64_t row = camera == m_cameras.end() ? noRow : camera - m_cameras.begin();
+    if (row != m_row)
+        m_selector->change(row);
 }
 
 } // namespace OrvCam

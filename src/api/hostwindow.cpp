@@ -3,6 +3,7 @@
 
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <xcb/xcb.h>
 
@@ -29,8 +30,12 @@ HostWindow::HostWindow(unsigned long window, QObject *parent)
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
         return;
     m_connection = xcb_connect(nullptr, nullptr);
-    if (!xcb_connection_has_error(m_connection))
-        listen();
+    if (xcb_connection_has_error(m_connection)) {
+        xcb_disconnect(m_connection);
+        m_connection = nullptr;
+        return;
+    }
+    listen();
 }
 
 HostWindow::~HostWindow()
@@ -71,6 +76,8 @@ void HostWindow::listen()
         if (xcb_connection_has_error(m_connection))
             notifier->setEnabled(false);
     });
+    // The notifier misses what is read along with the answer to a question, such as the first size.
+    QTimer::singleShot(0, this, &HostWindow::readEvents);
 }
 
 void HostWindow::readEvents()

@@ -8,6 +8,7 @@
 
 #include <GenApi/GenApi.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
@@ -48,16 +49,6 @@ bool wasClosed(const QComboBox *comboBox)
 {
     // Before it is shown for the first time, a widget is hidden, too, but not on purpose.
     return comboBox->isHidden() && comboBox->testAttribute(Qt::WA_WState_ExplicitShowHide);
-}
-
-void openAt(QComboBox *comboBox, const QVariant &value)
-{
-    const QPointer<QComboBox> alive(comboBox);
-    comboBox->setCurrentIndex(comboBox->findData(value, Qt::UserRole));
-    // The new index may have ended the editing. And while a choice is being written, the change of
-    // the node leads here, but the list must not open once more.
-    if (alive && !comboBox->isWindowModified() && !wasClosed(comboBox))
-        comboBox->showPopup();
 }
 
 } // namespace
@@ -269,6 +260,22 @@ QWidget *GenParamDelegate::createIPAddressEditor(QWidget *parent,
     return lineEdit;
 }
 
+void GenParamDelegate::openList(QComboBox *comboBox)
+{
+    // While a choice is being written, the change of the node leads here, but the list must not
+    // open once more. And opening an open one would take back where the user is in it.
+    if (!comboBox->isWindowModified() && !wasClosed(comboBox) && !comboBox->view()->isVisible())
+        comboBox->showPopup();
+}
+
+void GenParamDelegate::openListAt(QComboBox *comboBox, const QVariant &value)
+{
+    const QPointer<QComboBox> alive(comboBox);
+    comboBox->setCurrentIndex(comboBox->findData(value, Qt::UserRole));
+    if (alive) // the new index may have ended the editing
+        openList(comboBox);
+}
+
 void GenParamDelegate::setIntegerEditorData(QWidget *editor, const QModelIndex &index,
                                             const GenApi::CValuePtr &node) const
 {
@@ -280,7 +287,7 @@ void GenParamDelegate::setIntegerEditorData(QWidget *editor, const QModelIndex &
 
     if (integer->GetIncMode() == GenApi::listIncrement) {
         if (auto *comboBox = qobject_cast<QComboBox *>(editor))
-            openAt(comboBox, static_cast<qlonglong>(integer->GetValue(false, false)));
+            openListAt(comboBox, static_cast<qlonglong>(integer->GetValue(false, false)));
     } else if (auto *spinBox = qobject_cast<QSpinBox *>(editor)) {
         spinBox->setValue(static_cast<int>(integer->GetValue(false, false)));
     }
@@ -295,7 +302,7 @@ void GenParamDelegate::setFloatEditorData(QWidget *editor, const QModelIndex &in
         return;
     if (number->GetIncMode() == GenApi::listIncrement) {
         if (auto *comboBox = qobject_cast<QComboBox *>(editor))
-            openAt(comboBox, number->GetValue(false, false));
+            openListAt(comboBox, number->GetValue(false, false));
     } else if (auto *spinBox = qobject_cast<QDoubleSpinBox *>(editor)) {
         spinBox->setValue(number->GetValue(false, false));
     }
@@ -308,7 +315,7 @@ void GenParamDelegate::setBooleanEditorData(QWidget *editor, const QModelIndex &
     const GenApi::CBooleanPtr boolean(node);
     auto *comboBox = qobject_cast<QComboBox *>(editor);
     if (boolean && comboBox)
-        openAt(comboBox, boolean->GetValue(false, false));
+        openListAt(comboBox, boolean->GetValue(false, false));
 }
 
 void GenParamDelegate::setEnumerationEditorData(QWidget *editor, const QModelIndex &index,
@@ -318,7 +325,7 @@ void GenParamDelegate::setEnumerationEditorData(QWidget *editor, const QModelInd
     const GenApi::CEnumerationPtr enumeration(node);
     auto *comboBox = qobject_cast<QComboBox *>(editor);
     if (enumeration && comboBox)
-        openAt(comboBox, static_cast<qlonglong>(enumeration->GetIntValue(false, false)));
+        openListAt(comboBox, static_cast<qlonglong>(enumeration->GetIntValue(false, false)));
 }
 
 void GenParamDelegate::setIPAddressEditorData(QWidget *editor, const QModelIndex &index,

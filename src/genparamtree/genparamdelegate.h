@@ -32,6 +32,10 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
+protected:
+    /// Shows the list of entries, unless it is open or the choice is made already.
+    static void openList(QComboBox *comboBox);
+
 private:
     class MouseTracker;
     typedef QList<std::pair<QString, QVariant>> ComboBoxEntries;
@@ -60,6 +64,7 @@ private:
     void setIPAddressEditorData(QWidget *editor, const QModelIndex &index,
                                 const GenApi::CValuePtr &node) const;
 
+    static void openListAt(QComboBox *comboBox, const QVariant &value);
     QComboBox *createComboBox(QWidget *parent, const ComboBoxEntries &entries) const;
     void captureMouseForEditor(QWidget *editor) const;
 };

@@ -337,8 +337,13 @@ bool GenParamTreeModelPrivate::write(GenApi::IValue *value, const QVariant &data
 
 GenParamTreeModel::ParentTable::ParentTable(const GenParamTreeModel &model) : m_model(model)
 {
-    if (const GenApi::CCategoryPtr root = model.d->CategoryFromIndex(QModelIndex()))
-        model.d->fillParents(*root, nullptr, -1);
+    try {
+        if (const GenApi::CCategoryPtr root = model.d->CategoryFromIndex(QModelIndex()))
+            model.d->fillParents(*root, nullptr, -1);
+    } catch (...) {
+        model.d->parents.clear();
+        throw;
+    }
 }
 
 GenParamTreeModel::ParentTable::~ParentTable()

@@ -9,7 +9,12 @@
 
 #include <GenApi/GenApi.h>
 
+#include <QComboBox>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPointer>
+#include <QSignalBlocker>
 #include <QSplitter>
 
 #include <cstddef>
@@ -25,6 +30,9 @@ const char pathEnd[] = "&lt;";
 const char widthMark[] = "&amp;W";
 const char visibilityMark[] = "&amp;V";
 const char pathSeparator[] = "/";
+
+/// The property of an editor that holds what the tree has filled it with.
+const char knownContent[] = "knownContent";
 
 const int nameColumn = 0;
 const int valueColumn = 1;
@@ -59,7 +67,8 @@ bool numberAfter(const std::string &text, const std::string &mark, int *number)
     return true;
 }
 
-/// Keeps the failure of a node that is about to be edited out of Qt's event loop, which cannot
+/// The editors of the tree, which opens one wherever the current cell goes: only what the user has
+/// changed is written. And the failure of a node is kept out of Qt's event loop, which cannot
 /// handle it: such a node gets no editor, or one without its current value.
 class SafeDelegate : public GenParamDelegate
 {
@@ -70,7 +79,10 @@ public:
                           const QModelIndex &index) const override
     {
         try {
-            return GenParamDelegate::createEditor(parent, option, index);
+            QWidget *editor = GenParamDelegate::createEditor(parent, option, index);
+            if (editor)
+                prepare(editor);
+            return editor;
         } catch (const GenICam::GenericException &) {
             return nullptr;
         }
@@ -78,10 +90,72 @@ public:
 
     void setEditorData(QWidget *editor, const QModelIndex &index) const override
     {
-        try {
-            GenParamDelegate::setEditorData(editor, index);
-        } catch (const GenICam::GenericException &) {
+        const QPointer<QWidget> alive(editor);
+        if (fill(editor, index)) {
+            if (alive)
+                rememberContent(editor);
+        } else if (auto *comboBox = qobject_cast<QComboBox *>(alive.data())) {
+            openList(comboBox);
         }
+    }
+
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override
+    {
+        if (isChanged(editor))
+            GenParamDelegate::setModelData(editor, model, index);
+    }
+
+private:
+    /// Until it is filled, a list has no current entry: any choice is a change then.
+    static void prepare(QWidget *editor)
+    {
+        if (auto *comboBox = qobject_cast<QComboBox *>(editor)) {
+            const QSignalBlocker blocker(comboBox);
+            comboBox->setCurrentIndex(-1);
+        }
+        rememberContent(editor);
+
+        auto *lineEdit = qobject_cast<QLineEdit *>(editor);
+        if (!lineEdit)
+            lineEdit = editor->findChild<QLineEdit *>();
+        if (!lineEdit)
+            return;
+        // Who types what was there already wants it written.
+        connect(lineEdit, &QLineEdit::textEdited, editor, [lineEdit, editor] {
+            if (lineEdit->hasAcceptableInput())
+                editor->setProperty(knownContent, QVariant());
+        });
+    }
+
+    /// False, and the editor as it was, when there is no value to fill it with.
+    bool fill(QWidget *editor, const QModelIndex &index) const
+    {
+        try {
+            // The model has a text in place of a value that is not readable.
+            if (!GenApi::IsReadable(valueOf(index)->GetAccessMode()))
+                return false;
+            GenParamDelegate::setEditorData(editor, index);
+            return true;
+        } catch (const GenICam::GenericException &) {
+            return false;
+        }
+    }
+
+    static QVariant content(const QWidget *editor)
+    {
+        return editor->metaObject()->userProperty().read(editor);
+    }
+
+    static void rememberContent(QWidget *editor)
+    {
+        editor->setProperty(knownContent, content(editor));
+    }
+
+    static bool isChanged(const QWidget *editor)
+    {
+        const QVariant known = editor->property(knownContent);
+        return editor->isWindowModified() || !known.isValid() || content(editor) != known;
     }
 };
 
@@ -99,7 +173,10 @@ public:
     template<typename Source>
     void setModel(Source *source);
     void setModel(std::nullptr_t);
+    void installModel(QAbstractItemModel *model);
     void setSpanForChildren(const QModelIndex &parent);
+    void applyLevel();
+    bool endEditing();
     void forgetExpandedLeaves(const QModelIndex &parent);
     void describeCurrent();
 
@@ -159,12 +236,27 @@ void OrvGenParamTreeViewPrivate::setModel(std::nullptr_t)
     QAbstractItemModel *model = ui->treeView->model();
     if (model) {
         // Taking the model away closes the editor before anything that it shows is gone.
-        QItemSelectionModel *selectionModel = ui->treeView->selectionModel();
-        ui->treeView->setModel(nullptr);
-        delete selectionModel;
+        installModel(nullptr);
         delete model;
     }
     ui->whatsThisLabel->setText(QString());
+}
+
+// With every model, even with none, Qt makes selection models for the tree and for its header, and
+// leaves those that it no longer uses where they are.
+void OrvGenParamTreeViewPrivate::installModel(QAbstractItemModel *model)
+{
+    QTreeView *tree = ui->treeView;
+    tree->setModel(model);
+    for (const QWidget *view :
+         {static_cast<QWidget *>(tree), static_cast<QWidget *>(tree->header())}) {
+        for (auto *selection :
+             view->findChildren<QItemSelectionModel *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (selection != tree->selectionModel() &&
+                selection != tree->header()->selectionModel())
+                delete selection;
+        }
+    }
 }
 
 template<typename Source>
@@ -177,15 +269,12 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     auto *proxy = new GenParamTreeVisibilityFilterProxyModel(q);
     proxy->setSourceModel(new GenParamTreeModel(source, proxy));
     proxy->setFilterVisibility(ui->cbVisibility->currentIndex());
-    ui->treeView->setModel(proxy);
+    installModel(proxy);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
     const auto levelChanged =
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
-    QObject::connect(ui->cbVisibility, levelChanged, proxy,
-                     [this] { forgetExpandedLeaves(QModelIndex()); });
-    QObject::connect(ui->cbVisibility, levelChanged, proxy,
-                     &GenParamTreeVisibilityFilterProxyModel::setFilterVisibility);
+    QObject::connect(ui->cbVisibility, levelChanged, proxy, [this] { applyLevel(); });
     halveColumns();
     setSpanForChildren(QModelIndex());
 }
@@ -201,6 +290,41 @@ void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
         ui->treeView->setFirstColumnSpanned(row, parent, true);
         setSpanForChildren(index);
     }
+}
+
+void OrvGenParamTreeViewPrivate::applyLevel()
+{
+    if (!endEditing())
+        return;
+    forgetExpandedLeaves(QModelIndex());
+    static_cast<GenParamTreeVisibilityFilterProxyModel *>(ui->treeView->model())
+        ->setFilterVisibility(ui->cbVisibility->currentIndex());
+    // When a whole category goes, the current row goes without a signal.
+    describeCurrent();
+}
+
+// Writing a value while rows go makes the filter remove rows twice. And when the row of a current
+// value cell goes, its neighbour's becomes the current one, and edited. False when a host has
+// replaced the tree in reaction to what was written.
+bool OrvGenParamTreeViewPrivate::endEditing()
+{
+    QTreeView *tree = ui->treeView;
+    const QPointer<QAbstractItemModel> model(tree->model());
+    const QPersistentModelIndex current(tree->currentIndex());
+    if (current.column() != valueColumn)
+        return true;
+
+    const QPointer<QWidget> editor(tree->indexWidget(current));
+    QAbstractItemDelegate *delegate = tree->itemDelegateForColumn(valueColumn);
+    if (editor)
+        emit delegate->commitData(editor);
+    if (!model)
+        return false;
+    if (editor)
+        emit delegate->closeEditor(editor);
+    tree->selectionModel()->setCurrentIndex(current.sibling(current.row(), nameColumn),
+                                            QItemSelectionModel::NoUpdate);
+    return true;
 }
 
 // `QTreeView::expandAll` remembers leaves as expanded, too. That can be seen nowhere, but makes

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QStandardItemModel>
 
 #include <functional>
@@ -130,8 +131,11 @@ public:
 
     void setIp();
     bool ForceIP();
+    bool ForceIP(const QPointer<SetIpDialog> &dialog, OrvGenParam::Array &parameters);
     static bool fill(SetIpDialog &dialog, const OrvGenParam::Array &parameters);
     bool isWarningIgnored();
+    QMessageBox::StandardButton ask(const QString &title, const QString &text,
+                                    QMessageBox::StandardButtons buttons);
     static bool force(const SetIpDialog &dialog, OrvGenParam::Array &parameters);
 
     OrvCameraSelectorDialog *const q;
@@ -309,7 +313,7 @@ void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
 void OrvCameraSelectorDialogPrivate::setIp()
 {
     if (!ForceIP())
-        QMessageBox::critical(q, tr("Set IP Address"), tr("Can't set IP address"));
+        ask(tr("Set IP Address"), tr("Can't set IP address"), QMessageBox::Ok);
 }
 
 bool OrvCameraSelectorDialogPrivate::ForceIP()
@@ -321,14 +325,24 @@ bool OrvCameraSelectorDialogPrivate::ForceIP()
     if (!parameters)
         return false;
 
-    SetIpDialog dialog(q);
-    if (!fill(dialog, *parameters))
-        return false;
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer<SetIpDialog> dialog(new SetIpDialog(q));
+    const bool isFine = fill(*dialog, *parameters) && ForceIP(dialog, *parameters);
+    delete dialog;
+    return isFine;
+}
+
+/// While one of the dialogs is open the picker may be destroyed, and with it the dialogs and this
+/// object. That counts as cancelled.
+bool OrvCameraSelectorDialogPrivate::ForceIP(const QPointer<SetIpDialog> &dialog,
+                                             OrvGenParam::Array &parameters)
+{
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    if (!dialog || !isAccepted)
         return true;
-    if ((!dialog.isAddressValid() || !dialog.isMaskValid()) && !isWarningIgnored())
+    const bool fits = dialog->isAddressValid() && dialog->isMaskValid();
+    if (!fits && !isWarningIgnored())
         return true;
-    if (!force(dialog, *parameters))
+    if (!force(*dialog, parameters))
         return false;
     // Not followed by updateButtons(): what the last scan found out of the camera is outdated now,
     // and OK stays enabled.
@@ -360,14 +374,26 @@ bool OrvCameraSelectorDialogPrivate::fill(SetIpDialog &dialog, const OrvGenParam
 
 bool OrvCameraSelectorDialogPrivate::isWarningIgnored()
 {
-    QMessageBox warning(
-        QMessageBox::Critical, tr("IP Configuration Warning"),
-        tr("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
-           "Press OK to skip the IP Configuration, or press Ignore to confirm"),
-        QMessageBox::Ok | QMessageBox::Ignore, q);
-    warning.setDefaultButton(QMessageBox::Ok);
-    warning.setEscapeButton(QMessageBox::Ok);
-    return warning.exec() == QMessageBox::Ignore;
+    return ask(tr("IP Configuration Warning"),
+               tr("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
+                  "Press OK to skip the IP Configuration, or press Ignore to confirm"),
+               QMessageBox::Ok | QMessageBox::Ignore) == QMessageBox::Ignore;
+}
+
+/// OK is for those who only want to get on. No button when the picker is destroyed meanwhile.
+QMessageBox::StandardButton
+OrvCameraSelectorDialogPrivate::ask(const QString &title, const QString &text,
+                                    QMessageBox::StandardButtons buttons)
+{
+    const QPointer<QMessageBox> box(
+        new QMessageBox(QMessageBox::Critical, title, text, buttons, q));
+    box->setDefaultButton(QMessageBox::Ok);
+    box->setEscapeButton(QMessageBox::Ok);
+    const int pressed = box->exec();
+    if (!box)
+        return QMessageBox::NoButton;
+    delete box;
+    return static_cast<QMessageBox::StandardButton>(pressed);
 }
 
 bool OrvCameraSelectorDialogPrivate::force(const SetIpDialog &dialog,

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "camerawindows.h"
+#include "featuresource.h"
 #include "treecells.h"
 
 #include <OrvCam.h>
@@ -23,6 +24,23 @@ QAction &action(CameraWindows &windows, const char *name)
     return *found;
 }
 
+/// An opened camera that has vanished since.
+class Vanished final : public OrvCam::Device
+{
+public:
+    explicit Vanished(OrvCam::DeviceInfo *info) : m_info(info) {}
+
+    OrvGenParam::Array *GetParamArray(int32_t *) override { return nullptr; }
+    bool IsConnected() const override { return false; }
+    OrvCam::DeviceInfo *GetDeviceInfo() const override { return m_info; }
+    int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    void Release() override { delete this; }
+
+private:
+    OrvCam::DeviceInfo *const m_info;
+};
+
 } // namespace
 
 /// The program's windows on a simulated camera.
@@ -35,6 +53,8 @@ private slots:
     void showTheSameCamera();
     void followTheConfiguration();
     void rememberedFromRunToRun();
+    void damagedSettings();
+    void vanishedCamera();
 
 private:
     Released<OrvCam::Device> open()
@@ -109,15 +129,16 @@ void TestCameraWindows::rememberedFromRunToRun()
     const QTemporaryDir folder;
     QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
     QSize size;
+    QByteArray state;
     {
         CameraWindows windows(open(), &settings);
         windows.show();
         QVERIFY(windows.tree().isVisible());
-        windows.tree().setVisibility(OrvGui::Expert);
+        windows.tree().setVisibility(OrvGui::Guru);
         windows.tree().resize(500, 420);
-        windows.tree().treeView()->collapseAll();
-        QAbstractItemModel *model = windows.tree().treeView()->model();
-        windows.tree().treeView()->expand(model->index(2, 0));
+        windows.tree().treeView()->expandAll();
+        windows.tree().treeView()->collapse(windows.tree().treeView()->model()->index(2, 0));
+        state = windows.tree().saveState();
         windows.configuration().resize(444, 399);
         size = windows.configuration().size();
         action(windows, "actionPulse").trigger();
@@ -133,13 +154,31 @@ void TestCameraWindows::rememberedFromRunToRun()
     action(windows, "actionFeatureTree").trigger();
     QVERIFY(windows.tree().isVisible());
     QCOMPARE(windows.tree().size(), QSize(500, 420));
-    QCOMPARE(windows.tree().visibility(), OrvGui::Expert);
-    const QTreeView *view = windows.tree().treeView();
-    for (int row = 0; row < 5; ++row)
-        QCOMPARE(view->isExpanded(view->model()->index(row, 0)), row == 2);
+    QCOMPARE(QByteArray(windows.tree().saveState()), state);
     QCOMPARE(windows.configuration().size(), size);
     QVERIFY(!windows.configuration().findChild<QPushButton *>("pushBtnPulse")->isVisible());
     QVERIFY(windows.configuration().findChild<QPushButton *>("pushBtnColor")->isVisible());
+}
+
+void TestCameraWindows::damagedSettings()
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    for (const char *state : {"Device Control&lt;&amp;Wabc", "&amp;V99999999999"}) {
+        settings.setValue("tree/state", QByteArray(state));
+        CameraWindows windows(open(), &settings);
+        const QTreeView *view = windows.tree().treeView();
+        for (int row = 0; row < 5; ++row)
+            QVERIFY(view->isExpanded(view->model()->index(row, 0))); // as without any
+    }
+}
+
+void TestCameraWindows::vanishedCamera()
+{
+    QString error;
+    QVERIFY(!FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), &error));
+    QCOMPARE(error,
+             QString("The camera 'Simulated-SIM-0001' cannot be opened: it does not answer."));
 }
 
 QTEST_MAIN(TestCameraWindows)

@@ -11,9 +11,17 @@ struct Result
     QString err;
 };
 
-Result run(const QStringList &arguments)
+enum Display { NoDisplay, Offscreen };
+
+Result run(const QStringList &arguments, Display display = NoDisplay)
 {
     QProcess program;
+    if (display == NoDisplay) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+        program.setProcessEnvironment(environment);
+    }
     program.start(ORV_PROGRAM, arguments);
     Result result;
     if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
@@ -32,6 +40,7 @@ class TestOrvCamConfig : public QObject
     Q_OBJECT
 
 private slots:
+    void helpAndVersion();
     void listsFeatures_data();
     void listsFeatures();
     void listsCameras();
@@ -42,6 +51,17 @@ private slots:
 private:
     QTemporaryDir m_folder;
 };
+
+void TestOrvCamConfig::helpAndVersion()
+{
+    for (const char *option : {"-h", "--help", "--help-all", "-v", "--version"}) {
+        const Result result = run({option});
+        QVERIFY2(result.status == 0 && result.err.isEmpty(), option);
+        const bool isHelp = QByteArray(option).contains('h');
+        QVERIFY2(result.out.contains("--list-cameras") == isHelp, option);
+        QVERIFY2(result.out.startsWith(isHelp ? "Usage: " : "orvcamconfig "), option);
+    }
+}
 
 void TestOrvCamConfig::listsFeatures_data()
 {
@@ -86,7 +106,8 @@ void TestOrvCamConfig::listsCameras()
     for (const QString &line : lines)
         QCOMPARE(line.count('\t'), 3);
     // What comes first in a line names the camera for the other options; its serial number, too.
-    for (const QString &name : {lines.at(1).section('\t', 0, 0), QString("SIM-0002")}) {
+    const QString id = lines.at(1).section('\t', 0, 0);
+    for (const QString &name : {id, id.toLower(), QString("SIM-0002")}) {
         const Result named = run({"--simulate", "--list-features", "--camera", name});
         QVERIFY2(named.out.startsWith("Device Control\t\n  Device "), qPrintable(named.out));
         QVERIFY2(named.out.contains("Device Serial Number\tSIM-0002\n"), qPrintable(named.err));
@@ -109,6 +130,9 @@ void TestOrvCamConfig::failures_data()
     row("--simulate --list-cameras --camera a", 2, "--list-cameras");
     row("--simulate --window picker --camera Nobody", 1, nobody);
     row("--nonsense", 2, "nonsense");
+    for (const char *line : {"--xml ", "--screenshot ", "--camera ", "--list-features --xml="})
+        row(line, 2, "needs a value");
+    row("-platform offscreen --simulate --camera Nobody", 1, nobody); // an option of Qt's
     row("--simulate stray", 2, "stray");
     row("--simulate --visibility all", 2, "all");
     row("--simulate --xml a.xml", 2, "--xml");
@@ -123,7 +147,7 @@ void TestOrvCamConfig::failures()
     QFETCH(QStringList, arguments);
     QFETCH(int, status);
     QFETCH(QString, words);
-    const Result result = run(arguments);
+    const Result result = run(arguments, status == 2 ? NoDisplay : Offscreen);
     QCOMPARE(result.status, status);
     QCOMPARE(result.out, QString());
     QString line = result.err;
@@ -141,7 +165,7 @@ void TestOrvCamConfig::savesPictures()
     for (const QStringList &arguments : {QStringList({"--xml", ORV_SAMPLE}), picker,
                                          picker + QStringList({"--camera", "SIM-0002"})}) {
         const QString fileName = m_folder.filePath(QString::number(pictures.size()) + ".png");
-        const Result result = run(arguments + QStringList({"--screenshot", fileName}));
+        const Result result = run(arguments + QStringList({"--screenshot", fileName}), Offscreen);
         QCOMPARE(result.status, 0);
         const QImage picture(fileName);
         QVERIFY(picture.width() > 300 && picture.height() > 300);

@@ -281,7 +281,8 @@ void TestGigEVision::strangeAnswers()
     timer.start();
     const int found = static_cast<int>(camerasOf(*interface("orv0")).size());
     QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(count < 0 ? count : found, count);
+    if (count >= 0)
+        QCOMPARE(found, count);
 
     responder.setMood(Responder::Mood::Normal);
     QTRY_COMPARE(camerasOf(*interface("orv0")).size(), size_t(1));

@@ -456,10 +456,9 @@ void TestNodeMapArray::registrationsUnderLoad()
     });
     Sink steady;
     array.GetParam("Width")->RegisterEventSink(&steady);
-    int made = 0;
     QElapsedTimer timer;
     timer.start();
-    for (; !timer.hasExpired(300); ++made) {
+    for (int made = 0; !timer.hasExpired(300); ++made) {
         NodeMapArray passing(camera.map);
         Sink sink;
         passing.GetParam("Width")->RegisterEventSink(&sink);
@@ -471,7 +470,6 @@ void TestNodeMapArray::registrationsUnderLoad()
     changer.join();
     registrar.join();
     QTRY_VERIFY(steady.count > 0);
-    QVERIFY(made > 0);
 }
 
 QTEST_GUILESS_MAIN(TestNodeMapArray)

@@ -1,11 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "cameratestsupport.h"
 
+#include <cameraapi/gevparameters.h>
+
 #include <QtTest>
 
 #include <set>
 
 using namespace OrvCam;
+
+namespace {
+
+/// An interface that has the cameras it is told.
+struct Network : GevNetwork
+{
+    std::vector<GevAddresses> present;
+    uint64_t forced = 0; ///< the MAC address of the last camera that was given an address
+
+    GevAddresses adapter() const override { return {}; }
+    std::vector<GevAddresses> cameras() const override { return present; }
+    int32_t forceIp(const GevAddresses &wanted) override
+    {
+        forced = wanted.mac;
+        return Success;
+    }
+};
+
+} // namespace
 
 class TestSimulatedSystem : public QObject
 {
@@ -19,6 +40,7 @@ private slots:
     void camerasOfEverySort();
     void networkParameters();
     void forcedAddress();
+    void selectionFollowsItsCamera();
     void openAndClose();
     void refusals_data();
     void refusals();
@@ -166,6 +188,31 @@ void TestSimulatedSystem::forcedAddress()
     QCOMPARE(device->GetParamArray()->GetIntegerValue("GevCurrentIPAddress"), int64_t(0xC0000240));
 
     QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(ErrorAccessDenied));
+}
+
+// Somebody looks for cameras between a selection and what it was made for.
+void TestSimulatedSystem::selectionFollowsItsCamera()
+{
+    Network network;
+    network.present = {{1, 0xA, 0, 0}, {2, 0xB, 0, 0}};
+    GevParameters parameters(network);
+    OrvGenParam::Array &array = parameters.array();
+    QCOMPARE(array.SetIntegerValue("DeviceSelector", 1), int32_t(Success));
+    network.present.insert(network.present.begin(), {3, 0xC, 0, 0});
+    parameters.networkChanged();
+    QCOMPARE(array.GetIntegerValue("DeviceSelector"), int64_t(2));
+    QCOMPARE(array.GetIntegerValue("GevDeviceIPAddress"), int64_t(0xB));
+    QCOMPARE(array.ExecuteCommand("GevDeviceForceIP"), int32_t(Success));
+    QCOMPARE(network.forced, uint64_t(2));
+
+    // When it is gone, no other camera gets what was meant for it.
+    network.present.pop_back();
+    parameters.networkChanged();
+    QCOMPARE(array.SetIntegerValue("GevDeviceForceIPAddress", 1), int32_t(ErrorAccessDenied));
+    QCOMPARE(array.ExecuteCommand("GevDeviceForceIP"), int32_t(ErrorAccessDenied));
+    QCOMPARE(network.forced, uint64_t(2));
+    QCOMPARE(array.SetIntegerValue("DeviceSelector", 0), int32_t(Success));
+    QCOMPARE(array.GetIntegerValue("GevDeviceIPAddress"), int64_t(0xC));
 }
 
 void TestSimulatedSystem::openAndClose()

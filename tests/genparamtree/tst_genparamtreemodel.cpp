@@ -33,6 +33,20 @@ void collect(const QAbstractItemModel &model, const QModelIndex &parent, QModelI
     }
 }
 
+/// A category that may be unable to say what it contains.
+class SilentCategory : public OrvGenApi::MemoryCategory
+{
+public:
+    using MemoryCategory::MemoryCategory;
+    void GetFeatures(GenApi::FeatureList_t &features) const override
+    {
+        if (isSilent)
+            throwTimeout();
+        MemoryCategory::GetFeatures(features);
+    }
+    bool isSilent = false;
+};
+
 struct ValueCase
 {
     const char *feature = nullptr;
@@ -123,6 +137,10 @@ void TestGenParamTreeModel::parentTable()
 {
     SampleNodeMap map;
     map.addCategory("Favourites").addFeature(map.number("Gain"));
+    OrvGenApi::NodeProperties properties;
+    properties.name = "Silent";
+    SilentCategory silent(map, properties);
+    map.root().addFeature(silent);
     const GenParamTreeModel model(&map);
     QModelIndexList indexes;
     collect(model, QModelIndex(), indexes);
@@ -135,8 +153,15 @@ void TestGenParamTreeModel::parentTable()
         for (int i = 0; i < indexes.size(); ++i)
             QCOMPARE(indexes.at(i).parent(), parents.at(i));
     }
-    map.addInteger("Late", 1, "Favourites");
-    QCOMPARE(nameOf(valueCell(model, "Late").parent()), QString("Favourites"));
+    const auto moved = [&] { return nameOf(valueCell(model, "Gain").parent()); };
+    map.category("ImageFormatControl").addFeature(map.number("Gain"));
+    QCOMPARE(moved(), QString("Image Format Control"));
+
+    // One that could not be completed does not stay.
+    silent.isSilent = true;
+    QVERIFY_EXCEPTION_THROWN(GenParamTreeModel::ParentTable{model}, TimeoutException);
+    map.category("DeviceControl").addFeature(map.number("Gain"));
+    QCOMPARE(moved(), QString("Device Control"));
 }
 
 void TestGenParamTreeModel::names()

@@ -9,6 +9,7 @@
 #include <simulation/simulatedcamera.h>
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -17,7 +18,6 @@
 
 #include <memory>
 #include <numeric>
-#include <random>
 #include <stdexcept>
 #include <thread>
 
@@ -104,7 +104,8 @@ private slots:
     void choosing();
     void listOpensOnce();
     void escapeAndClickElsewhere();
-    void failingNode();
+    void untouchedEditors();
+    void levelWhileEditing();
 
     void dragging();
     void draggingLimits();
@@ -157,7 +158,10 @@ void TestOrvGenParamTreeView::levelsAndSpans()
 
     // A new tree is made at the level that is set, and spans all that is visible then.
     SampleNodeMap second;
+    const auto selections = [&] { return tree->findChildren<QItemSelectionModel *>().size(); };
+    const int before = selections();
     view.setParams(&second);
+    QCOMPARE(selections(), before);
     QVERIFY(driver.cell("FirmwareKey").isValid());
     QVERIFY(tree->isFirstColumnSpanned(0, driver.cell("TransportLayerControl", 0)));
     view.clearParams();
@@ -177,6 +181,11 @@ void TestOrvGenParamTreeView::description()
     driver.click("DeviceControl", 0);
     QVERIFY(panel->toPlainText().startsWith("Name: Device Control"));
     driver.tree().setCurrentIndex(QModelIndex());
+    QVERIFY(panel->toPlainText().isEmpty());
+    driver.click("GevMACAddress", 0);
+    QVERIFY(!panel->toPlainText().isEmpty());
+    shown.view.setVisibility(OrvGui::Basic);
+    QVERIFY(!driver.tree().currentIndex().isValid());
     QVERIFY(panel->toPlainText().isEmpty());
     driver.click("Width", 0);
     shown.view.clearParams();
@@ -308,10 +317,12 @@ void TestOrvGenParamTreeView::listOpensOnce()
         QPointer<QComboBox> comboBox(driver.editor<QComboBox>());
         QVERIFY(comboBox);
         ShowCounter counter(comboBox->view()->window());
+        driver.press(byCamera ? Qt::Key_Up : Qt::Key_Down);
+        map.enumeration("PixelFormat").changed(); // to what it was
+        QCOMPARE(comboBox->view()->currentIndex().row(), 1 - comboBox->currentIndex());
         if (byCamera) {
             map.enumeration("PixelFormat").change(0x01080001);
         } else {
-            driver.press(Qt::Key_Down);
             driver.press(Qt::Key_Return);
         }
         QVERIFY(!driver.isEditing());
@@ -361,18 +372,120 @@ void TestOrvGenParamTreeView::escapeAndClickElsewhere()
     QCOMPARE(width.GetValue(), int64_t(320));
 }
 
-// A node that fails gets no editor, and nothing worse happens.
-void TestOrvGenParamTreeView::failingNode()
+// Leaving an editor writes nothing unless its user did something, whether it could show the value
+// exactly, rounded or not at all. What it shows is written when it is typed or chosen nevertheless.
+void TestOrvGenParamTreeView::untouchedEditors()
 {
+    const auto fail = [] { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); };
     SampleNodeMap map;
+    auto &rounded = map.addFloat("Rounded", 0.125, "DeviceControl");
+    rounded.setLimits(0, 24);
+    auto &password = map.addString("Password", "secret", "DeviceControl");
+    auto &mode = map.addEnumeration("Mode", {{"A", 0}, {"B", 1}}, 1, "DeviceControl");
+    auto &flag = map.addBoolean("Flag", false, "DeviceControl");
+    password.setAccessMode(GenApi::WO);
+    mode.setAccessMode(GenApi::WO);
+    auto &address = map.integer("GevPersistentIPAddress");
+    auto &exposure = map.number("ExposureTime");
+    address.onRead(fail);
+    exposure.onRead(fail);
+    flag.onRead(fail);
+
+    struct Row
+    {
+        QByteArray feature, keys;
+        const char *after;
+        std::function<int()> writes;
+        std::function<QString()> value;
+    };
+    const auto of = [](auto &node, const char *keys, const char *after) {
+        const auto value = [&node] {
+            node.onRead({});
+            node.setAccessMode(GenApi::RW);
+            return QString(node.ToString().c_str());
+        };
+        return Row{node.GetName().c_str(), keys, after, [&node] { return node.writes(); }, value};
+    };
+    const Row rows[] = {of(rounded, "0.13", "0.13"),
+                        of(map.addInteger("Big", 1LL << 33, "DeviceControl"), "0", "0"),
+                        of(map.integer("FirmwareKey"), "0", "0"),
+                        of(password, "new", "new"),
+                        of(address, "10.0.0.1", "167772161"),
+                        of(exposure, "10", "10"),
+                        of(mode, "A", "A"),
+                        of(flag, "T", "1"),
+                        of(map.integer("BinningHorizontal"), "2", "2")};
     OrvGenParamTreeView view(&map, nullptr);
     TreeDriver driver(view);
     driver.show();
-    map.integer("Width").bindMax(
-        []() -> int64_t { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); });
+    for (const Row &row : rows) {
+        const QByteArray &feature = row.feature;
+        driver.click(feature);
+        QVERIFY2(driver.isEditing(), feature);
+        const bool isList = driver.editor<QComboBox>();
+        QCOMPARE(QApplication::activePopupWidget() != nullptr, isList);
+        if (isList)
+            driver.press(Qt::Key_Escape);
+        else
+            QVERIFY(!driver.editor<QLineEdit>()->text().contains("Value not"));
+        driver.click("DeviceControl", 0);
+        QTRY_VERIFY(!driver.isEditing());
+        QVERIFY2(row.writes() == 0, feature);
+
+        driver.click(feature);
+        driver.type(row.keys);
+        driver.press(Qt::Key_Return);
+        QTRY_VERIFY(!driver.isEditing());
+        QVERIFY2(row.writes() == 1, feature);
+        QCOMPARE(row.value(), QString(row.after));
+    }
+
+    // Without its limits, a number gets no editor.
+    map.integer("Width").bindMax([fail]() -> int64_t {
+        fail();
+        return 0;
+    });
     map.integer("Width").changed();
     driver.click("Width");
     QVERIFY(!driver.isEditing());
+}
+
+// A level that hides what is being edited: that is written, and its neighbours are left alone.
+void TestOrvGenParamTreeView::levelWhileEditing()
+{
+    OrvGenApi::MemoryNodeMap map("Levels");
+    SampleNodeMap next;
+    std::vector<OrvGenApi::MemoryInteger *> features;
+    for (int i = 0; i < 6; ++i) {
+        features.push_back(&map.addInteger("Feature" + std::to_string(i), i, "All"));
+        features.back()->setLimits(0, 100);
+        features.back()->properties().visibility = i % 5 ? GenApi::Guru : GenApi::Beginner;
+    }
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    const QAbstractItemModel &model = *driver.tree().model();
+    driver.click("Feature3");
+    driver.type("77");
+    view.setVisibility(OrvGui::Basic);
+    QVERIFY(!driver.isEditing());
+    QCOMPARE(model.rowCount(model.index(0, 0)), 2);
+    view.setVisibility(OrvGui::Guru);
+    QCOMPARE(model.rowCount(model.index(0, 0)), 6);
+    QVERIFY(!driver.isEditing());
+    for (const auto *feature : features)
+        QCOMPARE(feature->writes(), feature == features[3] ? 1 : 0);
+    QCOMPARE(features[3]->GetValue(), int64_t(77));
+
+    // A host may replace the tree in reaction to that.
+    const GenApi::CallbackHandleType handle = GenApi::Register(
+        features[3], [&](GenApi::INode *) { view.setParams(&next); }, GenApi::cbPostOutsideLock);
+    driver.click("Feature3");
+    driver.type("78");
+    view.setVisibility(OrvGui::Basic);
+    GenApi::Deregister(handle);
+    QCOMPARE(features[3]->GetValue(), int64_t(78));
+    QVERIFY(driver.cell("Width").isValid() && !driver.cell("FirmwareKey").isValid());
 }
 
 void TestOrvGenParamTreeView::dragging()
@@ -442,7 +555,6 @@ void TestOrvGenParamTreeView::savedState()
     view.setVisibility(OrvGui::Expert);
     QCOMPARE(view.saveState(), "Device Control&lt;Device Control/Transport Layer&lt;"
                                "Image Format Control&lt;&amp;W250&amp;V1");
-    QCOMPARE(QByteArray(view.saveState()), QByteArray(view.saveState()));
 
     // An expanded category in a collapsed one counts.
     tree->collapse(driver.cell("DeviceControl", 0));
@@ -509,14 +621,6 @@ void TestOrvGenParamTreeView::oddStates()
 
     QVERIFY_EXCEPTION_THROWN(view.loadState("&amp;Wide"), std::invalid_argument);
     QVERIFY_EXCEPTION_THROWN(view.loadState("&amp;V99999999999"), std::out_of_range);
-
-    std::mt19937 random(1);
-    std::string bytes(1 << 20, ' ');
-    for (char &byte : bytes)
-        byte = static_cast<char>(random() % 255 + 1);
-    view.loadState(bytes.c_str());
-    view.loadState((bytes + "&amp;W91").c_str());
-    QCOMPARE(view.treeView()->columnWidth(0), 91);
 }
 
 void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
@@ -531,7 +635,7 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
 }
 
 // The node map goes right after the tree has let go of it, with an edit begun and Return pressed,
-// which Qt acts upon only later.
+// which Qt acts upon only later. Whether anything touches it then is for the sanitizers to tell.
 void TestOrvGenParamTreeView::takenAwayWhileEditing()
 {
     QFETCH(QString, feature);

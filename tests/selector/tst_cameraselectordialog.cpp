@@ -34,6 +34,7 @@ private slots:
     void forcesAddress();
     void warnsOfBadAddress();
     void forcingFails();
+    void destroyedMeanwhile();
 
 private:
     void open();
@@ -83,6 +84,12 @@ ModalVisitor::Action message(const QString &title, const QString &text,
         QVERIFY(box.isModal());
         box.button(pressed)->click();
     };
+}
+
+void enterWrongAddress(QDialog &dialog)
+{
+    field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
+    dialog.accept();
 }
 
 ModalVisitor::Action failureMessage()
@@ -418,10 +425,6 @@ void TestCameraSelectorDialog::forcesAddress()
 
 void TestCameraSelectorDialog::warnsOfBadAddress()
 {
-    const ModalVisitor::Action wrongAddress = [](QDialog &dialog) {
-        field(dialog, "ipAddressLineEdit")->setText("10.0.0.1");
-        dialog.accept();
-    };
     const ModalVisitor::Action wrongMask = [](QDialog &dialog) {
         field(dialog, "subnetMaskLineEdit")->setText("255.255.255.128");
         dialog.accept();
@@ -429,7 +432,7 @@ void TestCameraSelectorDialog::warnsOfBadAddress()
     open();
     tree()->setCurrentIndex(networkCamera(0));
     const QStringList nothing = {"DeviceSelector=0"};
-    QVERIFY(force({wrongAddress, warning(QMessageBox::Ok)}));
+    QVERIFY(force({enterWrongAddress, warning(QMessageBox::Ok)}));
     QCOMPARE(m_parameters->writes, nothing);
     QVERIFY(force({wrongMask, [](QDialog &box) { QTest::keyClick(&box, Qt::Key_Escape); }}));
     QCOMPARE(m_parameters->writes, nothing);
@@ -447,9 +450,6 @@ void TestCameraSelectorDialog::forcingFails()
         int writes;
     } rows[] = {{"DeviceSelector", true, 1},
                 {"GevInterfaceMACAddress", true, 1},
-                {"GevInterfaceSubnetIPAddress", true, 1},
-                {"GevInterfaceSubnetMask", true, 1},
-                {"GevDeviceMACAddress", true, 1},
                 {"GevDeviceForceGateway", true, 1},
                 {"GevDeviceForceIPAddress", false, 2},
                 {"GevDeviceForceSubnetMask", false, 3},
@@ -470,6 +470,25 @@ void TestCameraSelectorDialog::forcingFails()
         QVERIFY2(force(dialogs), row.feature);
         QCOMPARE(m_parameters->writes.size(), row.writes);
         QVERIFY(!okButton()->isEnabled());
+    }
+}
+
+/// By its owner, while one of the picker's own dialogs is open.
+void TestCameraSelectorDialog::destroyedMeanwhile()
+{
+    const ModalVisitor::Action destroys = [this](QDialog &) { m_dialog.reset(); };
+    const struct
+    {
+        int32_t error;
+        QList<ModalVisitor::Action> dialogs;
+    } rows[] = {
+        {Success, {destroys}}, {Success, {enterWrongAddress, destroys}}, {ErrorFailed, {destroys}}};
+    for (const auto &row : rows) {
+        m_network->parametersError = row.error;
+        open();
+        tree()->setCurrentIndex(networkCamera(0));
+        QVERIFY(force(row.dialogs));
+        QVERIFY(!m_dialog && !m_parameters->writes.contains("GevDeviceForceIP"));
     }
 }
 

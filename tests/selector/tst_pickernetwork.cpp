@@ -24,10 +24,8 @@ private slots:
     void cleanupTestCase();
     void cleanup() { m_picker.reset(); }
     void showsBothAdapters();
-    void cameraOfAnotherProgram();
     void cameraStopsWhilePicking();
     void makesCameraReachable();
-    void cameraRefusesItsAddress();
 
 private:
     QTreeView *tree() const { return cameraTree(*m_picker); }
@@ -135,24 +133,6 @@ void TestPickerNetwork::showsBothAdapters()
                              "Aravis-SECOND\tFake (SECOND)\t10.2.0.2\tread-write\n"));
 }
 
-void TestPickerNetwork::cameraOfAnotherProgram()
-{
-    const auto camera = m_first->startCamera("TAKEN");
-    m_picker = std::make_unique<OrvCameraSelectorDialog>(m_system);
-    QVERIFY(rescanUntil([&] { return selectCamera("TAKEN"); }));
-    QVERIFY(okButton()->isEnabled());
-
-    QProcess other;
-    other.start("arv-camera-test-0.8", {"--name", "Aravis-TAKEN", "--frequency", "1"});
-    QVERIFY(other.waitForStarted());
-    QVERIFY(rescanUntil(
-        [&] { return selectCamera("TAKEN") && shows(devicePane, {"Access status: NO ACCESS"}); }));
-    QVERIFY(!okButton()->isEnabled());
-    QVERIFY2(list().endsWith("\tno-access\n"), qPrintable(list()));
-    other.terminate();
-    QVERIFY(other.waitForFinished());
-}
-
 void TestPickerNetwork::cameraStopsWhilePicking()
 {
     auto camera = m_first->startCamera("BRIEF");
@@ -214,26 +194,6 @@ void TestPickerNetwork::makesCameraReachable()
     okButton()->click();
     QCOMPARE(m_picker->result(), int(QDialog::Accepted));
     QCOMPARE(m_picker->selectedCamera()->GetId(), "00:1B:2C:3D:4E:5F");
-}
-
-void TestPickerNetwork::cameraRefusesItsAddress()
-{
-    Responder responder(m_first->farNamespace(), m_first->farName(), "001b2c3d4e5f", "a9fe0715");
-    responder.setMood(Responder::Mood::Stubborn);
-    m_picker = std::make_unique<OrvCameraSelectorDialog>(m_system);
-    QVERIFY(selectCamera("Strawman"));
-    QString complaint;
-    const ModalVisitor visitor({[](QDialog &dialog) { dialog.accept(); },
-                                [&](QDialog &dialog) {
-                                    complaint =
-                                        dialog.findChild<QLabel *>("qt_msgbox_label")->text();
-                                    dialog.accept();
-                                }});
-    button(*m_picker, "Set IP Address")->click();
-    QVERIFY(visitor.isDone());
-    QCOMPARE(complaint, QString("Can't set IP address"));
-    QVERIFY(shows(devicePane, {"Access status: IP Subnet Mismatch"}));
-    QVERIFY(!okButton()->isEnabled());
 }
 
 QTEST_MAIN(TestPickerNetwork)

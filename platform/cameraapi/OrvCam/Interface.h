@@ -18,7 +18,8 @@ public:
 
     /// Looks for cameras, for at most `timeoutMs` milliseconds, and blocks so long. `changed`, when
     /// not null, tells whether anything differs from before. Records handed out earlier stay valid.
-    /// Returns an `ErrorCode`.
+    /// The positions of the cameras may change, so let nobody look for cameras while a window is
+    /// open that shows them, such as a camera picker. Returns an `ErrorCode`.
     virtual int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) = 0;
 
     /// The cameras found by the last `RefreshDevices`, always in the same order; the position is
