@@ -291,10 +291,11 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     timer.start(RefreshPeriod);
     layOut();
     showTemperature();
-    if (!updateBoth())
-        handOver(device);
+    const bool isBack = updateBoth();
     updateStatus();
     information->adjust(array);
+    if (!isBack)
+        handOver(device);
 }
 
 void OrvCamConfigPrivate::getNeededParams()

@@ -188,23 +188,14 @@ auto feature(Camera &camera, const Control &control, Function function)
     return function(camera.number);
 }
 
-void changeTo(MemoryBoolean &node, qint64 value)
-{
-    node.change(value != 0);
-}
-void changeTo(MemoryCommand &node, qint64)
-{
-    node.changed();
-}
-template<class Node>
-void changeTo(Node &node, qint64 value)
-{
-    node.change(value);
-}
-
 void change(Camera &camera, const Control &control, qint64 value)
 {
-    feature(camera, control, [=](auto &node) { changeTo(node, value); });
+    feature(camera, control, [=](auto &node) {
+        if constexpr (std::is_same<decltype(node), MemoryCommand &>())
+            node.changed();
+        else
+            node.change(value);
+    });
 }
 int writesOf(Camera &camera, const Control &control)
 {
@@ -393,10 +384,8 @@ void TestOrvCamConfigMapper::refusedWrites()
     control->edit();
     QCOMPARE(control->shown(), control->edited);
     QCOMPARE(writesOf(camera, *control), 2);
-    feature(camera, *control, [&](auto &node) {
-        changeTo(node, control->first);
-        node.setAccessMode(GenApi::NA);
-    });
+    change(camera, *control, control->first);
+    feature(camera, *control, [](auto &node) { node.setAccessMode(GenApi::NA); });
     control->widget()->setEnabled(true);
     boxes.texts.clear();
     control->edit();
@@ -413,10 +402,8 @@ void TestOrvCamConfigMapper::refusedWrites()
         node.changed();
     });
     QCOMPARE(control->shown(), control->changed);
-    feature(camera, *control, [&](auto &node) {
-        node.onRead({});
-        changeTo(node, control->first);
-    });
+    feature(camera, *control, [](auto &node) { node.onRead({}); });
+    change(camera, *control, control->first);
     QCOMPARE(control->shown(), control->first);
     QTest::qWait(20);
     QCOMPARE(boxes.texts.size(), 1);
