@@ -673,8 +673,11 @@ void OrvCamConfigMapper::onDragged(Slider *slider, const std::function<int()> &v
     QObject::connect(slider, &Slider::sliderReleased, context(), [=] {
         if (!slider->isEnabled() || value() == *atPress)
             return show(Everything);
+        const std::shared_ptr<State> state = m_state;
+        const QPointer<Slider> dragged(slider);
         show(LimitsAroundValue); // which may be others since the drag began
-        changed();
+        if (state->context && dragged && dragged->isEnabled())
+            changed();
     });
 }
 
