@@ -29,6 +29,7 @@ public:
     double minimum = 0.0;
     double maximum = 0.0;
     double singleStep = 1.0;
+    quint32 rangeChanges = 0;
 };
 
 QtOrvDoubleSliderPrivate::QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *q, Qt::Orientation o)
@@ -109,9 +110,14 @@ void QtOrvDoubleSlider::setRange(double min, double max)
     d->minimum = min;
     d->maximum = max;
     d->writeLabels();
+    // Whoever listens may set another range, which has been announced then. The ends don't tell:
+    // what is not a number equals nothing.
+    const quint32 change = ++d->rangeChanges;
     d->setInnerRange();
-    emit rangeChanged(min, max);
-    setValue(kept);
+    if (d->rangeChanges == change)
+        emit rangeChanged(min, max);
+    if (d->rangeChanges == change)
+        setValue(kept);
 }
 
 void QtOrvDoubleSlider::setMinimum(double min)
@@ -235,9 +241,13 @@ QSlider *QtOrvDoubleSlider::slider() const
 
 bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == d->slider && event->type() == QEvent::LayoutDirectionChange)
+    if (watched != d->slider)
+        return QFrame::eventFilter(watched, event);
+
+    d->endUnseenInput(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
         d->alignLabels();
-    if (watched != d->slider || event->type() != QEvent::FocusOut)
+    if (event->type() != QEvent::FocusOut)
         return QFrame::eventFilter(watched, event);
 
     // The slider does not get to see the event, yet its focus frame has to go.

@@ -11,6 +11,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 // A QObject so that its connections end with it, before the inner slider goes.
 class QtOrvSliderPrivate : public QObject, public SliderFace
@@ -128,10 +129,10 @@ void QtOrvSliderPrivate::listen()
 
 void QtOrvSliderPrivate::positionChanged(int position)
 {
+    const KeyStep keyStep = std::exchange(pendingKeyStep, NoStep);
     const int value = valueOf(position);
-    if (pendingKeyStep != NoStep && value == valueBeforeKey &&
-        scaleType != QtOrvSlider::ScaleLinear)
-        moveOneStep(value, pendingKeyStep == StepUp ? 1 : -1);
+    if (keyStep != NoStep && value == valueBeforeKey && scaleType != QtOrvSlider::ScaleLinear)
+        moveOneStep(value, keyStep == StepUp ? 1 : -1);
     else if (value != lastValue)
         announce(value);
 }
@@ -353,6 +354,7 @@ bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
     if (watched != d->slider)
         return QFrame::eventFilter(watched, event);
 
+    d->endUnseenInput(event);
     switch (event->type()) {
     case QEvent::FocusOut:
         // The slider does not get to see the event, yet its focus frame has to go.

@@ -19,7 +19,8 @@ class QtOrvSpinBoxVal;
  * Use it where a value is found by moving it (a delay, a width). Spin box and slider stay in step.
  * While the user drags the slider the spin box follows, but the value counts as changed only by
  * what comes after the release. Where the scale of the slider is not linear the spin box holds the
- * exact value and the slider stands at the position next to it.
+ * exact value and the slider stands at the position next to it. Set the scale before range and
+ * value: a new scale re-places what the slider shows, and that becomes the value.
  *
  * Use it on the GUI thread only.
  */

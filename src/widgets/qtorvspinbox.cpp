@@ -7,7 +7,6 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
-#include <QSlider>
 #include <QToolButton>
 
 class QtOrvSpinBoxPrivate : public ValuePair<QtOrvSpinBox, QtOrvSpinBoxVal, QtOrvSlider, int>
@@ -103,10 +102,6 @@ bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
             break;
         }
     }
-    // A mouse button let go outside a hidden window is never heard of.
-    if (watched == slider && event->type() == QEvent::Hide)
-        slider->slider()->setSliderDown(false);
-
     const bool gone = event->type() == QEvent::Hide ||
                       (event->type() == QEvent::EnabledChange && !spinBox->isEnabled());
     if (watched != slider && gone)

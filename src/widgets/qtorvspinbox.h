@@ -20,7 +20,8 @@ class QtOrvSpinBoxVal;
  * Use it where there is no room for a slider of its own. Spin box and slider stay in step. While
  * the user drags the slider the spin box follows, but the value counts as changed only by what
  * comes after the release. Where the scale of the slider is not linear the spin box holds the exact
- * value and the slider stands at the position next to it.
+ * value and the slider stands at the position next to it. Set the scale before range and value: a
+ * new scale re-places what the slider shows, and that becomes the value.
  *
  * The slider opens above the button when it is vertical and beside it when it is horizontal. It
  * closes when it loses the focus, and with Escape, Return or Tab.

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "sliderface.h"
 
+#include "heldinput.h"
+
 #include <QBoxLayout>
+#include <QEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QSlider>
@@ -57,4 +60,16 @@ void SliderFace::alignLabels()
     }
     maxLabel->setAlignment(forMax | Qt::AlignVCenter);
     minLabel->setAlignment(forMin | Qt::AlignVCenter);
+}
+
+void SliderFace::endUnseenInput(const QEvent *event)
+{
+    // A groove starts to repeat only when its first step has been taken, and whoever listens to
+    // that may have hidden or disabled the slider.
+    const bool repeats = event->type() == QEvent::Timer;
+    const bool usable = slider->isVisible() && slider->isEnabled();
+    if (event->type() != QEvent::Hide && (!repeats || usable))
+        return;
+    slider->setSliderDown(false);
+    HeldInput::end(slider);
 }

@@ -4,6 +4,7 @@
 
 #include <Qt>
 
+class QEvent;
 class QFrame;
 class QLabel;
 class QSlider;
@@ -22,6 +23,9 @@ struct SliderFace
 
     /** Aligns the labels with the ends of the slider, as its orientation and direction have it. */
     void alignLabels();
+
+    /** Given the slider's events, ends a drag or a repeated step whose end the slider can't see. */
+    void endUnseenInput(const QEvent *event);
 
     QLabel *maxLabel;
     QLabel *minLabel;

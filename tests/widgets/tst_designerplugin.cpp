@@ -32,13 +32,11 @@ void TestDesignerPlugin::offersEveryWidget()
 
     QSet<QString> names;
     QSet<QString> toolTips;
-    QSet<QString> groups;
     QUiLoader loader;
     loader.addPluginPath(QFileInfo(QStringLiteral(ORV_PLUGIN)).path());
     for (QDesignerCustomWidgetInterface *interface : collection->customWidgets()) {
         names << interface->name();
         toolTips << interface->toolTip();
-        groups << interface->group();
         QVERIFY(!interface->isContainer());
         const QIcon icon = interface->icon();
         QVERIFY2(!icon.pixmap(24, 24).isNull(), qPrintable(interface->name()));
@@ -59,7 +57,6 @@ void TestDesignerPlugin::offersEveryWidget()
                                    "QtOrvGainSlider"}));
     QCOMPARE(toolTips.count(), 7);
     QVERIFY(!toolTips.contains(QString()));
-    QCOMPARE(groups.count(), 1);
 }
 
 // The same form by QUiLoader and by uic.
