@@ -82,7 +82,7 @@ public:
     void mapEnumParam(OrvGenParam::Enum *param, QCheckBox *checkBox);
 
     /// The buttons take the texts and values of the entries, in this order; those without an entry
-    /// are hidden.
+    /// are hidden. The values become their ids, unless they are -1 or do not fit in an int.
     void mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *buttons);
 
     /// The tabs take the texts of the entries, in this order; those without an entry are removed

@@ -802,12 +802,17 @@ void TestOrvCamConfigMapper::fromInside()
     second.choice.change(1);
     for (const QAbstractButton *button : group->buttons())
         QVERIFY(!button->isEnabled());
+    second.choice.change(2);
+    connect(group->button(2), &QAbstractButton::toggled, [&] { mapper.reset(); });
+    box->map(*mapper, second.array.get());
+    QVERIFY(!mapper);
+    mapper = std::make_unique<OrvCamConfigMapper>();
     box->map(*mapper, second.array.get());
     onToggled([&] {
         mapper.reset();
         second.array.reset();
     });
-    second.choice.change(2);
+    second.choice.change(0);
     QVERIFY(!mapper);
 }
 
