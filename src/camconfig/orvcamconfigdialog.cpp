@@ -4,7 +4,6 @@
 #include <OrvCam/Device.h>
 
 #include <QPointer>
-#include <QScopedValueRollback>
 
 namespace OrvGui {
 
@@ -19,21 +18,26 @@ bool OrvCamConfigDialogPrivate::init(OrvCamConfigDialog *dialog, OrvCam::Device 
     if (m_isBinding)
         return false; // from within; the call that is under way goes round again
 
-    const QScopedValueRollback<bool> binding(m_isBinding, true);
-    bool isBound = false;
+    m_isBinding = true;
     while (m_isOutdated) {
         m_isOutdated = false;
-        isBound = target();
+        target();
     }
-    return isBound;
+    m_isBinding = false;
+
+    const Tenure tenure(this);
+    if (array)
+        settle();
+    return !tenure.isOver() && array;
 }
 
-bool OrvCamConfigDialogPrivate::target()
+void OrvCamConfigDialogPrivate::target()
 {
     if (!m_isFormBuilt) {
         buildForm();
         m_isFormBuilt = true;
     }
+    ++m_tenures;
     mapper.unmapAll();
     m_handlers.reset(new QObject);
     release();
@@ -45,7 +49,16 @@ bool OrvCamConfigDialogPrivate::target()
     q->setEnabled(array);
     if (array)
         bind();
-    return array;
+}
+
+OrvCamConfigDialogPrivate::Tenure::Tenure(const OrvCamConfigDialogPrivate *part)
+    : m_part(part), m_dialog(part->q), m_number(part->m_tenures)
+{
+}
+
+bool OrvCamConfigDialogPrivate::Tenure::isOver() const
+{
+    return !m_dialog || m_part->m_tenures != m_number;
 }
 
 OrvCamConfigDialog::OrvCamConfigDialog(OrvCamConfigDialogPrivate *part, OrvCam::Device *device,

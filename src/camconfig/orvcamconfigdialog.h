@@ -32,6 +32,9 @@ public:
 
     /// Binds the controls to another device; to none if it is null. To be called again with the
     /// same device after it has been disconnected and is back.
+    ///
+    /// A call that comes from a read of the device that is just being bound counts when that one is
+    /// bound; that device must live so long.
     void SetDevice(OrvCam::Device *device);
 
     /// Closes the dialog; the Escape key comes here, too.

@@ -7,6 +7,7 @@
 #include <OrvGenParam/Array.h>
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 #include <utility>
@@ -33,14 +34,34 @@ public:
     virtual void prepareToShow() {}
 
 protected:
+    /// The time for which the dialog has the device that it has now.
+    ///
+    /// Whatever a write leads to, such as an error box, may set another device or destroy the
+    /// dialog. Have one on the stack then, and leave everything alone once it is over.
+    class Tenure
+    {
+    public:
+        explicit Tenure(const OrvCamConfigDialogPrivate *part);
+        bool isOver() const;
+
+    private:
+        const OrvCamConfigDialogPrivate *const m_part;
+        const QPointer<QObject> m_dialog;
+        const unsigned m_number;
+    };
+
     /// Builds the form on `q`; called once, before anything else.
     virtual void buildForm() = 0;
 
     /// Gives up what a dialog holds of the device apart from its bindings.
     virtual void release() {}
 
-    /// Binds the form to `array`, which is not null.
+    /// Binds the form to `array`, which is not null. Writes nothing: another device that is set
+    /// meanwhile has to wait until it is done.
     virtual void bind() = 0;
+
+    /// Writes what the bound form asks of the camera.
+    virtual void settle() {}
 
     template<class Widget>
     void bindEnum(const char *feature, Widget *widget)
@@ -74,9 +95,10 @@ protected:
     OrvCamConfigMapper mapper;
 
 private:
-    bool target();
+    void target();
 
     std::unique_ptr<QObject> m_handlers; ///< the receiver of the dialog's own handlers
+    unsigned m_tenures = 0;
     bool m_isFormBuilt = false;
     bool m_isBinding = false;
     bool m_isOutdated = false; ///< the device is another one than that which is being bound

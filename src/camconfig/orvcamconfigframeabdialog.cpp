@@ -101,7 +101,7 @@ struct Gain
     qint64 coarse;
     qint64 fine;
 
-    bool operator==(Gain other) const { return coarse == other.coarse && fine == other.fine; }
+    bool operator!=(Gain other) const { return coarse != other.coarse || fine != other.fine; }
     double factor() const
     {
         return (1.0 + static_cast<double>(fine) / fineGainSteps) *
@@ -144,6 +144,7 @@ protected:
     void buildForm() override;
     void release() override;
     void bind() override;
+    void settle() override;
 
 private:
     class Writing;
@@ -158,6 +159,8 @@ private:
     void bindPeriod();
     void connectHandlers();
     void connectDrags();
+    template<class Slider, class Value, class Changed, class Unchanged>
+    void onDragged(Slider *slider, Value value, Changed changed, Unchanged unchanged);
     void startSizeTimer();
     void showCurrentSize();
 
@@ -174,10 +177,11 @@ private:
     void readDigitalGain();
     void showDigitalGain();
     void setDigitalGain(double factor);
+    Gain gainOf(double factor) const;
 
-    void onFrameModeChanged(const QString &mode);
+    bool onFrameModeChanged();
     void onTabChanged(int index);
-    void showOnlyTab(int index);
+    bool showOnlyTab(int index);
     void placeLayout(int index);
     void bindLineTime(QtOrvSliderSpinBox *spinBox);
     void bindFrameCounts();
@@ -199,6 +203,8 @@ private:
     qint64 exposureClocks = 0;
     qint64 exposureClocksMax = 0;
     Gain gain{0, 0};
+    Gain leastGain{0, 0};
+    Gain mostGain{0, 0};
     Enum *frameSelector = nullptr;
     Enum *triggerMode = nullptr;
     Int *pixelClockParam = nullptr;
@@ -231,29 +237,27 @@ private:
     bool isWriting = false; ///< several values; what follows from them is shown at the end
 };
 
-/// A change of the user's that takes more than one write. What listens to a write may set another
-/// camera or destroy the dialog; the rest must not be written then.
+/// A change of the user's that takes more than one write, of which the rest must not be written
+/// when it is over.
 class OrvCamConfigFrameABDialogPrivate::Writing
 {
 public:
-    explicit Writing(OrvCamConfigFrameABDialogPrivate *part)
-        : m_part(part), m_dialog(part->q), m_array(part->array)
+    explicit Writing(OrvCamConfigFrameABDialogPrivate *part) : m_part(part), m_tenure(part)
     {
         m_part->isWriting = true;
     }
     ~Writing()
     {
-        if (m_dialog)
+        if (!isOver())
             m_part->isWriting = false;
     }
     Q_DISABLE_COPY(Writing)
 
-    bool isOver() const { return !m_dialog || m_part->array != m_array; }
+    bool isOver() const { return m_tenure.isOver(); }
 
 private:
     OrvCamConfigFrameABDialogPrivate *const m_part;
-    const QPointer<QObject> m_dialog;
-    const OrvGenParam::Array *const m_array;
+    const Tenure m_tenure;
 };
 
 void OrvCamConfigFrameABDialogPrivate::buildForm()
@@ -331,6 +335,11 @@ void OrvCamConfigFrameABDialogPrivate::release()
 
 void OrvCamConfigFrameABDialogPrivate::bind()
 {
+    // What this camera lacks must not count as the former one had it.
+    ui.cmBoxFrameMode->clear();
+    ui.chBoxFixedFramePeriodEnable->setChecked(false);
+    ui.spBoxFixedFramePeriodValue->setRange(0, 0);
+
     getNeededParams();
     makeBindings();
     startSizeTimer();
@@ -340,7 +349,12 @@ void OrvCamConfigFrameABDialogPrivate::bind()
     lineTimeBox = nullptr;
     unbindFrameCounts();
     connectHandlers();
-    onFrameModeChanged(ui.cmBoxFrameMode->currentText());
+}
+
+void OrvCamConfigFrameABDialogPrivate::settle()
+{
+    if (!onFrameModeChanged())
+        return;
     placeLayout(ui.tabFrames->currentIndex());
     showArea();
     updateExposureTime();
@@ -434,11 +448,9 @@ void OrvCamConfigFrameABDialogPrivate::bindPeriod()
 
 void OrvCamConfigFrameABDialogPrivate::connectHandlers()
 {
-    on(ui.cmBoxFrameMode, &QComboBox::currentTextChanged,
-       [this](const QString &mode) { onFrameModeChanged(mode); });
+    on(ui.cmBoxFrameMode, &QComboBox::currentTextChanged, [this] { onFrameModeChanged(); });
     on(ui.tabFrames, &QTabWidget::currentChanged, [this](int index) { onTabChanged(index); });
-    on(tabTimer, &QTimer::timeout,
-       [this] { onFrameModeChanged(ui.cmBoxFrameMode->currentText()); });
+    on(tabTimer, &QTimer::timeout, [this] { onFrameModeChanged(); });
     for (QAbstractButton *button : exposureButtons->buttons()) {
         on(button, &QAbstractButton::toggled, [this](bool isChecked) {
             if (isChecked)
@@ -461,22 +473,30 @@ void OrvCamConfigFrameABDialogPrivate::connectHandlers()
     connectDrags();
 }
 
-// The widgets say nothing about a drag of their slider. A slider that is disabled is released, too.
+// The widgets say nothing about a drag of their slider.
 void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
-    on(ui.spBoxExpTime->slider(), &QtOrvSlider::sliderReleased, [this] {
-        const int time = ui.spBoxExpTime->value();
-        if (ui.spBoxExpTime->slider()->isEnabled() && time != timeOf(exposureLines, exposureClocks))
-            setExposureTime(time);
+    onDragged(
+        ui.spBoxExpTime->slider(), [this] { return ui.spBoxExpTime->value(); },
+        [this] { setExposureTime(ui.spBoxExpTime->value()); }, [this] { updateExposureTime(); });
+    onDragged(
+        ui.spBoxDigitalGain->slider(), [this] { return gainOf(ui.spBoxDigitalGain->value()); },
+        [this] { setDigitalGain(ui.spBoxDigitalGain->value()); }, [this] { showDigitalGain(); });
+}
+
+// What is shown need not be what the camera holds: only a move of the user's is a change.
+template<class Slider, class Value, class Changed, class Unchanged>
+void OrvCamConfigFrameABDialogPrivate::onDragged(Slider *slider, Value value, Changed changed,
+                                                 Unchanged unchanged)
+{
+    const auto atPress = std::make_shared<decltype(value())>(value());
+    on(slider, &Slider::sliderPressed, [=] { *atPress = value(); });
+    // A slider that is disabled under the user's hand is released as well.
+    on(slider, &Slider::sliderReleased, [=] {
+        if (slider->isEnabled() && value() != *atPress)
+            changed();
         else
-            updateExposureTime();
-    });
-    on(ui.spBoxDigitalGain->slider(), &QtOrvDoubleSlider::sliderReleased, [this] {
-        const double factor = ui.spBoxDigitalGain->value();
-        if (ui.spBoxDigitalGain->slider()->isEnabled() && !(Gain::of(factor) == gain))
-            setDigitalGain(factor);
-        else
-            showDigitalGain();
+            unchanged();
     });
 }
 
@@ -652,18 +672,17 @@ void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
     slider->setEnabled(isWritable(coarseGain) || isWritable(fineGain));
     if (isWriting || HeldInput::isDrag(slider))
         return;
-    Gain least{0, 0};
-    Gain most{0, 0};
-    read(coarseGain, &Int::GetMin, least.coarse);
-    read(fineGain, &Int::GetMin, least.fine);
-    read(coarseGain, &Int::GetMax, most.coarse);
-    read(fineGain, &Int::GetMax, most.fine);
+    leastGain = mostGain = {0, 0};
+    read(coarseGain, &Int::GetMin, leastGain.coarse);
+    read(fineGain, &Int::GetMin, leastGain.fine);
+    read(coarseGain, &Int::GetMax, mostGain.coarse);
+    read(fineGain, &Int::GetMax, mostGain.fine);
 
     const QScopedValueRollback<bool> showing(isShowingGain, true);
-    slider->setRange(least.factor(), most.factor());
+    slider->setRange(leastGain.factor(), mostGain.factor());
     slider->setSingleStep(gainStep);
     // A step may be less than the camera can do at large gains; the user must get past it.
-    if (!(Gain::of(slider->value()) == gain))
+    if (gainOf(slider->value()) != gain)
         slider->setValue(gain.factor());
 }
 
@@ -671,7 +690,7 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
 {
     if (isShowingGain)
         return;
-    gain = Gain::of(factor);
+    gain = gainOf(factor);
     const Gain wanted = gain;
     {
         const Writing writing(this);
@@ -687,28 +706,48 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
     catchUp();
 }
 
-void OrvCamConfigFrameABDialogPrivate::onFrameModeChanged(const QString &mode)
+/// The box rounds its ends, which stand for those of the camera.
+Gain OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
 {
+    const QtOrvDoubleSpinBoxVal *const box = ui.spBoxDigitalGain->spinBox();
+    if (factor >= box->maximum())
+        return mostGain;
+    return factor <= box->minimum() ? leastGain : Gain::of(factor);
+}
+
+/// False when the dialog has got another camera by that, or is gone.
+bool OrvCamConfigFrameABDialogPrivate::onFrameModeChanged()
+{
+    const Tenure tenure(this);
+    const QString mode = ui.cmBoxFrameMode->currentText();
     const bool isFrameA = mode == QLatin1String("FrameA");
     if (isFrameA || mode == QLatin1String("FrameB")) {
-        showOnlyTab(isFrameA ? 0 : 1);
-        bindLineTime(ui.spBoxFrameLineTime);
-        unbindFrameCounts();
-        return;
+        if (showOnlyTab(isFrameA ? 0 : 1)) {
+            bindLineTime(ui.spBoxFrameLineTime);
+            unbindFrameCounts();
+        }
+        return !tenure.isOver();
     }
     for (int i = 0; i < ui.tabFrames->count(); ++i)
         ui.tabFrames->setTabEnabled(i, true);
     bindLineTime(ui.spBoxDualVideo);
     bindFrameCounts();
+    return true;
 }
 
-void OrvCamConfigFrameABDialogPrivate::showOnlyTab(int index)
+/// False when the camera or its output mode has become another one by that.
+bool OrvCamConfigFrameABDialogPrivate::showOnlyTab(int index)
 {
     if (index >= ui.tabFrames->count())
-        return;
+        return true;
+    const Tenure tenure(this);
+    const QString mode = ui.cmBoxFrameMode->currentText();
     ui.tabFrames->setTabEnabled(index, true);
-    ui.tabFrames->setCurrentIndex(index);
+    ui.tabFrames->setCurrentIndex(index); // a write, which may have to be reported
+    if (tenure.isOver() || ui.cmBoxFrameMode->currentText() != mode)
+        return false;
     ui.tabFrames->setTabEnabled(1 - index, false);
+    return true;
 }
 
 void OrvCamConfigFrameABDialogPrivate::onTabChanged(int index)
@@ -720,8 +759,8 @@ void OrvCamConfigFrameABDialogPrivate::onTabChanged(int index)
         tabTimer->start(0);
         return;
     }
-    onFrameModeChanged(ui.cmBoxFrameMode->currentText());
-    updateExposureTime();
+    if (onFrameModeChanged())
+        updateExposureTime();
 }
 
 /// The frames share one set of widgets.
@@ -811,9 +850,14 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
     {
         const Writing writing(this);
         for (const auto &step : area.stepsTo(preset)) {
-            areaBox(step.first)->setValue(ValueGrid::toInt(step.second));
+            Int *const side = area.param(step.first);
+            QtOrvSpinBox *const spinBox = areaBox(step.first);
+            mapper.updateSpinBox(side, spinBox); // may show what has been refused
+            spinBox->setValue(ValueGrid::toInt(step.second));
             if (writing.isOver())
                 return;
+            if (side->GetValue() != step.second)
+                break; // the next step is valid only from there
         }
     }
     catchUp();

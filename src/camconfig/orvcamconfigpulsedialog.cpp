@@ -95,6 +95,7 @@ void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
 
 void OrvCamConfigPulseDialogPrivate::initButton()
 {
+    ui.pushBtnPulseEnable->setChecked(false); // which it stays where there is nothing to start
     bindBoolean("PulseGenEnable", ui.pushBtnPulseEnable);
     on(ui.pushBtnPulseEnable, &QPushButton::clicked,
        [this](bool isRunning) { setButtonState(isRunning); });

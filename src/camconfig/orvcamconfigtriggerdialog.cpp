@@ -13,6 +13,7 @@ protected:
     void bind() override;
 
 private:
+    void clear();
     void enableChoices();
     void enableSoftwareTrigger();
 
@@ -21,6 +22,7 @@ private:
 
 void OrvCamConfigTriggerDialogPrivate::bind()
 {
+    clear();
     bindEnum("TriggerMode", ui.chBoxTriggerEnable);
     on(ui.chBoxTriggerEnable, &QCheckBox::stateChanged, [this] { enableChoices(); });
     bindEnum("TriggerSource", ui.cmBoxTriggerSource);
@@ -31,6 +33,14 @@ void OrvCamConfigTriggerDialogPrivate::bind()
     bindEnum("TriggerDebounce", ui.cmBoxTriggerDebounce);
     bindCommand("TriggerSoftware", ui.pushBtnSoftwareTrigger, nullptr);
     enableChoices();
+}
+
+/// The rules go by what is shown. What this camera lacks must not be that of the former one.
+void OrvCamConfigTriggerDialogPrivate::clear()
+{
+    ui.chBoxTriggerEnable->setChecked(false);
+    for (QComboBox *box : {ui.cmBoxTriggerSource, ui.cmBoxTriggerEdge, ui.cmBoxTriggerDebounce})
+        box->clear();
 }
 
 void OrvCamConfigTriggerDialogPrivate::enableChoices()
