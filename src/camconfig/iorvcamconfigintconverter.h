@@ -18,13 +18,14 @@ namespace OrvGui {
 class ORVCAMERAGUIAPI_EXPORT IOrvCamConfigIntConverter
 {
 public:
-    virtual ~IOrvCamConfigIntConverter() = default;
-
     /// What the widget shows for a value, a limit or the increment of the parameter.
     virtual long ToControl(long value, OrvGenParam::Int *param) = 0;
 
     /// What is written to the camera for a number of the widget.
     virtual long ToDevice(long value, OrvGenParam::Int *param) = 0;
+
+    // After the two, whose places in the table of operations hosts count on.
+    virtual ~IOrvCamConfigIntConverter() = default;
 };
 
 } // namespace OrvGui

@@ -114,7 +114,7 @@ private:
     void restore();
     void refreshFrames();
     void updateFrame(Frame frame);
-    void updateBoth();
+    bool updateBoth();
     void updateStatus();
     void readSelectedFrame();
     void readFrameMode();
@@ -291,9 +291,11 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     timer.start(RefreshPeriod);
     layOut();
     showTemperature();
-    updateBoth();
+    const bool isBack = updateBoth();
     updateStatus();
     information->adjust(array);
+    if (!isBack)
+        handOver(device);
 }
 
 void OrvCamConfigPrivate::getNeededParams()
@@ -428,8 +430,13 @@ void OrvCamConfigPrivate::refreshFrames()
         return;
     if (!isFrameABSupported)
         return updateFrame(FrameA);
-    if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false))
-        return updateBoth();
+    if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false)) {
+        if (!updateBoth()) {
+            handOver(device);
+            emit q->deviceChanged(device);
+        }
+        return;
+    }
     // What the camera tells is of the selected frame; the other column keeps what it shows.
     const bool isWanted =
         frameMode == BothFrames || (frameMode == OnlyFrameA) == (selectedFrame == FrameA);
@@ -458,21 +465,23 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
     column.exposure->setText(numberOf(exposureTime));
 }
 
-void OrvCamConfigPrivate::updateBoth()
+/// False when the camera stays with the other frame, of which only this window knows then.
+bool OrvCamConfigPrivate::updateBoth()
 {
     const Frame first = selectedFrame;
     updateFrame(first);
-    if (!frameSelector)
-        return;
-    const QByteArray selected = symbolicOf(frameSelector);
+    const QByteArray selected = frameSelector ? symbolicOf(frameSelector) : QByteArray();
     if (selected.isEmpty())
-        return;
+        return true;
     const SelectorDetour detour;
+    const auto select = [this](const char *name) {
+        return frameSelector->SetSymbolicValue(name) == OrvCam::Success;
+    };
     const bool isA = first == FrameA;
-    if (frameSelector->SetSymbolicValue(isA ? nameOfFrameB : nameOfFrameA) != OrvCam::Success)
-        return;
+    if (!select(isA ? nameOfFrameB : nameOfFrameA))
+        return true;
     updateFrame(isA ? FrameB : FrameA);
-    frameSelector->SetSymbolicValue(selected.constData());
+    return select(selected.constData()) || select(selected.constData());
 }
 
 void OrvCamConfigPrivate::updateStatus()
@@ -485,7 +494,8 @@ void OrvCamConfigPrivate::updateStatus()
         icon = QStringLiteral(":/icons/res/connected.ico");
     }
     statusText->setText(text);
-    statusText->setToolTip(array ? text.toHtmlEscaped() : QString());
+    const QString toolTip = QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+    statusText->setToolTip(array ? toolTip : QString());
     const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
     statusIcon->setPixmap(QIcon(icon).pixmap(extent));
 }

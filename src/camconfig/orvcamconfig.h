@@ -19,7 +19,7 @@ class OrvCamConfigPrivate;
 ///
 /// Give it a device, or none to have the user pick a camera in the constructor. The user can
 /// disconnect and connect another one at any time. A camera that is unplugged leaves the window
-/// without one, and comes back within a second of being there again.
+/// without one, and comes back about a second after it is there again.
 ///
 /// A device that you give remains yours: give another one, or null, before you release it, also
 /// while its camera is unplugged. A device that the window has opened for the user is released by
@@ -50,7 +50,8 @@ public:
 
 Q_SIGNALS:
     /// What `device` answers has changed, or it is the same device with other parameters, for it
-    /// was unplugged. Give up everything of the former device: it may be released next.
+    /// was unplugged, or with a frame selector that could not be moved back. Give up everything of
+    /// the former device: it may be released next.
     void deviceChanged(OrvCam::Device *device);
 
     /// The window has given up a device that it was given, because the user has disconnected it or

@@ -64,8 +64,34 @@ int idOfUnused(int index)
     return std::numeric_limits<int>::min() + index;
 }
 
+/// Of a button, its entry's value if that cannot be an id: ids are no larger than an int, and -1
+/// stands for none.
+const char valueBeyondIds[] = "orvEntryValue";
+
+void setValue(QButtonGroup *group, QAbstractButton *button, qint64 value, int otherId)
+{
+    const bool isId = value != -1 && value == ValueGrid::toInt(value);
+    group->setId(button, isId ? static_cast<int>(value) : otherId);
+    button->setProperty(valueBeyondIds, isId ? QVariant() : QVariant(value));
+}
+
+qint64 valueOf(const QButtonGroup *group, QAbstractButton *button)
+{
+    const QVariant value = button->property(valueBeyondIds);
+    return value.isValid() ? value.toLongLong() : group->id(button);
+}
+
+QAbstractButton *buttonOf(const QButtonGroup *group, qint64 value)
+{
+    for (QAbstractButton *button : group->buttons()) {
+        if (valueOf(group, button) == value)
+            return button;
+    }
+    return nullptr;
+}
+
 /// False only for the entry that is known not to be available at this moment.
-bool canChoose(const Enum *param, int value)
+bool canChoose(const Enum *param, qint64 value)
 {
     for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
         const EnumEntry *entry = param->GetEntry(i);
@@ -103,7 +129,7 @@ void setUsable(const OrvCamConfigMapData &record, const Param *param, bool usabl
     if (QButtonGroup *group = groupOf(record)) {
         const auto *choice = dynamic_cast<const Enum *>(param);
         for (QAbstractButton *button : group->buttons())
-            button->setEnabled(usable && (!choice || canChoose(choice, group->id(button))));
+            button->setEnabled(usable && (!choice || canChoose(choice, valueOf(group, button))));
     } else if (record.control) {
         record.control->setEnabled(usable);
     }
@@ -195,6 +221,14 @@ bool OrvCamConfigMapper::Showing::isOver() const
     return m_isOver || !m_state->context;
 }
 
+OrvCamConfigMapData OrvCamConfigMapper::Binding::alive() const
+{
+    OrvCamConfigMapData left = record;
+    if (groupOf(record) && !group)
+        left.extra = nullptr;
+    return left;
+}
+
 OrvCamConfigMapper::OrvCamConfigMapper(qint64 valueCap)
     : m_valueCap(valueCap), m_state(std::make_shared<State>())
 {
@@ -217,23 +251,23 @@ void OrvCamConfigMapper::OnParameterUpdate(Param *param)
         return; // of a camera that this mapper has been taken away from
 
     // Whoever listens to the widgets may map, unmap or destroy the mapper.
-    const Records records = m_bindings.value(name);
+    const Bindings bindings = m_bindings.value(name);
     const std::shared_ptr<State> state = m_state;
     const auto isOver = [&] {
-        return !state->context || m_bindings.value(name).constData() != records.constData();
+        return !state->context || m_bindings.value(name).constData() != bindings.constData();
     };
 
     const bool available = param->IsAvailable();
     if (available && param->IsReadable()) {
-        for (const OrvCamConfigMapData &record : records) {
-            show(record, param);
+        for (const Binding &binding : bindings) {
+            show(binding.alive(), param);
             if (isOver())
                 return;
         }
     }
     const bool usable = available && param->IsWritable();
-    for (const OrvCamConfigMapData &record : records) {
-        setUsable(record, param, usable);
+    for (const Binding &binding : bindings) {
+        setUsable(binding.alive(), param, usable);
         if (isOver())
             return;
     }
@@ -257,10 +291,13 @@ bool OrvCamConfigMapper::begin(Param *param, const Records &records)
     }
 
     const QString name = nameOf(param);
-    const Records former = m_bindings.value(name);
+    const Bindings former = m_bindings.value(name);
     if (!former.isEmpty())
-        unmapControl(former.first());
-    m_bindings.insert(name, records);
+        unmapControl(former.first().alive());
+    Bindings bindings;
+    for (const OrvCamConfigMapData &record : records)
+        bindings << Binding{record, groupOf(record)};
+    m_bindings.insert(name, bindings);
     m_params.insert(name, param);
     return true;
 }
@@ -300,8 +337,8 @@ void OrvCamConfigMapper::unmapParam(const QString &name)
 {
     m_params.remove(name);
     m_tabs.remove(name);
-    for (const OrvCamConfigMapData &record : m_bindings.take(name))
-        unmapControl(record);
+    for (const Binding &binding : m_bindings.take(name))
+        unmapControl(binding.alive());
 }
 
 void OrvCamConfigMapper::unmapAll()
@@ -390,46 +427,46 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QButtonGroup *buttons)
     for (int i = 0; i < all.size(); ++i) {
         const EnumEntry *entry = entryAt(param, i);
         all[i]->setVisible(entry);
-        buttons->setId(all[i], entry ? ValueGrid::toInt(qint64(entry->GetValue())) : idOfUnused(i));
+        setValue(buttons, all[i], entry ? entry->GetValue() : idOfUnused(i), idOfUnused(i));
         if (entry)
             all[i]->setText(symbolicOf(entry));
     }
     if (param->IsAvailable() && param->IsWritable())
         setUsable(record, param, true);
-    checkCurrentButton(param, buttons);
+    if (!checkCurrentButton(param, buttons))
+        return;
     QObject::connect(
         buttons,
         static_cast<void (QButtonGroup::*)(QAbstractButton *, bool)>(&QButtonGroup::buttonToggled),
         context(), [=](QAbstractButton *button, bool checked) {
             if (!checked)
                 return;
-            const int value = buttons->id(button);
+            const qint64 value = valueOf(buttons, button);
             write(buttons, enumError(), param, [=] { return param->SetIntValue(value); });
         });
-    const QString name = nameOf(param);
-    QObject::connect(buttons, &QObject::destroyed, context(), [=] { m_bindings.remove(name); });
     finish(param);
 }
 
-void OrvCamConfigMapper::checkCurrentButton(Enum *param, QButtonGroup *buttons)
+/// False when a receiver of the signals has ended the binding.
+bool OrvCamConfigMapper::checkCurrentButton(Enum *param, QButtonGroup *buttons)
 {
     int32_t error = OrvCam::Success;
-    const qint64 value = param->GetIntValue(&error);
-    QAbstractButton *button = buttons->button(ValueGrid::toInt(value));
+    QAbstractButton *button = buttonOf(buttons, param->GetIntValue(&error));
     if (error != OrvCam::Success || !button)
-        return;
+        return true;
     const Showing showing(*this, buttons);
+    const QPointer<QButtonGroup> group(buttons);
     button->setChecked(true);
+    return group && !showing.isOver();
 }
 
 void OrvCamConfigMapper::updateRadioButtons(Enum *param, QButtonGroup *buttons)
 {
-    checkCurrentButton(param, buttons);
+    if (!checkCurrentButton(param, buttons))
+        return;
     for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
         const EnumEntry *entry = param->GetEntry(i);
-        QAbstractButton *button =
-            entry ? buttons->button(ValueGrid::toInt(qint64(entry->GetValue()))) : nullptr;
-        if (button)
+        if (QAbstractButton *button = entry ? buttonOf(buttons, entry->GetValue()) : nullptr)
             button->setEnabled(entry->IsAvailable());
     }
 }
@@ -571,7 +608,7 @@ void OrvCamConfigMapper::mapIntParam(Int *param, QSlider *slider,
     onDragged(
         slider, [=] { return slider->value(); },
         [=] { writeInt(slider, param, slider->value(), converter); },
-        [=] { showNumber(param, slider, converter); });
+        [=](What what) { showNumber(param, slider, converter, what); });
     finish(param);
 }
 
@@ -621,29 +658,32 @@ void OrvCamConfigMapper::bindCompound(Int *param, Compound *widget,
     };
     onDragged(
         widget->slider(), [=] { return widget->value(); }, announce,
-        [=] { showNumber(param, widget, converter); });
+        [=](What what) { showNumber(param, widget, converter, what); });
     finish(param);
 }
 
 template<class Slider>
 void OrvCamConfigMapper::onDragged(Slider *slider, const std::function<int()> &value,
                                    const std::function<void()> &changed,
-                                   const std::function<void()> &unchanged)
+                                   const std::function<void(What)> &show)
 {
     const auto atPress = std::make_shared<int>(0);
     QObject::connect(slider, &Slider::sliderPressed, context(), [=] { *atPress = value(); });
     // A slider that is disabled under the user's hand is released as well.
     QObject::connect(slider, &Slider::sliderReleased, context(), [=] {
-        if (slider->isEnabled() && value() != *atPress)
+        if (!slider->isEnabled() || value() == *atPress)
+            return show(Everything);
+        const std::shared_ptr<State> state = m_state;
+        const QPointer<Slider> dragged(slider);
+        show(LimitsAroundValue); // which may be others since the drag began
+        if (state->context && dragged && dragged->isEnabled())
             changed();
-        else
-            unchanged();
     });
 }
 
 template<class Widget>
 void OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
-                                    IOrvCamConfigIntConverter *converter)
+                                    IOrvCamConfigIntConverter *converter, What what)
 {
     if (HeldInput::isDrag(widget))
         return; // its end shows or writes the value
@@ -660,7 +700,10 @@ void OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
     const int min = ValueGrid::toInt(qint64(shown(param->GetMin(&limitsError))));
     const int max = capped(shown(param->GetMax(&maxError)));
     const int step = ValueGrid::toInt(qint64(shown(param->GetInc())));
-    const int value = capped(shown(param->GetValue(&valueError)));
+    const bool isKept = what == LimitsAroundValue;
+    const int value = isKept ? widget->value() : capped(shown(param->GetValue(&valueError)));
+    if (isKept && (value < min || value > max))
+        return;
 
     const Showing showing(*this, widget);
     if (limitsError == OrvCam::Success && maxError == OrvCam::Success) {
@@ -689,8 +732,9 @@ void OrvCamConfigMapper::updateSliderSpinBox(Int *param, QtOrvSliderSpinBox *spi
 void OrvCamConfigMapper::showBoundTo(const QObject *control)
 {
     for (auto it = m_bindings.constBegin(); it != m_bindings.constEnd(); ++it) {
-        const Records records = it.value();
-        for (const OrvCamConfigMapData &record : records) {
+        const Bindings bindings = it.value();
+        for (const Binding &binding : bindings) {
+            const OrvCamConfigMapData record = binding.alive();
             if (record.control != control && groupOf(record) != control)
                 continue;
             show(record, m_params.value(it.key()));

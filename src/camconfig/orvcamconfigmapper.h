@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QPointer>
 #include <QString>
 #include <QVector>
 
@@ -81,7 +82,7 @@ public:
     void mapEnumParam(OrvGenParam::Enum *param, QCheckBox *checkBox);
 
     /// The buttons take the texts and values of the entries, in this order; those without an entry
-    /// are hidden.
+    /// are hidden. The values become their ids, unless they are -1 or do not fit in an int.
     void mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *buttons);
 
     /// The tabs take the texts of the entries, in this order; those without an entry are removed
@@ -129,8 +130,18 @@ public:
     void updateTabWidget(OrvGenParam::Enum *param, QTabWidget *tabs);
 
 private:
+    /// What a name is bound to, and what becomes null with a button group.
+    struct Binding
+    {
+        OrvCamConfigMapData alive() const;
+
+        OrvCamConfigMapData record;
+        QPointer<QObject> group;
+    };
+    using Bindings = QVector<Binding>;
     using Records = QVector<OrvCamConfigMapData>;
     using Write = std::function<qint32()>;
+    enum What { Everything, LimitsAroundValue };
     class Showing;
     struct State;
 
@@ -139,16 +150,17 @@ private:
     void cut(const OrvCamConfigMapData &record);
     void show(const OrvCamConfigMapData &record, OrvGenParam::Param *param);
     void showBoundTo(const QObject *control);
-    void checkCurrentButton(OrvGenParam::Enum *param, QButtonGroup *buttons);
+    bool checkCurrentButton(OrvGenParam::Enum *param, QButtonGroup *buttons);
     void showText(OrvGenParam::Int *param, QLineEdit *lineEdit);
     template<class Widget>
-    void showNumber(OrvGenParam::Int *param, Widget *widget, IOrvCamConfigIntConverter *converter);
+    void showNumber(OrvGenParam::Int *param, Widget *widget, IOrvCamConfigIntConverter *converter,
+                    What what = Everything);
     template<class Compound>
     void bindCompound(OrvGenParam::Int *param, Compound *widget,
                       IOrvCamConfigIntConverter *converter);
     template<class Slider>
     void onDragged(Slider *slider, const std::function<int()> &value,
-                   const std::function<void()> &changed, const std::function<void()> &unchanged);
+                   const std::function<void()> &changed, const std::function<void(What)> &show);
     void write(QObject *control, const QString &format, const OrvGenParam::Param *param,
                const Write &call);
     void writeInt(QObject *control, OrvGenParam::Int *param, int shown,
@@ -156,7 +168,7 @@ private:
     QObject *context() const;
 
     const qint64 m_valueCap;
-    QHash<QString, Records> m_bindings;
+    QHash<QString, Bindings> m_bindings;
     QHash<QString, OrvGenParam::Param *> m_params; ///< whose notifications count, by name
     QHash<QString, QHash<QString, int>> m_tabs;    ///< parameter, entry: index of its tab
     const std::shared_ptr<State> m_state;          ///< may outlive the mapper for a moment

@@ -9,6 +9,8 @@
 #include <qtorvspinbox.h>
 #include <qtorvspinboxval.h>
 
+#include <cstring>
+
 using namespace OrvGenApi;
 using namespace OrvGui;
 
@@ -156,42 +158,21 @@ std::unique_ptr<Control> lineEdit()
         [=] { return w->text().toLongLong(); });
 }
 
-void bind(OrvCamConfigMapper &m, OrvGenParam::Int *p, QSpinBox *w)
-{
-    m.mapIntParam(p, w);
-}
-void bind(OrvCamConfigMapper &m, OrvGenParam::Int *p, QtOrvSpinBox *w)
-{
-    m.mapIntParam(p, w);
-}
-template<class Slider>
-void bind(OrvCamConfigMapper &m, OrvGenParam::Int *p, Slider *w)
-{
-    m.mapIntParam(p, w, nullptr);
-}
-
-/// The part that takes the keys.
-QWidget *keysOf(QWidget *w)
-{
-    return w;
-}
-QWidget *keysOf(QtOrvSpinBox *w)
-{
-    return w->spinBox();
-}
-QWidget *keysOf(QtOrvSliderSpinBox *w)
-{
-    return w->slider()->slider();
-}
-
 template<class Widget>
 std::unique_ptr<Control> number()
 {
     auto *w = new Widget;
+    QWidget *inner = w->template findChild<QSpinBox *>();
     return control(
         intText, {5, 6, 8}, w,
-        [=](auto &m, auto *a) { bind(m, a ? a->GetInt("Länge") : nullptr, w); },
-        [=] { QTest::keyClick(keysOf(w), Qt::Key_Up); }, [=] { return w->value(); });
+        [=](auto &m, auto *a) {
+            OrvGenParam::Int *param = a ? a->GetInt("Länge") : nullptr;
+            if constexpr (std::is_same<Widget, QSpinBox>() || std::is_same<Widget, QtOrvSpinBox>())
+                m.mapIntParam(param, w);
+            else
+                m.mapIntParam(param, w, nullptr);
+        },
+        [=] { QTest::keyClick(inner ? inner : w, Qt::Key_Up); }, [=] { return w->value(); });
 }
 
 /// Does something to the feature that the control is bound to, whichever it is.
@@ -207,28 +188,49 @@ auto feature(Camera &camera, const Control &control, Function function)
     return function(camera.number);
 }
 
-void changeTo(MemoryBoolean &node, qint64 value)
-{
-    node.change(value != 0);
-}
-void changeTo(MemoryCommand &node, qint64)
-{
-    node.changed();
-}
-template<class Node>
-void changeTo(Node &node, qint64 value)
-{
-    node.change(value);
-}
-
 void change(Camera &camera, const Control &control, qint64 value)
 {
-    feature(camera, control, [=](auto &node) { changeTo(node, value); });
+    feature(camera, control, [=](auto &node) {
+        if constexpr (std::is_same<decltype(node), MemoryCommand &>())
+            node.changed();
+        else
+            node.change(value);
+    });
 }
 int writesOf(Camera &camera, const Control &control)
 {
     return feature(camera, control, [](auto &node) { return node.writes(); });
 }
+
+/// Two entries, of which there is only the second, with the value 0.
+class GapEnum final : public OrvGenParam::Enum
+{
+    struct Entry final : OrvGenParam::EnumEntry
+    {
+        int64_t GetValue() const override { return 0; }
+        const char *GetSymbolic() const override { return "Da"; }
+        const char *GetDisplayName() const override { return "Da"; }
+        bool IsAvailable() const override { return true; }
+    };
+    mutable Entry m_entry;
+
+public:
+    const char *GetName() const override { return "Lücke"; }
+    const char *GetDisplayName() const override { return ""; }
+    const char *GetDescription() const override { return ""; }
+    OrvGenParam::ParamType GetType() const override { return OrvGenParam::ParamEnum; }
+    bool IsAvailable() const override { return true; }
+    bool IsReadable() const override { return true; }
+    bool IsWritable() const override { return true; }
+    void RegisterEventSink(OrvGenParam::ParamEventSink *) override {}
+    void UnregisterEventSink(OrvGenParam::ParamEventSink *) override {}
+    uint32_t GetEntryCount() const override { return 2; }
+    OrvGenParam::EnumEntry *GetEntry(uint32_t i) const override { return i ? &m_entry : nullptr; }
+    int64_t GetIntValue(int32_t *) const override { return 0; }
+    int32_t SetIntValue(int64_t) override { return 0; }
+    const char *GetSymbolicValue(int32_t *) const override { return "Da"; }
+    int32_t SetSymbolicValue(const char *) override { return 0; }
+};
 
 } // namespace
 
@@ -382,10 +384,8 @@ void TestOrvCamConfigMapper::refusedWrites()
     control->edit();
     QCOMPARE(control->shown(), control->edited);
     QCOMPARE(writesOf(camera, *control), 2);
-    feature(camera, *control, [&](auto &node) {
-        changeTo(node, control->first);
-        node.setAccessMode(GenApi::NA);
-    });
+    change(camera, *control, control->first);
+    feature(camera, *control, [](auto &node) { node.setAccessMode(GenApi::NA); });
     control->widget()->setEnabled(true);
     boxes.texts.clear();
     control->edit();
@@ -402,10 +402,8 @@ void TestOrvCamConfigMapper::refusedWrites()
         node.changed();
     });
     QCOMPARE(control->shown(), control->changed);
-    feature(camera, *control, [&](auto &node) {
-        node.onRead({});
-        changeTo(node, control->first);
-    });
+    feature(camera, *control, [](auto &node) { node.onRead({}); });
+    change(camera, *control, control->first);
     QCOMPARE(control->shown(), control->first);
     QTest::qWait(20);
     QCOMPARE(boxes.texts.size(), 1);
@@ -448,13 +446,18 @@ void TestOrvCamConfigMapper::lifetimes()
     QCOMPARE(writesOf(camera, *control), 0);
     control.reset();
 
-    // The widget goes first.
+    // The widget goes first, also when another mapper has taken it over.
     mapper = std::make_unique<OrvCamConfigMapper>();
-    control = make();
-    control->map(*mapper, camera.array.get());
-    delete control->owner.data();
-    change(camera, *control, control->first);
-    mapper->unmapAll();
+    for (bool taken : {false, true}) {
+        control = make();
+        control->map(*mapper, camera.array.get());
+        OrvCamConfigMapper another;
+        if (taken)
+            control->map(another, camera.array.get());
+        delete control->owner.data();
+        change(camera, *control, control->first);
+        mapper->unmapAll();
+    }
 
     // The camera goes first.
     control = make();
@@ -550,6 +553,15 @@ void TestOrvCamConfigMapper::converters()
         long ToControl(long value, OrvGenParam::Int *) override { return value / 2; }
         long ToDevice(long value, OrvGenParam::Int *) override { return value * 2; }
     } halves;
+    // Hosts count on the two being the first in the table.
+    const auto slotOf = [](long (IOrvCamConfigIntConverter::*operation)(long, OrvGenParam::Int *)) {
+        std::size_t offset = 0;
+        std::memcpy(&offset, &operation, sizeof offset);
+        return int(offset / sizeof(void *));
+    };
+    QCOMPARE(slotOf(&IOrvCamConfigIntConverter::ToControl), 0);
+    QCOMPARE(slotOf(&IOrvCamConfigIntConverter::ToDevice), 1);
+
     Camera camera;
     camera.number.setLimits(0, 1ll << 40);
     camera.number.setIncrement(10);
@@ -659,16 +671,42 @@ void TestOrvCamConfigMapper::entries()
     QCOMPARE(box->currentText(), QString());
     QCOMPARE(qint64(group->checkedId()), qint64(0));
 
-    // The next camera's entries. Buttons that the first one used must not answer to its values.
-    MemoryNodeMap other;
-    other.addEnumeration("Quelle", {{"Ja", 3}, {"Nein", 1}}, 1);
-    OrvGenParam::NodeMapArray otherArray(other);
-    map(otherArray);
-    QCOMPARE(group->checkedButton(), group->buttons()[1]);
-    QVERIFY(group->buttons()[2]->isHidden());
-    QCOMPARE(box->currentText(), QStringLiteral("Nein"));
+    // The next camera's entries, of which the camera library does not know every one. Buttons that
+    // the first camera used must not answer to its values.
+    GapEnum gap;
+    for (OrvCamConfigMapper &mapper : mappers)
+        mapper.unmapAll();
+    mappers[0].mapEnumParam(&gap, box);
+    mappers[1].mapEnumParam(&gap, group);
+    mappers[2].mapEnumParam(&gap, pages);
+    for (OrvCamConfigMapper &mapper : mappers)
+        mapper.OnParameterUpdate(&gap);
     QCOMPARE(box->count(), 2);
+    QCOMPARE(box->currentText(), QStringLiteral("Da"));
+    QVERIFY(!items()->item(0)->isEnabled() && items()->item(1)->isEnabled());
+    QVERIFY(group->buttons()[0]->isHidden() && group->buttons()[2]->isHidden());
+    QCOMPARE(group->checkedButton(), group->buttons()[1]);
+    QVERIFY(pages->widget(0)->isHidden());
     QCOMPARE(qint64(pages->currentIndex()), qint64(1));
+
+    // Values that are no ids of a group.
+    const qint64 values[] = {-1, 0x81080001, 0x81080002};
+    MemoryNodeMap odd;
+    auto &oddChoice = odd.addEnumeration(
+        "Quelle", {{"Auto", values[0]}, {"Mono", values[1]}, {"Bunt", values[2]}}, values[2]);
+    OrvGenParam::NodeMapArray oddArray(odd);
+    map(oddArray);
+    const ErrorBoxes boxes;
+    for (int i : {2, 0, 1}) {
+        oddChoice.change(values[i]);
+        QCOMPARE(group->checkedButton(), group->buttons()[i]);
+        click(group->buttons()[(i + 1) % 3]);
+        QCOMPARE(oddArray.GetEnum("Quelle")->GetIntValue(), int64_t(values[(i + 1) % 3]));
+    }
+    QCOMPARE(boxes.texts, QStringList());
+    oddChoice.entry("Bunt").setAccessMode(GenApi::NA);
+    oddChoice.changed();
+    QVERIFY(group->buttons()[1]->isEnabled() && !group->buttons()[2]->isEnabled());
 }
 
 void TestOrvCamConfigMapper::commandTimer()
@@ -748,6 +786,34 @@ void TestOrvCamConfigMapper::fromInside()
     QTest::keyClick(spinBox.spinBox(), Qt::Key_Up);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(!first.array);
+
+    // Buttons, of which the others are not shown any more.
+    const auto box = buttons();
+    auto *group = box->owner->findChild<QButtonGroup *>();
+    const auto onToggled = [&](std::function<void()> act) {
+        connect(group,
+                static_cast<void (QButtonGroup::*)(QAbstractButton *, bool)>(
+                    &QButtonGroup::buttonToggled),
+                act);
+    };
+    mapper = std::make_unique<OrvCamConfigMapper>();
+    box->map(*mapper, second.array.get());
+    onToggled([&] { mapper->unmapAll(); });
+    second.choice.change(1);
+    for (const QAbstractButton *button : group->buttons())
+        QVERIFY(!button->isEnabled());
+    second.choice.change(2);
+    connect(group->button(2), &QAbstractButton::toggled, [&] { mapper.reset(); });
+    box->map(*mapper, second.array.get());
+    QVERIFY(!mapper);
+    mapper = std::make_unique<OrvCamConfigMapper>();
+    box->map(*mapper, second.array.get());
+    onToggled([&] {
+        mapper.reset();
+        second.array.reset();
+    });
+    second.choice.change(0);
+    QVERIFY(!mapper);
 }
 
 void TestOrvCamConfigMapper::noGlitchesAndNoEcho()
@@ -837,8 +903,6 @@ void TestOrvCamConfigMapper::drags()
 {
     QFETCH(bool, refused);
     Camera camera;
-    camera.number.setLimits(0, 100);
-    camera.number.changed();
     OrvGenParam::Int *param = camera.array->GetInt("Länge");
     if (refused)
         camera.number.onWrite(throwRefusal);
@@ -852,6 +916,7 @@ void TestOrvCamConfigMapper::drags()
     const auto drag = [&](QSlider *slider, const auto &map) {
         mapper.unmapAll();
         map();
+        camera.number.setLimits(0, 100);
         camera.number.change(5);
         const int writes = camera.number.writes();
         boxes.texts.clear();
@@ -860,6 +925,8 @@ void TestOrvCamConfigMapper::drags()
         const QPoint step =
             slider->orientation() == Qt::Horizontal ? QPoint(10, 0) : QPoint(0, -10);
         dragBy(slider, from, step, 10, [&] { camera.number.changed(); }); // as if it were polled
+        camera.number.setLimits(0, 120);
+        camera.number.changed();
         QCOMPARE(camera.number.writes(), writes);
         dragged = slider->value();
         QVERIFY(dragged > 20);
@@ -868,6 +935,8 @@ void TestOrvCamConfigMapper::drags()
         QCOMPARE(param->GetValue(), int64_t(refused ? 5 : dragged));
         QCOMPARE(boxes.texts.size(), int(refused));
         QVERIFY(!slider->isSliderDown());
+        QCOMPARE(slider->value(), dragged);
+        QCOMPARE(slider->maximum(), 120);
 
         // A press without a move changes nothing.
         const QPoint there = handleOf(slider);
