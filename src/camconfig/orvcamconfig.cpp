@@ -470,7 +470,9 @@ bool OrvCamConfigPrivate::updateBoth()
 {
     const Frame first = selectedFrame;
     updateFrame(first);
-    const QByteArray selected = frameSelector ? symbolicOf(frameSelector) : QByteArray();
+    if (!frameSelector)
+        return true;
+    const QByteArray selected = symbolicOf(frameSelector);
     if (selected.isEmpty())
         return true;
     const SelectorDetour detour;

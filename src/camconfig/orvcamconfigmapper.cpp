@@ -732,8 +732,7 @@ void OrvCamConfigMapper::updateSliderSpinBox(Int *param, QtOrvSliderSpinBox *spi
 void OrvCamConfigMapper::showBoundTo(const QObject *control)
 {
     for (auto it = m_bindings.constBegin(); it != m_bindings.constEnd(); ++it) {
-        const Bindings bindings = it.value();
-        for (const Binding &binding : bindings) {
+        for (const Binding &binding : it.value()) {
             const OrvCamConfigMapData record = binding.alive();
             if (record.control != control && groupOf(record) != control)
                 continue;
