@@ -13,7 +13,8 @@ void addOptionsOfQt(QCommandLineParser &parser)
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);
     };
-    for (const char *name : {"dograb", "nograb", "reverse", "widgetcount"})
+    for (const char *name :
+         {"dograb", "nograb", "qdebug", "qdevel", "reverse", "testability", "widgetcount"})
         add(name, QString());
     for (const char *name :
          {"display", "geometry", "icon", "name", "platform", "platformpluginpath", "platformtheme",

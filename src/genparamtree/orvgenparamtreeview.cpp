@@ -33,6 +33,8 @@ const char pathSeparator[] = "/";
 
 /// The property of an editor that holds what the tree has filled it with.
 const char knownContent[] = "knownContent";
+/// The property of an editor that is set while the tree fills it.
+const char isBeingFilled[] = "isBeingFilled";
 
 const int nameColumn = 0;
 const int valueColumn = 1;
@@ -135,6 +137,7 @@ private:
             // The model has a text in place of a value that is not readable.
             if (!GenApi::IsReadable(valueOf(index)->GetAccessMode()))
                 return false;
+            const Filling filling(editor);
             GenParamDelegate::setEditorData(editor, index);
             return true;
         } catch (const GenICam::GenericException &) {
@@ -154,9 +157,40 @@ private:
 
     static bool isChanged(const QWidget *editor)
     {
+        // A list ends its editing whenever its entry changes, even if the camera changed it.
+        if (editor->property(isBeingFilled).toBool())
+            return false;
+        const auto *lineEdit = qobject_cast<const QLineEdit *>(editor);
+        if (lineEdit && !lineEdit->hasAcceptableInput())
+            return false;
         const QVariant known = editor->property(knownContent);
-        return editor->isWindowModified() || !known.isValid() || content(editor) != known;
+        return editor->isWindowModified() || !known.isValid() || !isSame(content(editor), known);
     }
+
+    // Comparing variants takes neighbouring floating-point numbers for equal.
+    static bool isSame(const QVariant &a, const QVariant &b)
+    {
+        return a.userType() == QMetaType::Double ? a.toDouble() == b.toDouble() : a == b;
+    }
+
+    /// Marks an editor that is being filled; it may go meanwhile.
+    class Filling
+    {
+    public:
+        explicit Filling(QWidget *editor) : m_editor(editor) { mark(true); }
+        ~Filling() { mark(false); }
+        Filling(const Filling &) = delete;
+        Filling &operator=(const Filling &) = delete;
+
+    private:
+        void mark(bool on)
+        {
+            if (m_editor)
+                m_editor->setProperty(isBeingFilled, on);
+        }
+
+        QPointer<QWidget> m_editor;
+    };
 };
 
 } // namespace
@@ -175,8 +209,8 @@ public:
     void setModel(std::nullptr_t);
     void installModel(QAbstractItemModel *model);
     void setSpanForChildren(const QModelIndex &parent);
-    void applyLevel();
-    bool endEditing();
+    void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
+    void endEditing();
     void forgetExpandedLeaves(const QModelIndex &parent);
     void describeCurrent();
 
@@ -274,7 +308,7 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
                      [this] { describeCurrent(); });
     const auto levelChanged =
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
-    QObject::connect(ui->cbVisibility, levelChanged, proxy, [this] { applyLevel(); });
+    QObject::connect(ui->cbVisibility, levelChanged, proxy, [this, proxy] { applyLevel(proxy); });
     halveColumns();
     setSpanForChildren(QModelIndex());
 }
@@ -292,39 +326,37 @@ void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
     }
 }
 
-void OrvGenParamTreeViewPrivate::applyLevel()
+// The tree may show the proxy through a model of the host's own.
+void OrvGenParamTreeViewPrivate::applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy)
 {
-    if (!endEditing())
+    const QPointer<QAbstractItemModel> alive(proxy);
+    endEditing();
+    if (!alive) // a host has replaced the tree in reaction to what was written
         return;
     forgetExpandedLeaves(QModelIndex());
-    static_cast<GenParamTreeVisibilityFilterProxyModel *>(ui->treeView->model())
-        ->setFilterVisibility(ui->cbVisibility->currentIndex());
+    proxy->setFilterVisibility(ui->cbVisibility->currentIndex());
     // When a whole category goes, the current row goes without a signal.
     describeCurrent();
 }
 
 // Writing a value while rows go makes the filter remove rows twice. And when the row of a current
-// value cell goes, its neighbour's becomes the current one, and edited. False when a host has
-// replaced the tree in reaction to what was written.
-bool OrvGenParamTreeViewPrivate::endEditing()
+// value cell goes, its neighbour's becomes the current one, and edited.
+void OrvGenParamTreeViewPrivate::endEditing()
 {
     QTreeView *tree = ui->treeView;
-    const QPointer<QAbstractItemModel> model(tree->model());
     const QPersistentModelIndex current(tree->currentIndex());
     if (current.column() != valueColumn)
-        return true;
+        return;
 
     const QPointer<QWidget> editor(tree->indexWidget(current));
-    QAbstractItemDelegate *delegate = tree->itemDelegateForColumn(valueColumn);
-    if (editor)
+    const QPointer<QAbstractItemDelegate> delegate(tree->itemDelegate(current));
+    if (editor && delegate)
         emit delegate->commitData(editor);
-    if (!model)
-        return false;
-    if (editor)
+    if (editor && delegate)
         emit delegate->closeEditor(editor);
-    tree->selectionModel()->setCurrentIndex(current.sibling(current.row(), nameColumn),
-                                            QItemSelectionModel::NoUpdate);
-    return true;
+    if (current.isValid() && current.model() == tree->model())
+        tree->selectionModel()->setCurrentIndex(current.sibling(current.row(), nameColumn),
+                                                QItemSelectionModel::NoUpdate);
 }
 
 // `QTreeView::expandAll` remembers leaves as expanded, too. That can be seen nowhere, but makes

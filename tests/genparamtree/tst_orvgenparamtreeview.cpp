@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QTextBrowser>
 #include <QtTest>
@@ -106,6 +107,7 @@ private slots:
     void escapeAndClickElsewhere();
     void untouchedEditors();
     void levelWhileEditing();
+    void onlyTheUsersChanges();
 
     void dragging();
     void draggingLimits();
@@ -486,6 +488,59 @@ void TestOrvGenParamTreeView::levelWhileEditing()
     GenApi::Deregister(handle);
     QCOMPARE(features[3]->GetValue(), int64_t(78));
     QVERIFY(driver.cell("Width").isValid() && !driver.cell("FirmwareKey").isValid());
+}
+
+// Not half an address, and not what the camera changes under an open list; but the smallest step of
+// a large number.
+void TestOrvGenParamTreeView::onlyTheUsersChanges()
+{
+    SampleNodeMap map;
+    auto &large = map.addFloat("Large", 1e12, "DeviceControl");
+    large.setLimits(0, 1e13);
+    auto &listed = map.addInteger("Listed", 2, "DeviceControl");
+    listed.setValidValues({0, 1, 2, 4});
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+
+    driver.click("GevPersistentIPAddress");
+    driver.type("192.168");
+    view.setVisibility(OrvGui::Expert);
+    QVERIFY(!driver.isEditing());
+    QCOMPARE(map.integer("GevPersistentIPAddress").writes(), 0);
+
+    driver.click("Large");
+    driver.press(Qt::Key_Up);
+    driver.press(Qt::Key_Return);
+    QCOMPARE(large.writes(), 1);
+    QCOMPARE(large.GetValue() - 1e12, 1.0);
+
+    for (const int64_t value : {4, 3}) {
+        driver.click("Listed");
+        QVERIFY(QApplication::activePopupWidget());
+        listed.change(value);
+        QTRY_VERIFY(!driver.isEditing());
+        QCOMPARE(listed.writes(), 0);
+        driver.click("Large", 0);
+    }
+
+    // A host may filter the tree further, and edit it with a delegate of its own.
+    QTreeView &tree = driver.tree();
+    QAbstractItemModel *const model = tree.model();
+    QAbstractItemDelegate *const delegate = tree.itemDelegateForColumn(1);
+    view.setVisibility(OrvGui::Guru);
+    QVERIFY(driver.cell("FirmwareKey").isValid());
+    QSortFilterProxyModel filter;
+    filter.setSourceModel(model);
+    tree.setModel(&filter);
+    tree.setItemDelegateForColumn(1, nullptr);
+    tree.expandAll();
+    tree.setCurrentIndex(filter.index(0, 1, filter.index(0, 0)));
+    tree.edit(tree.currentIndex());
+    view.setVisibility(OrvGui::Basic);
+    tree.setItemDelegateForColumn(1, delegate);
+    tree.setModel(model);
+    QVERIFY(!driver.cell("FirmwareKey").isValid());
 }
 
 void TestOrvGenParamTreeView::dragging()
