@@ -102,12 +102,12 @@ private:
     void addDialog(Dialog *dialog, QPushButton *button, QAction *action);
     OrvCam::Device *pick();
 
-    void init(OrvCam::Device *newDevice);
+    bool init(OrvCam::Device *newDevice);
     void getNeededParams();
     void forgetParams();
     void layOut();
     void clearFields();
-    void handOver(OrvCam::Device *newDevice);
+    void handOver();
 
     void refresh();
     void drop();
@@ -163,7 +163,8 @@ void OrvCamConfigPrivate::begin(OrvCam::Device *newDevice, bool mayAsk)
     addDialog(new OrvCamConfigStrobeDialog(newDevice, q), ui.pushBtnStrobe, ui.actionStrobe);
     addDialog(new OrvCamConfigOutputDialog(newDevice, q), ui.pushBtnDataOut, ui.actionData_Out);
     addDialog(new OrvCamConfigColorDialog(newDevice, q), ui.pushBtnColor, ui.actionColor);
-    init(newDevice);
+    if (!init(newDevice))
+        handOver();
 }
 
 void OrvCamConfigPrivate::build()
@@ -262,7 +263,7 @@ void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created
     OrvCam::Device *const former = watch.device();
     const bool isOwn = std::exchange(ownDevice, created) == former;
     init(newDevice);
-    handOver(newDevice);
+    handOver();
     const QPointer<OrvCamConfig> window(q);
     emit q->deviceChanged(usable());
     if (!former || former == newDevice)
@@ -273,7 +274,8 @@ void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created
         emit window->deviceGivenUp(former);
 }
 
-void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
+/// As `updateBoth`.
+bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
     forgetParams();
     clearFields();
@@ -294,8 +296,7 @@ void OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     const bool isBack = updateBoth();
     updateStatus();
     information->adjust(array);
-    if (!isBack)
-        handOver(device);
+    return isBack;
 }
 
 void OrvCamConfigPrivate::getNeededParams()
@@ -371,10 +372,12 @@ void OrvCamConfigPrivate::clearFields()
         edit->clear();
 }
 
-void OrvCamConfigPrivate::handOver(OrvCam::Device *newDevice)
+/// Each dialog gets the device that the window has by then: a dialog that reports an error waits
+/// for the user, and meanwhile a host may set another one.
+void OrvCamConfigPrivate::handOver()
 {
     for (OrvCamConfigDialog *dialog : dialogs)
-        dialog->SetDevice(newDevice);
+        dialog->SetDevice(device);
 }
 
 void OrvCamConfigPrivate::end()
@@ -384,7 +387,7 @@ void OrvCamConfigPrivate::end()
     watch.watch(nullptr);
     device = nullptr;
     clearFields();
-    handOver(nullptr);
+    handOver();
     emit q->deviceChanged(nullptr);
     if (OrvCam::Device *former = std::exchange(ownDevice, nullptr))
         former->Release();
@@ -409,7 +412,7 @@ void OrvCamConfigPrivate::drop()
 {
     forgetParams();
     device = nullptr;
-    handOver(nullptr);
+    handOver();
     clearFields();
     updateStatus();
     information->adjust(nullptr);
@@ -418,9 +421,10 @@ void OrvCamConfigPrivate::drop()
 
 void OrvCamConfigPrivate::restore()
 {
-    OrvCam::Device *const known = watch.device();
-    handOver(known);
-    init(known);
+    device = watch.device();
+    handOver();
+    if (!init(watch.device()))
+        handOver();
     emit q->deviceChanged(usable());
 }
 
@@ -432,8 +436,8 @@ void OrvCamConfigPrivate::refreshFrames()
         return updateFrame(FrameA);
     if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false)) {
         if (!updateBoth()) {
-            handOver(device);
-            emit q->deviceChanged(device);
+            handOver();
+            emit q->deviceChanged(usable());
         }
         return;
     }

@@ -111,7 +111,9 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
     for (const Coefficient &coefficient : m_coefficients) {
         coefficient.statistics->setFixedWidth(
             textWidth(coefficient.statistics, widest + QLatin1Char(' ')));
-        coefficient.statistics->setText(QString::number(coefficient.spinBox->value()));
+        // What the spin box of a missing coefficient shows may be a former camera's.
+        const int value = coefficient.bound ? coefficient.spinBox->value() : 0;
+        coefficient.statistics->setText(QString::number(value));
     }
 }
 

@@ -853,6 +853,8 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
             Int *const side = area.param(step.first);
             QtOrvSpinBox *const spinBox = areaBox(step.first);
             mapper.updateSpinBox(side, spinBox); // may show what has been refused
+            if (writing.isOver())
+                return;
             spinBox->setValue(ValueGrid::toInt(step.second));
             if (writing.isOver())
                 return;

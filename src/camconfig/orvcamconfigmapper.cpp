@@ -608,7 +608,7 @@ void OrvCamConfigMapper::mapIntParam(Int *param, QSlider *slider,
     onDragged(
         slider, [=] { return slider->value(); },
         [=] { writeInt(slider, param, slider->value(), converter); },
-        [=](What what) { showNumber(param, slider, converter, what); });
+        [=](What what) { return showNumber(param, slider, converter, what); });
     finish(param);
 }
 
@@ -658,35 +658,37 @@ void OrvCamConfigMapper::bindCompound(Int *param, Compound *widget,
     };
     onDragged(
         widget->slider(), [=] { return widget->value(); }, announce,
-        [=](What what) { showNumber(param, widget, converter, what); });
+        [=](What what) { return showNumber(param, widget, converter, what); });
     finish(param);
 }
 
 template<class Slider>
 void OrvCamConfigMapper::onDragged(Slider *slider, const std::function<int()> &value,
                                    const std::function<void()> &changed,
-                                   const std::function<void(What)> &show)
+                                   const std::function<bool(What)> &show)
 {
     const auto atPress = std::make_shared<int>(0);
     QObject::connect(slider, &Slider::sliderPressed, context(), [=] { *atPress = value(); });
     // A slider that is disabled under the user's hand is released as well.
     QObject::connect(slider, &Slider::sliderReleased, context(), [=] {
-        if (!slider->isEnabled() || value() == *atPress)
-            return show(Everything);
+        if (!slider->isEnabled() || value() == *atPress) {
+            show(Everything);
+            return;
+        }
         const std::shared_ptr<State> state = m_state;
         const QPointer<Slider> dragged(slider);
-        show(LimitsAroundValue); // which may be others since the drag began
-        if (state->context && dragged && dragged->isEnabled())
+        const bool isStillBound = show(LimitsAroundValue); // others, maybe, since the drag began
+        if (isStillBound && state->context && dragged && dragged->isEnabled())
             changed();
     });
 }
 
 template<class Widget>
-void OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
+bool OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
                                     IOrvCamConfigIntConverter *converter, What what)
 {
     if (HeldInput::isDrag(widget))
-        return; // its end shows or writes the value
+        return true; // its end shows or writes the value
 
     const auto shown = [=](int64_t number) {
         return converter ? converter->ToControl(static_cast<long>(number), param) : number;
@@ -703,7 +705,7 @@ void OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
     const bool isKept = what == LimitsAroundValue;
     const int value = isKept ? widget->value() : capped(shown(param->GetValue(&valueError)));
     if (isKept && (value < min || value > max))
-        return;
+        return true;
 
     const Showing showing(*this, widget);
     if (limitsError == OrvCam::Success && maxError == OrvCam::Success) {
@@ -716,6 +718,7 @@ void OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
     }
     if (valueError == OrvCam::Success && !showing.isOver() && widget->value() != value)
         widget->setValue(value);
+    return !showing.isOver();
 }
 
 void OrvCamConfigMapper::updateSpinBox(Int *param, QtOrvSpinBox *spinBox)

@@ -153,14 +153,14 @@ private:
     bool checkCurrentButton(OrvGenParam::Enum *param, QButtonGroup *buttons);
     void showText(OrvGenParam::Int *param, QLineEdit *lineEdit);
     template<class Widget>
-    void showNumber(OrvGenParam::Int *param, Widget *widget, IOrvCamConfigIntConverter *converter,
+    bool showNumber(OrvGenParam::Int *param, Widget *widget, IOrvCamConfigIntConverter *converter,
                     What what = Everything);
     template<class Compound>
     void bindCompound(OrvGenParam::Int *param, Compound *widget,
                       IOrvCamConfigIntConverter *converter);
     template<class Slider>
     void onDragged(Slider *slider, const std::function<int()> &value,
-                   const std::function<void()> &changed, const std::function<void(What)> &show);
+                   const std::function<void()> &changed, const std::function<bool(What)> &show);
     void write(QObject *control, const QString &format, const OrvGenParam::Param *param,
                const Write &call);
     void writeInt(QObject *control, OrvGenParam::Int *param, int shown,

@@ -78,6 +78,9 @@ void OrvCamConfigPulseDialogPrivate::bind()
 void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
 {
     const auto valueChanged = static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged);
+    // What is derived must not come from a former camera.
+    for (QtOrvSpinBox *spinBox : {ui.spBoxPeriod, ui.spBoxWidth})
+        spinBox->setRange(0, 0);
 
     ui.spBoxPeriod->slider()->setScaleType(QtOrvSlider::ScaleLog10);
     ui.spBoxPeriod->setSliderOrientation(Qt::Horizontal);

@@ -3,7 +3,6 @@
 
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
-#include <QCoreApplication>
 #include <QMouseEvent>
 
 namespace HeldInput {
@@ -35,7 +34,8 @@ void releaseMouse(QWidget *widget)
 {
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &release);
+    // Nobody else is to hear of it; an event that is sent goes on to the parents if it is ignored.
+    static_cast<QObject *>(widget)->event(&release);
 }
 
 } // namespace

@@ -66,9 +66,12 @@ void SliderFace::endUnseenInput(const QEvent *event)
 {
     // A groove starts to repeat only when its first step has been taken, and whoever listens to
     // that may have hidden or disabled the slider.
-    const bool repeats = event->type() == QEvent::Timer;
-    const bool usable = slider->isVisible() && slider->isEnabled();
-    if (event->type() != QEvent::Hide && (!repeats || usable))
+    const bool repeats =
+        event->type() == QEvent::Timer && !(slider->isVisible() && slider->isEnabled());
+    // A slider that was disabled and is enabled again still follows the mouse that holds its
+    // handle.
+    const bool isBack = event->type() == QEvent::EnabledChange && slider->isEnabled();
+    if (event->type() != QEvent::Hide && !isBack && !repeats)
         return;
     slider->setSliderDown(false);
     HeldInput::end(slider);

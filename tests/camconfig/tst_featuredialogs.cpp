@@ -276,6 +276,8 @@ void TestFeatureDialogs::missingFeatures()
     QCOMPARE(disabled(pulse, pulseNames), list(pulseNames));
     QVERIFY(shows(pulse, "lblPulseEnable", ":/icons/res/redball.ico"));
     QCOMPARE(part<QPushButton>(pulse, "pushBtnPulseEnable")->text(), QStringLiteral("Start"));
+    QCOMPARE(part<QLineEdit>(pulse, "lineEditFreq")->text(), QStringLiteral("0.000000"));
+    QCOMPARE(part<QLineEdit>(pulse, "lineEditDelay")->text(), QStringLiteral("0"));
 
     // The dialog's own rule enables boxes of which the camera knows nothing.
     MemoryNodeMap little;

@@ -442,6 +442,19 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     QCOMPARE(QString::number(child<QtOrvSpinBox>(stuck, "spBoxExpLines").value()),
              simulation.get("Frame_ExposureLines"));
     QCOMPARE(changes.count(), 1);
+
+    // Given up while a dialog says so: no other dialog gets it afterwards.
+    selector.setAccessMode(GenApi::RW);
+    selector.onWrite(throwRefusal);
+    map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}});
+    NodeMapDevice refusing(map);
+    ErrorBoxes boxes;
+    boxes.meanwhile = [&] { stuck.SetDevice(nullptr); };
+    stuck.SetDevice(&refusing);
+    QCOMPARE(boxes.texts.size(), 1);
+    QVERIFY(!stuck.device());
+    for (const auto *dialog : stuck.findChildren<OrvGui::OrvCamConfigDialog *>())
+        QVERIFY(!dialog->isEnabled());
 }
 
 void TestOrvCamConfigMainWindow::cameraWithOneFrame()

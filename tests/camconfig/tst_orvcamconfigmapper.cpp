@@ -960,7 +960,21 @@ void TestOrvCamConfigMapper::drags()
     camera.number.setAccessMode(GenApi::RO);
     QCOMPARE(plain.value(), 5);
     QVERIFY(!plain.isSliderDown());
-    QCOMPARE(camera.number.writes(), writes);
+
+    // Given another camera by whoever hears of the new limits: neither gets what was dragged.
+    Camera other;
+    camera.number.setAccessMode(GenApi::RW);
+    mapper.unmapAll();
+    mapper.mapIntParam(param, &plain, nullptr);
+    plain.setSliderDown(true);
+    plain.setSliderPosition(50);
+    camera.number.setLimits(0, 90);
+    connect(&plain, &QSlider::rangeChanged, [&] {
+        mapper.unmapAll();
+        mapper.mapIntParam(other.array->GetInt("Länge"), &plain, nullptr);
+    });
+    plain.setSliderDown(false);
+    QCOMPARE(camera.number.writes() + other.number.writes(), writes);
     QCOMPARE(boxes.texts.size(), 0);
 }
 

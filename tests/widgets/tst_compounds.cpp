@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
@@ -258,8 +259,13 @@ void TestCompounds::hideTheButtonWhenReadOnly()
 // Hidden, they don't hear that the mouse button is let go.
 void TestCompounds::letGoWhenHidden()
 {
+    struct Host : QWidget
+    {
+        void mouseReleaseEvent(QMouseEvent *) override { ++releases; }
+        int releases = 0;
+    };
     for (const bool isDrag : {true, false}) {
-        QWidget window;
+        Host window;
         QVBoxLayout layout(&window);
         QtOrvGainSlider gain;
         QtOrvSliderSpinBox beside;
@@ -296,6 +302,21 @@ void TestCompounds::letGoWhenHidden()
         gain.setValue(60);
         beside.setValue(60);
         QCOMPARE(gains.count() + values.count(), 2);
+        window.hide();
+        window.show();
+        QCOMPARE(window.releases, 0); // the host has not been clicked
+
+        // Nor does a slider that was locked meanwhile go on with the hand that held it.
+        QSlider *slider = innerSlider(beside);
+        const int y = slider->height() / 2;
+        beside.setValue(0);
+        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, QPoint(7, y));
+        beside.setEnabled(false);
+        beside.setEnabled(true);
+        QMouseEvent move(QEvent::MouseMove, QPointF(slider->width() / 2, y), Qt::LeftButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(slider, &move);
+        QCOMPARE(beside.value(), 0);
     }
 }
 
