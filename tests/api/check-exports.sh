@@ -26,7 +26,7 @@ readable=$(echo "$names" | c++filt)
 private=$(echo "$readable" | grep -E 'Private(::.*)?$' || true)
 surplus=$(echo "$readable" |
     grep -vE "^($trees|$dialogs|OrvGui::SelectCamera\(.*\))\$" |
-    grep -vE "^($about|void )?($classes)(::.*)?\$" || true)
+    grep -vE "^($about|void |bool )?($classes)(::.*)?\$" || true)
 if [ -n "$private$surplus" ]; then
     echo "exported, but not meant to be:" >&2
     printf '%s\n' "$private" "$surplus" >&2
