@@ -86,8 +86,9 @@ protected:
     template<class Sender, class Signal, class Handler>
     void on(Sender *sender, Signal signal, Handler handler)
     {
-        QObject::connect(sender, signal, m_handlers.get(), handler);
+        QObject::connect(sender, signal, handlers(), handler);
     }
+    QObject *handlers() const { return m_handlers.get(); }
 
     OrvCamConfigDialog *q = nullptr;
     OrvCam::Device *device = nullptr;

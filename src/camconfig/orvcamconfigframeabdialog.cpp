@@ -159,8 +159,6 @@ private:
     void bindPeriod();
     void connectHandlers();
     void connectDrags();
-    template<class Slider, class Value, class Changed, class Unchanged>
-    void onDragged(Slider *slider, Value value, Changed changed, Unchanged unchanged);
     void startSizeTimer();
     void showCurrentSize();
 
@@ -473,31 +471,27 @@ void OrvCamConfigFrameABDialogPrivate::connectHandlers()
     connectDrags();
 }
 
-// The widgets say nothing about a drag of their slider.
+// The widgets say nothing about a drag of their slider. What they show need not be what the camera
+// holds: only a move of the user's is a change.
 void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
-    onDragged(
-        ui.spBoxExpTime->slider(), [this] { return ui.spBoxExpTime->value(); },
-        [this] { setExposureTime(ui.spBoxExpTime->value()); }, [this] { updateExposureTime(); });
-    onDragged(
-        ui.spBoxDigitalGain->slider(), [this] { return gainOf(ui.spBoxDigitalGain->value()); },
-        [this] { setDigitalGain(ui.spBoxDigitalGain->value()); }, [this] { showDigitalGain(); });
-}
-
-// What is shown need not be what the camera holds: only a move of the user's is a change.
-template<class Slider, class Value, class Changed, class Unchanged>
-void OrvCamConfigFrameABDialogPrivate::onDragged(Slider *slider, Value value, Changed changed,
-                                                 Unchanged unchanged)
-{
-    const auto atPress = std::make_shared<decltype(value())>(value());
-    on(slider, &Slider::sliderPressed, [=] { *atPress = value(); });
-    // A slider that is disabled under the user's hand is released as well.
-    on(slider, &Slider::sliderReleased, [=] {
-        if (slider->isEnabled() && value() != *atPress)
-            changed();
-        else
-            unchanged();
-    });
+    HeldInput::onDragEnd(
+        ui.spBoxExpTime->slider(), handlers(), [this] { return ui.spBoxExpTime->value(); },
+        [this](bool isChanged) {
+            if (isChanged)
+                setExposureTime(ui.spBoxExpTime->value());
+            else
+                updateExposureTime();
+        });
+    HeldInput::onDragEnd(
+        ui.spBoxDigitalGain->slider(), handlers(),
+        [this] { return gainOf(ui.spBoxDigitalGain->value()); },
+        [this](bool isChanged) {
+            if (isChanged)
+                setDigitalGain(ui.spBoxDigitalGain->value());
+            else
+                showDigitalGain();
+        });
 }
 
 void OrvCamConfigFrameABDialogPrivate::startSizeTimer()

@@ -667,11 +667,8 @@ void OrvCamConfigMapper::onDragged(Slider *slider, const std::function<int()> &v
                                    const std::function<void()> &changed,
                                    const std::function<bool(What)> &show)
 {
-    const auto atPress = std::make_shared<int>(0);
-    QObject::connect(slider, &Slider::sliderPressed, context(), [=] { *atPress = value(); });
-    // A slider that is disabled under the user's hand is released as well.
-    QObject::connect(slider, &Slider::sliderReleased, context(), [=] {
-        if (!slider->isEnabled() || value() == *atPress) {
+    HeldInput::onDragEnd(slider, context(), value, [=](bool isChanged) {
+        if (!isChanged) {
             show(Everything);
             return;
         }

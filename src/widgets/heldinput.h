@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class QObject;
+#include <QObject>
+
+#include <memory>
+
 class QWidget;
 
 /// What the user is holding down in a widget with the mouse.
@@ -17,5 +20,17 @@ bool isDrag(QWidget *widget);
 /// Has the spin boxes and sliders of the widget forget that a mouse button is down. Anything but a
 /// widget is ignored, null too.
 void end(QObject *object);
+
+/// Calls `ended` when a drag of the slider ends, as long as `context` lives: with true when the
+/// user has changed what `value` returns since the press. A slider that is disabled under the
+/// user's hand is released as well; that is no change.
+template<class Slider, class Value, class Ended>
+void onDragEnd(Slider *slider, QObject *context, Value value, Ended ended)
+{
+    const auto atPress = std::make_shared<decltype(value())>(value());
+    QObject::connect(slider, &Slider::sliderPressed, context, [=] { *atPress = value(); });
+    QObject::connect(slider, &Slider::sliderReleased, context,
+                     [=] { ended(slider->isEnabled() && value() != *atPress); });
+}
 
 } // namespace HeldInput
