@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+
+/// What a camera or a description may cost at most. Everything beyond is refused with a message, not
+/// computed with.
+namespace OrvCameraIo::Limits {
+
+// A description
+
+/// The longest description, unpacked, in bytes. The largest known real one has 4 MB.
+constexpr std::size_t descriptionSize = 64u << 20;
+
+/// The longest one as the camera sends it, zipped or not.
+constexpr std::size_t downloadSize = 64u << 20;
+
+/// Nodes of a description, entries of enumerations included.
+constexpr std::size_t nodeCount = 500000;
+
+/// Elements within each other; the standard has no use for more than 6.
+constexpr int elementDepth = 32;
+
+/// Nodes that are read in order to read one: a longer chain of references has no value.
+constexpr int referenceDepth = 256;
+
+/// Operators, parentheses and sub-expressions within each other in a formula.
+constexpr int formulaDepth = 128;
+
+/// The length of a formula with all its sub-expressions put in, in characters.
+constexpr std::size_t formulaSize = 64u << 10;
+
+// A register
+
+/// The longest register that is transferred at all, in bytes.
+constexpr int64_t registerSize = 16 << 20;
+
+// Time on the cable
+
+/// A read has failed after so long, its repetitions and the camera's requests to wait included.
+constexpr std::chrono::milliseconds readBudget{1000};
+
+/// A write; some cameras save or switch that long.
+constexpr std::chrono::milliseconds writeBudget{2500};
+
+/// A command is not repeated earlier than this, however fast the camera has answered so far.
+constexpr std::chrono::milliseconds shortestRepetition{20};
+
+/// An idle camera is asked whether it is there so often.
+constexpr std::chrono::milliseconds keepAlivePeriod{250};
+
+/// A camera that has not answered for so long, and not to `lostAfterProbes` questions, is lost.
+constexpr std::chrono::milliseconds lostAfter{1000};
+constexpr int lostAfterProbes = 4;
+
+/// What the camera is told to wait for before it gives a silent program's control to others.
+constexpr std::chrono::milliseconds heartbeat{3000};
+
+// A network
+
+/// The cameras that are listed of one network adapter.
+constexpr std::size_t camerasPerAdapter = 256;
+
+} // namespace OrvCameraIo::Limits

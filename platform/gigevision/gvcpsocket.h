@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "gvcp.h"
+#include "networkadapter.h"
+
+#include <chrono>
+#include <optional>
+
+namespace OrvGigEVision {
+
+using Clock = std::chrono::steady_clock;
+
+/// Talks to the cameras behind one network adapter, and to no others: each packet names the adapter
+/// it leaves by, and what comes in by another one is dropped. That takes no privileges. Answers
+/// sent to the adapter's address and those broadcast by cameras of a foreign subnet both arrive.
+///
+/// Nothing throws; when the system refuses a socket or a packet, there are no answers.
+class GvcpSocket
+{
+public:
+    explicit GvcpSocket(const NetworkAdapter &adapter);
+    ~GvcpSocket();
+    GvcpSocket(const GvcpSocket &) = delete;
+    GvcpSocket &operator=(const GvcpSocket &) = delete;
+
+    /// A new number for a command; never 0.
+    uint16_t nextId();
+
+    void send(const Gvcp::Packet &packet, uint32_t camera);
+
+    /// To every camera, whatever its address.
+    void broadcast(const Gvcp::Packet &packet);
+
+    /// The next well-formed answer, valid until the next call; nothing when the time is up. What
+    /// else comes in is skipped and does not make the wait longer.
+    std::optional<Gvcp::Acknowledge> receive(Clock::time_point until);
+
+private:
+    std::optional<Gvcp::Acknowledge> take();
+    void sendFrom(uint32_t ownIp, const Gvcp::Packet &packet, uint32_t ip);
+
+    const NetworkAdapter m_adapter;
+    int m_socket = -1;
+    uint16_t m_lastId;
+    uint8_t m_buffer[2048];
+};
+
+} // namespace OrvGigEVision
