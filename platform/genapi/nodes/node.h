@@ -103,8 +103,8 @@ protected:
     void requireWritable() const;
 
     /// Runs a check and a write under the lock, which is released while the camera is talked to,
-    /// forgets what the write has changed and calls the callbacks. A write that fails may have got through in part: everything is forgotten too, but
-    /// no callback is called.
+    /// forgets what the write has changed and calls the callbacks. A write that fails may have got
+    /// through in part: everything is forgotten too, but no callback is called.
     template<typename Check, typename Write>
     void write(Check check, Write write);
 
