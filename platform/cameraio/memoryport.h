@@ -3,12 +3,14 @@
 
 #include "port.h"
 
+#include <GenApi/Types.h>
+
 #include <map>
 
 namespace OrvCameraIo {
 
 /// Registers without a camera: any address can be read and written, and is 0 until written.
-class MemoryPort final : public Port
+class GENAPI_DECL MemoryPort final : public Port
 {
 public:
     bool isImmediate() const override { return true; }
