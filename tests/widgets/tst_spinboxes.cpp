@@ -2,10 +2,23 @@
 #include "qtorvdoublespinboxval.h"
 #include "qtorvspinboxval.h"
 
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <limits>
+
+enum Hand { TypeOnly, Enter, Tab, Click, Close, Escape, Disable, Lock, OpenMenu };
+
+struct HandRow
+{
+    const char *name;
+    Hand hand;
+    bool isTaken;
+};
 
 class TestSpinBoxes : public QObject
 {
@@ -17,7 +30,13 @@ private Q_SLOTS:
     void bearsEveryNumber();
     void snapsWhoeverSetsTheValue();
     void waitsForEnter();
+    void takesWhatHandsLeave();
     void leavesEnterToTheBaseClass();
+
+private:
+    template<class Box, class T>
+    static void checkHand(const QLocale &locale, const HandRow &row, T number,
+                          QString text = QString());
 };
 
 void TestSpinBoxes::snaps()
@@ -140,14 +159,95 @@ void TestSpinBoxes::waitsForEnter()
     QCOMPARE(box.text(), QString("7"));
     QCOMPARE(box.value(), 16);
 
-    QtOrvDoubleSpinBoxVal real;
-    real.setLocale(QLocale::c());
-    real.setValidateTyping(false);
-    real.selectAll();
-    QTest::keyClicks(&real, "1.5");
-    QCOMPARE(real.value(), 0.0);
-    QTest::keyClick(&real, Qt::Key_Return);
-    QCOMPARE(real.value(), 1.5);
+    box.setReadOnly(true);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.value(), 16);
+}
+
+// In a window with another field; without a text, types what the box shows for the number.
+template<class Box, class T>
+void TestSpinBoxes::checkHand(const QLocale &locale, const HandRow &row, T number, QString text)
+{
+    QWidget window;
+    Box box;
+    QLineEdit other;
+    QVBoxLayout layout(&window);
+    layout.addWidget(&box);
+    layout.addWidget(&other);
+    box.setLocale(locale);
+    box.setRange(-10000, 10000);
+    box.setValue(number);
+    if (text.isEmpty())
+        text = box.text();
+    box.setValue(40);
+    const QString before = box.text();
+    box.setValidateTyping(row.hand == TypeOnly);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    box.setFocus();
+    box.selectAll();
+    for (const QChar sign : text)
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, sign, Qt::NoModifier);
+    if (row.hand != TypeOnly)
+        QCOMPARE(box.value(), T(40));
+
+    QMenu menu;
+    switch (row.hand) {
+    case TypeOnly:
+        break;
+    case Enter:
+        QTest::keyClick(&box, Qt::Key_Return);
+        break;
+    case Tab:
+        QTest::keyClick(&box, Qt::Key_Tab);
+        break;
+    case Click:
+        QTest::mouseClick(&other, Qt::LeftButton);
+        break;
+    case Escape:
+        QTest::keyClick(&box, Qt::Key_Escape);
+        Q_FALLTHROUGH();
+    case Close:
+        window.close();
+        break;
+    case Disable:
+        window.setEnabled(false);
+        break;
+    case Lock:
+        box.setReadOnly(true);
+        other.setFocus();
+        break;
+    case OpenMenu:
+        menu.popup(QPoint());
+        break;
+    }
+    const QByteArray what = QString("%1: %2").arg(locale.name(), text).toUtf8() + row.name;
+    QVERIFY2(box.value() == (row.isTaken ? number : T(40)), what);
+    if (row.hand != OpenMenu && !row.isTaken)
+        QVERIFY2(box.text() == before, what);
+    menu.close();
+    if (row.hand == OpenMenu)
+        QTest::keyClick(&box, Qt::Key_Return);
+    QVERIFY2(row.hand != OpenMenu || box.value() == number, what);
+}
+
+void TestSpinBoxes::takesWhatHandsLeave()
+{
+    const HandRow rows[] = {
+        {", typed", TypeOnly, true},    {", Return", Enter, true},    {", Tab", Tab, true},
+        {", click", Click, true},       {", closed", Close, true},    {", Escape", Escape, false},
+        {", disabled", Disable, false}, {", read-only", Lock, false}, {", menu", OpenMenu, false},
+    };
+    for (const char *name : {"C", "de_DE", "fr_FR", "ar_EG"}) {
+        for (const HandRow &row : rows) {
+            checkHand<QtOrvSpinBoxVal>(QLocale(name), row, -1234);
+            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), row, -1234.25);
+            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), row, 2.5, "2.5");
+        }
+    }
+    // The sign of another locale is not taken for one between thousands.
+    checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {", Tab", Tab, false}, 2.5, "2,5");
 }
 
 void TestSpinBoxes::leavesEnterToTheBaseClass()
@@ -163,6 +263,11 @@ void TestSpinBoxes::leavesEnterToTheBaseClass()
     QTest::keyClick(&box, Qt::Key_Return);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(box.value(), 40);
+
+    QTest::keyClicks(&box, "50");
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&box, &out);
+    QCOMPARE(box.value(), 50);
 }
 
 QTEST_MAIN(TestSpinBoxes)
