@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qtorvdoubleslider.h"
 
+#include "numbertext.h"
 #include "sliderface.h"
 #include "valueaccessibility.h"
 #include "valuegrid.h"
@@ -71,8 +72,8 @@ int QtOrvDoubleSliderPrivate::positionOf(double value) const
 
 void QtOrvDoubleSliderPrivate::writeLabels()
 {
-    minLabel->setText(QString::number(minimum, 'f', decimals));
-    maxLabel->setText(QString::number(maximum, 'f', decimals));
+    minLabel->setText(NumberText::of(minimum, decimals, slider->locale()));
+    maxLabel->setText(NumberText::of(maximum, decimals, slider->locale()));
 }
 
 void QtOrvDoubleSliderPrivate::setInnerRange()
@@ -247,6 +248,8 @@ bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
     d->endUnseenInput(event);
     if (event->type() == QEvent::LayoutDirectionChange)
         d->alignLabels();
+    if (event->type() == QEvent::LocaleChange)
+        d->writeLabels();
     if (event->type() != QEvent::FocusOut)
         return QFrame::eventFilter(watched, event);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qtorvslider.h"
 
+#include "numbertext.h"
 #include "sliderface.h"
 #include "valueaccessibility.h"
 #include "valuegrid.h"
@@ -24,6 +25,7 @@ public:
     int positionOf(int value) const;
     int currentValue() const { return valueOf(slider->value()); }
 
+    void writeLabels();
     void setInnerRange();
     void place(int value);
     void listen();
@@ -88,6 +90,12 @@ int QtOrvSliderPrivate::positionOf(int value) const
     if (scaleType == QtOrvSlider::ScaleSqrt)
         return ValueGrid::toInt(std::sqrt(distance) + 0.5);
     return ValueGrid::toInt(std::log10(distance + logOffset) * log10Coef + 0.5);
+}
+
+void QtOrvSliderPrivate::writeLabels()
+{
+    minLabel->setText(NumberText::of(minimum, slider->locale()));
+    maxLabel->setText(NumberText::of(maximum, slider->locale()));
 }
 
 void QtOrvSliderPrivate::setInnerRange()
@@ -200,8 +208,7 @@ void QtOrvSlider::setRange(int min, int max)
     const int kept = d->currentValue();
     d->minimum = min;
     d->maximum = max;
-    d->minLabel->setText(QString::number(min));
-    d->maxLabel->setText(QString::number(max));
+    d->writeLabels();
     d->setInnerRange();
     // Whoever listens may have set another range, which has been announced then.
     const auto isCurrent = [=] { return d->minimum == min && d->maximum == max; };
@@ -367,6 +374,9 @@ bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::LayoutDirectionChange:
         d->alignLabels();
+        break;
+    case QEvent::LocaleChange:
+        d->writeLabels();
         break;
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:
