@@ -130,6 +130,16 @@ int QtOrvSpinBox::value() const
     return d->spinBox->value();
 }
 
+void QtOrvSpinBox::setScaleType(QtOrvSlider::ScaleType type)
+{
+    d->setScaleType(type);
+}
+
+QtOrvSlider::ScaleType QtOrvSpinBox::scaleType() const
+{
+    return d->slider->scaleType();
+}
+
 void QtOrvSpinBox::setRange(int min, int max)
 {
     d->setRange(min, max);

@@ -3,13 +3,13 @@
 #define QTORVSPINBOX_H
 
 #include "orvcameraguiapi_export.h"
+#include "qtorvslider.h"
 
 #include <QScopedPointer>
 #include <QWidget>
 
 class QLabel;
 class QToolButton;
-class QtOrvSlider;
 class QtOrvSpinBoxPrivate;
 class QtOrvSpinBoxVal;
 
@@ -23,8 +23,9 @@ class QtOrvSpinBoxVal;
  * value and the slider stands at the position next to it. Set the scale before range and value: a
  * new scale re-places what the slider shows, and that becomes the value.
  *
- * The slider opens above the button when it is vertical and beside it when it is horizontal. It
- * closes when it loses the focus, and with Escape, Return or Tab.
+ * The slider opens above the button when it is vertical and beside it when it is horizontal, on
+ * the other side where the screen ends. It closes when it loses the focus, with Escape, Return or
+ * Tab, and with a second click on the button.
  *
  * Use it on the GUI thread only.
  */
@@ -35,6 +36,7 @@ class ORVCAMERAGUIAPI_EXPORT QtOrvSpinBox : public QWidget
     Q_CLASSINFO("date", "06/30/16")
     Q_CLASSINFO("author", "The OrvCameraGuiApi developers")
     Q_PROPERTY(Qt::Orientation sliderOrientation READ sliderOrientation WRITE setSliderOrientation)
+    Q_PROPERTY(QtOrvSlider::ScaleType scaleType READ scaleType WRITE setScaleType)
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
@@ -54,6 +56,10 @@ public:
 
     /** The value of the spin box. */
     int value() const;
+
+    /** The scale of the slider, linear at first. A new one keeps the value. */
+    void setScaleType(QtOrvSlider::ScaleType type);
+    QtOrvSlider::ScaleType scaleType() const;
 
     /** Sets one end and keeps the other. */
     void setMinimum(int min);

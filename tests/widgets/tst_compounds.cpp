@@ -200,11 +200,15 @@ void TestCompounds::treatPositionsOffTheGrid()
 void TestCompounds::keepWhatTheSliderCannotShow()
 {
     QtOrvSliderSpinBox widget;
-    widget.slider()->setScaleType(QtOrvSlider::ScaleLog10);
     widget.setRange(0, 1000000);
     ValueSpy<QtOrvSliderSpinBox> values(&widget);
 
     widget.setValue(10000);
+    for (const auto scale :
+         {QtOrvSlider::ScaleSqrt, QtOrvSlider::ScaleLinear, QtOrvSlider::ScaleLog10}) {
+        widget.setScaleType(scale);
+        QCOMPARE(widget.slider()->scaleType(), scale);
+    }
     QCOMPARE(widget.slider()->value(), 9990);
     QCOMPARE(widget.value(), 10000);
     QCOMPARE(values, (QList<QVariantList>{{10000}}));
