@@ -20,12 +20,11 @@ class QtOrvSpinBoxVal;
  * Use it where there is no room for a slider of its own. Spin box and slider stay in step. While
  * the user drags the slider the spin box follows, but the value counts as changed only by what
  * comes after the release. Where the scale of the slider is not linear the spin box holds the exact
- * value and the slider stands at the position next to it. Set the scale before range and value: a
- * new scale re-places what the slider shows, and that becomes the value.
+ * value and the slider stands at the position next to it.
  *
- * The slider opens above the button when it is vertical and beside it when it is horizontal, on
- * the other side where the screen ends. It closes when it loses the focus, with Escape, Return or
- * Tab, and with a second click on the button.
+ * The slider opens above the button when it is vertical and beside it when it is horizontal, below
+ * it where the screen has no room for that. It closes when it loses the focus, with Escape, Return
+ * or Tab, and with a second click on the button.
  *
  * Use it on the GUI thread only.
  */
