@@ -11,12 +11,10 @@
 
 #include <limits>
 
-enum Hand { TypeOnly, Enter, Tab, Click, Close, Escape, Disable, Lock, OpenMenu };
-
-struct HandRow
+struct Hand
 {
     const char *name;
-    Hand hand;
+    void (*move)(QAbstractSpinBox *box); ///< null: what is typed counts at once
     bool isTaken;
 };
 
@@ -35,7 +33,7 @@ private Q_SLOTS:
 
 private:
     template<class Box, class T>
-    static void checkHand(const QLocale &locale, const HandRow &row, T number,
+    static void checkHand(const QLocale &locale, const Hand &hand, T number,
                           QString text = QString());
 };
 
@@ -164,9 +162,9 @@ void TestSpinBoxes::waitsForEnter()
     QCOMPARE(box.value(), 16);
 }
 
-// In a window with another field; without a text, types what the box shows for the number.
+// Without a text, types what the box shows for the number.
 template<class Box, class T>
-void TestSpinBoxes::checkHand(const QLocale &locale, const HandRow &row, T number, QString text)
+void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number, QString text)
 {
     QWidget window;
     Box box;
@@ -181,7 +179,7 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const HandRow &row, T numbe
         text = box.text();
     box.setValue(40);
     const QString before = box.text();
-    box.setValidateTyping(row.hand == TypeOnly);
+    box.setValidateTyping(!hand.move);
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -189,65 +187,57 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const HandRow &row, T numbe
     box.selectAll();
     for (const QChar sign : text)
         QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, sign, Qt::NoModifier);
-    if (row.hand != TypeOnly)
+    if (hand.move) {
         QCOMPARE(box.value(), T(40));
-
-    QMenu menu;
-    switch (row.hand) {
-    case TypeOnly:
-        break;
-    case Enter:
-        QTest::keyClick(&box, Qt::Key_Return);
-        break;
-    case Tab:
-        QTest::keyClick(&box, Qt::Key_Tab);
-        break;
-    case Click:
-        QTest::mouseClick(&other, Qt::LeftButton);
-        break;
-    case Escape:
-        QTest::keyClick(&box, Qt::Key_Escape);
-        Q_FALLTHROUGH();
-    case Close:
-        window.close();
-        break;
-    case Disable:
-        window.setEnabled(false);
-        break;
-    case Lock:
-        box.setReadOnly(true);
-        other.setFocus();
-        break;
-    case OpenMenu:
-        menu.popup(QPoint());
-        break;
+        hand.move(&box);
     }
-    const QByteArray what = QString("%1: %2").arg(locale.name(), text).toUtf8() + row.name;
-    QVERIFY2(box.value() == (row.isTaken ? number : T(40)), what);
-    if (row.hand != OpenMenu && !row.isTaken)
-        QVERIFY2(box.text() == before, what);
-    menu.close();
-    if (row.hand == OpenMenu)
-        QTest::keyClick(&box, Qt::Key_Return);
-    QVERIFY2(row.hand != OpenMenu || box.value() == number, what);
+    const QByteArray what = QString("%1, %2: ").arg(locale.name(), text).toUtf8() + hand.name;
+    QVERIFY2(box.value() == (hand.isTaken ? number : T(40)), what);
+    QVERIFY2(hand.isTaken || box.text() == before, what);
 }
 
 void TestSpinBoxes::takesWhatHandsLeave()
 {
-    const HandRow rows[] = {
-        {", typed", TypeOnly, true},    {", Return", Enter, true},    {", Tab", Tab, true},
-        {", click", Click, true},       {", closed", Close, true},    {", Escape", Escape, false},
-        {", disabled", Disable, false}, {", read-only", Lock, false}, {", menu", OpenMenu, false},
+    using Box = QAbstractSpinBox;
+    const Hand tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
+    const auto click = [](Box *box) {
+        QTest::mouseClick(box->window()->layout()->itemAt(1)->widget(), Qt::LeftButton);
+    };
+    const auto escape = [](Box *box) {
+        QTest::keyClick(box, Qt::Key_Escape);
+        box->window()->close();
+    };
+    const auto lock = [](Box *box) {
+        box->setReadOnly(true);
+        box->clearFocus();
+    };
+    const auto openMenu = [](Box *box) {
+        QMenu menu;
+        menu.popup(QPoint());
+        QCOMPARE(box->property("value").toInt(), 40);
+        menu.close();
+        QTest::keyClick(box, Qt::Key_Return);
+    };
+    const Hand hands[] = {
+        {"typing", nullptr, true},
+        {"Return", [](Box *box) { QTest::keyClick(box, Qt::Key_Return); }, true},
+        tab,
+        {"click", click, true},
+        {"close", [](Box *box) { box->window()->close(); }, true},
+        {"menu", openMenu, true},
+        {"Escape", escape, false},
+        {"disabled", [](Box *box) { box->window()->setEnabled(false); }, false},
+        {"read-only", lock, false},
     };
     for (const char *name : {"C", "de_DE", "fr_FR", "ar_EG"}) {
-        for (const HandRow &row : rows) {
-            checkHand<QtOrvSpinBoxVal>(QLocale(name), row, -1234);
-            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), row, -1234.25);
-            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), row, 2.5, "2.5");
+        for (const Hand &hand : hands) {
+            checkHand<QtOrvSpinBoxVal>(QLocale(name), hand, -1234);
+            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, -1234.25);
+            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, 2.5, "2.5");
         }
     }
     // The sign of another locale is not taken for one between thousands.
-    checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {", Tab", Tab, false}, 2.5, "2,5");
+    checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.move, false}, 2.5, "2,5");
 }
 
 void TestSpinBoxes::leavesEnterToTheBaseClass()
