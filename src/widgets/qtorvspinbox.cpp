@@ -159,7 +159,9 @@ bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
         }
     }
     // The press that takes the focus off the slider has closed it already.
-    if (watched == button && event->type() == QEvent::MouseButtonPress) {
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (watched == button && isPress) {
         isClosingClick = sinceFocusOut.isValid() && !sinceFocusOut.hasExpired(200);
         sinceFocusOut.invalidate();
     }
