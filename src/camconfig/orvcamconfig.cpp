@@ -3,6 +3,7 @@
 
 #include "camerainformation.h"
 #include "devicewatch.h"
+#include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
 #include "orvcamconfigframeabdialog.h"
 #include "orvcamconfigoutputdialog.h"
@@ -42,12 +43,12 @@ QString numberOf(const OrvGenParam::Int *param)
     return param && error == OrvCam::Success ? QString::number(value) : QString();
 }
 
-QString frameRate(const QString &frameTime)
+QString frameRate(const QString &frameTime, const QLocale &locale)
 {
     if (frameTime.isEmpty())
         return QString();
     const double microseconds = frameTime.toDouble();
-    return QString::number(microseconds > 0 ? 1e6 / microseconds : 0.0, 'f', 2);
+    return NumberText::of(microseconds > 0 ? 1e6 / microseconds : 0.0, 2, locale);
 }
 
 /// Empty when it cannot be read.
@@ -464,7 +465,7 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
     const QString time = numberOf(frameTime);
     const QString size = numberOf(width) + QLatin1Char('x') + numberOf(height);
     column.size->setText(size.size() > 1 ? size : QString());
-    column.fps->setText(frameRate(time));
+    column.fps->setText(frameRate(time, q->locale()));
     column.frameTime->setText(time);
     column.exposure->setText(numberOf(exposureTime));
 }
