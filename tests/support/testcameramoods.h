@@ -35,6 +35,7 @@ struct TestCameraBehaviour
         TruncatedAnswer = 64,  ///< the last byte is missing
         TruncatedHeader = 128, ///< 5 bytes
         ForeignPort = 256,     ///< from another port of the camera
+        AllFaults = 511
     };
     unsigned faults = 0;      ///< one packet for each, in this order
     bool isGoodAfter = false; ///< the good answer follows the faulty ones
