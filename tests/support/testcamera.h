@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "testcameramemory.h"
-#include "testcameramoods.h"
-
-#include <netinet/in.h>
+#include "testcameracommands.h"
+#include "testcameralog.h"
 
 #include <array>
-#include <atomic>
 #include <deque>
 #include <functional>
 #include <map>
@@ -116,61 +113,13 @@ public:
 
     /// @name What was received and sent
     /// @{
-    enum Kind : uint16_t {
-        Discovery = 0x0002,
-        ForceIpCommand = 0x0004,
-        PacketResend = 0x0040,
-        ReadRegister = 0x0080,
-        WriteRegister = 0x0082,
-        ReadMemory = 0x0084,
-        WriteMemory = 0x0086,
-    };
+    using Counters = TestCameraCounters;
+    using Access = TestCameraAccess;
 
-    /// Commands count when they arrive, also those that are then refused, ignored or lost.
-    struct Counters
-    {
-        unsigned packets = 0; ///< received
-        unsigned discovery = 0;
-        unsigned forceIp = 0; ///< for any camera
-        unsigned packetResend = 0;
-        unsigned readRegister = 0; ///< commands, not registers
-        unsigned writeRegister = 0;
-        unsigned readMemory = 0;
-        unsigned writeMemory = 0;
-        unsigned other = 0;
-        unsigned heartbeats = 0; ///< those of readRegister that ask for the control privilege only
-        unsigned registersRead = 0; ///< by READREG
-        unsigned registersWritten = 0;
-        unsigned bytesRead = 0; ///< by READMEM
-        unsigned bytesWritten = 0;
-        unsigned repetitions = 0;  ///< of one of the last 16 commands
-        unsigned lostRequests = 0; ///< by request loss and silence
-        unsigned lostAnswers = 0;
-        unsigned refused = 0; ///< answered with an error
-        unsigned sent = 0;    ///< packets, PENDING_ACKs and faulty ones included
-
-        /// All reads and writes but the heartbeats.
-        unsigned transfers() const
-        {
-            return readRegister + writeRegister + readMemory + writeMemory - heartbeats;
-        }
-        std::string text() const; ///< "name value" lines, those with 0 left out
-    };
     Counters counters() const;
     /// The counters, which start from 0 again.
     Counters takeCounters();
 
-    /// A read or write that arrived; a concatenated command makes several with one `packet`.
-    struct Access
-    {
-        Kind kind;
-        uint32_t address;
-        uint32_t size; ///< bytes
-        unsigned packet;
-        bool isLost;
-
-        bool isRead() const { return kind == ReadRegister || kind == ReadMemory; }
-    };
     /// Everything since the last call, heartbeats left out.
     std::vector<Access> takeAccesses();
     /// The data of all forced IP commands for this camera, 56 bytes each.
@@ -192,11 +141,7 @@ private:
         sockaddr_in from;
         Socket socket;
     };
-    struct Answer
-    {
-        uint16_t status = 0;
-        std::string data;
-    };
+    using Answer = TestCameraCommands::Answer;
     struct Packet
     {
         Socket socket;
@@ -218,16 +163,7 @@ private:
     void writeIpRegisters();
 
     void handle(const std::string &packet, const sockaddr_in &from, Socket socket);
-    void count(const Command &command, bool isLost);
-    Answer execute(const Command &command);
-    Answer readRegisters(const Command &command);
-    Answer writeRegisters(const Command &command);
-    Answer readMemory(const Command &command);
-    Answer writeMemory(const Command &command);
-    uint16_t writeWord(uint32_t address, uint32_t value, const sockaddr_in &from);
-    uint16_t writeControl(uint32_t value, const sockaddr_in &from);
-    uint16_t refusal(uint32_t address, bool isWrite, const sockaddr_in &from) const;
-    bool forceIp(const Command &command);
+    void forceIp(const Command &command);
 
     void reply(const Command &command, const Answer &answer);
     void send(Clock::time_point due, const Command &command, const std::string &bytes,
@@ -235,16 +171,12 @@ private:
     std::string faulty(unsigned fault, const Command &command, const Answer &answer);
     bool isLost(int perCent);
 
-    bool isController(const sockaddr_in &from) const;
-    void giveControl(uint32_t privilege, const sockaddr_in &controller);
-    void expireControl();
-
     const Settings m_settings;
     mutable std::mutex m_mutex; ///< for all that follows
-    TestCameraMemory m_memory;
+    TestCameraCommands m_commands;
+    TestCameraLog m_log;
     TestCameraBehaviour m_behaviour;
     Clock::time_point m_silentUntil;
-    int m_busy = 0;
     std::minstd_rand m_random;
     unsigned m_answers = 0;
     std::array<int, SocketCount> m_sockets{{-1, -1, -1, -1}};
@@ -252,14 +184,8 @@ private:
     uint32_t m_netmask = 0;
     uint32_t m_gateway = 0;
     uint64_t m_mac = 0;
-    uint32_t m_privilege = 0;
-    sockaddr_in m_controller{};
-    Clock::time_point m_lastHeard;
     std::multimap<Clock::time_point, Packet> m_outgoing;
-    Counters m_counters;
-    std::vector<Access> m_accesses;
     std::vector<std::string> m_forcedIps;
-    std::deque<std::string> m_lastCommands;
     std::deque<std::function<void()>> m_tasks;
     int m_wake = -1;
     bool m_stop = false;

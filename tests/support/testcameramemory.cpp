@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "testcameramemory.h"
 
+#include "testgvcp.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -13,22 +15,6 @@ constexpr uint32_t longestFill = 64 * 1024;
 uint32_t reversed(uint32_t value)
 {
     return value << 24 | (value & 0xFF00) << 8 | (value >> 8 & 0xFF00) | value >> 24;
-}
-
-std::string bigEndian(uint64_t value, uint32_t size)
-{
-    std::string bytes;
-    for (uint32_t i = 0; i < size; ++i)
-        bytes += static_cast<char>(size - i > 8 ? 0 : value >> 8 * (size - i - 1));
-    return bytes;
-}
-
-uint32_t fromBigEndian(const std::string &bytes, std::size_t offset)
-{
-    uint32_t value = 0;
-    for (std::size_t i = 0; i < 4; ++i)
-        value = value << 8 | static_cast<uint8_t>(bytes[offset + i]);
-    return value;
 }
 
 /// The contents of an element without attributes; `missing` when there is none.
@@ -69,19 +55,19 @@ std::string elementAround(const std::string &description, std::size_t position)
 
 std::string filling(const std::string &element, uint32_t size, uint32_t number)
 {
-    std::string bytes = bigEndian(number, size);
+    std::string bytes = TestGvcp::bytesOf(number, size);
     if (element.compare(0, 10, "<StringReg") == 0)
         return ("T" + std::to_string(number) + std::string(size, '\0')).substr(0, size);
     if (element.compare(0, 9, "<FloatReg") == 0 && size == 4) {
         const float value = static_cast<float>(number) + 0.5f;
         uint32_t bits = 0;
         std::memcpy(&bits, &value, sizeof bits);
-        bytes = bigEndian(bits, size);
+        bytes = TestGvcp::bytesOf(bits, size);
     } else if (element.compare(0, 9, "<FloatReg") == 0 && size == 8) {
         const double value = number + 0.5;
         uint64_t bits = 0;
         std::memcpy(&bits, &value, sizeof bits);
-        bytes = bigEndian(bits, size);
+        bytes = TestGvcp::bytesOf(bits, size);
     }
     if (contentsOf(element, "Endianess").find("LittleEndian") != std::string::npos)
         std::reverse(bytes.begin(), bytes.end());
@@ -110,7 +96,7 @@ std::optional<uint32_t> TestCameraMemory::word(uint32_t address)
     const auto after = m_blocks.upper_bound(address);
     if (isBlock(address)) {
         const auto &[start, contents] = *std::prev(after);
-        return fromBigEndian(contents, address - start);
+        return TestGvcp::number(contents, address - start);
     }
     if (m_unknown == Unknown::Refused)
         return std::nullopt;
@@ -132,7 +118,7 @@ std::optional<std::string> TestCameraMemory::bytes(uint32_t address, uint32_t si
         const auto value = word(address + i);
         if (!value)
             return std::nullopt;
-        result += bigEndian(view(address + i, *value), 4);
+        result += TestGvcp::bytesOf(view(address + i, *value));
     }
     return result;
 }
@@ -141,7 +127,7 @@ void TestCameraMemory::setBytes(uint32_t address, std::string bytes)
 {
     bytes.resize((bytes.size() + 3) / 4 * 4, '\0');
     for (uint32_t i = 0; i < bytes.size(); i += 4)
-        setWord(address + i, view(address + i, fromBigEndian(bytes, i)));
+        setWord(address + i, view(address + i, TestGvcp::number(bytes, i)));
 }
 
 void TestCameraMemory::setText(uint32_t address, std::size_t size, const std::string &text)
@@ -188,7 +174,7 @@ void TestCameraMemory::fillRegister(const std::string &element, uint32_t address
     bytes.resize((bytes.size() + 3) / 4 * 4, '\0');
     for (uint32_t i = 0; i < bytes.size(); i += 4) {
         if (!m_words.count(start + i) && !isBlock(start + i))
-            setWord(start + i, fromBigEndian(bytes, i));
+            setWord(start + i, TestGvcp::number(bytes, i));
     }
 }
 
