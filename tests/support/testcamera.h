@@ -31,9 +31,11 @@
 ///     …
 ///     check(camera.counters().readRegister == 1);
 ///
-/// A camera at the far end of a CameraNetwork is given that network's `farNamespace()` and
-/// `farName()`. Each camera has a thread of its own; all functions can be called from any thread
-/// and take effect before they return, except that answers already delayed are still sent.
+/// Link orv_test_camera. A camera at the far end of a CameraNetwork gets its settings from
+/// CameraNetwork::cameraSettings(). By hand, and from other processes: test-camera --help.
+///
+/// Each camera has a thread of its own. All functions can be called from any thread and take effect
+/// before they return; answers that are delayed already are dropped by silence and unplugging only.
 class TestCamera
 {
 public:
@@ -54,7 +56,7 @@ public:
         std::string serial = "1";
         std::string userName;
 
-        std::string description;                    ///< the text of a GenICam description
+        std::string description; ///< of GenICam, or any other bytes for its place
         std::string descriptionName = "camera.xml"; ///< in the URL; of a zipped one with .zip
         uint32_t descriptionAddress = 0xC0000000;
         bool isZipped = false;

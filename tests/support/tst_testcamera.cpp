@@ -20,40 +20,38 @@ private slots:
 
 namespace {
 
-class Client
+struct Client
 {
-public:
+    const int fd = socket(AF_INET, SOCK_DGRAM, 0);
+
     Client()
     {
         sockaddr_in to{};
         to.sin_family = AF_INET;
         to.sin_port = htons(3956);
         to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        connect(m_socket, reinterpret_cast<const sockaddr *>(&to), sizeof to);
+        connect(fd, reinterpret_cast<const sockaddr *>(&to), sizeof to);
         const timeval patience{0, 60000};
-        setsockopt(m_socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+        setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
     }
-    ~Client() { close(m_socket); }
+    ~Client() { close(fd); }
 
     /// Sends what is behind key and flags, in hexadecimal.
     void send(const char *command) const
     {
         const QByteArray packet = QByteArray::fromHex(QByteArray("4201") + command);
-        ::send(m_socket, packet.constData(), static_cast<std::size_t>(packet.size()), 0);
+        ::send(fd, packet.constData(), static_cast<std::size_t>(packet.size()), 0);
     }
 
     /// In hexadecimal; empty when nothing comes.
     QByteArray receive() const
     {
         char buffer[1024];
-        const auto size = recv(m_socket, buffer, sizeof buffer, 0);
+        const auto size = recv(fd, buffer, sizeof buffer, 0);
         return size < 0 ? QByteArray() : QByteArray(buffer, static_cast<int>(size)).toHex();
     }
 
     QByteArray ask(const char *command) const { return send(command), receive(); }
-
-private:
-    const int m_socket = socket(AF_INET, SOCK_DGRAM, 0);
 };
 
 const char *const readWidth = "0080 0004 0007 00010000";
@@ -108,8 +106,7 @@ void TestTestCamera::control()
     TestCamera::Settings single = settings();
     single.canConcatenate = false;
     TestCamera camera(single);
-    const Client owner;
-    const Client other;
+    const Client owner, other;
     QVERIFY(owner.ask("0080 0008 0001 00010000 00010004").startsWith("8002"));
     QVERIFY(owner.ask(takeControl).startsWith("0000"));
     QVERIFY(other.ask(takeControl).startsWith("8006"));
@@ -148,21 +145,17 @@ void TestTestCamera::moods()
             seen += got == goodWidth;
         QVERIFY2(seen == good.value(mood.name, camera.behaviour().faults == 0), mood.name);
         QVERIFY2(camera.counters().sent == sent.value(mood.name, 1), mood.name);
-        camera.setMood("good");
-        QVERIFY2(client.ask(readWidth) == goodWidth, mood.name);
-    }
 
-    // Several answers are delayed at the same time.
-    TestCamera camera(settings());
-    camera.setMood("delay", 50);
-    const Client clients[8];
-    QElapsedTimer timer;
-    timer.start();
-    for (const Client &client : clients)
-        client.send(readWidth);
-    for (const Client &client : clients)
-        QVERIFY(client.receive().startsWith("0000"));
-    QVERIFY(timer.elapsed() >= 50 && timer.elapsed() < 150);
+        // A good camera again, and several answers are delayed at the same time.
+        camera.setMood("delay", 10);
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < 10; ++i)
+            client.send(readWidth);
+        for (int i = 0; i < 10; ++i)
+            QVERIFY2(client.receive() == goodWidth, mood.name);
+        QVERIFY2(timer.elapsed() >= 10 && timer.elapsed() < 80, mood.name);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestTestCamera)
