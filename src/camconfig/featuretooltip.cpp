@@ -40,6 +40,15 @@ QString FeatureToolTip::text(const OrvGenParam::Param *param, const Range &range
                    isCamerasUnit ? unit(param) : QString(), name(param)});
 }
 
+QString FeatureToolTip::text(std::initializer_list<const OrvGenParam::Param *> params)
+{
+    QStringList texts;
+    for (const OrvGenParam::Param *param : params)
+        texts << text(param);
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral("<br/><br/>"));
+}
+
 QString FeatureToolTip::head(const OrvGenParam::Param *param)
 {
     return joined({QStringLiteral("<b>%1</b>").arg(escaped(param->GetDisplayName())),

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <initializer_list>
+
 class QWidget;
 
 namespace OrvGenParam {
@@ -31,6 +33,9 @@ public:
 
     /// The same, with the range. A range in another unit than the camera's comes without unit.
     static QString text(const OrvGenParam::Param *param, const Range &range, bool isCamerasUnit);
+
+    /// Of several features, of which some may be null.
+    static QString text(std::initializer_list<const OrvGenParam::Param *> params);
 
     /// Gives the tool tip to the widget and to its labels, those of which it is the buddy, unless
     /// they have one that does not come from here. An empty text takes it away.

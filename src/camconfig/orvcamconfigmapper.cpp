@@ -23,7 +23,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSet>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStandardItemModel>
@@ -217,7 +216,7 @@ struct OrvCamConfigMapper::State
     /// What connections of the mapper end with. Null when the mapper is gone.
     std::unique_ptr<QObject> context{new QObject};
     QVector<Showing *> showing;
-    QSet<Param *> registered;
+    QHash<Param *, QByteArray> registered; ///< with their names: they may be gone
     QHash<QTabWidget *, QVector<QPointer<QWidget>>> removedPages; ///< the last one first
     WheelGuard wheelGuard;
 };
@@ -330,7 +329,7 @@ bool OrvCamConfigMapper::begin(Param *param, const Records &records)
 
 void OrvCamConfigMapper::finish(Param *param)
 {
-    m_state->registered.insert(param);
+    m_state->registered.insert(param, param->GetName());
     param->RegisterEventSink(this);
 }
 
@@ -376,10 +375,15 @@ void OrvCamConfigMapper::unmapAll()
     m_state->registered.clear();
 }
 
-void OrvCamConfigMapper::unregisterAll()
+void OrvCamConfigMapper::leave(const OrvGenParam::Array &array)
 {
-    for (Param *param : std::exchange(m_state->registered, {}))
-        param->UnregisterEventSink(this);
+    const auto registered = std::exchange(m_state->registered, {});
+    for (auto it = registered.begin(); it != registered.end(); ++it) {
+        if (array.GetParam(it.value().constData()) == it.key())
+            it.key()->UnregisterEventSink(this);
+        else
+            m_state->registered.insert(it.key(), it.value());
+    }
 }
 
 void OrvCamConfigMapper::write(QObject *control, const QString &format, const Param *param,

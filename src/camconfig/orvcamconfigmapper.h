@@ -30,6 +30,7 @@ class QtOrvSliderSpinBox;
 class QtOrvSpinBox;
 
 namespace OrvGenParam {
+class Array;
 class Boolean;
 class Command;
 class Enum;
@@ -126,9 +127,9 @@ public:
     /// The same for all parameters. Touches widgets only, no parameter.
     void unmapAll();
 
-    /// Has no parameter notify the mapper any more. All that have been mapped since the last
-    /// `unmapAll` must be alive; call this one before it.
-    void unregisterAll();
+    /// Has no parameter of the array notify the mapper any more; what is bound stays bound. Call it
+    /// before `unmapAll`, which forgets the parameters.
+    void leave(const OrvGenParam::Array &array);
 
     /// Refresh a widget without a notification of the camera.
     void updateSpinBox(OrvGenParam::Int *param, QtOrvSpinBox *spinBox);

@@ -450,6 +450,8 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     NodeMapDevice refusing(map);
     ErrorBoxes boxes;
     boxes.meanwhile = [&] { stuck.SetDevice(nullptr); };
+    stuck.show();
+    child<QPushButton>(stuck, "pushBtnFrameAB").click(); // one that is not seen selects nothing
     stuck.SetDevice(&refusing);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(!stuck.device());
