@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
@@ -20,6 +21,17 @@ QSize roomFor(const QWidget *window)
     const int frame = window->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
     const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight);
     return screen->availableSize() - QSize(2 * frame, 2 * frame + title);
+}
+
+/// Has the size hint know of all changes. Layouts of hidden widgets do not tell their parents.
+void activateLayouts(QWidget *widget)
+{
+    for (QObject *child : widget->children()) {
+        if (child->isWidgetType())
+            activateLayouts(static_cast<QWidget *>(child));
+    }
+    if (widget->layout())
+        widget->layout()->activate();
 }
 
 } // namespace
@@ -41,6 +53,7 @@ void FormFit::fitUprightSlider(QtOrvSpinBox *spinBox)
 
 void FormFit::growToFit(QWidget *window, const QScrollArea *area)
 {
+    activateLayouts(area->widget());
     const QSize room = roomFor(window);
     QSize wanted = area->widget()->sizeHint();
     const int bar = area->style()->pixelMetric(QStyle::PM_ScrollBarExtent);

@@ -111,6 +111,7 @@ private:
     void forgetParams();
     void layOut();
     void layOutFrameButton();
+    void layOutButtons();
     void explainFields();
     void dimOldNumbers();
     void clearFields();
@@ -232,6 +233,7 @@ void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction
     });
     QObject::connect(action, &QAction::toggled, &receiver, [=](bool checked) {
         button->setVisible(checked && action->isVisible());
+        layOutButtons();
         if (!checked)
             dialog->close();
     });
@@ -396,6 +398,21 @@ void OrvCamConfigPrivate::layOutFrameButton()
     ui.pushBtnFrameAB->setVisible(isFrameABSupported && ui.actionFrame_A_B->isChecked());
     if (!isFrameABSupported)
         ui.pushBtnFrameAB->setChecked(false);
+    layOutButtons();
+}
+
+/// Those that are there follow each other without a gap.
+void OrvCamConfigPrivate::layOutButtons()
+{
+    int place = 0;
+    for (QPushButton *button : {ui.pushBtnFrameAB, ui.pushBtnTrigger, ui.pushBtnPulse,
+                                ui.pushBtnStrobe, ui.pushBtnDataOut, ui.pushBtnColor}) {
+        ui.gridLayoutButtons->removeWidget(button);
+        if (button->isHidden())
+            continue;
+        ui.gridLayoutButtons->addWidget(button, place / 3, place % 3);
+        ++place;
+    }
 }
 
 void OrvCamConfigPrivate::explainFields()
