@@ -45,6 +45,16 @@ inline void click(QWidget *button)
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
 }
 
+/// Turns the wheel down by a notch.
+inline void scroll(QWidget *widget)
+{
+    const QPointF point = widget->rect().center();
+    QWheelEvent event(point, widget->mapToGlobal(point.toPoint()), {}, QPoint(0, -120),
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event); // others do not go on to the parent
+    qApp->notify(widget, &event);
+}
+
 /// Where the handle of the slider is, to be pressed and dragged.
 inline QPoint handleOf(const QSlider *slider)
 {
