@@ -60,5 +60,5 @@ void FormFit::growToFit(QWidget *window, const QScrollArea *area)
     const bool isTooHigh = wanted.height() > room.height();
     const bool isTooWide = wanted.width() > room.width();
     wanted += QSize(isTooHigh ? bar : 0, isTooWide ? bar : 0);
-    window->resize(wanted.expandedTo(window->size()).boundedTo(room));
+    window->resize(window->size().expandedTo(wanted.boundedTo(room)));
 }
