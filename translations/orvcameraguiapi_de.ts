@@ -1007,6 +1007,25 @@ Trigger</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::FeatureToolTip</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation>Bereich: %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Increment: %1</source>
+        <translation>Schrittweite: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Einheit: %1</translation>
+    </message>
+    <message>
+        <source>Feature: %1</source>
+        <translation>Parameter: %1</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>%1s</source>
@@ -1031,6 +1050,26 @@ Trigger</translation>
     <message>
         <source>Unknown</source>
         <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Image size</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Frames per second, computed from the frame time</source>
+        <translation>Bilder pro Sekunde, aus der Bildzeit berechnet</translation>
+    </message>
+    <message>
+        <source>Frame time</source>
+        <translation>Bildzeit</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Belichtungszeit</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
     </message>
 </context>
 <context>

@@ -1007,6 +1007,25 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvGui::FeatureToolTip</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation>範囲: %1 ～ %2</translation>
+    </message>
+    <message>
+        <source>Increment: %1</source>
+        <translation>増分: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>単位: %1</translation>
+    </message>
+    <message>
+        <source>Feature: %1</source>
+        <translation>パラメーター: %1</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>%1s</source>
@@ -1031,6 +1050,26 @@ Trigger</source>
     <message>
         <source>Unknown</source>
         <translation>不明</translation>
+    </message>
+    <message>
+        <source>Image size</source>
+        <translation>画像サイズ</translation>
+    </message>
+    <message>
+        <source>Frames per second, computed from the frame time</source>
+        <translation>フレームレート (フレーム時間から計算)</translation>
+    </message>
+    <message>
+        <source>Frame time</source>
+        <translation>フレーム時間</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>露光時間</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
     </message>
 </context>
 <context>

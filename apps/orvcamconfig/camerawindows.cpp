@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QMenu>
 #include <QSettings>
 #include <QTreeView>
@@ -34,6 +35,9 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     m_tree.resize(640, 800);
     m_tree.installEventFilter(this);
     m_configuration.installEventFilter(this);
+    m_titles.insert(&m_configuration, m_configuration.windowTitle());
+    for (QDialog *dialog : m_configuration.findChildren<QDialog *>())
+        m_titles.insert(dialog, dialog->windowTitle());
 
     auto *view = m_configuration.findChild<QMenu *>(QStringLiteral("menuView"));
     view->addSeparator();
@@ -69,11 +73,21 @@ void CameraWindows::follow(OrvCam::Device *device)
     if (!device) {
         m_tree.clearParams();
         m_tree.setWindowTitle(tr("Features"));
+        nameWindows(QString());
         return;
     }
     m_tree.setParams(device->GetParamArray());
     unfoldTree();
-    m_tree.setWindowTitle(QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName()));
+    const QString camera = QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName());
+    m_tree.setWindowTitle(camera);
+    nameWindows(camera);
+}
+
+void CameraWindows::nameWindows(const QString &camera)
+{
+    for (auto it = m_titles.begin(); it != m_titles.end(); ++it)
+        it.key()->setWindowTitle(camera.isEmpty() ? it.value()
+                                                  : camera + QStringLiteral(" - ") + it.value());
 }
 
 void CameraWindows::unfoldTree()

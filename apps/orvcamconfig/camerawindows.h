@@ -7,6 +7,7 @@
 #include <orvgenparamtreeview.h>
 
 #include <QByteArray>
+#include <QHash>
 #include <QObject>
 
 class QAction;
@@ -14,6 +15,9 @@ class QSettings;
 
 /// The windows of one camera: the configuration window and the tree of all its features, which
 /// always shows the camera that the other has, and is opened from its "View" menu.
+///
+/// Every window has the camera's name in its title, so that those of several cameras, each in a
+/// program of its own, can be told apart.
 ///
 /// The places of the windows, which of them are open and what is unfolded in the tree are kept in
 /// the settings from one run to the next.
@@ -37,6 +41,7 @@ protected:
 
 private:
     void follow(OrvCam::Device *device);
+    void nameWindows(const QString &camera);
     void unfoldTree();
     void restore();
     void save();
@@ -45,6 +50,7 @@ private:
     QSettings *const m_settings;
     OrvGui::OrvGenParamTreeView m_tree;
     OrvGui::OrvCamConfig m_configuration;
+    QHash<QWidget *, QString> m_titles; ///< of the configuration's windows, without a camera
     QAction *m_treeAction;
     QByteArray m_treeState; ///< of the tree while it shows nothing
 };

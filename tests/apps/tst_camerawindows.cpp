@@ -7,6 +7,7 @@
 #include <OrvGenParam.h>
 
 #include <QCheckBox>
+#include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -85,7 +86,11 @@ void TestCameraWindows::showTheSameCamera()
     CameraWindows windows(open(), nullptr);
     windows.show();
     QVERIFY(windows.configuration().isVisible() && windows.tree().isVisible());
-    QCOMPARE(windows.tree().windowTitle(), QString("DualFrame 12M (SIM-0001)"));
+    const QString camera = "DualFrame 12M (SIM-0001)";
+    QCOMPARE(windows.tree().windowTitle(), camera);
+    QCOMPARE(windows.configuration().windowTitle(), camera + " - CamConfig");
+    const auto *dialog = windows.configuration().findChild<QDialog *>("OrvCamConfigTriggerDialog");
+    QCOMPARE(dialog->windowTitle(), camera + " - Trigger Control");
     windows.tree().setVisibility(OrvGui::Guru);
     QAbstractItemModel *model = windows.tree().treeView()->model();
 
@@ -122,6 +127,7 @@ void TestCameraWindows::followTheConfiguration()
         windows.configuration().SetDevice(nullptr);
     }
     QCOMPARE(windows.tree().windowTitle(), QString("Features"));
+    QCOMPARE(windows.configuration().windowTitle(), QString("CamConfig"));
 }
 
 void TestCameraWindows::rememberedFromRunToRun()
