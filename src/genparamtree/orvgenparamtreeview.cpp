@@ -48,9 +48,15 @@ GenApi::CValuePtr valueOf(const QModelIndex &index)
     return GenApi::CValuePtr(index.data(Qt::UserRole).value<GenApi::IValue *>());
 }
 
+/// Throws for an index without a feature.
 bool isCategory(const QModelIndex &index)
 {
-    return valueOf(index)->GetNode()->GetPrincipalInterfaceType() == GenApi::intfICategory;
+    GenApi::INode *node = valueOf(index)->GetNode();
+    try {
+        return node->GetPrincipalInterfaceType() == GenApi::intfICategory;
+    } catch (const GenICam::GenericException &) {
+        return false;
+    }
 }
 
 std::string displayName(const QModelIndex &index)
@@ -367,6 +373,8 @@ void OrvGenParamTreeViewPrivate::forgetExpandedLeaves(const QModelIndex &parent)
     const int rows = model->rowCount(parent);
     for (int row = 0; row < rows; ++row) {
         const QModelIndex index = model->index(row, nameColumn, parent);
+        if (!valueOf(index)) // its category has fewer features now
+            continue;
         if (isCategory(index))
             forgetExpandedLeaves(index);
         else if (ui->treeView->isExpanded(index))

@@ -55,6 +55,39 @@ struct MemoryTree
     QTreeView &tree = *view.treeView();
 };
 
+/// A category that loses features, and fails, while it is shown.
+class BrokenCategory : public OrvGenApi::MemoryCategory
+{
+public:
+    using MemoryCategory::MemoryCategory;
+    void GetFeatures(GenApi::FeatureList_t &features) const override
+    {
+        fail();
+        MemoryCategory::GetFeatures(features);
+        features.resize(std::min(features.size(), size));
+    }
+    GenApi::EVisibility GetVisibility() const override
+    {
+        fail();
+        return MemoryCategory::GetVisibility();
+    }
+    GenApi::EInterfaceType GetPrincipalInterfaceType() const override
+    {
+        fail();
+        return MemoryCategory::GetPrincipalInterfaceType();
+    }
+
+    bool isFailing = false;
+    size_t size = 100;
+
+private:
+    void fail() const
+    {
+        if (isFailing)
+            throw GenICam::TimeoutException("no answer", __FILE__, __LINE__);
+    }
+};
+
 /// Counts how often a widget is shown from now on.
 struct ShowCounter : QObject
 {
@@ -123,6 +156,7 @@ private slots:
     void changedOnAnotherThread();
     void readsOnlyWhatIsSeen();
     void levelOfALargeTree();
+    void brokenCategories();
 };
 
 void TestOrvGenParamTreeView::withoutNodeMap()
@@ -860,6 +894,40 @@ void TestOrvGenParamTreeView::levelOfALargeTree()
         QVERIFY(driver.tree().isExpanded(model.index(row, 0)));
         QCOMPARE(model.rowCount(model.index(row, 0)), 50);
     }
+}
+
+// What ends in Qt's event loop would end the program.
+void TestOrvGenParamTreeView::brokenCategories()
+{
+    SampleNodeMap map;
+    OrvGenApi::NodeProperties properties;
+    properties.name = "Broken";
+    BrokenCategory broken(map, properties);
+    map.root().addFeature(broken);
+    for (const char *feature : {"Width", "FirmwareKey", "DeviceTemperature", "Gain"})
+        broken.addFeature(*map.node(feature));
+    broken.addFeature(broken);
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    const auto useIt = [&] {
+        for (const OrvGui::Visibility level : {OrvGui::Basic, OrvGui::Expert, OrvGui::Guru}) {
+            view.setVisibility(level);
+            driver.tree().expandAll();
+            map.integer("Width").change(level);
+            view.grab();
+            driver.click("Width", 0);
+            driver.press(Qt::Key_Down);
+        }
+    };
+    useIt();
+    broken.size = 2;
+    useIt();
+    broken.isFailing = true;
+    useIt();
+    view.setParams(&map);
+    QVERIFY(driver.cell("Width").isValid());
+    useIt();
 }
 
 QTEST_MAIN(TestOrvGenParamTreeView)
