@@ -109,6 +109,15 @@ struct TypingCase
     const char *proof = nullptr;   ///< another feature that tells what was written
 };
 
+/// What a user does to a feature, in the words of `TestOrvGenParamTreeView::hands`.
+struct Hands
+{
+    const char *feature = nullptr;
+    const char *script = nullptr;
+    const char *written = nullptr; ///< null for nothing
+    const char *edited = nullptr;  ///< the feature whose editor is open then; null for none
+};
+
 struct ChoosingCase
 {
     const char *feature = nullptr;
@@ -117,10 +126,33 @@ struct ChoosingCase
     const char *after = nullptr;
 };
 
+int writesTo(OrvGenApi::Node &node)
+{
+    int writes = 0;
+    const auto add = [&writes](const auto *known) { writes += known ? known->writes() : 0; };
+    add(dynamic_cast<OrvGenApi::MemoryInteger *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryFloat *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryString *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryBoolean *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryEnumeration *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryCommand *>(&node));
+    return writes;
+}
+
+/// To a text that is longer, or shorter, than the one before.
+void changeByCamera(OrvGenApi::Node &node)
+{
+    if (auto *integer = dynamic_cast<OrvGenApi::MemoryInteger *>(&node))
+        integer->change(1024);
+    if (auto *number = dynamic_cast<OrvGenApi::MemoryFloat *>(&node))
+        number->change(77);
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(TypingCase)
 Q_DECLARE_METATYPE(ChoosingCase)
+Q_DECLARE_METATYPE(Hands)
 
 class TestOrvGenParamTreeView : public QObject
 {
@@ -134,6 +166,9 @@ private slots:
 
     void typing_data();
     void typing();
+    void hands_data();
+    void hands();
+    void scrollingAndSearching();
     void choosing_data();
     void choosing();
     void listOpensOnce();
@@ -284,6 +319,108 @@ void TestOrvGenParamTreeView::typing()
     tree.camera.advance(0);
     QCOMPARE(tree.written(proof), written);
     QCOMPARE(tree.driver.text(row.feature), QString(row.shown));
+}
+
+void TestOrvGenParamTreeView::hands_data()
+{
+    QTest::addColumn<Hands>("row");
+    const auto row = [](const char *name, const Hands &hands) { QTest::newRow(name) << hands; };
+    row("integer", {"Width", "click 640 Return", "640"});
+    row("float", {"ExposureTime", "click 512.5 Return", "512.5"});
+    row("address", {"GevPersistentIPAddress", "click 10.1.2.3 Return", "167838211"});
+    row("string", {"DeviceUserID", "click mycamera elsewhere", "mycamera"});
+    row("untouched follows", {"Width", "click camera 64 Return", "64"});
+    row("followed and left", {"Width", "click camera elsewhere"});
+    row("touched stays", {"Width", "click 64 camera 0 Return", "640"});
+    row("stepped stays", {"ExposureTime", "click Up camera Return", "10001"});
+    row("too small", {"Width", "click 640 Backspace Backspace Return"});
+    row("cleared", {"Width", "click Backspace elsewhere"});
+    row("escape", {"Width", "click 640 Escape"});
+
+    row("list escaped", {"PixelFormat", "click Down Escape Down wheel elsewhere"});
+    row("list unchanged", {"PixelFormat", "click Return Down wheel elsewhere"});
+    row("list left", {"PixelFormat", "click elsewhere Down wheel"});
+    row("list passed", {"PixelFormat", "click Down Tab", nullptr, "ReverseX"});
+    row("list chosen", {"PixelFormat", "click Down Return", "Mono12"});
+
+    row("wheel", {"Width", "click wheel elsewhere"});
+    row("wheel after a step", {"ExposureTime", "click Up Up Up wheel elsewhere", "10002"});
+    row("wheel over a button", {"DeviceReset", "click wheel elsewhere"});
+
+    row("F2", {"Width", "name F2 640 Return", "640"});
+    row("Return", {"PixelFormat", "name Return Down Return", "Mono12"});
+    row("Return of what is read only", {"DeviceModelName", "name Return Down"});
+    row("again", {"Width", "name F2 Escape F2 32 Return", "32"});
+    row("Tab", {"ReverseX", "name F2 Tab", nullptr, "ExposureTime"});
+    row("Tab after typing", {"Width", "name F2 640 Tab", "640", "BinningHorizontal"});
+    row("Backtab", {"ExposureTime", "name F2 Backtab", nullptr, "ReverseX"});
+    row("Tab at the end", {"GevDeviceModeCapability", "name F2 Tab"});
+    row("arrows in a line", {"DeviceUserID", "click a Up b Down Return", "ab"});
+    row("arrows after it", {"DeviceUserID", "name F2 a Return Down Down Up", "a"});
+}
+
+// What the user types, chooses and leaves alone is what the camera gets. Between any two keys, as
+// slow hands have them, the node is polled.
+void TestOrvGenParamTreeView::hands()
+{
+    QFETCH(Hands, row);
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    shown.map.integer("Width").change(16);
+    OrvGenApi::Node &node = *shown.map.node(row.feature);
+    node.properties().pollingTime = 100;
+    const auto wait = [&] { shown.map.Poll(1000); };
+
+    const QMetaEnum keys = QMetaEnum::fromType<Qt::Key>();
+    for (const QString &word : QString::fromLatin1(row.script).split(' ')) {
+        const int key = keys.keyToValue(qPrintable("Key_" + word));
+        if (word == "click" || word == "name")
+            driver.click(row.feature, word == "click" ? 1 : 0);
+        else if (word == "elsewhere")
+            driver.click("AcquisitionControl", 0);
+        else if (word == "wheel")
+            driver.turnWheel(row.feature);
+        else if (word == "camera")
+            changeByCamera(node);
+        else if (word.size() > 1 && key != -1)
+            driver.press(Qt::Key(key));
+        else
+            std::for_each(word.begin(), word.end(), [&](QChar character) {
+                driver.type(character);
+                wait();
+            });
+        wait();
+    }
+    QVERIFY(!QApplication::activePopupWidget() || row.edited);
+    QCOMPARE(writesTo(node), row.written ? 1 : 0);
+    if (row.written)
+        QCOMPARE(dynamic_cast<GenApi::IValue &>(node).ToString().c_str(), row.written);
+    QCOMPARE(driver.isEditing(), row.edited != nullptr);
+    if (row.edited)
+        QVERIFY(driver.tree().indexWidget(driver.cell(row.edited)));
+}
+
+// Without an editor under it that was touched, the wheel scrolls; letters search the names.
+void TestOrvGenParamTreeView::scrollingAndSearching()
+{
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    shown.view.resize(500, 300);
+    const QScrollBar &bar = *shown.tree.verticalScrollBar();
+    for (const char *feature : {"Width", "DeviceUserID", "DeviceReset"}) {
+        driver.click(feature);
+        QVERIFY(driver.isEditing());
+        const int before = bar.value();
+        driver.turnWheel(feature);
+        QVERIFY2(bar.value() > before, feature);
+    }
+    driver.click("DeviceModelName");
+    QCOMPARE(shown.tree.currentIndex().column(), 1);
+    driver.type("rev");
+    QCOMPARE(shown.tree.currentIndex(), driver.cell("ReverseX", 0));
+    driver.press(Qt::Key_Escape);
+    driver.press(Qt::Key_F2);
+    QVERIFY(driver.editor<QComboBox>());
 }
 
 void TestOrvGenParamTreeView::choosing_data()
