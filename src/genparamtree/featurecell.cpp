@@ -21,7 +21,7 @@ const int nameColumn = 0;
 
 // What of the text's colour is in a background that has to be made up.
 const double alternateShare = 0.06;
-const double categoryShare = 0.15;
+const double categoryShare = 0.22;
 
 // Beyond, a number is more easily read with an exponent.
 const double plainMin = 1e-5;

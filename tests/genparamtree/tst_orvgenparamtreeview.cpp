@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "orvgenparamtreeview.h"
 
+#include "featurecell.h"
+#include "readablecolors.h"
 #include "samplenodemap.h"
 #include "treedriver.h"
 #include "treeviewresizer.h"
@@ -126,6 +128,26 @@ struct ChoosingCase
     const char *after = nullptr;
 };
 
+struct PaintedColours
+{
+    explicit PaintedColours(const QImage &cell)
+    {
+        QHash<QRgb, int> counts;
+        for (int y = 0; y < cell.height(); ++y) {
+            for (int x = 0; x < cell.width(); ++x)
+                ++counts[cell.pixel(x, y)];
+        }
+        const auto isLess = [&](QRgb a, QRgb b) { return counts[a] < counts[b]; };
+        const QList<QRgb> all = counts.keys();
+        background = *std::max_element(all.begin(), all.end(), isLess);
+        for (const QRgb colour : all)
+            contrast = qMax(contrast, OrvGui::contrast(background, colour));
+    }
+
+    QRgb background = 0;
+    double contrast = 1; ///< of the background with what differs most from it
+};
+
 int writesTo(OrvGenApi::Node &node)
 {
     int writes = 0;
@@ -162,6 +184,9 @@ private slots:
     void withoutNodeMap();
     void levelsAndSpans();
     void description();
+    void texts();
+    void colours_data();
+    void colours();
     void firstShow();
 
     void typing_data();
@@ -249,6 +274,24 @@ void TestOrvGenParamTreeView::description()
     driver.click("Width", 0);
     QCOMPARE(driver.tree().currentIndex(), driver.cell("Width", 0));
     QVERIFY(panel->toPlainText().contains("Width of the image in pixels."));
+    QVERIFY(panel->toPlainText().contains("Min: 16, Max: 1280\n"));
+    shown.map.integer("Width").setLimits(16, 640); // by itself, as the camera
+    QVERIFY(panel->toPlainText().contains("Min: 16, Max: 640\n"));
+
+    // What the camera says is no markup, and names nothing that is opened.
+    QTemporaryFile picture;
+    QVERIFY(picture.open());
+    QImage(20, 20, QImage::Format_RGB32).save(&picture, "PNG");
+    const QString markup = "Entry <N> in \u00b5s &amp; <img src=\"" + picture.fileName() + "\">";
+    auto &properties = shown.map.integer("Width").properties();
+    properties.description = markup.toStdString();
+    shown.map.integer("Width").changed();
+    QVERIFY(panel->toPlainText().contains(markup));
+    properties.description = "\xb5s"; // no UTF-8
+    shown.map.integer("Width").changed();
+    QVERIFY(panel->toPlainText().contains("\u00b5s"));
+    QCOMPARE(panel->loadResource(QTextDocument::ImageResource, QUrl(picture.fileName())),
+             QVariant());
     driver.click("DeviceControl", 0);
     QVERIFY(panel->toPlainText().startsWith("Name: Device Control"));
     driver.tree().setCurrentIndex(QModelIndex());
@@ -261,6 +304,83 @@ void TestOrvGenParamTreeView::description()
     driver.click("Width", 0);
     shown.view.clearParams();
     QVERIFY(panel->toPlainText().isEmpty());
+}
+
+void TestOrvGenParamTreeView::texts()
+{
+    SampleNodeMap map;
+    const GenParamTreeModel model(&map);
+    const auto text = [&](const char *feature, const QVariant &value, const char *locale = "C") {
+        return OrvGui::featureText(valueCell(model, feature), value, QLocale(locale));
+    };
+    QCOMPARE(text("ReverseX", true), QString("True"));
+    QCOMPARE(text("BinningHorizontal", QVariant::fromValue(-1234567L)), QString("-1234567 px"));
+    QCOMPARE(text("DeviceUserID", "1e3"), QString("1e3"));
+
+    auto &exposure = map.number("ExposureTime");
+    const std::pair<double, const char *> numbers[] = {{1234567.25, "1234567.25 us"},
+                                                       {10, "10 us"},
+                                                       {-0.1, "-0.1 us"},
+                                                       {0.000123456, "0.000123456 us"},
+                                                       {1e-7, "1e-07 us"},
+                                                       {1e300, "1e+300 us"},
+                                                       {0, "0 us"}};
+    for (const auto &number : numbers)
+        QCOMPARE(text("ExposureTime", number.first), QString(number.second));
+    QCOMPARE(text("ExposureTime", 1234567.25, "de"), QString("1234567,25 us"));
+    exposure.setNotation(GenApi::fnFixed, 3);
+    QCOMPARE(text("ExposureTime", 1.5), QString("1.500 us"));
+    exposure.setNotation(GenApi::fnScientific, 2);
+    QCOMPARE(text("ExposureTime", 1234.5), QString("1.23e+03 us"));
+}
+
+void TestOrvGenParamTreeView::colours_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<QString>("styleSheet");
+    QPalette dark;
+    for (const auto role : {QPalette::Window, QPalette::Button, QPalette::AlternateBase})
+        dark.setColor(role, QColor(53, 53, 53));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(role, Qt::white);
+    dark.setColor(QPalette::Base, QColor(25, 25, 25));
+    QTest::newRow("light") << QPalette() << "";
+    QTest::newRow("dark") << dark << "";
+    QTest::newRow("everything") << QPalette()
+                                << "QWidget { background-color: #202020; color: #e0e0e0; }";
+    QTest::newRow("tree") << QPalette() << "QTreeView { background-color: #1e1e1e; color: #ddd; }";
+    QTest::newRow("background only") << QPalette() << "QTreeView { background-color: #1e1e1e; }";
+}
+
+// Whatever colours a host has set and left alone, every cell can be read, and a category that a
+// higher level has brought is of one colour.
+void TestOrvGenParamTreeView::colours()
+{
+    QFETCH(QPalette, palette);
+    QFETCH(QString, styleSheet);
+    const QPalette before = QApplication::palette();
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(palette);
+    qApp->setStyleSheet(styleSheet);
+    {
+        MemoryTree shown; // which goes up from the lowest level
+        const QTreeView &tree = shown.tree;
+        const QImage picture = tree.viewport()->grab().toImage();
+        const auto colours = [&](const char *feature, int column) {
+            const QRect rect = tree.visualRect(shown.driver.cell(feature, column));
+            return PaintedColours(picture.copy(rect.adjusted(2, 2, -8, -2)));
+        };
+        for (const char *feature : {"DeviceControl", "GigEVision", "DeviceUserID", "ReverseX",
+                                    "ExposureTime", "GainSelector", "Gain"})
+            QVERIFY2(colours(feature, 0).contrast >= 4.5, feature);
+        for (const char *feature :
+             {"DeviceModelName", "DeviceReset", "DeviceTemperature", "FirmwareKey", "Width"})
+            QVERIFY2(colours(feature, 1).contrast >= 4.5, feature);
+        QCOMPARE(colours("GigEVision", 1).background, colours("GigEVision", 0).background);
+        QVERIFY(colours("GigEVision", 0).background != colours("DeviceUserID", 0).background);
+    }
+    qApp->setStyleSheet(QString());
+    QApplication::setPalette(before);
 }
 
 void TestOrvGenParamTreeView::firstShow()
