@@ -815,6 +815,18 @@ void TestOrvGenParamTreeView::onlyTheUsersChanges()
         driver.click("Large", 0);
     }
 
+    // Nothing to choose from: that is said, and nothing is written.
+    auto &format = map.enumeration("PixelFormat");
+    for (const char *entry : {"Mono8", "Mono12"})
+        format.entry(entry).setAccessMode(GenApi::NA);
+    driver.click("PixelFormat");
+    QVERIFY(driver.editor<QLineEdit>());
+    QCOMPARE(driver.editor<QLineEdit>()->text(), QString("Mono8 (no entry is available)"));
+    driver.type("x");
+    driver.press(Qt::Key_Return);
+    QVERIFY(!driver.isEditing());
+    QCOMPARE(format.writes(), 0);
+
     // A host may filter the tree further, and edit it with a delegate of its own.
     QTreeView &tree = driver.tree();
     QAbstractItemModel *const model = tree.model();
