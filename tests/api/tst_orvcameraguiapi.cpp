@@ -201,6 +201,8 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     QTRY_COMPARE(m_screen.picture(panel).pixel(599, 399), panelColour);
 
     Features map;
+    DestroyGenParamTreeView(
+        CreateGenParamTreeViewForNodemapA(nullptr, "", 0)); // for the application
     Refusals refusals;
     IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "Inside", panel);
     tree(view).expandAll();
