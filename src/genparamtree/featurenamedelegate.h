@@ -5,16 +5,13 @@
 
 namespace OrvGui {
 
-/// Paints the name column of the tree, and shows the tool tips of the camera literally.
+/// Paints the name column of the tree.
 class FeatureNameDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
-
-    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                   const QModelIndex &index) override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;

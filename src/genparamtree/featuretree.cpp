@@ -2,9 +2,14 @@
 #include "featuretree.h"
 
 #include "featurecell.h"
+#include "genparamtreemodel.h"
+#include "parameterdescription.h"
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QWhatsThis>
 
 namespace OrvGui {
 
@@ -13,7 +18,28 @@ namespace {
 const int nameColumn = 0;
 const int valueColumn = 1;
 
+QString literally(const QString &text)
+{
+    return text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
+
 } // namespace
+
+// Qt would lay out a text that looks like markup, and open the pictures that it names.
+bool FeatureTree::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip && event->type() != QEvent::WhatsThis)
+        return QTreeView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    if (event->type() == QEvent::ToolTip) {
+        const QString text = index.data(Qt::ToolTipRole).toString();
+        QToolTip::showText(help->globalPos(), literally(text), viewport());
+    } else if (auto *feature = index.data(Qt::UserRole).value<GenApi::IValue *>()) {
+        QWhatsThis::showText(help->globalPos(), escapedDescription(feature), viewport());
+    }
+    return true;
+}
 
 void FeatureTree::keyboardSearch(const QString &search)
 {

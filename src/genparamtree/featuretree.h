@@ -7,7 +7,7 @@ namespace OrvGui {
 
 /// The tree of the features: names in column 0, which the keyboard walks through, and values in
 /// column 1, which it enters with F2 or Return and leaves with Escape or Return. Tab goes on to the
-/// next value that can be changed.
+/// next value that can be changed. What the camera says of itself is shown literally.
 class FeatureTree : public QTreeView
 {
     Q_OBJECT
@@ -18,6 +18,7 @@ public:
     void keyboardSearch(const QString &search) override;
 
 protected:
+    bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,

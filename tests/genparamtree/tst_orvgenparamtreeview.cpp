@@ -17,6 +17,8 @@
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QTextBrowser>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QtTest>
 
 #include <memory>
@@ -287,6 +289,12 @@ void TestOrvGenParamTreeView::description()
     properties.description = markup.toStdString();
     shown.map.integer("Width").changed();
     QVERIFY(panel->toPlainText().contains(markup));
+    properties.toolTip = markup.toStdString();
+    const QPoint place = shown.tree.visualRect(driver.cell("Width", 0)).center();
+    QHelpEvent hover(QEvent::ToolTip, place, shown.tree.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(shown.tree.viewport(), &hover);
+    QCOMPARE(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), markup);
+    QToolTip::hideText();
     properties.description = "\xb5s"; // no UTF-8
     shown.map.integer("Width").changed();
     QVERIFY(panel->toPlainText().contains("\u00b5s"));
