@@ -1311,6 +1311,13 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::SafeDelegate</name>
+    <message>
+        <source>%1 (no entry is available)</source>
+        <translation>%1 (kein Eintrag ist verfügbar)</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>The output failed.</source>

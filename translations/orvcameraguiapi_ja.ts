@@ -1311,6 +1311,13 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     </message>
 </context>
 <context>
+    <name>OrvGui::SafeDelegate</name>
+    <message>
+        <source>%1 (no entry is available)</source>
+        <translation>%1 (選択できる項目がありません)</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>The output failed.</source>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "camerawindows.h"
 
+#include <Base/GCException.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
@@ -21,6 +22,8 @@ const char treePlace[] = "tree/geometry";
 const char treeIsOpen[] = "tree/open";
 const char treeState[] = "tree/state";
 
+const char levelMark[] = "&amp;V"; ///< before the level, at the end of a tree's state
+
 QString key(const char *name)
 {
     return QString::fromLatin1(name);
@@ -28,7 +31,8 @@ QString key(const char *name)
 
 } // namespace
 
-CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings)
+CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
+                             std::optional<OrvGui::Visibility> level)
     : m_device(std::move(device)), m_settings(settings), m_configuration(m_device.get())
 {
     m_tree.setWindowIcon(m_configuration.windowIcon());
@@ -50,6 +54,7 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceGivenUp, this,
             [this] { m_device.reset(); });
     restore();
+    setLevel(level);
     follow(m_configuration.device());
 }
 
@@ -68,8 +73,7 @@ void CameraWindows::show()
 
 void CameraWindows::follow(OrvCam::Device *device)
 {
-    if (m_tree.treeView()->model())
-        m_treeState = m_tree.saveState();
+    rememberTree();
     if (!device) {
         m_tree.clearParams();
         m_tree.setWindowTitle(tr("Features"));
@@ -90,12 +94,23 @@ void CameraWindows::nameWindows(const QString &camera)
                                                   : camera + QStringLiteral(" - ") + it.value());
 }
 
+void CameraWindows::rememberTree()
+{
+    if (!m_tree.treeView()->model())
+        return;
+    try {
+        m_treeState = m_tree.saveState();
+    } catch (const GenICam::GenericException &) {
+        m_treeState.clear(); // a category has fewer features now
+    }
+}
+
 void CameraWindows::unfoldTree()
 {
     try {
-        // Only the level that the first time brings has all the categories that were unfolded.
-        for (int time = 0; time < 2; ++time)
-            m_tree.loadState(m_treeState.constData());
+        m_tree.loadState(m_treeState.constData());
+    } catch (const GenICam::GenericException &) {
+        m_treeState.clear();
     } catch (const std::logic_error &) {
         m_treeState.clear(); // the settings are damaged
     }
@@ -127,6 +142,22 @@ void CameraWindows::restore()
     }
 }
 
+/// To be called before the tree has features: then it is made at that level once.
+void CameraWindows::setLevel(std::optional<OrvGui::Visibility> level)
+{
+    const int mark = m_treeState.lastIndexOf(levelMark);
+    if (level) {
+        m_tree.setVisibility(*level);
+        if (mark >= 0)
+            m_treeState.truncate(mark);
+        return;
+    }
+    bool isNumber = false;
+    const int saved = m_treeState.mid(mark + int(sizeof levelMark) - 1).toInt(&isNumber);
+    if (mark >= 0 && isNumber && saved >= OrvGui::Basic && saved <= OrvGui::Guru)
+        m_tree.setVisibility(static_cast<OrvGui::Visibility>(saved));
+}
+
 void CameraWindows::save()
 {
     if (!m_settings)
@@ -137,8 +168,7 @@ void CameraWindows::save()
         if (action->isCheckable() && action != m_treeAction && !action->isChecked())
             hidden << action->objectName();
     }
-    if (m_tree.treeView()->model())
-        m_treeState = m_tree.saveState();
+    rememberTree();
     m_settings->setValue(key(configurationPlace), m_configuration.saveGeometry());
     m_settings->setValue(key(hiddenButtons), hidden);
     m_settings->setValue(key(treePlace), m_tree.saveGeometry());

@@ -10,6 +10,8 @@
 #include <QHash>
 #include <QObject>
 
+#include <optional>
+
 class QAction;
 class QSettings;
 
@@ -26,8 +28,10 @@ class CameraWindows : public QObject
     Q_OBJECT
 
 public:
-    /// Takes the device over. The settings must outlive the windows; null for none.
-    CameraWindows(Released<OrvCam::Device> device, QSettings *settings);
+    /// Takes the device over. The settings must outlive the windows; null for none. Without a level
+    /// for the tree, it is that of the last run.
+    CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
+                  std::optional<OrvGui::Visibility> level = {});
     ~CameraWindows() override;
 
     /// Shows what was open at the end of the last run, the configuration window in any case.
@@ -42,8 +46,10 @@ protected:
 private:
     void follow(OrvCam::Device *device);
     void nameWindows(const QString &camera);
+    void rememberTree();
     void unfoldTree();
     void restore();
+    void setLevel(std::optional<OrvGui::Visibility> level);
     void save();
 
     Released<OrvCam::Device> m_device; ///< outlives the windows; null when they no longer use it

@@ -164,6 +164,20 @@ void TestCameraWindows::rememberedFromRunToRun()
     QCOMPARE(windows.configuration().size(), size);
     QVERIFY(!windows.configuration().findChild<QPushButton *>("pushBtnPulse")->isVisible());
     QVERIFY(windows.configuration().findChild<QPushButton *>("pushBtnColor")->isVisible());
+    const auto spans = [](CameraWindows &of) {
+        int count = 0;
+        for (int row = 0; row < of.tree().treeView()->model()->rowCount(); ++row)
+            count += of.tree().treeView()->isFirstColumnSpanned(row, QModelIndex()) ? 1 : 0;
+        return count;
+    };
+    const int all = spans(windows);
+    QCOMPARE(all, windows.tree().treeView()->model()->rowCount());
+
+    // A level that is asked for comes before the saved one.
+    action(windows, "actionDisconnect").trigger();
+    CameraWindows asked(open(), &settings, OrvGui::Basic);
+    QCOMPARE(asked.tree().visibility(), OrvGui::Basic);
+    QVERIFY(spans(asked) < all);
 }
 
 void TestCameraWindows::damagedSettings()

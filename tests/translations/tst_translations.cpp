@@ -24,8 +24,8 @@ namespace {
 const QChar Open(0xab);  // «
 const QChar Close(0xbb); // »
 
-/// The words that no translation has: a boolean value, as Qt writes it in a cell, and the micro
-/// sign.
+/// The words that no translation has: a boolean value, as the model has it for the tree to word,
+/// and the micro sign.
 const QStringList names = {QStringLiteral("true"), QStringLiteral("false"), QString(QChar(0x3bc))};
 
 QStringList translationFiles()
