@@ -134,6 +134,9 @@ std::optional<Acknowledge> parseAcknowledge(const uint8_t *data, std::size_t siz
     const std::size_t payloadSize = halfAt(data + 4);
     if (size - headerSize < payloadSize)
         return std::nullopt;
+    const auto isPadding = [](uint8_t byte) { return byte == 0; };
+    if (!std::all_of(data + headerSize + payloadSize, data + size, isPadding))
+        return std::nullopt;
     return Acknowledge{halfAt(data), halfAt(data + 2), halfAt(data + 6), data + headerSize,
                        payloadSize};
 }

@@ -107,7 +107,8 @@ struct Acknowledge
     }
 };
 
-/// Nothing when the bytes are no answer or fewer than they claim to be.
+/// Nothing when the bytes are no answer, fewer than they claim to be, or more, unless they are
+/// filled up with zeros.
 std::optional<Acknowledge> parseAcknowledge(const uint8_t *data, std::size_t size);
 
 /// Who a camera says it is. Texts are the bytes on the wire, without the padding.

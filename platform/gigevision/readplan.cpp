@@ -22,23 +22,26 @@ bool isFewWords(const RegisterRange &range)
     return range.size % 4 == 0 && range.address % 4 == 0 && range.size <= 4 * mostWords;
 }
 
-Groups registerGroups(const std::vector<ReadTransfer> &batch, Items items,
+Groups registerGroups(const std::vector<ReadTransfer> &batch, const Items &items,
                       const ReadableMemory &memory)
 {
-    // A command ends at the first register that the camera refuses.
-    std::stable_partition(items.begin(), items.end(),
-                          [&](std::size_t item) { return !memory.isRefused(batch[item].range); });
     Groups groups;
-    std::size_t words = 0;
+    Groups refused; // a command would end at each of them
+    std::size_t words = Gvcp::maxRegisters;
     for (const std::size_t item : items) {
+        if (memory.isRefused(batch[item].range)) {
+            refused.push_back({item});
+            continue;
+        }
         const std::size_t more = batch[item].range.size / 4;
-        if (groups.empty() || words + more > Gvcp::maxRegisters) {
+        if (words + more > Gvcp::maxRegisters) {
             groups.emplace_back();
             words = 0;
         }
         groups.back().push_back(item);
         words += more;
     }
+    groups.insert(groups.end(), refused.begin(), refused.end());
     return groups;
 }
 
