@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvCam/Export.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -28,13 +26,12 @@ constexpr uint32_t controlPrivilegeMask = 0x3;
 using Packet = std::vector<uint8_t>;
 
 /// Asks every camera that it reaches who it is. `id` must not be 0; the answer repeats it.
-ORVCAMERAAPI_EXPORT Packet discoveryCommand(uint16_t id);
+Packet discoveryCommand(uint16_t id);
 
-ORVCAMERAAPI_EXPORT Packet readRegisterCommand(uint16_t id, uint32_t address);
+Packet readRegisterCommand(uint16_t id, uint32_t address);
 
 /// Has the camera of that MAC address change its configuration, until it is switched off.
-ORVCAMERAAPI_EXPORT Packet forceIpCommand(uint16_t id, uint64_t mac, uint32_t ip, uint32_t mask,
-                                          uint32_t gateway);
+Packet forceIpCommand(uint16_t id, uint64_t mac, uint32_t ip, uint32_t mask, uint32_t gateway);
 
 enum class Answer : uint16_t { Discovery = 0x0003, ForceIp = 0x0005, ReadRegister = 0x0081 };
 
@@ -57,8 +54,7 @@ struct Acknowledge
 };
 
 /// Nothing when the bytes are no answer or fewer than they claim to be.
-ORVCAMERAAPI_EXPORT std::optional<Acknowledge> parseAcknowledge(const uint8_t *data,
-                                                                std::size_t size);
+std::optional<Acknowledge> parseAcknowledge(const uint8_t *data, std::size_t size);
 
 /// Who a camera says it is. Texts are the bytes on the wire, without the padding.
 struct Identity
@@ -76,7 +72,7 @@ struct Identity
 };
 
 /// Nothing when it is too short.
-ORVCAMERAAPI_EXPORT std::optional<Identity> parseIdentity(const Acknowledge &answer);
-ORVCAMERAAPI_EXPORT std::optional<uint32_t> parseRegister(const Acknowledge &answer);
+std::optional<Identity> parseIdentity(const Acknowledge &answer);
+std::optional<uint32_t> parseRegister(const Acknowledge &answer);
 
 } // namespace OrvGigEVision::Gvcp
