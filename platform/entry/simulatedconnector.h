@@ -5,20 +5,20 @@
 
 #include <memory>
 
-namespace OrvSimulation {
+namespace OrvCam {
 
 struct SimulatedEntry;
 
 /// Opens a simulated camera, or refuses to as its access state says.
-class SimulatedConnector final : public OrvCam::CameraConnector
+class SimulatedConnector final : public CameraConnector
 {
 public:
     explicit SimulatedConnector(std::shared_ptr<const SimulatedEntry> camera);
 
-    std::unique_ptr<OrvCam::CameraConnection> open(int32_t accessMode, int32_t &error) override;
+    OpenedCamera open(int32_t accessMode, const OpenProgress &progress, int32_t &error) override;
 
 private:
     const std::shared_ptr<const SimulatedEntry> m_camera;
 };
 
-} // namespace OrvSimulation
+} // namespace OrvCam

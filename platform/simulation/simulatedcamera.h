@@ -3,7 +3,7 @@
 
 #include "simulation/cameraidentity.h"
 
-#include <OrvCam/Export.h>
+#include <GenApi/Types.h>
 
 #include <cameraio/port.h>
 
@@ -21,7 +21,7 @@ namespace OrvSimulation {
 ///
 /// Cameras with different serial numbers are independent of each other. All functions may be called
 /// on any thread.
-class ORVCAMERAAPI_EXPORT SimulatedCamera
+class GENAPI_DECL SimulatedCamera
 {
 public:
     /// Opens the camera with the serial number of \a identity.
