@@ -3,33 +3,39 @@
 
 #include <OrvCam/Codes.h>
 
+#include <cameraio/registerio.h>
+
 #include <GenApi/INodeMap.h>
 
+#include <functional>
 #include <memory>
 
 namespace OrvCam {
 
-/// An open camera; destroying it closes the camera.
+/// An open camera; destroying it closes the camera and does not wait for it.
 class CameraConnection
 {
 public:
     virtual ~CameraConnection() = default;
 
-    /// Stays as long as the connection, even when the camera goes.
+    /// Stays as long as the connection, also while the camera is lost.
     virtual GenApi::INodeMap &nodeMap() = 0;
 
-    /// False once the camera is lost: it has not answered for its heartbeat time, or no longer
-    /// obeys. Asks the camera; may take a quarter of a second. Called on one thread only, which is
-    /// not the one that uses the node map.
-    virtual bool isAlive() = 0;
-
-    /// For a lost camera that is back: gives up the control that it may still grant this
-    /// connection.
-    virtual void abandon() {}
+    /// Who is told when the camera is lost and found; null for nobody. When this returns, no call
+    /// of the former listener is under way on another thread.
+    virtual void setListener(OrvCameraIo::RegisterIoListener *listener) = 0;
 };
 
-/// Knows how to reach one camera, as often as it takes. It depends on no record or interface, so
-/// that a device may use it on a thread of its own.
+/// How far the opening of a camera has come. Both functions may be empty, and are called on the
+/// thread that opens.
+struct OpenProgress
+{
+    std::function<void(int percent)> report;
+    std::function<bool()> isCancelled;
+};
+
+/// Knows how to reach one camera. It depends on no record or interface, so that it can be used on
+/// a thread of its own.
 class CameraConnector
 {
 public:
@@ -37,7 +43,8 @@ public:
 
     /// Looks for the camera and opens it. Null on failure, with the `ErrorCode` in `error`; throws
     /// nothing.
-    virtual std::unique_ptr<CameraConnection> open(int32_t accessMode, int32_t &error) = 0;
+    virtual std::unique_ptr<CameraConnection> open(int32_t accessMode, const OpenProgress &progress,
+                                                   int32_t &error) = 0;
 };
 
 } // namespace OrvCam

@@ -9,6 +9,8 @@ namespace OrvCam {
 
 namespace {
 
+constexpr unsigned pollPeriodMs = 200;
+
 void makeReadOnly(GenApi::INodeMap &nodeMap)
 {
     GenApi::NodeList_t nodes;
@@ -27,45 +29,42 @@ bool CameraDevice::Registration::operator==(const Registration &other) const
 }
 
 CameraDevice *CameraDevice::open(std::shared_ptr<void> owner, DeviceInfo &info,
-                                 std::shared_ptr<CameraConnector> connector, int32_t accessMode,
-                                 int32_t &error, unsigned watchPeriodMs)
+                                 const std::shared_ptr<CameraConnector> &connector,
+                                 int32_t accessMode, int32_t &error, const OpenProgress &progress,
+                                 std::thread::id homeThread)
 {
-    // Not a smart pointer of the standard: the destructor is the device's own affair.
-    auto *device =
-        new CameraDevice(std::move(owner), info, std::move(connector), accessMode, watchPeriodMs);
-    std::unique_ptr<Session> session = device->connect(error);
-    if (!session) {
-        delete device;
+    auto connection = connector->open(accessMode, progress, error);
+    if (!connection)
+        return nullptr;
+    try {
+        if (accessMode == AccessMonitor)
+            makeReadOnly(connection->nodeMap());
+        // Not a smart pointer of the standard: the destructor is the device's own affair.
+        return new CameraDevice(std::move(owner), info, std::move(connection), homeThread);
+    } catch (const GenICam::GenericException &) {
+        error = ErrorBadDescription;
         return nullptr;
     }
-    device->enter(std::move(session));
-    device->m_watcher = std::thread(&CameraDevice::watch, device);
-    return device;
 }
 
 CameraDevice::CameraDevice(std::shared_ptr<void> owner, DeviceInfo &info,
-                           std::shared_ptr<CameraConnector> connector, int32_t accessMode,
-                           unsigned watchPeriodMs)
+                           std::unique_ptr<CameraConnection> connection, std::thread::id homeThread)
     : m_owner(std::move(owner))
     , m_info(info)
-    , m_connector(std::move(connector))
-    , m_accessMode(accessMode)
-    , m_watchPeriodMs(watchPeriodMs)
+    , m_connection(std::move(connection))
+    , m_array(m_connection->nodeMap(), homeThread)
+    , m_poller(std::make_unique<OrvCameraIo::MainContext::Timer>(pollPeriodMs, [this] { poll(); }))
 {
+    m_connection->setListener(this);
 }
 
 CameraDevice::~CameraDevice()
 {
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_stop = true;
-    }
-    m_wake.notify_all();
-    if (m_watcher.joinable())
-        m_watcher.join();
+    m_connection->setListener(nullptr);
+    m_poller.reset();
     // Whoever still shows the parameters learns that they are not available any more.
-    if (Session *current = std::exchange(m_current, nullptr))
-        current->array->detach(ErrorGone);
+    if (m_isConnected)
+        m_array.detach(ErrorGone);
 }
 
 void CameraDevice::Release()
@@ -73,81 +72,40 @@ void CameraDevice::Release()
     delete this;
 }
 
-std::unique_ptr<CameraDevice::Session> CameraDevice::connect(int32_t &error)
+void CameraDevice::lost()
 {
-    auto session = std::make_unique<Session>();
-    session->connection = m_connector->open(m_accessMode, error);
-    if (!session->connection)
-        return nullptr;
-    try {
-        GenApi::INodeMap &nodeMap = session->connection->nodeMap();
-        if (m_accessMode == AccessMonitor)
-            makeReadOnly(nodeMap);
-        session->array = std::make_unique<OrvGenParam::NodeMapArray>(nodeMap, m_homeThread);
-    } catch (const GenICam::GenericException &) {
-        error = ErrorBadDescription;
-        return nullptr;
-    }
-    error = Success;
-    return session;
-}
-
-void CameraDevice::enter(std::unique_ptr<Session> session)
-{
-    session->poller = std::make_unique<NodeMapPoller>(session->connection->nodeMap());
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_current = session.get();
-    m_sessions.push_back(std::move(session));
-}
-
-void CameraDevice::watch()
-{
-    const auto period = std::chrono::milliseconds(m_watchPeriodMs);
-    std::unique_lock<std::mutex> lock(m_mutex);
-    while (!m_wake.wait_for(lock, period, [this] { return m_stop; })) {
-        Session *current = m_current;
-        Session *last = m_sessions.back().get();
-        lock.unlock();
-        if (current) {
-            if (!current->connection->isAlive())
-                lose(*current);
-        } else {
-            int32_t error = Success;
-            if (auto session = connect(error)) {
-                enter(std::move(session));
-                emitEvent(EventReconnected);
-            } else if (error == ErrorBusy) {
-                // After a short interruption, the one who keeps it busy may be us.
-                last->connection->abandon();
-            }
-        }
-        lock.lock();
-    }
-}
-
-void CameraDevice::lose(Session &session)
-{
-    session.poller.reset();
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_current = nullptr;
-    }
-    session.array->detach(ErrorGone);
+    m_isConnected = false;
+    m_array.detach(ErrorGone);
     emitEvent(EventDisconnected);
+}
+
+void CameraDevice::found()
+{
+    m_isConnected = true;
+    m_array.attach();
+    emitEvent(EventReconnected);
+}
+
+void CameraDevice::poll()
+{
+    using namespace std::chrono;
+    const auto elapsed = duration_cast<milliseconds>(OrvCameraIo::Clock::now() - m_lastPoll);
+    m_lastPoll += elapsed;
+    if (!m_isConnected)
+        return;
+    try {
+        m_connection->nodeMap().Poll(elapsed.count());
+    } catch (const GenICam::GenericException &) {
+        // A node that cannot be polled now may be at the next turn.
+    }
 }
 
 OrvGenParam::Array *CameraDevice::GetParamArray(int32_t *error)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool isConnected = m_isConnected;
     if (error)
-        *error = m_current ? Success : ErrorGone;
-    return m_current ? m_current->array.get() : nullptr;
-}
-
-bool CameraDevice::IsConnected() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_current != nullptr;
+        *error = isConnected ? Success : ErrorGone;
+    return isConnected ? &m_array : nullptr;
 }
 
 int32_t CameraDevice::RegisterEvent(int32_t eventCode, DeviceEventCallback callback, void *context)

@@ -34,6 +34,9 @@ public:
     /// For a camera that is no longer there. May be called on any thread.
     void detach(int32_t code);
 
+    /// Takes that back and tells the sinks: the camera is there again. May be called on any thread.
+    void attach() { detach(OrvCam::Success); }
+
     uint32_t GetCount() const override;
     Param *GetParam(uint32_t index) const override;
     Param *GetParam(const char *name) const override;

@@ -3,7 +3,7 @@
 
 #include <OrvGenParam/ParamEventSink.h>
 
-#include <glib.h>
+#include <cameraio/maincontext.h>
 
 #include <algorithm>
 #include <vector>
@@ -46,22 +46,19 @@ struct SinkRegistrations::Sinks
         }
     }
 
-    static int callPending(void *data)
+    void callPending()
     {
-        auto *self = static_cast<Sinks *>(data);
-        std::shared_ptr<Sinks> sinks;
         {
-            const std::lock_guard<std::mutex> lock(self->mutex);
-            sinks.swap(self->pending);
+            const std::lock_guard<std::mutex> lock(mutex);
+            isPending = false;
         }
-        sinks->callAll();
-        return G_SOURCE_REMOVE;
+        callAll();
     }
 
     Param *const param; ///< to be used only while there are links
     std::mutex mutex;   ///< never held while a sink is called
     std::vector<Link> links;
-    std::shared_ptr<Sinks> pending; ///< keeps this alive until the main context has come to it
+    bool isPending = false; ///< the main context has still to come to it
 };
 
 SinkRegistrations::SinkRegistrations(Param *param) : m_sinks(std::make_shared<Sinks>(param)) {}
@@ -116,15 +113,11 @@ void SinkRegistrations::notifyLater()
 {
     {
         const std::lock_guard<std::mutex> lock(m_sinks->mutex);
-        if (m_sinks->pending || m_sinks->links.empty())
+        if (m_sinks->isPending || m_sinks->links.empty())
             return;
-        m_sinks->pending = m_sinks;
+        m_sinks->isPending = true;
     }
-    GSource *source = g_idle_source_new();
-    g_source_set_priority(source, G_PRIORITY_HIGH);
-    g_source_set_callback(source, &Sinks::callPending, m_sinks.get(), nullptr);
-    g_source_attach(source, nullptr);
-    g_source_unref(source);
+    OrvCameraIo::MainContext::post([sinks = m_sinks] { sinks->callPending(); });
 }
 
 } // namespace OrvGenParam

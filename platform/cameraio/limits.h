@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What a camera or a description may cost at most. Everything beyond is refused with a message, not
-/// computed with.
+/// What a camera or a description may cost at most. Everything beyond is refused with a message,
+/// not computed with.
 namespace OrvCameraIo::Limits {
 
 // A description
@@ -54,6 +54,9 @@ constexpr std::chrono::milliseconds keepAlivePeriod{250};
 /// A camera that has not answered for so long, and not to `lostAfterProbes` questions, is lost.
 constexpr std::chrono::milliseconds lostAfter{1000};
 constexpr int lostAfterProbes = 4;
+
+/// A lost camera is looked for in the network so often.
+constexpr std::chrono::milliseconds reopeningPeriod{500};
 
 /// What the camera is told to wait for before it gives a silent program's control to others.
 constexpr std::chrono::milliseconds heartbeat{3000};

@@ -19,6 +19,7 @@ using Clock = std::chrono::steady_clock;
 /// What became of a transfer.
 enum class Status {
     Done,
+    NotSent,          ///< nothing was tried, since an earlier command got no answer
     NoAnswer,         ///< not within its budget; forgotten as soon as the camera answers again
     AccessDenied,     ///< refused: no right to do this, or write-protected, or busy
     InvalidAddress,   ///< refused: no register there, or not aligned
@@ -30,14 +31,14 @@ enum class Status {
 /// True for what the camera itself has answered, be it a refusal.
 constexpr bool isAnswer(Status status)
 {
-    return status != Status::NoAnswer && status != Status::Closed;
+    return status != Status::NotSent && status != Status::NoAnswer && status != Status::Closed;
 }
 
 /// One read of a batch and its result.
 struct ReadTransfer
 {
     RegisterRange range;
-    Status status = Status::NoAnswer;
+    Status status = Status::NotSent;
     std::vector<uint8_t> bytes; ///< as many as `range.size` when the status is `Done`
 };
 
@@ -76,7 +77,7 @@ public:
     virtual bool isWordNumber() const { return false; }
 
     /// Reads all registers of the batch with as few commands as possible. Takes at most
-    /// `Limits::readBudget` for each command.
+    /// `Limits::readBudget` for each command, and ends with the first one that gets no answer.
     virtual void read(std::vector<ReadTransfer> &batch) = 0;
 
     /// Takes at most `Limits::writeBudget`.
@@ -91,6 +92,10 @@ public:
     /// Asks the camera whether it is there, with one command that is not repeated; takes at most
     /// `Limits::keepAlivePeriod`. Called when nothing else is on the cable.
     virtual Presence probe() { return Presence::Answers; }
+
+    /// Has the call that is under way return soon, whatever becomes of it, and every later one at
+    /// once: the port is about to be destroyed. May be called on any thread.
+    virtual void interrupt() {}
 
     /// For a camera that is lost: looks for it and connects anew. False when it is not there, is in
     /// use elsewhere, or has another description; `RegisterIo` tries again later. May take as long

@@ -1,52 +1,45 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "registerport.h"
+#include "port.h"
 
-#include <memory>
+#include <map>
+#include <set>
+#include <vector>
 
 namespace OrvCameraIo {
 
-/// Keeps what was read from a port until somebody says that it is outdated, and what was written.
+/// What was last transferred of each register, failures included.
 ///
-/// Many nodes of a description share a register (bit fields, fields of structures); here they share
-/// one transaction.
-class RegisterCache : public RegisterPort
+/// Registers may overlap: a camera may answer part of a longer one with something else, so each is
+/// known by itself. Only writing one outdates what overlaps it. Not thread safe.
+class RegisterCache
 {
 public:
-    explicit RegisterCache(std::unique_ptr<RegisterPort> port);
-
-    /// A moment that is later than everything read so far and earlier than everything read later.
-    uint64_t now() { return ++m_clock; }
-
-    /// Forgets what is known of these addresses from before `moment`.
-    void forget(uint64_t address, uint64_t size, uint64_t moment);
-    void forgetAll();
-
-    /// Transactions with the port since the beginning.
-    uint64_t reads() const { return m_reads; }
-    uint64_t writes() const { return m_writes; }
-
-    bool read(uint64_t address, uint32_t size, void *bytes, GError **error) override;
-    bool write(uint64_t address, uint32_t size, const void *bytes, GError **error) override;
-    bool readRegister(uint64_t address, uint32_t *value, GError **error) override;
-    bool writeRegister(uint64_t address, uint32_t value, GError **error) override;
-
-private:
-    struct Block
+    struct Entry
     {
+        Status status = Status::NoAnswer;
         std::vector<uint8_t> bytes;
-        uint64_t readAt = 0;
+        uint64_t moment = 0; ///< when the transfer began, on the logical clock
+        Clock::time_point time;
     };
 
-    const Block *covering(uint64_t address, uint32_t size) const;
-    void remember(uint64_t address, uint32_t size, const void *bytes);
+    /// Null when nothing is known.
+    const Entry *find(const RegisterRange &range) const;
 
-    std::unique_ptr<RegisterPort> m_port;
-    std::map<uint64_t, Block> m_blocks; ///< by address; never overlapping
-    uint64_t m_clock = 0;
-    uint64_t m_reads = 0;
-    uint64_t m_writes = 0;
+    void store(const RegisterRange &range, Entry entry);
+
+    /// Forgets all that overlaps the range, itself too.
+    void forgetOverlapping(const RegisterRange &range);
+
+    /// Forgets what was not answered; what is in `refused` becomes `Failed` instead.
+    void forgetUnanswered(const std::set<RegisterRange> &refused);
+
+    void clear();
+
+private:
+    std::map<RegisterRange, Entry> m_entries;
+    uint32_t m_longest = 0; ///< bytes
 };
 
 } // namespace OrvCameraIo

@@ -3,6 +3,8 @@
 
 #include "port.h"
 
+#include <GenApi/Types.h>
+
 #include <functional>
 #include <memory>
 #include <vector>
@@ -17,7 +19,7 @@ struct Transactions
 };
 
 /// A request that was not waited for; destroying it drops it.
-class Request
+class GENAPI_DECL Request
 {
 public:
     virtual ~Request() = default;
@@ -44,7 +46,7 @@ public:
 /// Looking never waits. Transfers run on the I/O thread (an immediate port's on the thread that
 /// asks), in the order of the requests, those that somebody waits for first. Results are known to
 /// all from the moment they arrive. All functions may be called on any thread.
-class RegisterIo
+class GENAPI_DECL RegisterIo
 {
 public:
     explicit RegisterIo(std::unique_ptr<Port> port);

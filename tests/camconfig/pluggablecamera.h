@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plug.h"
+
 #include <OrvCam.h>
 #include <cameraapi/cameradevice.h>
 #include <genapi/memorynodemap.h>
@@ -19,7 +21,7 @@ struct PluggableCamera
     explicit PluggableCamera(const QByteArray &cameraName) : name(cameraName) {}
 
     const QByteArray name; ///< what it gives as its model
-    std::atomic<bool> isPlugged{true};
+    Plug isPlugged;
     std::function<void(OrvGenApi::MemoryNodeMap &)> furnish = [](auto &map) {
         map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
         map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}}, 2);
@@ -37,7 +39,10 @@ struct PluggableCamera
         }
 
         GenApi::INodeMap &nodeMap() override { return m_map; }
-        bool isAlive() override { return m_camera.isPlugged; }
+        void setListener(OrvCameraIo::RegisterIoListener *listener) override
+        {
+            m_camera.isPlugged.setListener(listener);
+        }
 
     private:
         PluggableCamera &m_camera;
@@ -49,7 +54,8 @@ struct PluggableCamera
     public:
         explicit Connector(PluggableCamera &camera) : m_camera(camera) {}
 
-        std::unique_ptr<OrvCam::CameraConnection> open(int32_t, int32_t &error) override
+        std::unique_ptr<OrvCam::CameraConnection> open(int32_t, const OrvCam::OpenProgress &,
+                                                       int32_t &error) override
         {
             error = m_camera.isPlugged ? OrvCam::Success : OrvCam::ErrorGone;
             return m_camera.isPlugged ? std::make_unique<Connection>(m_camera) : nullptr;
@@ -72,7 +78,7 @@ public:
         int32_t error = OrvCam::Success;
         auto *device = OrvCam::CameraDevice::open(
             nullptr, info, std::make_shared<PluggableCamera::Connector>(camera),
-            OrvCam::AccessControl, error, 5);
+            OrvCam::AccessControl, error);
         return device ? new CountedDevice(camera, device) : nullptr;
     }
 

@@ -22,8 +22,8 @@ class ORVCAMERAAPI_EXPORT Device
 {
 public:
     /// The camera's parameters; null with an error while the camera is disconnected. Belongs to
-    /// the device. After a reconnect the device may have another array; pointers to the parameters
-    /// of an earlier one stay safe to hold and call until the device is released.
+    /// the device and is the same one after a reconnect: parameters, node map and sinks can be
+    /// kept, and fail with `ErrorGone` for as long as the camera is away.
     virtual OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) = 0;
 
     virtual bool IsConnected() const = 0;

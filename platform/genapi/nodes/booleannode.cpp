@@ -25,11 +25,12 @@ IBoolean &BooleanNode::operator=(bool value)
 
 bool BooleanNode::GetValue(bool, bool ignoreCache) const
 {
-    const AutoLock lock(map().GetLock());
-    requireReadable();
     if (ignoreCache)
-        map().invalidate({const_cast<BooleanNode *>(this)});
-    return unverifiedValue();
+        map().refresh(const_cast<BooleanNode &>(*this));
+    return map().answer([this] {
+        requireReadable();
+        return unverifiedValue();
+    });
 }
 
 GenICam::gcstring BooleanNode::ToString(bool verify, bool ignoreCache)

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "question.h"
+
+#include <Base/GCException.h>
+
 #include <exception>
 #include <optional>
 #include <utility>
@@ -8,8 +12,9 @@
 namespace OrvGenApi {
 
 /// A result that is computed when it is first asked for and kept until it is dropped. A failure is
-/// kept like a value: asking again must not cost the camera another transaction, nor the user
-/// another time-out.
+/// kept like a value: asking again must not cost the camera another transaction. A time-out is not:
+/// it passes by itself when the camera answers again, and nobody waits for it twice, since the
+/// registers of a silent camera fail at once.
 template<typename T>
 class Cached
 {
@@ -27,6 +32,10 @@ public:
                 if (!keep)
                     return value;
                 m_value = std::move(value);
+            } catch (const NotYetKnown &) {
+                throw;
+            } catch (const GenICam::TimeoutException &) {
+                throw;
             } catch (...) {
                 if (keep)
                     m_failure = std::current_exception();

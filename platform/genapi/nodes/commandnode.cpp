@@ -19,8 +19,15 @@ void CommandNode::Execute(bool verify)
 
 bool CommandNode::IsDone(bool)
 {
-    const AutoLock lock(map().GetLock());
-    return readIsDone();
+    if (!Question::current(map())) {
+        // Only what the command itself is read from: nothing has happened to its dependents.
+        const AutoLock lock(map().GetLock());
+        for (Node *node : writtenNodes()) {
+            node->dropRegister();
+            node->dropCache();
+        }
+    }
+    return map().answer([this] { return readIsDone(); });
 }
 
 GenICam::gcstring CommandNode::ToString(bool verify, bool)

@@ -9,12 +9,17 @@ namespace OrvGenApi {
 
 void EnumerationNode::GetSymbolics(StringList_t &symbolics)
 {
-    const AutoLock lock(map().GetLock());
-    symbolics.clear();
-    for (EnumEntryNode *entry : m_entries) {
-        if (IsAvailable(entry))
-            symbolics.push_back(entry->GetSymbolic());
-    }
+    map().answer([&] {
+        symbolics.clear();
+        Gather gather;
+        for (EnumEntryNode *entry : m_entries) {
+            gather([&] {
+                if (IsAvailable(entry))
+                    symbolics.push_back(entry->GetSymbolic());
+            });
+        }
+        gather.finish();
+    });
 }
 
 void EnumerationNode::GetEntries(NodeList_t &entries)
@@ -62,11 +67,12 @@ void EnumerationNode::SetIntValue(int64_t value, bool verify)
 
 int64_t EnumerationNode::GetIntValue(bool verify, bool ignoreCache)
 {
-    const AutoLock lock(map().GetLock());
-    requireReadable();
     if (ignoreCache)
-        map().invalidate({this});
-    const int64_t value = unverifiedValue();
+        map().refresh(*this);
+    const int64_t value = map().answer([this] {
+        requireReadable();
+        return unverifiedValue();
+    });
     if (verify && !entryOf(value))
         throw GenICam::OutOfRangeException(
             ("'" + name() + "' has no entry of value " + std::to_string(value)).c_str(), __FILE__,

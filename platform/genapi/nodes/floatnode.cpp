@@ -13,8 +13,7 @@ IFloat &FloatNode::operator=(double value)
 
 double FloatNode::GetInc()
 {
-    const AutoLock lock(map().GetLock());
-    return increment().value_or(0.0);
+    return map().answer([this] { return increment().value_or(0.0); });
 }
 
 GenICam::gcstring FloatNode::ToString(bool verify, bool ignoreCache)

@@ -13,8 +13,7 @@ IInteger &IntegerNode::operator=(int64_t value)
 
 int64_t IntegerNode::GetInc()
 {
-    const AutoLock lock(map().GetLock());
-    return increment().value_or(1);
+    return map().answer([this] { return increment().value_or(1); });
 }
 
 GenICam::gcstring IntegerNode::ToString(bool verify, bool ignoreCache)

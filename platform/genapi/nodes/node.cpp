@@ -38,21 +38,21 @@ void Node::dropCache()
 
 EAccessMode Node::GetAccessMode() const
 {
-    const AutoLock lock(m_map.GetLock());
-    if (m_accessBeingRead)
-        return _CycleDetectAccesMode;
-
     struct Mark
     {
         bool &flag;
         explicit Mark(bool &f) : flag(f) { flag = true; }
         ~Mark() { flag = false; }
     };
-    const EAccessMode mode = m_access.get(accessIsCachable(), [this] {
-        const Mark mark(m_accessBeingRead);
-        return readAccessMode();
+    return m_map.answer([this] {
+        if (m_accessBeingRead)
+            return _CycleDetectAccesMode;
+        const EAccessMode mode = m_access.get(accessIsCachable(), [this] {
+            const Mark mark(m_accessBeingRead);
+            return readAccessMode();
+        });
+        return combinedAccessMode(mode, m_imposedAccess);
     });
-    return combinedAccessMode(mode, m_imposedAccess);
 }
 
 GenICam::gcstring Node::GetName(bool fullQualified) const
@@ -167,11 +167,6 @@ void Node::requireWritable() const
     if (!IsWritable(GetAccessMode()))
         throw GenICam::AccessException(("The feature '" + name() + "' is not writable").c_str(),
                                        __FILE__, __LINE__);
-}
-
-void Node::beginWrite()
-{
-    m_map.enterChange();
 }
 
 void Node::abandonWrite(bool mayHaveWritten)

@@ -102,16 +102,15 @@ protected:
     void requireReadable() const;
     void requireWritable() const;
 
-    /// Runs a check and a write under the lock, forgets what the write has changed and calls the
-    /// callbacks. A write that fails may have got through in part: everything is forgotten too, but
-    /// no callback is called.
+    /// Runs a check and a write under the lock, which is released while the camera is talked to,
+    /// forgets what the write has changed and calls the callbacks. A write that fails may have got
+    /// through in part: everything is forgotten too, but no callback is called.
     template<typename Check, typename Write>
     void write(Check check, Write write);
 
 private:
     friend class NodeMapBase;
 
-    void beginWrite();
     void abandonWrite(bool mayHaveWritten);
     void finishWrite();
 
@@ -119,6 +118,7 @@ private:
     NodeProperties m_properties;
     std::size_t m_index = 0; ///< position in the node map
     bool m_isFeature = false;
+    bool m_isToBeNotified = false; ///< is in the map's list
     GenApi::EAccessMode m_imposedAccess = GenApi::RW;
     GenApi::EVisibility m_imposedVisibility = GenApi::Beginner;
     int64_t m_sincePolled = 0; ///< ms
@@ -130,22 +130,6 @@ private:
     mutable bool m_accessBeingRead = false;
     CallbackList m_callbacks;
 };
-
-template<typename Check, typename Write>
-void Node::write(Check check, Write write)
-{
-    beginWrite();
-    bool checked = false;
-    try {
-        check();
-        checked = true;
-        write();
-    } catch (...) {
-        abandonWrite(checked);
-        throw;
-    }
-    finishWrite();
-}
 
 /// The narrower of two access modes.
 GENAPI_DECL GenApi::EAccessMode combinedAccessMode(GenApi::EAccessMode left,

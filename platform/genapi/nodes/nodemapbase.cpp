@@ -2,6 +2,8 @@
 #include "nodemapbase.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 using namespace GenApi;
 
@@ -132,6 +134,45 @@ void NodeMapBase::notifyChanged(const std::vector<Node *> &nodes)
     leaveChange();
 }
 
+void NodeMapBase::refresh(Node &node) const
+{
+    if (!Question::current(*this))
+        invalidate({&node});
+}
+
+void NodeMapBase::fetch(Question &) const {}
+
+void NodeMapBase::carryOut(Question &) {}
+
+void NodeMapBase::fetchAgain(Question &question, int round) const
+{
+    // References are not nearly as deep: something changes faster than it can be read.
+    constexpr int maxRounds = 1000;
+    if (round == maxRounds)
+        throw GenICam::RuntimeException("The camera's registers do not come to rest", __FILE__,
+                                        __LINE__);
+    fetch(question);
+    question.missing.clear();
+}
+
+void NodeMapBase::interruptChange(const std::function<void()> &call)
+{
+    // Changes that other threads make in between are not part of this one.
+    const int depth = std::exchange(m_changeDepth, 0);
+    m_lock.Unlock();
+    const auto resume = [&] {
+        m_lock.Lock();
+        m_changeDepth = depth;
+    };
+    try {
+        call();
+    } catch (...) {
+        resume();
+        throw;
+    }
+    resume();
+}
+
 void NodeMapBase::enterChange()
 {
     m_lock.Lock();
@@ -140,16 +181,19 @@ void NodeMapBase::enterChange()
 
 void NodeMapBase::changed(const std::vector<Node *> &nodes)
 {
+    const std::set<const Node *> written(nodes.begin(), nodes.end());
     const auto all = closure(nodes);
     for (Node *node : all) {
         // The registers just written know their contents; those that depend on them do not.
-        if (!contains(nodes, node))
+        if (written.count(node) == 0)
             node->dropRegister();
         node->dropCache();
     }
     for (Node *node : all) {
-        if (!node->m_callbacks.isEmpty() && !contains(m_toNotify, node))
-            m_toNotify.push_back(node);
+        if (node->m_callbacks.isEmpty() || node->m_isToBeNotified)
+            continue;
+        node->m_isToBeNotified = true;
+        m_toNotify.push_back(node);
     }
     callInside(all);
 }
@@ -165,6 +209,8 @@ void NodeMapBase::leaveChange()
     std::vector<Node *> toNotify;
     if (--m_changeDepth == 0)
         toNotify.swap(m_toNotify);
+    for (Node *node : toNotify)
+        node->m_isToBeNotified = false;
     m_lock.Unlock();
     for (Node *node : toNotify)
         node->m_callbacks.call(cbPostOutsideLock);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "node.h"
+#include "question.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -43,10 +45,30 @@ public:
     /// As `invalidate`, then calls the callbacks: for values that changed in the camera.
     void notifyChanged(const std::vector<Node *> &nodes);
 
+    /// Answers a question: returns what `compute` does, which runs under the lock and looks at what
+    /// is known. What it finds missing is fetched without the lock, and it runs again. Within
+    /// another question of this thread it is part of that one.
+    template<typename Compute>
+    auto answer(Compute compute) const -> decltype(compute());
+
+    /// As `answer`, but fetches nothing: false when something was missing, which has been noted in
+    /// the question.
+    template<typename Compute>
+    bool look(Question &question, Compute compute) const;
+
+    /// As `invalidate` for the one node, unless it is part of a question: that has been asked
+    /// already.
+    void refresh(Node &node) const;
+
     // For nodes that are being written: between `enterChange`, which takes the lock, and the
     // matching `leaveChange`, which releases it, changes are reported. The callbacks that want the
     // lock released run when the outermost change is left.
     void enterChange();
+
+    /// Between the two: runs `compute` like `answer` does, carries out the writes that it notes.
+    template<typename Compute>
+    void computeInChange(Compute compute);
+
     void changed(const std::vector<Node *> &nodes);
     void forget(const std::vector<Node *> &nodes) const;
     void leaveChange();
@@ -64,9 +86,19 @@ protected:
     /// Throws `LogicalErrorException` when the name is taken.
     void adopt(std::unique_ptr<Node> node);
 
+    /// Gets what the question found missing; a failure to get it is a result, too. Called without
+    /// the lock. Maps whose nodes keep their values themselves have nothing to do.
+    virtual void fetch(Question &question) const;
+
+    /// Carries out the writes of the question; throws what became of the first one that failed.
+    /// Called without the lock.
+    virtual void carryOut(Question &question);
+
 private:
     std::vector<Node *> withTerminals(const std::vector<Node *> &nodes) const;
     void callInside(const std::vector<Node *> &nodes);
+    void fetchAgain(Question &question, int round) const;
+    void interruptChange(const std::function<void()> &call);
 
     std::string m_deviceName;
     mutable GenApi::CLock m_lock;
@@ -75,5 +107,75 @@ private:
     int m_changeDepth = 0;
     std::vector<Node *> m_toNotify; ///< outside the lock, when the outermost change is left
 };
+
+template<typename Compute>
+auto NodeMapBase::answer(Compute compute) const -> decltype(compute())
+{
+    if (Question::current(*this))
+        return compute();
+    Question question(Question::Kind::Waiting);
+    for (int round = 0;; ++round) {
+        {
+            const GenApi::AutoLock lock(m_lock);
+            const Question::Scope scope(*this, question);
+            try {
+                return compute();
+            } catch (const NotYetKnown &) {
+            }
+        }
+        fetchAgain(question, round);
+    }
+}
+
+template<typename Compute>
+bool NodeMapBase::look(Question &question, Compute compute) const
+{
+    const GenApi::AutoLock lock(m_lock);
+    const Question::Scope scope(*this, question);
+    try {
+        compute();
+        return true;
+    } catch (const NotYetKnown &) {
+        return false;
+    }
+}
+
+template<typename Compute>
+void NodeMapBase::computeInChange(Compute compute)
+{
+    if (Question::current(*this))
+        return compute();
+    Question question(Question::Kind::Waiting);
+    for (int round = 0;; ++round) {
+        {
+            const Question::Scope scope(*this, question);
+            try {
+                compute();
+                break;
+            } catch (const NotYetKnown &) {
+            }
+        }
+        question.writes.clear();
+        interruptChange([&] { fetchAgain(question, round); });
+    }
+    if (!question.writes.empty())
+        interruptChange([&] { carryOut(question); });
+}
+
+template<typename Check, typename Write>
+void Node::write(Check check, Write write)
+{
+    m_map.enterChange();
+    bool checked = false;
+    try {
+        m_map.computeInChange(check);
+        checked = true;
+        m_map.computeInChange(write);
+    } catch (...) {
+        abandonWrite(checked);
+        throw;
+    }
+    finishWrite();
+}
 
 } // namespace OrvGenApi

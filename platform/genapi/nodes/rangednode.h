@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace OrvGenApi {
@@ -35,14 +36,15 @@ public:
 
     T GetValue(bool verify = false, bool ignoreCache = false) override
     {
-        const GenApi::AutoLock lock(this->map().GetLock());
-        this->requireReadable();
         if (ignoreCache)
-            this->map().invalidate({this});
-        const T value = unverifiedValue();
-        if (verify)
-            checkRange(value);
-        return value;
+            this->map().refresh(*this);
+        return this->map().answer([&] {
+            this->requireReadable();
+            const T value = unverifiedValue();
+            if (verify)
+                checkRange(value);
+            return value;
+        });
     }
 
     T operator()() override { return GetValue(); }
@@ -50,37 +52,41 @@ public:
 
     T GetMin() override
     {
-        const GenApi::AutoLock lock(this->map().GetLock());
-        const T limit = m_min.get(this->limitsAreCachable(), [this] { return readMin(); });
-        return m_imposedMin ? std::max(limit, *m_imposedMin) : limit;
+        return this->map().answer([this] {
+            const T limit = m_min.get(this->limitsAreCachable(), [this] { return readMin(); });
+            return m_imposedMin ? std::max(limit, *m_imposedMin) : limit;
+        });
     }
 
     T GetMax() override
     {
-        const GenApi::AutoLock lock(this->map().GetLock());
-        const T limit = m_max.get(this->limitsAreCachable(), [this] { return readMax(); });
-        return m_imposedMax ? std::min(limit, *m_imposedMax) : limit;
+        return this->map().answer([this] {
+            const T limit = m_max.get(this->limitsAreCachable(), [this] { return readMax(); });
+            return m_imposedMax ? std::min(limit, *m_imposedMax) : limit;
+        });
     }
 
     GenApi::EIncMode GetIncMode() override
     {
-        const GenApi::AutoLock lock(this->map().GetLock());
-        if (!validValues().empty())
-            return GenApi::listIncrement;
-        return increment() ? GenApi::fixedIncrement : GenApi::noIncrement;
+        return this->map().answer([this] {
+            if (!validValues().empty())
+                return GenApi::listIncrement;
+            return increment() ? GenApi::fixedIncrement : GenApi::noIncrement;
+        });
     }
 
     List GetListOfValidValues(bool bounded = true) override
     {
-        const GenApi::AutoLock lock(this->map().GetLock());
-        std::vector<T> values = validValues();
-        if (!values.empty() && bounded) {
-            const T min = GetMin();
-            const T max = GetMax();
-            values.erase(std::remove_if(values.begin(), values.end(),
-                                        [&](T v) { return v < min || v > max; }),
-                         values.end());
-        }
+        const std::vector<T> values = this->map().answer([&] {
+            std::vector<T> all = validValues();
+            if (all.empty() || !bounded)
+                return all;
+            const auto [min, max] = bounds();
+            all.erase(std::remove_if(all.begin(), all.end(),
+                                     [min = min, max = max](T v) { return v < min || v > max; }),
+                      all.end());
+            return all;
+        });
         List result(values.size());
         for (std::size_t i = 0; i < values.size(); ++i)
             result[i] = values[i];
@@ -140,6 +146,16 @@ protected:
     }
 
 private:
+    std::pair<T, T> bounds()
+    {
+        std::pair<T, T> result;
+        Gather gather;
+        gather([&] { result.first = GetMin(); });
+        gather([&] { result.second = GetMax(); });
+        gather.finish();
+        return result;
+    }
+
     void checkRange(T value)
     {
         const auto fail = [&](const std::string &why) {
@@ -147,8 +163,12 @@ private:
                 "The value " + numberText(value) + " of '" + this->name() + "' " + why;
             throw GenICam::OutOfRangeException(text.c_str(), __FILE__, __LINE__);
         };
-        const T min = GetMin();
-        const T max = GetMax();
+        std::optional<T> inc;
+        Gather gather;
+        gather([&] { bounds(); });
+        gather([&] { inc = increment(); });
+        gather.finish();
+        const auto [min, max] = bounds();
         if (!(value >= min)) // what is not a number is not in any range
             fail("is below the minimum " + numberText(min));
         if (value > max)
@@ -160,7 +180,6 @@ private:
                 fail("is not one of the valid values");
             return;
         }
-        const std::optional<T> inc = increment();
         if (inc && !isOnIncrement(value, min, *inc))
             fail("is not the minimum " + numberText(min) + " plus a multiple of " +
                  numberText(*inc));

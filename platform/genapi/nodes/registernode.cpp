@@ -27,11 +27,12 @@ void RegisterNode::Set(const uint8_t *buffer, int64_t length, bool verify)
 
 std::vector<uint8_t> RegisterNode::bytes(bool ignoreCache)
 {
-    const AutoLock lock(map().GetLock());
-    requireReadable();
     if (ignoreCache)
-        map().invalidate({this});
-    return m_bytes.get(valueIsCachable(), [this] { return readBytes(); });
+        map().refresh(*this);
+    return map().answer([this] {
+        requireReadable();
+        return m_bytes.get(valueIsCachable(), [this] { return readBytes(); });
+    });
 }
 
 void RegisterNode::Get(uint8_t *buffer, int64_t length, bool, bool ignoreCache)
@@ -47,8 +48,8 @@ void RegisterNode::Get(uint8_t *buffer, int64_t length, bool, bool ignoreCache)
 
 int64_t RegisterNode::GetLength(bool)
 {
-    const AutoLock lock(map().GetLock());
-    return m_length.get(limitsAreCachable(), [this] { return readLength(); });
+    return map().answer(
+        [this] { return m_length.get(limitsAreCachable(), [this] { return readLength(); }); });
 }
 
 GenICam::gcstring RegisterNode::ToString(bool, bool ignoreCache)

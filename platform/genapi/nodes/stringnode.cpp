@@ -32,18 +32,20 @@ IString &StringNode::operator=(const GenICam::gcstring &value)
 
 GenICam::gcstring StringNode::GetValue(bool, bool ignoreCache)
 {
-    const AutoLock lock(map().GetLock());
-    requireReadable();
     if (ignoreCache)
-        map().invalidate({this});
-    const std::string value = unverifiedValue();
+        map().refresh(*this);
+    const std::string value = map().answer([this] {
+        requireReadable();
+        return unverifiedValue();
+    });
     return GenICam::gcstring(value.data(), value.size());
 }
 
 int64_t StringNode::GetMaxLength(bool)
 {
-    const AutoLock lock(map().GetLock());
-    return m_maxLength.get(limitsAreCachable(), [this] { return readMaxLength(); });
+    return map().answer([this] {
+        return m_maxLength.get(limitsAreCachable(), [this] { return readMaxLength(); });
+    });
 }
 
 GenICam::gcstring StringNode::ToString(bool verify, bool ignoreCache)

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "question.h"
+
+namespace OrvGenApi {
+
+namespace {
+
+thread_local Question::Scope *innermost = nullptr;
+
+} // namespace
+
+Question::Scope::Scope(const NodeMapBase &map, Question &question)
+    : m_map(map), m_question(question), m_outer(innermost)
+{
+    innermost = this;
+}
+
+Question::Scope::~Scope()
+{
+    innermost = m_outer;
+}
+
+Question *Question::current(const NodeMapBase &map)
+{
+    for (const Scope *scope = innermost; scope; scope = scope->m_outer) {
+        if (&scope->m_map == &map)
+            return &scope->m_question;
+    }
+    return nullptr;
+}
+
+} // namespace OrvGenApi

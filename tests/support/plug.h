@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cameraio/registerio.h>
+
+#include <atomic>
+#include <mutex>
+#include <thread>
+
+/// The cable of a camera that tests pull and plug in again. The connection's listener is told on
+/// another thread, as it is by a real one.
+class Plug
+{
+public:
+    Plug() = default;
+    ~Plug() { settle(); }
+    Plug(const Plug &) = delete;
+
+    operator bool() const { return m_isIn; }
+
+    Plug &operator=(bool isIn)
+    {
+        settle();
+        if (m_isIn.exchange(isIn) != isIn) {
+            m_teller = std::thread([this, isIn] {
+                const std::lock_guard<std::recursive_mutex> lock(m_mutex);
+                if (m_listener)
+                    isIn ? m_listener->found() : m_listener->lost();
+            });
+        }
+        return *this;
+    }
+
+    void setListener(OrvCameraIo::RegisterIoListener *listener)
+    {
+        const std::lock_guard<std::recursive_mutex> lock(m_mutex);
+        m_listener = listener;
+    }
+
+private:
+    void settle()
+    {
+        if (m_teller.joinable())
+            m_teller.join();
+    }
+
+    std::atomic<bool> m_isIn{true};
+    std::recursive_mutex m_mutex;
+    OrvCameraIo::RegisterIoListener *m_listener = nullptr;
+    std::thread m_teller;
+};
