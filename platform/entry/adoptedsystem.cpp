@@ -3,6 +3,8 @@
 
 #include "utf8.h"
 
+#include <cameraapi/portconnection.h>
+
 using OrvAravis::AdoptedDevice;
 
 namespace OrvCam {
@@ -26,12 +28,12 @@ std::optional<std::string> textOrNothing(const std::string &text)
     return text.empty() ? std::nullopt : std::make_optional(validUtf8(text));
 }
 
-class AdoptedConnector final : public CameraConnector
+class AdoptedConnector final : public PortConnector
 {
 public:
     explicit AdoptedConnector(AdoptedDevice device) : m_device(std::move(device)) {}
 
-    OpenedCamera open(int32_t, const OpenProgress &, int32_t &error) override
+    OpenedCamera openPort(int32_t, const OpenProgress &, int32_t &error) override
     {
         auto description = m_device.description();
         error = description ? Success : ErrorBadDescription;

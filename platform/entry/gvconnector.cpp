@@ -44,7 +44,7 @@ GvConnector::GvConnector(std::string adapterName, std::string cameraId)
 {
 }
 
-OpenedCamera GvConnector::open(int32_t accessMode, const OpenProgress &progress, int32_t &error)
+OpenedCamera GvConnector::openPort(int32_t accessMode, const OpenProgress &progress, int32_t &error)
 {
     const auto mode = accessMode == AccessControl ? OrvGigEVision::OpenMode::Control
                                                   : OrvGigEVision::OpenMode::Monitor;

@@ -34,7 +34,7 @@ SimulatedConnector::SimulatedConnector(std::shared_ptr<const SimulatedEntry> cam
 {
 }
 
-OpenedCamera SimulatedConnector::open(int32_t accessMode, const OpenProgress &, int32_t &error)
+OpenedCamera SimulatedConnector::openPort(int32_t accessMode, const OpenProgress &, int32_t &error)
 {
     error = refusal(m_camera->accessState, accessMode);
     if (error != Success)

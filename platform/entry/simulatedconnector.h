@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cameraapi/cameraconnection.h>
+#include <cameraapi/portconnection.h>
 
 #include <memory>
 
@@ -10,14 +10,15 @@ namespace OrvCam {
 struct SimulatedEntry;
 
 /// Opens a simulated camera, or refuses to as its access state says.
-class SimulatedConnector final : public CameraConnector
+class SimulatedConnector final : public PortConnector
 {
 public:
     explicit SimulatedConnector(std::shared_ptr<const SimulatedEntry> camera);
 
-    OpenedCamera open(int32_t accessMode, const OpenProgress &progress, int32_t &error) override;
-
 private:
+    OpenedCamera openPort(int32_t accessMode, const OpenProgress &progress,
+                          int32_t &error) override;
+
     const std::shared_ptr<const SimulatedEntry> m_camera;
 };
 

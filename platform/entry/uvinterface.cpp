@@ -4,6 +4,7 @@
 #include "utf8.h"
 
 #include <aravis/usbcameras.h>
+#include <cameraapi/portconnection.h>
 
 namespace OrvCam {
 
@@ -30,12 +31,12 @@ int32_t codeOf(Failure failure)
     }
 }
 
-class UvConnector final : public CameraConnector
+class UvConnector final : public PortConnector
 {
 public:
     explicit UvConnector(std::string id) : m_id(std::move(id)) {}
 
-    OpenedCamera open(int32_t, const OpenProgress &, int32_t &error) override
+    OpenedCamera openPort(int32_t, const OpenProgress &, int32_t &error) override
     {
         auto opened = OrvAravis::openUsbCamera(m_id);
         error = codeOf(opened.failure);
