@@ -3,4 +3,5 @@
 
 // Parameters of cameras and interfaces.
 #include <OrvGenParam/Array.h>
+#include <OrvGenParam/LookAhead.h>
 #include <OrvGenParam/ParamEventSink.h>

@@ -47,12 +47,22 @@ void NodeAccess::requireReadable() const
         throw GenICam::AccessException("The feature is not readable", __FILE__, __LINE__);
 }
 
+/// Never fails, since it is asked after a failure.
+bool NodeAccess::isAvailable() const
+{
+    try {
+        return IsAvailable(m_node.GetAccessMode());
+    } catch (const GenICam::GenericException &) {
+        return true;
+    }
+}
+
 int32_t NodeAccess::codeOfException() const
 {
     try {
         throw;
     } catch (const GenICam::AccessException &) {
-        return IsAvailable(accessMode()) ? OrvCam::ErrorAccessDenied : OrvCam::ErrorNotAvailable;
+        return isAvailable() ? OrvCam::ErrorAccessDenied : OrvCam::ErrorNotAvailable;
     } catch (const GenICam::OutOfRangeException &) {
         return OrvCam::ErrorOutOfRange;
     } catch (const GenICam::InvalidArgumentException &) {

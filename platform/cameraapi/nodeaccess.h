@@ -6,6 +6,7 @@
 #include <OrvCam/Codes.h>
 
 #include <GenApi/GenApi.h>
+#include <genapi/nodes/question.h>
 
 #include <atomic>
 #include <string>
@@ -48,6 +49,8 @@ public:
         try {
             function();
             return OrvCam::Success;
+        } catch (const OrvGenApi::NotYetKnown &) {
+            throw; // somebody only looks
         } catch (...) {
             return codeOfException();
         }
@@ -80,6 +83,7 @@ public:
 private:
     void requireReadable() const;
     int32_t codeOfException() const;
+    bool isAvailable() const;
     void nodeChanged(GenApi::INode *) { notify(); }
 
     ArrayState &m_array;

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "fetchahead.h"
+
+#include "maincontext.h"
+
+#include <algorithm>
+
+using OrvGenApi::Question;
+
+namespace OrvCameraIo {
+
+namespace {
+
+/// References are not nearly as deep.
+constexpr int maxRounds = 100;
+
+} // namespace
+
+/// What the rounds need; empty after the end.
+struct FetchAhead::Access
+{
+    OrvGenApi::NodeMapBase *map = nullptr;
+    RegisterIo *io = nullptr;
+
+    /// Lets all functions look, and returns what they miss.
+    std::vector<RegisterRange> missing(const std::vector<Ask> &asks, uint64_t askedAt) const
+    {
+        Question question(Question::Kind::Looking);
+        question.askedAt = askedAt;
+        for (const Ask &ask : asks) {
+            try {
+                map->look(question, ask);
+            } catch (const GenICam::GenericException &) {
+                // That a node fails is known by now.
+            }
+        }
+        std::vector<RegisterRange> ranges = std::move(question.missing);
+        std::sort(ranges.begin(), ranges.end());
+        ranges.erase(std::unique(ranges.begin(), ranges.end()), ranges.end());
+        return ranges;
+    }
+};
+
+class FetchAhead::Fetch final : public Request, public std::enable_shared_from_this<Fetch>
+{
+public:
+    Fetch(std::shared_ptr<Access> access, std::vector<Ask> asks, std::function<void()> done)
+        : m_access(std::move(access))
+        , m_asks(std::move(asks))
+        , m_done(std::move(done))
+        , m_askedAt(m_access->io->now())
+    {
+    }
+
+    void nextRound()
+    {
+        if (!m_access->map)
+            return;
+        const auto missing = m_access->missing(m_asks, m_askedAt);
+        const std::weak_ptr<Fetch> weak = shared_from_this();
+        if (missing.empty() || ++m_rounds > maxRounds) {
+            MainContext::post([weak] {
+                if (const auto self = weak.lock())
+                    self->m_done();
+            });
+            return;
+        }
+        m_transfer = m_access->io->readLater(missing, [weak] {
+            MainContext::post([weak] {
+                if (const auto self = weak.lock())
+                    self->nextRound();
+            });
+        });
+    }
+
+private:
+    const std::shared_ptr<Access> m_access;
+    const std::vector<Ask> m_asks;
+    const std::function<void()> m_done;
+    const uint64_t m_askedAt;
+    int m_rounds = 0;
+    std::unique_ptr<Request> m_transfer;
+};
+
+namespace {
+
+/// The caller's hold on a request.
+class Holder final : public Request
+{
+public:
+    explicit Holder(std::shared_ptr<Request> request) : m_request(std::move(request)) {}
+
+private:
+    const std::shared_ptr<Request> m_request;
+};
+
+} // namespace
+
+FetchAhead::FetchAhead(OrvGenApi::NodeMapBase &map, RegisterIo &io)
+    : m_access(std::make_shared<Access>())
+{
+    m_access->map = &map;
+    m_access->io = &io;
+}
+
+FetchAhead::~FetchAhead()
+{
+    m_access->map = nullptr;
+    m_access->io = nullptr;
+}
+
+bool FetchAhead::look(const Ask &ask) const
+{
+    Question question(Question::Kind::Looking);
+    return m_access->map->look(question, ask);
+}
+
+std::unique_ptr<Request> FetchAhead::fetch(std::vector<Ask> asks, std::function<void()> done)
+{
+    auto fetch = std::make_shared<Fetch>(m_access, std::move(asks), std::move(done));
+    fetch->nextRound();
+    return std::make_unique<Holder>(std::move(fetch));
+}
+
+void FetchAhead::fetchNow(const std::vector<Ask> &asks) const
+{
+    const uint64_t askedAt = m_access->io->now();
+    for (int round = 0; round < maxRounds; ++round) {
+        const auto missing = m_access->missing(asks, askedAt);
+        if (missing.empty())
+            return;
+        m_access->io->read(missing);
+    }
+}
+
+} // namespace OrvCameraIo
