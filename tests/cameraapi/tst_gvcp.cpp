@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <aravis/gvcp.h>
+#include <gigevision/gvcp.h>
 
 #include <QtTest>
 
-using namespace OrvAravis;
+using namespace OrvGigEVision;
 
 namespace {
 

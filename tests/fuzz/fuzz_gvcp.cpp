@@ -2,9 +2,9 @@
 // Any packet as a camera's answer.
 #include "check.h"
 
-#include <aravis/gvcp.h>
+#include <gigevision/gvcp.h>
 
-using namespace OrvAravis;
+using namespace OrvGigEVision;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
