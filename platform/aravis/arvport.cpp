@@ -3,14 +3,14 @@
 
 #include "arvsupport.h"
 
-#include <arv.h>
+#include <cameraio/limits.h>
 
-#include <cstring>
-#include <thread>
+#include <arv.h>
 
 using OrvCameraIo::PortHints;
 using OrvCameraIo::ReadTransfer;
 using OrvCameraIo::Status;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvAravis {
 
@@ -18,6 +18,7 @@ namespace {
 
 /// A register that every camera has: the version of its protocol.
 constexpr uint64_t versionRegister = 0;
+constexpr std::size_t versionSize = 4;
 
 using Flag = std::shared_ptr<std::atomic<bool>>;
 
@@ -52,15 +53,19 @@ void ArvPort::attach(std::shared_ptr<ArvDevice> device)
     m_isControlLost = std::make_shared<std::atomic<bool>>(false);
     m_signal = g_signal_connect_data(m_device.get(), "control-lost", G_CALLBACK(controlLost),
                                      new Flag(m_isControlLost), destroyFlag, GConnectFlags(0));
+    auto thread = std::make_unique<DeviceThread>(m_device);
+    const std::lock_guard<std::mutex> lock(m_mutex); // released before the former thread ends
+    m_thread.swap(thread);
+    if (m_isInterrupted)
+        m_thread->interrupt();
 }
 
 void ArvPort::detach()
 {
     g_signal_handler_disconnect(m_device.get(), m_signal);
-    // Aravis says goodbye to a camera, and waits for seconds when that does not answer.
-    if (*m_isControlLost || m_isSilent)
-        std::thread([device = std::move(m_device)] {}).detach();
     m_device.reset();
+    if (*m_isControlLost || m_isSilent)
+        m_thread->abandon();
 }
 
 void ArvPort::setHints(const PortHints &hints)
@@ -68,48 +73,30 @@ void ArvPort::setHints(const PortHints &hints)
     m_isWordNumber = hints.isWordNumber;
 }
 
-Status ArvPort::note(GError *error)
+Status ArvPort::carryOut(Transfer &transfer, std::chrono::milliseconds budget)
 {
-    const Status status = takeStatus(error);
+    transfer.isNumber = m_isWordNumber;
+    const Status status = m_thread->carryOut(transfer, budget);
     m_isSilent = !isAnswer(status);
     return status;
 }
 
 void ArvPort::read(std::vector<ReadTransfer> &batch)
 {
-    for (ReadTransfer &transfer : batch)
-        read(transfer);
-}
-
-void ArvPort::read(ReadTransfer &transfer)
-{
-    const auto &[address, size] = transfer.range;
-    transfer.bytes.resize(size);
-    GError *error = nullptr;
-    guint32 number = 0;
-    if (m_isWordNumber && size == sizeof number) {
-        arv_device_read_register(m_device.get(), address, &number, &error);
-        number = GUINT32_TO_BE(number);
-        std::memcpy(transfer.bytes.data(), &number, sizeof number);
-    } else {
-        arv_device_read_memory(m_device.get(), address, size, transfer.bytes.data(), &error);
+    for (ReadTransfer &wanted : batch) {
+        Transfer transfer{Transfer::Kind::Read, wanted.range.address, {}, false};
+        transfer.bytes.resize(wanted.range.size);
+        wanted.status = carryOut(transfer, Limits::readBudget);
+        wanted.bytes = std::move(transfer.bytes);
+        if (m_isSilent)
+            return;
     }
-    transfer.status = note(error);
 }
 
 Status ArvPort::write(uint64_t address, const std::vector<uint8_t> &bytes)
 {
-    GError *error = nullptr;
-    guint32 number = 0;
-    if (m_isWordNumber && bytes.size() == sizeof number) {
-        std::memcpy(&number, bytes.data(), sizeof number);
-        arv_device_write_register(m_device.get(), address, GUINT32_FROM_BE(number), &error);
-    } else {
-        // Aravis only reads from the buffer; its signature does not say so.
-        arv_device_write_memory(m_device.get(), address, static_cast<guint32>(bytes.size()),
-                                const_cast<uint8_t *>(bytes.data()), &error);
-    }
-    return note(error);
+    Transfer transfer{Transfer::Kind::Write, address, bytes, false};
+    return carryOut(transfer, Limits::writeBudget);
 }
 
 OrvCameraIo::Port::Presence ArvPort::probe()
@@ -120,9 +107,17 @@ OrvCameraIo::Port::Presence ArvPort::probe()
     // transfer.
     if (!m_isSilent)
         return Presence::Answers;
-    ReadTransfer version{{versionRegister, sizeof(guint32)}, Status::NoAnswer, {}};
-    read(version);
+    Transfer version{Transfer::Kind::Read, versionRegister, {}, false};
+    version.bytes.resize(versionSize);
+    carryOut(version, Limits::keepAlivePeriod);
     return m_isSilent ? Presence::Silent : Presence::Answers;
+}
+
+void ArvPort::interrupt()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isInterrupted = true;
+    m_thread->interrupt();
 }
 
 bool ArvPort::reopen(const std::function<bool()> &isCancelled)

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cameraio/port.h>
+#include "devicethread.h"
 
 #include <atomic>
 #include <functional>
-#include <memory>
-
-typedef struct _ArvDevice ArvDevice;
-typedef struct _GError GError;
+#include <mutex>
 
 namespace OrvAravis {
 
-/// The registers of a device of Aravis, which does the transfers one by one and with time-outs of
-/// its own. The device counts as lost when Aravis says so.
+/// The registers of a device of Aravis, which transfers them one by one. The device counts as lost
+/// when Aravis says so.
 class ArvPort final : public OrvCameraIo::Port
 {
 public:
@@ -31,20 +28,21 @@ public:
     void read(std::vector<OrvCameraIo::ReadTransfer> &batch) override;
     OrvCameraIo::Status write(uint64_t address, const std::vector<uint8_t> &bytes) override;
     Presence probe() override;
+    void interrupt() override;
     bool reopen(const std::function<bool()> &isCancelled) override;
 
 private:
-    using Flag = std::shared_ptr<std::atomic<bool>>;
-
     void attach(std::shared_ptr<ArvDevice> device);
     void detach();
-    void read(OrvCameraIo::ReadTransfer &transfer);
-    OrvCameraIo::Status note(GError *error);
+    OrvCameraIo::Status carryOut(Transfer &transfer, std::chrono::milliseconds budget);
 
     const Reopen m_reopen;
     std::shared_ptr<ArvDevice> m_device;
-    Flag m_isControlLost; ///< shared with the signal's closure
+    std::shared_ptr<std::atomic<bool>> m_isControlLost; ///< shared with the signal's closure
     unsigned long m_signal = 0;
+    std::mutex m_mutex; ///< guards the next two against `interrupt`
+    std::unique_ptr<DeviceThread> m_thread;
+    bool m_isInterrupted = false;
     std::atomic<bool> m_isWordNumber{false};
     bool m_isSilent = false; ///< the last transfer had no answer
 };
