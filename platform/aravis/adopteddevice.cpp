@@ -92,7 +92,7 @@ AdoptedDevice::Kind AdoptedDevice::kind() const
 
 bool AdoptedDevice::isController() const
 {
-    return !ARV_IS_GV_DEVICE(get()) || arv_gv_device_is_controller(ARV_GV_DEVICE(get()));
+    return OrvAravis::isController(get());
 }
 
 AdoptedDevice::Identity AdoptedDevice::identity() const

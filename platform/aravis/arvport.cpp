@@ -18,7 +18,10 @@ namespace {
 
 /// A register that every camera has: the version of its protocol.
 constexpr uint64_t versionRegister = 0;
-constexpr std::size_t versionSize = 4;
+
+/// Of GigE Vision cameras; one that was switched off and on does not know its controller any more.
+constexpr uint64_t controlPrivilegeRegister = 0x0a00;
+constexpr uint8_t controlPrivilegeMask = 0x3;
 
 using Flag = std::shared_ptr<std::atomic<bool>>;
 
@@ -49,6 +52,7 @@ void ArvPort::attach(std::shared_ptr<ArvDevice> device)
 {
     m_device = std::move(device);
     m_isSilent = false;
+    m_hasControl = ARV_IS_GV_DEVICE(m_device.get()) && isController(m_device.get());
     // Emitted on a thread of the device, possibly while this object goes.
     m_isControlLost = std::make_shared<std::atomic<bool>>(false);
     m_signal = g_signal_connect_data(m_device.get(), "control-lost", G_CALLBACK(controlLost),
@@ -101,16 +105,20 @@ Status ArvPort::write(uint64_t address, const std::vector<uint8_t> &bytes)
 
 OrvCameraIo::Port::Presence ArvPort::probe()
 {
-    if (*m_isControlLost)
+    if (*m_isControlLost || (m_hasControl && !isController(m_device.get())))
         return Presence::Forgotten;
     // Aravis asks by itself whether the camera is there; only what has just failed is worth a
     // transfer.
     if (!m_isSilent)
         return Presence::Answers;
-    Transfer version{Transfer::Kind::Read, versionRegister, {}, false};
-    version.bytes.resize(versionSize);
-    carryOut(version, Limits::keepAlivePeriod);
-    return m_isSilent ? Presence::Silent : Presence::Answers;
+    const uint64_t address = m_hasControl ? controlPrivilegeRegister : versionRegister;
+    Transfer question{Transfer::Kind::Read, address, std::vector<uint8_t>(4), false};
+    const Status status = carryOut(question, Limits::keepAlivePeriod);
+    if (m_isSilent)
+        return Presence::Silent;
+    const bool isForgotten = m_hasControl && status == Status::Done &&
+                             (question.bytes.back() & controlPrivilegeMask) == 0;
+    return isForgotten ? Presence::Forgotten : Presence::Answers;
 }
 
 void ArvPort::interrupt()

@@ -44,7 +44,8 @@ private:
     std::unique_ptr<DeviceThread> m_thread;
     bool m_isInterrupted = false;
     std::atomic<bool> m_isWordNumber{false};
-    bool m_isSilent = false; ///< the last transfer had no answer
+    bool m_hasControl = false; ///< of a GigE Vision camera, when the device was attached
+    bool m_isSilent = false;   ///< the last transfer had no answer
 };
 
 } // namespace OrvAravis

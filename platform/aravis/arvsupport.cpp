@@ -54,6 +54,11 @@ Status takeStatus(GError *error)
     return status;
 }
 
+bool isController(ArvDevice *device)
+{
+    return !ARV_IS_GV_DEVICE(device) || arv_gv_device_is_controller(ARV_GV_DEVICE(device));
+}
+
 std::shared_ptr<ArvDevice> shared(ArvDevice *device)
 {
     return {ARV_DEVICE(g_object_ref(device)), g_object_unref};

@@ -19,6 +19,9 @@ void quieten();
 /// Frees the error; null stands for success.
 OrvCameraIo::Status takeStatus(GError *error);
 
+/// False when it is known that the device has no control of its camera, so that it can only read.
+bool isController(ArvDevice *device);
+
 /// Another reference to a device.
 std::shared_ptr<ArvDevice> shared(ArvDevice *device);
 

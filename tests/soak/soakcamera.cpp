@@ -3,6 +3,7 @@
 
 #include <GenApi/GenApi.h>
 #include <OrvGenParam.h>
+#include <description/description.h>
 #include <description/nodemap.h>
 #include <simulation/simulatedcamera.h>
 

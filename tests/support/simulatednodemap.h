@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <description/description.h>
 #include <description/nodemap.h>
 #include <simulation/simulatedcamera.h>
 
