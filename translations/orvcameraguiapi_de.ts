@@ -68,6 +68,14 @@
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
         <translation>Die Kamera „%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
+    <message>
+        <source>%1 (read only)</source>
+        <translation>%1 (schreibgeschützt)</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is read only: another program controls it.</source>
+        <translation>Die Kamera „%1“ kann nur gelesen werden: Ein anderes Programm steuert sie.</translation>
+    </message>
 </context>
 <context>
     <name>GenParamDelegate</name>

@@ -68,6 +68,14 @@
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
         <translation>カメラ「%1」を開けません: %2。</translation>
     </message>
+    <message>
+        <source>%1 (read only)</source>
+        <translation>%1（読み取り専用）</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is read only: another program controls it.</source>
+        <translation>カメラ「%1」は読み取り専用です: ほかのプログラムが制御しています。</translation>
+    </message>
 </context>
 <context>
     <name>GenParamDelegate</name>

@@ -83,6 +83,8 @@ int showFeatures(const FeatureSource &source, const Options &options)
     OrvGui::OrvGenParamTreeView view;
     view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
     view.setParams(source.nodeMap());
+    if (options.listFeatures && !source.warning().isEmpty())
+        QTextStream(stderr) << "orvcamconfig: " << source.warning() << '\n';
     if (options.listFeatures)
         return printText([&](QTextStream &out) { printFeatures(*view.treeView()->model(), out); });
 

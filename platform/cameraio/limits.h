@@ -20,6 +20,9 @@ constexpr std::size_t downloadSize = 64u << 20;
 /// Nodes of a description, entries of enumerations included.
 constexpr std::size_t nodeCount = 500000;
 
+/// Elements inside of nodes; those of a structured register count for each of its entries.
+constexpr std::size_t elementCount = 4000000;
+
 /// Elements within each other; the standard has no use for more than 6.
 constexpr int elementDepth = 32;
 

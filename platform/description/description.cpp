@@ -1,214 +1,104 @@
 // SPDX-License-Identifier: MIT
 #include "description.h"
 
-#include <Base/GCException.h>
+#include "descriptionreader.h"
 
-#include <genapi/nodes/numbers.h>
+#include <cameraio/limits.h>
 
-#include <libxml/parser.h>
-#include <libxml/tree.h>
-
-#include <climits>
+#include <algorithm>
 #include <cstring>
-#include <memory>
 #include <mutex>
+#include <unordered_map>
 
-using OrvGenApi::trimmed;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvDescription {
 
 namespace {
 
-std::string text(const xmlChar *characters)
-{
-    return characters ? reinterpret_cast<const char *>(characters) : "";
-}
+constexpr std::size_t blockSize = 64 << 10;
 
-std::string taken(xmlChar *characters)
-{
-    std::string result = text(characters);
-    xmlFree(characters);
-    return result;
-}
-
-std::string attribute(xmlNode *element, const char *name)
-{
-    return taken(xmlGetNoNsProp(element, BAD_CAST name));
-}
-
-bool isElement(const xmlNode *node)
-{
-    return node->type == XML_ELEMENT_NODE;
-}
-
-DescriptionProperty propertyOf(xmlNode *element)
-{
-    DescriptionProperty property;
-    property.tag = text(element->name);
-    property.name = attribute(element, "Name");
-    property.index = attribute(element, "Index");
-    property.offset = attribute(element, "Offset");
-    property.pOffset = attribute(element, "pOffset");
-    bool hasElements = false;
-    for (xmlNode *child = element->children; child; child = child->next) {
-        if (!isElement(child))
-            continue;
-        hasElements = true;
-        // No property holds another one of its own kind; deeper nesting is an extension of some
-        // maker's that nobody here reads.
-        if (property.tag == "IntSwissKnife")
-            property.properties.push_back(propertyOf(child));
-    }
-    if (!hasElements)
-        property.text = trimmed(taken(xmlNodeGetContent(element)));
-    return property;
-}
-
-class Reader
+/// The descriptions that somebody has, by the hash of their text.
+class Registry
 {
 public:
-    explicit Reader(std::vector<DescriptionNode> &nodes) : m_nodes(nodes) {}
-
-    void readChildren(xmlNode *parent)
+    std::shared_ptr<const Description> get(std::string_view xml, const std::string &source)
     {
-        for (xmlNode *child = parent->children; child; child = child->next) {
-            if (!isElement(child))
-                continue;
-            const std::string tag = text(child->name);
-            if (tag == "Group")
-                readChildren(child);
-            else if (tag == "StructReg")
-                readStructure(child);
-            else
-                readNode(child);
+        const std::size_t hash = std::hash<std::string_view>()(xml);
+        // Reading under the lock: several cameras of a kind are often opened at once.
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto range = m_descriptions.equal_range(hash);
+        for (auto entry = range.first; entry != range.second;) {
+            const std::shared_ptr<const Description> known = entry->second.lock();
+            if (known && known->xml() == xml)
+                return known;
+            entry = known ? std::next(entry) : m_descriptions.erase(entry);
         }
+        auto read = std::make_shared<const Description>(xml, source);
+        m_descriptions.emplace(hash, read);
+        return read;
     }
 
 private:
-    DescriptionNode begun(xmlNode *element)
-    {
-        DescriptionNode node;
-        node.tag = text(element->name);
-        node.name = attribute(element, "Name");
-        node.isStandard = attribute(element, "NameSpace") == "Standard";
-        return node;
-    }
-
-    void readNode(xmlNode *element)
-    {
-        DescriptionNode node = begun(element);
-        if (node.name.empty())
-            return;
-        std::vector<DescriptionNode> entries;
-        for (xmlNode *child = element->children; child; child = child->next) {
-            if (!isElement(child))
-                continue;
-            if (text(child->name) == "EnumEntry")
-                entries.push_back(entryOf(child, node.name));
-            else
-                node.properties.push_back(propertyOf(child));
-        }
-        m_nodes.push_back(std::move(node));
-        for (DescriptionNode &entry : entries)
-            m_nodes.push_back(std::move(entry));
-    }
-
-    DescriptionNode entryOf(xmlNode *element, const std::string &enumeration)
-    {
-        DescriptionNode entry = begun(element);
-        entry.owner = enumeration;
-        entry.symbolic = entry.name;
-        entry.name = "EnumEntry_" + enumeration + "_" + entry.symbolic;
-        for (xmlNode *child = element->children; child; child = child->next) {
-            if (!isElement(child))
-                continue;
-            DescriptionProperty property = propertyOf(child);
-            if (property.tag == "Symbolic" && !property.text.empty())
-                entry.symbolic = property.text;
-            entry.properties.push_back(std::move(property));
-        }
-        return entry;
-    }
-
-    void readStructure(xmlNode *element)
-    {
-        std::vector<DescriptionProperty> common;
-        std::vector<DescriptionNode> entries;
-        for (xmlNode *child = element->children; child; child = child->next) {
-            if (!isElement(child))
-                continue;
-            if (text(child->name) != "StructEntry") {
-                common.push_back(propertyOf(child));
-                continue;
-            }
-            DescriptionNode entry = begun(child);
-            for (xmlNode *grandchild = child->children; grandchild; grandchild = grandchild->next) {
-                if (isElement(grandchild))
-                    entry.properties.push_back(propertyOf(grandchild));
-            }
-            if (!entry.name.empty())
-                entries.push_back(std::move(entry));
-        }
-        for (DescriptionNode &entry : entries) {
-            entry.properties.insert(entry.properties.end(), common.begin(), common.end());
-            m_nodes.push_back(std::move(entry));
-        }
-    }
-
-    std::vector<DescriptionNode> &m_nodes;
+    std::mutex m_mutex;
+    std::unordered_multimap<std::size_t, std::weak_ptr<const Description>> m_descriptions;
 };
-
-[[noreturn]] void fail(const std::string &source, const std::string &why)
-{
-    throw GenICam::RuntimeException((source + ": " + why).c_str(), __FILE__, __LINE__);
-}
 
 } // namespace
 
-const DescriptionProperty *DescriptionNode::find(const char *wanted) const
+const std::vector<DescriptionProperty> &DescriptionProperty::properties() const
 {
-    for (const DescriptionProperty &property : properties) {
-        if (property.tag == wanted)
-            return &property;
-    }
-    return nullptr;
+    static const std::vector<DescriptionProperty> none;
+    return extras ? extras->properties : none;
 }
 
-std::string DescriptionNode::text(const char *wanted, const std::string &fallback) const
+const DescriptionProperty *DescriptionNode::find(std::string_view wanted) const
+{
+    const auto found =
+        std::find_if(properties.begin(), properties.end(),
+                     [&](const DescriptionProperty &property) { return property.tag == wanted; });
+    return found == properties.end() ? nullptr : &*found;
+}
+
+std::string_view DescriptionNode::text(std::string_view wanted, std::string_view fallback) const
 {
     const DescriptionProperty *property = find(wanted);
     return property ? property->text : fallback;
 }
 
-Description::Description(const char *xml, std::size_t size, const std::string &source)
+Description::Description(std::string_view xml, const std::string &source)
+    : m_xml(xml.substr(0, Limits::descriptionSize + 1))
 {
-    static std::once_flag initialised;
-    std::call_once(initialised, [] { xmlInitParser(); });
+    DescriptionReader(*this, source).read();
+}
 
-    if (size == 0)
-        fail(source, "the description is empty");
-    if (size > INT_MAX)
-        fail(source, "the description is too large");
+std::shared_ptr<const Description> Description::shared(std::string_view xml,
+                                                       const std::string &source)
+{
+    static Registry registry;
+    return registry.get(xml, source);
+}
 
-    const std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxt *)> parser(xmlNewParserCtxt(),
-                                                                           xmlFreeParserCtxt);
-    const std::unique_ptr<xmlDoc, void (*)(xmlDoc *)> document(
-        xmlCtxtReadMemory(parser.get(), xml, static_cast<int>(size), nullptr, nullptr,
-                          XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NONET |
-                              XML_PARSE_NOCDATA),
-        xmlFreeDoc);
-    if (!document) {
-        const xmlError *error = xmlCtxtGetLastError(parser.get());
-        if (!error || !error->message)
-            fail(source, "this is not XML");
-        fail(source, "line " + std::to_string(error->line) + ": " + trimmed(error->message));
+std::string_view Description::keep(std::string_view text)
+{
+    if (text.empty())
+        return {};
+    if (text.size() > blockSize / 4) {
+        // A block of its own, in front of the one that is being filled.
+        auto block = std::make_unique<char[]>(text.size());
+        std::memcpy(block.get(), text.data(), text.size());
+        const std::string_view kept(block.get(), text.size());
+        m_blocks.insert(m_blocks.begin(), std::move(block));
+        return kept;
     }
-
-    xmlNode *root = xmlDocGetRootElement(document.get());
-    if (!root || text(root->name) != "RegisterDescription")
-        fail(source, "this is no GenICam device description");
-    m_modelName = attribute(root, "ModelName");
-    Reader(m_nodes).readChildren(root);
+    if (m_blockUsed + text.size() > blockSize || m_blockUsed == 0) {
+        m_blocks.push_back(std::make_unique<char[]>(blockSize));
+        m_blockUsed = 0;
+    }
+    char *const target = m_blocks.back().get() + m_blockUsed;
+    std::memcpy(target, text.data(), text.size());
+    m_blockUsed += text.size();
+    return {target, text.size()};
 }
 
 } // namespace OrvDescription

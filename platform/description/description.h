@@ -1,61 +1,102 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <GenApi/Types.h>
+
+#include <cstddef>
+#include <deque>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace OrvDescription {
 
+struct DescriptionProperty;
+
+/// What few elements inside a node have.
+struct DescriptionExtras
+{
+    std::string_view name;                       ///< the attribute "Name"
+    std::string_view index;                      ///< the attribute "Index"
+    std::string_view offset;                     ///< the attribute "Offset"
+    std::string_view pOffset;                    ///< the attribute "pOffset"
+    std::vector<DescriptionProperty> properties; ///< of an address formula written in place
+};
+
 /// One element inside a node of a description, for example `<pVariable Name="X">Width</pVariable>`.
 struct DescriptionProperty
 {
-    std::string tag;
-    std::string name;                            ///< the attribute "Name"
-    std::string index;                           ///< the attribute "Index"
-    std::string offset;                          ///< the attribute "Offset"
-    std::string pOffset;                         ///< the attribute "pOffset"
-    std::string text;                            ///< without surrounding blanks
-    std::vector<DescriptionProperty> properties; ///< of an address formula written in place
+    std::string_view tag;
+    std::string_view text; ///< without surrounding blanks
+    const DescriptionExtras *extras = nullptr;
+
+    std::string_view name() const { return extras ? extras->name : std::string_view(); }
+    std::string_view index() const { return extras ? extras->index : std::string_view(); }
+    std::string_view offset() const { return extras ? extras->offset : std::string_view(); }
+    std::string_view pOffset() const { return extras ? extras->pOffset : std::string_view(); }
+    const std::vector<DescriptionProperty> &properties() const;
 };
 
 /// One node of a description: its element, name and properties, in the order of the file.
 struct DescriptionNode
 {
-    std::string tag;
-    std::string name;
+    std::string_view tag;
+    std::string_view name;
     bool isStandard = false;
-    std::string owner;    ///< of an enumeration's entry: the enumeration's name
-    std::string symbolic; ///< of an enumeration's entry
+    std::string_view owner;    ///< of an enumeration's entry: the enumeration's name
+    std::string_view symbolic; ///< of an enumeration's entry
     std::vector<DescriptionProperty> properties;
 
     /// The first property of that tag, or null.
-    const DescriptionProperty *find(const char *wanted) const;
+    const DescriptionProperty *find(std::string_view wanted) const;
 
     /// Its text, or the fallback.
-    std::string text(const char *wanted, const std::string &fallback = {}) const;
+    std::string_view text(std::string_view wanted, std::string_view fallback = {}) const;
 };
 
-/// A GenICam device description as it is written: what it says of each node, nothing computed.
-///
-/// The engine that evaluates descriptions leaves out some elements and hands out some lists
-/// reversed; whatever depends on the order of the file, and the references between nodes, are taken
-/// from here.
-class Description
+/// A GenICam device description as it is written: what it says of each node, nothing computed. It
+/// never changes, so that the node maps of several cameras and threads can share it; all views of
+/// texts are views of its own memory.
+class GENAPI_DECL Description
 {
 public:
-    /// Throws `RuntimeException` when the text is no device description; the message is one line
-    /// and begins with `source` and, where known, the line number.
-    Description(const char *xml, std::size_t size, const std::string &source);
+    /// Throws `RuntimeException` when the text is no device description or beyond what
+    /// `OrvCameraIo::Limits` allow; the message is one line and begins with `source` and, where
+    /// known, the line number. A document type definition is refused, so there are no entities but
+    /// those that every document has, and nothing outside of the text is ever read.
+    Description(std::string_view xml, const std::string &source);
+    Description(const Description &) = delete;
+    Description &operator=(const Description &) = delete;
 
-    const std::string &modelName() const { return m_modelName; }
+    /// The one that somebody still has of the same text, otherwise a new one. Throws as above.
+    static std::shared_ptr<const Description> shared(std::string_view xml,
+                                                     const std::string &source);
+
+    /// As it was read.
+    const std::string &xml() const { return m_xml; }
+
+    std::string_view modelName() const { return m_modelName; }
+    int schemaMajorVersion() const { return m_schemaMajorVersion; }
+    int schemaMinorVersion() const { return m_schemaMinorVersion; }
 
     /// Entries of enumerations directly behind their enumeration, entries of structured registers
     /// in place of the structure, with the structure's properties behind their own.
     const std::vector<DescriptionNode> &nodes() const { return m_nodes; }
 
 private:
-    std::string m_modelName;
+    friend class DescriptionReader;
+
+    std::string_view keep(std::string_view text);
+
+    const std::string m_xml;
+    std::string_view m_modelName;
+    int m_schemaMajorVersion = 1;
+    int m_schemaMinorVersion = 1;
     std::vector<DescriptionNode> m_nodes;
+    std::deque<DescriptionExtras> m_extras;
+    std::vector<std::unique_ptr<char[]>> m_blocks; ///< of texts
+    std::size_t m_blockUsed = 0;
 };
 
 } // namespace OrvDescription

@@ -1,312 +1,384 @@
 // SPDX-License-Identifier: MIT
 #include "formula.h"
 
-#include "description.h"
-#include "errors.h"
+#include "formulaparser.h"
 #include "rawvalue.h"
 
-#include <genapi/nodes/enumerationnode.h>
-#include <genapi/nodes/floatnode.h>
-#include <genapi/nodes/integernode.h>
+#include <Base/GCException.h>
 
-#include <arv.h>
+#include <genapi/nodes/question.h>
 
-#include <algorithm>
-#include <cctype>
+#include <array>
+#include <cmath>
+#include <optional>
 
-using namespace OrvGenApi;
+using Op = OrvDescription::FormulaCode::Op;
 
 namespace OrvDescription {
 
 namespace {
 
-/// The number of a node that the part of a variable's name behind the point asks for, as an
-/// integer or a floating-point number.
-struct Number
-{
-    bool isReal;
-    int64_t integer;
-    double real;
+// Results beyond 64 bits lose their upper bits, as in the camera's own processor.
 
-    Number(int64_t value) : isReal(false), integer(value), real(static_cast<double>(value)) {}
-    Number(double value) : isReal(true), integer(0), real(value) {}
-};
-
-ArvEvaluator *newEvaluator(const DescriptionNode &node, const std::string &text)
+int64_t wrapped(uint64_t bits)
 {
-    ArvEvaluator *evaluator = arv_evaluator_new(text.c_str());
-    for (const DescriptionProperty &property : node.properties) {
-        if (property.tag == "Constant")
-            arv_evaluator_set_constant(evaluator, property.name.c_str(), property.text.c_str());
-        else if (property.tag == "Expression")
-            arv_evaluator_set_sub_expression(evaluator, property.name.c_str(),
-                                             property.text.c_str());
+    return static_cast<int64_t>(bits);
+}
+
+uint64_t bitsOf(int64_t value)
+{
+    return static_cast<uint64_t>(value);
+}
+
+int64_t quotient(int64_t dividend, int64_t divisor)
+{
+    return divisor == -1 ? wrapped(0 - bitsOf(dividend)) : dividend / divisor;
+}
+
+int64_t remainder(int64_t dividend, int64_t divisor)
+{
+    return divisor == -1 ? 0 : dividend % divisor;
+}
+
+int64_t shiftedLeft(int64_t value, int64_t count)
+{
+    return count < 0 || count > 63 ? 0 : wrapped(bitsOf(value) << count);
+}
+
+int64_t shiftedRight(int64_t value, int64_t count)
+{
+    if (count < 0 || count > 63)
+        return value < 0 ? -1 : 0;
+    return value >> count;
+}
+
+int64_t integerPower(int64_t base, int64_t exponent)
+{
+    if (exponent < 0)
+        return base == 1 || base == -1 ? (exponent % 2 == 0 ? 1 : base) : 0;
+    uint64_t result = 1;
+    for (uint64_t factor = bitsOf(base); exponent > 0; exponent /= 2, factor *= factor) {
+        if (exponent % 2 != 0)
+            result *= factor;
     }
-    return evaluator;
+    return wrapped(result);
 }
 
-bool callsFunction(const std::string &text)
+double rounded(double value, int64_t digits)
 {
-    for (auto open = text.find('('); open != std::string::npos; open = text.find('(', open + 1)) {
-        if (open > 0 && std::isupper(static_cast<unsigned char>(text[open - 1])))
-            return true;
-    }
-    return false;
+    const double scale = std::pow(10.0, static_cast<double>(digits));
+    const double result = std::round(value * scale) / scale;
+    return std::isfinite(result) ? result : value;
 }
 
-bool divides(const DescriptionNode &node, const std::string &text)
+/// Integers when both are, unless the result has no room in one.
+FormulaNumber sum(FormulaNumber left, FormulaNumber right)
 {
-    const auto hasDivision = [](const std::string &formula) {
-        return formula.find_first_of("/%") != std::string::npos;
-    };
-    return hasDivision(text) ||
-           std::any_of(node.properties.begin(), node.properties.end(),
-                       [&](const DescriptionProperty &property) {
-                           return property.tag == "Expression" && hasDivision(property.text);
-                       });
+    int64_t result = 0;
+    if (left.isReal() || right.isReal() ||
+        __builtin_add_overflow(left.integer, right.integer, &result))
+        return left.toReal() + right.toReal();
+    return result;
 }
 
-Number valueOf(Node &node)
+FormulaNumber difference(FormulaNumber left, FormulaNumber right)
 {
-    if (isReal(node))
-        return rawReal(node);
-    return rawInteger(node);
+    int64_t result = 0;
+    if (left.isReal() || right.isReal() ||
+        __builtin_sub_overflow(left.integer, right.integer, &result))
+        return left.toReal() - right.toReal();
+    return result;
 }
 
-Number entryValue(Node &node, const std::string &symbolic)
+FormulaNumber product(FormulaNumber left, FormulaNumber right)
 {
-    auto *enumeration = dynamic_cast<EnumerationNode *>(&node);
-    GenApi::IEnumEntry *entry =
-        enumeration ? enumeration->GetEntryByName(symbolic.c_str()) : nullptr;
-    if (!entry)
-        throw GenICam::RuntimeException(
-            ("'" + node.name() + "' has no entry '" + symbolic + "'").c_str(), __FILE__, __LINE__);
-    return entry->GetValue();
+    int64_t result = 0;
+    if (left.isReal() || right.isReal() ||
+        __builtin_mul_overflow(left.integer, right.integer, &result))
+        return left.toReal() * right.toReal();
+    return result;
 }
 
-template<typename NumberNode>
-Number limitOf(NumberNode &node, const std::string &which)
+bool isLess(FormulaNumber left, FormulaNumber right)
 {
-    if (which == "Min")
-        return node.GetMin();
-    if (which == "Max")
-        return node.GetMax();
-    return node.GetInc();
+    if (left.isReal() || right.isReal())
+        return left.toReal() < right.toReal();
+    return left.integer < right.integer;
 }
 
-Number numberOf(Node &node, const std::string &which)
+bool isEqual(FormulaNumber left, FormulaNumber right)
 {
-    if (which.empty() || which == "Value")
-        return valueOf(node);
-    for (const std::string prefix : {"Enum.", "Entry."}) {
-        if (which.compare(0, prefix.size(), prefix) == 0)
-            return entryValue(node, which.substr(prefix.size()));
-    }
-    if (which == "Min" || which == "Max" || which == "Inc") {
-        if (auto *integer = dynamic_cast<IntegerNode *>(&node))
-            return limitOf(*integer, which);
-        if (auto *real = dynamic_cast<FloatNode *>(&node))
-            return limitOf(*real, which);
-    }
-    throw GenICam::RuntimeException(("'" + node.name() + "' has no number '" + which + "'").c_str(),
-                                    __FILE__, __LINE__);
+    if (left.isReal() || right.isReal())
+        return left.toReal() == right.toReal();
+    return left.integer == right.integer;
 }
 
-/// What a formula nests deeper is left to Aravis as a whole.
-const int MaximumDepth = 64;
-
-/// The text without the white space and the parentheses around it.
-std::string stripped(std::string text)
+FormulaNumber truth(bool value)
 {
-    const char *space = " \t\r\n";
-    for (int pair = 0; pair < MaximumDepth; ++pair) {
-        const auto first = text.find_first_not_of(space);
-        if (first == std::string::npos)
-            return {};
-        text = text.substr(first, text.find_last_not_of(space) - first + 1);
-        if (text.front() != '(')
-            return text;
-        int depth = 0;
-        std::size_t end = 0;
-        for (; end < text.size(); ++end) {
-            depth += (text[end] == '(') - (text[end] == ')');
-            if (depth == 0)
-                break;
-        }
-        if (end + 1 != text.size())
-            return text;
-        text = text.substr(1, text.size() - 2);
-    }
-    return text;
-}
-
-/// The places of the question mark and the colon of a text that is "condition ? value : other" as
-/// a whole; both `npos` when it is something else.
-std::pair<std::size_t, std::size_t> findChoice(const std::string &text)
-{
-    const auto none = std::make_pair(std::string::npos, std::string::npos);
-    auto question = std::string::npos;
-    int depth = 0;
-    int open = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        depth += (text[i] == '(') - (text[i] == ')');
-        if (depth != 0)
-            continue;
-        if (text[i] == '?') {
-            if (open++ == 0 && question == std::string::npos)
-                question = i;
-        } else if (text[i] == ':' && --open <= 0) {
-            return open == 0 ? std::make_pair(question, i) : none;
-        }
-    }
-    return none;
+    return int64_t(value ? 1 : 0);
 }
 
 } // namespace
 
-/// A formula, or a choice between two. Aravis computes both sides of a choice and fails when it
-/// divides by zero in the one that is not taken, which is just what a description's
-/// "(X = 0) ? 0 : (1 / X)" guards against.
-struct Formula::Term
+int64_t FormulaNumber::toInteger() const
 {
-    ArvEvaluator *evaluator; ///< of the condition when there is a choice
-    std::unique_ptr<Term> yes;
-    std::unique_ptr<Term> no;
+    if (!isReal())
+        return integer;
+    if (std::isnan(real))
+        return 0;
+    if (real >= 9223372036854775808.0)
+        return INT64_MAX;
+    if (real < -9223372036854775808.0)
+        return INT64_MIN;
+    return static_cast<int64_t>(real);
+}
 
-    explicit Term(ArvEvaluator *newEvaluator) : evaluator(newEvaluator) {}
-    ~Term() { g_object_unref(evaluator); }
-    Term(const Term &) = delete;
-    Term &operator=(const Term &) = delete;
-
-    template<typename Function>
-    void forEach(const Function &function)
+/// One evaluation of a formula.
+class Formula::Evaluation
+{
+public:
+    Evaluation(const Formula &formula, const Look &look, bool isInteger)
+        : m_formula(formula), m_look(look), m_isInteger(isInteger)
     {
-        function(evaluator);
-        if (yes) {
-            yes->forEach(function);
-            no->forEach(function);
+    }
+
+    FormulaNumber run()
+    {
+        if (!m_formula.m_error.empty())
+            fail(m_formula.m_error);
+        const FormulaCode &code = m_formula.m_code;
+        if (code.stackSize >= m_fewNumbers.size()) {
+            m_manyNumbers.resize(code.stackSize + 1);
+            m_top = m_manyNumbers.data();
+        }
+        for (std::size_t i = 0; i < code.steps.size();)
+            i = run(i, code.steps[i]);
+        if (!m_top->isKnown())
+            throw OrvGenApi::NotYetKnown();
+        return *m_top;
+    }
+
+private:
+    /// Does a step and returns the number of the next one.
+    std::size_t run(std::size_t number, FormulaCode::Step step)
+    {
+        switch (step.op) {
+        case Op::Number:
+            push(m_formula.m_code.numbers[step.operand]);
+            break;
+        case Op::Variable:
+            push(variable(step.operand));
+            break;
+        case Op::And:
+        case Op::Or:
+            if (m_top->isKnown() && m_top->isTrue() == (step.op == Op::And)) {
+                --m_top;
+                break;
+            }
+            if (m_top->isKnown())
+                *m_top = truth(m_top->isTrue());
+            return step.operand;
+        case Op::Choose:
+            return choose(number, step);
+        case Op::Jump:
+            return step.operand;
+        default:
+            if (step.op >= Op::RoundTo)
+                computeOfTwo(step.op);
+            else if (m_top->isKnown())
+                *m_top = resultOfOne(step.op, *m_top);
+        }
+        return number + 1;
+    }
+
+    std::size_t choose(std::size_t number, FormulaCode::Step step)
+    {
+        // Neither side is looked at as long as nobody knows which one counts.
+        if (!m_top->isKnown())
+            return m_formula.m_code.steps[step.operand - 1].operand;
+        const bool isTrue = m_top->isTrue();
+        --m_top;
+        return isTrue ? number + 1 : step.operand;
+    }
+
+    void push(FormulaNumber number)
+    {
+        *++m_top = m_isInteger && number.isReal() ? FormulaNumber(number.toInteger()) : number;
+    }
+
+    FormulaNumber variable(std::size_t use)
+    {
+        if (m_variables.empty())
+            m_variables.resize(m_formula.m_code.uses.size());
+        std::optional<FormulaNumber> &value = m_variables[use];
+        if (!value) {
+            try {
+                value = m_look(m_formula.m_code.uses[use]);
+            } catch (const OrvGenApi::NotYetKnown &) {
+                value = FormulaNumber();
+            }
+        }
+        return *value;
+    }
+
+    FormulaNumber resultOfOne(Op op, FormulaNumber x) const
+    {
+        switch (op) {
+        case Op::Negate:
+            return difference(int64_t(0), x, m_isInteger);
+        case Op::Complement:
+            return ~x.toInteger();
+        case Op::Truth:
+            return truth(x.isTrue());
+        case Op::Sin:
+            return std::sin(x.toReal());
+        case Op::Cos:
+            return std::cos(x.toReal());
+        case Op::Tan:
+            return std::tan(x.toReal());
+        case Op::Asin:
+            return std::asin(x.toReal());
+        case Op::Acos:
+            return std::acos(x.toReal());
+        case Op::Atan:
+            return std::atan(x.toReal());
+        case Op::Exp:
+            return std::exp(x.toReal());
+        case Op::Ln:
+            return std::log(x.toReal());
+        case Op::Lg:
+            return std::log10(x.toReal());
+        case Op::Sqrt:
+            return std::sqrt(x.toReal());
+        case Op::Abs:
+            return isLess(x, int64_t(0)) ? resultOfOne(Op::Negate, x) : x;
+        case Op::Sgn:
+            return int64_t(isLess(int64_t(0), x)) - int64_t(isLess(x, int64_t(0)));
+        case Op::Trunc:
+            return x.isReal() ? FormulaNumber(std::trunc(x.real)) : x;
+        case Op::Floor:
+            return x.isReal() ? FormulaNumber(std::floor(x.real)) : x;
+        case Op::Ceil:
+            return x.isReal() ? FormulaNumber(std::ceil(x.real)) : x;
+        default:
+            return x.isReal() ? FormulaNumber(std::round(x.real)) : x;
         }
     }
+
+    void computeOfTwo(Op op)
+    {
+        const FormulaNumber right = *m_top--;
+        if (!m_top->isKnown() || !right.isKnown())
+            *m_top = FormulaNumber();
+        else
+            *m_top = resultOfTwo(op, *m_top, right);
+    }
+
+    FormulaNumber resultOfTwo(Op op, FormulaNumber left, FormulaNumber right) const
+    {
+        switch (op) {
+        case Op::RoundTo:
+            return rounded(left.toReal(), right.toInteger());
+        case Op::Power:
+            return power(left, right);
+        case Op::Multiply:
+            return m_isInteger ? wrapped(bitsOf(left.integer) * bitsOf(right.integer))
+                               : product(left, right);
+        case Op::Divide:
+            if (m_isInteger)
+                return quotient(left.integer, divisor(right.integer));
+            return left.toReal() / divisor(right.toReal());
+        case Op::Remainder:
+            return remainder(left.toInteger(), divisor(right.toInteger()));
+        case Op::Add:
+            return m_isInteger ? wrapped(bitsOf(left.integer) + bitsOf(right.integer))
+                               : sum(left, right);
+        case Op::Subtract:
+            return difference(left, right, m_isInteger);
+        case Op::ShiftLeft:
+            return shiftedLeft(left.toInteger(), right.toInteger());
+        case Op::ShiftRight:
+            return shiftedRight(left.toInteger(), right.toInteger());
+        case Op::Less:
+            return truth(isLess(left, right));
+        case Op::Greater:
+            return truth(isLess(right, left));
+        case Op::LessOrEqual:
+            return truth(isLess(left, right) || isEqual(left, right));
+        case Op::GreaterOrEqual:
+            return truth(isLess(right, left) || isEqual(left, right));
+        case Op::Equal:
+            return truth(isEqual(left, right));
+        case Op::NotEqual:
+            return truth(!isEqual(left, right));
+        case Op::BitAnd:
+            return left.toInteger() & right.toInteger();
+        case Op::BitXor:
+            return left.toInteger() ^ right.toInteger();
+        default:
+            return left.toInteger() | right.toInteger();
+        }
+    }
+
+    FormulaNumber power(FormulaNumber base, FormulaNumber exponent) const
+    {
+        if (!base.isTrue() && exponent.toReal() < 0)
+            fail("division by zero");
+        if (m_isInteger)
+            return integerPower(base.integer, exponent.integer);
+        return std::pow(base.toReal(), exponent.toReal());
+    }
+
+    static FormulaNumber difference(FormulaNumber left, FormulaNumber right, bool isInteger)
+    {
+        if (isInteger)
+            return wrapped(bitsOf(left.integer) - bitsOf(right.integer));
+        return OrvDescription::difference(left, right);
+    }
+
+    template<typename T>
+    T divisor(T value) const
+    {
+        if (value == 0)
+            fail("division by zero");
+        return value;
+    }
+
+    [[noreturn]] void fail(const std::string &why) const
+    {
+        throw GenICam::RuntimeException((std::string(m_formula.m_owner) + ": " + why).c_str(),
+                                        __FILE__, __LINE__);
+    }
+
+    const Formula &m_formula;
+    const Look &m_look;
+    const bool m_isInteger;
+    std::array<FormulaNumber, 16> m_fewNumbers; ///< the first place stays empty
+    std::vector<FormulaNumber> m_manyNumbers;
+    FormulaNumber *m_top = m_fewNumbers.data();
+    std::vector<std::optional<FormulaNumber>> m_variables;
 };
 
-std::unique_ptr<Formula::Term> Formula::newTerm(const DescriptionNode &node,
-                                                const std::string &text, int maximumDepth)
+Formula::Formula(std::string_view text, const FormulaNames &names, std::string_view owner)
+    : m_owner(owner)
 {
-    const std::string inner = maximumDepth > 0 ? stripped(text) : text;
-    const auto [question, colon] = findChoice(inner);
-    if (maximumDepth == 0 || question == std::string::npos)
-        return std::make_unique<Term>(newEvaluator(node, inner));
-    auto term = std::make_unique<Term>(newEvaluator(node, inner.substr(0, question)));
-    term->yes = newTerm(node, inner.substr(question + 1, colon - question - 1), maximumDepth - 1);
-    term->no = newTerm(node, inner.substr(colon + 1), maximumDepth - 1);
-    return term;
+    try {
+        m_code = FormulaParser(names).parse(text);
+    } catch (const FormulaParser::Error &error) {
+        m_error = "the formula makes no sense: " + error.text;
+    }
 }
 
-Formula::Formula(const DescriptionNode &node, const std::string &text)
-    : m_owner(node.name)
-    , m_usesFunctions(callsFunction(text))
-    , m_divides(divides(node, text))
-    , m_term(newTerm(node, text, m_divides ? MaximumDepth : 0))
+int64_t Formula::integer(const Look &look) const
 {
-    for (const DescriptionProperty &property : node.properties)
-        m_usesFunctions =
-            m_usesFunctions || (property.tag == "Expression" && callsFunction(property.text));
+    if (m_code.callsFunctions)
+        return toInteger(real(look));
+    return Evaluation(*this, look, true).run().integer;
 }
 
-bool Formula::isWellFormed(const DescriptionNode &node, const std::string &text,
-                           const std::vector<std::string> &variables)
+double Formula::real(const Look &look) const
 {
-    if (divides(node, text))
-        return true;
-    ArvEvaluator *evaluator = newEvaluator(node, text);
-    for (const std::string &variable : variables)
-        arv_evaluator_set_int64_variable(evaluator, variable.c_str(), 1);
-    GError *error = nullptr;
-    arv_evaluator_evaluate_as_double(evaluator, &error);
-    g_object_unref(evaluator);
-    const bool wellFormed = !error;
-    g_clear_error(&error);
-    return wellFormed;
-}
-
-Formula::~Formula() = default;
-
-void Formula::addVariable(const std::string &name, Node &node)
-{
-    m_variables.emplace_back(name, &node);
-}
-
-void Formula::setInteger(const std::string &name, int64_t value)
-{
-    // The smallest integer divided by -1 does not fit into an integer: the processor would end the
-    // program. It is the lower limit of everything that states none.
-    if (m_divides && value == INT64_MIN)
-        ++value;
-    m_term->forEach([&](ArvEvaluator *evaluator) {
-        arv_evaluator_set_int64_variable(evaluator, name.c_str(), value);
-    });
-}
-
-void Formula::setReal(const std::string &name, double value)
-{
-    m_term->forEach([&](ArvEvaluator *evaluator) {
-        arv_evaluator_set_double_variable(evaluator, name.c_str(), value);
-    });
-}
-
-void Formula::setVariable(const std::string &name, Node &node)
-{
-    const auto point = name.find('.');
-    const Number number =
-        numberOf(node, point == std::string::npos ? std::string() : name.substr(point + 1));
-    if (number.isReal)
-        setReal(name, number.real);
-    else
-        setInteger(name, number.integer);
-}
-
-void Formula::setVariables()
-{
-    for (const auto &[name, node] : m_variables)
-        setVariable(name, *node);
-}
-
-int64_t Formula::evaluateInteger(const Term &term)
-{
-    GError *error = nullptr;
-    const int64_t value = m_usesFunctions
-                              ? toInteger(arv_evaluator_evaluate_as_double(term.evaluator, &error))
-                              : arv_evaluator_evaluate_as_int64(term.evaluator, &error);
-    throwIfFailed(error, m_owner);
-    if (!term.yes)
-        return value;
-    return evaluateInteger(value != 0 ? *term.yes : *term.no);
-}
-
-double Formula::evaluateReal(const Term &term)
-{
-    GError *error = nullptr;
-    const double value = arv_evaluator_evaluate_as_double(term.evaluator, &error);
-    throwIfFailed(error, m_owner);
-    if (!term.yes)
-        return value;
-    return evaluateReal(value != 0 ? *term.yes : *term.no);
-}
-
-int64_t Formula::integer(const std::string &inputName, int64_t input)
-{
-    setVariables();
-    if (!inputName.empty())
-        setInteger(inputName, input);
-    return evaluateInteger(*m_term);
-}
-
-double Formula::real(const std::string &inputName, double input)
-{
-    setVariables();
-    if (!inputName.empty())
-        setReal(inputName, input);
-    return evaluateReal(*m_term);
+    return Evaluation(*this, look, false).run().toReal();
 }
 
 } // namespace OrvDescription

@@ -1,59 +1,52 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <genapi/nodes/node.h>
+#include "formulacode.h"
 
-#include <memory>
+#include <GenApi/Types.h>
+
+#include <functional>
 #include <string>
-#include <utility>
-#include <vector>
+#include <string_view>
 
 namespace OrvDescription {
 
-struct DescriptionNode;
+class FormulaNames;
 
-/// A formula of a description with its variables, evaluated by Aravis.
-class Formula
+/// A formula of a description, parsed once.
+class GENAPI_DECL Formula
 {
 public:
-    /// `text` is the formula; constants and sub-expressions are those of `node`.
-    Formula(const DescriptionNode &node, const std::string &text);
+    /// Looks up the number that one of `uses()` asks for. May throw `NotYetKnown`: the formula goes
+    /// on as far as it gets without the number, so that all that is missing becomes known.
+    using Look = std::function<FormulaNumber(const FormulaCode::Use &)>;
 
-    /// True when the formula makes sense whatever the values of its variables (those of
-    /// `variables`). One that divides does not count as wrong: there may be nothing to divide by.
-    static bool isWellFormed(const DescriptionNode &node, const std::string &text,
-                             const std::vector<std::string> &variables);
-    ~Formula();
-    Formula(const Formula &) = delete;
-    Formula &operator=(const Formula &) = delete;
+    /// `owner` is the name of the node, for messages.
+    Formula(std::string_view text, const FormulaNames &names, std::string_view owner);
 
-    /// A variable whose value is `node`'s. The part of the name behind a point says which of its
-    /// numbers: "Value" (as without a point), "Min", "Max", "Inc", or "Enum" or "Entry" and the
-    /// symbolic name of an entry.
-    void addVariable(const std::string &name, OrvGenApi::Node &node);
+    /// What is wrong with the formula, empty when nothing is.
+    const std::string &error() const { return m_error; }
 
-    /// `input` is the name and value of one more variable; its name may be empty. Throws
-    /// `RuntimeException` when the formula cannot be evaluated, and what the variables throw.
-    int64_t integer(const std::string &inputName = {}, int64_t input = 0);
-    double real(const std::string &inputName = {}, double input = 0);
+    /// The variables that occur in it.
+    const std::vector<FormulaCode::Use> &uses() const { return m_code.uses; }
+
+    /// True when there may be no result, such as that of a division by 0.
+    bool canFail() const { return m_code.canFail; }
+
+    /// The result, computed with integers, with floating-point numbers when functions are called.
+    /// Only the variables that the result depends on are looked up. Throws `RuntimeException` for a
+    /// division by 0, `NotYetKnown`, and what `look` throws.
+    int64_t integer(const Look &look) const;
+
+    /// The result, computed with floating-point numbers; what works on bits does so on integers.
+    double real(const Look &look) const;
 
 private:
-    struct Term;
+    class Evaluation;
 
-    static std::unique_ptr<Term> newTerm(const DescriptionNode &node, const std::string &text,
-                                         int maximumDepth);
-    int64_t evaluateInteger(const Term &term);
-    double evaluateReal(const Term &term);
-    void setVariables();
-    void setInteger(const std::string &name, int64_t value);
-    void setReal(const std::string &name, double value);
-    void setVariable(const std::string &name, OrvGenApi::Node &node);
-
-    std::string m_owner;
-    bool m_usesFunctions = false; ///< such as ROUND, which exist for floating-point numbers only
-    bool m_divides;
-    std::unique_ptr<Term> m_term;
-    std::vector<std::pair<std::string, OrvGenApi::Node *>> m_variables;
+    std::string_view m_owner;
+    std::string m_error;
+    FormulaCode m_code;
 };
 
 } // namespace OrvDescription

@@ -196,7 +196,8 @@ void TestCameraWindows::damagedSettings()
 void TestCameraWindows::vanishedCamera()
 {
     QString error;
-    QVERIFY(!FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), &error));
+    QVERIFY(
+        !FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), false, &error));
     QCOMPARE(error,
              QString("The camera 'Simulated-SIM-0001' cannot be opened: it does not answer."));
 }

@@ -2,9 +2,8 @@
 #pragma once
 
 #include <OrvCam.h>
-#include <aravis/nodemap.h>
 #include <cameraapi/nodemaparray.h>
-#include <simulation/simulatedcamera.h>
+#include <simulatednodemap.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -243,7 +242,7 @@ public:
 /// A camera as its node map knows it.
 struct DescribedDevice
 {
-    explicit DescribedDevice(std::unique_ptr<OrvAravis::NodeMap> nodeMap)
+    explicit DescribedDevice(std::unique_ptr<OrvDescription::NodeMap> nodeMap)
         : map(std::move(nodeMap)), device(*map)
     {
     }
@@ -265,7 +264,7 @@ struct DescribedDevice
     /// Of anybody to the camera, since its beginning.
     quint64 writes() const { return map->transactions().writes; }
 
-    std::unique_ptr<OrvAravis::NodeMap> map;
+    std::unique_ptr<OrvDescription::NodeMap> map;
     PartialDevice device;
 };
 
@@ -277,5 +276,5 @@ struct SimulatedDeviceCamera
 /// The simulated camera as a device, with all that it takes.
 struct SimulatedDevice : SimulatedDeviceCamera, DescribedDevice
 {
-    SimulatedDevice() : DescribedDevice(OrvAravis::NodeMap::open(camera.device())) {}
+    SimulatedDevice() : DescribedDevice(openNodeMap(camera)) {}
 };

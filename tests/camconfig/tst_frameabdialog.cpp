@@ -942,7 +942,7 @@ void TestFrameABDialog::areaPresetsOfOtherSensors()
     QFETCH(Area, qfhd);
 
     const auto text = SimulatedCamera::description();
-    QByteArray xml(text.data, int(text.size));
+    QByteArray xml(text->data(), int(text->size()));
     for (const auto &number : {qMakePair(4096, width), qMakePair(3072, height)}) {
         for (const char *tag : {"Value", "Min", "Max"}) {
             const QByteArray format = QByteArray("<") + tag + ">%</" + tag + ">";
@@ -950,7 +950,8 @@ void TestFrameABDialog::areaPresetsOfOtherSensors()
                         QByteArray(format).replace("%", QByteArray::number(number.second)));
         }
     }
-    const auto map = OrvAravis::NodeMap::fromText(xml, std::size_t(xml.size()), "other sensor");
+    const auto map =
+        OrvDescription::NodeMap::fromText(xml, std::size_t(xml.size()), "other sensor");
     PartialDevice device(*map);
     const auto number = [&](const char *name) { return device.array->GetInt(name); };
     QCOMPARE(number("Frame_Width")->SetValue(64), 0);

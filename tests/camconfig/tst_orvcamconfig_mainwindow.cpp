@@ -4,7 +4,7 @@
 #include "modalvisitor.h"
 #include "pluggablecamera.h"
 
-#include <aravis/nodemap.h>
+#include <description/nodemap.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigdialog.h>
 #include <orvcameraguiapi.h>

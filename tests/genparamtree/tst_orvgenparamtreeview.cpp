@@ -7,8 +7,7 @@
 #include "treedriver.h"
 #include "treeviewresizer.h"
 
-#include <aravis/nodemap.h>
-#include <simulation/simulatedcamera.h>
+#include <simulatednodemap.h>
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -35,8 +34,8 @@ namespace {
 struct CameraTree
 {
     OrvSimulation::SimulatedCamera camera;
-    std::unique_ptr<OrvAravis::NodeMap> nodeMap = OrvAravis::NodeMap::open(camera.device());
-    std::unique_ptr<OrvAravis::NodeMap> other = OrvAravis::NodeMap::open(camera.device());
+    std::unique_ptr<OrvDescription::NodeMap> nodeMap = openNodeMap(camera);
+    std::unique_ptr<OrvDescription::NodeMap> other = openNodeMap(camera);
     OrvGenParamTreeView view{nodeMap.get(), nullptr};
     TreeDriver driver{view};
 
