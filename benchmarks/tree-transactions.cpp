@@ -18,9 +18,11 @@
 
 #include "gvcpcounter.h"
 
-#include <aravis/nodemap.h>
+#include <OrvCam.h>
+#include <OrvGenParam.h>
 #include <genparamtreemodel.h>
-#include <simulation/simulatedcamera.h>
+#include <orvcameraapi-aravis.h>
+#include <simulatednodemap.h>
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -66,27 +68,27 @@ public:
     virtual ~Meter() = default;
 
     /// Since the last call.
-    virtual OrvAravis::Transactions take() = 0;
+    virtual OrvCameraIo::Transactions take() = 0;
 };
 
 /// At the node map's port.
 class PortMeter : public Meter
 {
 public:
-    explicit PortMeter(const OrvAravis::NodeMap &map) : m_map(map) {}
+    explicit PortMeter(const OrvDescription::NodeMap &map) : m_map(map) {}
 
-    OrvAravis::Transactions take() override
+    OrvCameraIo::Transactions take() override
     {
-        const OrvAravis::Transactions now = m_map.transactions();
-        const OrvAravis::Transactions difference = {now.reads - m_last.reads,
-                                                    now.writes - m_last.writes};
+        const OrvCameraIo::Transactions now = m_map.transactions();
+        const OrvCameraIo::Transactions difference = {now.reads - m_last.reads,
+                                                      now.writes - m_last.writes};
         m_last = now;
         return difference;
     }
 
 private:
-    const OrvAravis::NodeMap &m_map;
-    OrvAravis::Transactions m_last;
+    const OrvDescription::NodeMap &m_map;
+    OrvCameraIo::Transactions m_last;
 };
 
 /// On the loopback device.
@@ -95,7 +97,7 @@ class WireMeter : public Meter
 public:
     bool isListening() const { return m_counter.isListening(); }
 
-    OrvAravis::Transactions take() override
+    OrvCameraIo::Transactions take() override
     {
         const QList<GvcpCommand> commands = m_counter.take();
         return {quint64(readsIn(commands)), quint64(writesIn(commands))};
@@ -107,7 +109,7 @@ private:
 
 struct Cost
 {
-    OrvAravis::Transactions transactions;
+    OrvCameraIo::Transactions transactions;
     double milliseconds;
 };
 
@@ -122,7 +124,7 @@ Cost costOf(Meter &meter, Work work)
     return {meter.take(), milliseconds};
 }
 
-void measure(const QString &name, OrvAravis::NodeMap &map, Meter &meter, double loading)
+void measure(const QString &name, GenApi::INodeMap &map, Meter &meter, double loading)
 {
     QTextStream out(stdout);
     GenParamTreeModel model(&map, nullptr);
@@ -163,7 +165,7 @@ void measureSimulation(QElapsedTimer &timer)
 {
     timer.start();
     OrvSimulation::SimulatedCamera camera;
-    const auto map = OrvAravis::NodeMap::open(camera.device());
+    const auto map = openNodeMap(camera);
     PortMeter meter(*map);
     measure("simulated camera", *map, meter, millisecondsOf(timer));
 }
@@ -171,7 +173,7 @@ void measureSimulation(QElapsedTimer &timer)
 void measureDescription(const char *fileName, QElapsedTimer &timer)
 {
     timer.start();
-    const auto map = OrvAravis::NodeMap::fromFile(fileName);
+    const auto map = OrvDescription::NodeMap::fromFile(fileName);
     PortMeter meter(*map);
     measure(fileName, *map, meter, millisecondsOf(timer));
 }
@@ -198,14 +200,19 @@ bool measureCamera(const char *address, QElapsedTimer &timer)
         g_error_free(error);
         return false;
     }
-    const OrvAravis::Transactions opening = meter.take();
-    const auto map = OrvAravis::NodeMap::open(device);
+    const OrvCameraIo::Transactions opening = meter.take();
+    OrvCam::Device *camera = OrvCam_AdoptArvDevice(device, nullptr);
+    if (!camera) {
+        err << "the camera's description cannot be used\n";
+        return false;
+    }
     const double loading = millisecondsOf(timer);
-    const OrvAravis::Transactions building = meter.take();
+    const OrvCameraIo::Transactions building = meter.take();
     QTextStream(stdout) << "opening the device: " << opening.reads << " reads, " << opening.writes
                         << " writes; making its node map: " << building.reads << " reads, "
                         << building.writes << " writes\n";
-    measure(address, *map, meter, loading);
+    measure(address, *camera->GetParamArray()->GetNodeMap(), meter, loading);
+    camera->Release();
     g_object_unref(device);
     return true;
 }

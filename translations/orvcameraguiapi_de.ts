@@ -68,6 +68,14 @@
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
         <translation>Die Kamera „%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
+    <message>
+        <source>%1 (read only)</source>
+        <translation>%1 (schreibgeschützt)</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is read only: another program controls it.</source>
+        <translation>Die Kamera „%1“ kann nur gelesen werden: Ein anderes Programm steuert sie.</translation>
+    </message>
 </context>
 <context>
     <name>GenParamDelegate</name>
@@ -1007,6 +1015,25 @@ Trigger</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::FeatureToolTip</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation>Bereich: %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Increment: %1</source>
+        <translation>Schrittweite: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Einheit: %1</translation>
+    </message>
+    <message>
+        <source>Feature: %1</source>
+        <translation>Parameter: %1</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>%1s</source>
@@ -1031,6 +1058,26 @@ Trigger</translation>
     <message>
         <source>Unknown</source>
         <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Image size</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Frames per second, computed from the frame time</source>
+        <translation>Bilder pro Sekunde, aus der Bildzeit berechnet</translation>
+    </message>
+    <message>
+        <source>Frame time</source>
+        <translation>Bildzeit</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Belichtungszeit</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +1316,13 @@ Fehlercode: %2</translation>
 Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <translation>Die angegebene IP-Konfiguration ist nicht richtig, die Kamera ist danach vielleicht nicht mehr auffindbar
 OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SafeDelegate</name>
+    <message>
+        <source>%1 (no entry is available)</source>
+        <translation>%1 (kein Eintrag ist verfügbar)</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,14 @@
         <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
         <translation>カメラ「%1」を開けません: %2。</translation>
     </message>
+    <message>
+        <source>%1 (read only)</source>
+        <translation>%1（読み取り専用）</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is read only: another program controls it.</source>
+        <translation>カメラ「%1」は読み取り専用です: ほかのプログラムが制御しています。</translation>
+    </message>
 </context>
 <context>
     <name>GenParamDelegate</name>
@@ -1007,6 +1015,25 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvGui::FeatureToolTip</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation>範囲: %1 ～ %2</translation>
+    </message>
+    <message>
+        <source>Increment: %1</source>
+        <translation>増分: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>単位: %1</translation>
+    </message>
+    <message>
+        <source>Feature: %1</source>
+        <translation>パラメーター: %1</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::OrvCamConfig</name>
     <message>
         <source>%1s</source>
@@ -1031,6 +1058,26 @@ Trigger</source>
     <message>
         <source>Unknown</source>
         <translation>不明</translation>
+    </message>
+    <message>
+        <source>Image size</source>
+        <translation>画像サイズ</translation>
+    </message>
+    <message>
+        <source>Frames per second, computed from the frame time</source>
+        <translation>フレームレート (フレーム時間から計算)</translation>
+    </message>
+    <message>
+        <source>Frame time</source>
+        <translation>フレーム時間</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>露光時間</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +1316,13 @@ Error Code: %2</source>
 Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <translation>指定された IP 設定は正しくありません。カメラを検出できなくなるおそれがあります
 IP 設定を中止するには [OK]、そのまま設定するには [無視] を押してください</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SafeDelegate</name>
+    <message>
+        <source>%1 (no entry is available)</source>
+        <translation>%1 (選択できる項目がありません)</translation>
     </message>
 </context>
 <context>

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "camerawindows.h"
 
+#include <Base/GCException.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QMenu>
 #include <QSettings>
 #include <QTreeView>
@@ -20,6 +22,8 @@ const char treePlace[] = "tree/geometry";
 const char treeIsOpen[] = "tree/open";
 const char treeState[] = "tree/state";
 
+const char levelMark[] = "&amp;V"; ///< before the level, at the end of a tree's state
+
 QString key(const char *name)
 {
     return QString::fromLatin1(name);
@@ -27,13 +31,17 @@ QString key(const char *name)
 
 } // namespace
 
-CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings)
+CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
+                             std::optional<OrvGui::Visibility> level)
     : m_device(std::move(device)), m_settings(settings), m_configuration(m_device.get())
 {
     m_tree.setWindowIcon(m_configuration.windowIcon());
     m_tree.resize(640, 800);
     m_tree.installEventFilter(this);
     m_configuration.installEventFilter(this);
+    m_titles.insert(&m_configuration, m_configuration.windowTitle());
+    for (QDialog *dialog : m_configuration.findChildren<QDialog *>())
+        m_titles.insert(dialog, dialog->windowTitle());
 
     auto *view = m_configuration.findChild<QMenu *>(QStringLiteral("menuView"));
     view->addSeparator();
@@ -46,6 +54,7 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceGivenUp, this,
             [this] { m_device.reset(); });
     restore();
+    setLevel(level);
     follow(m_configuration.device());
 }
 
@@ -64,24 +73,44 @@ void CameraWindows::show()
 
 void CameraWindows::follow(OrvCam::Device *device)
 {
-    if (m_tree.treeView()->model())
-        m_treeState = m_tree.saveState();
+    rememberTree();
     if (!device) {
         m_tree.clearParams();
         m_tree.setWindowTitle(tr("Features"));
+        nameWindows(QString());
         return;
     }
     m_tree.setParams(device->GetParamArray());
     unfoldTree();
-    m_tree.setWindowTitle(QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName()));
+    const QString camera = QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName());
+    m_tree.setWindowTitle(camera);
+    nameWindows(camera);
+}
+
+void CameraWindows::nameWindows(const QString &camera)
+{
+    for (auto it = m_titles.begin(); it != m_titles.end(); ++it)
+        it.key()->setWindowTitle(camera.isEmpty() ? it.value()
+                                                  : camera + QStringLiteral(" - ") + it.value());
+}
+
+void CameraWindows::rememberTree()
+{
+    if (!m_tree.treeView()->model())
+        return;
+    try {
+        m_treeState = m_tree.saveState();
+    } catch (const GenICam::GenericException &) {
+        m_treeState.clear(); // a category has fewer features now
+    }
 }
 
 void CameraWindows::unfoldTree()
 {
     try {
-        // Only the level that the first time brings has all the categories that were unfolded.
-        for (int time = 0; time < 2; ++time)
-            m_tree.loadState(m_treeState.constData());
+        m_tree.loadState(m_treeState.constData());
+    } catch (const GenICam::GenericException &) {
+        m_treeState.clear();
     } catch (const std::logic_error &) {
         m_treeState.clear(); // the settings are damaged
     }
@@ -113,6 +142,22 @@ void CameraWindows::restore()
     }
 }
 
+/// To be called before the tree has features: then it is made at that level once.
+void CameraWindows::setLevel(std::optional<OrvGui::Visibility> level)
+{
+    const int mark = m_treeState.lastIndexOf(levelMark);
+    if (level) {
+        m_tree.setVisibility(*level);
+        if (mark >= 0)
+            m_treeState.truncate(mark);
+        return;
+    }
+    bool isNumber = false;
+    const int saved = m_treeState.mid(mark + int(sizeof levelMark) - 1).toInt(&isNumber);
+    if (mark >= 0 && isNumber && saved >= OrvGui::Basic && saved <= OrvGui::Guru)
+        m_tree.setVisibility(static_cast<OrvGui::Visibility>(saved));
+}
+
 void CameraWindows::save()
 {
     if (!m_settings)
@@ -123,8 +168,7 @@ void CameraWindows::save()
         if (action->isCheckable() && action != m_treeAction && !action->isChecked())
             hidden << action->objectName();
     }
-    if (m_tree.treeView()->model())
-        m_treeState = m_tree.saveState();
+    rememberTree();
     m_settings->setValue(key(configurationPlace), m_configuration.saveGeometry());
     m_settings->setValue(key(hiddenButtons), hidden);
     m_settings->setValue(key(treePlace), m_tree.saveGeometry());

@@ -7,13 +7,19 @@
 #include <orvgenparamtreeview.h>
 
 #include <QByteArray>
+#include <QHash>
 #include <QObject>
+
+#include <optional>
 
 class QAction;
 class QSettings;
 
 /// The windows of one camera: the configuration window and the tree of all its features, which
 /// always shows the camera that the other has, and is opened from its "View" menu.
+///
+/// Every window has the camera's name in its title, so that those of several cameras, each in a
+/// program of its own, can be told apart.
 ///
 /// The places of the windows, which of them are open and what is unfolded in the tree are kept in
 /// the settings from one run to the next.
@@ -22,8 +28,10 @@ class CameraWindows : public QObject
     Q_OBJECT
 
 public:
-    /// Takes the device over. The settings must outlive the windows; null for none.
-    CameraWindows(Released<OrvCam::Device> device, QSettings *settings);
+    /// Takes the device over. The settings must outlive the windows; null for none. Without a level
+    /// for the tree, it is that of the last run.
+    CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
+                  std::optional<OrvGui::Visibility> level = {});
     ~CameraWindows() override;
 
     /// Shows what was open at the end of the last run, the configuration window in any case.
@@ -37,14 +45,18 @@ protected:
 
 private:
     void follow(OrvCam::Device *device);
+    void nameWindows(const QString &camera);
+    void rememberTree();
     void unfoldTree();
     void restore();
+    void setLevel(std::optional<OrvGui::Visibility> level);
     void save();
 
     Released<OrvCam::Device> m_device; ///< outlives the windows; null when they no longer use it
     QSettings *const m_settings;
     OrvGui::OrvGenParamTreeView m_tree;
     OrvGui::OrvCamConfig m_configuration;
+    QHash<QWidget *, QString> m_titles; ///< of the configuration's windows, without a camera
     QAction *m_treeAction;
     QByteArray m_treeState; ///< of the tree while it shows nothing
 };

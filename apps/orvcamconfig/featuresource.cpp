@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "featuresource.h"
 
-#include <aravis/nodemap.h>
+#include <description/nodemap.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -15,7 +15,7 @@ class DescriptionSource : public FeatureSource
 {
 public:
     explicit DescriptionSource(const QString &fileName)
-        : m_map(OrvAravis::NodeMap::fromFile(fileName.toLocal8Bit().toStdString()))
+        : m_map(OrvDescription::NodeMap::fromFile(fileName.toLocal8Bit().toStdString()))
         , m_title(QFileInfo(fileName).fileName())
     {
     }
@@ -24,7 +24,7 @@ public:
     QString title() const override { return m_title; }
 
 private:
-    std::unique_ptr<OrvAravis::NodeMap> m_map;
+    std::unique_ptr<OrvDescription::NodeMap> m_map;
     QString m_title;
 };
 
@@ -32,20 +32,29 @@ private:
 class CameraSource : public FeatureSource
 {
 public:
-    CameraSource(Released<OrvCam::Device> device, GenApi::INodeMap *map)
-        : m_device(std::move(device)), m_map(map)
+    CameraSource(Released<OrvCam::Device> device, GenApi::INodeMap *map, bool isReadOnly)
+        : m_device(std::move(device)), m_map(map), m_isReadOnly(isReadOnly)
     {
     }
 
     GenApi::INodeMap *nodeMap() const override { return m_map; }
     QString title() const override
     {
-        return QString::fromUtf8(m_device->GetDeviceInfo()->GetDisplayName());
+        const auto name = QString::fromUtf8(m_device->GetDeviceInfo()->GetDisplayName());
+        return m_isReadOnly ? FeatureSource::tr("%1 (read only)").arg(name) : name;
+    }
+    QString warning() const override
+    {
+        if (!m_isReadOnly)
+            return QString();
+        return FeatureSource::tr("The camera '%1' is read only: another program controls it.")
+            .arg(QString::fromUtf8(m_device->GetDeviceInfo()->GetId()));
     }
 
 private:
     Released<OrvCam::Device> m_device;
     GenApi::INodeMap *const m_map; ///< the device's, also after the camera has vanished
+    const bool m_isReadOnly;
 };
 
 QString reason(int32_t code)
@@ -87,17 +96,24 @@ Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 
 std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
 {
-    Released<OrvCam::Device> device = openDevice(camera, error);
-    return device ? ofDevice(std::move(device), error) : nullptr;
+    int32_t code = OrvCam::Success;
+    Released<OrvCam::Device> device(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessControl));
+    const bool isReadOnly = code == OrvCam::ErrorBusy;
+    if (isReadOnly)
+        device.reset(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessMonitor));
+    if (device)
+        return ofDevice(std::move(device), isReadOnly, error);
+    *error = failure(camera, code);
+    return nullptr;
 }
 
 std::unique_ptr<FeatureSource> FeatureSource::ofDevice(Released<OrvCam::Device> device,
-                                                       QString *error)
+                                                       bool isReadOnly, QString *error)
 {
     OrvGenParam::Array *array = device->GetParamArray();
     GenApi::INodeMap *map = array ? array->GetNodeMap() : nullptr;
     if (map)
-        return std::make_unique<CameraSource>(std::move(device), map);
+        return std::make_unique<CameraSource>(std::move(device), map, isReadOnly);
     *error = failure(*device->GetDeviceInfo(), OrvCam::ErrorGone);
     return nullptr;
 }

@@ -28,12 +28,17 @@ public:
     /// Where the features come from, for a window's title.
     virtual QString title() const = 0;
 
-    /// Opens a camera, whose system must outlive it. Null on failure, with `error` one line.
+    /// One line about what a user may not expect; usually empty.
+    virtual QString warning() const { return QString(); }
+
+    /// Opens a camera, whose system must outlive it; one that another program controls for reading.
+    /// Null on failure, with `error` one line.
     static std::unique_ptr<FeatureSource> openCamera(OrvCam::DeviceInfo &camera, QString *error);
 
     /// Takes over an opened camera, whose system must outlive it. Null when it has vanished
     /// meanwhile, with `error` one line.
-    static std::unique_ptr<FeatureSource> ofDevice(Released<OrvCam::Device> device, QString *error);
+    static std::unique_ptr<FeatureSource> ofDevice(Released<OrvCam::Device> device, bool isReadOnly,
+                                                   QString *error);
 
     /// Reads a description. Null on failure, with `error` one line.
     static std::unique_ptr<FeatureSource> openDescription(const QString &fileName, QString *error);

@@ -19,6 +19,7 @@
 #include <QTreeView>
 
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -79,8 +80,11 @@ int takePicture(QWidget &window, const QString &fileName)
 
 int showFeatures(const FeatureSource &source, const Options &options)
 {
-    OrvGui::OrvGenParamTreeView view(source.nodeMap(), nullptr);
+    OrvGui::OrvGenParamTreeView view;
     view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
+    view.setParams(source.nodeMap());
+    if (options.listFeatures && !source.warning().isEmpty())
+        QTextStream(stderr) << "orvcamconfig: " << source.warning() << '\n';
     if (options.listFeatures)
         return printText([&](QTextStream &out) { printFeatures(*view.treeView()->model(), out); });
 
@@ -105,9 +109,10 @@ int configure(Released<OrvCam::Device> device, const Options &options)
 {
     const bool isPicture = !options.screenshot.isEmpty();
     QSettings settings;
-    CameraWindows windows(std::move(device), isPicture ? nullptr : &settings);
+    std::optional<OrvGui::Visibility> level;
     if (options.isVisibilityGiven)
-        windows.tree().setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
+        level = static_cast<OrvGui::Visibility>(options.visibility);
+    CameraWindows windows(std::move(device), isPicture ? nullptr : &settings, level);
     if (isPicture)
         return takePicture(windows.configuration(), options.screenshot);
     windows.show();

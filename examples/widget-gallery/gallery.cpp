@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 #include <QToolButton>
@@ -34,14 +35,21 @@ QPalette darkPalette()
     return palette;
 }
 
+QLocale withoutGroups()
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
+}
+
 QString written(int value)
 {
-    return QString::number(value);
+    return withoutGroups().toString(value);
 }
 
 QString written(double value)
 {
-    return QString::number(value, 'f', 3);
+    return withoutGroups().toString(value, 'f', 3);
 }
 
 // A label that always shows the widget's value, as wide as the widest one.
@@ -203,7 +211,7 @@ QWidget *Gallery::createPopUps()
     int captionWidth = 0;
     for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
         auto *widget = new QtOrvSpinBox(orientation);
-        widget->slider()->setScaleType(QtOrvSlider::ScaleLog10);
+        widget->setScaleType(QtOrvSlider::ScaleLog10);
         widget->setRange(1, 100000);
         widget->setValue(1234);
         const bool vertical = orientation == Qt::Vertical;
@@ -233,7 +241,7 @@ QWidget *Gallery::createCompounds()
     const int spinBoxWidth = 6 * fontMetrics().height();
     for (const Scale &scale : scales()) {
         auto *widget = new QtOrvSliderSpinBox;
-        widget->slider()->setScaleType(scale.type);
+        widget->setScaleType(scale.type);
         widget->setRange(scale.minimum, scale.maximum);
         widget->setValue(scale.value);
         widget->setLeftLabelText(tr("Left label:"));

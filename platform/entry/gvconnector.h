@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cameraapi/cameraconnection.h>
+#include <cameraapi/portconnection.h>
 
 #include <string>
 
-namespace OrvAravis {
+namespace OrvCam {
 
 /// Opens one GigE Vision camera, wherever it is on its adapter's network by then.
-class GvConnector final : public OrvCam::CameraConnector
+class GvConnector final : public PortConnector
 {
 public:
-    /// `cameraId` is a `GvCamera::id`.
+    /// `adapterName` is a `NetworkAdapter::name`, `cameraId` a `GvCamera::id`.
     GvConnector(std::string adapterName, std::string cameraId);
 
-    std::unique_ptr<OrvCam::CameraConnection> open(int32_t accessMode, int32_t &error) override;
-
 private:
+    OpenedCamera openPort(int32_t accessMode, const OpenProgress &progress,
+                          int32_t &error) override;
+
     const std::string m_adapterName;
     const std::string m_cameraId;
 };
 
-} // namespace OrvAravis
+} // namespace OrvCam

@@ -2,12 +2,16 @@
 #include "gvinterface.h"
 
 #include "gvconnector.h"
+#include "utf8.h"
 
-#include <glib.h>
+#include <gigevision/gvcontrol.h>
 
-using namespace OrvCam;
+using OrvGigEVision::Control;
+using OrvGigEVision::ForceResult;
+using OrvGigEVision::GvCamera;
+using OrvGigEVision::NetworkAdapter;
 
-namespace OrvAravis {
+namespace OrvCam {
 
 namespace {
 
@@ -16,29 +20,50 @@ constexpr std::chrono::seconds forceTime{5};
 
 std::string describe(const NetworkAdapter &adapter)
 {
-    return adapter.name + " (" + ipText(adapter.addresses.front().ip) + ")";
+    return adapter.name + " (" + OrvGigEVision::ipText(adapter.addresses.front().ip) + ")";
 }
 
-/// UTF-8 whatever the camera sent; nothing for an empty text.
 std::optional<std::string> textOrNothing(const std::string &bytes)
 {
-    if (bytes.empty())
-        return std::nullopt;
-    const std::unique_ptr<char, void (*)(void *)> valid(
-        g_utf8_make_valid(bytes.data(), static_cast<gssize>(bytes.size())), g_free);
-    return valid.get();
+    return bytes.empty() ? std::nullopt : std::make_optional(validUtf8(bytes));
+}
+
+int32_t accessStateOf(const GvCamera &camera)
+{
+    if (!camera.isReachable)
+        return AccessSubnetMismatch;
+    switch (camera.control) {
+    case Control::Free:
+        return AccessReadWrite;
+    case Control::Taken:
+        return AccessNone;
+    default:
+        return AccessUnknown;
+    }
+}
+
+int32_t codeOf(ForceResult result)
+{
+    switch (result) {
+    case ForceResult::Done:
+        return Success;
+    case ForceResult::Refused:
+        return ErrorAccessDenied;
+    default:
+        return ErrorTimeout;
+    }
 }
 
 DeviceFacts factsOf(const GvCamera &camera)
 {
     DeviceFacts facts;
-    facts.id = textOrNothing(camera.id()).value_or("");
+    facts.id = validUtf8(camera.id());
     facts.vendor = textOrNothing(camera.identity.manufacturer);
     facts.model = textOrNothing(camera.identity.model);
     facts.serial = textOrNothing(camera.identity.serial);
     facts.version = textOrNothing(camera.identity.version);
     facts.userName = textOrNothing(camera.identity.userName);
-    facts.accessState = camera.accessState;
+    facts.accessState = accessStateOf(camera);
     return facts;
 }
 
@@ -68,9 +93,9 @@ OrvGenParam::Array *GvInterface::GetParamArray(int32_t *error)
 int32_t GvInterface::discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found)
 {
     for (const GvCamera &camera :
-         discoverCameras(m_adapter, std::chrono::milliseconds(timeoutMs))) {
+         OrvGigEVision::discoverCameras(m_adapter, std::chrono::milliseconds(timeoutMs))) {
         found.push_back(factsOf(camera));
-        const Gvcp::Identity &identity = camera.identity;
+        const auto &identity = camera.identity;
         m_addresses[found.back().id] = {identity.mac, identity.ip, identity.mask, identity.gateway};
     }
     return Success;
@@ -102,8 +127,8 @@ std::vector<GevAddresses> GvInterface::cameras() const
 
 int32_t GvInterface::forceIp(const GevAddresses &wanted)
 {
-    const int32_t error = OrvAravis::forceIp(m_adapter, wanted.mac, wanted.ip, wanted.mask,
-                                             wanted.gateway, forceTime);
+    const int32_t error = codeOf(OrvGigEVision::forceIp(m_adapter, wanted.mac, wanted.ip,
+                                                        wanted.mask, wanted.gateway, forceTime));
     if (error != Success)
         return error;
     for (DeviceRecord *record : present()) {
@@ -117,4 +142,4 @@ int32_t GvInterface::forceIp(const GevAddresses &wanted)
     return Success;
 }
 
-} // namespace OrvAravis
+} // namespace OrvCam

@@ -1,41 +1,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "gvcontrol.h"
-#include "networkadapter.h"
-
 #include <cameraapi/camerainterface.h>
 #include <cameraapi/gevparameters.h>
+#include <gigevision/networkadapter.h>
 
 #include <map>
 #include <string>
 
-namespace OrvAravis {
+namespace OrvCam {
 
 /// A network adapter as an interface of the camera system.
-class GvInterface final : public OrvCam::CameraInterface, private OrvCam::GevNetwork
+class GvInterface final : public CameraInterface, private GevNetwork
 {
 public:
-    GvInterface(OrvCam::CameraSystem &system, NetworkAdapter adapter);
+    GvInterface(CameraSystem &system, OrvGigEVision::NetworkAdapter adapter);
 
     /// Takes over what may have changed: addresses come and go.
-    void setAdapter(NetworkAdapter adapter);
+    void setAdapter(OrvGigEVision::NetworkAdapter adapter);
 
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
 
 private:
-    int32_t discover(uint32_t timeoutMs, std::vector<OrvCam::DeviceFacts> &found) override;
-    std::shared_ptr<OrvCam::CameraConnector>
-    makeConnector(const OrvCam::DeviceFacts &facts) override;
+    int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) override;
+    std::shared_ptr<CameraConnector> makeConnector(const DeviceFacts &facts) override;
     void refreshed() override;
 
-    OrvCam::GevAddresses adapter() const override;
-    std::vector<OrvCam::GevAddresses> cameras() const override;
-    int32_t forceIp(const OrvCam::GevAddresses &wanted) override;
+    GevAddresses adapter() const override;
+    std::vector<GevAddresses> cameras() const override;
+    int32_t forceIp(const GevAddresses &wanted) override;
 
-    NetworkAdapter m_adapter;
-    std::map<std::string, OrvCam::GevAddresses> m_addresses; ///< by camera id
-    OrvCam::GevParameters m_parameters;
+    OrvGigEVision::NetworkAdapter m_adapter;
+    std::map<std::string, GevAddresses> m_addresses; ///< by camera id
+    GevParameters m_parameters;
 };
 
-} // namespace OrvAravis
+} // namespace OrvCam

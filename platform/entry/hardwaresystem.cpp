@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "aravissystem.h"
+#include "hardwaresystem.h"
 
-namespace OrvAravis {
+namespace OrvCam {
 
-AravisSystem::AravisSystem() : m_usb(*this) {}
-
-GvInterface &AravisSystem::interfaceFor(const NetworkAdapter &adapter)
+GvInterface &HardwareSystem::interfaceFor(const OrvGigEVision::NetworkAdapter &adapter)
 {
     auto &interface = m_networks[adapter.name];
     if (interface)
@@ -15,13 +13,15 @@ GvInterface &AravisSystem::interfaceFor(const NetworkAdapter &adapter)
     return *interface;
 }
 
-std::vector<OrvCam::CameraInterface *> AravisSystem::interfaces()
+std::vector<CameraInterface *> HardwareSystem::interfaces()
 {
-    std::vector<OrvCam::CameraInterface *> all;
-    for (const NetworkAdapter &adapter : networkAdapters())
+    std::vector<CameraInterface *> all;
+    for (const auto &adapter : OrvGigEVision::networkAdapters())
         all.push_back(&interfaceFor(adapter));
+#ifdef ORV_WITH_ARAVIS
     all.push_back(&m_usb);
+#endif
     return all;
 }
 
-} // namespace OrvAravis
+} // namespace OrvCam

@@ -2,26 +2,28 @@
 #pragma once
 
 #include "gvinterface.h"
+#ifdef ORV_WITH_ARAVIS
 #include "uvinterface.h"
+#endif
 
 #include <cameraapi/camerasystem.h>
 
-namespace OrvAravis {
+namespace OrvCam {
 
-/// The cameras of this machine: one interface for each network adapter, one for USB.
-class AravisSystem final : public OrvCam::CameraSystem
+/// The cameras of this machine: one interface for each network adapter and, where
+/// Aravis is used, one for USB.
+class HardwareSystem final : public CameraSystem
 {
-public:
-    AravisSystem();
-
 protected:
-    std::vector<OrvCam::CameraInterface *> interfaces() override;
+    std::vector<CameraInterface *> interfaces() override;
 
 private:
-    GvInterface &interfaceFor(const NetworkAdapter &adapter);
+    GvInterface &interfaceFor(const OrvGigEVision::NetworkAdapter &adapter);
 
     std::map<std::string, std::unique_ptr<GvInterface>> m_networks; ///< by the adapter's name
-    UvInterface m_usb;
+#ifdef ORV_WITH_ARAVIS
+    UvInterface m_usb{*this};
+#endif
 };
 
-} // namespace OrvAravis
+} // namespace OrvCam

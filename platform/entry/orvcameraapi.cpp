@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <orvcameraapi.h>
 
-#include "camerasystem.h"
-#include "devicerecord.h"
+#include "hardwaresystem.h"
+#include "simulatedsystem.h"
 
 #include <OrvGenParam.h>
-#include <aravis/aravissystem.h>
-#include <simulation/simulatedsystem.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -49,8 +47,8 @@ bool isSimulationWanted()
 std::shared_ptr<OrvCam::CameraSystem> makeSystem()
 {
     if (isSimulationWanted())
-        return std::make_shared<OrvSimulation::SimulatedSystem>();
-    return std::make_shared<OrvAravis::AravisSystem>();
+        return std::make_shared<OrvCam::SimulatedSystem>();
+    return std::make_shared<OrvCam::HardwareSystem>();
 }
 
 void store(int32_t *error, int32_t code)

@@ -1,47 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "simulatedconnector.h"
 
-#include "simulatedcamera.h"
 #include "simulatedinterface.h"
 
-#include <aravis/nodemap.h>
+#include <simulation/simulatedcamera.h>
 
-#include <GenApi/GenApi.h>
+#include <Base/GCException.h>
 
-using namespace OrvCam;
+using OrvSimulation::SimulatedCamera;
 
-namespace OrvSimulation {
+namespace OrvCam {
 
 namespace {
-
-class SimulatedConnection final : public CameraConnection
-{
-public:
-    explicit SimulatedConnection(const CameraIdentity &identity)
-        : m_camera(identity), m_nodeMap(OrvAravis::NodeMap::open(m_camera.device()))
-    {
-        carryOutCommandsAtOnce();
-    }
-
-    GenApi::INodeMap &nodeMap() override { return *m_nodeMap; }
-    bool isAlive() override { return true; }
-
-private:
-    /// A camera has carried out most commands before it acknowledges them; whoever reads after
-    /// executing one sees the result.
-    void carryOutCommandsAtOnce()
-    {
-        GenApi::NodeList_t nodes;
-        m_nodeMap->GetNodes(nodes);
-        for (std::size_t i = 0; i < nodes.size(); ++i) {
-            if (nodes[i]->GetPrincipalInterfaceType() == GenApi::intfICommand)
-                GenApi::Register(nodes[i], [this](GenApi::INode *) { m_camera.advance(0); });
-        }
-    }
-
-    SimulatedCamera m_camera;
-    const std::unique_ptr<OrvAravis::NodeMap> m_nodeMap;
-};
 
 int32_t refusal(int32_t accessState, int32_t accessMode)
 {
@@ -64,19 +34,20 @@ SimulatedConnector::SimulatedConnector(std::shared_ptr<const SimulatedEntry> cam
 {
 }
 
-std::unique_ptr<CameraConnection> SimulatedConnector::open(int32_t accessMode, int32_t &error)
+OpenedCamera SimulatedConnector::openPort(int32_t accessMode, const OpenProgress &, int32_t &error)
 {
     error = refusal(m_camera->accessState, accessMode);
     if (error != Success)
-        return nullptr;
+        return {};
     try {
-        return std::make_unique<SimulatedConnection>(m_camera->identity);
+        // The port keeps the camera open.
+        return {SimulatedCamera(m_camera->identity).port(), SimulatedCamera::description()};
     } catch (const GenICam::AccessException &) {
         error = ErrorBusy;
     } catch (const GenICam::GenericException &) {
         error = ErrorFailed;
     }
-    return nullptr;
+    return {};
 }
 
-} // namespace OrvSimulation
+} // namespace OrvCam

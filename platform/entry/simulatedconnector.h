@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cameraapi/cameraconnection.h>
+#include <cameraapi/portconnection.h>
 
 #include <memory>
 
-namespace OrvSimulation {
+namespace OrvCam {
 
 struct SimulatedEntry;
 
 /// Opens a simulated camera, or refuses to as its access state says.
-class SimulatedConnector final : public OrvCam::CameraConnector
+class SimulatedConnector final : public PortConnector
 {
 public:
     explicit SimulatedConnector(std::shared_ptr<const SimulatedEntry> camera);
 
-    std::unique_ptr<OrvCam::CameraConnection> open(int32_t accessMode, int32_t &error) override;
-
 private:
+    OpenedCamera openPort(int32_t accessMode, const OpenProgress &progress,
+                          int32_t &error) override;
+
     const std::shared_ptr<const SimulatedEntry> m_camera;
 };
 
-} // namespace OrvSimulation
+} // namespace OrvCam

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "simulatedinterface.h"
 
-#include "simulatedcamera.h"
 #include "simulatedconnector.h"
+
+#include <simulation/simulatedcamera.h>
 
 #include <algorithm>
 
-using namespace OrvCam;
-
-namespace OrvSimulation {
+namespace OrvCam {
 
 namespace {
 
@@ -21,8 +20,9 @@ DeviceFacts factsOf(const SimulatedEntry &entry)
 {
     DeviceFacts facts;
     facts.id = entry.id();
-    facts.accessState =
-        SimulatedCamera::isOpen(entry.identity.serial) ? AccessNone : entry.accessState;
+    facts.accessState = OrvSimulation::SimulatedCamera::isOpen(entry.identity.serial)
+                            ? AccessNone
+                            : entry.accessState;
     if (entry.isNameless)
         return facts;
     facts.vendor = textOrNothing(entry.identity.vendor);
@@ -125,4 +125,4 @@ int32_t SimulatedInterface::forceIp(const GevAddresses &wanted)
     return ErrorGone;
 }
 
-} // namespace OrvSimulation
+} // namespace OrvCam

@@ -1,62 +1,60 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cameraidentity.h"
-
 #include <cameraapi/camerainterface.h>
 #include <cameraapi/gevparameters.h>
+#include <simulation/cameraidentity.h>
 
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace OrvSimulation {
+namespace OrvCam {
 
 /// A simulated camera as it looks from outside, whether it is open or not.
 struct SimulatedEntry
 {
-    CameraIdentity identity;
-    int32_t accessState = OrvCam::AccessReadWrite; ///< while this program has not opened it
-    bool isNameless = false;                       ///< says nothing about itself
+    OrvSimulation::CameraIdentity identity;
+    int32_t accessState = AccessReadWrite; ///< while this program has not opened it
+    bool isNameless = false;               ///< says nothing about itself
 
     std::string id() const;
 };
 
 /// An interface of the simulated system. With an adapter's addresses it is a GigE Vision interface
 /// with its parameters.
-class SimulatedInterface final : public OrvCam::CameraInterface, private OrvCam::GevNetwork
+class SimulatedInterface final : public CameraInterface, private GevNetwork
 {
 public:
-    SimulatedInterface(OrvCam::CameraSystem &system, std::string description, int32_t transportKind,
+    SimulatedInterface(CameraSystem &system, std::string description, int32_t transportKind,
                        std::vector<SimulatedEntry> cameras);
 
-    void setAdapter(const OrvCam::GevAddresses &adapter);
+    void setAdapter(const GevAddresses &adapter);
 
     /// Has the interface answer null when it is asked for its cameras.
     void refuseToList() { m_refusesToList = true; }
 
-    OrvCam::DeviceInfoList *GetDeviceInfoSet() override;
+    DeviceInfoList *GetDeviceInfoSet() override;
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
 
 private:
     using EntryPointer = std::shared_ptr<SimulatedEntry>;
 
-    int32_t discover(uint32_t timeoutMs, std::vector<OrvCam::DeviceFacts> &found) override;
-    std::shared_ptr<OrvCam::CameraConnector>
-    makeConnector(const OrvCam::DeviceFacts &facts) override;
+    int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) override;
+    std::shared_ptr<CameraConnector> makeConnector(const DeviceFacts &facts) override;
     void refreshed() override;
 
-    OrvCam::GevAddresses adapter() const override { return *m_adapter; }
-    std::vector<OrvCam::GevAddresses> cameras() const override;
-    int32_t forceIp(const OrvCam::GevAddresses &wanted) override;
+    GevAddresses adapter() const override { return *m_adapter; }
+    std::vector<GevAddresses> cameras() const override;
+    int32_t forceIp(const GevAddresses &wanted) override;
 
     EntryPointer entry(const std::string &id) const;
 
     std::vector<EntryPointer> m_cameras;
     bool m_refusesToList = false;
-    std::optional<OrvCam::GevAddresses> m_adapter;
-    std::unique_ptr<OrvCam::GevParameters> m_parameters;
+    std::optional<GevAddresses> m_adapter;
+    std::unique_ptr<GevParameters> m_parameters;
 };
 
-} // namespace OrvSimulation
+} // namespace OrvCam

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "simulatedsystem.h"
 
-using namespace OrvCam;
-
-namespace OrvSimulation {
+namespace OrvCam {
 
 namespace {
 
@@ -89,4 +87,4 @@ void SimulatedSystem::addOthers()
     add("Simulated Custom Interface #2 (cannot list cameras)", TransportCustom).refuseToList();
 }
 
-} // namespace OrvSimulation
+} // namespace OrvCam

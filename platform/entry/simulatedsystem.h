@@ -5,18 +5,18 @@
 
 #include <cameraapi/camerasystem.h>
 
-namespace OrvSimulation {
+namespace OrvCam {
 
 /// A camera system without hardware that sends nothing anywhere. It shows all that a real one may:
 /// three kinds of interface, one of them without cameras and one that cannot list any, and cameras
 /// in every access state and with names of every sort.
-class SimulatedSystem final : public OrvCam::CameraSystem
+class SimulatedSystem final : public CameraSystem
 {
 public:
     SimulatedSystem();
 
 protected:
-    std::vector<OrvCam::CameraInterface *> interfaces() override;
+    std::vector<CameraInterface *> interfaces() override;
 
 private:
     SimulatedInterface &add(std::string description, int32_t transportKind,
@@ -28,4 +28,4 @@ private:
     std::vector<std::unique_ptr<SimulatedInterface>> m_interfaces;
 };
 
-} // namespace OrvSimulation
+} // namespace OrvCam

@@ -1,69 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "uvinterface.h"
 
-#include "arvconnection.h"
+#include "utf8.h"
 
-#include <arv.h>
+#include <aravis/usbcameras.h>
+#include <cameraapi/portconnection.h>
 
-#include <mutex>
-#include <set>
-
-using namespace OrvCam;
-
-namespace OrvAravis {
+namespace OrvCam {
 
 namespace {
 
-/// Aravis keeps one list of USB cameras and no lock for it; devices come back on their own threads.
-/// Only this interface is asked, never Aravis as a whole, which would search all networks too.
-std::mutex usbMutex;
+using Failure = OrvAravis::OpenedUsbCamera::Failure;
 
-std::optional<std::string> textOrNothing(const char *text)
+std::optional<std::string> textOrNothing(const std::string &text)
 {
-    return text && *text ? std::make_optional<std::string>(text) : std::nullopt;
+    return text.empty() ? std::nullopt : std::make_optional(validUtf8(text));
 }
 
-/// The caller holds the lock.
-std::set<std::string> presentIds(ArvInterface *usb)
+int32_t codeOf(Failure failure)
 {
-    arv_interface_update_device_list(usb);
-    std::set<std::string> ids;
-    for (unsigned i = 0; i < arv_interface_get_n_devices(usb); ++i)
-        ids.insert(arv_interface_get_device_id(usb, i));
-    return ids;
+    switch (failure) {
+    case Failure::None:
+        return Success;
+    case Failure::Gone:
+        return ErrorGone;
+    case Failure::BadDescription:
+        return ErrorBadDescription;
+    default:
+        return ErrorBusy;
+    }
 }
 
-class UvConnector final : public CameraConnector
+class UvConnector final : public PortConnector
 {
 public:
     explicit UvConnector(std::string id) : m_id(std::move(id)) {}
 
-    std::unique_ptr<CameraConnection> open(int32_t, int32_t &error) override
+    OpenedCamera openPort(int32_t, const OpenProgress &, int32_t &error) override
     {
-        const std::lock_guard<std::mutex> lock(usbMutex);
-        ArvInterface *usb = arv_uv_interface_get_instance();
-        error = ErrorGone;
-        if (presentIds(usb).count(m_id) == 0)
-            return nullptr;
-
-        GError *failure = nullptr;
-        ArvDevice *device = arv_interface_open_device(usb, m_id.c_str(), &failure);
-        if (!device || failure) {
-            g_clear_object(&device);
-            error = codeOfOpenError(failure);
-            // USB does not say that a camera is taken, only that it cannot be had.
-            if (error == ErrorFailed)
-                error = ErrorBusy;
-            return nullptr;
-        }
-        try {
-            auto connection = std::make_unique<ArvConnection>(device);
-            error = Success;
-            return connection;
-        } catch (const GenICam::GenericException &) {
-            error = ErrorBadDescription;
-            return nullptr;
-        }
+        auto opened = OrvAravis::openUsbCamera(m_id);
+        error = codeOf(opened.failure);
+        return {std::move(opened.port), std::move(opened.description)};
     }
 
 private:
@@ -79,15 +56,12 @@ UvInterface::UvInterface(CameraSystem &system)
 
 int32_t UvInterface::discover(uint32_t, std::vector<DeviceFacts> &found)
 {
-    const std::lock_guard<std::mutex> lock(usbMutex);
-    ArvInterface *usb = arv_uv_interface_get_instance();
-    arv_interface_update_device_list(usb);
-    for (unsigned i = 0; i < arv_interface_get_n_devices(usb); ++i) {
+    for (const OrvAravis::UsbCamera &camera : OrvAravis::findUsbCameras()) {
         DeviceFacts facts;
-        facts.id = arv_interface_get_device_id(usb, i);
-        facts.vendor = textOrNothing(arv_interface_get_device_vendor(usb, i));
-        facts.model = textOrNothing(arv_interface_get_device_model(usb, i));
-        facts.serial = textOrNothing(arv_interface_get_device_serial_nbr(usb, i));
+        facts.id = camera.id;
+        facts.vendor = textOrNothing(camera.vendor);
+        facts.model = textOrNothing(camera.model);
+        facts.serial = textOrNothing(camera.serial);
         facts.accessState = AccessReadWrite;
         found.push_back(std::move(facts));
     }
@@ -99,4 +73,4 @@ std::shared_ptr<CameraConnector> UvInterface::makeConnector(const DeviceFacts &f
     return std::make_shared<UvConnector>(facts.id);
 }
 
-} // namespace OrvAravis
+} // namespace OrvCam

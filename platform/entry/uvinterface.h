@@ -3,18 +3,17 @@
 
 #include <cameraapi/camerainterface.h>
 
-namespace OrvAravis {
+namespace OrvCam {
 
 /// All USB ports of this machine as one interface of the camera system.
-class UvInterface final : public OrvCam::CameraInterface
+class UvInterface final : public CameraInterface
 {
 public:
-    explicit UvInterface(OrvCam::CameraSystem &system);
+    explicit UvInterface(CameraSystem &system);
 
 private:
-    int32_t discover(uint32_t timeoutMs, std::vector<OrvCam::DeviceFacts> &found) override;
-    std::shared_ptr<OrvCam::CameraConnector>
-    makeConnector(const OrvCam::DeviceFacts &facts) override;
+    int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) override;
+    std::shared_ptr<CameraConnector> makeConnector(const DeviceFacts &facts) override;
 };
 
-} // namespace OrvAravis
+} // namespace OrvCam

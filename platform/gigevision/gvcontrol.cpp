@@ -3,13 +3,15 @@
 
 #include "gvcpsocket.h"
 
+#include <cameraio/limits.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <map>
 
 using namespace std::chrono;
-using namespace OrvCam;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvGigEVision {
 
@@ -18,23 +20,25 @@ namespace {
 /// After so long without an answer, a command may have been lost.
 constexpr milliseconds repetition{100};
 
-int32_t accessByPrivilege(const Gvcp::Acknowledge &answer)
+Control controlByPrivilege(const Gvcp::Acknowledge &answer)
 {
     // A camera that is under exclusive control does not even let others read.
     if (answer.status == Gvcp::StatusAccessDenied)
-        return AccessNone;
-    const auto value = Gvcp::parseRegister(answer);
-    if (answer.status != Gvcp::StatusSuccess || !value)
-        return AccessUnknown;
-    return *value & Gvcp::controlPrivilegeMask ? AccessNone : AccessReadWrite;
+        return Control::Taken;
+    const auto values = Gvcp::parseRegisters(answer, 1);
+    if (answer.status != Gvcp::StatusSuccess || !values)
+        return Control::Unknown;
+    return values->front() & Gvcp::controlPrivilegeMask ? Control::Taken : Control::Free;
 }
 
-/// One search for cameras, with the question after who controls them.
+/// One search for cameras.
 class Discovery
 {
 public:
-    explicit Discovery(const NetworkAdapter &adapter)
-        : m_adapter(adapter), m_socket(adapter), m_id(m_socket.nextId())
+    enum class Ask { WhoTheyAre, WhoControlsThem };
+
+    explicit Discovery(const NetworkAdapter &adapter, Ask question = Ask::WhoTheyAre)
+        : m_adapter(adapter), m_question(question), m_socket(adapter), m_id(m_socket.nextId())
     {
     }
 
@@ -49,6 +53,7 @@ private:
     const GvCamera *meet(const Gvcp::Acknowledge &answer);
 
     const NetworkAdapter &m_adapter;
+    const Ask m_question;
     GvcpSocket m_socket;
     const uint16_t m_id;
     std::vector<GvCamera> m_cameras;
@@ -67,7 +72,7 @@ bool Discovery::listen(Clock::time_point until,
         }
         const auto asked = m_asked.find(answer->id);
         if (asked != m_asked.end() && answer->is(Gvcp::Answer::ReadRegister, asked->first))
-            m_cameras[asked->second].accessState = accessByPrivilege(*answer);
+            m_cameras[asked->second].control = controlByPrivilege(*answer);
     }
     return false;
 }
@@ -77,20 +82,23 @@ const GvCamera *Discovery::meet(const Gvcp::Acknowledge &answer)
     const auto identity = Gvcp::parseIdentity(answer);
     if (answer.status != Gvcp::StatusSuccess || !identity)
         return nullptr;
-    GvCamera camera{*identity, AccessUnknown};
+    GvCamera camera;
+    camera.identity = *identity;
+    camera.isReachable = m_adapter.addressFor(identity->ip) != nullptr;
     const auto isSame = [&](const GvCamera &other) { return other.id() == camera.id(); };
     const auto known = std::find_if(m_cameras.begin(), m_cameras.end(), isSame);
     if (known != m_cameras.end()) {
         known->identity = *identity;
+        known->isReachable = camera.isReachable;
         return &*known;
     }
+    if (m_cameras.size() >= Limits::camerasPerAdapter)
+        return nullptr;
 
-    if (m_adapter.addressFor(identity->ip)) {
+    if (camera.isReachable && m_question == Ask::WhoControlsThem) {
         const uint16_t id = m_socket.nextId();
         m_asked[id] = m_cameras.size();
-        m_socket.send(Gvcp::readRegisterCommand(id, Gvcp::controlPrivilegeRegister), identity->ip);
-    } else {
-        camera.accessState = AccessSubnetMismatch;
+        m_socket.send(Gvcp::readRegistersCommand(id, {Gvcp::ControlPrivilege}), identity->ip);
     }
     m_cameras.push_back(std::move(camera));
     return &m_cameras.back();
@@ -117,7 +125,7 @@ std::vector<GvCamera> discoverCameras(const NetworkAdapter &adapter, millisecond
 {
     const auto start = Clock::now();
     const auto never = [](const GvCamera &) { return false; };
-    Discovery discovery(adapter);
+    Discovery discovery(adapter, Discovery::Ask::WhoControlsThem);
     // Twice, because the first packet to a camera is the one that gets lost.
     discovery.ask();
     discovery.listen(start + time / 2, never);
@@ -127,7 +135,7 @@ std::vector<GvCamera> discoverCameras(const NetworkAdapter &adapter, millisecond
 }
 
 std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::string &id,
-                                   milliseconds time)
+                                   milliseconds time, const std::function<bool()> &isCancelled)
 {
     const auto end = Clock::now() + time;
     std::optional<GvCamera> found;
@@ -140,30 +148,12 @@ std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::str
     do {
         discovery.ask();
     } while (!discovery.listen(std::min(end, Clock::now() + repetition), isWanted) &&
-             Clock::now() < end);
+             Clock::now() < end && !(isCancelled && isCancelled()));
     return found;
 }
 
-std::optional<RegisterAnswer> readRegister(const NetworkAdapter &adapter, uint32_t camera,
-                                           uint32_t address, milliseconds time)
-{
-    const auto end = Clock::now() + time;
-    GvcpSocket socket(adapter);
-    const uint16_t id = socket.nextId();
-    const Gvcp::Packet command = Gvcp::readRegisterCommand(id, address);
-    do {
-        socket.send(command, camera);
-        const auto until = std::min(end, Clock::now() + repetition);
-        while (const auto answer = socket.receive(until)) {
-            if (answer->is(Gvcp::Answer::ReadRegister, id))
-                return RegisterAnswer{answer->status, Gvcp::parseRegister(*answer).value_or(0)};
-        }
-    } while (Clock::now() < end);
-    return std::nullopt;
-}
-
-int32_t forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
-                uint32_t gateway, milliseconds time)
+ForceResult forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
+                    uint32_t gateway, milliseconds time)
 {
     const auto end = Clock::now() + time;
     {
@@ -174,7 +164,7 @@ int32_t forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32
             if (!answer->is(Gvcp::Answer::ForceIp, id))
                 continue;
             if (answer->status != Gvcp::StatusSuccess)
-                return ErrorAccessDenied;
+                return ForceResult::Refused;
             break;
         }
     }
@@ -188,9 +178,9 @@ int32_t forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32
     do {
         discovery.ask();
         if (discovery.listen(std::min(end, Clock::now() + repetition), isThere))
-            return Success;
+            return ForceResult::Done;
     } while (Clock::now() < end);
-    return ErrorTimeout;
+    return ForceResult::NotSeen;
 }
 
 } // namespace OrvGigEVision

@@ -12,7 +12,14 @@ constexpr uint8_t answerRequired = 0x01;
 constexpr uint8_t mayAnswerByBroadcast = 0x10;
 constexpr std::size_t headerSize = 8;
 
-enum Command : uint16_t { Discovery = 0x0002, ForceIp = 0x0004, ReadRegister = 0x0080 };
+enum Command : uint16_t {
+    Discovery = 0x0002,
+    ForceIp = 0x0004,
+    ReadRegister = 0x0080,
+    WriteRegister = 0x0082,
+    ReadMemory = 0x0084,
+    WriteMemory = 0x0086
+};
 
 // Offsets in a discovery answer, which is 248 bytes long.
 constexpr std::size_t macAt = 10;
@@ -75,13 +82,6 @@ Packet discoveryCommand(uint16_t id)
     return command(Discovery, answerRequired | mayAnswerByBroadcast, 0, id);
 }
 
-Packet readRegisterCommand(uint16_t id, uint32_t address)
-{
-    Packet packet = command(ReadRegister, answerRequired, 4, id);
-    append(packet, address, 4);
-    return packet;
-}
-
 Packet forceIpCommand(uint16_t id, uint64_t mac, uint32_t ip, uint32_t mask, uint32_t gateway)
 {
     Packet packet = command(ForceIp, answerRequired | mayAnswerByBroadcast, 56, id);
@@ -93,12 +93,49 @@ Packet forceIpCommand(uint16_t id, uint64_t mac, uint32_t ip, uint32_t mask, uin
     return packet;
 }
 
+Packet readRegistersCommand(uint16_t id, const std::vector<uint32_t> &addresses)
+{
+    Packet packet = command(ReadRegister, answerRequired, 4 * addresses.size(), id);
+    for (const uint32_t address : addresses)
+        append(packet, address, 4);
+    return packet;
+}
+
+Packet writeRegistersCommand(uint16_t id, const std::vector<RegisterValue> &values)
+{
+    Packet packet = command(WriteRegister, answerRequired, 8 * values.size(), id);
+    for (const RegisterValue &value : values) {
+        append(packet, value.address, 4);
+        append(packet, value.value, 4);
+    }
+    return packet;
+}
+
+Packet readMemoryCommand(uint16_t id, uint32_t address, uint32_t size)
+{
+    Packet packet = command(ReadMemory, answerRequired, 8, id);
+    append(packet, address, 4);
+    append(packet, size, 4); // the upper half is reserved
+    return packet;
+}
+
+Packet writeMemoryCommand(uint16_t id, uint32_t address, const uint8_t *bytes, uint32_t size)
+{
+    Packet packet = command(WriteMemory, answerRequired, 4 + size, id);
+    append(packet, address, 4);
+    packet.insert(packet.end(), bytes, bytes + size);
+    return packet;
+}
+
 std::optional<Acknowledge> parseAcknowledge(const uint8_t *data, std::size_t size)
 {
     if (size < headerSize)
         return std::nullopt;
     const std::size_t payloadSize = halfAt(data + 4);
     if (size - headerSize < payloadSize)
+        return std::nullopt;
+    const auto isPadding = [](uint8_t byte) { return byte == 0; };
+    if (!std::all_of(data + headerSize + payloadSize, data + size, isPadding))
         return std::nullopt;
     return Acknowledge{halfAt(data), halfAt(data + 2), halfAt(data + 6), data + headerSize,
                        payloadSize};
@@ -123,11 +160,29 @@ std::optional<Identity> parseIdentity(const Acknowledge &answer)
     return identity;
 }
 
-std::optional<uint32_t> parseRegister(const Acknowledge &answer)
+std::optional<std::vector<uint32_t>> parseRegisters(const Acknowledge &answer, std::size_t count)
+{
+    const bool isWhole = answer.size == 4 * count;
+    const bool isPart = answer.size % 4 == 0 && answer.size < 4 * count;
+    if (answer.status == StatusSuccess ? !isWhole : !isPart)
+        return std::nullopt;
+    std::vector<uint32_t> values;
+    for (std::size_t at = 0; at < answer.size; at += 4)
+        values.push_back(wordAt(answer.payload + at));
+    return values;
+}
+
+const uint8_t *parseMemory(const Acknowledge &answer, uint32_t address, uint32_t size)
+{
+    const bool isFine = answer.size == 4 + size && wordAt(answer.payload) == address;
+    return isFine ? answer.payload + 4 : nullptr;
+}
+
+std::optional<std::chrono::milliseconds> parsePending(const Acknowledge &answer)
 {
     if (answer.size < 4)
         return std::nullopt;
-    return wordAt(answer.payload);
+    return std::chrono::milliseconds(halfAt(answer.payload + 2));
 }
 
 } // namespace OrvGigEVision::Gvcp

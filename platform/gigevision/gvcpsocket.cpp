@@ -152,6 +152,8 @@ std::optional<Gvcp::Acknowledge> GvcpSocket::take()
     const ssize_t size = recvmsg(m_socket, &message, 0);
     if (size < 0 || adapterOf(message) != m_adapter.index || from.sin_port != htons(Gvcp::port))
         return std::nullopt;
+    if (m_onlyFrom && from.sin_addr.s_addr != htonl(*m_onlyFrom))
+        return std::nullopt;
     return Gvcp::parseAcknowledge(m_buffer, static_cast<std::size_t>(size));
 }
 

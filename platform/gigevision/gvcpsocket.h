@@ -24,6 +24,12 @@ public:
     GvcpSocket(const GvcpSocket &) = delete;
     GvcpSocket &operator=(const GvcpSocket &) = delete;
 
+    /// Drops from now on what comes from any other address.
+    void listenOnlyTo(uint32_t camera) { m_onlyFrom = camera; }
+
+    /// The same adapter may have other addresses by now. The socket stays the same to cameras.
+    void setAdapter(const NetworkAdapter &adapter) { m_adapter = adapter; }
+
     /// A new number for a command; never 0.
     uint16_t nextId();
 
@@ -40,8 +46,9 @@ private:
     std::optional<Gvcp::Acknowledge> take();
     void sendFrom(uint32_t ownIp, const Gvcp::Packet &packet, uint32_t ip);
 
-    const NetworkAdapter m_adapter;
+    NetworkAdapter m_adapter;
     int m_socket = -1;
+    std::optional<uint32_t> m_onlyFrom;
     uint16_t m_lastId;
     uint8_t m_buffer[2048];
 };

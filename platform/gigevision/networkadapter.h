@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvCam/Export.h>
-
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -33,9 +31,9 @@ struct NetworkAdapter
 
 /// The adapters that are up and can broadcast to a network beyond this machine, in the system's
 /// order.
-ORVCAMERAAPI_EXPORT std::vector<NetworkAdapter> networkAdapters();
+std::vector<NetworkAdapter> networkAdapters();
 
 /// "192.168.0.1"
-ORVCAMERAAPI_EXPORT std::string ipText(uint32_t ip);
+std::string ipText(uint32_t ip);
 
 } // namespace OrvGigEVision

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/cameramemory.h"
 
-#include <arv.h>
-
+#include <algorithm>
 #include <cstring>
 
 namespace OrvSimulation {
@@ -10,14 +9,16 @@ namespace OrvSimulation {
 std::uint32_t CameraMemory::read(Address address) const
 {
     std::uint32_t value = 0;
-    arv_fake_camera_read_memory(m_camera, address, sizeof value, &value);
-    return GUINT32_FROM_BE(value);
+    for (const unsigned char byte : readBlock(address, sizeof value))
+        value = value << 8 | byte;
+    return value;
 }
 
 void CameraMemory::write(Address address, std::uint32_t value)
 {
-    const std::uint32_t bytes = GUINT32_TO_BE(value);
-    arv_fake_camera_write_memory(m_camera, address, sizeof bytes, &bytes);
+    writeBlock(address,
+               {static_cast<unsigned char>(value >> 24), static_cast<unsigned char>(value >> 16),
+                static_cast<unsigned char>(value >> 8), static_cast<unsigned char>(value)});
 }
 
 void CameraMemory::write64(Address address, std::uint64_t value)
@@ -44,15 +45,17 @@ void CameraMemory::writeText(Address address, const std::string &text, std::size
 
 std::vector<unsigned char> CameraMemory::readBlock(Address address, std::size_t length) const
 {
-    std::vector<unsigned char> bytes(length);
-    arv_fake_camera_read_memory(m_camera, address, static_cast<guint32>(length), bytes.data());
-    return bytes;
+    if (!holds(address, length))
+        return std::vector<unsigned char>(length);
+    const auto first = m_bytes.begin() + static_cast<std::ptrdiff_t>(address);
+    return {first, first + static_cast<std::ptrdiff_t>(length)};
 }
 
 void CameraMemory::writeBlock(Address address, const std::vector<unsigned char> &bytes)
 {
-    arv_fake_camera_write_memory(m_camera, address, static_cast<guint32>(bytes.size()),
-                                 bytes.data());
+    if (holds(address, bytes.size()))
+        std::copy(bytes.begin(), bytes.end(),
+                  m_bytes.begin() + static_cast<std::ptrdiff_t>(address));
 }
 
 } // namespace OrvSimulation

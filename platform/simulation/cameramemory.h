@@ -3,24 +3,28 @@
 
 #include "simulation/cameraregisters.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
-typedef struct _ArvFakeCamera ArvFakeCamera;
-
 namespace OrvSimulation {
 
-/// Reads and writes the registers of a simulated camera from within, as the camera itself does.
+/// The registers of a simulated camera, as the camera itself reads and writes them.
 ///
 /// It knows the byte order (most significant first) and nothing about the meaning of a register.
-/// The camera is not owned and must outlive the object. Addresses outside the camera's memory are a
-/// programming error: they read as 0 and writing them does nothing.
+/// Addresses outside of it are a programming error: they read as 0 and writing them does nothing.
 class CameraMemory
 {
 public:
     using Address = Registers::Address;
 
-    explicit CameraMemory(ArvFakeCamera *camera) : m_camera(camera) {}
+    /// In bytes; addresses start at 0, and so do all registers.
+    static constexpr std::size_t Size = 0x10000;
+
+    static constexpr bool holds(std::uint64_t address, std::size_t length)
+    {
+        return address <= Size && length <= Size - address;
+    }
 
     std::uint32_t read(Address address) const;
     void write(Address address, std::uint32_t value);
@@ -36,7 +40,7 @@ public:
     void writeBlock(Address address, const std::vector<unsigned char> &bytes);
 
 private:
-    ArvFakeCamera *m_camera;
+    std::vector<unsigned char> m_bytes = std::vector<unsigned char>(Size);
 };
 
 } // namespace OrvSimulation

@@ -24,14 +24,18 @@ constexpr Address DeviceVersion = 0x0088;
 constexpr Address DeviceManufacturerInfo = 0x00A8;
 constexpr Address DeviceSerialNumber = 0x00D8;
 constexpr Address DeviceUserDefinedName = 0x00E8;
+constexpr Address GevFirstURL = 0x0200;
+constexpr std::uint32_t GevURLSize = 512;
+constexpr Address GevNumberOfInterfaces = 0x0600;
 constexpr Address GevPersistentIPAddress = 0x064C;
 constexpr Address GevPersistentSubnetMask = 0x065C;
 constexpr Address GevPersistentDefaultGateway = 0x066C;
+constexpr Address GevStreamChannelCount = 0x0904;
 constexpr Address GevHeartbeatTimeout = 0x0938;
 constexpr Address GevTimestampTickFrequency = 0x093C;
 constexpr Address GevSCPS = 0x0D04;
 
-// Known to the transport of the simulation too
+// In the reserved space of the bootstrap registers
 constexpr Address PixelFormat = 0x0128;
 
 // Settings

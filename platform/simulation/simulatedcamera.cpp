@@ -5,21 +5,22 @@
 #include "simulation/description_p.h"
 #include "simulation/startvalues.h"
 
-#include <Base/GCException.h>
+#include <cameraio/maincontext.h>
 
-#include <arv.h>
+#include <Base/GCException.h>
 
 #include <mutex>
 #include <set>
 
-#include <sys/mman.h>
-#include <unistd.h>
+using OrvCameraIo::Clock;
+using OrvCameraIo::ReadTransfer;
+using OrvCameraIo::Status;
 
 namespace OrvSimulation {
 
 namespace {
 
-constexpr guint timerInterval = 200; // ms
+constexpr unsigned timerInterval = 200; // ms
 
 std::mutex &registryMutex()
 {
@@ -62,65 +63,11 @@ private:
     std::string m_serial;
 };
 
-// A file that holds the description and has no place in the file system, as Aravis takes nothing
-// but a file name.
-class DescriptionFile
+CameraMemory switchedOn(const CameraIdentity &identity)
 {
-public:
-    DescriptionFile() : m_file(memfd_create("simulated-camera-description", MFD_CLOEXEC))
-    {
-        const SimulatedCamera::Text text = SimulatedCamera::description();
-        std::size_t written = 0;
-        while (m_file >= 0 && written < text.size) {
-            const ssize_t count = ::write(m_file, text.data + written, text.size - written);
-            if (count <= 0) {
-                ::close(m_file);
-                m_file = -1;
-            } else {
-                written += static_cast<std::size_t>(count);
-            }
-        }
-    }
-
-    ~DescriptionFile()
-    {
-        if (m_file >= 0)
-            ::close(m_file);
-    }
-
-    DescriptionFile(const DescriptionFile &) = delete;
-    DescriptionFile &operator=(const DescriptionFile &) = delete;
-
-    bool isValid() const { return m_file >= 0; }
-    std::string path() const { return "/proc/self/fd/" + std::to_string(m_file); }
-
-private:
-    int m_file;
-};
-
-// The name of the description is one for the whole process, so nobody may come between setting it
-// and making the device.
-ArvDevice *makeDevice(const std::string &serial)
-{
-    const DescriptionFile file;
-    if (!file.isValid())
-        throw GenICam::RuntimeException(
-            "There is no memory for the description of the simulated camera", __FILE__, __LINE__);
-
-    static std::mutex mutex;
-    const std::lock_guard<std::mutex> lock(mutex);
-    GError *error = nullptr;
-    arv_set_fake_camera_genicam_filename(file.path().c_str());
-    ArvDevice *device = arv_fake_device_new(serial.c_str(), &error);
-    arv_set_fake_camera_genicam_filename(nullptr);
-    if (device && !error)
-        return device;
-
-    const std::string text = "The simulated camera " + serial +
-                             " cannot be made: " + (error ? error->message : "unknown error");
-    g_clear_error(&error);
-    g_clear_object(&device);
-    throw GenICam::RuntimeException(text.c_str(), __FILE__, __LINE__);
+    CameraMemory memory;
+    writeStartValues(memory, identity);
+    return memory;
 }
 
 // The same serial number always gives the same camera (FNV-1a).
@@ -134,61 +81,95 @@ std::uint32_t seedOf(const std::string &serial)
 
 } // namespace
 
-struct SimulatedCamera::Private
+// The memory and the behaviour, which hosts and the timer use on different threads.
+class SimulatedCamera::Innards
 {
-    explicit Private(const CameraIdentity &id)
+public:
+    explicit Innards(const CameraIdentity &id)
         : identity(id)
-        , registration(id.serial)
-        , device(makeDevice(id.serial))
-        , memory(arv_fake_device_get_fake_camera(ARV_FAKE_DEVICE(device)))
+        , m_registration(id.serial)
+        , m_memory(switchedOn(id))
+        , m_behaviour(m_memory, seedOf(id.serial))
+        , m_timer(timerInterval, [this] { tick(); })
     {
-        writeStartValues(memory, identity);
-        behaviour = std::make_unique<CameraBehaviour>(memory, seedOf(identity.serial));
-        lastTick = g_get_monotonic_time();
-        timer = g_timeout_source_new(timerInterval);
-        g_source_set_callback(timer, onTimer, this, nullptr);
-        g_source_attach(timer, nullptr);
     }
 
-    ~Private()
+    void advance(double seconds)
     {
-        g_source_destroy(timer);
-        g_source_unref(timer);
-        g_object_unref(device);
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_behaviour.advance(seconds);
     }
 
-    Private(const Private &) = delete;
-    Private &operator=(const Private &) = delete;
-
-    static gboolean onTimer(gpointer data)
+    Status read(uint64_t address, uint32_t size, std::vector<uint8_t> &bytes) const
     {
-        auto *self = static_cast<Private *>(data);
-        const gint64 now = g_get_monotonic_time();
-        const double seconds = static_cast<double>(now - self->lastTick) * 1e-6;
-        self->lastTick = now;
-        self->behaviour->advance(seconds);
-        return G_SOURCE_CONTINUE;
+        if (!CameraMemory::holds(address, size))
+            return Status::InvalidAddress;
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        bytes = m_memory.readBlock(static_cast<Registers::Address>(address), size);
+        return Status::Done;
     }
 
-    CameraIdentity identity;
-    Registration registration;
-    ArvDevice *device;
-    CameraMemory memory;
-    std::unique_ptr<CameraBehaviour> behaviour;
-    GSource *timer = nullptr;
-    gint64 lastTick = 0;
+    Status write(uint64_t address, const std::vector<uint8_t> &bytes)
+    {
+        if (!CameraMemory::holds(address, bytes.size()))
+            return Status::InvalidAddress;
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_memory.writeBlock(static_cast<Registers::Address>(address), bytes);
+        m_behaviour.advance(0);
+        return Status::Done;
+    }
+
+    const CameraIdentity identity;
+
+private:
+    void tick()
+    {
+        const Clock::time_point now = Clock::now();
+        advance(std::chrono::duration<double>(now - m_lastTick).count());
+        m_lastTick = now;
+    }
+
+    const Registration m_registration;
+    mutable std::mutex m_mutex; ///< guards the memory and the behaviour
+    CameraMemory m_memory;
+    CameraBehaviour m_behaviour;
+    Clock::time_point m_lastTick = Clock::now();
+    OrvCameraIo::MainContext::Timer m_timer; ///< the last: it uses all the others
+};
+
+class SimulatedCamera::Connection final : public OrvCameraIo::Port
+{
+public:
+    explicit Connection(std::shared_ptr<Innards> camera) : m_camera(std::move(camera)) {}
+
+    bool isImmediate() const override { return true; }
+
+    void read(std::vector<ReadTransfer> &batch) override
+    {
+        for (ReadTransfer &transfer : batch)
+            transfer.status =
+                m_camera->read(transfer.range.address, transfer.range.size, transfer.bytes);
+    }
+
+    Status write(uint64_t address, const std::vector<uint8_t> &bytes) override
+    {
+        return m_camera->write(address, bytes);
+    }
+
+private:
+    const std::shared_ptr<Innards> m_camera;
 };
 
 SimulatedCamera::SimulatedCamera(const CameraIdentity &identity)
-    : d(std::make_unique<Private>(identity))
+    : d(std::make_shared<Innards>(identity))
 {
 }
 
 SimulatedCamera::~SimulatedCamera() = default;
 
-ArvDevice *SimulatedCamera::device() const
+std::unique_ptr<OrvCameraIo::Port> SimulatedCamera::port() const
 {
-    return d->device;
+    return std::make_unique<Connection>(d);
 }
 
 const CameraIdentity &SimulatedCamera::identity() const
@@ -198,7 +179,7 @@ const CameraIdentity &SimulatedCamera::identity() const
 
 void SimulatedCamera::advance(double seconds)
 {
-    d->behaviour->advance(seconds);
+    d->advance(seconds);
 }
 
 bool SimulatedCamera::isOpen(const std::string &serial)
@@ -207,10 +188,11 @@ bool SimulatedCamera::isOpen(const std::string &serial)
     return openSerials().count(serial) > 0;
 }
 
-SimulatedCamera::Text SimulatedCamera::description()
+std::shared_ptr<const std::string> SimulatedCamera::description()
 {
-    return {reinterpret_cast<const char *>(simulatedCameraDescription),
-            simulatedCameraDescriptionSize};
+    static const auto text = std::make_shared<const std::string>(
+        reinterpret_cast<const char *>(simulatedCameraDescription), simulatedCameraDescriptionSize);
+    return text;
 }
 
 } // namespace OrvSimulation

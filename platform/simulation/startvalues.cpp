@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "simulation/startvalues.h"
 
+#include "simulation/description_p.h"
+
+#include <cstdio>
+
 namespace OrvSimulation {
 
 using namespace Registers;
@@ -18,6 +22,8 @@ constexpr StartValue startValues[] = {
     {GevVersion, 0x00010002},
     {GevDeviceMode, 0x80000001},      // big endian, UTF-8
     {GevCurrentIPConfiguration, 0x5}, // link-local and persistent
+    {GevNumberOfInterfaces, 1},
+    {GevStreamChannelCount, 1},
     {GevHeartbeatTimeout, 3000},
     {GevSCPS, 0x40000000 | 1500}, // not fragmented
     {PixelFormat, 0x01080009},    // BayerRG8
@@ -97,6 +103,15 @@ constexpr FrameStartValue frameStartValues[] = {
     {FrameWdrE3, 200, 60},
 };
 
+// Where the description would lie if it were fetched from the camera; hosts show this text.
+std::string descriptionUrl()
+{
+    char url[64];
+    std::snprintf(url, sizeof url, "Local:arv-fake-camera.xml;%zx;%zx", CameraMemory::Size,
+                  simulatedCameraDescriptionSize);
+    return url;
+}
+
 void writeIdentity(CameraMemory &memory, const CameraIdentity &identity)
 {
     memory.writeText(DeviceManufacturerName, identity.vendor, 32);
@@ -107,6 +122,8 @@ void writeIdentity(CameraMemory &memory, const CameraIdentity &identity)
     memory.writeText(DeviceUserDefinedName, identity.userName, 16);
     memory.writeText(DeviceFamilyName, identity.family, 32);
     memory.writeText(SensorType, identity.sensorType, 32);
+
+    memory.writeText(GevFirstURL, descriptionUrl(), GevURLSize);
 
     memory.write64(GevMACAddress, identity.macAddress & 0xFFFFFFFFFFFF);
     memory.write(GevCurrentIPAddress, identity.ipAddress);

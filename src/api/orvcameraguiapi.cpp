@@ -11,6 +11,9 @@
 #include "orvcamconfigtriggerdialog.h"
 #include "selectcamera.h"
 
+#include <QApplication>
+#include <QCursor>
+
 #include <cstring>
 
 namespace {
@@ -72,7 +75,13 @@ OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvGenParamArray *array, co
 
 void DestroyGenParamTreeView(OrvGuiParamTreeView *view)
 {
+    if (!view)
+        return;
     delete view;
+    // Without an event loop nothing else sends the window system what Qt has asked of it, and the
+    // tree would stay on the screen. A question makes Qt send it.
+    if (qApp)
+        QCursor::pos();
 }
 
 OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title, unsigned long parent)

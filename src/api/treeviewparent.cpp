@@ -6,6 +6,7 @@
 #include <QAbstractNativeEventFilter>
 #include <QChildEvent>
 #include <QCoreApplication>
+#include <QTimer>
 
 #include <xcb/xcb.h>
 
@@ -43,14 +44,18 @@ private:
     QWindow *m_outerWindow;
 };
 
-/// Keeps Qt from printing the refusals, which arrive later from the X server.
-class RefusedMoves : public QAbstractNativeEventFilter
+/// Keeps Qt from printing the refusals of one container, which arrive later from the X server. It
+/// goes with the last of them, for other refusals are the host's business.
+class RefusedMoves : public QObject, public QAbstractNativeEventFilter
 {
 public:
     static void expect()
     {
-        static RefusedMoves filter;
-        QCoreApplication::instance()->installNativeEventFilter(&filter);
+        auto *filter = new RefusedMoves;
+        filter->setParent(QCoreApplication::instance());
+        QCoreApplication::instance()->installNativeEventFilter(filter);
+        // A window that does not exist is refused in another way.
+        QTimer::singleShot(timeoutMs, filter, &QObject::deleteLater);
     }
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, long *) override
@@ -58,9 +63,20 @@ public:
         if (eventType != "xcb_generic_event_t")
             return false;
         const auto *error = static_cast<xcb_generic_error_t *>(message);
-        return error->response_type == 0 && error->error_code == XCB_MATCH &&
-               error->major_code == XCB_REPARENT_WINDOW;
+        if (error->response_type != 0 || error->error_code != XCB_MATCH ||
+            error->major_code != XCB_REPARENT_WINDOW)
+            return false;
+        if (--m_missing == 0) {
+            QCoreApplication::instance()->removeNativeEventFilter(this);
+            deleteLater();
+        }
+        return true;
     }
+
+private:
+    static const int timeoutMs = 1000;
+
+    int m_missing = 2; ///< when the container is made, and when it is given its window
 };
 
 } // namespace

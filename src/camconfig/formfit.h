@@ -4,7 +4,9 @@
 #include <QList>
 
 class QLabel;
+class QScrollArea;
 class QtOrvSpinBox;
+class QWidget;
 
 /// Sizes of parts of a form that depend on each other across its layouts.
 namespace FormFit {
@@ -15,5 +17,8 @@ void align(const QList<QLabel *> &labels);
 /// Gives the slider that pops up upright the height of the spin box as its width, and as its height
 /// the width of the spin box without its caption.
 void fitUprightSlider(QtOrvSpinBox *spinBox);
+
+/// Makes the window large enough for all that stands in its scroll area, as far as its screen goes.
+void growToFit(QWidget *window, const QScrollArea *area);
 
 } // namespace FormFit

@@ -3,6 +3,8 @@
 
 #include "camerainformation.h"
 #include "devicewatch.h"
+#include "featuretooltip.h"
+#include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
 #include "orvcamconfigframeabdialog.h"
 #include "orvcamconfigoutputdialog.h"
@@ -18,6 +20,7 @@
 
 #include <QMessageBox>
 #include <QPointer>
+#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QVector>
@@ -42,12 +45,12 @@ QString numberOf(const OrvGenParam::Int *param)
     return param && error == OrvCam::Success ? QString::number(value) : QString();
 }
 
-QString frameRate(const QString &frameTime)
+QString frameRate(const QString &frameTime, const QLocale &locale)
 {
     if (frameTime.isEmpty())
         return QString();
     const double microseconds = frameTime.toDouble();
-    return QString::number(microseconds > 0 ? 1e6 / microseconds : 0.0, 'f', 2);
+    return NumberText::of(microseconds > 0 ? 1e6 / microseconds : 0.0, 2, locale);
 }
 
 /// Empty when it cannot be read.
@@ -89,6 +92,7 @@ private:
 
     struct Column
     {
+        QLabel *head;
         QLineEdit *size;
         QLineEdit *fps;
         QLineEdit *frameTime;
@@ -100,12 +104,17 @@ private:
     void connectMenus();
     template<class Dialog>
     void addDialog(Dialog *dialog, QPushButton *button, QAction *action);
+    void addShortcut(QWidget *dialog, QPushButton *button, int number);
     OrvCam::Device *pick();
 
     bool init(OrvCam::Device *newDevice);
     void getNeededParams();
     void forgetParams();
     void layOut();
+    void layOutFrameButton();
+    void layOutButtons();
+    void explainFields();
+    void dimOldNumbers();
     void clearFields();
     void handOver();
 
@@ -113,6 +122,7 @@ private:
     void drop();
     void restore();
     void refreshFrames();
+    Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
     bool updateBoth();
     void updateStatus();
@@ -214,6 +224,7 @@ template<class Dialog>
 void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction *action)
 {
     dialogs.append(dialog);
+    addShortcut(dialog, button, dialogs.size());
     QObject::connect(dialog, &Dialog::closing, &receiver, [=] { button->setChecked(false); });
     QObject::connect(button, &QPushButton::toggled, &receiver, [=](bool checked) {
         if (checked)
@@ -222,9 +233,23 @@ void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction
             dialog->close();
     });
     QObject::connect(action, &QAction::toggled, &receiver, [=](bool checked) {
-        button->setVisible(checked);
+        button->setVisible(checked && action->isVisible());
+        layOutButtons();
         if (!checked)
             dialog->close();
+    });
+}
+
+/// Opens the dialog, or brings it to the front; available as long as its button is.
+void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int number)
+{
+    const auto keys = QKeySequence::fromString(QStringLiteral("Ctrl+%1").arg(number));
+    button->setToolTip(
+        QStringLiteral("%1 (%2)").arg(button->text(), keys.toString(QKeySequence::NativeText)));
+    QObject::connect(new QShortcut(keys, button), &QShortcut::activated, &receiver, [=] {
+        button->setChecked(true);
+        dialog->raise();
+        dialog->activateWindow();
     });
 }
 
@@ -292,6 +317,8 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     q->setEnabled(true);
     timer.start(RefreshPeriod);
     layOut();
+    explainFields();
+    dimOldNumbers();
     showTemperature();
     const bool isBack = updateBoth();
     updateStatus();
@@ -341,7 +368,7 @@ void OrvCamConfigPrivate::forgetParams()
 void OrvCamConfigPrivate::layOut()
 {
     ui.lblFrameB->setVisible(isFrameABSupported);
-    ui.actionFrame_A_B->setVisible(isFrameABSupported);
+    layOutFrameButton();
     const auto limitWidth = [this](QLineEdit *edit) {
         const QSize text =
             edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
@@ -364,6 +391,48 @@ void OrvCamConfigPrivate::layOut()
         edit->setVisible(isFrameABSupported);
         limitWidth(edit);
     }
+}
+
+void OrvCamConfigPrivate::layOutFrameButton()
+{
+    ui.actionFrame_A_B->setVisible(isFrameABSupported);
+    ui.pushBtnFrameAB->setVisible(isFrameABSupported && ui.actionFrame_A_B->isChecked());
+    if (!isFrameABSupported)
+        ui.pushBtnFrameAB->setChecked(false);
+    layOutButtons();
+}
+
+/// Those that are there follow each other without a gap.
+void OrvCamConfigPrivate::layOutButtons()
+{
+    int place = 0;
+    for (QPushButton *button : {ui.pushBtnFrameAB, ui.pushBtnTrigger, ui.pushBtnPulse,
+                                ui.pushBtnStrobe, ui.pushBtnDataOut, ui.pushBtnColor}) {
+        ui.gridLayoutButtons->removeWidget(button);
+        if (button->isHidden())
+            continue;
+        ui.gridLayoutButtons->addWidget(button, place / 3, place % 3);
+        ++place;
+    }
+}
+
+void OrvCamConfigPrivate::explainFields()
+{
+    const auto explain = [](std::initializer_list<QLineEdit *> edits, const QString &meaning,
+                            std::initializer_list<const OrvGenParam::Param *> params) {
+        const QString features = FeatureToolTip::text(params);
+        const QString text =
+            features.isEmpty() ? meaning : meaning + QStringLiteral("<br/>") + features;
+        for (QLineEdit *edit : edits)
+            FeatureToolTip::set(edit, text);
+    };
+    const Column a = columnOf(FrameA);
+    const Column b = columnOf(FrameB);
+    explain({a.size, b.size}, tr("Image size"), {width, height});
+    explain({a.fps, b.fps}, tr("Frames per second, computed from the frame time"), {frameTime});
+    explain({a.frameTime, b.frameTime}, tr("Frame time"), {frameTime});
+    explain({a.exposure, b.exposure}, tr("Exposure time"), {exposureTime});
+    explain({ui.lineEditTemperature}, tr("Temperature"), {temperature});
 }
 
 void OrvCamConfigPrivate::clearFields()
@@ -454,17 +523,35 @@ void OrvCamConfigPrivate::showTemperature()
         ui.lineEditTemperature->setText(numberOf(temperature));
 }
 
+OrvCamConfigPrivate::Column OrvCamConfigPrivate::columnOf(Frame frame) const
+{
+    if (frame == FrameA)
+        return {ui.lblFrameA, ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
+                ui.lineEditExpFrameA};
+    return {ui.lblFrameB, ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
+            ui.lineEditExpFrameB};
+}
+
+/// A frame that is not put out keeps the numbers that it had.
+void OrvCamConfigPrivate::dimOldNumbers()
+{
+    for (const Frame frame : {FrameA, FrameB}) {
+        const bool isOld =
+            array && frameSelector && frameMode == (frame == FrameA ? OnlyFrameB : OnlyFrameA);
+        const Column column = columnOf(frame);
+        for (QWidget *widget : std::initializer_list<QWidget *>{
+                 column.head, column.size, column.fps, column.frameTime, column.exposure})
+            widget->setEnabled(!isOld);
+    }
+}
+
 void OrvCamConfigPrivate::updateFrame(Frame frame)
 {
-    const Column columnA{ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
-                         ui.lineEditExpFrameA};
-    const Column columnB{ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
-                         ui.lineEditExpFrameB};
-    const Column &column = frame == FrameA ? columnA : columnB;
+    const Column column = columnOf(frame);
     const QString time = numberOf(frameTime);
     const QString size = numberOf(width) + QLatin1Char('x') + numberOf(height);
     column.size->setText(size.size() > 1 ? size : QString());
-    column.fps->setText(frameRate(time));
+    column.fps->setText(frameRate(time, q->locale()));
     column.frameTime->setText(time);
     column.exposure->setText(numberOf(exposureTime));
 }
@@ -496,7 +583,10 @@ void OrvCamConfigPrivate::updateStatus()
     QString icon = QStringLiteral(":/icons/res/disconnected.ico");
     if (array) {
         const OrvGenParam::String *model = array->GetString("DeviceModelName");
-        text = model ? QString::fromUtf8(model->GetValue()) : tr("Unknown");
+        int32_t error = OrvCam::Success;
+        text = model ? QString::fromUtf8(model->GetValue(&error)) : QString();
+        if (!model || error != OrvCam::Success)
+            text = tr("Unknown");
         icon = QStringLiteral(":/icons/res/connected.ico");
     }
     statusText->setText(text);
@@ -526,6 +616,7 @@ void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
     } else if (param == frameModeParam) {
         isFrameModeChanged = true;
         readFrameMode();
+        dimOldNumbers();
     }
 }
 

@@ -97,10 +97,7 @@ void OrvCamConfigColorDialogPrivate::bindCoefficient(Coefficient &coefficient)
                            2 * textWidth(unity, QStringLiteral("_")));
     QtOrvSpinBox *spinBox = coefficient.spinBox;
     if (bindInt(coefficient.feature, spinBox, coefficient.dependents)) {
-        OrvGenParam::Param *param = array->GetInt(coefficient.feature);
-        coefficient.bound = param;
-        param->UnregisterEventSink(this);
-        param->RegisterEventSink(this);
+        coefficient.bound = watched(array->GetInt(coefficient.feature), this);
     }
     on(unity, &QPushButton::clicked, [spinBox] { spinBox->setValue(unityGain); });
 }

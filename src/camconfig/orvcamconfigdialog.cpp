@@ -5,7 +5,21 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace OrvGui {
+
+namespace {
+
+/// Null when the device has none to offer.
+OrvGenParam::Array *paramsOf(OrvCam::Device *device)
+{
+    int32_t error = OrvCam::Success;
+    OrvGenParam::Array *const array = device->GetParamArray(&error);
+    return error == OrvCam::Success ? array : nullptr;
+}
+
+} // namespace
 
 OrvCamConfigDialogPrivate::OrvCamConfigDialogPrivate() = default;
 OrvCamConfigDialogPrivate::~OrvCamConfigDialogPrivate() = default;
@@ -38,17 +52,31 @@ void OrvCamConfigDialogPrivate::target()
         m_isFormBuilt = true;
     }
     ++m_tenures;
+    leaveParams();
     mapper.unmapAll();
     m_handlers.reset(new QObject);
     release();
 
-    int32_t error = OrvCam::Success;
-    array = device ? device->GetParamArray(&error) : nullptr;
-    if (error != OrvCam::Success)
-        array = nullptr;
+    array = device ? paramsOf(device) : nullptr;
     q->setEnabled(array);
-    if (array)
-        bind();
+    if (!array)
+        return;
+    m_boundDevice = device;
+    bind();
+}
+
+// A device that has lost its camera may have lost the parameters with it. It tells of nothing more.
+void OrvCamConfigDialogPrivate::leaveParams()
+{
+    const auto watched = std::exchange(m_watched, {});
+    OrvCam::Device *const former = std::exchange(m_boundDevice, nullptr);
+    if (!former || paramsOf(former) != array)
+        return;
+    mapper.leave(*array);
+    for (const Watched &one : watched) {
+        if (array->GetParam(one.name.constData()) == one.param)
+            one.param->UnregisterEventSink(one.sink);
+    }
 }
 
 OrvCamConfigDialogPrivate::Tenure::Tenure(const OrvCamConfigDialogPrivate *part)

@@ -6,8 +6,10 @@
 
 #include <OrvGenParam/Array.h>
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
+#include <QVector>
 
 #include <memory>
 #include <utility>
@@ -82,6 +84,19 @@ protected:
         mapper.mapCommandParam(array->GetCommand(feature), button, timer);
     }
 
+    /// Has the sink notified of the parameter until the next device is set; null for null. What is
+    /// watched again is notified of after all that have been registered meanwhile.
+    template<class Kind>
+    Kind *watched(Kind *param, OrvGenParam::ParamEventSink *sink)
+    {
+        if (param) {
+            param->UnregisterEventSink(sink);
+            param->RegisterEventSink(sink);
+            m_watched.append({param->GetName(), param, sink});
+        }
+        return param;
+    }
+
     /// Connects a handler of the dialog's own, until the next device is set.
     template<class Sender, class Signal, class Handler>
     void on(Sender *sender, Signal signal, Handler handler)
@@ -96,9 +111,19 @@ protected:
     OrvCamConfigMapper mapper;
 
 private:
-    void target();
+    struct Watched
+    {
+        QByteArray name;
+        OrvGenParam::Param *param;
+        OrvGenParam::ParamEventSink *sink;
+    };
 
-    std::unique_ptr<QObject> m_handlers; ///< the receiver of the dialog's own handlers
+    void target();
+    void leaveParams();
+
+    std::unique_ptr<QObject> m_handlers;     ///< the receiver of the dialog's own handlers
+    OrvCam::Device *m_boundDevice = nullptr; ///< that `array` is of
+    QVector<Watched> m_watched;
     unsigned m_tenures = 0;
     bool m_isFormBuilt = false;
     bool m_isBinding = false;

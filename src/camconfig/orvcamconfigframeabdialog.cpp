@@ -2,6 +2,8 @@
 #include "orvcamconfigframeabdialog.h"
 
 #include "areapresets.h"
+#include "featuretooltip.h"
+#include "formfit.h"
 #include "heldinput.h"
 #include "iorvcamconfigintconverter.h"
 #include "orvcamconfigdialog_p.h"
@@ -12,6 +14,7 @@
 #include "selectordetour.h"
 #include "ui_orvcamconfigframeabdialog.h"
 #include "valuegrid.h"
+#include "wheelguard.h"
 
 #include <OrvCam/Codes.h>
 
@@ -21,10 +24,12 @@
 #include <QDoubleSpinBox>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QTimer>
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 using OrvGenParam::Enum;
 using OrvGenParam::Int;
@@ -49,6 +54,10 @@ const double fineGainSteps = 64.0;
 
 /// The largest number that goes into a widget.
 const qint64 largest = std::numeric_limits<int>::max();
+
+/// Registers may claim to hold far more. The slider counts its steps in an int.
+const double largestGain = gainStep * std::numeric_limits<int>::max();
+const qint64 mostDoublings = 27;
 
 QString microseconds()
 {
@@ -96,16 +105,25 @@ bool read(const Int *param, int64_t (Int::*get)(int32_t *) const, qint64 &value)
     return param && error == OrvCam::Success;
 }
 
+/// The number of doublings stays where powers of two make sense.
 struct Gain
 {
+    static Gain read(int64_t (Int::*get)(int32_t *) const, const Int *coarse, const Int *fine)
+    {
+        Gain gain{0, 0};
+        OrvGui::read(coarse, get, gain.coarse);
+        OrvGui::read(fine, get, gain.fine);
+        gain.coarse = qBound(-mostDoublings, gain.coarse, mostDoublings);
+        return gain;
+    }
     qint64 coarse;
     qint64 fine;
 
     bool operator!=(Gain other) const { return coarse != other.coarse || fine != other.fine; }
     double factor() const
     {
-        return (1.0 + static_cast<double>(fine) / fineGainSteps) *
-               std::ldexp(1.0, static_cast<int>(coarse));
+        return qMin(largestGain, (1.0 + static_cast<double>(fine) / fineGainSteps) *
+                                     std::ldexp(1.0, static_cast<int>(coarse)));
     }
     static Gain of(double factor)
     {
@@ -136,6 +154,7 @@ class OrvCamConfigFrameABDialogPrivate : public OrvCamConfigDialogPrivate,
     Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCamConfigFrameABDialog)
 
 public:
+    void prepareToShow() override;
     long ToControl(long value, Int *param) override;
     long ToDevice(long value, Int *param) override;
     void OnParameterUpdate(Param *param) override;
@@ -153,10 +172,15 @@ private:
     QButtonGroup *group(std::initializer_list<QAbstractButton *> buttons);
     void getNeededParams();
     template<class Kind>
-    Kind *watched(Kind *param);
+    Kind *watched(Kind *param)
+    {
+        return OrvCamConfigDialogPrivate::watched(param, this);
+    }
     void makeBindings();
     void bindExposure();
     void bindPeriod();
+    void explain();
+    void explainTrigger();
     void connectHandlers();
     void connectDrags();
     void startSizeTimer();
@@ -192,7 +216,9 @@ private:
     void showArea();
 
     Ui_OrvCamConfigFrameABDialog ui;
+    WheelGuard wheelGuard; ///< of what the mapper does not bind
     bool isTriggerOn = false;
+    bool isFitted = false; ///< the size to what it shows
 
     qint64 pixelClock = usualPixelClock; ///< clocks per microsecond
     qint64 lineTime = 0;                 ///< clocks
@@ -280,6 +306,7 @@ void OrvCamConfigFrameABDialogPrivate::buildForm()
     ui.spBoxFixedFramePeriodValue->slider()->setScaleType(QtOrvSlider::ScaleLog10);
     ui.spBoxDigitalGain->setValidate(true);
     ui.spBoxDigitalGain->setValidateTyping(false);
+    wheelGuard.guard(ui.spBoxDigitalGain);
 
     tabTimer = new QTimer(q);
     tabTimer->setSingleShot(true);
@@ -329,6 +356,7 @@ void OrvCamConfigFrameABDialogPrivate::release()
     customArea.clear();
     isWriting = false;
     ui.lineEditFrameCurrentSize->clear();
+    ui.radioBtnExpTrigger->setToolTip(QString());
 }
 
 void OrvCamConfigFrameABDialogPrivate::bind()
@@ -346,11 +374,29 @@ void OrvCamConfigFrameABDialogPrivate::bind()
     ui.spBoxFrameLineTime->setEnabled(false);
     lineTimeBox = nullptr;
     unbindFrameCounts();
+    explain();
     connectHandlers();
+}
+
+void OrvCamConfigFrameABDialogPrivate::prepareToShow()
+{
+    if (!std::exchange(isFitted, true))
+        FormFit::growToFit(q, ui.scrollArea);
+    if (!array)
+        return;
+    if (frameSelector) {
+        const QSignalBlocker isNoChange(ui.tabFrames);
+        mapper.updateTabWidget(frameSelector, ui.tabFrames);
+        placeLayout(ui.tabFrames->currentIndex());
+    }
+    tabTimer->start(0);
 }
 
 void OrvCamConfigFrameABDialogPrivate::settle()
 {
+    isFitted = q->isVisible();
+    if (isFitted)
+        FormFit::growToFit(q, ui.scrollArea);
     if (!onFrameModeChanged())
         return;
     placeLayout(ui.tabFrames->currentIndex());
@@ -378,17 +424,6 @@ void OrvCamConfigFrameABDialogPrivate::getNeededParams()
     readLineTime();
     readExposure();
     readTriggerMode();
-}
-
-/// Null for null. What is watched again is told of after all that have been registered meanwhile.
-template<class Kind>
-Kind *OrvCamConfigFrameABDialogPrivate::watched(Kind *param)
-{
-    if (param) {
-        param->UnregisterEventSink(this);
-        param->RegisterEventSink(this);
-    }
-    return param;
 }
 
 void OrvCamConfigFrameABDialogPrivate::makeBindings()
@@ -442,6 +477,27 @@ void OrvCamConfigFrameABDialogPrivate::bindPeriod()
     ui.spBoxFixedFramePeriodValue->setValidate(false);
     showPeriod();
     watched(periodParam); // after the mapper, as the exposure time needs what the box shows
+}
+
+/// What shows several features, and so is bound to none.
+void OrvCamConfigFrameABDialogPrivate::explain()
+{
+    FeatureToolTip::set(ui.spBoxExpTime,
+                        FeatureToolTip::text({exposureLinesParam, exposureClocksParam}));
+    FeatureToolTip::set(ui.spBoxDigitalGain, FeatureToolTip::text({coarseGain, fineGain}));
+    FeatureToolTip::set(ui.lineEditFrameCurrentSize,
+                        FeatureToolTip::text({widthActual, heightActual}));
+    explainTrigger();
+}
+
+/// As the other buttons of the group, and more.
+void OrvCamConfigFrameABDialogPrivate::explainTrigger()
+{
+    QStringList lines{ui.radioBtnExpOff->toolTip()};
+    if (!isTriggerOn)
+        lines.prepend(OrvCamConfigFrameABDialog::tr("The trigger is switched off."));
+    lines.removeAll(QString());
+    ui.radioBtnExpTrigger->setToolTip(lines.join(QStringLiteral("<br/>")));
 }
 
 void OrvCamConfigFrameABDialogPrivate::connectHandlers()
@@ -524,6 +580,7 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
     }
     if (param == triggerMode) {
         readTriggerMode();
+        explainTrigger();
     } else if (param == pixelClockParam) {
         readPixelClock();
         showPeriod();
@@ -558,8 +615,6 @@ void OrvCamConfigFrameABDialogPrivate::readTriggerMode()
         isTriggerOn = false;
     else if (triggerMode->IsReadable())
         isTriggerOn = triggerMode->GetIntValue() > 0;
-    ui.radioBtnExpTrigger->setToolTip(
-        isTriggerOn ? QString() : OrvCamConfigFrameABDialog::tr("The trigger is switched off."));
 }
 
 void OrvCamConfigFrameABDialogPrivate::readExposure()
@@ -653,11 +708,8 @@ void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
 
 void OrvCamConfigFrameABDialogPrivate::readDigitalGain()
 {
-    if (isWriting)
-        return;
-    gain = {0, 0};
-    read(coarseGain, &Int::GetValue, gain.coarse);
-    read(fineGain, &Int::GetValue, gain.fine);
+    if (!isWriting)
+        gain = Gain::read(&Int::GetValue, coarseGain, fineGain);
 }
 
 void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
@@ -666,11 +718,8 @@ void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
     slider->setEnabled(isWritable(coarseGain) || isWritable(fineGain));
     if (isWriting || HeldInput::isDrag(slider))
         return;
-    leastGain = mostGain = {0, 0};
-    read(coarseGain, &Int::GetMin, leastGain.coarse);
-    read(fineGain, &Int::GetMin, leastGain.fine);
-    read(coarseGain, &Int::GetMax, mostGain.coarse);
-    read(fineGain, &Int::GetMax, mostGain.fine);
+    leastGain = Gain::read(&Int::GetMin, coarseGain, fineGain);
+    mostGain = Gain::read(&Int::GetMax, coarseGain, fineGain);
 
     const QScopedValueRollback<bool> showing(isShowingGain, true);
     slider->setRange(leastGain.factor(), mostGain.factor());
@@ -734,6 +783,15 @@ bool OrvCamConfigFrameABDialogPrivate::showOnlyTab(int index)
 {
     if (index >= ui.tabFrames->count())
         return true;
+    if (!q->isVisible()) {
+        // Whoever works with the other frame keeps it. This one is selected when it is to be seen.
+        const QSignalBlocker writesNothing(ui.tabFrames);
+        ui.tabFrames->setTabEnabled(index, true);
+        ui.tabFrames->setCurrentIndex(index);
+        ui.tabFrames->setTabEnabled(1 - index, false);
+        placeLayout(index);
+        return true;
+    }
     const Tenure tenure(this);
     const QString mode = ui.cmBoxFrameMode->currentText();
     ui.tabFrames->setTabEnabled(index, true);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigmapper.h"
 
+#include "featuretooltip.h"
 #include "heldinput.h"
 #include "iorvcamconfigintconverter.h"
 #include "qtorvslider.h"
@@ -9,6 +10,7 @@
 #include "qtorvspinboxval.h"
 #include "selectordetour.h"
 #include "valuegrid.h"
+#include "wheelguard.h"
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>
@@ -28,6 +30,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 using OrvGenParam::Boolean;
 using OrvGenParam::Command;
@@ -135,6 +138,18 @@ void setUsable(const OrvCamConfigMapData &record, const Param *param, bool usabl
     }
 }
 
+void explain(const OrvCamConfigMapData &record, const QString &toolTip)
+{
+    if (const QButtonGroup *group = groupOf(record)) {
+        for (QAbstractButton *button : group->buttons())
+            FeatureToolTip::set(button, toolTip);
+    } else if (auto *tabs = qobject_cast<QTabWidget *>(record.control.data())) {
+        FeatureToolTip::set(tabs->tabBar(), toolTip); // the pages would show it all over
+    } else if (record.control && record.type != MapDependent) {
+        FeatureToolTip::set(record.control, toolTip);
+    }
+}
+
 /// Calls the function if parameter and widget are of these kinds.
 template<class Kind, class Widget, class Function>
 void with(Param *param, QObject *control, Function function)
@@ -201,6 +216,9 @@ struct OrvCamConfigMapper::State
     /// What connections of the mapper end with. Null when the mapper is gone.
     std::unique_ptr<QObject> context{new QObject};
     QVector<Showing *> showing;
+    QHash<Param *, QByteArray> registered; ///< with their names: they may be gone
+    QHash<QTabWidget *, QVector<QPointer<QWidget>>> removedPages; ///< the last one first
+    WheelGuard wheelGuard;
 };
 
 OrvCamConfigMapper::Showing::Showing(OrvCamConfigMapper &mapper, QObject *control)
@@ -276,8 +294,10 @@ void OrvCamConfigMapper::OnParameterUpdate(Param *param)
 bool OrvCamConfigMapper::begin(Param *param, const Records &records)
 {
     if (!param) {
-        for (const OrvCamConfigMapData &record : records)
+        for (const OrvCamConfigMapData &record : records) {
             setUsable(record, param, false);
+            explain(record, QString());
+        }
         return false;
     }
     param->UnregisterEventSink(this);
@@ -295,8 +315,13 @@ bool OrvCamConfigMapper::begin(Param *param, const Records &records)
     if (!former.isEmpty())
         unmapControl(former.first().alive());
     Bindings bindings;
-    for (const OrvCamConfigMapData &record : records)
+    const QString toolTip = FeatureToolTip::text(param);
+    for (const OrvCamConfigMapData &record : records) {
         bindings << Binding{record, groupOf(record)};
+        explain(record, toolTip);
+        if (record.control)
+            m_state->wheelGuard.guard(record.control);
+    }
     m_bindings.insert(name, bindings);
     m_params.insert(name, param);
     return true;
@@ -304,6 +329,7 @@ bool OrvCamConfigMapper::begin(Param *param, const Records &records)
 
 void OrvCamConfigMapper::finish(Param *param)
 {
+    m_state->registered.insert(param, param->GetName());
     param->RegisterEventSink(this);
 }
 
@@ -331,6 +357,7 @@ void OrvCamConfigMapper::unmapControl(const OrvCamConfigMapData &record)
 {
     cut(record);
     setUsable(record, nullptr, false);
+    explain(record, QString());
 }
 
 void OrvCamConfigMapper::unmapParam(const QString &name)
@@ -345,6 +372,18 @@ void OrvCamConfigMapper::unmapAll()
 {
     for (const QString &name : m_bindings.keys())
         unmapParam(name);
+    m_state->registered.clear();
+}
+
+void OrvCamConfigMapper::leave(const OrvGenParam::Array &array)
+{
+    const auto registered = std::exchange(m_state->registered, {});
+    for (auto it = registered.begin(); it != registered.end(); ++it) {
+        if (array.GetParam(it.value().constData()) == it.key())
+            it.key()->UnregisterEventSink(this);
+        else
+            m_state->registered.insert(it.key(), it.value());
+    }
 }
 
 void OrvCamConfigMapper::write(QObject *control, const QString &format, const Param *param,
@@ -475,12 +514,7 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QTabWidget *tabs)
 {
     if (!begin(param, {{MapEnumTabs, tabs, nullptr}}))
         return;
-    const int entries = static_cast<int>(param->GetEntryCount());
-    while (tabs->count() > entries) {
-        const int last = tabs->count() - 1;
-        tabs->widget(last)->hide();
-        tabs->removeTab(last);
-    }
+    fitTabCount(tabs, static_cast<int>(param->GetEntryCount()));
     QHash<QString, int> tabOf;
     for (int i = 0; i < tabs->count(); ++i) {
         const EnumEntry *entry = entryAt(param, i);
@@ -500,6 +534,22 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QTabWidget *tabs)
               [=] { return param->SetSymbolicValue(tabs->tabText(index).toUtf8().constData()); });
     });
     finish(param);
+}
+
+/// Removes surplus tabs, after those that a former enumeration had no entries for are back.
+void OrvCamConfigMapper::fitTabCount(QTabWidget *tabs, int entries)
+{
+    QVector<QPointer<QWidget>> &removed = m_state->removedPages[tabs];
+    while (!removed.isEmpty()) {
+        if (QWidget *page = removed.takeLast())
+            tabs->addTab(page, QString());
+    }
+    while (tabs->count() > entries) {
+        const int last = tabs->count() - 1;
+        removed.append(tabs->widget(last));
+        tabs->widget(last)->hide();
+        tabs->removeTab(last);
+    }
 }
 
 void OrvCamConfigMapper::updateTabWidget(Enum *param, QTabWidget *tabs)
@@ -575,9 +625,13 @@ void OrvCamConfigMapper::showText(Int *param, QLineEdit *lineEdit)
     const auto *validator = qobject_cast<const QIntValidator *>(lineEdit->validator());
     const qint64 min = validator ? param->GetMin(&error) : 0;
     const qint64 max = validator && error == OrvCam::Success ? param->GetMax(&error) : 0;
-    if (validator && error == OrvCam::Success)
-        const_cast<QIntValidator *>(validator)->setRange(ValueGrid::toInt(min),
-                                                         ValueGrid::toInt(qMin(max, m_valueCap)));
+    if (validator && error == OrvCam::Success) {
+        const int bottom = ValueGrid::toInt(min);
+        const int top = ValueGrid::toInt(qMin(max, m_valueCap));
+        const_cast<QIntValidator *>(validator)->setRange(bottom, top);
+        FeatureToolTip::set(lineEdit,
+                            FeatureToolTip::text(param, {bottom, top, param->GetInc()}, true));
+    }
     const qint64 value = param->GetValue(&error);
     const bool isTyping = lineEdit->hasFocus() && lineEdit->isModified();
     if (error == OrvCam::Success && !isTyping)
@@ -712,6 +766,9 @@ bool OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
         const int validStep = step ? step : 1;
         if (!showing.isOver() && widget->singleStep() != validStep)
             widget->setSingleStep(validStep);
+        if (!showing.isOver())
+            FeatureToolTip::set(
+                widget, FeatureToolTip::text(param, {min, max, validStep}, converter == nullptr));
     }
     if (valueError == OrvCam::Success && !showing.isOver() && widget->value() != value)
         widget->setValue(value);

@@ -30,6 +30,7 @@ class QtOrvSliderSpinBox;
 class QtOrvSpinBox;
 
 namespace OrvGenParam {
+class Array;
 class Boolean;
 class Command;
 class Enum;
@@ -59,6 +60,10 @@ class IOrvCamConfigIntConverter;
 /// camera's next notification. A drag of a slider is one write, at its end. Showing a value of the
 /// camera never writes one back, yet the widget's signals tell of it as of any change.
 ///
+/// A bound widget and its labels, those of which it is the buddy, get a tool tip with what the
+/// camera says of the feature and with the range, unless they have one of their own. Combo boxes,
+/// spin boxes, sliders and tab bars leave the wheel to what they stand in while they have no focus.
+///
 /// A binding lives until its name is mapped again, it is unmapped, its widget is destroyed or the
 /// mapper is. Parameters must live as long as their widgets can be used; call `unmapAll` before
 /// they go, or have the camera say that they are no longer available. Converters and timers must
@@ -86,7 +91,8 @@ public:
     void mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *buttons);
 
     /// The tabs take the texts of the entries, in this order; those without an entry are removed
-    /// for good. A tab's text is what is written: leave it as it is.
+    /// until an enumeration with more entries is mapped. A tab's text is what is written: leave it
+    /// as it is.
     void mapEnumParam(OrvGenParam::Enum *param, QTabWidget *tabs);
 
     /// With a timer, each click disables the button and starts the timer; whoever gave the timer
@@ -121,6 +127,10 @@ public:
     /// The same for all parameters. Touches widgets only, no parameter.
     void unmapAll();
 
+    /// Has no parameter of the array notify the mapper any more; what is bound stays bound. Call it
+    /// before `unmapAll`, which forgets the parameters.
+    void leave(const OrvGenParam::Array &array);
+
     /// Refresh a widget without a notification of the camera.
     void updateSpinBox(OrvGenParam::Int *param, QtOrvSpinBox *spinBox);
     void updateSliderSpinBox(OrvGenParam::Int *param, QtOrvSliderSpinBox *spinBox,
@@ -148,6 +158,7 @@ private:
     bool begin(OrvGenParam::Param *param, const Records &records);
     void finish(OrvGenParam::Param *param);
     void cut(const OrvCamConfigMapData &record);
+    void fitTabCount(QTabWidget *tabs, int entries);
     void show(const OrvCamConfigMapData &record, OrvGenParam::Param *param);
     void showBoundTo(const QObject *control);
     bool checkCurrentButton(OrvGenParam::Enum *param, QButtonGroup *buttons);

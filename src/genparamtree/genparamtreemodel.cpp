@@ -100,7 +100,10 @@ public:
         std::vector<std::pair<GenApi::IValue *, int>> ancestors;
     };
 
-    explicit FeatureSearch(const GenApi::IValue *value) : m_value(value) {}
+    FeatureSearch(const GenApi::IValue *value, const AcyclicFeatures &features)
+        : m_value(value), m_features(features)
+    {
+    }
 
     Place run(const GenApi::ICategory &top)
     {
@@ -111,8 +114,7 @@ public:
 private:
     bool search(const GenApi::ICategory &category)
     {
-        GenApi::FeatureList_t features;
-        category.GetFeatures(features);
+        const GenApi::FeatureList_t features = m_features.of(category);
         for (size_t row = 0; row < features.size(); ++row) {
             GenApi::IValue *feature = features[row];
             if (feature == m_value) {
@@ -142,6 +144,7 @@ private:
     }
 
     const GenApi::IValue *m_value;
+    const AcyclicFeatures &m_features;
     Place m_place;
     std::vector<std::pair<const std::type_info *, bool>> m_knownTypes;
 };
@@ -156,7 +159,10 @@ void GenParamTreeModelPrivate::Init(GenParamTreeModel *model)
     qRegisterMetaType<QVector<int>>("QVector<int>");
     q = model;
     try {
-        RegisterCallbackForChildren(CategoryFromIndex(QModelIndex()));
+        const GenApi::CCategoryPtr root = CategoryFromIndex(QModelIndex());
+        if (root)
+            features.cutCircles(*root);
+        RegisterCallbackForChildren(root);
     } catch (...) {
         DeRegisterCallbacks();
         throw;
@@ -180,13 +186,12 @@ void GenParamTreeModelPrivate::RegisterCallbackForChildren(const GenApi::CCatego
     if (!category)
         return;
 
-    GenApi::FeatureList_t features;
-    category->GetFeatures(features);
-    for (size_t i = 0; i < features.size(); ++i) {
-        callbackHandles.push_back(GenApi::Register(features[i]->GetNode(), *this,
+    const GenApi::FeatureList_t children = features.of(*category);
+    for (size_t i = 0; i < children.size(); ++i) {
+        callbackHandles.push_back(GenApi::Register(children[i]->GetNode(), *this,
                                                    &GenParamTreeModelPrivate::NodeCallback,
                                                    GenApi::cbPostOutsideLock));
-        RegisterCallbackForChildren(GenApi::CCategoryPtr(features[i]));
+        RegisterCallbackForChildren(GenApi::CCategoryPtr(children[i]));
     }
 }
 
@@ -214,7 +219,7 @@ QModelIndex GenParamTreeModelPrivate::findIndexByValueClass(const GenApi::IValue
     if (!category)
         return QModelIndex();
 
-    const FeatureSearch::Place place = FeatureSearch(value).run(*category);
+    const FeatureSearch::Place place = FeatureSearch(value, features).run(*category);
     if (!place.found)
         return QModelIndex();
     if (column >= 0)
@@ -236,13 +241,12 @@ QModelIndex GenParamTreeModelPrivate::parentOf(const GenApi::IValue *value) cons
 void GenParamTreeModelPrivate::fillParents(const GenApi::ICategory &category,
                                            GenApi::IValue *parent, int parentRow)
 {
-    GenApi::FeatureList_t features;
-    category.GetFeatures(features);
-    for (size_t row = 0; row < features.size(); ++row) {
-        GenApi::IValue *feature = features[row];
-        parents.emplace(feature, Parent{parent, parentRow});
-        if (feature->GetNode()->GetPrincipalInterfaceType() == GenApi::intfICategory)
-            fillParents(*GenApi::CCategoryPtr(feature), feature, static_cast<int>(row));
+    const GenApi::FeatureList_t children = features.of(category);
+    for (size_t row = 0; row < children.size(); ++row) {
+        GenApi::IValue *child = children[row];
+        parents.emplace(child, Parent{parent, parentRow});
+        if (const GenApi::CCategoryPtr childCategory{child})
+            fillParents(*childCategory, child, static_cast<int>(row));
     }
 }
 
@@ -337,13 +341,8 @@ bool GenParamTreeModelPrivate::write(GenApi::IValue *value, const QVariant &data
 
 GenParamTreeModel::ParentTable::ParentTable(const GenParamTreeModel &model) : m_model(model)
 {
-    try {
-        if (const GenApi::CCategoryPtr root = model.d->CategoryFromIndex(QModelIndex()))
-            model.d->fillParents(*root, nullptr, -1);
-    } catch (...) {
-        model.d->parents.clear();
-        throw;
-    }
+    if (const GenApi::CCategoryPtr root = model.d->CategoryFromIndex(QModelIndex()))
+        model.d->fillParents(*root, nullptr, -1);
 }
 
 GenParamTreeModel::ParentTable::~ParentTable()
@@ -381,8 +380,7 @@ QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &par
     if (!category)
         return QModelIndex();
 
-    GenApi::FeatureList_t features;
-    category->GetFeatures(features);
+    const GenApi::FeatureList_t features = d->features.of(*category);
     if (static_cast<size_t>(row) >= features.size())
         return QModelIndex();
     return createIndex(row, column, features[static_cast<size_t>(row)]);
@@ -399,11 +397,7 @@ int GenParamTreeModel::rowCount(const QModelIndex &parent) const
     if (parent.column() > nameColumn)
         return 0;
     const GenApi::CCategoryPtr category = d->CategoryFromIndex(parent);
-    if (!category)
-        return 0;
-    GenApi::FeatureList_t features;
-    category->GetFeatures(features);
-    return static_cast<int>(features.size());
+    return category ? static_cast<int>(d->features.of(*category).size()) : 0;
 }
 
 int GenParamTreeModel::columnCount(const QModelIndex &parent) const

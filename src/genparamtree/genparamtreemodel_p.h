@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "acyclicfeatures.h"
 #include "genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>
@@ -54,6 +55,7 @@ public:
 
     GenParamTreeModel *q = nullptr;
     GenApi::INodeMap *nodeMap = nullptr;
+    AcyclicFeatures features;
     std::vector<GenApi::CallbackHandleType> callbackHandles;
     std::unordered_map<const GenApi::IValue *, Parent> parents; ///< empty but for a `ParentTable`
 };

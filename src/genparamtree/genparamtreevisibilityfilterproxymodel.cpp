@@ -3,6 +3,7 @@
 
 #include "genparamtreemodel.h"
 
+#include <Base/GCException.h>
 #include <GenApi/INode.h>
 
 #include <memory>
@@ -27,5 +28,9 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow,
 {
     const QModelIndex source = sourceModel()->index(sourceRow, 0, sourceParent);
     auto *value = source.data(Qt::UserRole).value<GenApi::IValue *>();
-    return !value || value->GetNode()->GetVisibility() <= m_filterVisibility;
+    try {
+        return !value || value->GetNode()->GetVisibility() <= m_filterVisibility;
+    } catch (const GenICam::GenericException &) {
+        return true; // Qt's proxy would be left half filtered
+    }
 }

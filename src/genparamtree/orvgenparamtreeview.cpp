@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "orvgenparamtreeview.h"
 
-#include "genparamdelegate.h"
+#include "featurenamedelegate.h"
 #include "genparamtreemodel.h"
 #include "genparamtreevisibilityfilterproxymodel.h"
+#include "safedelegate.h"
 #include "treeviewresizer.h"
 #include "ui_genparamtreeview.h"
 
@@ -11,10 +12,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLineEdit>
-#include <QMetaProperty>
 #include <QPointer>
-#include <QSignalBlocker>
 #include <QSplitter>
 
 #include <cstddef>
@@ -31,11 +29,6 @@ const char widthMark[] = "&amp;W";
 const char visibilityMark[] = "&amp;V";
 const char pathSeparator[] = "/";
 
-/// The property of an editor that holds what the tree has filled it with.
-const char knownContent[] = "knownContent";
-/// The property of an editor that is set while the tree fills it.
-const char isBeingFilled[] = "isBeingFilled";
-
 const int nameColumn = 0;
 const int valueColumn = 1;
 
@@ -43,14 +36,21 @@ const int valueColumn = 1;
 const int treePaneSize = 1000;
 const int otherPaneSize = 10;
 
-GenApi::CValuePtr valueOf(const QModelIndex &index)
+/// Null for an index without a feature.
+GenApi::IValue *featureOf(const QModelIndex &index)
 {
-    return GenApi::CValuePtr(index.data(Qt::UserRole).value<GenApi::IValue *>());
+    return index.data(Qt::UserRole).value<GenApi::IValue *>();
 }
 
+/// Throws for an index without a feature.
 bool isCategory(const QModelIndex &index)
 {
-    return valueOf(index)->GetNode()->GetPrincipalInterfaceType() == GenApi::intfICategory;
+    GenApi::INode *node = GenApi::CValuePtr(featureOf(index))->GetNode();
+    try {
+        return node->GetPrincipalInterfaceType() == GenApi::intfICategory;
+    } catch (const GenICam::GenericException &) {
+        return false;
+    }
 }
 
 std::string displayName(const QModelIndex &index)
@@ -68,130 +68,6 @@ bool numberAfter(const std::string &text, const std::string &mark, int *number)
     *number = std::stoi(text.substr(position + mark.size()));
     return true;
 }
-
-/// The editors of the tree, which opens one wherever the current cell goes: only what the user has
-/// changed is written. And the failure of a node is kept out of Qt's event loop, which cannot
-/// handle it: such a node gets no editor, or one without its current value.
-class SafeDelegate : public GenParamDelegate
-{
-public:
-    using GenParamDelegate::GenParamDelegate;
-
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
-                          const QModelIndex &index) const override
-    {
-        try {
-            QWidget *editor = GenParamDelegate::createEditor(parent, option, index);
-            if (editor)
-                prepare(editor);
-            return editor;
-        } catch (const GenICam::GenericException &) {
-            return nullptr;
-        }
-    }
-
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override
-    {
-        const QPointer<QWidget> alive(editor);
-        if (fill(editor, index)) {
-            if (alive)
-                rememberContent(editor);
-        } else if (auto *comboBox = qobject_cast<QComboBox *>(alive.data())) {
-            openList(comboBox);
-        }
-    }
-
-    void setModelData(QWidget *editor, QAbstractItemModel *model,
-                      const QModelIndex &index) const override
-    {
-        if (isChanged(editor))
-            GenParamDelegate::setModelData(editor, model, index);
-    }
-
-private:
-    /// Until it is filled, a list has no current entry: any choice is a change then.
-    static void prepare(QWidget *editor)
-    {
-        if (auto *comboBox = qobject_cast<QComboBox *>(editor)) {
-            const QSignalBlocker blocker(comboBox);
-            comboBox->setCurrentIndex(-1);
-        }
-        rememberContent(editor);
-
-        auto *lineEdit = qobject_cast<QLineEdit *>(editor);
-        if (!lineEdit)
-            lineEdit = editor->findChild<QLineEdit *>();
-        if (!lineEdit)
-            return;
-        // Who types what was there already wants it written.
-        connect(lineEdit, &QLineEdit::textEdited, editor, [lineEdit, editor] {
-            if (lineEdit->hasAcceptableInput())
-                editor->setProperty(knownContent, QVariant());
-        });
-    }
-
-    /// False, and the editor as it was, when there is no value to fill it with.
-    bool fill(QWidget *editor, const QModelIndex &index) const
-    {
-        try {
-            // The model has a text in place of a value that is not readable.
-            if (!GenApi::IsReadable(valueOf(index)->GetAccessMode()))
-                return false;
-            const Filling filling(editor);
-            GenParamDelegate::setEditorData(editor, index);
-            return true;
-        } catch (const GenICam::GenericException &) {
-            return false;
-        }
-    }
-
-    static QVariant content(const QWidget *editor)
-    {
-        return editor->metaObject()->userProperty().read(editor);
-    }
-
-    static void rememberContent(QWidget *editor)
-    {
-        editor->setProperty(knownContent, content(editor));
-    }
-
-    static bool isChanged(const QWidget *editor)
-    {
-        // A list ends its editing whenever its entry changes, even if the camera changed it.
-        if (editor->property(isBeingFilled).toBool())
-            return false;
-        const auto *lineEdit = qobject_cast<const QLineEdit *>(editor);
-        if (lineEdit && !lineEdit->hasAcceptableInput())
-            return false;
-        const QVariant known = editor->property(knownContent);
-        return editor->isWindowModified() || !known.isValid() || !isSame(content(editor), known);
-    }
-
-    // Comparing variants takes neighbouring floating-point numbers for equal.
-    static bool isSame(const QVariant &a, const QVariant &b)
-    {
-        return a.userType() == QMetaType::Double ? a.toDouble() == b.toDouble() : a == b;
-    }
-
-    /// Marks an editor that is being filled; it may go meanwhile.
-    class Filling
-    {
-    public:
-        explicit Filling(QWidget *editor) : m_editor(editor) { mark(true); }
-        ~Filling() { mark(false); }
-        Filling(const Filling &) = delete;
-        Filling &operator=(const Filling &) = delete;
-
-    private:
-        void mark(bool on)
-        {
-            if (m_editor)
-                m_editor->setProperty(isBeingFilled, on);
-        }
-
-        QPointer<QWidget> m_editor;
-    };
-};
 
 } // namespace
 
@@ -234,6 +110,7 @@ void OrvGenParamTreeViewPrivate::Init(OrvGenParamTreeView *view, Source *source)
     ui->setupUi(q);
     buildSplitter();
     setModel(source);
+    ui->treeView->setItemDelegate(new FeatureNameDelegate(q));
     ui->treeView->setItemDelegateForColumn(valueColumn, new SafeDelegate(q));
     watchFirstShow();
 }
@@ -273,7 +150,7 @@ void OrvGenParamTreeViewPrivate::setModel(std::nullptr_t)
         installModel(nullptr);
         delete model;
     }
-    ui->whatsThisLabel->setText(QString());
+    describeCurrent();
 }
 
 // With every model, even with none, Qt makes selection models for the tree and for its header, and
@@ -306,6 +183,10 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     installModel(proxy);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
+    QObject::connect(proxy, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {
+        if (featureOf(cell) == featureOf(ui->treeView->currentIndex()))
+            describeCurrent();
+    });
     const auto levelChanged =
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
     QObject::connect(ui->cbVisibility, levelChanged, proxy, [this, proxy] { applyLevel(proxy); });
@@ -367,6 +248,8 @@ void OrvGenParamTreeViewPrivate::forgetExpandedLeaves(const QModelIndex &parent)
     const int rows = model->rowCount(parent);
     for (int row = 0; row < rows; ++row) {
         const QModelIndex index = model->index(row, nameColumn, parent);
+        if (!featureOf(index)) // its category has fewer features now
+            continue;
         if (isCategory(index))
             forgetExpandedLeaves(index);
         else if (ui->treeView->isExpanded(index))
@@ -376,8 +259,7 @@ void OrvGenParamTreeViewPrivate::forgetExpandedLeaves(const QModelIndex &parent)
 
 void OrvGenParamTreeViewPrivate::describeCurrent()
 {
-    const QModelIndex current = ui->treeView->currentIndex();
-    ui->whatsThisLabel->setText(current.data(Qt::WhatsThisRole).toString());
+    ui->whatsThisLabel->describe(featureOf(ui->treeView->currentIndex()));
 }
 
 void OrvGenParamTreeViewPrivate::saveState()

@@ -10,6 +10,14 @@
 
 namespace {
 
+/// How the camera's own texts are put into a description.
+typedef QString (*CameraText)(const GenICam::gcstring &);
+
+QString escaped(const GenICam::gcstring &text)
+{
+    return fromUtf8OrLatin1(text).toHtmlEscaped();
+}
+
 QString typeName(GenApi::EInterfaceType type)
 {
     switch (type) {
@@ -30,7 +38,7 @@ QString typeName(GenApi::EInterfaceType type)
     }
 }
 
-QStringList selectorNames(GenApi::IValue *value)
+QStringList selectorNames(GenApi::IValue *value, CameraText cameraText)
 {
     QStringList names;
     const GenApi::CSelectorPtr selected(value);
@@ -39,7 +47,7 @@ QStringList selectorNames(GenApi::IValue *value)
     GenApi::FeatureList_t selectors;
     selected->GetSelectingFeatures(selectors);
     for (size_t i = 0; i < selectors.size(); ++i)
-        names.append(fromLatin1(selectors[i]->GetNode()->GetDisplayName()));
+        names.append(cameraText(selectors[i]->GetNode()->GetDisplayName()));
     return names;
 }
 
@@ -98,7 +106,7 @@ QStringList numberLines(Number &number)
     return lines;
 }
 
-QStringList entryLines(GenApi::IEnumeration &enumeration)
+QStringList entryLines(GenApi::IEnumeration &enumeration, CameraText cameraText)
 {
     QStringList lines(GenParamTreeModel::tr("<i>Enumeration entries</i>:"));
     GenApi::NodeList_t entries;
@@ -108,12 +116,13 @@ QStringList entryLines(GenApi::IEnumeration &enumeration)
         const qlonglong value = entry->GetValue();
         const QString hex = QString::number(value, 16).rightJustified(8, QLatin1Char('0'));
         lines.append(GenParamTreeModel::tr("\"%1\": %2 (0x%3)")
-                         .arg(fromLatin1(entry->GetSymbolic()), QString::number(value), hex));
+                         .arg(cameraText(entry->GetSymbolic()), QString::number(value), hex));
     }
     return lines;
 }
 
-QStringList typeSpecificLines(GenApi::IValue *value, GenApi::EInterfaceType type)
+QStringList typeSpecificLines(GenApi::IValue *value, GenApi::EInterfaceType type,
+                              CameraText cameraText)
 {
     switch (type) {
     case GenApi::intfIInteger:
@@ -121,33 +130,47 @@ QStringList typeSpecificLines(GenApi::IValue *value, GenApi::EInterfaceType type
     case GenApi::intfIFloat:
         return numberLines(*GenApi::CFloatPtr(value));
     case GenApi::intfIEnumeration:
-        return entryLines(*GenApi::CEnumerationPtr(value));
+        return entryLines(*GenApi::CEnumerationPtr(value), cameraText);
     default:
         return QStringList();
     }
+}
+
+QString describe(GenApi::IValue *value, CameraText cameraText)
+{
+    const GenApi::CNodePtr node(value->GetNode());
+    const GenApi::EInterfaceType type = node->GetPrincipalInterfaceType();
+
+    QStringList lines;
+    lines.append(GenParamTreeModel::tr("<i>Name:</i> %1").arg(cameraText(node->GetDisplayName())));
+    const QString typeText = typeName(type);
+    if (!typeText.isEmpty())
+        lines.append(GenParamTreeModel::tr("<i>Type:</i> %1").arg(typeText));
+    const QStringList selectors = selectorNames(value, cameraText);
+    if (!selectors.isEmpty())
+        lines.append(
+            GenParamTreeModel::tr("<i>Selectors:</i> %1").arg(selectors.join(QLatin1Char(','))));
+    lines.append(
+        GenParamTreeModel::tr("<i>Description:</i> %1").arg(cameraText(node->GetDescription())));
+    const QString streamable =
+        node->IsStreamable() ? GenParamTreeModel::tr("True") : GenParamTreeModel::tr("False");
+    lines.append(GenParamTreeModel::tr("<i>Streamable:</i> %1").arg(streamable));
+    lines.append(typeSpecificLines(value, type, cameraText));
+    return lines.join(QLatin1String("<br />"));
 }
 
 } // namespace
 
 QString parameterDescription(GenApi::IValue *value)
 {
-    const GenApi::CNodePtr node(value->GetNode());
-    const GenApi::EInterfaceType type = node->GetPrincipalInterfaceType();
+    return describe(value, fromLatin1);
+}
 
-    QStringList lines;
-    lines.append(GenParamTreeModel::tr("<i>Name:</i> %1").arg(fromLatin1(node->GetDisplayName())));
-    const QString typeText = typeName(type);
-    if (!typeText.isEmpty())
-        lines.append(GenParamTreeModel::tr("<i>Type:</i> %1").arg(typeText));
-    const QStringList selectors = selectorNames(value);
-    if (!selectors.isEmpty())
-        lines.append(
-            GenParamTreeModel::tr("<i>Selectors:</i> %1").arg(selectors.join(QLatin1Char(','))));
-    lines.append(
-        GenParamTreeModel::tr("<i>Description:</i> %1").arg(fromLatin1(node->GetDescription())));
-    const QString streamable =
-        node->IsStreamable() ? GenParamTreeModel::tr("True") : GenParamTreeModel::tr("False");
-    lines.append(GenParamTreeModel::tr("<i>Streamable:</i> %1").arg(streamable));
-    lines.append(typeSpecificLines(value, type));
-    return lines.join(QLatin1String("<br />"));
+QString escapedDescription(GenApi::IValue *value)
+{
+    try {
+        return describe(value, escaped);
+    } catch (const GenICam::GenericException &) {
+        return QString();
+    }
 }

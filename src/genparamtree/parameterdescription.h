@@ -8,6 +8,11 @@
 /// What there is to know of a feature, in rich text: name, type, selectors, description, whether it
 /// is streamable, and its limits, valid values or entries. One line each, separated by line breaks.
 ///
-/// Made for the description panel of the parameter tree. GenICam exceptions are the caller's: a
-/// description is whole or not there.
+/// The camera's own texts stand in it byte by byte, as Latin-1, and are not escaped: show
+/// `escapedDescription` where text is laid out. GenICam exceptions are the caller's: a description
+/// is whole or not there.
 QString parameterDescription(GenApi::IValue *value);
+
+/// The same lines to be shown as rich text: the camera's own texts are decoded as UTF-8 where they
+/// are valid UTF-8, and no markup. Empty for a feature that cannot be described.
+QString escapedDescription(GenApi::IValue *value);

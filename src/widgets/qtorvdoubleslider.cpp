@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qtorvdoubleslider.h"
 
+#include "numbertext.h"
 #include "sliderface.h"
 #include "valueaccessibility.h"
 #include "valuegrid.h"
@@ -8,6 +9,9 @@
 #include <QEvent>
 #include <QLabel>
 #include <QSlider>
+
+#include <cmath>
+#include <limits>
 
 // A QObject so that its connections end with it, before the inner slider goes.
 class QtOrvDoubleSliderPrivate : public QObject, public SliderFace
@@ -21,6 +25,7 @@ public:
 
     void writeLabels();
     void setInnerRange();
+    void place(double value);
 
     QtOrvDoubleSlider *owner;
     Qt::Orientation orientation;
@@ -30,6 +35,12 @@ public:
     double maximum = 0.0;
     double singleStep = 1.0;
     quint32 rangeChanges = 0;
+
+    // More than 1 where there are more steps than positions. The value last set is kept then, as
+    // long as the slider stands where it has been put.
+    double stepsPerPosition = 1.0;
+    double placedValue = 0.0;
+    int placedPosition = -1;
 };
 
 QtOrvDoubleSliderPrivate::QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *q, Qt::Orientation o)
@@ -53,11 +64,13 @@ double QtOrvDoubleSliderPrivate::snapped(double value) const
 
 double QtOrvDoubleSliderPrivate::valueOf(int position) const
 {
+    if (position == placedPosition)
+        return placedValue;
     if (position == slider->minimum())
         return minimum;
     if (position == slider->maximum())
         return maximum;
-    return snapped(minimum + singleStep * position);
+    return snapped(minimum + singleStep * std::floor(position * stepsPerPosition + 0.5));
 }
 
 int QtOrvDoubleSliderPrivate::positionOf(double value) const
@@ -66,21 +79,38 @@ int QtOrvDoubleSliderPrivate::positionOf(double value) const
         return slider->minimum();
     if (value == maximum)
         return slider->maximum();
-    return ValueGrid::toInt((snapped(value) - minimum) / singleStep + 0.5);
+    const double steps = (snapped(value) - minimum) / singleStep;
+    return ValueGrid::toInt(steps / stepsPerPosition + 0.5);
 }
 
 void QtOrvDoubleSliderPrivate::writeLabels()
 {
-    minLabel->setText(QString::number(minimum, 'f', decimals));
-    maxLabel->setText(QString::number(maximum, 'f', decimals));
+    minLabel->setText(NumberText::of(minimum, decimals, slider->locale()));
+    maxLabel->setText(NumberText::of(maximum, decimals, slider->locale()));
 }
 
 void QtOrvDoubleSliderPrivate::setInnerRange()
 {
-    int highest = ValueGrid::toInt((maximum - minimum) / singleStep + 0.5);
+    constexpr int mostPositions = std::numeric_limits<int>::max();
+    const double steps = (maximum - minimum) / singleStep;
+    placedPosition = -1;
+    stepsPerPosition = std::isfinite(steps) ? qMax(1.0, steps / mostPositions) : 1.0;
+    int highest = ValueGrid::toInt(steps + 0.5);
     if (minimum + singleStep * highest < maximum)
         highest = ValueGrid::toInt(qint64(highest) + 1);
     slider->setRange(0, highest);
+}
+
+void QtOrvDoubleSliderPrivate::place(double value)
+{
+    const int position = positionOf(value);
+    placedPosition = -1;
+    if (stepsPerPosition > 1.0 && value > minimum && value < maximum) {
+        const double steps = std::floor((snapped(value) - minimum) / singleStep + 0.5);
+        placedValue = qMin(minimum + singleStep * steps, maximum);
+        placedPosition = position;
+    }
+    slider->setValue(position);
 }
 
 QtOrvDoubleSlider::QtOrvDoubleSlider(QWidget *parent) : QtOrvDoubleSlider(Qt::Vertical, parent) {}
@@ -142,7 +172,7 @@ double QtOrvDoubleSlider::maximum() const
 
 void QtOrvDoubleSlider::setValue(double value)
 {
-    d->slider->setValue(d->positionOf(value));
+    d->place(value);
 }
 
 double QtOrvDoubleSlider::value() const
@@ -247,6 +277,8 @@ bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
     d->endUnseenInput(event);
     if (event->type() == QEvent::LayoutDirectionChange)
         d->alignLabels();
+    if (event->type() == QEvent::LocaleChange)
+        d->writeLabels();
     if (event->type() != QEvent::FocusOut)
         return QFrame::eventFilter(watched, event);
 

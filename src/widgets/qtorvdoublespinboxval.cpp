@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qtorvdoublespinboxval.h"
 
+#include "numbertext.h"
 #include "valueaccessibility.h"
 #include "valuegrid.h"
 
@@ -11,6 +12,8 @@
 QtOrvDoubleSpinBoxVal::QtOrvDoubleSpinBoxVal(QWidget *parent) : QDoubleSpinBox(parent)
 {
     ValueAccessibility::install();
+    connect(lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString &typed) { m_typedText = typed; });
 }
 
 void QtOrvDoubleSpinBoxVal::setValidate(bool on)
@@ -61,6 +64,7 @@ void QtOrvDoubleSpinBoxVal::stepBy(int steps)
 
 QValidator::State QtOrvDoubleSpinBoxVal::validate(QString &input, int &pos) const
 {
+    NumberText::localizePoint(this, input);
     const QValidator::State state = QDoubleSpinBox::validate(input, pos);
     return m_validateTyping ? state : qMin(state, QValidator::Intermediate);
 }
@@ -73,14 +77,47 @@ void QtOrvDoubleSpinBoxVal::setValue(double value)
 void QtOrvDoubleSpinBoxVal::keyPressEvent(QKeyEvent *event)
 {
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    bool ok = false;
     double number = 0.0;
-    if (enters && !m_validateTyping && singleStep() != 0.0)
-        number = lineEdit()->text().toDouble(&ok);
-    if (!ok) {
+    if (enters && isReadOnly()) {
+        event->ignore();
+    } else if (enters && !m_validateTyping && singleStep() != 0.0 &&
+               NumberText::read(this, text(), &number)) {
+        setValue(number);
+        event->accept();
+    } else {
+        if (event->key() == Qt::Key_Escape && isTextPending())
+            QDoubleSpinBox::setValue(value());
         QDoubleSpinBox::keyPressEvent(event);
+    }
+}
+
+void QtOrvDoubleSpinBoxVal::focusOutEvent(QFocusEvent *event)
+{
+    // The focus that a menu borrows comes back.
+    if (event->reason() == Qt::PopupFocusReason && hasFocus()) {
+        lineEdit()->event(event);
         return;
     }
-    setValue(number);
-    event->accept();
+    if (isTextPending())
+        finishTyping();
+    QDoubleSpinBox::focusOutEvent(event);
+}
+
+bool QtOrvDoubleSpinBoxVal::isTextPending() const
+{
+    return !m_typedText.isEmpty() && text() == m_typedText;
+}
+
+void QtOrvDoubleSpinBoxVal::finishTyping()
+{
+    if (!isEnabled() || isReadOnly()) {
+        QDoubleSpinBox::setValue(value());
+        return;
+    }
+    QString input = text();
+    int pos = input.size();
+    double number = 0.0;
+    if (!m_validateTyping && QDoubleSpinBox::validate(input, pos) == QValidator::Acceptable &&
+        NumberText::read(this, cleanText(), &number) && number != value())
+        setValue(number);
 }

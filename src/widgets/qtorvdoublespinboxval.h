@@ -11,9 +11,10 @@
  *
  * Use it for an exposure time in steps of the sensor's line time, for instance. Two independent
  * switches shape it: with validation on, every value set is snapped to the grid (its two ends are
- * always allowed); with typing validation off, what is typed counts only on Return or Enter, so
- * that a camera does not see the numbers in between. What is entered so is read with a decimal
- * point, whatever the locale. With a single step of 0 Return and Enter are left to QDoubleSpinBox.
+ * always allowed); with typing validation off, what is typed counts only on Return or Enter or
+ * when the focus leaves, so that a camera does not see the numbers in between. Escape takes it
+ * back. A decimal point is accepted beside the locale's sign. With a single step of 0 Return and
+ * Enter are left to QDoubleSpinBox.
  *
  * Use it on the GUI thread only.
  */
@@ -34,7 +35,7 @@ public:
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is entered. */
+    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 
@@ -57,8 +58,13 @@ public Q_SLOTS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    bool isTextPending() const;
+    void finishTyping();
+
+    QString m_typedText;
     bool m_validate = false;
     bool m_validateTyping = true;
 };

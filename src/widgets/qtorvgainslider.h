@@ -67,7 +67,7 @@ public:
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is entered. */
+    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 

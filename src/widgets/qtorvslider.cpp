@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qtorvslider.h"
 
+#include "numbertext.h"
 #include "sliderface.h"
 #include "valueaccessibility.h"
 #include "valuegrid.h"
@@ -24,7 +25,9 @@ public:
     int positionOf(int value) const;
     int currentValue() const { return valueOf(slider->value()); }
 
+    void writeLabels();
     void setInnerRange();
+    void setInnerStep();
     void place(int value);
     void listen();
     void positionChanged(int position);
@@ -33,6 +36,7 @@ public:
 
     enum KeyStep { NoStep = 0, StepUp = 1, StepDown = 2 };
     KeyStep keyStepOf(int key) const;
+    void noteKey(int key);
 
     QtOrvSlider *owner;
     Qt::Orientation orientation;
@@ -47,7 +51,7 @@ public:
     int lastValue = 0;
     QMetaObject::Connection valueConnection;
     KeyStep pendingKeyStep = NoStep;
-    int valueBeforeKey = 0; // a new range may have made it another one than the last announced
+    int valueBeforeKey = 0;
 };
 
 QtOrvSliderPrivate::QtOrvSliderPrivate(QtOrvSlider *q, Qt::Orientation o)
@@ -90,6 +94,12 @@ int QtOrvSliderPrivate::positionOf(int value) const
     return ValueGrid::toInt(std::log10(distance + logOffset) * log10Coef + 0.5);
 }
 
+void QtOrvSliderPrivate::writeLabels()
+{
+    minLabel->setText(NumberText::of(minimum, slider->locale()));
+    maxLabel->setText(NumberText::of(maximum, slider->locale()));
+}
+
 void QtOrvSliderPrivate::setInnerRange()
 {
     pendingKeyStep = NoStep;
@@ -113,6 +123,13 @@ void QtOrvSliderPrivate::setInnerRange()
     slider->setRange(lowest, highest);
 }
 
+void QtOrvSliderPrivate::setInnerStep()
+{
+    // QSlider takes the absolute value, which the lowest int does not have.
+    const int innerStep = qMax(singleStep, -std::numeric_limits<int>::max());
+    slider->setSingleStep(scaleType == QtOrvSlider::ScaleLinear ? innerStep : 1);
+}
+
 void QtOrvSliderPrivate::place(int value)
 {
     // Only the move that a key makes may be stretched to a whole step.
@@ -131,7 +148,8 @@ void QtOrvSliderPrivate::positionChanged(int position)
 {
     const KeyStep keyStep = std::exchange(pendingKeyStep, NoStep);
     const int value = valueOf(position);
-    if (keyStep != NoStep && value == valueBeforeKey && scaleType != QtOrvSlider::ScaleLinear)
+    const bool isStill = value == valueBeforeKey || value == lastValue;
+    if (keyStep != NoStep && isStill && scaleType != QtOrvSlider::ScaleLinear)
         moveOneStep(value, keyStep == StepUp ? 1 : -1);
     else if (value != lastValue)
         announce(value);
@@ -140,10 +158,13 @@ void QtOrvSliderPrivate::positionChanged(int position)
 void QtOrvSliderPrivate::moveOneStep(int from, int sign)
 {
     const int stepped = ValueGrid::toInt(from + qint64(sign) * singleStep);
-    const int value = qMax(minimum, qMin(stepped, maximum));
+    int value = snapped(qMax(minimum, qMin(stepped, maximum)));
     disconnect(valueConnection);
     place(value);
     listen();
+    // From an end of its travel no further key would move the slider.
+    if (slider->value() == (sign > 0 ? slider->maximum() : slider->minimum()))
+        value = sign > 0 ? maximum : minimum;
     if (value != lastValue)
         announce(value);
 }
@@ -174,6 +195,15 @@ QtOrvSliderPrivate::KeyStep QtOrvSliderPrivate::keyStepOf(int key) const
     }
 }
 
+void QtOrvSliderPrivate::noteKey(int key)
+{
+    pendingKeyStep = keyStepOf(key);
+    // A position that stands for several values stands for the one announced, unless a new range
+    // or scale has come in between.
+    const bool isAnnounced = positionOf(lastValue) == slider->value();
+    valueBeforeKey = isAnnounced ? snapped(lastValue) : currentValue();
+}
+
 QtOrvSlider::QtOrvSlider(QWidget *parent) : QtOrvSlider(Qt::Vertical, parent) {}
 
 QtOrvSlider::QtOrvSlider(Qt::Orientation orientation, QWidget *parent)
@@ -200,8 +230,7 @@ void QtOrvSlider::setRange(int min, int max)
     const int kept = d->currentValue();
     d->minimum = min;
     d->maximum = max;
-    d->minLabel->setText(QString::number(min));
-    d->maxLabel->setText(QString::number(max));
+    d->writeLabels();
     d->setInnerRange();
     // Whoever listens may have set another range, which has been announced then.
     const auto isCurrent = [=] { return d->minimum == min && d->maximum == max; };
@@ -246,9 +275,7 @@ void QtOrvSlider::setSingleStep(int step)
 {
     const int kept = d->currentValue();
     d->singleStep = step;
-    // QSlider takes the absolute value, which the lowest int does not have.
-    const int innerStep = qMax(step, -std::numeric_limits<int>::max());
-    d->slider->setSingleStep(d->scaleType == ScaleLinear ? innerStep : 1);
+    d->setInnerStep();
     d->place(kept);
 }
 
@@ -262,6 +289,7 @@ void QtOrvSlider::setScaleType(ScaleType type)
     const int kept = d->currentValue();
     d->scaleType = type;
     d->setInnerRange();
+    d->setInnerStep();
     d->place(kept);
 }
 
@@ -362,11 +390,13 @@ bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
         emit focusOut();
         return true;
     case QEvent::KeyPress:
-        d->pendingKeyStep = d->keyStepOf(static_cast<QKeyEvent *>(event)->key());
-        d->valueBeforeKey = d->currentValue();
+        d->noteKey(static_cast<QKeyEvent *>(event)->key());
         break;
     case QEvent::LayoutDirectionChange:
         d->alignLabels();
+        break;
+    case QEvent::LocaleChange:
+        d->writeLabels();
         break;
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:

@@ -40,6 +40,16 @@ int QtOrvSliderSpinBox::value() const
     return d->spinBox->value();
 }
 
+void QtOrvSliderSpinBox::setScaleType(QtOrvSlider::ScaleType type)
+{
+    d->setScaleType(type);
+}
+
+QtOrvSlider::ScaleType QtOrvSliderSpinBox::scaleType() const
+{
+    return d->slider->scaleType();
+}
+
 void QtOrvSliderSpinBox::setRange(int min, int max)
 {
     d->setRange(min, max);

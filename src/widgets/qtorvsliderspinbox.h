@@ -3,12 +3,12 @@
 #define QTORVSLIDERSPINBOX_H
 
 #include "orvcameraguiapi_export.h"
+#include "qtorvslider.h"
 
 #include <QScopedPointer>
 #include <QWidget>
 
 class QLabel;
-class QtOrvSlider;
 class QtOrvSliderSpinBoxPrivate;
 class QtOrvSpinBoxVal;
 
@@ -19,8 +19,7 @@ class QtOrvSpinBoxVal;
  * Use it where a value is found by moving it (a delay, a width). Spin box and slider stay in step.
  * While the user drags the slider the spin box follows, but the value counts as changed only by
  * what comes after the release. Where the scale of the slider is not linear the spin box holds the
- * exact value and the slider stands at the position next to it. Set the scale before range and
- * value: a new scale re-places what the slider shows, and that becomes the value.
+ * exact value and the slider stands at the position next to it.
  *
  * Use it on the GUI thread only.
  */
@@ -30,6 +29,7 @@ class ORVCAMERAGUIAPI_EXPORT QtOrvSliderSpinBox : public QWidget
     Q_CLASSINFO("version", "1.0.1")
     Q_CLASSINFO("date", "06/30/16")
     Q_CLASSINFO("author", "The OrvCameraGuiApi developers")
+    Q_PROPERTY(QtOrvSlider::ScaleType scaleType READ scaleType WRITE setScaleType)
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
@@ -47,6 +47,10 @@ public:
     /** The value of the spin box. */
     int value() const;
 
+    /** The scale of the slider, linear at first. A new one keeps the value. */
+    void setScaleType(QtOrvSlider::ScaleType type);
+    QtOrvSlider::ScaleType scaleType() const;
+
     /** Sets one end and keeps the other. */
     void setMinimum(int min);
     void setMaximum(int max);
@@ -61,7 +65,7 @@ public:
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is entered. */
+    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 

@@ -6,22 +6,46 @@
 #include "valuepair.h"
 
 #include <QBoxLayout>
+#include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QToolButton>
+
+#include <utility>
+
+namespace {
+
+/// What can be used of the screen that the point is on.
+QRect screenAt(const QPoint &point)
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {
+        if (screen->geometry().contains(point))
+            return screen->availableGeometry();
+    }
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+} // namespace
 
 class QtOrvSpinBoxPrivate : public ValuePair<QtOrvSpinBox, QtOrvSpinBoxVal, QtOrvSlider, int>
 {
 public:
     QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orientation);
 
+    void toggleSlider();
     void openSlider();
     void closeSlider();
     QSize suitableSliderSize() const;
     QPoint sliderCorner() const;
+    bool isUnderMouse() const;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     QToolButton *const button;
     bool sliderSized = false;
+    QElapsedTimer sinceFocusOut; // of the slider, with the mouse on the button
+    bool isClosingClick = false;
 };
 
 QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orientation)
@@ -31,7 +55,8 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orient
     button->setText(QStringLiteral("^"));
     button->setToolTip(QtOrvSpinBox::tr("Show a slider"));
     button->setAccessibleName(button->toolTip());
-    connect(button, &QToolButton::clicked, this, &QtOrvSpinBoxPrivate::openSlider);
+    connect(button, &QToolButton::clicked, this, &QtOrvSpinBoxPrivate::toggleSlider);
+    button->installEventFilter(this);
 
     auto *inner = new QHBoxLayout;
     inner->setObjectName(QStringLiteral("layoutHH"));
@@ -46,12 +71,25 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orient
     slider->setAttribute(Qt::WA_WindowPropagation);
     slider->setFrameStyle(int(QFrame::Panel) | QFrame::Raised);
     slider->setLineWidth(2);
-    connect(slider, &QtOrvSlider::focusOut, slider, &QWidget::hide);
+    connect(slider, &QtOrvSlider::focusOut, this, [this] {
+        if (isUnderMouse())
+            sinceFocusOut.start();
+        slider->hide();
+    });
     slider->installEventFilter(this);
     q->installEventFilter(this);
 
     spinBox->setRange(slider->minimum(), slider->maximum());
     join([](QtOrvSpinBoxVal *box, int value) { box->QSpinBox::setValue(value); });
+}
+
+void QtOrvSpinBoxPrivate::toggleSlider()
+{
+    const bool wasClosed = std::exchange(isClosingClick, false);
+    if (slider->isVisible())
+        closeSlider();
+    else if (!wasClosed)
+        openSlider();
 }
 
 void QtOrvSpinBoxPrivate::openSlider()
@@ -68,6 +106,7 @@ void QtOrvSpinBoxPrivate::openSlider()
 void QtOrvSpinBoxPrivate::closeSlider()
 {
     slider->hide();
+    sinceFocusOut.invalidate();
     button->activateWindow();
     button->setFocus(Qt::PopupFocusReason);
 }
@@ -81,10 +120,27 @@ QSize QtOrvSpinBoxPrivate::suitableSliderSize() const
 
 QPoint QtOrvSpinBoxPrivate::sliderCorner() const
 {
-    const QPoint corner = button->mapToGlobal(QPoint(0, 0));
+    const QRect anchor(button->mapToGlobal(QPoint(0, 0)), button->size());
+    const QRect screen = screenAt(anchor.center());
+    const QPoint first = screen.topLeft();
+    const QPoint last = screen.bottomRight() + QPoint(1 - slider->width(), 1 - slider->height());
+    const int above = anchor.top() - slider->height();
+    const int below = anchor.bottom() + 1;
+    const int beside =
+        button->isRightToLeft() ? anchor.left() - slider->width() : anchor.right() + 1;
+
+    QPoint corner(beside, anchor.top());
     if (slider->orientation() == Qt::Vertical)
-        return corner - QPoint(0, slider->height());
-    return corner + QPoint(button->isRightToLeft() ? -slider->width() : button->width(), 0);
+        corner = QPoint(anchor.left(), above >= first.y() ? above : below);
+    else if (beside < first.x() || beside > last.x())
+        corner.setY(below <= last.y() ? below : above); // the other side is that of the number
+    return QPoint(qMax(first.x(), qMin(corner.x(), last.x())),
+                  qMax(first.y(), qMin(corner.y(), last.y())));
+}
+
+bool QtOrvSpinBoxPrivate::isUnderMouse() const
+{
+    return button->rect().contains(button->mapFromGlobal(QCursor::pos()));
 }
 
 bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
@@ -101,6 +157,13 @@ bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
         default:
             break;
         }
+    }
+    // The press that takes the focus off the slider has closed it already.
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (watched == button && isPress) {
+        isClosingClick = sinceFocusOut.isValid() && !sinceFocusOut.hasExpired(200);
+        sinceFocusOut.invalidate();
     }
     const bool gone = event->type() == QEvent::Hide ||
                       (event->type() == QEvent::EnabledChange && !spinBox->isEnabled());
@@ -128,6 +191,16 @@ void QtOrvSpinBox::setValue(int value)
 int QtOrvSpinBox::value() const
 {
     return d->spinBox->value();
+}
+
+void QtOrvSpinBox::setScaleType(QtOrvSlider::ScaleType type)
+{
+    d->setScaleType(type);
+}
+
+QtOrvSlider::ScaleType QtOrvSpinBox::scaleType() const
+{
+    return d->slider->scaleType();
 }
 
 void QtOrvSpinBox::setRange(int min, int max)

@@ -3,13 +3,13 @@
 #define QTORVSPINBOX_H
 
 #include "orvcameraguiapi_export.h"
+#include "qtorvslider.h"
 
 #include <QScopedPointer>
 #include <QWidget>
 
 class QLabel;
 class QToolButton;
-class QtOrvSlider;
 class QtOrvSpinBoxPrivate;
 class QtOrvSpinBoxVal;
 
@@ -20,11 +20,11 @@ class QtOrvSpinBoxVal;
  * Use it where there is no room for a slider of its own. Spin box and slider stay in step. While
  * the user drags the slider the spin box follows, but the value counts as changed only by what
  * comes after the release. Where the scale of the slider is not linear the spin box holds the exact
- * value and the slider stands at the position next to it. Set the scale before range and value: a
- * new scale re-places what the slider shows, and that becomes the value.
+ * value and the slider stands at the position next to it.
  *
- * The slider opens above the button when it is vertical and beside it when it is horizontal. It
- * closes when it loses the focus, and with Escape, Return or Tab.
+ * The slider opens above the button when it is vertical and beside it when it is horizontal, below
+ * it where the screen has no room for that. It closes when it loses the focus, with Escape, Return
+ * or Tab, and with a second click on the button.
  *
  * Use it on the GUI thread only.
  */
@@ -35,6 +35,7 @@ class ORVCAMERAGUIAPI_EXPORT QtOrvSpinBox : public QWidget
     Q_CLASSINFO("date", "06/30/16")
     Q_CLASSINFO("author", "The OrvCameraGuiApi developers")
     Q_PROPERTY(Qt::Orientation sliderOrientation READ sliderOrientation WRITE setSliderOrientation)
+    Q_PROPERTY(QtOrvSlider::ScaleType scaleType READ scaleType WRITE setScaleType)
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
@@ -55,6 +56,10 @@ public:
     /** The value of the spin box. */
     int value() const;
 
+    /** The scale of the slider, linear at first. A new one keeps the value. */
+    void setScaleType(QtOrvSlider::ScaleType type);
+    QtOrvSlider::ScaleType scaleType() const;
+
     /** Sets one end and keeps the other. */
     void setMinimum(int min);
     void setMaximum(int max);
@@ -69,7 +74,7 @@ public:
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is entered. */
+    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 

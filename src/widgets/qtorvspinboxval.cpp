@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qtorvspinboxval.h"
 
+#include "numbertext.h"
 #include "valueaccessibility.h"
 #include "valuegrid.h"
 
@@ -11,6 +12,8 @@
 QtOrvSpinBoxVal::QtOrvSpinBoxVal(QWidget *parent) : QSpinBox(parent)
 {
     ValueAccessibility::install();
+    connect(lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString &typed) { m_typedText = typed; });
 }
 
 void QtOrvSpinBoxVal::setValidate(bool on)
@@ -64,12 +67,46 @@ void QtOrvSpinBoxVal::setValue(int value)
 void QtOrvSpinBoxVal::keyPressEvent(QKeyEvent *event)
 {
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    bool ok = false;
-    const int number = enters && !m_validateTyping ? lineEdit()->text().toInt(&ok, 10) : 0;
-    if (!ok) {
+    int number = 0;
+    if (enters && isReadOnly()) {
+        event->ignore();
+    } else if (enters && !m_validateTyping && NumberText::read(this, text(), &number)) {
+        setValue(number);
+        event->accept();
+    } else {
+        if (event->key() == Qt::Key_Escape && isTextPending())
+            QSpinBox::setValue(value());
         QSpinBox::keyPressEvent(event);
+    }
+}
+
+void QtOrvSpinBoxVal::focusOutEvent(QFocusEvent *event)
+{
+    // The focus that a menu borrows comes back.
+    if (event->reason() == Qt::PopupFocusReason && hasFocus()) {
+        lineEdit()->event(event);
         return;
     }
-    setValue(number);
-    event->accept();
+    if (isTextPending())
+        finishTyping();
+    QSpinBox::focusOutEvent(event);
+}
+
+bool QtOrvSpinBoxVal::isTextPending() const
+{
+    return !m_typedText.isEmpty() && text() == m_typedText;
+}
+
+void QtOrvSpinBoxVal::finishTyping()
+{
+    if (!isEnabled() || isReadOnly()) {
+        QSpinBox::setValue(value());
+        return;
+    }
+    QString input = text();
+    int pos = input.size();
+    int number = 0;
+    if (!m_validateTyping && QSpinBox::validate(input, pos) == QValidator::Acceptable &&
+        NumberText::read(this, cleanText(), &number) && number != value())
+        setValue(number);
 }

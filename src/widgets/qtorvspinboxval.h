@@ -11,8 +11,9 @@
  *
  * Use it for a width that has to be a multiple of 8 from its minimum, for instance. Two independent
  * switches shape it: with validation on, every value set is snapped to the grid (its two ends are
- * always allowed); with typing validation off, what is typed counts only on Return or Enter, so
- * that a camera does not see the numbers in between.
+ * always allowed); with typing validation off, what is typed counts only on Return or Enter or
+ * when the focus leaves, so that a camera does not see the numbers in between. Escape takes it
+ * back.
  *
  * Use it on the GUI thread only.
  */
@@ -33,7 +34,7 @@ public:
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is entered. */
+    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 
@@ -55,8 +56,13 @@ public Q_SLOTS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    bool isTextPending() const;
+    void finishTyping();
+
+    QString m_typedText;
     bool m_validate = false;
     bool m_validateTyping = true;
 };

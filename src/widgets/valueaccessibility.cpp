@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "valueaccessibility.h"
 
+#include "numbertext.h"
 #include "qtorvdoubleslider.h"
 #include "qtorvdoublespinboxval.h"
 #include "qtorvgainslider.h"
@@ -19,12 +20,12 @@ namespace {
 
 QString shown(const QtOrvSlider *slider)
 {
-    return QString::number(slider->value());
+    return NumberText::of(slider->value(), slider->locale());
 }
 
 QString shown(const QtOrvDoubleSlider *slider)
 {
-    return QString::number(slider->value(), 'f', slider->decimals());
+    return NumberText::of(slider->value(), slider->decimals(), slider->locale());
 }
 
 QString shown(const QAbstractSpinBox *box)

@@ -65,6 +65,12 @@ public:
         holdingValue([=] { slider->setSingleStep(step); });
     }
 
+    /** Changes the scale of the slider; the spin box keeps its value. */
+    void setScaleType(QtOrvSlider::ScaleType type)
+    {
+        leadingSlider([=] { slider->setScaleType(type); });
+    }
+
     void setValidate(bool on)
     {
         slider->setValidate(on);
@@ -86,10 +92,15 @@ private:
     template<class Change>
     void holdingValue(Change change)
     {
-        if (answers(slider)) {
+        if (answers(slider))
             change();
-            return;
-        }
+        else
+            leadingSlider(change);
+    }
+
+    template<class Change>
+    void leadingSlider(Change change)
+    {
         const QScopedValueRollback<bool> rollback(leading, true);
         change();
         if (slider->value() != spinBox->value())

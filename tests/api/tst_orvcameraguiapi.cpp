@@ -6,6 +6,7 @@
 #include <memorynodemap.h>
 #include <xwindow.h>
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QTreeView>
 #include <QWidget>
@@ -36,6 +37,21 @@ struct Features : OrvGenApi::MemoryNodeMap
         addCategory("Second").properties().visibility = GenApi::Expert;
         addString("Name", "name", "Second");
     }
+};
+
+/// Counts the X server's refusals to move a window that the library has left to its host.
+struct Refusals : QAbstractNativeEventFilter
+{
+    Refusals() { QCoreApplication::instance()->installNativeEventFilter(this); }
+    bool nativeEventFilter(const QByteArray &, void *message, long *) override
+    {
+        const auto *error = static_cast<xcb_generic_error_t *>(message);
+        const bool isOne = error->response_type == 0 && error->error_code == XCB_MATCH &&
+                           error->major_code == XCB_REPARENT_WINDOW;
+        count += isOne ? 1 : 0;
+        return isOne;
+    }
+    int count = 0;
 };
 
 /// Fails when a tree wants to follow its features.
@@ -185,6 +201,9 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     QTRY_COMPARE(m_screen.picture(panel).pixel(599, 399), panelColour);
 
     Features map;
+    DestroyGenParamTreeView(
+        CreateGenParamTreeViewForNodemapA(nullptr, "", 0)); // for the application
+    Refusals refusals;
     IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "Inside", panel);
     tree(view).expandAll();
     QTRY_VERIFY(shows(panel, view));
@@ -211,8 +230,20 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     QCOMPARE(m_screen.picture(host).pixel(19, 29), hostColour);
     QCOMPARE(m_screen.picture(host).pixel(521, 331), hostColour);
 
+    // The library takes no more refusals than it causes.
+    QCOMPARE(refusals.count, 0);
+    {
+        const std::unique_ptr<QWindow> outer(QWindow::fromWinId(host));
+        const std::unique_ptr<QWindow> inner(QWindow::fromWinId(panel));
+        outer->setParent(inner.get());
+        QTRY_COMPARE(refusals.count, 1);
+        outer->setParent(nullptr);
+    }
+
+    // Gone at once, also in a host without an event loop.
     DestroyGenParamTreeView(view);
-    QTRY_VERIFY(m_screen.children(panel).isEmpty());
+    QVERIFY(m_screen.children(panel).isEmpty());
+    QCOMPARE(m_screen.children(host), QList<xcb_window_t>{panel});
     QTRY_COMPARE(m_screen.picture(panel).pixel(250, 150), panelColour);
     m_screen.destroy(host);
 }

@@ -7,6 +7,7 @@
 #include <OrvGenParam.h>
 
 #include <QCheckBox>
+#include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -85,7 +86,11 @@ void TestCameraWindows::showTheSameCamera()
     CameraWindows windows(open(), nullptr);
     windows.show();
     QVERIFY(windows.configuration().isVisible() && windows.tree().isVisible());
-    QCOMPARE(windows.tree().windowTitle(), QString("DualFrame 12M (SIM-0001)"));
+    const QString camera = "DualFrame 12M (SIM-0001)";
+    QCOMPARE(windows.tree().windowTitle(), camera);
+    QCOMPARE(windows.configuration().windowTitle(), camera + " - CamConfig");
+    const auto *dialog = windows.configuration().findChild<QDialog *>("OrvCamConfigTriggerDialog");
+    QCOMPARE(dialog->windowTitle(), camera + " - Trigger Control");
     windows.tree().setVisibility(OrvGui::Guru);
     QAbstractItemModel *model = windows.tree().treeView()->model();
 
@@ -122,6 +127,7 @@ void TestCameraWindows::followTheConfiguration()
         windows.configuration().SetDevice(nullptr);
     }
     QCOMPARE(windows.tree().windowTitle(), QString("Features"));
+    QCOMPARE(windows.configuration().windowTitle(), QString("CamConfig"));
 }
 
 void TestCameraWindows::rememberedFromRunToRun()
@@ -158,6 +164,20 @@ void TestCameraWindows::rememberedFromRunToRun()
     QCOMPARE(windows.configuration().size(), size);
     QVERIFY(!windows.configuration().findChild<QPushButton *>("pushBtnPulse")->isVisible());
     QVERIFY(windows.configuration().findChild<QPushButton *>("pushBtnColor")->isVisible());
+    const auto spans = [](CameraWindows &of) {
+        int count = 0;
+        for (int row = 0; row < of.tree().treeView()->model()->rowCount(); ++row)
+            count += of.tree().treeView()->isFirstColumnSpanned(row, QModelIndex()) ? 1 : 0;
+        return count;
+    };
+    const int all = spans(windows);
+    QCOMPARE(all, windows.tree().treeView()->model()->rowCount());
+
+    // A level that is asked for comes before the saved one.
+    action(windows, "actionDisconnect").trigger();
+    CameraWindows asked(open(), &settings, OrvGui::Basic);
+    QCOMPARE(asked.tree().visibility(), OrvGui::Basic);
+    QVERIFY(spans(asked) < all);
 }
 
 void TestCameraWindows::damagedSettings()
@@ -176,7 +196,8 @@ void TestCameraWindows::damagedSettings()
 void TestCameraWindows::vanishedCamera()
 {
     QString error;
-    QVERIFY(!FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), &error));
+    QVERIFY(
+        !FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), false, &error));
     QCOMPARE(error,
              QString("The camera 'Simulated-SIM-0001' cannot be opened: it does not answer."));
 }

@@ -111,7 +111,13 @@ void TestOrvCamConfig::listsCameras()
         const Result named = run({"--simulate", "--list-features", "--camera", name});
         QVERIFY2(named.out.startsWith("Device Control\t\n  Device "), qPrintable(named.out));
         QVERIFY2(named.out.contains("Device Serial Number\tSIM-0002\n"), qPrintable(named.err));
+        QCOMPARE(named.err, QString());
     }
+    const Result controlled = run({"--simulate", "--list-features", "--camera", "SIM-0012"});
+    QCOMPARE(controlled.status, 0);
+    QVERIFY(controlled.out.contains("Device Serial Number\tSIM-0012\n"));
+    QCOMPARE(controlled.err, QString("orvcamconfig: The camera 'Simulated-SIM-0012' is read only: "
+                                     "another program controls it.\n"));
 }
 
 void TestOrvCamConfig::failures_data()

@@ -7,7 +7,9 @@
 
 #include "../genparamtree/treecells.h"
 
-#include <aravis/nodemap.h>
+#include <OrvCam.h>
+#include <OrvGenParam.h>
+#include <orvcameraapi-aravis.h>
 
 #include <QtTest>
 
@@ -58,10 +60,11 @@ private slots:
     void aSilentCameraCostsOneWait();
 
 private:
-    QProcess m_camera;
+    QProcess m_process;
     QScopedPointer<GvcpCounter> m_wire;
     ArvDevice *m_device = nullptr;
-    std::unique_ptr<OrvAravis::NodeMap> m_map;
+    OrvCam::Device *m_camera = nullptr;
+    GenApi::INodeMap *m_map = nullptr;
     QScopedPointer<GenParamTreeModel> m_model;
 };
 
@@ -69,9 +72,9 @@ void TestWire::initTestCase()
 {
     m_wire.reset(new GvcpCounter);
     QVERIFY2(m_wire->isListening(), "the test must be root of its network namespace");
-    m_camera.start("arv-fake-gv-camera-0.8",
-                   {"--interface=127.0.0.1", "--serial=WIRE", "--genicam=" ORV_DESCRIPTION});
-    QVERIFY(m_camera.waitForStarted());
+    m_process.start("arv-fake-gv-camera-0.8",
+                    {"--interface=127.0.0.1", "--serial=WIRE", "--genicam=" ORV_DESCRIPTION});
+    QVERIFY(m_process.waitForStarted());
 
     GInetAddress *address = g_inet_address_new_from_string("127.0.0.1");
     const auto open = [&] {
@@ -84,18 +87,20 @@ void TestWire::initTestCase()
     m_wire->take();
 
     // Opening reads no feature.
-    m_map = OrvAravis::NodeMap::open(m_device);
-    m_model.reset(new GenParamTreeModel(m_map.get(), nullptr));
-    QCOMPARE(m_wire->take().size(), 0);
+    m_camera = OrvCam_AdoptArvDevice(m_device, nullptr);
+    QVERIFY(m_camera);
+    m_map = m_camera->GetParamArray()->GetNodeMap();
+    m_model.reset(new GenParamTreeModel(m_map, nullptr));
+    QCOMPARE(m_wire->take().size(), 6); // the registers that say who it is
 }
 
 void TestWire::cleanupTestCase()
 {
     m_model.reset();
-    m_map.reset();
+    OrvCam_ReleaseDevice(m_camera);
     g_clear_object(&m_device);
-    m_camera.terminate();
-    m_camera.waitForFinished();
+    m_process.terminate();
+    m_process.waitForFinished();
 }
 
 void TestWire::everyRegisterIsReadOnce()
@@ -174,8 +179,8 @@ void TestWire::anotherClientSeesTheValue()
 
 void TestWire::aSilentCameraCostsOneWait()
 {
-    m_camera.kill();
-    m_camera.waitForFinished();
+    m_process.kill();
+    m_process.waitForFinished();
     GenApi::CIntegerPtr lines(m_map->GetNode("Frame_ExposureLines"));
     QElapsedTimer timer;
     timer.start();

@@ -2,9 +2,8 @@
 #pragma once
 
 #include <OrvCam.h>
-#include <aravis/nodemap.h>
 #include <cameraapi/nodemaparray.h>
-#include <simulation/simulatedcamera.h>
+#include <simulatednodemap.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -43,6 +42,16 @@ inline void type(QWidget *widget, const QString &number, bool enter = true)
 inline void click(QWidget *button)
 {
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+}
+
+/// Turns the wheel down by a notch.
+inline void scroll(QWidget *widget)
+{
+    const QPointF point = widget->rect().center();
+    QWheelEvent event(point, widget->mapToGlobal(point.toPoint()), {}, QPoint(0, -120),
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event); // others do not go on to the parent
+    qApp->notify(widget, &event);
 }
 
 /// Where the handle of the slider is, to be pressed and dragged.
@@ -137,17 +146,53 @@ public:
     int asked = 0;
 };
 
-/// The parameters of another array, apart from some that the camera is said to lack.
+/// A number that counts who is notified of it.
+class CountedInt final : public OrvGenParam::Int
+{
+public:
+    explicit CountedInt(const QByteArray &name) : m_name(name) {}
+
+    QSet<OrvGenParam::ParamEventSink *> sinks;
+
+    const char *GetName() const override { return m_name.constData(); }
+    const char *GetDisplayName() const override { return m_name.constData(); }
+    const char *GetDescription() const override { return ""; }
+    const char *GetUnit() const override { return ""; }
+    OrvGenParam::ParamType GetType() const override { return OrvGenParam::ParamInt; }
+    bool IsAvailable() const override { return true; }
+    bool IsReadable() const override { return true; }
+    bool IsWritable() const override { return true; }
+    void RegisterEventSink(OrvGenParam::ParamEventSink *sink) override { sinks.insert(sink); }
+    void UnregisterEventSink(OrvGenParam::ParamEventSink *sink) override { sinks.remove(sink); }
+    int64_t GetValue(int32_t *) const override { return 1; }
+    int32_t SetValue(int64_t) override { return 0; }
+    int64_t GetMin(int32_t *) const override { return 0; }
+    int64_t GetMax(int32_t *) const override { return 9; }
+    int64_t GetInc(int32_t *) const override { return 1; }
+
+private:
+    const QByteArray m_name;
+};
+
+/// The parameters of another array, apart from some that the camera is said to lack and from one
+/// that takes the place of its own.
 class PartialArray : public OrvGenParam::Array
 {
 public:
     QSet<QByteArray> missing;
+    CountedInt *counted = nullptr;
     OrvGenParam::Array *all = nullptr;
 
     uint32_t GetCount() const override { return all->GetCount(); }
     OrvGenParam::Param *GetParam(uint32_t i) const override { return all->GetParam(i); }
-    OrvGenParam::Param *GetParam(const char *n) const override { return has(n, all->GetParam(n)); }
-    OrvGenParam::Int *GetInt(const char *n) const override { return has(n, all->GetInt(n)); }
+    OrvGenParam::Param *GetParam(const char *n) const override
+    {
+        return isCounted(n) ? counted : has(n, all->GetParam(n));
+    }
+    OrvGenParam::Int *GetInt(const char *n) const override
+    {
+        return isCounted(n) ? counted : has(n, all->GetInt(n));
+    }
     OrvGenParam::Float *GetFloat(const char *n) const override { return has(n, all->GetFloat(n)); }
     OrvGenParam::Enum *GetEnum(const char *n) const override { return has(n, all->GetEnum(n)); }
     OrvGenParam::Boolean *GetBoolean(const char *n) const override
@@ -174,6 +219,7 @@ public:
     GenApi::INodeMap *GetNodeMap(int32_t *error) const override { return all->GetNodeMap(error); }
 
 private:
+    bool isCounted(const QByteArray &name) const { return counted && name == counted->GetName(); }
     template<class Kind>
     Kind *has(const char *name, Kind *param) const
     {
@@ -196,7 +242,7 @@ public:
 /// A camera as its node map knows it.
 struct DescribedDevice
 {
-    explicit DescribedDevice(std::unique_ptr<OrvAravis::NodeMap> nodeMap)
+    explicit DescribedDevice(std::unique_ptr<OrvDescription::NodeMap> nodeMap)
         : map(std::move(nodeMap)), device(*map)
     {
     }
@@ -218,7 +264,7 @@ struct DescribedDevice
     /// Of anybody to the camera, since its beginning.
     quint64 writes() const { return map->transactions().writes; }
 
-    std::unique_ptr<OrvAravis::NodeMap> map;
+    std::unique_ptr<OrvDescription::NodeMap> map;
     PartialDevice device;
 };
 
@@ -230,5 +276,5 @@ struct SimulatedDeviceCamera
 /// The simulated camera as a device, with all that it takes.
 struct SimulatedDevice : SimulatedDeviceCamera, DescribedDevice
 {
-    SimulatedDevice() : DescribedDevice(OrvAravis::NodeMap::open(camera.device())) {}
+    SimulatedDevice() : DescribedDevice(openNodeMap(camera)) {}
 };

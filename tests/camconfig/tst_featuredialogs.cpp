@@ -319,9 +319,9 @@ void TestFeatureDialogs::transactions()
 {
     SimulatedDevice sim;
     const auto cost = [&](const std::function<void()> &act) {
-        const OrvAravis::Transactions before = sim.map->transactions();
+        const OrvCameraIo::Transactions before = sim.map->transactions();
         act();
-        const OrvAravis::Transactions after = sim.map->transactions();
+        const OrvCameraIo::Transactions after = sim.map->transactions();
         return QPair<int, int>(int(after.reads - before.reads), int(after.writes - before.writes));
     };
     using Cost = QPair<int, int>;

@@ -308,6 +308,9 @@ class TestFrameABDialog : public QObject
 private Q_SLOTS:
     void initTestCase();
     void withoutACamera();
+    void afterACameraWithOneFrame();
+    void formerCameraIsLeft_data();
+    void formerCameraIsLeft();
     void exposureTimeIsSplit();
     void exposureTimeAtOddCameras_data();
     void exposureTimeAtOddCameras();
@@ -318,6 +321,9 @@ private Q_SLOTS:
     void twoFramesHoldTwoSettings();
     void typingBelongsToTheFrameItWasBegunFor();
     void somebodyElseLooksAtTheOtherFrame();
+    void unseenItLeavesTheFrameAlone();
+    void wheelOverDerivedValues();
+    void scrollsOnASmallScreen();
     void areaPresets();
     void areaPresetsOfOtherSensors_data();
     void areaPresetsOfOtherSensors();
@@ -359,6 +365,51 @@ void TestFrameABDialog::withoutACamera()
     const int writes = camera.writes();
     dialog.type("spBoxBlackLevel", 100);
     QCOMPARE(camera.writes(), writes + 1);
+}
+
+void TestFrameABDialog::afterACameraWithOneFrame()
+{
+    OrvGenApi::MemoryNodeMap map;
+    map.addEnumeration("FrameAB_Selector", {{"Only", 0}});
+    NodeMapDevice single(map);
+    Camera camera;
+    camera.choose("FrameMode", "DualVideo");
+    Dialog dialog(&camera.device);
+    dialog.clickTab(1); // the form stands there
+    for (int i = 0; i < 2; ++i) {
+        dialog.SetDevice(&single);
+        Dialog::settle();
+        QCOMPARE(dialog.tabs()->count(), 1);
+        QVERIFY(dialog.get("grBoxWDR")->isVisible());
+        dialog.SetDevice(&camera.device);
+        Dialog::settle();
+        QCOMPARE(dialog.tabs()->tabText(1), QString("FrameB"));
+        VERIFY_SAME(dialog, camera);
+    }
+}
+
+void TestFrameABDialog::formerCameraIsLeft_data()
+{
+    QTest::addColumn<bool>("isDual");
+    QTest::newRow("Frame_ExposureLines") << false;
+    QTest::newRow("Frame_DigitalFineGain") << false;
+    QTest::newRow("SensorWidth") << false;
+    QTest::newRow("NumberOfFrameAs") << true; // is unbound by the output mode, too
+}
+
+void TestFrameABDialog::formerCameraIsLeft()
+{
+    QFETCH(bool, isDual);
+    CountedInt number(QTest::currentDataTag());
+    Camera camera;
+    camera.choose("FrameMode", isDual ? "DualVideo" : "FrameA");
+    camera.device.part.counted = &number;
+    PlainCamera next;
+    Dialog dialog(&camera.device);
+    QVERIFY(!number.sinks.isEmpty());
+    camera.choose("FrameMode", "FrameA");
+    dialog.SetDevice(next.device.get());
+    QVERIFY(number.sinks.isEmpty());
 }
 
 void TestFrameABDialog::exposureTimeIsSplit()
@@ -549,6 +600,23 @@ void TestFrameABDialog::gainWithoutAPart()
     camera.device.part.missing = {coarse, fine};
     dialog.SetDevice(&camera.device);
     QVERIFY(!slider->isEnabled());
+
+    // Registers that claim to hold whatever fits.
+    OrvGenApi::MemoryNodeMap map;
+    auto &wide = map.addInteger("Frame_DigitalCourseGain", 2);
+    map.addInteger("Frame_DigitalFineGain", 0).setLimits(0, 63);
+    map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
+    NodeMapDevice device(map);
+    for (const qint64 most : {Q_INT64_C(2147483647), Q_INT64_C(4294967295)}) {
+        wide.setLimits(0, most);
+        dialog.SetDevice(&device);
+        QCOMPARE(slider->property("minimum").toDouble(), 1.0);
+        QVERIFY(slider->property("maximum").toDouble() > 1e6);
+        QCOMPARE(dialog.gain(), 4.0);
+        dialog.type("spBoxDigitalGain", QStringLiteral("16"));
+        QCOMPARE(int(wide.GetValue()), 4);
+        wide.change(2);
+    }
 }
 
 void TestFrameABDialog::draggingWritesOnceAtTheEnd()
@@ -716,6 +784,71 @@ void TestFrameABDialog::somebodyElseLooksAtTheOtherFrame()
     QCOMPARE(boxes.texts, none);
 }
 
+void TestFrameABDialog::unseenItLeavesTheFrameAlone()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    dialog.close();
+    const auto select = [&](const char *frame) {
+        QVERIFY(camera.choose("FrameAB_Selector", frame));
+        Dialog::settle();
+        QCOMPARE(camera.symbol("FrameAB_Selector"), QString(frame));
+    };
+    select("FrameB");
+    camera.set("Frame_ExposureLines", 321);
+    camera.choose("FrameMode", "FrameB");
+    select("FrameA");
+    camera.choose("FrameMode", "FrameA");
+    select("FrameB");
+    int writes = camera.writes();
+    dialog.SetDevice(&camera.device);
+    OrvCamConfigFrameABDialog unseen(&camera.device);
+    Dialog::settle();
+    QCOMPARE(camera.writes(), writes);
+
+    // Shown, it puts that right.
+    dialog.show();
+    Dialog::settle();
+    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameA"));
+    QCOMPARE(camera.writes(), writes + 1);
+    VERIFY_SAME(dialog, camera);
+}
+
+void TestFrameABDialog::wheelOverDerivedValues()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    dialog.get("cmBoxFrameMode")->setFocus();
+    const int writes = camera.writes();
+    for (const char *name : {"spBoxDigitalGain", "spBoxExpTime"}) {
+        scroll(dialog.editor(name));
+        scroll(dialog.get(name)->findChild<QSlider *>());
+        QCOMPARE(camera.writes(), writes);
+        QVERIFY(dialog.get(name)->toolTip().contains("Frame_"));
+    }
+    dialog.editor("spBoxExpTime")->setFocus();
+    scroll(dialog.editor("spBoxExpTime"));
+    QVERIFY(camera.writes() > writes);
+}
+
+void TestFrameABDialog::scrollsOnASmallScreen()
+{
+    Camera camera;
+    Dialog dialog(&camera.device);
+    const QSize screen = dialog.windowHandle()->screen()->availableSize();
+    auto *area = dialog.get<QScrollArea>("scrollArea");
+    QVERIFY(area->widget()->width() > screen.width()); // or this shows nothing
+    QVERIFY(dialog.width() <= screen.width() && dialog.height() <= screen.height());
+    // The Tab key brings what it leads to into view.
+    auto *last = qobject_cast<QWidget *>(dialog.editor("spBoxWdrE3"));
+    dialog.click("chBoxWdrEnable");
+    dialog.editor("spBoxWdrE2")->setFocus();
+    for (int i = 0; i < 4 && dialog.focusWidget() != last; ++i)
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    QCOMPARE(dialog.focusWidget(), last);
+    QVERIFY(area->viewport()->rect().contains(last->mapTo(area->viewport(), QPoint())));
+}
+
 void TestFrameABDialog::areaPresets()
 {
     Camera camera;
@@ -809,7 +942,7 @@ void TestFrameABDialog::areaPresetsOfOtherSensors()
     QFETCH(Area, qfhd);
 
     const auto text = SimulatedCamera::description();
-    QByteArray xml(text.data, int(text.size));
+    QByteArray xml(text->data(), int(text->size()));
     for (const auto &number : {qMakePair(4096, width), qMakePair(3072, height)}) {
         for (const char *tag : {"Value", "Min", "Max"}) {
             const QByteArray format = QByteArray("<") + tag + ">%</" + tag + ">";
@@ -817,7 +950,8 @@ void TestFrameABDialog::areaPresetsOfOtherSensors()
                         QByteArray(format).replace("%", QByteArray::number(number.second)));
         }
     }
-    const auto map = OrvAravis::NodeMap::fromText(xml, std::size_t(xml.size()), "other sensor");
+    const auto map =
+        OrvDescription::NodeMap::fromText(xml, std::size_t(xml.size()), "other sensor");
     PartialDevice device(*map);
     const auto number = [&](const char *name) { return device.array->GetInt(name); };
     QCOMPARE(number("Frame_Width")->SetValue(64), 0);

@@ -4,7 +4,7 @@
 #include "modalvisitor.h"
 #include "pluggablecamera.h"
 
-#include <aravis/nodemap.h>
+#include <description/nodemap.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigdialog.h>
 #include <orvcameraguiapi.h>
@@ -104,6 +104,16 @@ QString columnOf(const QWidget &window, char frame)
     for (const char *field : {"Size", "Fps", "Ftm", "Exp"})
         texts << textOf(window, qPrintable(QString("lineEdit%1Frame%2").arg(field).arg(frame)));
     return texts.join(' ');
+}
+
+bool isDimmed(const QWidget &window, char frame)
+{
+    for (const char *field : {"lineEditSize", "lineEditFps", "lineEditFtm", "lineEditExp", "lbl"}) {
+        if (child<QWidget>(window, qPrintable(QString("%1Frame%2").arg(field).arg(frame)))
+                .isEnabled())
+            return false;
+    }
+    return true;
 }
 
 /// What the window has to show of the frame that the camera's selector addresses.
@@ -320,6 +330,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QCOMPARE(columnOf(window, 'A'), atFirstA);
     QCOMPARE(columnOf(window, 'B'), atFirstB);
     QCOMPARE(simulation.array.GetEnum("FrameAB_Selector")->GetSymbolicValue(), "FrameA");
+    QVERIFY(!isDimmed(window, 'A') && !isDimmed(window, 'B'));
 
     // Within a second, by itself, and only the frame that is addressed.
     simulation.set("Frame_ExposureLines", "77");
@@ -348,6 +359,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     simulation.select("FrameB");
     tick(window);
     QCOMPARE(columnOf(window, 'A'), onlyA);
+    QVERIFY(isDimmed(window, 'B') && !isDimmed(window, 'A'));
     simulation.select("FrameA");
     tick(window);
     QCOMPARE(columnOf(window, 'A'), selectedColumn(simulation.array));
@@ -450,6 +462,8 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     NodeMapDevice refusing(map);
     ErrorBoxes boxes;
     boxes.meanwhile = [&] { stuck.SetDevice(nullptr); };
+    stuck.show();
+    child<QPushButton>(stuck, "pushBtnFrameAB").click(); // one that is not seen selects nothing
     stuck.SetDevice(&refusing);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(!stuck.device());
@@ -472,6 +486,17 @@ void TestOrvCamConfigMainWindow::cameraWithOneFrame()
     QVERIFY(!child<QLineEdit>(window, "lineEditFpsFrameB").isVisible());
     QVERIFY(!child<QLabel>(window, "lblFrameB").isVisible());
     QVERIFY(!action(window, "actionFrame_A_B").isVisible());
+    auto &button = child<QPushButton>(window, "pushBtnFrameAB");
+    QVERIFY(!button.isVisible());
+    action(window, "actionFrame_A_B").trigger();
+    action(window, "actionFrame_A_B").trigger();
+    QVERIFY(!button.isVisible());
+
+    // Each field is explained, whatever the camera has.
+    const QString toolTip = child<QLineEdit>(window, "lineEditFtmFrameA").toolTip();
+    QVERIFY(toolTip.contains("Frame time") && toolTip.contains("CurrentFrameTime"));
+    QCOMPARE(child<QLabel>(window, "lblFtm").toolTip(), toolTip);
+    map.addString("DeviceModelName", "Hidden").setAccessMode(GenApi::WO);
 
     frameTime.change(0);
     temperature.change(-3);
@@ -484,8 +509,15 @@ void TestOrvCamConfigMainWindow::cameraWithOneFrame()
     window.SetDevice(&other.device);
     QVERIFY(child<QLineEdit>(window, "lineEditFpsFrameB").isVisible());
     QVERIFY(action(window, "actionFrame_A_B").isVisible());
+    QVERIFY(button.isVisible());
     QCOMPARE(columnOf(window, 'A'), selectedColumn(other.array));
+    button.click();
+    NodeMapDevice again(map);
+    window.SetDevice(&again);
+    QVERIFY(!child<QDialog>(window, "OrvCamConfigFrameABDialog").isVisible());
+    QCOMPARE(statusOf(window), QString("Unknown")); // the model cannot be read
     window.SetDevice(nullptr);
+    QCOMPARE(child<QLineEdit>(window, "lineEditFtmFrameA").toolTip(), QString("Frame time"));
 }
 
 void TestOrvCamConfigMainWindow::information()
@@ -537,6 +569,17 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
         {"pushBtnStrobe", "actionStrobe", "OrvCamConfigStrobeDialog"},
         {"pushBtnDataOut", "actionData_Out", "OrvCamConfigOutputDialog"},
         {"pushBtnColor", "actionColor", "OrvCamConfigColorDialog"}};
+    for (int i = 0; i < 6; ++i) {
+        // Opened by its keys, not closed by the same.
+        auto &dialog = child<QDialog>(window, names[i][2]);
+        for (int times = 0; times < 2; ++times) {
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QTest::keyClick(&window, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
+            QVERIFY(dialog.isVisible() && child<QPushButton>(window, names[i][0]).isChecked());
+        }
+        dialog.close();
+    }
     for (const auto &name : names) {
         auto &button = child<QPushButton>(window, name[0]);
         QAction &view = action(window, name[1]);

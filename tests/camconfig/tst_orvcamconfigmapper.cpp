@@ -247,6 +247,10 @@ private slots:
     void accessModes();
     void refusedWrites_data() { controls(); }
     void refusedWrites();
+    void wheel_data() { controls(); }
+    void wheel();
+    void toolTips_data() { controls(); }
+    void toolTips();
     void mappingAgain_data() { controls(); }
     void mappingAgain();
     void lifetimes_data() { controls(); }
@@ -407,6 +411,104 @@ void TestOrvCamConfigMapper::refusedWrites()
     QCOMPARE(control->shown(), control->first);
     QTest::qWait(20);
     QCOMPARE(boxes.texts.size(), 1);
+}
+
+/// The part of a control that the mouse and the keyboard reach.
+QWidget *handleOf(const Control &control)
+{
+    if (auto *tabs = qobject_cast<QTabWidget *>(control.owner))
+        return tabs->tabBar();
+    QWidget *spinBox = control.owner->findChild<QSpinBox *>();
+    return spinBox ? spinBox : control.widget();
+}
+
+void TestOrvCamConfigMapper::wheel()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    OrvCamConfigMapper mapper;
+    const auto control = make();
+    control->map(mapper, camera.array.get());
+    struct Window : QWidget
+    {
+        void wheelEvent(QWheelEvent *) override { ++passed; }
+        int passed = 0;
+    } window;
+    QLineEdit elsewhere;
+    auto *layout = new QVBoxLayout(&window);
+    layout->addWidget(&elsewhere);
+    layout->addWidget(control->owner);
+    window.show();
+    elsewhere.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QList<QWidget *> parts = control->owner->findChildren<QWidget *>();
+    for (QWidget *part : parts << control->owner) {
+        if (part->window() != &window)
+            continue;
+        const int passed = window.passed;
+        scroll(part);
+        QCOMPARE(window.passed, passed + 1);
+        QVERIFY(part->focusPolicy() != Qt::WheelFocus);
+    }
+    QCOMPARE(writesOf(camera, *control), 0);
+    QCOMPARE(control->shown(), control->first);
+
+    QWidget *const handle = handleOf(*control);
+    handle->setFocus();
+    scroll(handle);
+    const bool isScrollable = qobject_cast<QComboBox *>(handle) ||
+                              qobject_cast<QSlider *>(handle) || qobject_cast<QSpinBox *>(handle) ||
+                              qobject_cast<QTabBar *>(handle);
+    QCOMPARE(writesOf(camera, *control), int(isScrollable));
+}
+
+void TestOrvCamConfigMapper::toolTips()
+{
+    QFETCH(Make, make);
+    Camera camera;
+    const QString description = QStringLiteral("Größe < 5 µm, <img src='x'>");
+    const auto control = make();
+    feature(camera, *control, [&](auto &node) {
+        node.properties().description = description.toStdString();
+        node.properties().displayName = "The <b>Feature</b>";
+    });
+    camera.number.setUnit("<px>");
+    camera.array = std::make_unique<OrvGenParam::NodeMapArray>(camera.map);
+    auto *tabs = qobject_cast<QTabWidget *>(control->owner);
+    QWidget *const widget = tabs ? tabs->tabBar() : control->widget();
+    QWidget window;
+    QLabel label(&window);
+    label.setBuddy(widget);
+    control->owner->setParent(&window);
+
+    OrvCamConfigMapper mapper;
+    control->map(mapper, camera.array.get());
+    const auto lines = [](const QWidget &explained) {
+        return QTextDocumentFragment::fromHtml(explained.toolTip()).toPlainText().split('\n');
+    };
+    const bool isNumber = control->errorText == intText;
+    QStringList expected{"The <b>Feature</b>", description};
+    if (isNumber)
+        expected << "Range: 0 to 10"
+                 << "Increment: 1"
+                 << "Unit: <px>";
+    expected << feature(camera, *control, [](auto &node) {
+        return QString("Feature: %1").arg(QString::fromStdString(node.name()));
+    });
+    QCOMPARE(lines(*widget), expected);
+    QCOMPARE(lines(label), expected);
+    QCOMPARE(widget->accessibleDescription(), expected.join('\n'));
+
+    camera.number.setLimits(0, 20);
+    camera.number.changed();
+    QCOMPARE(lines(*widget).contains("Range: 0 to 20"), isNumber);
+    mapper.unmapAll();
+    QCOMPARE(widget->toolTip() + label.toolTip(), QString());
+
+    label.setToolTip("of the host");
+    control->map(mapper, camera.array.get());
+    QVERIFY(!widget->toolTip().isEmpty());
+    QCOMPARE(label.toolTip(), QString("of the host"));
 }
 
 void TestOrvCamConfigMapper::mappingAgain()

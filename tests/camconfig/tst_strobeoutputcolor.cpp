@@ -532,8 +532,8 @@ void TestStrobeOutputColor::automaticWhiteBalance()
 void TestStrobeOutputColor::statisticsOfOtherCamera()
 {
     Camera first;
-    const SimulatedCamera::Text text = SimulatedCamera::description();
-    DescribedDevice second(OrvAravis::NodeMap::fromText(text.data, text.size, "second"));
+    const auto text = SimulatedCamera::description();
+    DescribedDevice second(OrvDescription::NodeMap::fromText(text->data(), text->size(), "second"));
     second.set("RedCoefficient", "2222");
     const auto dialog = open(Color, &first.device);
     QCOMPARE(textOf(dialog, "lblRedCoef"), QStringLiteral("320"));

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "cameratestsupport.h"
-#include "responder.h"
 
 #include <cameranetwork.h>
 
@@ -245,38 +244,52 @@ void TestGigEVision::badDescription()
 
 void TestGigEVision::oneAdapterAtATime()
 {
-    Responder near(m_first->farNamespace(), m_first->farName(), "020000000001", "0a010002");
-    Responder far(m_second->farNamespace(), m_second->farName(), "020000000002", "0a020002");
+    TestCamera::Settings settings = m_first->cameraSettings(0x020000000001, "10.1.0.2");
+    settings.vendor = "Strawman\xff";
+    settings.userName = "abcdefghijklmnop"; // to the last byte
+    TestCamera near(settings);
+    TestCamera far(m_second->cameraSettings(0x020000000002, "10.2.0.2"));
     near.setPrivilege(2);
     const auto cameras = camerasOf(*interface("orv0"));
     QCOMPARE(cameras.size(), size_t(1));
     QCOMPARE(cameras.front()->GetId(), "02:00:00:00:00:01");
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessNone));
     QCOMPARE(cameras.front()->GetUserName(), "abcdefghijklmnop");
-    QCOMPARE(QString::fromUtf8(cameras.front()->GetVendor()), QStringLiteral("Responder\uFFFD"));
+    QCOMPARE(QString::fromUtf8(cameras.front()->GetVendor()), QStringLiteral("Strawman\uFFFD"));
     QVERIFY(!cameras.front()->GetSerial());
-    QVERIFY(near.commands() > 0);
-    QCOMPARE(far.commands(), 0);
+    QVERIFY(near.counters().packets > 0);
+    QCOMPARE(far.counters().packets, 0u);
 }
 
-Q_DECLARE_METATYPE(Responder::Mood)
+Q_DECLARE_METATYPE(TestCameraBehaviour)
 
 void TestGigEVision::strangeAnswers_data()
 {
-    QTest::addColumn<Responder::Mood>("mood");
+    QTest::addColumn<TestCameraBehaviour>("behaviour");
     QTest::addColumn<int>("count"); // -1: whatever gets through
-    QTest::newRow("none") << Responder::Mood::Silent << 0;
-    QTest::newRow("late") << Responder::Mood::Late << 0;
-    QTest::newRow("wrong, short, foreign, twice") << Responder::Mood::Confused << 1;
-    QTest::newRow("flood") << Responder::Mood::Flooding << -1;
+    TestCameraBehaviour silent;
+    silent.silence = -1;
+    QTest::newRow("none") << silent << 0;
+    TestCameraBehaviour late;
+    late.delay = 300;
+    QTest::newRow("late") << late << 0;
+    TestCameraBehaviour confused;
+    // Fields that a later version of the protocol appends are ignored.
+    confused.faults = TestCameraBehaviour::AllFaults & ~TestCameraBehaviour::LongAnswer;
+    confused.isGoodAfter = true;
+    confused.duplicates = 1;
+    QTest::newRow("wrong, short, foreign, twice") << confused << 1;
+    TestCameraBehaviour flooding;
+    flooding.garbage = 10000;
+    QTest::newRow("flood") << flooding << -1;
 }
 
 void TestGigEVision::strangeAnswers()
 {
-    QFETCH(Responder::Mood, mood);
+    QFETCH(TestCameraBehaviour, behaviour);
     QFETCH(int, count);
-    Responder responder(m_first->farNamespace(), m_first->farName(), "020000000001", "0a010002");
-    responder.setMood(mood);
+    TestCamera camera(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
+    camera.setBehaviour(behaviour);
     QElapsedTimer timer;
     timer.start();
     const int found = static_cast<int>(camerasOf(*interface("orv0")).size());
@@ -284,14 +297,14 @@ void TestGigEVision::strangeAnswers()
     if (count >= 0)
         QCOMPARE(found, count);
 
-    responder.setMood(Responder::Mood::Normal);
+    camera.setMood("good");
     QTRY_COMPARE(camerasOf(*interface("orv0")).size(), size_t(1));
     QCOMPARE(camerasOf(*interface("orv0")).front()->GetId(), "02:00:00:00:00:01");
 }
 
 void TestGigEVision::wrongSubnetAndForcedIp()
 {
-    Responder responder(m_first->farNamespace(), m_first->farName(), "001b2c3d4e5f", "a9fe0715");
+    TestCamera wrong(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
     const auto cameras = camerasOf(*interface("orv0"));
     QCOMPARE(cameras.size(), size_t(1));
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessSubnetMismatch));
@@ -320,8 +333,8 @@ void TestGigEVision::wrongSubnetAndForcedIp()
     // A capture that has just been announced may still miss the first packets.
     QTest::qWait(500);
     QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(Success));
-    QVERIFY(!responder.forced().empty());
-    QCOMPARE(responder.forced().front().toHex(),
+    QVERIFY(!wrong.forcedIps().empty());
+    QCOMPARE(QByteArray::fromStdString(wrong.forcedIps().front()).toHex(),
              QByteArray("0000001b2c3d4e5f") + QByteArray(24, '0') + "0a010002" +
                  QByteArray(24, '0') + "ffffff00" + QByteArray(24, '0') + "0a0100fe");
     QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0x0A010002));
@@ -348,19 +361,18 @@ void TestGigEVision::wrongSubnetAndForcedIp()
 
 void TestGigEVision::forcedIpFails_data()
 {
-    QTest::addColumn<Responder::Mood>("mood");
     QTest::addColumn<int>("error");
-    QTest::newRow("refused") << Responder::Mood::Stubborn << int(ErrorAccessDenied);
-    QTest::newRow("never seen again") << Responder::Mood::Mute << int(ErrorTimeout);
+    QTest::newRow("force-ip-refused") << int(ErrorAccessDenied);
+    QTest::newRow("force-ip-ignored") << int(ErrorTimeout);
+    QTest::newRow("force-ip-fatal") << int(ErrorTimeout);
 }
 
 void TestGigEVision::forcedIpFails()
 {
-    QFETCH(Responder::Mood, mood);
     QFETCH(int, error);
-    Responder responder(m_first->farNamespace(), m_first->farName(), "001b2c3d4e5f", "a9fe0715");
+    TestCamera wrong(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
     DeviceInfo *camera = camerasOf(*interface("orv0")).front();
-    responder.setMood(mood);
+    wrong.setMood(QTest::currentDataTag());
     OrvGenParam::Array *array = interface("orv0")->GetParamArray();
     array->SetIntegerValue("DeviceSelector", 0);
     array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
@@ -368,7 +380,7 @@ void TestGigEVision::forcedIpFails()
     timer.start();
     QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(error));
     QVERIFY(timer.elapsed() < 8000);
-    QCOMPARE(responder.forced().empty(), false);
+    QVERIFY(!wrong.forcedIps().empty());
     QCOMPARE(camera->GetAccessState(), int32_t(AccessSubnetMismatch));
     QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0xA9FE0715));
     QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"), int64_t(0x0A010002));

@@ -3,7 +3,7 @@
 #include "check.h"
 
 #include <GenApi/GenApi.h>
-#include <aravis/nodemap.h>
+#include <description/nodemap.h>
 
 using namespace GenApi;
 
@@ -73,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     attempt([&] {
         const auto map =
-            OrvAravis::NodeMap::fromText(reinterpret_cast<const char *>(data), size, "fuzz.xml");
+            OrvDescription::NodeMap::fromText(reinterpret_cast<const char *>(data), size, "fuzz.xml");
         check(dynamic_cast<ICategory *>(map->GetNode("Root")), "there is no root category");
         readAll(*map);
     });

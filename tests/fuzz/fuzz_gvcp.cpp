@@ -2,9 +2,9 @@
 // Any packet as a camera's answer.
 #include "check.h"
 
-#include <aravis/gvcp.h>
+#include <gigevision/gvcp.h>
 
-using namespace OrvAravis;
+using namespace OrvGigEVision;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
@@ -14,8 +14,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     check(answer->payload >= data && answer->payload + answer->size <= data + size,
           "the payload is not in the packet");
 
-    const auto word = Gvcp::parseRegister(*answer);
-    check(word.has_value() == (answer->size >= 4), "a register's value comes of four bytes");
+    for (const std::size_t count : {1u, 2u, 134u}) {
+        const auto values = Gvcp::parseRegisters(*answer, count);
+        check(!values || values->size() == answer->size / 4, "a register's value is four bytes");
+        check(!values || values->size() <= count, "more values than were asked for");
+    }
+    if (const uint8_t *memory = Gvcp::parseMemory(*answer, 0, 4))
+        check(memory + 4 <= data + size, "the memory is not in the packet");
+    if (const auto time = Gvcp::parsePending(*answer))
+        check(time->count() <= 65535, "the time has more than two bytes");
 
     if (const auto identity = Gvcp::parseIdentity(*answer)) {
         check(identity->mac <= 0xFFFFFFFFFFFF, "the MAC address has more than six bytes");

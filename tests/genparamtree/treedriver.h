@@ -54,6 +54,18 @@ public:
         QCoreApplication::processEvents();
     }
 
+    /// One notch towards the user.
+    void turnWheel(const char *feature)
+    {
+        const QPoint inView =
+            tree().viewport()->mapTo(&m_view, tree().visualRect(cell(feature)).center());
+        QWheelEvent event(inView, m_view.mapToGlobal(inView), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(m_view.windowHandle(), &event); // sending it makes it another kind of event
+        QCoreApplication::processEvents();
+    }
+
     void drag(const QPoint &from, const QPoint &to)
     {
         QWindow *window = m_view.windowHandle();

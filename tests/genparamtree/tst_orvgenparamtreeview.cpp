@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "orvgenparamtreeview.h"
 
+#include "featurecell.h"
+#include "readablecolors.h"
 #include "samplenodemap.h"
 #include "treedriver.h"
 #include "treeviewresizer.h"
 
-#include <aravis/nodemap.h>
-#include <simulation/simulatedcamera.h>
+#include <simulatednodemap.h>
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -15,6 +16,8 @@
 #include <QSortFilterProxyModel>
 #include <QSpinBox>
 #include <QTextBrowser>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QtTest>
 
 #include <memory>
@@ -31,8 +34,8 @@ namespace {
 struct CameraTree
 {
     OrvSimulation::SimulatedCamera camera;
-    std::unique_ptr<OrvAravis::NodeMap> nodeMap = OrvAravis::NodeMap::open(camera.device());
-    std::unique_ptr<OrvAravis::NodeMap> other = OrvAravis::NodeMap::open(camera.device());
+    std::unique_ptr<OrvDescription::NodeMap> nodeMap = openNodeMap(camera);
+    std::unique_ptr<OrvDescription::NodeMap> other = openNodeMap(camera);
     OrvGenParamTreeView view{nodeMap.get(), nullptr};
     TreeDriver driver{view};
 
@@ -53,6 +56,39 @@ struct MemoryTree
     OrvGenParamTreeView view{&map, nullptr};
     TreeDriver driver{view};
     QTreeView &tree = *view.treeView();
+};
+
+/// A category that loses features, and fails, while it is shown.
+class BrokenCategory : public OrvGenApi::MemoryCategory
+{
+public:
+    using MemoryCategory::MemoryCategory;
+    void GetFeatures(GenApi::FeatureList_t &features) const override
+    {
+        fail();
+        MemoryCategory::GetFeatures(features);
+        features.resize(std::min(features.size(), size));
+    }
+    GenApi::EVisibility GetVisibility() const override
+    {
+        fail();
+        return MemoryCategory::GetVisibility();
+    }
+    GenApi::EInterfaceType GetPrincipalInterfaceType() const override
+    {
+        fail();
+        return MemoryCategory::GetPrincipalInterfaceType();
+    }
+
+    bool isFailing = false;
+    size_t size = 100;
+
+private:
+    void fail() const
+    {
+        if (isFailing)
+            throw GenICam::TimeoutException("no answer", __FILE__, __LINE__);
+    }
 };
 
 /// Counts how often a widget is shown from now on.
@@ -76,6 +112,15 @@ struct TypingCase
     const char *proof = nullptr;   ///< another feature that tells what was written
 };
 
+/// What a user does to a feature, in the words of `TestOrvGenParamTreeView::hands`.
+struct Hands
+{
+    const char *feature = nullptr;
+    const char *script = nullptr;
+    const char *written = nullptr; ///< null for nothing
+    const char *edited = nullptr;  ///< the feature whose editor is open then; null for none
+};
+
 struct ChoosingCase
 {
     const char *feature = nullptr;
@@ -84,10 +129,53 @@ struct ChoosingCase
     const char *after = nullptr;
 };
 
+struct PaintedColours
+{
+    explicit PaintedColours(const QImage &cell)
+    {
+        QHash<QRgb, int> counts;
+        for (int y = 0; y < cell.height(); ++y) {
+            for (int x = 0; x < cell.width(); ++x)
+                ++counts[cell.pixel(x, y)];
+        }
+        const auto isLess = [&](QRgb a, QRgb b) { return counts[a] < counts[b]; };
+        const QList<QRgb> all = counts.keys();
+        background = *std::max_element(all.begin(), all.end(), isLess);
+        for (const QRgb colour : all)
+            contrast = qMax(contrast, OrvGui::contrast(background, colour));
+    }
+
+    QRgb background = 0;
+    double contrast = 1; ///< of the background with what differs most from it
+};
+
+int writesTo(OrvGenApi::Node &node)
+{
+    int writes = 0;
+    const auto add = [&writes](const auto *known) { writes += known ? known->writes() : 0; };
+    add(dynamic_cast<OrvGenApi::MemoryInteger *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryFloat *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryString *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryBoolean *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryEnumeration *>(&node));
+    add(dynamic_cast<OrvGenApi::MemoryCommand *>(&node));
+    return writes;
+}
+
+/// To a text that is longer, or shorter, than the one before.
+void changeByCamera(OrvGenApi::Node &node)
+{
+    if (auto *integer = dynamic_cast<OrvGenApi::MemoryInteger *>(&node))
+        integer->change(1024);
+    if (auto *number = dynamic_cast<OrvGenApi::MemoryFloat *>(&node))
+        number->change(77);
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(TypingCase)
 Q_DECLARE_METATYPE(ChoosingCase)
+Q_DECLARE_METATYPE(Hands)
 
 class TestOrvGenParamTreeView : public QObject
 {
@@ -97,10 +185,16 @@ private slots:
     void withoutNodeMap();
     void levelsAndSpans();
     void description();
+    void texts();
+    void colours_data();
+    void colours();
     void firstShow();
 
     void typing_data();
     void typing();
+    void hands_data();
+    void hands();
+    void scrollingAndSearching();
     void choosing_data();
     void choosing();
     void listOpensOnce();
@@ -123,6 +217,7 @@ private slots:
     void changedOnAnotherThread();
     void readsOnlyWhatIsSeen();
     void levelOfALargeTree();
+    void brokenCategories();
 };
 
 void TestOrvGenParamTreeView::withoutNodeMap()
@@ -180,6 +275,30 @@ void TestOrvGenParamTreeView::description()
     driver.click("Width", 0);
     QCOMPARE(driver.tree().currentIndex(), driver.cell("Width", 0));
     QVERIFY(panel->toPlainText().contains("Width of the image in pixels."));
+    QVERIFY(panel->toPlainText().contains("Min: 16, Max: 1280\n"));
+    shown.map.integer("Width").setLimits(16, 640); // by itself, as the camera
+    QVERIFY(panel->toPlainText().contains("Min: 16, Max: 640\n"));
+
+    // What the camera says is no markup, and names nothing that is opened.
+    QTemporaryFile picture;
+    QVERIFY(picture.open());
+    QImage(20, 20, QImage::Format_RGB32).save(&picture, "PNG");
+    const QString markup = "Entry <N> in \u00b5s &amp; <img src=\"" + picture.fileName() + "\">";
+    auto &properties = shown.map.integer("Width").properties();
+    properties.description = markup.toStdString();
+    shown.map.integer("Width").changed();
+    QVERIFY(panel->toPlainText().contains(markup));
+    properties.toolTip = markup.toStdString();
+    const QPoint place = shown.tree.visualRect(driver.cell("Width", 0)).center();
+    QHelpEvent hover(QEvent::ToolTip, place, shown.tree.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(shown.tree.viewport(), &hover);
+    QCOMPARE(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), markup);
+    QToolTip::hideText();
+    properties.description = "\xb5s"; // no UTF-8
+    shown.map.integer("Width").changed();
+    QVERIFY(panel->toPlainText().contains("\u00b5s"));
+    QCOMPARE(panel->loadResource(QTextDocument::ImageResource, QUrl(picture.fileName())),
+             QVariant());
     driver.click("DeviceControl", 0);
     QVERIFY(panel->toPlainText().startsWith("Name: Device Control"));
     driver.tree().setCurrentIndex(QModelIndex());
@@ -192,6 +311,83 @@ void TestOrvGenParamTreeView::description()
     driver.click("Width", 0);
     shown.view.clearParams();
     QVERIFY(panel->toPlainText().isEmpty());
+}
+
+void TestOrvGenParamTreeView::texts()
+{
+    SampleNodeMap map;
+    const GenParamTreeModel model(&map);
+    const auto text = [&](const char *feature, const QVariant &value, const char *locale = "C") {
+        return OrvGui::featureText(valueCell(model, feature), value, QLocale(locale));
+    };
+    QCOMPARE(text("ReverseX", true), QString("True"));
+    QCOMPARE(text("BinningHorizontal", QVariant::fromValue(-1234567L)), QString("-1234567 px"));
+    QCOMPARE(text("DeviceUserID", "1e3"), QString("1e3"));
+
+    auto &exposure = map.number("ExposureTime");
+    const std::pair<double, const char *> numbers[] = {{1234567.25, "1234567.25 us"},
+                                                       {10, "10 us"},
+                                                       {-0.1, "-0.1 us"},
+                                                       {0.000123456, "0.000123456 us"},
+                                                       {1e-7, "1e-07 us"},
+                                                       {1e300, "1e+300 us"},
+                                                       {0, "0 us"}};
+    for (const auto &number : numbers)
+        QCOMPARE(text("ExposureTime", number.first), QString(number.second));
+    QCOMPARE(text("ExposureTime", 1234567.25, "de"), QString("1234567,25 us"));
+    exposure.setNotation(GenApi::fnFixed, 3);
+    QCOMPARE(text("ExposureTime", 1.5), QString("1.500 us"));
+    exposure.setNotation(GenApi::fnScientific, 2);
+    QCOMPARE(text("ExposureTime", 1234.5), QString("1.23e+03 us"));
+}
+
+void TestOrvGenParamTreeView::colours_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<QString>("styleSheet");
+    QPalette dark;
+    for (const auto role : {QPalette::Window, QPalette::Button, QPalette::AlternateBase})
+        dark.setColor(role, QColor(53, 53, 53));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(role, Qt::white);
+    dark.setColor(QPalette::Base, QColor(25, 25, 25));
+    QTest::newRow("light") << QPalette() << "";
+    QTest::newRow("dark") << dark << "";
+    QTest::newRow("everything") << QPalette()
+                                << "QWidget { background-color: #202020; color: #e0e0e0; }";
+    QTest::newRow("tree") << QPalette() << "QTreeView { background-color: #1e1e1e; color: #ddd; }";
+    QTest::newRow("background only") << QPalette() << "QTreeView { background-color: #1e1e1e; }";
+}
+
+// Whatever colours a host has set and left alone, every cell can be read, and a category that a
+// higher level has brought is of one colour.
+void TestOrvGenParamTreeView::colours()
+{
+    QFETCH(QPalette, palette);
+    QFETCH(QString, styleSheet);
+    const QPalette before = QApplication::palette();
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(palette);
+    qApp->setStyleSheet(styleSheet);
+    {
+        MemoryTree shown; // which goes up from the lowest level
+        const QTreeView &tree = shown.tree;
+        const QImage picture = tree.viewport()->grab().toImage();
+        const auto colours = [&](const char *feature, int column) {
+            const QRect rect = tree.visualRect(shown.driver.cell(feature, column));
+            return PaintedColours(picture.copy(rect.adjusted(2, 2, -8, -2)));
+        };
+        for (const char *feature : {"DeviceControl", "GigEVision", "DeviceUserID", "ReverseX",
+                                    "ExposureTime", "GainSelector", "Gain"})
+            QVERIFY2(colours(feature, 0).contrast >= 4.5, feature);
+        for (const char *feature :
+             {"DeviceModelName", "DeviceReset", "DeviceTemperature", "FirmwareKey", "Width"})
+            QVERIFY2(colours(feature, 1).contrast >= 4.5, feature);
+        QCOMPARE(colours("GigEVision", 1).background, colours("GigEVision", 0).background);
+        QVERIFY(colours("GigEVision", 0).background != colours("DeviceUserID", 0).background);
+    }
+    qApp->setStyleSheet(QString());
+    QApplication::setPalette(before);
 }
 
 void TestOrvGenParamTreeView::firstShow()
@@ -250,6 +446,108 @@ void TestOrvGenParamTreeView::typing()
     tree.camera.advance(0);
     QCOMPARE(tree.written(proof), written);
     QCOMPARE(tree.driver.text(row.feature), QString(row.shown));
+}
+
+void TestOrvGenParamTreeView::hands_data()
+{
+    QTest::addColumn<Hands>("row");
+    const auto row = [](const char *name, const Hands &hands) { QTest::newRow(name) << hands; };
+    row("integer", {"Width", "click 640 Return", "640"});
+    row("float", {"ExposureTime", "click 512.5 Return", "512.5"});
+    row("address", {"GevPersistentIPAddress", "click 10.1.2.3 Return", "167838211"});
+    row("string", {"DeviceUserID", "click mycamera elsewhere", "mycamera"});
+    row("untouched follows", {"Width", "click camera 64 Return", "64"});
+    row("followed and left", {"Width", "click camera elsewhere"});
+    row("touched stays", {"Width", "click 64 camera 0 Return", "640"});
+    row("stepped stays", {"ExposureTime", "click Up camera Return", "10001"});
+    row("too small", {"Width", "click 640 Backspace Backspace Return"});
+    row("cleared", {"Width", "click Backspace elsewhere"});
+    row("escape", {"Width", "click 640 Escape"});
+
+    row("list escaped", {"PixelFormat", "click Down Escape Down wheel elsewhere"});
+    row("list unchanged", {"PixelFormat", "click Return Down wheel elsewhere"});
+    row("list left", {"PixelFormat", "click elsewhere Down wheel"});
+    row("list passed", {"PixelFormat", "click Down Tab", nullptr, "ReverseX"});
+    row("list chosen", {"PixelFormat", "click Down Return", "Mono12"});
+
+    row("wheel", {"Width", "click wheel elsewhere"});
+    row("wheel after a step", {"ExposureTime", "click Up Up Up wheel elsewhere", "10002"});
+    row("wheel over a button", {"DeviceReset", "click wheel elsewhere"});
+
+    row("F2", {"Width", "name F2 640 Return", "640"});
+    row("Return", {"PixelFormat", "name Return Down Return", "Mono12"});
+    row("Return of what is read only", {"DeviceModelName", "name Return Down"});
+    row("again", {"Width", "name F2 Escape F2 32 Return", "32"});
+    row("Tab", {"ReverseX", "name F2 Tab", nullptr, "ExposureTime"});
+    row("Tab after typing", {"Width", "name F2 640 Tab", "640", "BinningHorizontal"});
+    row("Backtab", {"ExposureTime", "name F2 Backtab", nullptr, "ReverseX"});
+    row("Tab at the end", {"GevDeviceModeCapability", "name F2 Tab"});
+    row("arrows in a line", {"DeviceUserID", "click a Up b Down Return", "ab"});
+    row("arrows after it", {"DeviceUserID", "name F2 a Return Down Down Up", "a"});
+}
+
+// What the user types, chooses and leaves alone is what the camera gets. Between any two keys, as
+// slow hands have them, the node is polled.
+void TestOrvGenParamTreeView::hands()
+{
+    QFETCH(Hands, row);
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    shown.map.integer("Width").change(16);
+    OrvGenApi::Node &node = *shown.map.node(row.feature);
+    node.properties().pollingTime = 100;
+    const auto wait = [&] { shown.map.Poll(1000); };
+
+    const QMetaEnum keys = QMetaEnum::fromType<Qt::Key>();
+    for (const QString &word : QString::fromLatin1(row.script).split(' ')) {
+        const int key = keys.keyToValue(qPrintable("Key_" + word));
+        if (word == "click" || word == "name")
+            driver.click(row.feature, word == "click" ? 1 : 0);
+        else if (word == "elsewhere")
+            driver.click("AcquisitionControl", 0);
+        else if (word == "wheel")
+            driver.turnWheel(row.feature);
+        else if (word == "camera")
+            changeByCamera(node);
+        else if (word.size() > 1 && key != -1)
+            driver.press(Qt::Key(key));
+        else
+            std::for_each(word.begin(), word.end(), [&](QChar character) {
+                driver.type(character);
+                wait();
+            });
+        wait();
+    }
+    QVERIFY(!QApplication::activePopupWidget() || row.edited);
+    QCOMPARE(writesTo(node), row.written ? 1 : 0);
+    if (row.written)
+        QCOMPARE(dynamic_cast<GenApi::IValue &>(node).ToString().c_str(), row.written);
+    QCOMPARE(driver.isEditing(), row.edited != nullptr);
+    if (row.edited)
+        QVERIFY(driver.tree().indexWidget(driver.cell(row.edited)));
+}
+
+// Without an editor under it that was touched, the wheel scrolls; letters search the names.
+void TestOrvGenParamTreeView::scrollingAndSearching()
+{
+    MemoryTree shown;
+    TreeDriver &driver = shown.driver;
+    shown.view.resize(500, 300);
+    const QScrollBar &bar = *shown.tree.verticalScrollBar();
+    for (const char *feature : {"Width", "DeviceUserID", "DeviceReset"}) {
+        driver.click(feature);
+        QVERIFY(driver.isEditing());
+        const int before = bar.value();
+        driver.turnWheel(feature);
+        QVERIFY2(bar.value() > before, feature);
+    }
+    driver.click("DeviceModelName");
+    QCOMPARE(shown.tree.currentIndex().column(), 1);
+    driver.type("rev");
+    QCOMPARE(shown.tree.currentIndex(), driver.cell("ReverseX", 0));
+    driver.press(Qt::Key_Escape);
+    driver.press(Qt::Key_F2);
+    QVERIFY(driver.editor<QComboBox>());
 }
 
 void TestOrvGenParamTreeView::choosing_data()
@@ -523,6 +821,18 @@ void TestOrvGenParamTreeView::onlyTheUsersChanges()
         QCOMPARE(listed.writes(), 0);
         driver.click("Large", 0);
     }
+
+    // Nothing to choose from: that is said, and nothing is written.
+    auto &format = map.enumeration("PixelFormat");
+    for (const char *entry : {"Mono8", "Mono12"})
+        format.entry(entry).setAccessMode(GenApi::NA);
+    driver.click("PixelFormat");
+    QVERIFY(driver.editor<QLineEdit>());
+    QCOMPARE(driver.editor<QLineEdit>()->text(), QString("Mono8 (no entry is available)"));
+    driver.type("x");
+    driver.press(Qt::Key_Return);
+    QVERIFY(!driver.isEditing());
+    QCOMPARE(format.writes(), 0);
 
     // A host may filter the tree further, and edit it with a delegate of its own.
     QTreeView &tree = driver.tree();
@@ -860,6 +1170,40 @@ void TestOrvGenParamTreeView::levelOfALargeTree()
         QVERIFY(driver.tree().isExpanded(model.index(row, 0)));
         QCOMPARE(model.rowCount(model.index(row, 0)), 50);
     }
+}
+
+// What ends in Qt's event loop would end the program.
+void TestOrvGenParamTreeView::brokenCategories()
+{
+    SampleNodeMap map;
+    OrvGenApi::NodeProperties properties;
+    properties.name = "Broken";
+    BrokenCategory broken(map, properties);
+    map.root().addFeature(broken);
+    for (const char *feature : {"Width", "FirmwareKey", "DeviceTemperature", "Gain"})
+        broken.addFeature(*map.node(feature));
+    broken.addFeature(broken);
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    const auto useIt = [&] {
+        for (const OrvGui::Visibility level : {OrvGui::Basic, OrvGui::Expert, OrvGui::Guru}) {
+            view.setVisibility(level);
+            driver.tree().expandAll();
+            map.integer("Width").change(level);
+            view.grab();
+            driver.click("Width", 0);
+            driver.press(Qt::Key_Down);
+        }
+    };
+    useIt();
+    broken.size = 2;
+    useIt();
+    broken.isFailing = true;
+    useIt();
+    view.setParams(&map);
+    QVERIFY(driver.cell("Width").isValid());
+    useIt();
 }
 
 QTEST_MAIN(TestOrvGenParamTreeView)

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "../cameraapi/responder.h"
 #include "modalvisitor.h"
 #include "orvcameraselectordialog.h"
 #include "pickerparts.h"
@@ -165,10 +164,10 @@ void TestPickerNetwork::cameraStopsWhilePicking()
 
 void TestPickerNetwork::makesCameraReachable()
 {
-    Responder responder(m_first->farNamespace(), m_first->farName(), "001b2c3d4e5f", "a9fe0715");
+    TestCamera camera(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
     m_picker = std::make_unique<OrvCameraSelectorDialog>(m_system);
     m_picker->show();
-    QVERIFY(selectCamera("Strawman"));
+    QVERIFY(selectCamera("TestCamera"));
     QVERIFY(shows(devicePane, {"Access status: IP Subnet Mismatch", "IP Address: 169.254.7.21"}));
     QVERIFY(!okButton()->isEnabled());
 
@@ -189,7 +188,7 @@ void TestPickerNetwork::makesCameraReachable()
     button(*m_picker, "Set IP Address")->click();
     m_first->runFar("ip", "addr del 10.1.0.77/24 dev " + m_first->farName());
     QVERIFY(visitor.isDone());
-    QVERIFY(!responder.forced().empty());
+    QVERIFY(!camera.forcedIps().empty());
     QVERIFY(shows(devicePane, {"Access status: ReadWrite", "IP Address: 10.1.0.77"}));
     okButton()->click();
     QCOMPARE(m_picker->result(), int(QDialog::Accepted));

@@ -82,14 +82,13 @@ private:
 
 void TestCameraDescription::initTestCase()
 {
-    const SimulatedCamera::Text text = SimulatedCamera::description();
-    QXmlStreamReader xml(QByteArray(text.data, static_cast<int>(text.size)));
+    const auto text = SimulatedCamera::description();
+    QXmlStreamReader xml(QByteArray(text->data(), static_cast<int>(text->size())));
     QVERIFY(xml.readNextStartElement());
     QCOMPARE(xml.name().toString(), QString("RegisterDescription"));
     while (xml.readNextStartElement())
         readNode(xml, -1);
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
-    QCOMPARE(text.data[text.size], '\0');
     for (int i = 0; i < m_nodes.size(); ++i) {
         if (m_nodes[i].element != "EnumEntry" && !m_nodes[i].name.isEmpty())
             m_byName.insert(m_nodes[i].name, i);

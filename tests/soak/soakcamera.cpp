@@ -3,45 +3,99 @@
 
 #include <GenApi/GenApi.h>
 #include <OrvGenParam.h>
-#include <aravis/nodemap.h>
+#include <description/description.h>
+#include <description/nodemap.h>
+#include <simulation/simulatedcamera.h>
 
 #include <stdexcept>
 #include <string>
 
 using namespace OrvCam;
+using OrvCameraIo::ReadTransfer;
+using OrvCameraIo::Status;
+using OrvSimulation::SimulatedCamera;
+
+/// A cable to a simulated camera, which takes the time of a real one.
+class SoakCamera::Port final : public OrvCameraIo::Port
+{
+public:
+    explicit Port(Switch isPlugged) : m_isPlugged(std::move(isPlugged)) { switchOn(); }
+
+    std::size_t batchSize() const override { return 64; }
+
+    void read(std::vector<ReadTransfer> &batch) override
+    {
+        if (*m_isPlugged)
+            m_camera->read(batch);
+        else
+            batch.front().status = Status::NoAnswer;
+    }
+
+    Status write(uint64_t address, const std::vector<uint8_t> &bytes) override
+    {
+        return *m_isPlugged ? m_camera->write(address, bytes) : Status::NoAnswer;
+    }
+
+    Presence probe() override
+    {
+        m_isSwitchedOff |= !*m_isPlugged;
+        return m_isSwitchedOff ? Presence::Forgotten : Presence::Answers;
+    }
+
+    bool reopen(const std::function<bool()> &) override
+    {
+        if (*m_isPlugged)
+            switchOn();
+        return *m_isPlugged;
+    }
+
+private:
+    void switchOn()
+    {
+        OrvSimulation::CameraIdentity identity;
+        identity.serial = "SOAK";
+        m_camera.reset();
+        m_camera = SimulatedCamera(identity).port();
+        m_isSwitchedOff = false;
+    }
+
+    const Switch m_isPlugged;
+    std::unique_ptr<OrvCameraIo::Port> m_camera;
+    bool m_isSwitchedOff = false;
+};
 
 class SoakCamera::Connection final : public CameraConnection
 {
 public:
-    Connection(const std::atomic<bool> &isPlugged,
-               std::unique_ptr<OrvSimulation::SimulatedCamera> camera)
-        : m_isPlugged(isPlugged)
-        , m_camera(std::move(camera))
-        , m_nodeMap(OrvAravis::NodeMap::open(m_camera->device()))
+    explicit Connection(Switch isPlugged)
+        : m_nodeMap(OrvDescription::Description::shared(*SimulatedCamera::description(), "soak"),
+                    std::make_unique<Port>(std::move(isPlugged)))
     {
     }
 
-    GenApi::INodeMap &nodeMap() override { return *m_nodeMap; }
-    bool isAlive() override { return m_isPlugged; }
+    GenApi::INodeMap &nodeMap() override { return m_nodeMap; }
+    void setListener(OrvCameraIo::RegisterIoListener *listener) override
+    {
+        m_nodeMap.setListener(listener);
+    }
 
 private:
-    const std::atomic<bool> &m_isPlugged;
-    const std::unique_ptr<OrvSimulation::SimulatedCamera> m_camera;
-    const std::unique_ptr<OrvAravis::NodeMap> m_nodeMap;
+    OrvDescription::NodeMap m_nodeMap;
 };
 
 class SoakCamera::Connector final : public CameraConnector
 {
 public:
-    explicit Connector(SoakCamera &camera) : m_camera(camera) {}
+    explicit Connector(Switch isPlugged) : m_isPlugged(std::move(isPlugged)) {}
 
-    std::unique_ptr<CameraConnection> open(int32_t, int32_t &error) override
+    std::unique_ptr<CameraConnection> open(int32_t, const OpenProgress &, int32_t &error) override
     {
-        return m_camera.connect(error);
+        error = *m_isPlugged ? Success : ErrorGone;
+        return *m_isPlugged ? std::make_unique<Connection>(m_isPlugged) : nullptr;
     }
 
 private:
-    SoakCamera &m_camera;
+    const Switch m_isPlugged;
 };
 
 class SoakCamera::Info final : public DeviceInfo
@@ -58,37 +112,15 @@ public:
     const char *GetId() const override { return "soak"; }
 };
 
-void SoakCamera::plugIn()
-{
-    // A device keeps what it had of an unplugged camera, so the next one needs another number.
-    static unsigned number = 0;
-    OrvSimulation::CameraIdentity identity;
-    identity.serial = "SOAK-" + std::to_string(++number);
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_camera = std::make_unique<OrvSimulation::SimulatedCamera>(identity);
-    m_isPlugged = true;
-}
-
 Device *SoakCamera::open()
 {
     static Info info;
     int32_t error = Success;
-    Device *device = CameraDevice::open(nullptr, info, std::make_shared<Connector>(*this),
-                                        AccessControl, error, 10);
+    Device *device = CameraDevice::open(nullptr, info, std::make_shared<Connector>(m_isPlugged),
+                                        AccessControl, error);
     if (!device)
         throw std::runtime_error("the camera cannot be opened: " + std::to_string(error));
     return device;
-}
-
-std::unique_ptr<CameraConnection> SoakCamera::connect(int32_t &error)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_isPlugged || !m_camera) {
-        error = ErrorGone;
-        return nullptr;
-    }
-    error = Success;
-    return std::make_unique<Connection>(m_isPlugged, std::move(m_camera));
 }
 
 void SoakCamera::changeSomething(Device &device, std::mt19937 &random)

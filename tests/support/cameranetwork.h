@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "testcamera.h"
+
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QString>
@@ -60,6 +62,20 @@ public:
     QString farNamespace() const
     {
         return QStringLiteral("/proc/%1/ns/net").arg(m_machine.processId());
+    }
+
+    /// For a camera on the other machine. It broadcasts its answers, as a camera does that has no
+    /// way back to the client's subnet.
+    TestCamera::Settings cameraSettings(uint64_t mac, const char *address) const
+    {
+        TestCamera::Settings settings;
+        settings.networkNamespace = farNamespace().toStdString();
+        settings.adapter = farName().toStdString();
+        settings.address = address;
+        settings.mac = mac;
+        settings.serial.clear();
+        settings.broadcasts = true;
+        return settings;
     }
 
     /// Starts a program on the other machine; it is killed with the returned object.

@@ -24,8 +24,8 @@ namespace {
 const QChar Open(0xab);  // «
 const QChar Close(0xbb); // »
 
-/// The words that no translation has: a boolean value, as Qt writes it in a cell, and the micro
-/// sign.
+/// The words that no translation has: a boolean value, as the model has it for the tree to word,
+/// and the micro sign.
 const QStringList names = {QStringLiteral("true"), QStringLiteral("false"), QString(QChar(0x3bc))};
 
 QStringList translationFiles()
@@ -278,9 +278,14 @@ QStringList TestTranslations::strangers(const QStringList &texts) const
         for (const QString &part : text.mid(text.indexOf('|') + 1).split(marked)) {
             bool isFine = isKnown(part.trimmed());
             if (!isFine) { // a list
-                const QStringList words = part.split(QRegularExpression("[,\\n]"));
-                isFine = std::all_of(words.begin(), words.end(),
-                                     [&](const QString &word) { return isKnown(word.trimmed()); });
+                const auto all = [](const QStringList &parts, const auto &isFineToo) {
+                    return std::all_of(parts.begin(), parts.end(), isFineToo);
+                };
+                isFine = all(part.split('\n'), [&](const QString &line) {
+                    return isKnown(line.trimmed()) ||
+                           all(line.split(','),
+                               [&](const QString &word) { return isKnown(word.trimmed()); });
+                });
             }
             if (!isFine)
                 result << text;

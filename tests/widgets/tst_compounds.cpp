@@ -9,8 +9,11 @@
 
 #include <QAccessible>
 #include <QBoxLayout>
+#include <QFocusEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
@@ -57,6 +60,8 @@ private Q_SLOTS:
     void hideTheButtonWhenReadOnly();
     void letGoWhenHidden();
     void popUpTheSlider();
+    void popUpOnTheScreen();
+    void closeTheSliderByASecondClick();
     void takeLeaveWithTextPending();
     void speakUp();
 
@@ -200,11 +205,15 @@ void TestCompounds::treatPositionsOffTheGrid()
 void TestCompounds::keepWhatTheSliderCannotShow()
 {
     QtOrvSliderSpinBox widget;
-    widget.slider()->setScaleType(QtOrvSlider::ScaleLog10);
     widget.setRange(0, 1000000);
     ValueSpy<QtOrvSliderSpinBox> values(&widget);
 
     widget.setValue(10000);
+    for (const auto scale :
+         {QtOrvSlider::ScaleSqrt, QtOrvSlider::ScaleLinear, QtOrvSlider::ScaleLog10}) {
+        widget.setScaleType(scale);
+        QCOMPARE(widget.slider()->scaleType(), scale);
+    }
     QCOMPARE(widget.slider()->value(), 9990);
     QCOMPARE(widget.value(), 10000);
     QCOMPARE(values, (QList<QVariantList>{{10000}}));
@@ -349,6 +358,52 @@ void TestCompounds::popUpTheSlider()
     QCOMPARE(slider->pos(), corner() - QPoint(0, 240));
     widget.setEnabled(false);
     QVERIFY(!slider->isVisible());
+}
+
+void TestCompounds::popUpOnTheScreen()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QtOrvSpinBox widget(orientation);
+            widget.setWindowFlags(Qt::FramelessWindowHint);
+            widget.setLayoutDirection(direction);
+            widget.show();
+            const QPoint last = screen.bottomRight() - widget.rect().bottomRight();
+            for (const QPoint corner : {screen.topLeft(), QPoint(last.x(), screen.top()),
+                                        QPoint(screen.left(), last.y()), last}) {
+                widget.move(corner);
+                widget.toolButton()->click();
+                const QRect slider(widget.slider()->pos(), widget.slider()->size());
+                QVERIFY(screen.contains(slider));
+                QVERIFY(!slider.intersects(widget.rect().translated(corner).adjusted(0, 3, 0, -3)));
+                widget.slider()->hide();
+            }
+        }
+    }
+}
+
+void TestCompounds::closeTheSliderByASecondClick()
+{
+    QtOrvSpinBox widget;
+    widget.show();
+    QToolButton *button = widget.toolButton();
+    const auto click = [=] { QTest::mouseClick(button, Qt::LeftButton); };
+    click();
+    QVERIFY(widget.slider()->isVisible());
+    click();
+    QVERIFY(!widget.slider()->isVisible());
+
+    // A window manager takes the focus off the slider before it hands out the click.
+    click();
+    QCursor::setPos(button->mapToGlobal(button->rect().center()));
+    QFocusEvent out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(innerSlider(widget), &out);
+    QVERIFY(!widget.slider()->isVisible());
+    click();
+    QVERIFY(!widget.slider()->isVisible());
+    click();
+    QVERIFY(widget.slider()->isVisible());
 }
 
 // What was typed counts when the focus leaves, and the focus leaves a widget that is destroyed.

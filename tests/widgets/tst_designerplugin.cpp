@@ -92,6 +92,8 @@ void TestDesignerPlugin::checkForm(const QWidget *form)
         {"spinBox3", "value", 42},
         {"spinBox3", "sliderOrientation", Qt::Horizontal},
         {"spinBox3", "readOnly", true},
+        {"spinBox3", "scaleType", QtOrvSlider::ScaleSqrt},
+        {"spinBox4", "scaleType", QtOrvSlider::ScaleLog10},
         {"spinBox4", "topLabelText", QString("Delay")},
         {"spinBox4", "value", -7},
     };

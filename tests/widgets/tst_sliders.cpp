@@ -245,6 +245,8 @@ void TestSliders::keepsTheValueWhenTheMappingChanges()
     slider.setScaleType(QtOrvSlider::ScaleLinear);
     slider.setSingleStep(8);
     QCOMPARE(slider.slider()->singleStep(), 8);
+    slider.setScaleType(QtOrvSlider::ScaleSqrt);
+    QCOMPARE(slider.slider()->singleStep(), 1);
 }
 
 void TestSliders::announcesChangesOnly()
@@ -357,10 +359,24 @@ void TestSliders::mapsRealValues()
     }
 
     QtOrvDoubleSlider slider;
+    slider.setLocale(QLocale::c());
     slider.setDecimals(1);
     QCOMPARE(slider.maxLabel()->text(), QString("100.000")); // until it is written anew
-    slider.setMaximum(50.0);
-    QCOMPARE(slider.maxLabel()->text(), QString("50.0"));
+    slider.setMaximum(5000.0);
+    QCOMPARE(slider.maxLabel()->text(), QString("5000.0"));
+    slider.setLocale(QLocale(QLocale::German));
+    QCOMPARE(slider.maxLabel()->text(), QString("5000,0"));
+
+    // More steps than positions: the value stays until the slider is moved.
+    slider.setRange(-1e10, 1e10);
+    for (const double value : {1234567891.0, 9999999999.0, -7.0, 1e10}) {
+        slider.setValue(value);
+        QCOMPARE(slider.value(), value);
+    }
+    slider.setMinimum(-2e10);
+    QCOMPARE(slider.value(), 1e10);
+    slider.slider()->setValue(highest / 3);
+    QVERIFY(std::abs(slider.value() + 1e10) < 20.0 && slider.value() == std::round(slider.value()));
 }
 
 void TestSliders::keepsItsPromisesForAnyRealRange()

@@ -2,10 +2,21 @@
 #include "qtorvdoublespinboxval.h"
 #include "qtorvspinboxval.h"
 
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <limits>
+
+struct Hand
+{
+    const char *name;
+    void (*move)(QAbstractSpinBox *box); ///< null: what is typed counts at once
+    bool isTaken;
+};
 
 class TestSpinBoxes : public QObject
 {
@@ -17,7 +28,13 @@ private Q_SLOTS:
     void bearsEveryNumber();
     void snapsWhoeverSetsTheValue();
     void waitsForEnter();
+    void takesWhatHandsLeave();
     void leavesEnterToTheBaseClass();
+
+private:
+    template<class Box, class T>
+    static void checkHand(const QLocale &locale, const Hand &hand, T number,
+                          QString text = QString());
 };
 
 void TestSpinBoxes::snaps()
@@ -140,14 +157,87 @@ void TestSpinBoxes::waitsForEnter()
     QCOMPARE(box.text(), QString("7"));
     QCOMPARE(box.value(), 16);
 
-    QtOrvDoubleSpinBoxVal real;
-    real.setLocale(QLocale::c());
-    real.setValidateTyping(false);
-    real.selectAll();
-    QTest::keyClicks(&real, "1.5");
-    QCOMPARE(real.value(), 0.0);
-    QTest::keyClick(&real, Qt::Key_Return);
-    QCOMPARE(real.value(), 1.5);
+    box.setReadOnly(true);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.value(), 16);
+}
+
+// Without a text, types what the box shows for the number.
+template<class Box, class T>
+void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number, QString text)
+{
+    QWidget window;
+    Box box;
+    QLineEdit other;
+    QVBoxLayout layout(&window);
+    layout.addWidget(&box);
+    layout.addWidget(&other);
+    box.setLocale(locale);
+    box.setRange(-10000, 10000);
+    box.setValue(number);
+    if (text.isEmpty())
+        text = box.text();
+    box.setValue(40);
+    const QString before = box.text();
+    box.setValidateTyping(!hand.move);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    box.setFocus();
+    box.selectAll();
+    for (const QChar sign : text)
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, sign, Qt::NoModifier);
+    if (hand.move) {
+        QCOMPARE(box.value(), T(40));
+        hand.move(&box);
+    }
+    const QByteArray what = QString("%1, %2: ").arg(locale.name(), text).toUtf8() + hand.name;
+    QVERIFY2(box.value() == (hand.isTaken ? number : T(40)), what);
+    QVERIFY2(hand.isTaken || box.text() == before, what);
+}
+
+void TestSpinBoxes::takesWhatHandsLeave()
+{
+    using Box = QAbstractSpinBox;
+    const Hand tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
+    const auto click = [](Box *box) {
+        QTest::mouseClick(box->window()->layout()->itemAt(1)->widget(), Qt::LeftButton);
+    };
+    const auto escape = [](Box *box) {
+        QTest::keyClick(box, Qt::Key_Escape);
+        box->window()->close();
+    };
+    const auto lock = [](Box *box) {
+        box->setReadOnly(true);
+        box->clearFocus();
+    };
+    const auto openMenu = [](Box *box) {
+        QMenu menu;
+        menu.popup(QPoint());
+        QCOMPARE(box->property("value").toInt(), 40);
+        menu.close();
+        QTest::keyClick(box, Qt::Key_Return);
+    };
+    const Hand hands[] = {
+        {"typing", nullptr, true},
+        {"Return", [](Box *box) { QTest::keyClick(box, Qt::Key_Return); }, true},
+        tab,
+        {"click", click, true},
+        {"close", [](Box *box) { box->window()->close(); }, true},
+        {"menu", openMenu, true},
+        {"Escape", escape, false},
+        {"disabled", [](Box *box) { box->window()->setEnabled(false); }, false},
+        {"read-only", lock, false},
+    };
+    for (const char *name : {"C", "de_DE", "fr_FR", "ar_EG"}) {
+        for (const Hand &hand : hands) {
+            checkHand<QtOrvSpinBoxVal>(QLocale(name), hand, -1234);
+            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, -1234.25);
+            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, 2.5, "2.5");
+        }
+    }
+    // The sign of another locale is not taken for one between thousands.
+    checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.move, false}, 2.5, "2,5");
 }
 
 void TestSpinBoxes::leavesEnterToTheBaseClass()
@@ -163,6 +253,11 @@ void TestSpinBoxes::leavesEnterToTheBaseClass()
     QTest::keyClick(&box, Qt::Key_Return);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(box.value(), 40);
+
+    QTest::keyClicks(&box, "50");
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&box, &out);
+    QCOMPARE(box.value(), 50);
 }
 
 QTEST_MAIN(TestSpinBoxes)

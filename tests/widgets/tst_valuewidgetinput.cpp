@@ -24,6 +24,8 @@ struct KeyCase
     QtOrvSlider::ScaleType scale = QtOrvSlider::ScaleLog10;
     int step = 1; ///< validated, if more than 1
     Qt::LayoutDirection direction = Qt::LeftToRight;
+    int minimum = 1;
+    int maximum = 1000000;
 };
 Q_DECLARE_METATYPE(KeyCase)
 
@@ -100,6 +102,10 @@ void TestValueWidgetInput::movesByEveryKey_data()
     QTest::newRow("log, mirrored") << KeyCase{"Left", "Right", log, 1, Qt::RightToLeft};
     QTest::newRow("log, on a grid") << KeyCase{"Right", "Left", log, 64};
     QTest::newRow("root, on a coarse grid") << KeyCase{"Right", "Left", root, 30000};
+    QTest::newRow("log, ends off the grid")
+        << KeyCase{"Right", "Left", log, 134, Qt::LeftToRight, 208, 2778};
+    QTest::newRow("root, ends off the grid")
+        << KeyCase{"Right", "Left", root, 218, Qt::LeftToRight, 123, 346};
     QTest::newRow("root, by pages") << KeyCase{"Page_Up", "Page_Down", root, 30000};
 }
 
@@ -108,7 +114,7 @@ void TestValueWidgetInput::movesByEveryKey()
     QFETCH(KeyCase, row);
     auto *slider = new QtOrvSlider(Qt::Horizontal);
     slider->setScaleType(row.scale);
-    slider->setRange(1, 1000000);
+    slider->setRange(row.minimum, row.maximum);
     slider->setSingleStep(row.step);
     slider->setValidate(row.step > 1);
     slider->setLayoutDirection(row.direction);
@@ -128,7 +134,7 @@ void TestValueWidgetInput::movesByEveryKey()
                 QVERIFY(upward ? value > last : value < last);
                 QVERIFY(qAbs(value - last) >= row.step || value == end ||
                         last == slider->maximum());
-                QVERIFY(value >= 1 && value <= 1000000);
+                QVERIFY(value >= row.minimum && value <= row.maximum);
                 last = value;
             }
             QCOMPARE(slider->value(), last);
@@ -236,6 +242,13 @@ void TestValueWidgetInput::closesWhenTheFocusGoesElsewhere()
     window->activateWindow();
     QTRY_VERIFY(!widget->slider()->isVisible());
     QCOMPARE(out.count(), 1);
+
+    // Without a window manager the click itself leaves the focus where it is.
+    for (const bool opens : {true, false}) {
+        QTest::qWait(QApplication::doubleClickInterval());
+        point(widget->toolButton(), widget->toolButton()->rect().center(), {"click", "1"});
+        QTRY_COMPARE(widget->slider()->isVisible(), opens);
+    }
 }
 
 QTEST_MAIN(TestValueWidgetInput)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <aravis/gvcp.h>
+#include <gigevision/gvcp.h>
 
 #include <QtTest>
 
-using namespace OrvAravis;
+using namespace OrvGigEVision;
 
 namespace {
 
@@ -42,7 +42,8 @@ class TestGvcp : public QObject
 
 private slots:
     void identity();
-    void registers();
+    void commands();
+    void answers();
     void everyTruncation();
 };
 
@@ -67,21 +68,52 @@ void TestGvcp::identity()
     QCOMPARE(identity->serial, std::string("0123456789abcdef"));
     QCOMPARE(identity->userName, std::string("Käfer"));
 
-    QVERIFY(Gvcp::parseIdentity(*parse(packet + "trailing bytes")).has_value());
+    QVERIFY(Gvcp::parseIdentity(*parse(packet + QByteArray(9, '\0'))).has_value());
+    QVERIFY(!parse(packet + "trailing bytes"));
 }
 
-void TestGvcp::registers()
+void TestGvcp::commands()
 {
-    const QByteArray packet = QByteArray::fromHex("0000 0081 0004 0007 12345678");
+    const auto hex = [](const Gvcp::Packet &packet) {
+        return QByteArray(reinterpret_cast<const char *>(packet.data()),
+                          static_cast<int>(packet.size()))
+            .toHex();
+    };
+    const uint8_t bytes[] = {1, 2, 3, 4};
+    QCOMPARE(hex(Gvcp::readRegistersCommand(7, {0xA00, 0x12345678})),
+             QByteArray("4201008000080007"
+                        "00000a0012345678"));
+    QCOMPARE(hex(Gvcp::writeRegistersCommand(8, {{0xA00, 2}})), QByteArray("4201008200080008"
+                                                                           "00000a0000000002"));
+    QCOMPARE(hex(Gvcp::readMemoryCommand(9, 0xC0000000, 536)), QByteArray("4201008400080009"
+                                                                          "c000000000000218"));
+    QCOMPARE(hex(Gvcp::writeMemoryCommand(10, 0x10, bytes, 4)), QByteArray("420100860008000a"
+                                                                           "0000001001020304"));
+}
+
+void TestGvcp::answers()
+{
+    const QByteArray packet = QByteArray::fromHex("0000 0081 0008 0007 12345678 00000009");
     const auto answer = parse(packet);
     QVERIFY(answer && answer->is(Gvcp::Answer::ReadRegister, 7));
-    QCOMPARE(answer->status, uint16_t(Gvcp::StatusSuccess));
-    QCOMPARE(Gvcp::parseRegister(*answer).value(), 0x12345678u);
+    QVERIFY(Gvcp::parseRegisters(*answer, 2) == (std::vector<uint32_t>{0x12345678, 9}));
+    QVERIFY(!Gvcp::parseRegisters(*answer, 1));
+    QVERIFY(!Gvcp::parseRegisters(*answer, 3));
 
-    // A refusal carries no value.
-    const QByteArray refusal = QByteArray::fromHex("8006 0081 0000 0007");
-    QCOMPARE(parse(refusal)->status, uint16_t(Gvcp::StatusAccessDenied));
-    QVERIFY(!Gvcp::parseRegister(*parse(refusal)));
+    // A refusal holds the values up to there, but never as many as were asked for.
+    const QByteArray refusal = QByteArray::fromHex("8003 0081 0004 0007 12345678");
+    QCOMPARE(parse(refusal)->status, uint16_t(Gvcp::StatusInvalidAddress));
+    QVERIFY(Gvcp::parseRegisters(*parse(refusal), 2) == std::vector<uint32_t>{0x12345678});
+    QVERIFY(!Gvcp::parseRegisters(*parse(refusal), 1));
+
+    const QByteArray memory = QByteArray::fromHex("0000 0085 0008 0007 c0000000 01020304");
+    QVERIFY(Gvcp::parseMemory(*parse(memory), 0xC0000000, 4));
+    QVERIFY(!Gvcp::parseMemory(*parse(memory), 0xC0000000, 8));
+    QVERIFY(!Gvcp::parseMemory(*parse(memory), 0xC0000004, 4));
+
+    const QByteArray pending = QByteArray::fromHex("0000 0089 0004 0007 0000ffff");
+    QCOMPARE(Gvcp::parsePending(*parse(pending))->count(), 65535);
+    QVERIFY(!Gvcp::parsePending(*parse(QByteArray::fromHex("0000 0089 0000 0007"))));
 }
 
 void TestGvcp::everyTruncation()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <aravis/nodemap.h>
 #include <genparamtreemodel.h>
-#include <simulation/simulatedcamera.h>
+#include <simulatednodemap.h>
 
 #include <QtTest>
 
@@ -47,14 +46,14 @@ private:
     QSet<QString> refreshedBy(const std::function<void()> &change);
 
     std::unique_ptr<OrvSimulation::SimulatedCamera> m_camera;
-    std::unique_ptr<OrvAravis::NodeMap> m_map;
+    std::unique_ptr<OrvDescription::NodeMap> m_map;
     std::unique_ptr<GenParamTreeModel> m_model;
 };
 
 void TestRefresh::init()
 {
     m_camera = std::make_unique<OrvSimulation::SimulatedCamera>();
-    m_map = OrvAravis::NodeMap::open(m_camera->device());
+    m_map = openNodeMap(*m_camera);
     m_model = std::make_unique<GenParamTreeModel>(m_map.get(), nullptr);
 }
 

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cameraio/port.h>
+
+#include <memory>
+#include <string>
+
+typedef struct _ArvDevice ArvDevice;
+
+namespace OrvAravis {
+
+/// A device that somebody else has opened with Aravis, and goes on using. It keeps control and the
+/// stream; its registers are used, and a reference to it is held. May be used on any thread.
+class AdoptedDevice
+{
+public:
+    enum class Kind { GigEVision, Usb3Vision, Other };
+
+    /// What the camera says of itself; empty where it says nothing, or does not answer.
+    struct Identity
+    {
+        std::string id; ///< the MAC address, or vendor and serial number
+        std::string vendor;
+        std::string model;
+        std::string serial;
+        std::string version;
+        std::string userName;
+    };
+
+    explicit AdoptedDevice(ArvDevice *device);
+
+    ArvDevice *get() const { return m_device.get(); }
+    Kind kind() const;
+
+    /// False while another program has control of the camera.
+    bool isController() const;
+
+    /// Asks the camera.
+    Identity identity() const;
+
+    /// Null when the device has none.
+    std::shared_ptr<const std::string> description() const;
+
+    std::unique_ptr<OrvCameraIo::Port> openPort() const;
+
+private:
+    std::shared_ptr<ArvDevice> m_device;
+};
+
+} // namespace OrvAravis

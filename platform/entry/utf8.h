@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace OrvCam {
+
+/// UTF-8 whatever a camera has sent: each byte that is part of no character becomes U+FFFD.
+std::string validUtf8(const std::string &bytes);
+
+} // namespace OrvCam

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "descriptionstore.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace OrvGigEVision {
+
+namespace {
+
+const char magic[] = "OrvCamera description 1\n";
+
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(int number) : m_number(number) {}
+    ~FileDescriptor()
+    {
+        if (m_number >= 0)
+            close(m_number);
+    }
+    FileDescriptor(const FileDescriptor &) = delete;
+    FileDescriptor &operator=(const FileDescriptor &) = delete;
+
+    operator int() const { return m_number; }
+
+private:
+    const int m_number;
+};
+
+uint64_t checksum(const std::string &bytes)
+{
+    uint64_t sum = 0xCBF29CE484222325; // FNV-1a
+    for (const char byte : bytes)
+        sum = (sum ^ static_cast<uint8_t>(byte)) * 0x100000001B3;
+    return sum;
+}
+
+std::string hexadecimal(uint64_t number)
+{
+    char text[17];
+    std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(number));
+    return text;
+}
+
+/// The parts with their lengths in front, so that no two keys look the same.
+std::string keyText(const DescriptionStore::Key &key)
+{
+    std::string text;
+    for (const std::string &part :
+         {key.vendor, key.model, key.version, key.url, std::to_string(key.size)})
+        text += std::to_string(part.size()) + ' ' + part + '\n';
+    return text;
+}
+
+std::string fileName(const DescriptionStore::Key &key)
+{
+    return hexadecimal(checksum(keyText(key)));
+}
+
+/// What a file with that description begins with.
+std::string headerText(const DescriptionStore::Key &key, const std::string &bytes)
+{
+    return magic + keyText(key) + hexadecimal(checksum(bytes)) + '\n';
+}
+
+void makeFolders(const std::string &path)
+{
+    for (std::size_t at = path.find('/', 1); at != std::string::npos; at = path.find('/', at + 1))
+        mkdir(path.substr(0, at).c_str(), 0700);
+    mkdir(path.c_str(), 0700);
+}
+
+/// -1 unless it is a folder of this user, reached by no link of another one.
+int openFolder(const std::string &path)
+{
+    struct stat link = {};
+    if (path.empty() || lstat(path.c_str(), &link) != 0 || link.st_uid != geteuid())
+        return -1;
+    const int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    struct stat facts = {};
+    if (folder >= 0 && (fstat(folder, &facts) != 0 || facts.st_uid != geteuid())) {
+        close(folder);
+        return -1;
+    }
+    return folder;
+}
+
+/// Nothing unless the file has exactly that size and is this user's.
+std::optional<std::string> contentsOf(int file, std::size_t size)
+{
+    struct stat facts = {};
+    if (fstat(file, &facts) != 0 || !S_ISREG(facts.st_mode) || facts.st_uid != geteuid() ||
+        static_cast<uint64_t>(facts.st_size) != size)
+        return std::nullopt;
+    std::string bytes(size, '\0');
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t now = read(file, &bytes[done], size - done);
+        if (now < 0 && errno == EINTR)
+            continue;
+        if (now <= 0)
+            return std::nullopt;
+        done += static_cast<std::size_t>(now);
+    }
+    return bytes;
+}
+
+bool writeAll(int file, const std::string &bytes)
+{
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t now = write(file, bytes.data() + done, bytes.size() - done);
+        if (now < 0 && errno == EINTR)
+            continue;
+        if (now <= 0)
+            return false;
+        done += static_cast<std::size_t>(now);
+    }
+    return true;
+}
+
+} // namespace
+
+DescriptionStore DescriptionStore::ofUser()
+{
+    if (const char *named = std::getenv("ORVCAM_DESCRIPTION_CACHE"))
+        return DescriptionStore(named);
+    const char *cache = std::getenv("XDG_CACHE_HOME");
+    if (cache && cache[0] == '/')
+        return DescriptionStore(std::string(cache) + "/orvcameraapi");
+    const char *home = std::getenv("HOME");
+    if (home && home[0] == '/')
+        return DescriptionStore(std::string(home) + "/.cache/orvcameraapi");
+    return DescriptionStore(std::string());
+}
+
+std::optional<std::string> DescriptionStore::find(const Key &key) const
+{
+    const FileDescriptor folder(openFolder(m_folder));
+    if (folder < 0)
+        return std::nullopt;
+    const FileDescriptor file(
+        openat(folder, fileName(key).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file < 0)
+        return std::nullopt;
+    const std::size_t headerSize = headerText(key, std::string()).size();
+    const auto contents = contentsOf(file, headerSize + key.size);
+    if (!contents)
+        return std::nullopt;
+    std::string bytes = contents->substr(headerSize);
+    if (contents->compare(0, headerSize, headerText(key, bytes)) != 0)
+        return std::nullopt;
+    return bytes;
+}
+
+void DescriptionStore::keep(const Key &key, const std::string &bytes) const
+{
+    static std::atomic<unsigned> count{0};
+    if (m_folder.empty() || bytes.size() != key.size)
+        return;
+    makeFolders(m_folder);
+    const FileDescriptor folder(openFolder(m_folder));
+    if (folder < 0)
+        return;
+
+    const std::string name = fileName(key);
+    const std::string temporary =
+        '.' + name + '.' + std::to_string(getpid()) + '.' + std::to_string(count++);
+    bool isWritten = false;
+    {
+        const FileDescriptor file(openat(
+            folder, temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+        if (file < 0)
+            return;
+        isWritten = writeAll(file, headerText(key, bytes)) && writeAll(file, bytes);
+    }
+    if (!isWritten || renameat(folder, temporary.c_str(), folder, name.c_str()) != 0)
+        unlinkat(folder, temporary.c_str(), 0);
+}
+
+} // namespace OrvGigEVision

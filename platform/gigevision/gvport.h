@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "descriptionfetch.h"
+#include "registerreader.h"
+
+#include <cameraio/port.h>
+
+#include <string>
+
+namespace OrvGigEVision {
+
+enum class OpenMode {
+    Control, ///< reads and writes; nobody else can write as long as the port exists
+    Monitor  ///< reads; somebody else may have control
+};
+
+/// The registers of a GigE Vision camera. Made by `openCamera`.
+class GvPort final : public OrvCameraIo::Port
+{
+public:
+    /// A camera that has answered through this adapter and can be reached; it is asked nothing yet.
+    /// `cameraId` is a `GvCamera::id`.
+    GvPort(const NetworkAdapter &adapter, std::string cameraId, uint32_t camera, OpenMode mode);
+
+    /// Gives control back, without waiting for an answer.
+    ~GvPort() override;
+    GvPort(const GvPort &) = delete;
+    GvPort &operator=(const GvPort &) = delete;
+
+    OpenMode mode() const { return m_mode; }
+    GvcpChannel &channel() { return m_channel; }
+
+    /// Takes control, or sees whether reading is allowed, and learns what the camera can.
+    OrvCameraIo::Status connect();
+
+    /// What `reopen` has to find again.
+    void setDescription(const DescriptionMark &mark) { m_description = mark; }
+
+    std::size_t batchSize() const override { return Gvcp::maxRegisters; }
+    void setHints(const OrvCameraIo::PortHints &hints) override { m_reader.setHints(hints); }
+    bool isWordNumber() const override { return m_reader.isWordNumber(); }
+    void read(std::vector<OrvCameraIo::ReadTransfer> &batch) override { m_reader.read(batch); }
+    OrvCameraIo::Status write(uint64_t address, const std::vector<uint8_t> &bytes) override;
+    Presence probe() override;
+    bool reopen(const std::function<bool()> &isCancelled) override;
+
+private:
+    OrvCameraIo::Status takeControl();
+    void giveControlBack();
+
+    const std::string m_adapterName;
+    const std::string m_cameraId;
+    const OpenMode m_mode;
+    GvcpChannel m_channel;
+    RegisterReader m_reader{m_channel};
+    DescriptionMark m_description;
+    bool m_hasControl = false;
+};
+
+/// The adapter of that name, as it is now.
+std::optional<NetworkAdapter> adapterCalled(const std::string &name);
+
+/// How long a camera is looked for that is expected to be there.
+constexpr std::chrono::milliseconds searchTime{1000};
+
+} // namespace OrvGigEVision

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "registerreader.h"
+
+#include <algorithm>
+
+namespace OrvGigEVision {
+
+using OrvCameraIo::ReadTransfer;
+using OrvCameraIo::Status;
+
+namespace {
+
+/// A register that changes all the time tells nothing, so others are tried, too.
+constexpr int mostLooks = 4;
+
+std::vector<uint8_t> reversed(std::vector<uint8_t> bytes)
+{
+    std::reverse(bytes.begin(), bytes.end());
+    return bytes;
+}
+
+std::vector<uint8_t> bytesOf(uint32_t word)
+{
+    return {static_cast<uint8_t>(word >> 24), static_cast<uint8_t>(word >> 16),
+            static_cast<uint8_t>(word >> 8), static_cast<uint8_t>(word)};
+}
+
+} // namespace
+
+bool RegisterReader::lookAtCamera()
+{
+    const auto reply = m_channel.readRegisters({Gvcp::Capability});
+    m_capability = reply.isDone() ? reply.values.front() : 0;
+    m_knowledge.rules.canConcatenate = m_capability & Gvcp::canConcatenate;
+    m_knowledge.registers.unanswered = 0;
+    m_knowledge.memoryBlock.unanswered = 0;
+    if (!reply.isDone() || isWordNumber())
+        return reply.status != Status::NoAnswer;
+
+    ReadTransfer word;
+    word.range = {Gvcp::Capability, 4};
+    word.bytes = bytesOf(m_capability);
+    if (word.bytes != reversed(word.bytes) && orderOf(word) == Order::Reversed)
+        setWordNumber();
+    return true;
+}
+
+void RegisterReader::setHints(const OrvCameraIo::PortHints &hints)
+{
+    m_knowledge.memory.setDeclared(hints.declared);
+    m_hasHints = true;
+    if (hints.isWordNumber)
+        setWordNumber();
+}
+
+void RegisterReader::setWordNumber()
+{
+    m_knowledge.rules.isWordNumber = true;
+}
+
+void RegisterReader::read(std::vector<ReadTransfer> &batch)
+{
+    BatchRead(m_channel, m_knowledge, batch).run();
+    if (m_hasHints && !isWordNumber() && m_looks < mostLooks && compareViews(batch)) {
+        setWordNumber();
+        BatchRead(m_channel, m_knowledge, batch).run();
+    }
+}
+
+/// The registers that every camera has may be the same both ways while those of its maker are not.
+/// True when a register of the batch shows that they differ.
+bool RegisterReader::compareViews(std::vector<ReadTransfer> &batch)
+{
+    for (const ReadTransfer &read : batch) {
+        const bool tells = read.status == Status::Done && ReadPlan::isWord(read.range) &&
+                           read.range.address >= Gvcp::FirstOfMaker &&
+                           read.bytes != reversed(read.bytes);
+        if (!tells)
+            continue;
+        const Order order = orderOf(read);
+        m_looks = order == Order::Unknown ? m_looks + 1 : mostLooks;
+        return order == Order::Reversed;
+    }
+    return false;
+}
+
+/// Reads the register in the other way than it was read.
+RegisterReader::Order RegisterReader::orderOf(const ReadTransfer &word)
+{
+    const auto address = static_cast<uint32_t>(word.range.address);
+    std::vector<uint8_t> other(4);
+    const bool wasRegister =
+        m_knowledge.rules.canConcatenate || word.range.address == Gvcp::Capability;
+    const auto reply = wasRegister ? m_channel.readMemory(address, 4, other.data())
+                                   : m_channel.readRegisters({address});
+    if (!reply.isDone())
+        return Order::Unknown;
+    if (!wasRegister)
+        other = bytesOf(reply.values.front());
+    if (other == word.bytes)
+        return Order::Same;
+    return other == reversed(word.bytes) ? Order::Reversed : Order::Unknown;
+}
+
+} // namespace OrvGigEVision

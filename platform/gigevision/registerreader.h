@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "batchread.h"
+
+namespace OrvGigEVision {
+
+/// Reads a camera's registers, and finds out how it wants that done.
+class RegisterReader
+{
+public:
+    explicit RegisterReader(GvcpChannel &channel) : m_channel(channel) {}
+
+    /// Asks the camera what it can, and looks at one register in both ways that there are. False
+    /// when it does not answer.
+    bool lookAtCamera();
+
+    void setHints(const OrvCameraIo::PortHints &hints);
+
+    /// See `OrvCameraIo::Port::isWordNumber`.
+    bool isWordNumber() const { return m_knowledge.rules.isWordNumber; }
+
+    bool canWriteMemory() const { return m_capability & Gvcp::canWriteMemory; }
+
+    void read(std::vector<OrvCameraIo::ReadTransfer> &batch);
+
+private:
+    enum class Order { Unknown, Same, Reversed };
+
+    bool compareViews(std::vector<OrvCameraIo::ReadTransfer> &batch);
+    Order orderOf(const OrvCameraIo::ReadTransfer &word);
+    void setWordNumber();
+
+    GvcpChannel &m_channel;
+    ReadKnowledge m_knowledge;
+    uint32_t m_capability = 0;
+    bool m_hasHints = false;
+    int m_looks = 0; ///< how often one of the camera's registers was read in both ways
+};
+
+} // namespace OrvGigEVision

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTextBrowser>
+
+namespace GenApi_3_0 {
+struct IValue;
+}
+
+namespace OrvGui {
+
+/// Shows the description of a feature. What the camera says of itself is shown literally: its texts
+/// are no markup, and nothing that they name is opened.
+class DescriptionPanel : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit DescriptionPanel(QWidget *parent = nullptr);
+
+    /// Null, or a feature that cannot be described, leaves the panel empty. To be called again when
+    /// the feature changes; the reader's place in the text stays.
+    void describe(GenApi_3_0::IValue *feature);
+
+    QVariant loadResource(int type, const QUrl &name) override;
+
+private:
+    const GenApi_3_0::IValue *m_feature = nullptr; ///< only to be compared
+    QString m_text;
+};
+
+} // namespace OrvGui

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "safedelegate.h"
+
+#include "editorstate.h"
+#include "featurecell.h"
+#include "genparamtreemodel.h"
+
+#include <GenApi/GenApi.h>
+
+#include <QComboBox>
+#include <QEvent>
+#include <QLineEdit>
+#include <QPointer>
+
+namespace OrvGui {
+
+QWidget *SafeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                    const QModelIndex &index) const
+{
+    try {
+        QWidget *editor = GenParamDelegate::createEditor(parent, option, index);
+        const auto *list = qobject_cast<QComboBox *>(editor);
+        if (list && list->count() == 0) {
+            delete list;
+            return createNote(parent);
+        }
+        if (editor)
+            watch(editor);
+        return editor;
+    } catch (const GenICam::GenericException &) {
+        return nullptr;
+    }
+}
+
+/// In place of a list without entries.
+QWidget *SafeDelegate::createNote(QWidget *parent)
+{
+    auto *note = new QLineEdit(parent);
+    note->setFrame(false);
+    note->setReadOnly(true);
+    return note;
+}
+
+void SafeDelegate::watch(QWidget *editor) const
+{
+    auto *self = const_cast<SafeDelegate *>(this);
+    auto *state = new EditorState(editor);
+    connect(state, &EditorState::dismissed, self,
+            [self, editor] { emit self->closeEditor(editor, RevertModelCache); });
+    connect(state, &EditorState::tabbed, self, [self, editor](bool forward) {
+        emit self->closeEditor(editor, forward ? EditNextItem : EditPreviousItem);
+    });
+}
+
+void SafeDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    EditorState *state = EditorState::of(editor);
+    if (!state) {
+        auto *note = qobject_cast<QLineEdit *>(editor);
+        if (note)
+            note->setText(tr("%1 (no entry is available)").arg(index.data().toString()));
+        return;
+    }
+    if (state->isTouched() || state->isListClosed())
+        return;
+    const QPointer<QComboBox> list(qobject_cast<QComboBox *>(editor));
+    if (!fill(editor, index) && list)
+        openList(list);
+}
+
+/// False, and the editor as it was, when there is no value to fill it with.
+bool SafeDelegate::fill(QWidget *editor, const QModelIndex &index) const
+{
+    try {
+        // The model has a text in place of a value that is not readable.
+        const GenApi::CValuePtr feature(index.data(Qt::UserRole).value<GenApi::IValue *>());
+        if (!GenApi::IsReadable(feature->GetAccessMode()))
+            return false;
+        const EditorState::Filling filling(EditorState::of(editor));
+        GenParamDelegate::setEditorData(editor, index);
+        return true;
+    } catch (const GenICam::GenericException &) {
+        return false;
+    }
+}
+
+void SafeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
+                                const QModelIndex &index) const
+{
+    const QPointer<EditorState> state(EditorState::of(editor));
+    if (!state || !state->isToBeWritten())
+        return;
+    GenParamDelegate::setModelData(editor, model, index);
+    if (state)
+        state->setWritten();
+}
+
+bool SafeDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *editor = qobject_cast<QWidget *>(watched);
+    EditorState *state = editor ? EditorState::of(editor) : nullptr;
+    if (state && event->type() == QEvent::InputMethod)
+        state->setTouched();
+    if (state && event->type() == QEvent::Wheel && !state->isTouched()) {
+        event->ignore(); // the tree gets it
+        return true;
+    }
+    if (state && event->type() == QEvent::KeyPress && state->isListClosed()) {
+        emit closeEditor(editor, RevertModelCache);
+        return true;
+    }
+    return GenParamDelegate::eventFilter(watched, event);
+}
+
+QString SafeDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    return featureText(m_painted, value, locale);
+}
+
+void SafeDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    m_painted = index;
+    GenParamDelegate::initStyleOption(option, index);
+    m_painted = QModelIndex();
+    styleFeatureCell(option, index);
+}
+
+} // namespace OrvGui

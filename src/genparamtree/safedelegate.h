@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "genparamdelegate.h"
+
+#include <QModelIndex>
+
+namespace OrvGui {
+
+/// The value column of the tree, which opens an editor wherever the current cell goes.
+///
+/// Only what the user has typed, stepped to or chosen is written: an editor that is touched is no
+/// longer filled with the camera's value, a list that is dismissed closes, and the wheel scrolls
+/// the tree. And the failure of a node is kept out of Qt's event loop, which cannot handle it: such
+/// a node gets no editor, or one without its current value.
+class SafeDelegate : public GenParamDelegate
+{
+    Q_OBJECT
+
+public:
+    using GenParamDelegate::GenParamDelegate;
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override;
+    QString displayText(const QVariant &value, const QLocale &locale) const override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
+private:
+    void watch(QWidget *editor) const;
+    static QWidget *createNote(QWidget *parent);
+    bool fill(QWidget *editor, const QModelIndex &index) const;
+
+    /// The cell whose value `displayText` is asked for.
+    mutable QModelIndex m_painted;
+};
+
+} // namespace OrvGui

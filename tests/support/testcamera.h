@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "testcameracommands.h"
+#include "testcameralog.h"
+
+#include <array>
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+/// A GigE Vision camera for tests and benchmarks, which can be made to misbehave. It has the
+/// bootstrap registers, a sparse register space and a description, knows control privilege and
+/// heartbeat, and sends no pictures. It shares no code with what it tests.
+///
+/// Run it in a network namespace (orv_add_test(... NETNS ...)), where any 127.x.y.z is an address
+/// for a camera:
+///
+///     TestCamera::Settings settings;
+///     settings.serial = "LEFT";
+///     settings.description = textOfFile;
+///     settings.unknownRegisters = TestCameraMemory::Unknown::Zero;
+///     TestCamera camera(settings);
+///     camera.setRegister(0x10000, 640);
+///     camera.setMood("delay", 5);
+///     …
+///     check(camera.counters().readRegister == 1);
+///
+/// Link orv_test_camera. A camera at the far end of a CameraNetwork gets its settings from
+/// CameraNetwork::cameraSettings(). By hand, and from other processes: test-camera --help.
+///
+/// Each camera has a thread of its own. All functions can be called from any thread and take effect
+/// before they return; answers that are delayed already are dropped by silence and unplugging only.
+class TestCamera
+{
+public:
+    struct Settings
+    {
+        /// If no adapter has the address, the camera is one with a wrong IP configuration: it
+        /// answers broadcasts (discovery and forced IP), and nothing else reaches it.
+        std::string address = "127.0.0.1";
+        std::string netmask; ///< empty: 255.0.0.0 on the loopback device, otherwise 255.255.255.0
+        std::string gateway = "0.0.0.0";
+        std::string adapter;          ///< the network adapter to stay on; empty: any
+        std::string networkNamespace; ///< a file as for setns(2); empty: the constructor's own
+        uint64_t mac = 0;             ///< 0: 02:00 and the address
+        std::string vendor = "Strawman";
+        std::string model = "TestCamera";
+        std::string version = "1.0";
+        std::string manufacturerInfo;
+        std::string serial = "1";
+        std::string userName;
+
+        std::string description; ///< of GenICam, or any other bytes for its place
+        std::string descriptionName = "camera.xml"; ///< in the URL; of a zipped one with .zip
+        uint32_t descriptionAddress = 0xC0000000;
+        bool isZipped = false;
+        std::string url;       ///< verbatim in place of Local:NAME;ADDRESS;SIZE
+        std::string secondUrl; ///< verbatim
+
+        bool canConcatenate = true; ///< the capability bit, and READREG with several addresses
+        TestCameraMemory::Unknown unknownRegisters = TestCameraMemory::Unknown::Refused;
+        bool fillsRegisters = false; ///< TestCameraMemory::fill() with the description
+        uint32_t heartbeat = 3000;   ///< ms until control is lost without a command
+        bool broadcasts = false;     ///< discovery and forced IP are answered by broadcast
+    };
+
+    /// Throws std::runtime_error when the address is in use, or there is no such namespace.
+    explicit TestCamera(const Settings &settings);
+    ~TestCamera();
+    TestCamera(const TestCamera &) = delete;
+    TestCamera &operator=(const TestCamera &) = delete;
+
+    /// @name Behaviour
+    /// @{
+    void setBehaviour(const TestCameraBehaviour &behaviour);
+    TestCameraBehaviour behaviour() const;
+    /// A good camera again but for this; see testCameraMoods().
+    void setMood(const std::string &name);
+    void setMood(const std::string &name, int value);
+    /// This in addition to what is wrong already.
+    void addMood(const std::string &name, int value);
+
+    /// Closes the sockets: a command to the address is answered by the system ("port unreachable"),
+    /// which a silent camera's is not. Delayed answers are dropped.
+    void unplug();
+    /// Opens them again. A camera that was switched off in between has forgotten its controller,
+    /// one whose cable was pulled has not.
+    void plugIn(bool keepsControl = false);
+    /// @}
+
+    /// @name Registers
+    /// @{
+    uint32_t reg(uint32_t address); ///< as READREG gives it, 0 when there is none
+    void setRegister(uint32_t address, uint32_t value);
+    std::string bytes(uint32_t address, uint32_t size); ///< as READMEM gives them
+    void setBytes(uint32_t address, const std::string &bytes);
+    void addBlock(uint32_t address, const std::string &bytes); ///< read-only, a second description
+    void addTwoViews(uint32_t first, uint32_t last);           ///< see TestCameraMemory
+    void countUp(uint32_t address, int milliseconds, uint32_t step = 1);
+    void changeLater(int milliseconds, uint32_t address, uint32_t value);
+    /// @}
+
+    /// @name Control
+    /// @{
+    uint32_t privilege(); ///< the register: 0 none, 1 exclusive, 2 control
+    /// Gives control to another client that never lets go; 0 takes it away from any.
+    void setPrivilege(uint32_t privilege);
+    /// @}
+
+    /// @name What was received and sent
+    /// @{
+    using Counters = TestCameraCounters;
+    using Access = TestCameraAccess;
+
+    Counters counters() const;
+    /// The counters, which start from 0 again.
+    Counters takeCounters();
+
+    /// Everything since the last call, heartbeats left out.
+    std::vector<Access> takeAccesses();
+    /// The data of all forced IP commands for this camera, 56 bytes each.
+    std::vector<std::string> forcedIps() const;
+    /// @}
+
+    std::string address() const; ///< changes with a forced IP
+    const Settings &settings() const { return m_settings; }
+
+private:
+    using Clock = TestCameraMemory::Clock;
+    enum Socket { Unicast, Broadcast, SubnetBroadcast, Foreign, SocketCount };
+
+    struct Command
+    {
+        uint16_t kind;
+        uint16_t id;
+        std::string data;
+        sockaddr_in from;
+        Socket socket;
+    };
+    using Answer = TestCameraCommands::Answer;
+    struct Packet
+    {
+        Socket socket;
+        sockaddr_in to;
+        std::string bytes;
+    };
+
+    void run();
+    void stop();
+    void enterNamespace() const;
+    void openSockets();
+    int openSocket(uint32_t address, uint16_t port) const;
+    void closeSockets();
+    void call(const std::function<void()> &task);
+    void receive(Socket socket);
+    void sendDue();
+
+    void setUpMemory();
+    void writeIpRegisters();
+
+    void handle(const std::string &packet, const sockaddr_in &from, Socket socket);
+    void forceIp(const Command &command);
+
+    void reply(const Command &command, const Answer &answer);
+    void send(Clock::time_point due, const Command &command, const std::string &bytes,
+              Socket socket);
+    std::string faulty(unsigned fault, const Command &command, const Answer &answer);
+    bool isLost(int perCent);
+
+    const Settings m_settings;
+    mutable std::mutex m_mutex; ///< for all that follows
+    TestCameraCommands m_commands;
+    TestCameraLog m_log;
+    TestCameraBehaviour m_behaviour;
+    Clock::time_point m_silentUntil;
+    std::minstd_rand m_random;
+    unsigned m_answers = 0;
+    std::array<int, SocketCount> m_sockets{{-1, -1, -1, -1}};
+    uint32_t m_ip = 0;
+    uint32_t m_netmask = 0;
+    uint32_t m_gateway = 0;
+    uint64_t m_mac = 0;
+    std::multimap<Clock::time_point, Packet> m_outgoing;
+    std::vector<std::string> m_forcedIps;
+    std::deque<std::function<void()>> m_tasks;
+    int m_wake = -1;
+    bool m_stop = false;
+    std::thread m_thread;
+};

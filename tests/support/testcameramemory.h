@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// The registers of a TestCamera: a sparse space of 4-byte words, and blocks of bytes (its
+/// descriptions), which are read-only. A word is kept as the number that READREG gives.
+class TestCameraMemory
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// How an address behaves at which there is no register: it is refused, it is a register that
+    /// holds 0, or one that holds a small number.
+    enum class Unknown { Refused, Zero, Filled };
+
+    void setUnknown(Unknown unknown) { m_unknown = unknown; }
+
+    bool has(uint32_t address) const;
+    std::optional<uint32_t> word(uint32_t address);
+    void setWord(uint32_t address, uint32_t value);
+
+    /// Bytes as READMEM gives them; nothing when a part of them is missing.
+    std::optional<std::string> bytes(uint32_t address, uint32_t size);
+    /// `bytes` is filled up with zeros to a multiple of 4.
+    void setBytes(uint32_t address, std::string bytes);
+    void setText(uint32_t address, std::size_t size, const std::string &text);
+
+    void addBlock(uint32_t address, std::string bytes);
+    bool isBlock(uint32_t address) const;
+
+    /// Makes a register of every address that the description gives in an <Address> element, with
+    /// a small number from 0 to 6 that differs from the next register's: an integer in the
+    /// register's byte order, a float with .5 behind, or the text "T3". What exists keeps its
+    /// value.
+    void fill(const std::string &description);
+
+    /// In these words READMEM and WRITEMEM see the bytes the other way round.
+    void addTwoViews(uint32_t first, uint32_t last) { m_twoViews.emplace_back(first, last); }
+
+    /// From now on the register grows by `step` with every interval.
+    void countUp(uint32_t address, std::chrono::milliseconds interval, uint32_t step);
+    /// The register will change to `value`.
+    void changeLater(std::chrono::milliseconds delay, uint32_t address, uint32_t value);
+
+private:
+    struct CountUp
+    {
+        Clock::time_point start;
+        std::chrono::milliseconds interval;
+        uint32_t step;
+    };
+
+    uint32_t view(uint32_t address, uint32_t value) const;
+    void applyChanges();
+    void fillRegister(const std::string &element, uint32_t address, uint32_t number);
+
+    Unknown m_unknown = Unknown::Refused;
+    std::map<uint32_t, uint32_t> m_words;
+    std::map<uint32_t, std::string> m_blocks;
+    std::vector<std::pair<uint32_t, uint32_t>> m_twoViews;
+    std::map<uint32_t, CountUp> m_countUps;
+    std::multimap<Clock::time_point, std::pair<uint32_t, uint32_t>> m_changes;
+};

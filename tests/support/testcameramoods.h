@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// What a TestCamera does wrong. A default-constructed one is a good camera. All faults can be
+/// combined. Times are in milliseconds, losses in per cent.
+struct TestCameraBehaviour
+{
+    int delay = 0;       ///< before every answer; several commands are answered independently
+    int writeDelay = 0;  ///< in addition, for an answer to a write
+    int requestLoss = 0; ///< requests that never arrive
+    int answerLoss = 0;  ///< answers that never arrive, while the command is carried out
+    uint32_t seed = 1;   ///< for what gets lost: the same seed loses the same packets
+    int duplicates = 0;  ///< further copies of each answer
+    int reorder = 0;     ///< every other answer comes this much later
+
+    int silence = 0; ///< no reaction at all for this long from now on; -1 is for good
+
+    int pending = 0;               ///< PENDING_ACKs ahead of an answer to a read or write
+    int pendingTime = 200;         ///< what each announces; the next packet comes after 3/4 of it
+    bool isPendingForever = false; ///< no answer follows the last PENDING_ACK
+
+    /// Faulty answers, made of the good one. All but TruncatedAnswer hold the good data inverted,
+    /// so that a client that falls for them shows it.
+    enum Fault : unsigned {
+        WrongId = 1,
+        WrongCommand = 2,
+        ErrorStatus = 4,       ///< status 0x8FFF
+        ShortAnswer = 8,       ///< 4 bytes less data, the length field says so
+        LongAnswer = 16,       ///< 4 bytes more data, the length field says so
+        WrongLength = 32,      ///< the length field says 4 bytes more than there are
+        TruncatedAnswer = 64,  ///< the last byte is missing
+        TruncatedHeader = 128, ///< 5 bytes
+        ForeignPort = 256,     ///< from another port of the camera
+        AllFaults = 511
+    };
+    unsigned faults = 0;      ///< one packet for each, in this order
+    bool isGoodAfter = false; ///< the good answer follows the faulty ones
+    int garbage = 0;          ///< packets of random bytes ahead of each answer
+
+    /// Refusals. Discovery and forced IP go on.
+    uint16_t refuseAll = 0;     ///< the status for all reads and writes; 0 refuses none
+    uint16_t refuseBatches = 0; ///< the status for READREG and WRITEREG of several addresses
+    int busy = 0;               ///< as many of the next reads and writes get BUSY
+    uint32_t largestRead = 536; ///< READMEM of registers beyond this many bytes is refused
+
+    struct Refusal
+    {
+        uint32_t first;
+        uint32_t last;
+        uint16_t status;
+        bool reads = true;
+        bool writes = true;
+    };
+    std::vector<Refusal> refusals;
+
+    /// A forced IP for this camera is obeyed, acknowledged and ignored, refused, or acknowledged
+    /// by a camera that is silent ever after.
+    enum class ForceIp { Obeyed, Ignored, Refused, Fatal };
+    ForceIp forceIp = ForceIp::Obeyed;
+};
+
+/// A fault with a name and one number, for tables of tests and for command lines.
+struct TestCameraMood
+{
+    const char *name;
+    const char *meaning; ///< of the value
+    int usual;           ///< a value that makes sense
+    void (*apply)(TestCameraBehaviour &behaviour, int value);
+};
+
+const std::vector<TestCameraMood> &testCameraMoods();
+
+/// Throws std::invalid_argument when there is no such mood.
+const TestCameraMood &testCameraMood(const std::string &name);
