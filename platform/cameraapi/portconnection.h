@@ -2,8 +2,7 @@
 #pragma once
 
 #include "cameraconnection.h"
-
-#include <description/nodemap.h>
+#include "cameranodemap.h"
 
 #include <string>
 
@@ -20,7 +19,7 @@ public:
     void setListener(OrvCameraIo::RegisterIoListener *listener) override;
 
 private:
-    OrvDescription::NodeMap m_nodeMap;
+    CameraNodeMap m_nodeMap;
 };
 
 /// What a transport hands over of a camera that it has opened.

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "cameranodemap.h"
+
+namespace OrvCam {
+
+namespace {
+
+/// A fetch as the public interface has it.
+class HeldRequest final : public OrvGenParam::LookAhead::Request
+{
+public:
+    explicit HeldRequest(std::unique_ptr<OrvCameraIo::Request> request)
+        : m_request(std::move(request))
+    {
+    }
+
+private:
+    const std::unique_ptr<OrvCameraIo::Request> m_request;
+};
+
+} // namespace
+
+std::unique_ptr<OrvGenParam::LookAhead::Request> CameraNodeMap::fetch(std::vector<Ask> asks,
+                                                                      std::function<void()> done)
+{
+    return std::make_unique<HeldRequest>(m_fetchAhead.fetch(std::move(asks), std::move(done)));
+}
+
+} // namespace OrvCam

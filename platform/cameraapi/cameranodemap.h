@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvGenParam/LookAhead.h>
+
+#include <cameraio/fetchahead.h>
+#include <description/nodemap.h>
+
+namespace OrvCam {
+
+/// The node map of an open camera: it can be looked at without transfers.
+class CameraNodeMap final : public OrvDescription::NodeMap, public OrvGenParam::LookAhead
+{
+public:
+    using OrvDescription::NodeMap::NodeMap;
+
+    bool look(const Ask &ask) const override { return m_fetchAhead.look(ask); }
+    std::unique_ptr<Request> fetch(std::vector<Ask> asks, std::function<void()> done) override;
+    void fetchNow(const std::vector<Ask> &asks) override { m_fetchAhead.fetchNow(asks); }
+
+private:
+    OrvCameraIo::FetchAhead m_fetchAhead{*this, registers()};
+};
+
+} // namespace OrvCam
