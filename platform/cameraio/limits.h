@@ -26,8 +26,16 @@ constexpr std::size_t elementCount = 4000000;
 /// Elements within each other; the standard has no use for more than 6.
 constexpr int elementDepth = 32;
 
+/// Categories within each other; what lies deeper is left out, and so is what would give a category
+/// more rows than a description may have nodes.
+constexpr int categoryDepth = 64;
+
 /// Nodes that are read in order to read one: a longer chain of references has no value.
 constexpr int referenceDepth = 256;
+
+/// Nodes that are read in order to read one, those counted again that are read again: a value that
+/// costs more is none.
+constexpr int referenceSteps = 50000;
 
 /// Operators, parentheses and sub-expressions within each other in a formula.
 constexpr int formulaDepth = 128;
@@ -39,6 +47,12 @@ constexpr std::size_t formulaSize = 64u << 10;
 
 /// The longest register that is transferred at all, in bytes.
 constexpr int64_t registerSize = 16 << 20;
+
+/// The bytes that are read of a text, however long its register is.
+constexpr int64_t textSize = 64 << 10;
+
+/// The bytes that are read for the text that stands for a raw register. A cell shows far fewer.
+constexpr int64_t shownBytes = 256;
 
 // Time on the cable
 

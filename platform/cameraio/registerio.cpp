@@ -252,7 +252,7 @@ Status RegisterIo::Private::write(std::unique_lock<std::mutex> &lock, const Regi
 
     lastCommand = Clock::now();
     cache.forgetOverlapping(range);
-    if (status == Status::Done)
+    if (status == Status::Done && wanted.isKept)
         cache.store(range, {status, std::move(bytes), moment, lastCommand});
     if (isAnswer(status))
         answered(lock);

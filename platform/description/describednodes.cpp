@@ -1,16 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "describednodes.h"
 
+#include "description.h"
 #include "rawvalue.h"
 
+#include <cameraio/limits.h>
+
 #include <genapi/nodes/nodemapbase.h>
+#include <genapi/nodes/numbers.h>
 
 using namespace GenApi;
 using namespace OrvGenApi;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvDescription {
 
 namespace {
+
+template<typename T>
+const StatedLimits<T> &orNone(const std::unique_ptr<StatedLimits<T>> &limits)
+{
+    static const StatedLimits<T> none;
+    return limits ? *limits : none;
+}
 
 template<typename Limit, typename Read, typename Fallback>
 auto limitOr(const Limit &limit, Read read, Fallback fallback) -> decltype(fallback())
@@ -22,124 +34,149 @@ auto limitOr(const Limit &limit, Read read, Fallback fallback) -> decltype(fallb
     return fallback();
 }
 
+std::optional<std::string_view> stated(const NodeLinks &links, std::string_view tag)
+{
+    const DescriptionProperty *property = links.description->find(tag);
+    return property ? std::optional<std::string_view>(property->text) : std::nullopt;
+}
+
+std::optional<ERepresentation> representationOf(std::optional<std::string_view> text)
+{
+    static const std::pair<const char *, ERepresentation> representations[] = {
+        {"Linear", Linear},         {"Logarithmic", Logarithmic}, {"Boolean", Boolean},
+        {"PureNumber", PureNumber}, {"HexNumber", HexNumber},     {"IPV4Address", IPV4Address},
+        {"MACAddress", MACAddress}};
+    for (const auto &[name, representation] : representations) {
+        if (text && *text == name)
+            return representation;
+    }
+    return std::nullopt;
+}
+
+std::optional<EDisplayNotation> notationOf(std::optional<std::string_view> text)
+{
+    static const std::pair<const char *, EDisplayNotation> notations[] = {
+        {"Automatic", fnAutomatic}, {"Fixed", fnFixed}, {"Scientific", fnScientific}};
+    for (const auto &[name, notation] : notations) {
+        if (text && *text == name)
+            return notation;
+    }
+    return std::nullopt;
+}
+
+/// What the description of the node says, otherwise what the node says that the number comes from.
+ERepresentation representationOf(const NodeLinks &links, Node *delegate)
+{
+    if (const auto own = representationOf(stated(links, "Representation")))
+        return *own;
+    if (auto *integer = dynamic_cast<IInteger *>(delegate))
+        return integer->GetRepresentation();
+    if (auto *real = dynamic_cast<IFloat *>(delegate))
+        return real->GetRepresentation();
+    return PureNumber;
+}
+
+GenICam::gcstring unitOf(const NodeLinks &links, Node *delegate)
+{
+    if (const auto own = stated(links, "Unit"))
+        return {own->data(), own->size()};
+    if (auto *integer = dynamic_cast<IInteger *>(delegate))
+        return integer->GetUnit();
+    if (auto *real = dynamic_cast<IFloat *>(delegate))
+        return real->GetUnit();
+    return "";
+}
+
 } // namespace
 
 // DescribedInteger
 
 ERepresentation DescribedInteger::GetRepresentation()
 {
-    if (presentation.representation)
-        return *presentation.representation;
-    Node *other = delegate();
-    if (auto *integer = dynamic_cast<IInteger *>(other))
-        return integer->GetRepresentation();
-    if (auto *real = dynamic_cast<IFloat *>(other))
-        return real->GetRepresentation();
-    return PureNumber;
+    return representationOf(links(), delegate());
 }
 
 GenICam::gcstring DescribedInteger::GetUnit()
 {
-    if (presentation.unit)
-        return presentation.unit->c_str();
-    Node *other = delegate();
-    if (auto *integer = dynamic_cast<IInteger *>(other))
-        return integer->GetUnit();
-    if (auto *real = dynamic_cast<IFloat *>(other))
-        return real->GetUnit();
-    return "";
+    return unitOf(links(), delegate());
 }
 
 int64_t DescribedInteger::readMin()
 {
-    return limitOr(limits.min, rawInteger, [this] { return source().minInteger(); });
+    return limitOr(orNone(limits).min, rawInteger, [this] { return source().minInteger(); });
 }
 
 int64_t DescribedInteger::readMax()
 {
-    return limitOr(limits.max, rawInteger, [this] { return source().maxInteger(); });
+    return limitOr(orNone(limits).max, rawInteger, [this] { return source().maxInteger(); });
 }
 
 std::optional<int64_t> DescribedInteger::readInc()
 {
-    if (!limits.inc.isStated())
+    if (!orNone(limits).inc.isStated())
         return source().incInteger();
-    return limitOr(limits.inc, rawInteger, [] { return int64_t(1); });
+    return limitOr(orNone(limits).inc, rawInteger, [] { return int64_t(1); });
 }
 
 std::vector<int64_t> DescribedInteger::validValues() const
 {
-    if (!limits.validValues.empty())
-        return limits.validValues;
-    const auto *integer = dynamic_cast<DescribedInteger *>(delegate());
-    return integer ? integer->validValues() : limits.validValues;
+    if (limits && !limits->validValues.empty())
+        return limits->validValues;
+    const auto *other = dynamic_cast<DescribedInteger *>(delegate());
+    return other ? other->validValues() : std::vector<int64_t>();
 }
 
 // DescribedFloat
 
 ERepresentation DescribedFloat::GetRepresentation()
 {
-    if (presentation.representation)
-        return *presentation.representation;
-    Node *other = delegate();
-    if (auto *real = dynamic_cast<IFloat *>(other))
-        return real->GetRepresentation();
-    if (auto *integer = dynamic_cast<IInteger *>(other))
-        return integer->GetRepresentation();
-    return PureNumber;
+    return representationOf(links(), delegate());
 }
 
 GenICam::gcstring DescribedFloat::GetUnit() const
 {
-    if (presentation.unit)
-        return presentation.unit->c_str();
-    Node *other = delegate();
-    if (auto *real = dynamic_cast<IFloat *>(other))
-        return real->GetUnit();
-    if (auto *integer = dynamic_cast<IInteger *>(other))
-        return integer->GetUnit();
-    return "";
+    return unitOf(links(), delegate());
 }
 
 EDisplayNotation DescribedFloat::GetDisplayNotation() const
 {
-    if (presentation.notation)
-        return *presentation.notation;
+    if (const auto own = notationOf(stated(links(), "DisplayNotation")))
+        return *own;
     const auto *real = dynamic_cast<IFloat *>(delegate());
     return real ? real->GetDisplayNotation() : fnAutomatic;
 }
 
 int64_t DescribedFloat::GetDisplayPrecision() const
 {
-    if (presentation.precision)
-        return *presentation.precision;
+    if (const auto own = stated(links(), "DisplayPrecision"))
+        return integerFromText(std::string(*own)).value_or(0);
     const auto *real = dynamic_cast<IFloat *>(delegate());
     return real ? real->GetDisplayPrecision() : 6;
 }
 
 double DescribedFloat::readMin()
 {
-    return limitOr(limits.min, rawReal, [this] { return source().minReal(); });
+    return limitOr(orNone(limits).min, rawReal, [this] { return source().minReal(); });
 }
 
 double DescribedFloat::readMax()
 {
-    return limitOr(limits.max, rawReal, [this] { return source().maxReal(); });
+    return limitOr(orNone(limits).max, rawReal, [this] { return source().maxReal(); });
 }
 
 std::optional<double> DescribedFloat::readInc()
 {
-    if (!limits.inc.isStated())
+    if (!orNone(limits).inc.isStated())
         return source().incReal();
-    return limitOr(limits.inc, rawReal, [] { return 0.0; });
+    return limitOr(orNone(limits).inc, rawReal, [] { return 0.0; });
 }
 
 std::vector<double> DescribedFloat::validValues() const
 {
-    if (!limits.validValues.empty())
-        return limits.validValues;
-    const auto *real = dynamic_cast<DescribedFloat *>(delegate());
-    return real ? real->validValues() : limits.validValues;
+    if (limits && !limits->validValues.empty())
+        return limits->validValues;
+    const auto *other = dynamic_cast<DescribedFloat *>(delegate());
+    return other ? other->validValues() : std::vector<double>();
 }
 
 // DescribedCommand
@@ -151,22 +188,25 @@ int64_t DescribedCommand::valueToWrite()
 
 void DescribedCommand::execute()
 {
+    Question *question = Question::current(map());
+    const std::size_t before = question ? question->writes.size() : 0;
     source().setInteger(valueToWrite());
     // The camera goes on from here by itself: what was just written is no longer what it holds.
-    for (Node *node : links().written)
-        node->dropRegister();
+    for (std::size_t i = before; question && i < question->writes.size(); ++i)
+        question->writes[i].isKept = false;
 }
 
 bool DescribedCommand::readIsDone()
 {
     if (!IsReadable(source().accessMode()))
         return true;
-    // Only what the command itself is read from: nothing has happened to its dependents.
-    for (Node *node : links().written) {
-        node->dropRegister();
-        node->dropCache();
-    }
-    return source().integer() != valueToWrite();
+    int64_t value = 0;
+    int64_t written = 0;
+    Gather gather;
+    gather([&] { value = source().integer(); });
+    gather([&] { written = valueToWrite(); });
+    gather.finish();
+    return value != written;
 }
 
 // DescribedString
@@ -176,7 +216,7 @@ EAccessMode DescribedString::ownAccessMode() const
     if (reference)
         return reference->GetAccessMode();
     if (links().reg)
-        return registerMode;
+        return links().reg->accessMode();
     return constant ? RW : NA;
 }
 
@@ -207,7 +247,7 @@ int64_t DescribedString::readMaxLength()
     if (reference && !links().isUnusable)
         return reference->GetMaxLength();
     if (links().reg)
-        return links().reg->maxTextLength();
+        return links().reg->length();
     return INT64_MAX;
 }
 
@@ -224,21 +264,19 @@ RegisterAccess &DescribedRegister::reg() const
 
 int64_t DescribedRegister::GetAddress(bool)
 {
-    const AutoLock lock(map().GetLock());
-    return reg().address();
+    return map().answer([this] { return reg().address(); });
 }
 
-void DescribedRegister::writeBytes(const std::vector<uint8_t> &bytes)
+GenICam::gcstring DescribedRegister::ToString(bool verify, bool ignoreCache)
 {
-    std::vector<uint8_t> contents = bytes;
-    const auto length = static_cast<std::size_t>(reg().length());
-    if (contents.size() < length) {
-        const std::vector<uint8_t> present = reg().bytes();
-        contents.insert(contents.end(),
-                        present.begin() + static_cast<std::ptrdiff_t>(contents.size()),
-                        present.end());
-    }
-    reg().setBytes(contents);
+    if (ignoreCache)
+        map().refresh(*this);
+    return map().answer([&]() -> GenICam::gcstring {
+        requireReadable();
+        if (reg().length() <= Limits::shownBytes)
+            return RegisterNode::ToString(verify);
+        return (hexText(reg().firstBytes(Limits::shownBytes)) + "\xe2\x80\xa6").c_str();
+    });
 }
 
 // PlainNode

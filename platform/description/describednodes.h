@@ -18,15 +18,6 @@
 
 namespace OrvDescription {
 
-/// How a number should be presented, as far as the description of the node itself says.
-struct Presentation
-{
-    std::optional<GenApi::ERepresentation> representation;
-    std::optional<std::string> unit;
-    std::optional<GenApi::EDisplayNotation> notation;
-    std::optional<int64_t> precision;
-};
-
 /// The limits that the description of the node itself states, as a number or through a node.
 template<typename T>
 struct StatedLimit
@@ -76,8 +67,8 @@ class DescribedInteger : public NumberNode<OrvGenApi::IntegerNode>
 public:
     using NumberNode::NumberNode;
 
-    StatedLimits<int64_t> limits;
-    Presentation presentation;
+    /// Null for none.
+    std::unique_ptr<StatedLimits<int64_t>> limits;
 
     GenApi::ERepresentation GetRepresentation() override;
     GenICam::gcstring GetUnit() override;
@@ -96,8 +87,8 @@ class DescribedFloat : public NumberNode<OrvGenApi::FloatNode>
 public:
     using NumberNode::NumberNode;
 
-    StatedLimits<double> limits;
-    Presentation presentation;
+    /// Null for none.
+    std::unique_ptr<StatedLimits<double>> limits;
 
     GenApi::ERepresentation GetRepresentation() override;
     GenICam::gcstring GetUnit() const override;
@@ -165,7 +156,6 @@ public:
     using DescribedNode::DescribedNode;
 
     OrvGenApi::StringNode *reference = nullptr;
-    GenApi::EAccessMode registerMode = GenApi::RO;
     std::optional<std::string> constant;
 
 protected:
@@ -180,14 +170,15 @@ class DescribedRegister : public DescribedNode<OrvGenApi::RegisterNode>
 public:
     using DescribedNode::DescribedNode;
 
-    GenApi::EAccessMode registerMode = GenApi::RO;
-
     int64_t GetAddress(bool verify = false) override;
 
+    /// A long register's text is that of its first bytes and an ellipsis.
+    GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
+
 protected:
-    GenApi::EAccessMode ownAccessMode() const override { return registerMode; }
+    GenApi::EAccessMode ownAccessMode() const override { return reg().accessMode(); }
     std::vector<uint8_t> readBytes() override { return reg().bytes(); }
-    void writeBytes(const std::vector<uint8_t> &bytes) override;
+    void writeBytes(const std::vector<uint8_t> &bytes) override { reg().setBytes(bytes); }
     int64_t readLength() override { return reg().length(); }
 
 private:

@@ -119,11 +119,20 @@ void DescriptionReader::read()
     if (!m_failure.empty())
         fail(m_source, m_failure);
     if (m_parser->wellFormed)
-        return;
+        return requireRoot();
     const xmlError *error = xmlCtxtGetLastError(m_parser);
     if (!error || !error->message)
         fail(m_source, "this is not XML");
     fail(m_source, "line " + std::to_string(error->line) + ": " + oneLine(error->message));
+}
+
+void DescriptionReader::requireRoot() const
+{
+    const auto &nodes = m_description.m_nodes;
+    const auto root = std::find_if(nodes.begin(), nodes.end(),
+                                   [](const DescriptionNode &node) { return node.name == "Root"; });
+    if (root == nodes.end() || root->tag != "Category")
+        fail(m_source, "the description has no category 'Root'");
 }
 
 void DescriptionReader::stop(const std::string &why)

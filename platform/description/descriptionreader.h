@@ -61,6 +61,7 @@ private:
     std::string_view attribute(int count, Attributes attributes, const char *name);
     std::string_view keep(std::string_view text);
     std::string_view keepTrimmed(std::string_view text);
+    void requireRoot() const;
     void stop(const std::string &why);
 
     Description &m_description;

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "nodelinks.h"
 
+#include "description.h"
 #include "rawvalue.h"
 
+#include <genapi/nodes/question.h>
+
 #include <optional>
+#include <set>
 
 using namespace GenApi;
 using namespace OrvGenApi;
@@ -23,39 +27,100 @@ std::optional<bool> isTrue(Node &predicate)
     return std::nullopt;
 }
 
+/// The nodes that can be reached, the first one first, each once.
+std::vector<NodeLinks *> reachable(NodeLinks &first, std::vector<NodeLinks *> NodeLinks::*children)
+{
+    std::vector<NodeLinks *> found = {&first};
+    if (first.isUnusable)
+        return found;
+    std::set<const NodeLinks *> seen = {&first};
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        for (NodeLinks *child : found[i]->*children) {
+            if (!child->isUnusable && seen.insert(child).second)
+                found.push_back(child);
+        }
+    }
+    return found;
+}
+
 } // namespace
+
+std::vector<NodeLinks *> NodeLinks::predicates() const
+{
+    std::vector<NodeLinks *> stated;
+    for (NodeLinks *predicate : {isImplemented, isAvailable, isLocked}) {
+        if (predicate)
+            stated.push_back(predicate);
+    }
+    return stated;
+}
+
+std::vector<Node *> NodeLinks::written()
+{
+    std::vector<Node *> nodes;
+    for (const NodeLinks *links : reachable(*this, &NodeLinks::writtenChildren))
+        nodes.push_back(links->node);
+    return nodes;
+}
+
+std::vector<Node *> NodeLinks::terminals()
+{
+    std::vector<Node *> nodes;
+    for (const NodeLinks *links : reachable(*this, &NodeLinks::valueChildren)) {
+        if (links == this || links->reg)
+            nodes.push_back(links->node);
+    }
+    return nodes;
+}
+
+GenICam::gcstring NodeLinks::text(std::string_view tag) const
+{
+    const std::string_view found = description ? description->text(tag) : std::string_view();
+    return {found.data(), found.size()};
+}
 
 EAccessMode restrictedAccessMode(const NodeLinks &links,
                                  const std::function<EAccessMode()> &ownMode)
 {
     if (links.isUnusable)
         return NA;
-    if (links.isImplemented) {
-        const auto implemented = isTrue(*links.isImplemented);
-        if (!implemented || !*implemented)
-            return implemented ? NI : NA;
-    }
-    if (links.isAvailable && !isTrue(*links.isAvailable).value_or(false))
+    std::optional<bool> isImplemented = true;
+    std::optional<bool> isAvailable = true;
+    std::optional<bool> isLocked = false;
+    EAccessMode mode = RW;
+    Gather gather;
+    const auto look = [&](const NodeLinks *predicate, std::optional<bool> &result) {
+        if (predicate)
+            gather([&] { result = isTrue(*predicate->node); });
+    };
+    look(links.isImplemented, isImplemented);
+    if (!isImplemented || !*isImplemented)
+        return isImplemented ? NI : NA;
+    look(links.isAvailable, isAvailable);
+    if (!isAvailable.value_or(false)) {
+        gather.finish();
         return NA;
-    const EAccessMode mode = combinedAccessMode(ownMode(), links.imposedAccess);
-    if (!IsWritable(mode) || !links.isLocked || !isTrue(*links.isLocked).value_or(true))
+    }
+    gather([&] { mode = combinedAccessMode(ownMode(), links.imposedAccess); });
+    if (IsWritable(mode))
+        look(links.isLocked, isLocked);
+    gather.finish();
+    if (!IsWritable(mode) || !isLocked.value_or(true))
         return mode;
     return mode == RW ? RO : NA;
 }
 
-void appendChildren(const NodeLinks &links, ELinkType linkType, std::vector<Node *> &children)
+void appendChildren(NodeLinks &links, ELinkType linkType, std::vector<Node *> &children)
 {
-    const auto append = [&](const std::vector<Node *> &nodes) {
-        children.insert(children.end(), nodes.begin(), nodes.end());
+    const auto append = [&](const std::vector<NodeLinks *> &nodes) {
+        for (const NodeLinks *child : nodes)
+            children.push_back(child->node);
     };
     switch (linkType) {
     case ctReadingChildren:
         append(links.valueChildren);
         append(links.limitChildren);
-        for (Node *node : {links.isImplemented, links.isAvailable, links.isLocked}) {
-            if (node)
-                children.push_back(node);
-        }
+        append(links.predicates());
         break;
     case ctValueChangingChildren:
         append(links.valueChildren);
@@ -63,10 +128,11 @@ void appendChildren(const NodeLinks &links, ELinkType linkType, std::vector<Node
     case ctWritingChildren:
         append(links.writtenChildren);
         break;
-    case ctTerminalNodes:
-        children.insert(children.end(), links.terminals.begin() + (links.terminals.empty() ? 0 : 1),
-                        links.terminals.end());
+    case ctTerminalNodes: {
+        const std::vector<Node *> terminals = links.terminals();
+        children.insert(children.end(), terminals.begin() + 1, terminals.end());
         break;
+    }
     default:
         break;
     }

@@ -1,79 +1,108 @@
 // SPDX-License-Identifier: MIT
 #include "nodemap.h"
 
-#include "description.h"
 #include "nodelinks.h"
 #include "nodemapbuilder.h"
-#include "portdevice.h"
-#include "registercache.h"
 
-#include <arv.h>
+#include <cameraio/maincontext.h>
+#include <cameraio/memoryport.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <mutex>
 #include <sstream>
+
+using namespace OrvGenApi;
+using OrvCameraIo::RegisterIoListener;
 
 namespace OrvDescription {
 
-namespace {
-
-/// Aravis reports what it dislikes of a description on the standard error output; what matters to
-/// us becomes an exception. The variable with which users ask for it is left its effect.
-void quietEngine()
+/// Passes on what happens to the camera: to the map on the main context, to another listener at
+/// once.
+class NodeMap::Listener final : public RegisterIoListener
 {
-    static const bool done = [] {
-        if (!g_getenv("ARV_DEBUG"))
-            arv_debug_enable("all:0");
-        return true;
-    }();
-    static_cast<void>(done);
-}
+public:
+    explicit Listener(NodeMap &map) : m_target(std::make_shared<Target>()) { m_target->map = &map; }
+    ~Listener() override
+    {
+        const std::lock_guard<std::recursive_mutex> lock(m_target->mutex);
+        m_target->map = nullptr;
+    }
 
-} // namespace
+    void setOther(RegisterIoListener *other)
+    {
+        const std::lock_guard<std::recursive_mutex> lock(m_mutex);
+        m_other = other;
+    }
 
-NodeMap::NodeMap(const std::string &modelName, std::unique_ptr<RegisterPort> port)
-    : NodeMapBase(modelName)
-    , m_cache(std::make_unique<RegisterCache>(std::move(port)))
-    , m_portDevice(newPortDevice(m_cache.get()))
+    void answersAgain() override
+    {
+        post(&NodeMap::tellUnanswered);
+        tellOther(&RegisterIoListener::answersAgain);
+    }
+
+    void lost() override { tellOther(&RegisterIoListener::lost); }
+
+    void found() override
+    {
+        post(&NodeMap::tellAll);
+        tellOther(&RegisterIoListener::found);
+    }
+
+private:
+    /// The map as long as it lives.
+    struct Target
+    {
+        std::recursive_mutex mutex; ///< recursive: who is told may destroy the map
+        NodeMap *map = nullptr;
+    };
+
+    void post(void (NodeMap::*call)())
+    {
+        OrvCameraIo::MainContext::post([target = m_target, call] {
+            const std::lock_guard<std::recursive_mutex> lock(target->mutex);
+            if (target->map)
+                (target->map->*call)();
+        });
+    }
+
+    void tellOther(void (RegisterIoListener::*event)())
+    {
+        const std::lock_guard<std::recursive_mutex> lock(m_mutex);
+        if (m_other)
+            (m_other->*event)();
+    }
+
+    const std::shared_ptr<Target> m_target;
+    std::recursive_mutex m_mutex;
+    RegisterIoListener *m_other = nullptr;
+};
+
+NodeMap::NodeMap(std::shared_ptr<const Description> description,
+                 std::unique_ptr<OrvCameraIo::Port> port)
+    : NodeMapBase(std::string(description->modelName()))
+    , m_description(std::move(description))
+    , m_links(std::make_unique<std::deque<NodeLinks>>())
+    , m_registers(std::make_unique<OrvCameraIo::RegisterIo>(std::move(port)))
+    , m_listener(std::make_unique<Listener>(*this))
 {
+    NodeMapBuilder(*this).build();
+    m_registers->setHints(hints());
+    m_registers->setListener(m_listener.get());
 }
 
 NodeMap::~NodeMap()
 {
-    g_clear_object(&m_engine);
-    g_clear_object(&m_portDevice);
-}
-
-std::unique_ptr<NodeMap> NodeMap::build(const char *xml, std::size_t size,
-                                        const std::string &source,
-                                        std::unique_ptr<RegisterPort> port)
-{
-    quietEngine();
-    const Description description(xml, size, source);
-    std::unique_ptr<NodeMap> map(new NodeMap(description.modelName(), std::move(port)));
-    map->m_engine = arv_gc_new(map->m_portDevice, xml, size);
-    if (!map->m_engine)
-        throw GenICam::RuntimeException((source + ": the description cannot be used").c_str(),
-                                        __FILE__, __LINE__);
-    NodeMapBuilder(*map, description).build(source);
-    return map;
-}
-
-std::unique_ptr<NodeMap> NodeMap::open(ArvDevice *device)
-{
-    quietEngine();
-    size_t size = 0;
-    const char *xml = arv_device_get_genicam_xml(device, &size);
-    if (!xml)
-        throw GenICam::RuntimeException("The camera has no description", __FILE__, __LINE__);
-    return build(xml, size, "The camera's description", std::make_unique<DevicePort>(device));
+    m_registers->setListener(nullptr);
 }
 
 std::unique_ptr<NodeMap> NodeMap::fromText(const char *xml, std::size_t size,
                                            const std::string &source)
 {
-    return build(xml, size, source, std::make_unique<MemoryPort>());
+    return std::make_unique<NodeMap>(Description::shared({xml, size}, source),
+                                     std::make_unique<OrvCameraIo::MemoryPort>());
 }
 
 std::unique_ptr<NodeMap> NodeMap::fromFile(const std::string &fileName)
@@ -88,10 +117,72 @@ std::unique_ptr<NodeMap> NodeMap::fromFile(const std::string &fileName)
     return fromText(text.data(), text.size(), fileName);
 }
 
-Transactions NodeMap::transactions() const
+OrvCameraIo::PortHints NodeMap::hints() const
 {
-    const GenApi::AutoLock lock(GetLock());
-    return {m_cache->reads(), m_cache->writes()};
+    OrvCameraIo::PortHints hints;
+    const int major = m_description->schemaMajorVersion();
+    hints.isWordNumber = major < 1 || (major == 1 && m_description->schemaMinorVersion() < 1);
+    for (const NodeLinks &links : *m_links) {
+        if (links.isUnusable || !links.reg || !GenApi::IsReadable(links.reg->accessMode()) ||
+            !links.reg->place.isFixed())
+            continue;
+        try {
+            hints.declared.push_back(links.reg->place.range(links.node->name()));
+        } catch (const GenICam::OutOfRangeException &) {
+            // No register has that length.
+        }
+    }
+    auto &declared = hints.declared;
+    std::sort(declared.begin(), declared.end());
+    declared.erase(std::unique(declared.begin(), declared.end()), declared.end());
+    return hints;
+}
+
+void NodeMap::setListener(RegisterIoListener *listener)
+{
+    m_listener->setOther(listener);
+}
+
+void NodeMap::fetch(Question &question) const
+{
+    auto &missing = question.missing;
+    std::sort(missing.begin(), missing.end());
+    missing.erase(std::unique(missing.begin(), missing.end()), missing.end());
+    m_registers->read(missing);
+}
+
+void NodeMap::carryOut(Question &question)
+{
+    for (const RegisterWrite &write : question.writes) {
+        const OrvCameraIo::Status status = m_registers->write({write});
+        if (status != OrvCameraIo::Status::Done)
+            throwFailure(status, write.node);
+    }
+}
+
+void NodeMap::tellUnanswered()
+{
+    std::vector<Node *> nodes;
+    {
+        const GenApi::AutoLock lock(GetLock());
+        for (const NodeLinks &links : *m_links) {
+            if (links.reg && links.reg->takeUnanswered())
+                nodes.push_back(links.node);
+        }
+    }
+    if (!nodes.empty())
+        notifyChanged(nodes);
+}
+
+void NodeMap::tellAll()
+{
+    std::vector<Node *> nodes;
+    for (const NodeLinks &links : *m_links) {
+        if (links.reg)
+            nodes.push_back(links.node);
+    }
+    InvalidateNodes();
+    notifyChanged(nodes);
 }
 
 } // namespace OrvDescription

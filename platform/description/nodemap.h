@@ -1,65 +1,66 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "description.h"
+
+#include <cameraio/registerio.h>
 #include <genapi/nodes/nodemapbase.h>
 
+#include <deque>
 #include <memory>
 #include <string>
 
-typedef struct _ArvDevice ArvDevice;
-typedef struct _ArvGc ArvGc;
-
 namespace OrvDescription {
 
-class Description;
 class NodeMapBuilder;
-class RegisterCache;
-class RegisterPort;
 struct NodeLinks;
 
-/// How much a node map has talked to its camera.
-struct Transactions
-{
-    uint64_t reads = 0;
-    uint64_t writes = 0;
-};
-
-/// The node map of a device description, evaluated by Aravis.
+/// The node map of a device description.
 ///
-/// All nodes are made when the description is loaded and live as long as the map; loading reads
-/// nothing from the camera. Values, limits and access modes are read when they are asked for and
-/// kept until something that they depend on changes.
+/// All nodes are made when the map is made and live as long as it; that reads nothing from the
+/// camera. Values, limits and access modes are read when they are asked for and kept until
+/// something that they depend on changes.
 class GENAPI_DECL NodeMap : public OrvGenApi::NodeMapBase
 {
 public:
-    /// The node map of an opened camera. The map holds a reference to the device. Throws
-    /// `RuntimeException` with a text of one line when the camera has no description or one that
-    /// cannot be used.
-    static std::unique_ptr<NodeMap> open(ArvDevice *device);
+    /// A node map of a camera whose registers are behind the port.
+    NodeMap(std::shared_ptr<const Description> description,
+            std::unique_ptr<OrvCameraIo::Port> port);
+    ~NodeMap() override;
 
     /// The node map of a description without a camera: registers live in memory and are 0 at the
-    /// beginning. Throws as above; the text begins with `source`.
+    /// beginning. Throws `RuntimeException` with a text of one line, which begins with `source` or
+    /// the file's name, when the description cannot be used.
     static std::unique_ptr<NodeMap> fromText(const char *xml, std::size_t size,
                                              const std::string &source);
     static std::unique_ptr<NodeMap> fromFile(const std::string &fileName);
 
-    ~NodeMap() override;
+    const Description &description() const { return *m_description; }
+    OrvCameraIo::RegisterIo &registers() const { return *m_registers; }
 
     /// Since the map was made.
-    Transactions transactions() const;
+    OrvCameraIo::Transactions transactions() const { return m_registers->transactions(); }
+
+    /// Who else wants to know what happens to the camera; null for nobody. When this returns, no
+    /// call of the former listener is under way.
+    void setListener(OrvCameraIo::RegisterIoListener *listener);
+
+protected:
+    void fetch(OrvGenApi::Question &question) const override;
+    void carryOut(OrvGenApi::Question &question) override;
 
 private:
     friend class NodeMapBuilder;
+    class Listener;
 
-    NodeMap(const std::string &modelName, std::unique_ptr<RegisterPort> port);
-    static std::unique_ptr<NodeMap> build(const char *xml, std::size_t size,
-                                          const std::string &source,
-                                          std::unique_ptr<RegisterPort> port);
+    OrvCameraIo::PortHints hints() const;
+    void tellUnanswered();
+    void tellAll();
 
-    std::unique_ptr<RegisterCache> m_cache;
-    ArvDevice *m_portDevice = nullptr;
-    ArvGc *m_engine = nullptr;
-    std::vector<std::unique_ptr<NodeLinks>> m_links;
+    const std::shared_ptr<const Description> m_description;
+    const std::unique_ptr<std::deque<NodeLinks>> m_links;
+    const std::unique_ptr<OrvCameraIo::RegisterIo> m_registers;
+    const std::unique_ptr<Listener> m_listener;
 };
 
 } // namespace OrvDescription

@@ -1,48 +1,54 @@
 // SPDX-License-Identifier: MIT
 #include "nodemapbuilder.h"
 
+#include <cameraio/limits.h>
 #include <genapi/nodes/numbers.h>
-
-#include <arv.h>
 
 #include <algorithm>
 #include <cctype>
-#include <functional>
-#include <set>
 
 using namespace GenApi;
 using namespace OrvGenApi;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvDescription {
 
 namespace {
 
-bool isRegister(const std::string &tag)
+bool isOneOf(std::string_view text, std::initializer_list<std::string_view> texts)
 {
-    static const std::set<std::string> tags = {"IntReg",    "MaskedIntReg", "FloatReg",
-                                               "StringReg", "Register",     "StructEntry"};
-    return tags.count(tag) != 0;
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+bool isRegister(std::string_view tag)
+{
+    return isOneOf(tag,
+                   {"IntReg", "MaskedIntReg", "FloatReg", "StringReg", "Register", "StructEntry"});
 }
 
 /// Elements that name a node: "p" and a capital.
-bool isReference(const std::string &tag)
+bool isReference(std::string_view tag)
 {
     return tag.size() > 1 && tag[0] == 'p' && std::isupper(static_cast<unsigned char>(tag[1]));
 }
 
-int64_t toInt(const std::string &text)
+int64_t toInt(std::string_view text)
 {
-    return integerFromText(text).value_or(0);
+    const std::string number(text);
+    if (const auto value = integerFromText(number))
+        return *value;
+    const auto value = floatFromText(number);
+    return value ? FormulaNumber(*value).toInteger() : 0;
 }
 
-double toReal(const std::string &text)
+double toReal(std::string_view text)
 {
-    if (const auto value = floatFromText(text))
+    if (const auto value = floatFromText(std::string(text)))
         return *value;
     return static_cast<double>(toInt(text));
 }
 
-EVisibility visibilityOf(const std::string &text)
+EVisibility visibilityOf(std::string_view text)
 {
     if (text == "Expert")
         return Expert;
@@ -51,16 +57,16 @@ EVisibility visibilityOf(const std::string &text)
     return text == "Invisible" ? Invisible : Beginner;
 }
 
-ECachingMode cachingModeOf(const std::string &text)
+ECachingMode cachingModeOf(std::string_view text)
 {
     if (text == "NoCache")
         return NoCache;
     return text == "WriteAround" ? WriteAround : WriteThrough;
 }
 
-EAccessMode accessModeOf(const std::string &text, EAccessMode fallback)
+EAccessMode accessModeOf(std::string_view text, EAccessMode fallback)
 {
-    static const std::pair<const char *, EAccessMode> modes[] = {
+    static const std::pair<std::string_view, EAccessMode> modes[] = {
         {"RO", RO}, {"WO", WO}, {"RW", RW}, {"NA", NA}, {"NI", NI}};
     for (const auto &[name, mode] : modes) {
         if (text == name)
@@ -69,32 +75,8 @@ EAccessMode accessModeOf(const std::string &text, EAccessMode fallback)
     return fallback;
 }
 
-std::optional<ERepresentation> representationOf(const std::string &text)
-{
-    static const std::pair<const char *, ERepresentation> representations[] = {
-        {"Linear", Linear},         {"Logarithmic", Logarithmic}, {"Boolean", Boolean},
-        {"PureNumber", PureNumber}, {"HexNumber", HexNumber},     {"IPV4Address", IPV4Address},
-        {"MACAddress", MACAddress}};
-    for (const auto &[name, representation] : representations) {
-        if (text == name)
-            return representation;
-    }
-    return std::nullopt;
-}
-
-std::optional<EDisplayNotation> notationOf(const std::string &text)
-{
-    if (text == "Automatic")
-        return fnAutomatic;
-    if (text == "Fixed")
-        return fnFixed;
-    if (text == "Scientific")
-        return fnScientific;
-    return std::nullopt;
-}
-
 template<typename T>
-std::vector<T> listOf(const std::string &text, T (*parse)(const std::string &))
+std::vector<T> listOf(std::string_view text, T (*parse)(std::string_view))
 {
     std::vector<T> values;
     std::size_t start = 0;
@@ -107,31 +89,25 @@ std::vector<T> listOf(const std::string &text, T (*parse)(const std::string &))
     return values;
 }
 
-/// True when the formula of that tag can meet a divisor of 0.
-bool divides(const DescriptionNode &description, const std::string &tag)
-{
-    return std::any_of(description.properties.begin(), description.properties.end(),
-                       [&](const DescriptionProperty &property) {
-                           return (property.tag == tag || property.tag == "Expression") &&
-                                  property.text.find_first_of("/%") != std::string::npos;
-                       });
-}
-
 NodeProperties propertiesOf(const DescriptionNode &description)
 {
     NodeProperties properties;
     properties.name = description.name;
     properties.nameSpace = description.isStandard ? Standard : Custom;
-    properties.displayName = description.text("DisplayName");
-    properties.toolTip = description.text("ToolTip");
-    properties.description = description.text("Description");
-    properties.eventId = description.text("EventID");
-    properties.visibility = visibilityOf(description.text("Visibility"));
-    properties.cachingMode = cachingModeOf(description.text("Cachable"));
-    if (description.find("PollingTime"))
-        properties.pollingTime = toInt(description.text("PollingTime"));
-    properties.streamable = description.text("Streamable") == "Yes";
-    properties.deprecated = description.text("IsDeprecated") == "Yes";
+    // Backwards, since the first element of a kind counts.
+    for (auto property = description.properties.rbegin(); property != description.properties.rend();
+         ++property) {
+        if (property->tag == "Visibility")
+            properties.visibility = visibilityOf(property->text);
+        else if (property->tag == "Cachable")
+            properties.cachingMode = cachingModeOf(property->text);
+        else if (property->tag == "PollingTime")
+            properties.pollingTime = toInt(property->text);
+        else if (property->tag == "Streamable")
+            properties.streamable = property->text == "Yes";
+        else if (property->tag == "IsDeprecated")
+            properties.deprecated = property->text == "Yes";
+    }
     return properties;
 }
 
@@ -146,82 +122,101 @@ EnumEntryProperties entryOf(const DescriptionNode &description)
     return entry;
 }
 
-Presentation presentationOf(const DescriptionNode &description)
+RegisterCodec::Format formatOf(const DescriptionNode &description)
 {
-    Presentation presentation;
-    presentation.representation = representationOf(description.text("Representation"));
-    if (const DescriptionProperty *unit = description.find("Unit"))
-        presentation.unit = unit->text;
-    presentation.notation = notationOf(description.text("DisplayNotation"));
-    if (description.find("DisplayPrecision"))
-        presentation.precision = toInt(description.text("DisplayPrecision"));
-    return presentation;
+    RegisterCodec::Format format;
+    format.isBigEndian = description.text("Endianess") == "BigEndian";
+    format.isBit0Highest = format.isBigEndian;
+    format.isSigned = description.text("Sign") == "Signed";
+    if (!isOneOf(description.tag, {"MaskedIntReg", "StructEntry"}))
+        return format;
+    format.isBitField = true;
+    if (const DescriptionProperty *bit = description.find("Bit")) {
+        format.firstBit = format.lastBit = toInt(bit->text);
+        return format;
+    }
+    format.firstBit = toInt(description.text("LSB", "0"));
+    format.lastBit = toInt(description.text("MSB", "31"));
+    return format;
+}
+
+ConverterSource::Slope slopeOf(std::string_view text)
+{
+    if (text == "Increasing")
+        return ConverterSource::Slope::Increasing;
+    if (text == "Decreasing")
+        return ConverterSource::Slope::Decreasing;
+    return text == "Varying" ? ConverterSource::Slope::Varying : ConverterSource::Slope::Automatic;
+}
+
+std::unique_ptr<NumberSource> fixedSource(std::string_view text)
+{
+    return std::make_unique<FixedSource>(toReal(text), toInt(text));
 }
 
 } // namespace
 
-NodeMapBuilder::NodeMapBuilder(NodeMap &map, const Description &description)
-    : m_map(map), m_description(description)
-{
-}
+NodeMapBuilder::NodeMapBuilder(NodeMap &map) : m_map(map), m_description(map.description()) {}
 
-void NodeMapBuilder::build(const std::string &source)
+void NodeMapBuilder::build()
 {
-    for (const DescriptionNode &description : m_description.nodes())
-        m_described.emplace(description.name, &description);
+    m_byName.reserve(m_description.nodes().size());
     for (const DescriptionNode &description : m_description.nodes())
         makeNode(description);
-
-    auto *root = dynamic_cast<ICategory *>(m_map.node("Root"));
-    if (!root)
-        throw GenICam::RuntimeException(
-            (source + ": the description has no category 'Root'").c_str(), __FILE__, __LINE__);
-
     breakCategoryCircles();
-    // Connecting a category may add a placeholder to the items.
-    for (std::size_t i = 0; i < m_items.size(); ++i) {
-        if (m_items[i].description)
-            connect(m_items[i]);
-    }
-    markCircularNodes();
-    spreadUnusable();
-    for (Item &item : m_items)
-        finish(item);
+    // Connecting a category may add a placeholder.
+    const std::size_t described = m_map.m_links->size();
+    for (std::size_t i = 0; i < described; ++i)
+        connect((*m_map.m_links)[i]);
+    ReferenceGraph graph(*m_map.m_links);
+    for (const LimitRead &read : m_limitsRead)
+        addLimitsRead(graph, read);
+    graph.finish();
 }
 
-NodeLinks &NodeMapBuilder::newLinks()
+NodeLinks &NodeMapBuilder::newLinks(const DescriptionNode *description)
 {
-    m_map.m_links.push_back(std::make_unique<NodeLinks>());
-    return *m_map.m_links.back();
+    NodeLinks &links = m_map.m_links->emplace_back();
+    links.index = m_map.m_links->size() - 1;
+    links.description = description;
+    return links;
+}
+
+void NodeMapBuilder::adopt(NodeLinks &links, std::unique_ptr<Node> node)
+{
+    links.node = node.get();
+    m_byName.emplace(node->name(), &links);
+    m_map.adopt(std::move(node));
+}
+
+NodeLinks *NodeMapBuilder::linksOf(std::string_view name) const
+{
+    const auto found = m_byName.find(name);
+    return found == m_byName.end() ? nullptr : found->second;
 }
 
 void NodeMapBuilder::makeNode(const DescriptionNode &description)
 {
-    if (Node *first = m_map.node(description.name)) {
-        // Described twice: the first description counts. The engine takes the last and would
-        // compute what nobody has looked at.
-        Item &item = *itemOf(first);
-        if (item.description->tag != "Category" && description.tag != "EnumEntry")
-            item.links->isUnusable = true;
+    if (NodeLinks *first = linksOf(description.name)) {
+        // Described twice: nobody can tell which description is meant.
+        if (first->description->tag != "Category" && description.tag != "EnumEntry")
+            first->isUnusable = true;
         return;
     }
-    NodeLinks &links = newLinks();
-    std::unique_ptr<Node> node = newNode(description, links);
-    m_indexOf[node.get()] = m_items.size();
-    m_items.push_back({&description, node.get(), &links});
-    m_map.adopt(std::move(node));
+    NodeLinks &links = newLinks(&description);
+    adopt(links, newNode(description, links));
 }
 
 std::unique_ptr<Node> NodeMapBuilder::newNode(const DescriptionNode &description, NodeLinks &links)
 {
-    const std::string &tag = description.tag;
+    const std::string_view tag = description.tag;
     NodeProperties properties = propertiesOf(description);
     if (tag == "Category")
         return std::make_unique<DescribedCategory>(links, m_map, properties);
-    if (tag == "Integer" || tag == "IntReg" || tag == "MaskedIntReg" || tag == "StructEntry" ||
-        tag == "IntSwissKnife" || tag == "IntConverter")
+    if (isOneOf(tag, {"Integer", "IntReg", "MaskedIntReg", "StructEntry", "IntSwissKnife",
+                      "IntConverter"}))
         return std::make_unique<DescribedInteger>(links, m_map, properties);
-    if (tag == "Float" || tag == "FloatReg" || tag == "SwissKnife" || tag == "Converter")
+    if (isOneOf(tag, {"Float", "FloatReg", "SwissKnife", "Converter"}))
         return std::make_unique<DescribedFloat>(links, m_map, properties);
     if (tag == "Boolean")
         return std::make_unique<DescribedBoolean>(links, m_map, properties);
@@ -239,523 +234,461 @@ std::unique_ptr<Node> NodeMapBuilder::newNode(const DescriptionNode &description
                                        properties);
 }
 
-ArvGcNode *NodeMapBuilder::engineNode(const DescriptionNode &description) const
+NodeLinks *NodeMapBuilder::referenced(NodeLinks &links, std::string_view name)
 {
-    return arv_gc_get_node(m_map.m_engine, description.name.c_str());
+    NodeLinks *other = linksOf(name);
+    if (!other)
+        links.isUnusable = true;
+    return other;
 }
 
-Node *NodeMapBuilder::referenced(Item &item, const std::string &name)
+NodeLinks *NodeMapBuilder::referencedBy(NodeLinks &links, std::string_view tag)
 {
-    Node *node = m_map.node(name);
-    if (!node)
-        item.links->isUnusable = true;
-    return node;
+    const DescriptionProperty *property = links.description->find(tag);
+    return property ? referenced(links, property->text) : nullptr;
 }
 
-Node *NodeMapBuilder::referenced(Item &item, const char *tag)
+Node *NodeMapBuilder::nodeReferencedBy(NodeLinks &links, std::string_view tag)
 {
-    const DescriptionProperty *property = item.description->find(tag);
-    return property ? referenced(item, property->text) : nullptr;
+    const NodeLinks *other = referencedBy(links, tag);
+    return other ? other->node : nullptr;
 }
 
-std::vector<Node *> NodeMapBuilder::referencedAll(Item &item, const char *tag)
+void NodeMapBuilder::connect(NodeLinks &links)
 {
-    std::vector<Node *> nodes;
-    for (const DescriptionProperty &property : item.description->properties) {
-        if (property.tag != tag)
-            continue;
-        if (Node *node = referenced(item, property.text))
-            nodes.push_back(node);
-    }
-    return nodes;
-}
-
-void NodeMapBuilder::connect(Item &item)
-{
-    const std::string &tag = item.description->tag;
-    connectPredicates(item);
-    connectDependencies(item);
-    if (tag == "Category") {
-        // May move the items.
-        connectCategory(item);
-        return;
-    }
+    const std::string_view tag = links.description->tag;
+    connectPredicates(links);
+    connectDependencies(links, links.description->properties);
+    if (tag == "Category")
+        return connectCategory(links);
     if (tag == "EnumEntry")
-        connectEntry(item);
+        connectEntry(links);
     if (isRegister(tag))
-        connectRegister(item);
-    connectNumber(item);
+        connectRegister(links);
+    connectNumber(links);
 }
 
-void NodeMapBuilder::connectPredicates(Item &item)
+void NodeMapBuilder::connectPredicates(NodeLinks &links)
 {
-    NodeLinks &links = *item.links;
-    links.isImplemented = referenced(item, "pIsImplemented");
-    links.isAvailable = referenced(item, "pIsAvailable");
-    links.isLocked = referenced(item, "pIsLocked");
-    links.imposedAccess = accessModeOf(item.description->text("ImposedAccessMode"), RW);
+    links.isImplemented = referencedBy(links, "pIsImplemented");
+    links.isAvailable = referencedBy(links, "pIsAvailable");
+    links.isLocked = referencedBy(links, "pIsLocked");
+    links.imposedAccess = accessModeOf(links.description->text("ImposedAccessMode"), RW);
 }
 
-void NodeMapBuilder::connectDependencies(Item &item)
+void NodeMapBuilder::connectDependencies(NodeLinks &links, const Properties &properties)
 {
-    static const std::set<std::string> unrelated = {
-        "pFeature", "pPort", "pAlias", "pCastAlias", "pError", "pBlockPolling", "pValueCopy"};
-    const std::function<void(const std::vector<DescriptionProperty> &)> connectAll =
-        [&](const std::vector<DescriptionProperty> &properties) {
-            for (const DescriptionProperty &property : properties) {
-                connectAll(property.properties);
-                if (!property.pOffset.empty()) {
-                    if (Node *offset = m_map.node(property.pOffset))
-                        m_map.addDependency(*offset, *item.node);
-                }
-                if (!isReference(property.tag) || unrelated.count(property.tag) != 0)
-                    continue;
-                Node *other = m_map.node(property.text);
-                if (!other)
-                    continue;
-                if (property.tag == "pSelected")
-                    m_map.addSelection(*item.node, *other);
-                else
-                    m_map.addDependency(*other, *item.node);
-            }
-        };
-    connectAll(item.description->properties);
+    for (const DescriptionProperty &property : properties) {
+        connectDependencies(links, property.properties());
+        if (const NodeLinks *offset = linksOf(property.pOffset()))
+            m_map.addDependency(*offset->node, *links.node);
+        if (!isReference(property.tag) ||
+            isOneOf(property.tag, {"pFeature", "pPort", "pAlias", "pCastAlias", "pError",
+                                   "pBlockPolling", "pValueCopy"}))
+            continue;
+        const NodeLinks *other = linksOf(property.text);
+        if (!other)
+            continue;
+        if (property.tag == "pSelected")
+            m_map.addSelection(*links.node, *other->node);
+        else
+            m_map.addDependency(*other->node, *links.node);
+    }
 }
 
-void NodeMapBuilder::connectEntry(Item &item)
+void NodeMapBuilder::connectEntry(NodeLinks &links)
 {
-    auto *enumeration = dynamic_cast<EnumerationNode *>(m_map.node(item.description->owner));
-    auto *entry = dynamic_cast<EnumEntryNode *>(item.node);
+    const NodeLinks *owner = linksOf(links.description->owner);
+    auto *enumeration = owner ? dynamic_cast<EnumerationNode *>(owner->node) : nullptr;
+    auto *entry = dynamic_cast<EnumEntryNode *>(links.node);
     if (!enumeration || !entry)
         return;
     enumeration->addEntry(*entry);
     m_map.addDependency(*entry, *enumeration);
 }
 
-void NodeMapBuilder::connectCategory(Item &item)
+// Categories
+
+void NodeMapBuilder::connectCategory(NodeLinks &links)
 {
-    auto &category = dynamic_cast<CategoryNode &>(*item.node);
-    const DescriptionNode &description = *item.description;
-    for (const DescriptionProperty &property : description.properties) {
-        if (property.tag != "pFeature")
+    auto &category = dynamic_cast<CategoryNode &>(*links.node);
+    for (const DescriptionProperty &property : links.description->properties) {
+        if (property.tag != "pFeature" || property.text.empty() ||
+            m_droppedFeatures.count({links.description->name, property.text}) != 0)
             continue;
-        const auto dropped = std::make_pair(description.name, property.text);
-        if (std::find(m_droppedFeatures.begin(), m_droppedFeatures.end(), dropped) !=
-            m_droppedFeatures.end())
-            continue;
-        Node *feature = m_map.node(property.text);
-        if (!feature && !property.text.empty()) {
+        const NodeLinks *feature = linksOf(property.text);
+        if (!feature) {
             NodeProperties properties;
             properties.name = property.text;
-            NodeLinks &links = newLinks();
-            links.isUnusable = true;
-            auto missing = std::make_unique<MissingFeature>(links, m_map, properties);
-            feature = missing.get();
-            m_indexOf[feature] = m_items.size();
-            m_items.push_back({nullptr, feature, &links});
-            m_map.adopt(std::move(missing));
+            NodeLinks &missing = newLinks(nullptr);
+            missing.isUnusable = true;
+            adopt(missing, std::make_unique<MissingFeature>(missing, m_map, properties));
+            feature = &missing;
         }
-        if (feature)
-            category.addFeature(*feature);
+        category.addFeature(*feature->node);
     }
 }
 
-void NodeMapBuilder::connectRegister(Item &item)
+/// What is known of a category while all of them are walked through.
+struct NodeMapBuilder::CategoryState
 {
-    const DescriptionNode &description = *item.description;
-    NodeLinks &links = *item.links;
-    ArvGcNode *engine = engineNode(description);
-    if (!engine || !ARV_IS_GC_REGISTER(engine)) {
-        links.isUnusable = true;
-        return;
-    }
-    links.reg = std::make_unique<RegisterAccess>(engine, *m_map.m_cache, description.name,
-                                                 item.node->properties().cachingMode);
+    bool isOpen = false;
+    bool isDone = false;
+    int depth = 0;        ///< of the categories in it
+    std::size_t rows = 0; ///< in it and in the categories in it
+};
 
-    std::vector<Node *> sources;
-    for (const char *tag : {"pAddress", "pIndex", "pLength"}) {
-        const auto nodes = referencedAll(item, tag);
-        sources.insert(sources.end(), nodes.begin(), nodes.end());
+void NodeMapBuilder::breakCategoryCircles()
+{
+    std::vector<CategoryState> states(m_map.m_links->size());
+    for (const NodeLinks &links : *m_map.m_links) {
+        if (links.description->tag == "Category" && !states[links.index].isDone)
+            breakCategoryCircles(links, states);
     }
-    for (const DescriptionProperty &property : description.properties) {
-        if (!property.pOffset.empty()) {
-            if (Node *offset = referenced(item, property.pOffset))
-                sources.push_back(offset);
+}
+
+void NodeMapBuilder::breakCategoryCircles(const NodeLinks &first,
+                                          std::vector<CategoryState> &states)
+{
+    std::vector<std::pair<const NodeLinks *, std::size_t>> open = {{&first, 0}};
+    while (!open.empty()) {
+        auto &[category, next] = open.back();
+        CategoryState &state = states[category->index];
+        state.isOpen = true;
+        if (next == category->description->properties.size()) {
+            state.isOpen = false;
+            state.isDone = true;
+            open.pop_back();
+            continue;
         }
-        for (const DescriptionProperty &inner : property.properties) {
-            if (inner.tag != "pVariable")
-                continue;
-            if (Node *variable = referenced(item, inner.text))
-                sources.push_back(variable);
+        const DescriptionProperty &property = category->description->properties[next++];
+        if (property.tag != "pFeature")
+            continue;
+        ++state.rows;
+        const NodeLinks *child = linksOf(property.text);
+        if (!child || child->description->tag != "Category")
+            continue;
+        const CategoryState &inner = states[child->index];
+        if (!inner.isOpen && !inner.isDone) {
+            --state.rows;
+            --next; // once more when the child is done
+            open.emplace_back(child, 0);
+        } else if (inner.isOpen || inner.depth + 1 >= Limits::categoryDepth ||
+                   state.rows + inner.rows > Limits::nodeCount) {
+            m_droppedFeatures.emplace(category->description->name, property.text);
+        } else {
+            state.rows += inner.rows;
+            state.depth = std::max(state.depth, inner.depth + 1);
         }
     }
-    links.valueChildren = sources;
-    links.reg->setAddressSources(std::move(sources));
+}
+
+// Registers
+
+void NodeMapBuilder::connectRegister(NodeLinks &links)
+{
+    const DescriptionNode &description = *links.description;
+    links.reg = std::make_unique<RegisterAccess>(m_map, *m_map.m_registers, description.name,
+                                                 links.node->properties().cachingMode,
+                                                 accessModeOf(description.text("AccessMode"), RO));
+    links.reg->format = formatOf(description);
+    connectPlace(links, links.reg->place);
 
     // Ports of chunks and events have no data but those that come with images.
     const DescriptionProperty *port = description.find("pPort");
-    const auto portNode = port ? m_described.find(port->text) : m_described.end();
-    if (portNode != m_described.end() &&
-        (portNode->second->find("ChunkID") || portNode->second->find("EventID") ||
-         portNode->second->find("pChunkID") || portNode->second->find("pEventID")))
-        links.isUnusable = true;
-
-    const EAccessMode mode = accessModeOf(description.text("AccessMode"), RO);
-    if (auto *text = dynamic_cast<DescribedString *>(item.node))
-        text->registerMode = mode;
-    if (auto *bytes = dynamic_cast<DescribedRegister *>(item.node))
-        bytes->registerMode = mode;
+    const NodeLinks *portLinks = port ? linksOf(port->text) : nullptr;
+    if (!portLinks)
+        return;
+    for (const char *tag : {"ChunkID", "EventID", "pChunkID", "pEventID"}) {
+        if (portLinks->description->find(tag))
+            links.isUnusable = true;
+    }
 }
 
-std::unique_ptr<Formula> NodeMapBuilder::newFormula(Item &item, const char *tag, const char *input)
+void NodeMapBuilder::connectPlace(NodeLinks &links, RegisterPlace &place)
 {
-    const std::string text = item.description->text(tag);
-    auto formula = std::make_unique<Formula>(*item.description, text);
-    std::vector<std::string> names = {input};
-    for (const DescriptionProperty &property : item.description->properties) {
+    bool hasLength = false;
+    for (const DescriptionProperty &property : links.description->properties) {
+        if (property.tag == "Address") {
+            place.add(static_cast<uint64_t>(toInt(property.text)));
+        } else if (property.tag == "pAddress") {
+            if (NodeLinks *address = referenced(links, property.text)) {
+                links.valueChildren.push_back(address);
+                place.add(*address->node);
+            }
+        } else if (property.tag == "IntSwissKnife") {
+            const auto variables = connectVariables(links, property.properties());
+            const auto formula =
+                std::find_if(property.properties().begin(), property.properties().end(),
+                             [](const DescriptionProperty &p) { return p.tag == "Formula"; });
+            const bool isStated = formula != property.properties().end();
+            place.add(newFormula(links, isStated ? formula->text : std::string_view(),
+                                 property.properties(), variables));
+        } else if (property.tag == "pIndex") {
+            connectIndex(links, place, property);
+        } else if (property.tag == "Length" && !hasLength) {
+            hasLength = true;
+            place.setLength(toInt(property.text));
+        } else if (property.tag == "pLength") {
+            if (NodeLinks *length = referenced(links, property.text)) {
+                links.valueChildren.push_back(length);
+                place.setLength(*length->node);
+            }
+        }
+    }
+}
+
+void NodeMapBuilder::connectIndex(NodeLinks &links, RegisterPlace &place,
+                                  const DescriptionProperty &property)
+{
+    NodeLinks *index = referenced(links, property.text);
+    if (!index)
+        return;
+    links.valueChildren.push_back(index);
+    std::optional<int64_t> offset;
+    NodeLinks *offsetLinks = nullptr;
+    if (!property.offset().empty()) {
+        offset = toInt(property.offset());
+    } else if (!property.pOffset().empty()) {
+        offsetLinks = referenced(links, property.pOffset());
+        if (offsetLinks)
+            links.valueChildren.push_back(offsetLinks);
+    }
+    place.addIndex(*index->node, offset, offsetLinks ? offsetLinks->node : nullptr);
+}
+
+// Formulas
+
+std::vector<Node *> NodeMapBuilder::connectVariables(NodeLinks &links, const Properties &properties)
+{
+    std::vector<Node *> variables;
+    for (const DescriptionProperty &property : properties) {
         if (property.tag != "pVariable")
             continue;
-        names.push_back(property.name);
-        if (Node *variable = m_map.node(property.text))
-            formula->addVariable(property.name, *variable);
+        NodeLinks *variable = referenced(links, property.text);
+        variables.push_back(variable ? variable->node : nullptr);
+        if (variable)
+            links.valueChildren.push_back(variable);
     }
-    if (!Formula::isWellFormed(*item.description, text, names))
-        item.links->isUnusable = true;
+    return variables;
+}
+
+std::unique_ptr<NodeFormula> NodeMapBuilder::newFormula(NodeLinks &links, std::string_view text,
+                                                        const Properties &properties,
+                                                        const std::vector<Node *> &variables,
+                                                        std::string_view input)
+{
+    auto formula =
+        std::make_unique<NodeFormula>(text, properties, variables, links.description->name, input);
+    if (!formula->isUsable())
+        links.isUnusable = true;
+    for (const auto &[node, which] : formula->limitsRead())
+        m_limitsRead.push_back({&links, linksOf(node->name()), which});
     return formula;
 }
 
-std::unique_ptr<NumberSource> NodeMapBuilder::newFormulaSource(Item &item)
+/// Follows the way that the question for a limit takes: what the node states, or what its value
+/// comes from states.
+void NodeMapBuilder::addLimitsRead(ReferenceGraph &graph, const LimitRead &read) const
 {
-    const std::vector<Node *> variables = referencedAll(item, "pVariable");
-    item.links->valueChildren = variables;
-    const bool canFail = divides(*item.description, "Formula");
-    return std::make_unique<FormulaSource>(newFormula(item, "Formula", ""), variables, canFail,
-                                           item.description->tag == "IntSwissKnife");
-}
-
-std::unique_ptr<NumberSource> NodeMapBuilder::newConverterSource(Item &item)
-{
-    Node *value = referenced(item, "pValue");
-    if (!value) {
-        item.links->isUnusable = true;
-        return nullptr;
+    std::set<std::string_view> wanted = {read.which};
+    const NodeLinks *limited = read.limited;
+    for (int i = 0; limited && i < Limits::referenceDepth; ++i) {
+        const DescriptionNode *description = limited->description;
+        for (const char *which : {"Min", "Max", "Inc"}) {
+            if (wanted.count(which) == 0 || !description)
+                continue;
+            const DescriptionProperty *reference = description->find(std::string("p") + which);
+            if (NodeLinks *limit = reference ? linksOf(reference->text) : nullptr)
+                graph.addLimit(*read.reader, *limit);
+            if (reference || description->find(which))
+                wanted.erase(which);
+        }
+        if (wanted.empty())
+            return;
+        const auto &written = limited->writtenChildren;
+        for (NodeLinks *child : limited->valueChildren) {
+            if (std::find(written.begin(), written.end(), child) == written.end())
+                graph.addLimit(*read.reader, *child);
+        }
+        if (description && isOneOf(description->tag, {"Converter", "IntConverter"}))
+            wanted.insert({"Min", "Max"}); // either may become the other
+        limited = written.empty() ? nullptr : written.front();
     }
-    item.links->valueChildren = referencedAll(item, "pVariable");
-    item.links->valueChildren.push_back(value);
-    item.links->writtenChildren = {value};
-    const std::string slopeText = item.description->text("Slope");
-    auto slope = ConverterSource::Slope::Automatic;
-    if (slopeText == "Increasing")
-        slope = ConverterSource::Slope::Increasing;
-    else if (slopeText == "Decreasing")
-        slope = ConverterSource::Slope::Decreasing;
-    else if (slopeText == "Varying")
-        slope = ConverterSource::Slope::Varying;
-    return std::make_unique<ConverterSource>(
-        *value, newFormula(item, "FormulaFrom", "TO"), newFormula(item, "FormulaTo", "FROM"), slope,
-        item.description->text("IsLinear") == "Yes", item.description->tag == "IntConverter",
-        divides(*item.description, "FormulaFrom"));
 }
 
-std::unique_ptr<NumberSource> NodeMapBuilder::newIndexedSource(Item &item)
+// Numbers
+
+std::unique_ptr<NumberSource> NodeMapBuilder::newFormulaSource(NodeLinks &links)
 {
-    Node *index = referenced(item, "pIndex");
+    const DescriptionNode &description = *links.description;
+    const std::vector<Node *> variables = connectVariables(links, description.properties);
+    auto formula =
+        newFormula(links, description.text("Formula"), description.properties, variables);
+    std::vector<Node *> known = variables;
+    known.erase(std::remove(known.begin(), known.end(), nullptr), known.end());
+    return std::make_unique<FormulaSource>(std::move(formula), std::move(known),
+                                           description.tag == "IntSwissKnife");
+}
+
+std::unique_ptr<NumberSource> NodeMapBuilder::newConverterSource(NodeLinks &links)
+{
+    const DescriptionNode &description = *links.description;
+    NodeLinks *value = referencedBy(links, "pValue");
+    if (!value)
+        return nullptr;
+    const std::vector<Node *> variables = connectVariables(links, description.properties);
+    links.valueChildren.push_back(value);
+    links.writtenChildren = {value};
+    const auto formula = [&](const char *tag, const char *input) {
+        return newFormula(links, description.text(tag), description.properties, variables, input);
+    };
+    return std::make_unique<ConverterSource>(
+        *value->node, formula("FormulaFrom", "TO"), formula("FormulaTo", "FROM"),
+        slopeOf(description.text("Slope")), description.text("IsLinear") == "Yes",
+        description.tag == "IntConverter");
+}
+
+std::unique_ptr<NumberSource> NodeMapBuilder::newIndexedSource(NodeLinks &links)
+{
+    NodeLinks *index = referencedBy(links, "pIndex");
     if (!index)
         return nullptr;
-    item.links->valueChildren.push_back(index);
-    auto source = std::make_unique<IndexedSource>(*index);
+    links.valueChildren.push_back(index);
+    auto source = std::make_unique<IndexedSource>(*index->node);
     const auto referencing = [&](const DescriptionProperty &property) {
         std::unique_ptr<NumberSource> result;
-        if (Node *node = referenced(item, property.text)) {
-            item.links->valueChildren.push_back(node);
-            item.links->writtenChildren.push_back(node);
-            result = std::make_unique<ReferenceSource>(*node, std::vector<Node *>());
+        if (NodeLinks *value = referenced(links, property.text)) {
+            links.valueChildren.push_back(value);
+            links.writtenChildren.push_back(value);
+            result = std::make_unique<ReferenceSource>(*value->node, std::vector<Node *>());
         }
         return result;
     };
-    const auto fixed = [&](const DescriptionProperty &property) {
-        return std::make_unique<FixedSource>(toReal(property.text), toInt(property.text));
-    };
-    for (const DescriptionProperty &property : item.description->properties) {
+    for (const DescriptionProperty &property : links.description->properties) {
         if (property.tag == "ValueIndexed")
-            source->add(toInt(property.index), fixed(property));
+            source->add(toInt(property.index()), fixedSource(property.text));
         else if (property.tag == "pValueIndexed")
-            source->add(toInt(property.index), referencing(property));
+            source->add(toInt(property.index()), referencing(property));
         else if (property.tag == "ValueDefault")
-            source->setDefault(fixed(property));
+            source->setDefault(fixedSource(property.text));
         else if (property.tag == "pValueDefault")
             source->setDefault(referencing(property));
     }
     return source;
 }
 
-std::unique_ptr<NumberSource> NodeMapBuilder::newSource(Item &item)
+std::unique_ptr<NumberSource> NodeMapBuilder::newReferenceSource(NodeLinks &links)
 {
-    const DescriptionNode &description = *item.description;
-    const std::string &tag = description.tag;
-    if (isRegister(tag)) {
-        if (!item.links->reg)
-            return nullptr;
-        return std::make_unique<RegisterSource>(
-            *item.links->reg, accessModeOf(description.text("AccessMode"), RO), tag == "FloatReg");
-    }
-    if (tag == "SwissKnife" || tag == "IntSwissKnife")
-        return newFormulaSource(item);
-    if (tag == "Converter" || tag == "IntConverter")
-        return newConverterSource(item);
-    if (description.find("pIndex"))
-        return newIndexedSource(item);
-    if (description.find("pValue")) {
-        Node *value = referenced(item, "pValue");
-        if (!value)
-            return nullptr;
-        const std::vector<Node *> copies = referencedAll(item, "pValueCopy");
-        item.links->valueChildren = {value};
-        item.links->writtenChildren = copies;
-        item.links->writtenChildren.insert(item.links->writtenChildren.begin(), value);
-        return std::make_unique<ReferenceSource>(*value, copies);
-    }
-    ArvGcNode *engine = description.find("Value") ? engineNode(description) : nullptr;
-    if (!ARV_IS_GC_INTEGER(engine) && !ARV_IS_GC_FLOAT(engine) && !ARV_IS_GC_BOOLEAN(engine) &&
-        !ARV_IS_GC_ENUMERATION(engine))
+    NodeLinks *value = referencedBy(links, "pValue");
+    if (!value)
         return nullptr;
-    return std::make_unique<ConstantSource>(engine, description.name);
+    links.valueChildren = {value};
+    links.writtenChildren = {value};
+    std::vector<Node *> copies;
+    for (const DescriptionProperty &property : links.description->properties) {
+        if (property.tag != "pValueCopy")
+            continue;
+        if (NodeLinks *copy = referenced(links, property.text)) {
+            links.writtenChildren.push_back(copy);
+            copies.push_back(copy->node);
+        }
+    }
+    return std::make_unique<ReferenceSource>(*value->node, std::move(copies));
+}
+
+std::unique_ptr<NumberSource> NodeMapBuilder::newSource(NodeLinks &links)
+{
+    const DescriptionNode &description = *links.description;
+    const std::string_view tag = description.tag;
+    if (isRegister(tag))
+        return std::make_unique<RegisterSource>(*links.reg, tag == "FloatReg");
+    if (isOneOf(tag, {"SwissKnife", "IntSwissKnife"}))
+        return newFormulaSource(links);
+    if (isOneOf(tag, {"Converter", "IntConverter"}))
+        return newConverterSource(links);
+    if (description.find("pIndex"))
+        return newIndexedSource(links);
+    if (description.find("pValue"))
+        return newReferenceSource(links);
+    const DescriptionProperty *value = description.find("Value");
+    if (!value || tag == "Command")
+        return nullptr;
+    return fixedSource(value->text);
 }
 
 template<typename Described, typename T>
-void NodeMapBuilder::connectLimits(Item &item, T (*parse)(const std::string &))
+void NodeMapBuilder::connectLimits(NodeLinks &links, Described &node, T (*parse)(std::string_view))
 {
-    auto *node = dynamic_cast<Described *>(item.node);
-    if (!node)
+    const DescriptionNode &description = *links.description;
+    const bool isLimited = std::any_of(
+        description.properties.begin(), description.properties.end(), [](const auto &property) {
+            return isOneOf(property.tag,
+                           {"Min", "pMin", "Max", "pMax", "Inc", "pInc", "ValidValueSet"});
+        });
+    if (!isLimited)
         return;
-    node->presentation = presentationOf(*item.description);
+    auto limits = std::make_unique<StatedLimits<T>>();
     const auto connectLimit = [&](StatedLimit<T> &limit, const char *tag) {
-        if (const DescriptionProperty *stated = item.description->find(tag))
-            limit.value = parse(stated->text);
-        const std::string reference = std::string("p") + tag;
-        limit.node = referenced(item, reference.c_str());
-        if (limit.node)
-            item.links->limitChildren.push_back(limit.node);
+        if (const DescriptionProperty *value = description.find(tag))
+            limit.value = parse(value->text);
+        if (NodeLinks *other = referencedBy(links, std::string("p") + tag)) {
+            limit.node = other->node;
+            links.limitChildren.push_back(other);
+        }
     };
-    connectLimit(node->limits.min, "Min");
-    connectLimit(node->limits.max, "Max");
-    connectLimit(node->limits.inc, "Inc");
-    node->limits.validValues = listOf(item.description->text("ValidValueSet"), parse);
+    connectLimit(limits->min, "Min");
+    connectLimit(limits->max, "Max");
+    connectLimit(limits->inc, "Inc");
+    limits->validValues = listOf(description.text("ValidValueSet"), parse);
+    node.limits = std::move(limits);
 }
 
-void NodeMapBuilder::connectNumber(Item &item)
+void NodeMapBuilder::connectNumber(NodeLinks &links)
 {
-    const DescriptionNode &description = *item.description;
-    const auto give = [&](auto *node) {
-        if (!node)
-            return false;
-        auto source = newSource(item);
+    const DescriptionNode &description = *links.description;
+    const auto give = [&](auto &node) {
+        auto source = newSource(links);
         if (!source)
-            item.links->isUnusable = true;
-        node->setSource(std::move(source));
-        return true;
+            links.isUnusable = true;
+        node.setSource(std::move(source));
     };
-    if (give(dynamic_cast<DescribedInteger *>(item.node)))
-        return connectLimits<DescribedInteger, int64_t>(item, toInt);
-    if (give(dynamic_cast<DescribedFloat *>(item.node)))
-        return connectLimits<DescribedFloat, double>(item, toReal);
-    if (give(dynamic_cast<DescribedEnumeration *>(item.node)))
-        return;
-    if (auto *boolean = dynamic_cast<DescribedBoolean *>(item.node)) {
+    if (auto *integer = dynamic_cast<DescribedInteger *>(links.node)) {
+        give(*integer);
+        connectLimits(links, *integer, toInt);
+    } else if (auto *real = dynamic_cast<DescribedFloat *>(links.node)) {
+        give(*real);
+        connectLimits(links, *real, toReal);
+    } else if (auto *enumeration = dynamic_cast<DescribedEnumeration *>(links.node)) {
+        give(*enumeration);
+    } else if (auto *boolean = dynamic_cast<DescribedBoolean *>(links.node)) {
         boolean->onValue = toInt(description.text("OnValue", "1"));
         boolean->offValue = toInt(description.text("OffValue", "0"));
-        give(boolean);
+        give(*boolean);
+    } else if (auto *command = dynamic_cast<DescribedCommand *>(links.node)) {
+        if (const DescriptionProperty *value = description.find("CommandValue"))
+            command->commandValue.value = toInt(value->text);
+        command->commandValue.node = nodeReferencedBy(links, "pCommandValue");
+        give(*command);
+    } else if (auto *text = dynamic_cast<DescribedString *>(links.node)) {
+        connectString(links, *text);
+    }
+}
+
+void NodeMapBuilder::connectString(NodeLinks &links, DescribedString &node)
+{
+    if (const DescriptionProperty *value = links.description->find("Value"))
+        node.constant = std::string(value->text);
+    NodeLinks *value = referencedBy(links, "pValue");
+    if (!value)
+        return;
+    node.reference = dynamic_cast<StringNode *>(value->node);
+    if (!node.reference) {
+        links.isUnusable = true;
         return;
     }
-    if (auto *command = dynamic_cast<DescribedCommand *>(item.node)) {
-        if (description.find("CommandValue"))
-            command->commandValue.value = toInt(description.text("CommandValue"));
-        command->commandValue.node = referenced(item, "pCommandValue");
-        give(command);
-        return;
-    }
-    if (auto *text = dynamic_cast<DescribedString *>(item.node)) {
-        if (const DescriptionProperty *value = description.find("Value"))
-            text->constant = value->text;
-        Node *value = referenced(item, "pValue");
-        text->reference = dynamic_cast<StringNode *>(value);
-        if (value && !text->reference)
-            item.links->isUnusable = true;
-        if (text->reference) {
-            item.links->valueChildren = {value};
-            item.links->writtenChildren = {value};
-        }
-    }
-}
-
-NodeMapBuilder::Item *NodeMapBuilder::itemOf(const Node *node)
-{
-    const auto found = m_indexOf.find(node);
-    return found == m_indexOf.end() ? nullptr : &m_items[found->second];
-}
-
-const std::vector<DescriptionProperty> &NodeMapBuilder::propertiesOfItem(const Item &item)
-{
-    static const std::vector<DescriptionProperty> none;
-    return item.description ? item.description->properties : none;
-}
-
-// Circles. A node that is read in order to read itself can have no value; the engine would follow
-// the references until the stack is full.
-
-bool NodeMapBuilder::isInCircle(Item &item, std::vector<int> &states)
-{
-    enum { Unknown, Open, Fine };
-    int &state = states[m_indexOf[item.node]];
-    if (state == Open)
-        return true;
-    if (state == Fine)
-        return false;
-    state = Open;
-    bool circle = false;
-    const auto visit = [&](Node *node) {
-        Item *child = itemOf(node);
-        if (child && isInCircle(*child, states))
-            circle = true;
-    };
-    for (Node *node : item.links->valueChildren)
-        visit(node);
-    // A variable may stand for a limit of its node instead of the value.
-    for (const DescriptionProperty &property : propertiesOfItem(item)) {
-        if (property.tag != "pVariable" || property.name.find('.') == std::string::npos)
-            continue;
-        const Item *limited = itemOf(m_map.node(property.text));
-        if (!limited)
-            continue;
-        for (Node *node : limited->links->limitChildren)
-            visit(node);
-    }
-    state = Fine;
-    if (circle)
-        item.links->isUnusable = true;
-    return false;
-}
-
-void NodeMapBuilder::markCircularNodes()
-{
-    std::vector<int> states(m_items.size(), 0);
-    for (Item &item : m_items)
-        isInCircle(item, states);
-}
-
-void NodeMapBuilder::breakCategoryCircles()
-{
-    std::vector<int> states(m_items.size(), 0);
-    for (const Item &item : m_items) {
-        if (item.description->tag == "Category")
-            breakCategoryCircle(*item.description, states);
-    }
-}
-
-void NodeMapBuilder::breakCategoryCircle(const DescriptionNode &category, std::vector<int> &states)
-{
-    enum { Unknown, Open, Done };
-    const auto stateOf = [&](const std::string &name) -> int & {
-        return states[m_indexOf[m_map.node(name)]];
-    };
-    if (stateOf(category.name) != Unknown)
-        return;
-    stateOf(category.name) = Open;
-    for (const DescriptionProperty &property : category.properties) {
-        if (property.tag != "pFeature")
-            continue;
-        const auto child = m_described.find(property.text);
-        if (child == m_described.end() || child->second->tag != "Category")
-            continue;
-        if (stateOf(property.text) == Open)
-            m_droppedFeatures.emplace_back(category.name, property.text);
-        else
-            breakCategoryCircle(*child->second, states);
-    }
-    stateOf(category.name) = Done;
-}
-
-void NodeMapBuilder::spreadUnusable()
-{
-    // What is computed from something unusable is unusable too.
-    bool changed = true;
-    while (changed) {
-        changed = false;
-        for (Item &item : m_items) {
-            if (item.links->isUnusable)
-                continue;
-            for (Node *node : item.links->valueChildren) {
-                const Item *child = itemOf(node);
-                if (child && child->links->isUnusable) {
-                    item.links->isUnusable = true;
-                    changed = true;
-                    break;
-                }
-            }
-        }
-    }
-}
-
-std::vector<Node *> NodeMapBuilder::registersBehind(const std::vector<Node *> &nodes)
-{
-    std::vector<Node *> registers;
-    std::vector<Node *> pending = nodes;
-    std::set<const Node *> seen;
-    while (!pending.empty()) {
-        Node *node = pending.back();
-        pending.pop_back();
-        if (!seen.insert(node).second)
-            continue;
-        const NodeLinks &links = *itemOf(node)->links;
-        if (links.isUnusable)
-            continue;
-        if (links.reg)
-            registers.push_back(node);
-        pending.insert(pending.end(), links.valueChildren.begin(), links.valueChildren.end());
-    }
-    return registers;
-}
-
-bool NodeMapBuilder::readsUncachable(const std::vector<Node *> &nodes)
-{
-    const std::vector<Node *> registers = registersBehind(nodes);
-    return std::any_of(registers.begin(), registers.end(),
-                       [this](Node *node) { return !itemOf(node)->links->reg->isCachable(); });
-}
-
-void NodeMapBuilder::finish(Item &item)
-{
-    NodeLinks &links = *item.links;
-    links.written = {item.node};
-    links.terminals = {item.node};
-    if (links.isUnusable)
-        return;
-
-    for (std::size_t i = 0; i < links.written.size(); ++i) {
-        const Item *written = itemOf(links.written[i]);
-        for (Node *child : written->links->writtenChildren) {
-            if (std::find(links.written.begin(), links.written.end(), child) == links.written.end())
-                links.written.push_back(child);
-        }
-    }
-
-    for (Node *node : registersBehind({item.node})) {
-        if (node != item.node)
-            links.terminals.push_back(node);
-    }
-    links.isValueCachable = !readsUncachable({item.node});
-    links.areLimitsCachable = !readsUncachable(links.limitChildren) && links.isValueCachable;
-
-    std::vector<Node *> predicates;
-    for (const Node *node = item.node; node;) {
-        const NodeLinks &current = *itemOf(node)->links;
-        for (Node *predicate : {current.isImplemented, current.isAvailable, current.isLocked}) {
-            if (predicate)
-                predicates.push_back(predicate);
-        }
-        node = current.writtenChildren.empty() ? nullptr : current.writtenChildren.front();
-    }
-    links.isAccessCachable = !readsUncachable(predicates);
+    links.valueChildren = {value};
+    links.writtenChildren = {value};
 }
 
 } // namespace OrvDescription

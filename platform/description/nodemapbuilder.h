@@ -4,9 +4,12 @@
 #include "describednodes.h"
 #include "description.h"
 #include "nodemap.h"
+#include "referencegraph.h"
 
-#include <string>
+#include <set>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace OrvDescription {
@@ -16,60 +19,67 @@ namespace OrvDescription {
 class NodeMapBuilder
 {
 public:
-    NodeMapBuilder(NodeMap &map, const Description &description);
+    explicit NodeMapBuilder(NodeMap &map);
 
-    /// Throws `RuntimeException` when there is no root category.
-    void build(const std::string &source);
+    void build();
 
 private:
-    struct Item
-    {
-        const DescriptionNode *description = nullptr;
-        OrvGenApi::Node *node = nullptr;
-        NodeLinks *links = nullptr;
-    };
+    using Properties = std::vector<DescriptionProperty>;
 
-    NodeLinks &newLinks();
+    NodeLinks &newLinks(const DescriptionNode *description);
     void makeNode(const DescriptionNode &description);
     std::unique_ptr<OrvGenApi::Node> newNode(const DescriptionNode &description, NodeLinks &links);
-    ArvGcNode *engineNode(const DescriptionNode &description) const;
+    void adopt(NodeLinks &links, std::unique_ptr<OrvGenApi::Node> node);
+    NodeLinks *linksOf(std::string_view name) const;
 
-    OrvGenApi::Node *referenced(Item &item, const std::string &name);
-    OrvGenApi::Node *referenced(Item &item, const char *tag);
-    std::vector<OrvGenApi::Node *> referencedAll(Item &item, const char *tag);
+    // A name that leads nowhere makes the node that refers to it unusable.
+    NodeLinks *referenced(NodeLinks &links, std::string_view name);
+    NodeLinks *referencedBy(NodeLinks &links, std::string_view tag);
+    OrvGenApi::Node *nodeReferencedBy(NodeLinks &links, std::string_view tag);
 
-    void connect(Item &item);
-    void connectRegister(Item &item);
-    void connectNumber(Item &item);
-    void connectEntry(Item &item);
-    void connectCategory(Item &item);
-    void connectDependencies(Item &item);
-    void connectPredicates(Item &item);
-    std::unique_ptr<NumberSource> newSource(Item &item);
-    std::unique_ptr<NumberSource> newIndexedSource(Item &item);
-    std::unique_ptr<NumberSource> newFormulaSource(Item &item);
-    std::unique_ptr<NumberSource> newConverterSource(Item &item);
-    std::unique_ptr<Formula> newFormula(Item &item, const char *tag, const char *input);
+    void connect(NodeLinks &links);
+    void connectRegister(NodeLinks &links);
+    void connectPlace(NodeLinks &links, RegisterPlace &place);
+    void connectIndex(NodeLinks &links, RegisterPlace &place, const DescriptionProperty &property);
+    void connectNumber(NodeLinks &links);
+    void connectString(NodeLinks &links, DescribedString &node);
+    void connectEntry(NodeLinks &links);
+    void connectCategory(NodeLinks &links);
+    void connectDependencies(NodeLinks &links, const Properties &properties);
+    void connectPredicates(NodeLinks &links);
+    std::unique_ptr<NumberSource> newSource(NodeLinks &links);
+    std::unique_ptr<NumberSource> newReferenceSource(NodeLinks &links);
+    std::unique_ptr<NumberSource> newIndexedSource(NodeLinks &links);
+    std::unique_ptr<NumberSource> newFormulaSource(NodeLinks &links);
+    std::unique_ptr<NumberSource> newConverterSource(NodeLinks &links);
+    std::vector<OrvGenApi::Node *> connectVariables(NodeLinks &links, const Properties &properties);
+    std::unique_ptr<NodeFormula> newFormula(NodeLinks &links, std::string_view text,
+                                            const Properties &properties,
+                                            const std::vector<OrvGenApi::Node *> &variables,
+                                            std::string_view input = {});
     template<typename Described, typename T>
-    void connectLimits(Item &item, T (*parse)(const std::string &));
+    void connectLimits(NodeLinks &links, Described &node, T (*parse)(std::string_view));
 
-    void markCircularNodes();
-    bool isInCircle(Item &item, std::vector<int> &states);
+    struct CategoryState;
     void breakCategoryCircles();
-    void breakCategoryCircle(const DescriptionNode &category, std::vector<int> &states);
-    void spreadUnusable();
-    void finish(Item &item);
-    std::vector<OrvGenApi::Node *> registersBehind(const std::vector<OrvGenApi::Node *> &nodes);
-    bool readsUncachable(const std::vector<OrvGenApi::Node *> &nodes);
-    Item *itemOf(const OrvGenApi::Node *node);
-    static const std::vector<DescriptionProperty> &propertiesOfItem(const Item &item);
+    void breakCategoryCircles(const NodeLinks &first, std::vector<CategoryState> &states);
+
+    /// A formula takes a limit of a node.
+    struct LimitRead
+    {
+        NodeLinks *reader;
+        NodeLinks *limited;
+        std::string_view which;
+    };
+
+    void addLimitsRead(ReferenceGraph &graph, const LimitRead &read) const;
 
     NodeMap &m_map;
     const Description &m_description;
-    std::vector<Item> m_items;
-    std::unordered_map<const OrvGenApi::Node *, std::size_t> m_indexOf;
-    std::unordered_map<std::string, const DescriptionNode *> m_described;
-    std::vector<std::pair<std::string, std::string>> m_droppedFeatures; ///< category, feature
+    std::unordered_map<std::string_view, NodeLinks *> m_byName;
+    std::vector<LimitRead> m_limitsRead;
+    std::set<std::pair<std::string_view, std::string_view>>
+        m_droppedFeatures; ///< category, feature
 };
 
 } // namespace OrvDescription

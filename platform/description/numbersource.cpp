@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "numbersource.h"
 
-#include "errors.h"
 #include "rawvalue.h"
+#include "referenceguard.h"
 
 #include <genapi/nodes/floatnode.h>
 #include <genapi/nodes/integernode.h>
-
-#include <arv.h>
 
 #include <algorithm>
 #include <cfloat>
@@ -39,67 +37,17 @@ bool NumberSource::hasValue()
     return true;
 }
 
-// ConstantSource
-
-ConstantSource::ConstantSource(ArvGcNode *engineNode, std::string name)
-    : m_engineNode(engineNode), m_name(std::move(name))
-{
-}
-
-int64_t ConstantSource::integer()
-{
-    GError *error = nullptr;
-    int64_t value = 0;
-    if (ARV_IS_GC_BOOLEAN(m_engineNode))
-        value = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(m_engineNode), &error);
-    else if (ARV_IS_GC_ENUMERATION(m_engineNode))
-        value = arv_gc_enumeration_get_int_value(ARV_GC_ENUMERATION(m_engineNode), &error);
-    else if (ARV_IS_GC_INTEGER(m_engineNode))
-        value = arv_gc_integer_get_value(ARV_GC_INTEGER(m_engineNode), &error);
-    else
-        return toInteger(real());
-    throwIfFailed(error, m_name);
-    return value;
-}
-
-double ConstantSource::real()
-{
-    if (!ARV_IS_GC_FLOAT(m_engineNode))
-        return static_cast<double>(integer());
-    GError *error = nullptr;
-    const double value = arv_gc_float_get_value(ARV_GC_FLOAT(m_engineNode), &error);
-    throwIfFailed(error, m_name);
-    return value;
-}
-
-void ConstantSource::setInteger(int64_t value)
-{
-    GError *error = nullptr;
-    if (ARV_IS_GC_BOOLEAN(m_engineNode))
-        arv_gc_boolean_set_value(ARV_GC_BOOLEAN(m_engineNode), value != 0, &error);
-    else if (ARV_IS_GC_ENUMERATION(m_engineNode))
-        arv_gc_enumeration_set_int_value(ARV_GC_ENUMERATION(m_engineNode), value, &error);
-    else if (ARV_IS_GC_INTEGER(m_engineNode))
-        arv_gc_integer_set_value(ARV_GC_INTEGER(m_engineNode), value, &error);
-    else
-        return setReal(static_cast<double>(value));
-    throwIfFailed(error, m_name);
-}
-
-void ConstantSource::setReal(double value)
-{
-    if (!ARV_IS_GC_FLOAT(m_engineNode))
-        return setInteger(toInteger(value));
-    GError *error = nullptr;
-    arv_gc_float_set_value(ARV_GC_FLOAT(m_engineNode), value, &error);
-    throwIfFailed(error, m_name);
-}
-
 // ReferenceSource
 
 ReferenceSource::ReferenceSource(Node &node, std::vector<Node *> copies)
     : m_node(node), m_copies(std::move(copies))
 {
+}
+
+EAccessMode ReferenceSource::accessMode()
+{
+    const ReferenceGuard guard;
+    return m_node.GetAccessMode();
 }
 
 int64_t ReferenceSource::integer()
@@ -114,20 +62,25 @@ double ReferenceSource::real()
 
 void ReferenceSource::setInteger(int64_t value)
 {
-    setRawInteger(m_node, value);
+    Gather gather;
+    gather([&] { setRawInteger(m_node, value); });
     for (Node *copy : m_copies)
-        setRawInteger(*copy, value);
+        gather([&] { setRawInteger(*copy, value); });
+    gather.finish();
 }
 
 void ReferenceSource::setReal(double value)
 {
-    setRawReal(m_node, value);
+    Gather gather;
+    gather([&] { setRawReal(m_node, value); });
     for (Node *copy : m_copies)
-        setRawReal(*copy, value);
+        gather([&] { setRawReal(*copy, value); });
+    gather.finish();
 }
 
 int64_t ReferenceSource::minInteger()
 {
+    const ReferenceGuard guard;
     if (auto *integerNode = dynamic_cast<IntegerNode *>(&m_node))
         return integerNode->GetMin();
     if (auto *floatNode = dynamic_cast<FloatNode *>(&m_node))
@@ -137,6 +90,7 @@ int64_t ReferenceSource::minInteger()
 
 int64_t ReferenceSource::maxInteger()
 {
+    const ReferenceGuard guard;
     if (auto *integerNode = dynamic_cast<IntegerNode *>(&m_node))
         return integerNode->GetMax();
     if (auto *floatNode = dynamic_cast<FloatNode *>(&m_node))
@@ -146,6 +100,7 @@ int64_t ReferenceSource::maxInteger()
 
 double ReferenceSource::minReal()
 {
+    const ReferenceGuard guard;
     if (auto *floatNode = dynamic_cast<FloatNode *>(&m_node))
         return floatNode->GetMin();
     if (auto *integerNode = dynamic_cast<IntegerNode *>(&m_node))
@@ -155,6 +110,7 @@ double ReferenceSource::minReal()
 
 double ReferenceSource::maxReal()
 {
+    const ReferenceGuard guard;
     if (auto *floatNode = dynamic_cast<FloatNode *>(&m_node))
         return floatNode->GetMax();
     if (auto *integerNode = dynamic_cast<IntegerNode *>(&m_node))
@@ -164,6 +120,7 @@ double ReferenceSource::maxReal()
 
 std::optional<int64_t> ReferenceSource::incInteger()
 {
+    const ReferenceGuard guard;
     auto *integerNode = dynamic_cast<IntegerNode *>(&m_node);
     if (!integerNode || integerNode->GetIncMode() != fixedIncrement)
         return std::nullopt;
@@ -172,6 +129,7 @@ std::optional<int64_t> ReferenceSource::incInteger()
 
 std::optional<double> ReferenceSource::incReal()
 {
+    const ReferenceGuard guard;
     if (auto *floatNode = dynamic_cast<FloatNode *>(&m_node)) {
         if (floatNode->GetIncMode() == fixedIncrement)
             return floatNode->GetInc();
@@ -233,8 +191,8 @@ void FixedSource::setReal(double value)
 
 // RegisterSource
 
-RegisterSource::RegisterSource(RegisterAccess &access, EAccessMode mode, bool isReal)
-    : m_access(access), m_mode(mode), m_isReal(isReal)
+RegisterSource::RegisterSource(RegisterAccess &access, bool isReal)
+    : m_access(access), m_isReal(isReal)
 {
 }
 
@@ -276,7 +234,7 @@ int64_t RegisterSource::maxInteger()
 
 double RegisterSource::minReal()
 {
-    return m_isReal ? m_access.minReal() : static_cast<double>(m_access.minInteger());
+    return m_isReal ? -m_access.maxReal() : static_cast<double>(m_access.minInteger());
 }
 
 double RegisterSource::maxReal()
@@ -286,12 +244,9 @@ double RegisterSource::maxReal()
 
 // FormulaSource
 
-FormulaSource::FormulaSource(std::unique_ptr<Formula> formula, std::vector<Node *> variables,
-                             bool canFail, bool isInteger)
-    : m_formula(std::move(formula))
-    , m_variables(std::move(variables))
-    , m_canFail(canFail)
-    , m_isInteger(isInteger)
+FormulaSource::FormulaSource(std::unique_ptr<NodeFormula> formula, std::vector<Node *> variables,
+                             bool isInteger)
+    : m_formula(std::move(formula)), m_variables(std::move(variables)), m_isInteger(isInteger)
 {
 }
 
@@ -307,12 +262,18 @@ double FormulaSource::real()
 
 EAccessMode FormulaSource::accessMode()
 {
+    const ReferenceGuard guard;
+    bool areReadable = true;
+    Gather gather;
     for (Node *variable : m_variables) {
-        if (variable->GetPrincipalInterfaceType() != intfIEnumEntry &&
-            !IsReadable(variable->GetAccessMode()))
-            return NA;
+        if (variable->GetPrincipalInterfaceType() == intfIEnumEntry)
+            continue;
+        gather([&] { areReadable = areReadable && IsReadable(variable->GetAccessMode()); });
     }
-    if (!m_canFail)
+    if (!areReadable)
+        return NA;
+    gather.finish();
+    if (!m_formula->canFail())
         return RO;
     return hasValue() ? RO : NA;
 }
@@ -329,59 +290,60 @@ void FormulaSource::setReal(double)
 
 // ConverterSource
 
-ConverterSource::ConverterSource(Node &node, std::unique_ptr<Formula> from,
-                                 std::unique_ptr<Formula> to, Slope slope, bool isLinear,
-                                 bool isInteger, bool canFail)
+ConverterSource::ConverterSource(Node &node, std::unique_ptr<NodeFormula> from,
+                                 std::unique_ptr<NodeFormula> to, Slope slope, bool isLinear,
+                                 bool isInteger)
     : m_node(node)
     , m_from(std::move(from))
     , m_to(std::move(to))
     , m_slope(slope)
     , m_isLinear(isLinear)
     , m_isInteger(isInteger)
-    , m_canFail(canFail)
 {
 }
 
 EAccessMode ConverterSource::accessMode()
 {
+    const ReferenceGuard guard;
     const EAccessMode mode = m_node.GetAccessMode();
-    if (!m_canFail || !IsReadable(mode) || hasValue())
+    if (!m_from->canFail() || !IsReadable(mode) || hasValue())
         return mode;
     return mode == RW ? WO : NA; // writing may give it a value again
 }
 
 int64_t ConverterSource::integer()
 {
-    return m_isInteger ? m_from->integer("TO", rawInteger(m_node)) : toInteger(real());
+    return m_isInteger ? m_from->integer([this] { return FormulaNumber(rawInteger(m_node)); })
+                       : toInteger(real());
 }
 
 double ConverterSource::real()
 {
-    return m_isInteger ? static_cast<double>(integer()) : m_from->real("TO", rawReal(m_node));
+    return m_isInteger ? static_cast<double>(integer())
+                       : m_from->real([this] { return FormulaNumber(rawReal(m_node)); });
 }
 
 void ConverterSource::setInteger(int64_t value)
 {
-    if (m_isInteger)
-        setRawInteger(m_node, m_to->integer("FROM", value));
-    else
-        setReal(static_cast<double>(value));
+    if (!m_isInteger)
+        return setReal(static_cast<double>(value));
+    setRawInteger(m_node, m_to->integer([value] { return FormulaNumber(value); }));
 }
 
 void ConverterSource::setReal(double value)
 {
     if (m_isInteger)
-        setInteger(toInteger(value));
-    else
-        setRawReal(m_node, m_to->real("FROM", value));
+        return setInteger(toInteger(value));
+    setRawReal(m_node, m_to->real([value] { return FormulaNumber(value); }));
 }
 
 std::optional<double> ConverterSource::converted(double rawValue)
 {
     try {
         const double value = m_isInteger
-                                 ? static_cast<double>(m_from->integer("TO", toInteger(rawValue)))
-                                 : m_from->real("TO", rawValue);
+                                 ? static_cast<double>(m_from->integer(
+                                       [rawValue] { return FormulaNumber(toInteger(rawValue)); }))
+                                 : m_from->real([rawValue] { return FormulaNumber(rawValue); });
         return std::isfinite(value) ? std::optional<double>(value) : std::nullopt;
     } catch (const GenICam::RuntimeException &) {
         return std::nullopt; // such as a reciprocal at 0: no limit on that side
@@ -394,8 +356,12 @@ std::pair<double, double> ConverterSource::limits()
     if (m_slope == Slope::Varying)
         return none;
     ReferenceSource raw(m_node, {});
-    const auto first = converted(raw.minReal());
-    const auto last = converted(raw.maxReal());
+    std::optional<double> first;
+    std::optional<double> last;
+    Gather gather;
+    gather([&] { first = converted(raw.minReal()); });
+    gather([&] { last = converted(raw.maxReal()); });
+    gather.finish();
     bool decreasing = m_slope == Slope::Decreasing;
     if (m_slope == Slope::Automatic)
         decreasing = first && last && *first > *last;

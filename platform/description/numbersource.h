@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "formula.h"
+#include "nodeformula.h"
 #include "registeraccess.h"
 
 #include <genapi/nodes/node.h>
@@ -15,7 +15,7 @@
 namespace OrvDescription {
 
 /// Where the number behind an integer, float, boolean, enumeration or command node comes from.
-/// Values are unchecked; the caller holds the node map's lock.
+/// Values are unchecked; a question to the node map is being answered.
 class NumberSource
 {
 public:
@@ -44,30 +44,13 @@ protected:
     bool hasValue();
 };
 
-/// A number that the description states. It is kept in the engine, where formulas see it.
-class ConstantSource : public NumberSource
-{
-public:
-    ConstantSource(ArvGcNode *engineNode, std::string name);
-
-    GenApi::EAccessMode accessMode() override { return GenApi::RW; }
-    int64_t integer() override;
-    double real() override;
-    void setInteger(int64_t value) override;
-    void setReal(double value) override;
-
-private:
-    ArvGcNode *m_engineNode;
-    std::string m_name;
-};
-
 /// The number of another node, and of others that get a copy when it is written.
 class ReferenceSource : public NumberSource
 {
 public:
     ReferenceSource(OrvGenApi::Node &node, std::vector<OrvGenApi::Node *> copies);
 
-    GenApi::EAccessMode accessMode() override { return m_node.GetAccessMode(); }
+    GenApi::EAccessMode accessMode() override;
     int64_t integer() override;
     double real() override;
     void setInteger(int64_t value) override;
@@ -115,11 +98,11 @@ private:
     std::unique_ptr<NumberSource> m_default;
 };
 
-/// A number that an indexed node states for one index.
+/// A number that the description states.
 class FixedSource : public NumberSource
 {
 public:
-    explicit FixedSource(double value, int64_t integer);
+    FixedSource(double value, int64_t integer);
 
     GenApi::EAccessMode accessMode() override { return GenApi::RW; }
     int64_t integer() override { return m_integer; }
@@ -136,9 +119,9 @@ private:
 class RegisterSource : public NumberSource
 {
 public:
-    RegisterSource(RegisterAccess &access, GenApi::EAccessMode mode, bool isReal);
+    RegisterSource(RegisterAccess &access, bool isReal);
 
-    GenApi::EAccessMode accessMode() override { return m_mode; }
+    GenApi::EAccessMode accessMode() override { return m_access.accessMode(); }
     int64_t integer() override;
     double real() override;
     void setInteger(int64_t value) override;
@@ -150,7 +133,6 @@ public:
 
 private:
     RegisterAccess &m_access;
-    GenApi::EAccessMode m_mode;
     bool m_isReal;
 };
 
@@ -158,8 +140,9 @@ private:
 class FormulaSource : public NumberSource
 {
 public:
-    FormulaSource(std::unique_ptr<Formula> formula, std::vector<OrvGenApi::Node *> variables,
-                  bool canFail, bool isInteger);
+    /// `isInteger` says what the formula computes with.
+    FormulaSource(std::unique_ptr<NodeFormula> formula, std::vector<OrvGenApi::Node *> variables,
+                  bool isInteger);
 
     GenApi::EAccessMode accessMode() override;
     int64_t integer() override;
@@ -168,9 +151,8 @@ public:
     void setReal(double value) override;
 
 private:
-    std::unique_ptr<Formula> m_formula;
+    std::unique_ptr<NodeFormula> m_formula;
     std::vector<OrvGenApi::Node *> m_variables;
-    bool m_canFail;
     bool m_isInteger;
 };
 
@@ -181,9 +163,8 @@ public:
     enum class Slope { Increasing, Decreasing, Varying, Automatic };
 
     /// `isInteger` says what the formulas compute with.
-    ConverterSource(OrvGenApi::Node &node, std::unique_ptr<Formula> from,
-                    std::unique_ptr<Formula> to, Slope slope, bool isLinear, bool isInteger,
-                    bool canFail);
+    ConverterSource(OrvGenApi::Node &node, std::unique_ptr<NodeFormula> from,
+                    std::unique_ptr<NodeFormula> to, Slope slope, bool isLinear, bool isInteger);
 
     GenApi::EAccessMode accessMode() override;
     int64_t integer() override;
@@ -201,12 +182,11 @@ private:
     std::optional<double> converted(double rawValue);
 
     OrvGenApi::Node &m_node;
-    std::unique_ptr<Formula> m_from;
-    std::unique_ptr<Formula> m_to;
+    std::unique_ptr<NodeFormula> m_from;
+    std::unique_ptr<NodeFormula> m_to;
     Slope m_slope;
     bool m_isLinear;
     bool m_isInteger;
-    bool m_canFail;
 };
 
 } // namespace OrvDescription

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "rawvalue.h"
 
+#include "referenceguard.h"
+
 #include <genapi/nodes/booleannode.h>
 #include <genapi/nodes/enumerationnode.h>
 #include <genapi/nodes/floatnode.h>
@@ -41,6 +43,7 @@ bool isReal(const Node &node)
 
 int64_t rawInteger(Node &node)
 {
+    const ReferenceGuard guard;
     switch (node.GetPrincipalInterfaceType()) {
     case GenApi::intfIInteger:
         return dynamic_cast<IntegerNode &>(node).unverifiedValue();
@@ -59,13 +62,15 @@ int64_t rawInteger(Node &node)
 
 double rawReal(Node &node)
 {
-    if (isReal(node))
-        return dynamic_cast<FloatNode &>(node).unverifiedValue();
-    return static_cast<double>(rawInteger(node));
+    if (!isReal(node))
+        return static_cast<double>(rawInteger(node));
+    const ReferenceGuard guard;
+    return dynamic_cast<FloatNode &>(node).unverifiedValue();
 }
 
 void setRawInteger(Node &node, int64_t value)
 {
+    const ReferenceGuard guard;
     switch (node.GetPrincipalInterfaceType()) {
     case GenApi::intfIInteger:
         return dynamic_cast<IntegerNode &>(node).storeUnverified(value);
@@ -82,10 +87,10 @@ void setRawInteger(Node &node, int64_t value)
 
 void setRawReal(Node &node, double value)
 {
-    if (isReal(node))
-        dynamic_cast<FloatNode &>(node).storeUnverified(value);
-    else
-        setRawInteger(node, toInteger(value));
+    if (!isReal(node))
+        return setRawInteger(node, toInteger(value));
+    const ReferenceGuard guard;
+    dynamic_cast<FloatNode &>(node).storeUnverified(value);
 }
 
 } // namespace OrvDescription

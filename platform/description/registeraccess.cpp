@@ -1,197 +1,211 @@
 // SPDX-License-Identifier: MIT
 #include "registeraccess.h"
 
-#include "errors.h"
-#include "rawvalue.h"
-
 #include <Base/GCException.h>
 
-#include <arv.h>
+#include <cameraio/limits.h>
 
-#include <type_traits>
+#include <algorithm>
+
+using namespace OrvGenApi;
+using OrvCameraIo::RegisterIo;
+using OrvCameraIo::Status;
+using OrvDescription::RegisterCodec::Bytes;
+using OrvDescription::RegisterCodec::Format;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvDescription {
 
 namespace {
 
-/// No camera has a register nearly as long.
-constexpr int64_t maxLength = 16 << 20;
+/// What was read so long ago is new enough for those who only look at it.
+constexpr std::chrono::milliseconds lookedAtAge{1000};
 
 } // namespace
 
-RegisterAccess::RegisterAccess(ArvGcNode *engineNode, RegisterCache &cache, std::string name,
-                               GenApi::ECachingMode mode)
-    : m_engineNode(engineNode), m_cache(cache), m_name(std::move(name)), m_mode(mode)
+void throwFailure(Status status, std::string_view node)
 {
-}
-
-void RegisterAccess::setAddressSources(std::vector<OrvGenApi::Node *> nodes)
-{
-    m_addressSources = std::move(nodes);
-}
-
-template<typename Call>
-auto RegisterAccess::checked(Call call)
-{
-    GError *error = nullptr;
-    if constexpr (std::is_void_v<decltype(call(&error))>) {
-        call(&error);
-        throwIfFailed(error, m_name);
-    } else {
-        auto result = call(&error);
-        throwIfFailed(error, m_name);
-        return result;
+    const auto text = [&](const char *what) { return std::string(node) + ": " + what; };
+    switch (status) {
+    case Status::NotSent:
+    case Status::NoAnswer:
+        throw GenICam::TimeoutException(text("the camera does not answer").c_str(), __FILE__,
+                                        __LINE__);
+    case Status::AccessDenied:
+        throw GenICam::AccessException(text("the camera denies access").c_str(), __FILE__,
+                                       __LINE__);
+    case Status::InvalidParameter:
+        throw GenICam::OutOfRangeException(text("the camera does not take the value").c_str(),
+                                           __FILE__, __LINE__);
+    case Status::InvalidAddress:
+        throw GenICam::RuntimeException(text("the camera has no such register").c_str(), __FILE__,
+                                        __LINE__);
+    case Status::Closed:
+        throw GenICam::RuntimeException(text("the connection has ended").c_str(), __FILE__,
+                                        __LINE__);
+    default:
+        throw GenICam::RuntimeException(text("the camera reports a failure").c_str(), __FILE__,
+                                        __LINE__);
     }
 }
 
-void RegisterAccess::prepare(int64_t minLength)
+RegisterAccess::RegisterAccess(const NodeMapBase &map, RegisterIo &io, std::string_view name,
+                               GenApi::ECachingMode mode, GenApi::EAccessMode access)
+    : m_map(map), m_io(io), m_name(name), m_mode(mode), m_access(access)
 {
-    // The engine computes the address by itself, but it takes a formula that fails for 0 and knows
-    // nothing of what is outdated: compute everything that the address depends on beforehand.
-    for (OrvGenApi::Node *node : m_addressSources)
-        rawInteger(*node);
-    // It takes a buffer as long as the register, too, and ends the program when there is none.
-    const int64_t size = length();
-    if (size < minLength || size > maxLength)
-        throw GenICam::OutOfRangeException(
-            (m_name + ": a register of " + std::to_string(size) + " bytes").c_str(), __FILE__,
-            __LINE__);
-    if (!isCachable())
-        markStale();
-    if (m_staleSince == 0)
-        return;
-    const auto address = checked([&](GError **error) {
-        return arv_gc_register_get_address(ARV_GC_REGISTER(m_engineNode), error);
-    });
-    m_cache.forget(address, static_cast<uint64_t>(size), m_staleSince);
-    m_staleSince = 0;
 }
 
-void RegisterAccess::written()
+Question &RegisterAccess::question() const
 {
-    if (m_mode != GenApi::WriteThrough)
-        markStale();
+    Question *question = Question::current(m_map);
+    if (!question)
+        throw GenICam::LogicalErrorException(
+            (std::string(m_name) + ": the register is used outside of a question").c_str(),
+            __FILE__, __LINE__);
+    return *question;
+}
+
+RegisterIo::Known RegisterAccess::look(const RegisterRange &range, Question &question) const
+{
+    if (isCachable())
+        return m_io.look(range, m_staleSince);
+    if (question.kind() == Question::Kind::Looking) {
+        RegisterIo::Known known = m_io.look(range, m_staleSince, lookedAtAge);
+        if (known.isKnown || question.askedAt == 0)
+            return known;
+    }
+    if (question.askedAt == 0)
+        question.askedAt = m_io.now();
+    return m_io.look(range, std::max(m_staleSince, question.askedAt));
+}
+
+Bytes RegisterAccess::read(const RegisterRange &range)
+{
+    if (range.size == 0)
+        return {};
+    Question &asked = question();
+    RegisterIo::Known known = look(range, asked);
+    if (!known.isKnown) {
+        asked.missing.push_back(range);
+        throw NotYetKnown();
+    }
+    m_wasUnanswered = !isAnswer(known.status);
+    if (known.status != Status::Done)
+        throwFailure(known.status, m_name);
+    return std::move(known.bytes);
+}
+
+void RegisterAccess::write(uint64_t address, Bytes bytes, Bytes mask)
+{
+    RegisterWrite write;
+    write.address = address;
+    write.bytes = std::move(bytes);
+    write.mask = std::move(mask);
+    write.staleSince = isCachable() ? m_staleSince : m_io.now();
+    write.isWriteOnly = m_access == GenApi::WO;
+    write.isKept = m_mode == GenApi::WriteThrough;
+    write.node = m_name;
+    question().writes.push_back(std::move(write));
+}
+
+/// Registers that are transferred as numbers have the byte order of the transport.
+Format RegisterAccess::formatOf(uint32_t size) const
+{
+    Format result = format;
+    if (size == 4 && m_io.isWordNumber())
+        result.isBigEndian = true;
+    return result;
 }
 
 int64_t RegisterAccess::integer()
 {
-    prepare();
-    return checked([&](GError **error) {
-        return arv_gc_integer_get_value(ARV_GC_INTEGER(m_engineNode), error);
-    });
+    const RegisterRange range = place.range(m_name);
+    return RegisterCodec::integer(read(range), formatOf(range.size));
 }
 
 double RegisterAccess::real()
 {
-    prepare();
-    return checked(
-        [&](GError **error) { return arv_gc_float_get_value(ARV_GC_FLOAT(m_engineNode), error); });
+    const RegisterRange range = place.range(m_name);
+    return RegisterCodec::real(read(range), formatOf(range.size).isBigEndian);
 }
 
 std::string RegisterAccess::text()
 {
-    prepare();
-    const char *value = checked([&](GError **error) {
-        return arv_gc_string_get_value(ARV_GC_STRING(m_engineNode), error);
-    });
-    return value ? value : "";
+    return RegisterCodec::text(firstBytes(Limits::textSize));
 }
 
-std::vector<uint8_t> RegisterAccess::bytes()
+Bytes RegisterAccess::bytes()
 {
-    prepare(0);
-    std::vector<uint8_t> result(static_cast<std::size_t>(length()));
-    if (result.empty())
-        return result;
-    checked([&](GError **error) {
-        arv_gc_register_get(ARV_GC_REGISTER(m_engineNode), result.data(), result.size(), error);
-    });
-    return result;
+    return read(place.range(m_name, 0));
+}
+
+Bytes RegisterAccess::firstBytes(int64_t count)
+{
+    RegisterRange range = place.range(m_name);
+    range.size = static_cast<uint32_t>(std::min<int64_t>(range.size, count));
+    return read(range);
 }
 
 void RegisterAccess::setInteger(int64_t value)
 {
-    prepare();
-    checked([&](GError **error) {
-        arv_gc_integer_set_value(ARV_GC_INTEGER(m_engineNode), value, error);
-    });
-    written();
+    const RegisterRange range = place.range(m_name);
+    const Format used = formatOf(range.size);
+    write(range.address, RegisterCodec::bytesOfInteger(value, range.size, used),
+          RegisterCodec::mask(range.size, used));
 }
 
 void RegisterAccess::setReal(double value)
 {
-    prepare();
-    checked(
-        [&](GError **error) { arv_gc_float_set_value(ARV_GC_FLOAT(m_engineNode), value, error); });
-    written();
+    const RegisterRange range = place.range(m_name);
+    write(range.address,
+          RegisterCodec::bytesOfReal(value, range.size, formatOf(range.size).isBigEndian), {});
 }
 
 void RegisterAccess::setText(const std::string &value)
 {
-    prepare();
-    checked([&](GError **error) {
-        arv_gc_string_set_value(ARV_GC_STRING(m_engineNode), value.c_str(), error);
-    });
-    written();
+    const RegisterRange range = place.range(m_name);
+    const auto size = std::min<int64_t>(range.size, Limits::textSize);
+    if (static_cast<int64_t>(value.size()) > size)
+        throw GenICam::OutOfRangeException(
+            (std::string(m_name) + ": the text is longer than " + std::to_string(size) + " bytes")
+                .c_str(),
+            __FILE__, __LINE__);
+    write(range.address, RegisterCodec::bytesOfText(value, static_cast<std::size_t>(size)), {});
 }
 
-void RegisterAccess::setBytes(const std::vector<uint8_t> &bytes)
+void RegisterAccess::setBytes(const Bytes &bytes)
 {
+    const RegisterRange range = place.range(m_name, 0);
     if (bytes.empty())
         return;
-    prepare();
-    checked([&](GError **error) {
-        arv_gc_register_set(ARV_GC_REGISTER(m_engineNode), bytes.data(), bytes.size(), error);
-    });
-    written();
+    Bytes contents = bytes;
+    Bytes mask;
+    if (bytes.size() < range.size) {
+        mask.assign(bytes.size(), 0xff);
+        mask.resize(range.size);
+    }
+    contents.resize(range.size);
+    write(range.address, std::move(contents), std::move(mask));
 }
 
-int64_t RegisterAccess::minInteger()
+int64_t RegisterAccess::minInteger() const
 {
-    return checked([&](GError **error) {
-        return arv_gc_integer_get_min(ARV_GC_INTEGER(m_engineNode), error);
-    });
+    return RegisterCodec::smallestInteger(place.length(m_name), format);
 }
 
-int64_t RegisterAccess::maxInteger()
+int64_t RegisterAccess::maxInteger() const
 {
-    return checked([&](GError **error) {
-        return arv_gc_integer_get_max(ARV_GC_INTEGER(m_engineNode), error);
-    });
+    return RegisterCodec::largestInteger(place.length(m_name), format);
 }
 
-double RegisterAccess::minReal()
+double RegisterAccess::maxReal() const
 {
-    return checked(
-        [&](GError **error) { return arv_gc_float_get_min(ARV_GC_FLOAT(m_engineNode), error); });
+    return RegisterCodec::largestReal(place.length(m_name));
 }
 
-double RegisterAccess::maxReal()
+int64_t RegisterAccess::length() const
 {
-    return checked(
-        [&](GError **error) { return arv_gc_float_get_max(ARV_GC_FLOAT(m_engineNode), error); });
-}
-
-int64_t RegisterAccess::maxTextLength()
-{
-    return checked([&](GError **error) {
-        return arv_gc_string_get_max_length(ARV_GC_STRING(m_engineNode), error);
-    });
-}
-
-int64_t RegisterAccess::address()
-{
-    prepare(0);
-    return static_cast<int64_t>(checked([&](GError **error) {
-        return arv_gc_register_get_address(ARV_GC_REGISTER(m_engineNode), error);
-    }));
-}
-
-int64_t RegisterAccess::length()
-{
-    return static_cast<int64_t>(checked([&](GError **error) {
-        return arv_gc_register_get_length(ARV_GC_REGISTER(m_engineNode), error);
-    }));
+    return place.length(m_name, 0);
 }
 
 } // namespace OrvDescription

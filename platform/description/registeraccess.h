@@ -1,62 +1,81 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "registercache.h"
+#include "registercodec.h"
+#include "registerplace.h"
 
-#include <genapi/nodes/node.h>
+#include <GenApi/Types.h>
 
+#include <cameraio/registerio.h>
+#include <genapi/nodes/nodemapbase.h>
+
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
-
-typedef struct _ArvGcNode ArvGcNode;
 
 namespace OrvDescription {
 
-/// One register as the engine decodes it, read no more often than necessary.
+/// One register of a description, while a question to its node map is being answered: reading looks
+/// at what is known, writing notes what is to be written.
 class RegisterAccess
 {
 public:
-    RegisterAccess(ArvGcNode *engineNode, RegisterCache &cache, std::string name,
-                   GenApi::ECachingMode mode);
+    /// `name` is that of the node and lives as long as the object.
+    RegisterAccess(const OrvGenApi::NodeMapBase &map, OrvCameraIo::RegisterIo &io,
+                   std::string_view name, GenApi::ECachingMode mode, GenApi::EAccessMode access);
 
-    /// The nodes that the register's address and length are computed from.
-    void setAddressSources(std::vector<OrvGenApi::Node *> nodes);
+    RegisterPlace place;
+    RegisterCodec::Format format;
 
     /// What was read up to now is outdated.
-    void markStale() { m_staleSince = m_cache.now(); }
+    void markStale() { m_staleSince = m_io.now(); }
+
+    /// Whether the last read failed for want of an answer; asking resets it.
+    bool takeUnanswered() { return std::exchange(m_wasUnanswered, false); }
 
     int64_t integer();
     double real();
     std::string text();
-    std::vector<uint8_t> bytes();
+    RegisterCodec::Bytes bytes();
+
+    /// No more than so many from the beginning.
+    RegisterCodec::Bytes firstBytes(int64_t count);
+
     void setInteger(int64_t value);
     void setReal(double value);
     void setText(const std::string &value);
-    void setBytes(const std::vector<uint8_t> &bytes);
 
-    int64_t minInteger();
-    int64_t maxInteger();
-    double minReal();
-    double maxReal();
-    int64_t maxTextLength();
-    int64_t address();
-    int64_t length();
+    /// What is left out stays as it is.
+    void setBytes(const RegisterCodec::Bytes &bytes);
+
+    int64_t minInteger() const;
+    int64_t maxInteger() const;
+    double maxReal() const;
+    int64_t address() const { return static_cast<int64_t>(place.address()); }
+    int64_t length() const;
 
     bool isCachable() const { return m_mode != GenApi::NoCache; }
+    GenApi::EAccessMode accessMode() const { return m_access; }
 
 private:
-    void prepare(int64_t minLength = 1);
-    void written();
+    RegisterCodec::Bytes read(const OrvGenApi::RegisterRange &range);
+    OrvCameraIo::RegisterIo::Known look(const OrvGenApi::RegisterRange &range,
+                                        OrvGenApi::Question &question) const;
+    void write(uint64_t address, RegisterCodec::Bytes bytes, RegisterCodec::Bytes mask);
+    OrvGenApi::Question &question() const;
+    RegisterCodec::Format formatOf(uint32_t size) const;
 
-    template<typename Call>
-    auto checked(Call call);
-
-    ArvGcNode *m_engineNode;
-    RegisterCache &m_cache;
-    std::string m_name;
+    const OrvGenApi::NodeMapBase &m_map;
+    OrvCameraIo::RegisterIo &m_io;
+    std::string_view m_name;
     GenApi::ECachingMode m_mode;
-    std::vector<OrvGenApi::Node *> m_addressSources;
+    GenApi::EAccessMode m_access;
+    bool m_wasUnanswered = false;
     uint64_t m_staleSince = 0;
 };
+
+/// Throws the GenICam exception that fits a transfer that has failed.
+[[noreturn]] void throwFailure(OrvCameraIo::Status status, std::string_view node);
 
 } // namespace OrvDescription

@@ -16,6 +16,14 @@ bool contains(const std::vector<Node *> &nodes, const Node *node)
     return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
 }
 
+/// Each of the two lists has the other node. The shorter one tells, so that a node with very many
+/// neighbours costs no more than one with few.
+bool areLinked(const std::vector<Node *> &list, const Node &node,
+               const std::vector<Node *> &otherList, const Node &otherNode)
+{
+    return list.size() < otherList.size() ? contains(list, &node) : contains(otherList, &otherNode);
+}
+
 } // namespace
 
 NodeMapBase::NodeMapBase(std::string deviceName) : m_deviceName(std::move(deviceName)) {}
@@ -31,7 +39,7 @@ void NodeMapBase::adopt(std::unique_ptr<Node> node)
     m_nodes.push_back(std::move(node));
 }
 
-Node *NodeMapBase::node(const std::string &name) const
+Node *NodeMapBase::node(std::string_view name) const
 {
     const auto found = m_byName.find(name);
     return found == m_byName.end() ? nullptr : found->second;
@@ -39,7 +47,7 @@ Node *NodeMapBase::node(const std::string &name) const
 
 void NodeMapBase::addDependency(Node &source, Node &dependent)
 {
-    if (contains(source.m_dependents, &dependent))
+    if (areLinked(source.m_dependents, dependent, dependent.m_sources, source))
         return;
     source.m_dependents.push_back(&dependent);
     dependent.m_sources.push_back(&source);
@@ -47,7 +55,7 @@ void NodeMapBase::addDependency(Node &source, Node &dependent)
 
 void NodeMapBase::addSelection(Node &selector, Node &selected)
 {
-    if (contains(selector.m_selected, &selected))
+    if (areLinked(selector.m_selected, selected, selected.m_selecting, selector))
         return;
     selector.m_selected.push_back(&selected);
     selected.m_selecting.push_back(&selector);

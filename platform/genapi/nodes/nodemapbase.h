@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -23,7 +24,7 @@ public:
     NodeMapBase &operator=(const NodeMapBase &) = delete;
 
     /// Null when there is none.
-    Node *node(const std::string &name) const;
+    Node *node(std::string_view name) const;
     const std::vector<std::unique_ptr<Node>> &nodes() const { return m_nodes; }
 
     /// A change of `source` will invalidate `dependent`.
@@ -103,7 +104,7 @@ private:
     std::string m_deviceName;
     mutable GenApi::CLock m_lock;
     std::vector<std::unique_ptr<Node>> m_nodes;
-    std::unordered_map<std::string, Node *> m_byName;
+    std::unordered_map<std::string_view, Node *> m_byName; ///< the nodes keep their names
     int m_changeDepth = 0;
     std::vector<Node *> m_toNotify; ///< outside the lock, when the outermost change is left
 };

@@ -52,15 +52,20 @@ int64_t RegisterNode::GetLength(bool)
         [this] { return m_length.get(limitsAreCachable(), [this] { return readLength(); }); });
 }
 
-GenICam::gcstring RegisterNode::ToString(bool, bool ignoreCache)
+std::string RegisterNode::hexText(const std::vector<uint8_t> &bytes)
 {
     static const char digits[] = "0123456789abcdef";
     std::string text = "0x";
-    for (const uint8_t byte : bytes(ignoreCache)) {
+    for (const uint8_t byte : bytes) {
         text += digits[byte >> 4];
         text += digits[byte & 0xf];
     }
-    return text.c_str();
+    return text;
+}
+
+GenICam::gcstring RegisterNode::ToString(bool, bool ignoreCache)
+{
+    return hexText(bytes(ignoreCache)).c_str();
 }
 
 void RegisterNode::FromString(const GenICam::gcstring &text, bool verify)

@@ -3,6 +3,7 @@
 
 #include "valuenode.h"
 
+#include <string>
 #include <vector>
 
 namespace OrvGenApi {
@@ -30,6 +31,9 @@ protected:
     virtual std::vector<uint8_t> readBytes() = 0;
     virtual void writeBytes(const std::vector<uint8_t> &bytes) = 0;
     virtual int64_t readLength() = 0;
+
+    /// The text form of bytes.
+    static std::string hexText(const std::vector<uint8_t> &bytes);
 
 private:
     std::vector<uint8_t> bytes(bool ignoreCache);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace OrvGenApi {
@@ -36,6 +37,12 @@ struct RegisterWrite
 
     /// For a masked write: the register cannot be read, so the other bits become 0.
     bool isWriteOnly = false;
+
+    /// False for a register that does not keep what is written: what it holds must be read.
+    bool isKept = true;
+
+    /// The name of the node, for messages; it lives as long as the node.
+    std::string_view node = {};
 };
 
 } // namespace OrvGenApi
