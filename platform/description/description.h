@@ -25,7 +25,7 @@ struct DescriptionExtras
 };
 
 /// One element inside a node of a description, for example `<pVariable Name="X">Width</pVariable>`.
-struct DescriptionProperty
+struct GENAPI_DECL DescriptionProperty
 {
     std::string_view tag;
     std::string_view text; ///< without surrounding blanks
@@ -39,7 +39,7 @@ struct DescriptionProperty
 };
 
 /// One node of a description: its element, name and properties, in the order of the file.
-struct DescriptionNode
+struct GENAPI_DECL DescriptionNode
 {
     std::string_view tag;
     std::string_view name;

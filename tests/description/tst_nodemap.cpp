@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <cameraio/memoryport.h>
 #include <description/nodemap.h>
 #include <featuresteps.h>
 
 #include <GenApi/GenApi.h>
 
 #include <QtTest>
+
+#include <atomic>
+#include <functional>
 
 using namespace GenApi;
 
@@ -105,6 +109,11 @@ private slots:
     void senselessReferences();
     void senselessNodes();
     void circles();
+    void referencesThatCostTooMuch();
+    void manyNodes();
+    void longRegisters();
+    void roundsOfReading();
+    void silence();
     void cachingModes();
     void pollingAndInvalidation();
 };
@@ -542,6 +551,7 @@ void TestNodeMap::senselessNodes()
 
 void TestNodeMap::circles()
 {
+    const QByteArray tail = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
     const auto map = load(
         root({"Sub", "A", "Self", "Width", "OffsetX"}) +
         "<Category Name='Sub'><pFeature>B</pFeature><pFeature>Root</pFeature>"
@@ -555,6 +565,27 @@ void TestNodeMap::circles()
         "<IntSwissKnife Name='OwnLimit'><pVariable Name='V.Max'>Bounded</pVariable>"
         "<Formula>V.Max</Formula></IntSwissKnife>"
         "<Integer Name='Bounded'><Value>1</Value><pMax>OwnLimit</pMax></Integer>"
+        "<IntReg Name='OwnLength'><Address>0</Address><pLength>OwnLength</pLength>" +
+        tail +
+        "</IntReg>"
+        "<IntReg Name='OwnIndex'><Address>0</Address><pIndex>OwnIndex</pIndex><Length>4</Length>" +
+        tail +
+        "</IntReg>"
+        "<IntReg Name='OwnOffset'><Address>0</Address><pIndex "
+        "pOffset='OwnOffset'>WidthReg</pIndex><Length>4</Length>" +
+        tail +
+        "</IntReg>"
+        "<StringReg Name='OwnText'><Address>0</Address><pLength>TextLength</pLength>" +
+        tail +
+        "</StringReg>"
+        "<IntSwissKnife Name='TextLength'><pVariable "
+        "Name='T'>OwnLength</pVariable><Formula>T</Formula></IntSwissKnife>"
+        "<Integer Name='MaxOfMax'><Value>1</Value><pMax>Between</pMax></Integer>"
+        "<Integer Name='Between'><pValue>BetweenMax</pValue></Integer>"
+        "<IntSwissKnife Name='BetweenMax'><pVariable "
+        "Name='V'>Outer</pVariable><Formula>V.Max</Formula></IntSwissKnife>"
+        "<Integer Name='Outer'><pValue>MaxOfMax</pValue></Integer>"
+        "<Integer Name='OwnLock'><Value>1</Value><pIsLocked>OwnLock</pIsLocked></Integer>"
         // Limits that depend on each other's values are no circle.
         + intReg("WidthReg", "0") + intReg("OffsetReg", "4") +
         "<Integer Name='Width'><pValue>WidthReg</pValue><pMax>WidthMax</pMax></Integer>"
@@ -568,11 +599,229 @@ void TestNodeMap::circles()
         QVERIFY(textOf(*map, name).startsWith("exception: "));
     }
     QVERIFY_EXCEPTION_THROWN(integer(*map, "Bounded").GetMax(), GenICam::GenericException);
+    for (const char *name : {"OwnLength", "OwnIndex", "OwnOffset", "OwnText"})
+        QVERIFY2(textOf(*map, name).startsWith("exception: "), name);
+    QVERIFY_EXCEPTION_THROWN(CStringPtr(map->GetNode("OwnText"))->GetMaxLength(),
+                             GenICam::GenericException);
+    QVERIFY_EXCEPTION_THROWN(integer(*map, "MaxOfMax").GetMax(), GenICam::GenericException);
+    QCOMPARE(access(*map, "OwnLock"), RO);
     integer(*map, "Width") = 60;
     QCOMPARE(integer(*map, "OffsetX").GetMax(), int64_t(40));
     FeatureList_t features;
     CCategoryPtr(map->GetNode("Sub"))->GetFeatures(features);
     QCOMPARE(names(features), QStringList("B"));
+}
+
+void TestNodeMap::referencesThatCostTooMuch()
+{
+    QByteArray nodes = root({"Category0"}) + intReg("Link0", "0") +
+                       intReg("Sum0", "4", "<Cachable>NoCache</Cachable>");
+    for (int i = 0; i < 4000; ++i)
+        nodes += QString("<Integer Name='Link%1'><pValue>Link%2</pValue></Integer>")
+                     .arg(i + 1)
+                     .arg(i)
+                     .toUtf8();
+    for (int i = 0; i < 60; ++i)
+        nodes +=
+            QString("<IntSwissKnife Name='Sum%1'><pVariable Name='A'>Sum%2</pVariable><pVariable "
+                    "Name='B'>Sum%2</pVariable><Formula>A + B</Formula></IntSwissKnife>")
+                .arg(i + 1)
+                .arg(i)
+                .toUtf8();
+    // Categories that would have more rows than anybody can count.
+    for (int i = 0; i < 100; ++i)
+        nodes +=
+            QString(
+                "<Category "
+                "Name='Category%1'><pFeature>Category%2</pFeature><pFeature>Again%2</pFeature></"
+                "Category><Category Name='Again%2'><pFeature>Category%3</pFeature></Category>")
+                .arg(i)
+                .arg(i + 1)
+                .arg(i + 2)
+                .toUtf8();
+    QElapsedTimer timer;
+    timer.start();
+    const auto map = load(nodes);
+    QCOMPARE(textOf(*map, "Link255"), QString("0"));
+    QCOMPARE(access(*map, "Link256"), NA);
+    QCOMPARE(access(*map, "Link4000"), NA);
+    QVERIFY(textOf(*map, "Link4000").startsWith("exception: "));
+    QCOMPARE(textOf(*map, "Sum10"), QString("0"));
+    QVERIFY(textOf(*map, "Sum60").startsWith("exception: "));
+    std::function<int(ICategory &)> count = [&](ICategory &category) {
+        FeatureList_t features;
+        category.GetFeatures(features);
+        int rows = 0;
+        for (std::size_t i = 0; i < features.size(); ++i) {
+            auto *inner = dynamic_cast<ICategory *>(features[i]);
+            rows += 1 + (inner ? count(*inner) : 0);
+        }
+        return rows;
+    };
+    QVERIFY(count(*CCategoryPtr(map->GetNode("Root"))) <= 500001);
+    QVERIFY2(timer.elapsed() < 20000, QByteArray::number(timer.elapsed()));
+}
+
+void TestNodeMap::manyNodes()
+{
+    const auto loadingTime = [](int count) {
+        QByteArray nodes = root({}) + intReg("Hub", "0");
+        nodes.reserve(count * 130);
+        for (int i = 0; i < count; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            nodes += "<Integer Name='N" + number + "'><pValue>" +
+                     (i % 100 ? "N" + QByteArray::number(i - 1) : QByteArray("Hub")) +
+                     "</pValue><pIsAvailable>Hub</pIsAvailable></Integer>";
+        }
+        nodes += "<Enumeration Name='E'><pValue>Hub</pValue>";
+        for (int i = 0; i < count; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            nodes += "<EnumEntry Name='E" + number + "'><Value>" + number + "</Value></EnumEntry>";
+        }
+        nodes += "</Enumeration>";
+        QElapsedTimer timer;
+        timer.start();
+        const auto map = load(nodes);
+        const qint64 time = timer.elapsed();
+        return map->GetNumNodes() > uint64_t(2 * count) ? time : qint64(1) << 40;
+    };
+    const qint64 few = loadingTime(10000);
+    const qint64 many = loadingTime(100000);
+    QVERIFY2(many < 40 * few + 1000, qPrintable(QString("%1 ms, %2 ms").arg(few).arg(many)));
+}
+
+void TestNodeMap::longRegisters()
+{
+    const QByteArray tail = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
+    const auto map =
+        load(root({}) + "<Register Name='Long'><Address>0</Address><Length>70000</Length>" + tail +
+             "</Register><StringReg Name='Text'><Address>0</Address><Length>1000000</Length>" +
+             tail + "</StringReg>");
+    CRegisterPtr reg(map->GetNode("Long"));
+    const std::vector<uint8_t> bytes(3, 0x41);
+    reg->Set(bytes.data(), 3);
+    const QString text = textOf(*map, "Long");
+    QCOMPARE(text.left(10), QString("0x41414100"));
+    QCOMPARE(text.size(), 2 + 2 * 256 + 1);
+    QVERIFY(text.endsWith(QChar(0x2026)));
+    QVERIFY_EXCEPTION_THROWN(reg->FromString(text.toUtf8().constData()),
+                             GenICam::InvalidArgumentException);
+    std::vector<uint8_t> all(70000);
+    reg->Get(all.data(), 70000);
+    QCOMPARE(int(all[2]), 0x41);
+    QCOMPARE(textOf(*map, "Text"), QString("AAA"));
+    QCOMPARE(CStringPtr(map->GetNode("Text"))->GetMaxLength(), int64_t(1000000));
+    QVERIFY_EXCEPTION_THROWN(
+        CStringPtr(map->GetNode("Text"))->SetValue(QByteArray(70000, 'x').constData()),
+        GenICam::OutOfRangeException);
+}
+
+namespace {
+
+/// Memory that counts how often it is asked, and can fall silent.
+class CountingPort : public OrvCameraIo::Port
+{
+public:
+    struct State
+    {
+        std::atomic<int> batches{0};
+        std::atomic<bool> isSilent{false};
+        std::vector<OrvCameraIo::RegisterRange> declared;
+    };
+
+    CountingPort(std::shared_ptr<State> state, bool isImmediate)
+        : m_state(std::move(state)), m_isImmediate(isImmediate)
+    {
+    }
+
+    bool isImmediate() const override { return m_isImmediate; }
+    std::size_t batchSize() const override { return 100; }
+    void setHints(const OrvCameraIo::PortHints &hints) override
+    {
+        m_state->declared = hints.declared;
+    }
+    void read(std::vector<OrvCameraIo::ReadTransfer> &batch) override
+    {
+        ++m_state->batches;
+        if (!m_state->isSilent)
+            return m_memory.read(batch);
+        batch.front().status = OrvCameraIo::Status::NoAnswer;
+    }
+    OrvCameraIo::Status write(uint64_t address, const std::vector<uint8_t> &bytes) override
+    {
+        return m_memory.write(address, bytes);
+    }
+    Presence probe() override { return m_state->isSilent ? Presence::Silent : Presence::Answers; }
+
+private:
+    const std::shared_ptr<State> m_state;
+    const bool m_isImmediate;
+    OrvCameraIo::MemoryPort m_memory;
+};
+
+std::unique_ptr<OrvDescription::NodeMap> loadWith(const QByteArray &nodes,
+                                                  std::unique_ptr<OrvCameraIo::Port> port)
+{
+    const QByteArray xml = description(nodes);
+    return std::make_unique<OrvDescription::NodeMap>(
+        OrvDescription::Description::shared({xml.constData(), static_cast<std::size_t>(xml.size())},
+                                            "test.xml"),
+        std::move(port));
+}
+
+} // namespace
+
+void TestNodeMap::roundsOfReading()
+{
+    const auto state = std::make_shared<CountingPort::State>();
+    const auto map = loadWith(
+        root({}) + intReg("Implemented", "0x100") + intReg("Locked", "0x104") + intReg("Base", "8") +
+            intReg("Index", "12") + intReg("A", "16") + intReg("B", "20") + intReg("Min", "24") +
+            intReg("Max", "28") +
+            "<IntReg Name='Moving'><pAddress>Base</pAddress><pIndex "
+            "Offset='4'>Index</pIndex><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</"
+            "pPort></IntReg>"
+            "<IntSwissKnife Name='Sum'><pVariable Name='M'>Moving</pVariable><pVariable "
+            "Name='A'>A</pVariable><pVariable Name='B'>B</pVariable><Formula>M + A * "
+            "B</Formula></IntSwissKnife>"
+            "<Integer Name='Feature'><pValue>Sum</pValue><pMin>Min</pMin><pMax>Max</pMax></Integer>"
+            "<Integer "
+            "Name='Guarded'><pIsLocked>Locked</pIsLocked><pIsAvailable>Implemented</"
+            "pIsAvailable><pIsImplemented>Implemented</pIsImplemented><pValue>A</pValue></Integer>",
+        std::make_unique<CountingPort>(state, true));
+    QCOMPARE(state->declared.size(), std::size_t(8));
+    const auto cost = [&](const std::function<void()> &ask) {
+        const int before = state->batches;
+        ask();
+        return state->batches - before;
+    };
+    // What the formula takes besides is read with what the address is computed from.
+    QCOMPARE(cost([&] { integer(*map, "Feature").GetValue(); }), 2);
+    QCOMPARE(cost([&] { integer(*map, "Feature").GetValue(true); }), 1);
+    QCOMPARE(cost([&] { access(*map, "Guarded"); }), 1);
+    QCOMPARE(cost([&] { access(*map, "Guarded"); }), 0);
+}
+
+void TestNodeMap::silence()
+{
+    const auto state = std::make_shared<CountingPort::State>();
+    const auto map = loadWith(root({}) + intReg("Reg", "0") + intReg("Other", "4") +
+                                  "<Integer Name='Feature'><pValue>Reg</pValue></Integer>",
+                              std::make_unique<CountingPort>(state, false));
+    QStringList calls;
+    for (const char *name : {"Feature", "Other"})
+        Register(map->GetNode(name), [&calls](INode *node) { calls << node->GetName().c_str(); });
+    QCOMPARE(textOf(*map, "Other"), QString("0"));
+    state->isSilent = true;
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY_EXCEPTION_THROWN(integer(*map, "Feature").GetValue(), GenICam::TimeoutException);
+        QVERIFY(textOf(*map, "Feature").contains("Reg: the camera does not answer"));
+    }
+    QCOMPARE(textOf(*map, "Other"), QString("0"));
+    QCOMPARE(calls, QStringList());
+    state->isSilent = false;
+    QTRY_COMPARE(calls, QStringList("Feature"));
+    QCOMPARE(textOf(*map, "Feature"), QString("0"));
 }
 
 void TestNodeMap::cachingModes()
