@@ -15,10 +15,6 @@ using OrvCameraIo::Status;
 
 namespace {
 
-/// So many batches without an answer, with other commands answered in between, mean that the
-/// camera drops batches.
-constexpr int mostUnanswered = 2;
-
 void setWords(ReadTransfer &read, const uint32_t *words)
 {
     read.bytes.clear();
@@ -74,7 +70,7 @@ void BatchRead::run()
 /// Otherwise the result is clear already.
 bool BatchRead::isWithinReach(ReadTransfer &read) const
 {
-    read.status = Status::NoAnswer;
+    read.status = Status::NotSent;
     read.bytes.clear();
     if (read.range.size == 0)
         read.status = Status::Done;
@@ -99,12 +95,11 @@ BatchRead::Result BatchRead::readTogether(const Kind &kind, const Items &items)
         return readInParts(kind, items, command.limit, command.limit);
 
     const Answer answer = (this->*kind.transfer)(items);
-    if (answer.status == Status::NoAnswer) {
-        if (++command.unanswered >= mostUnanswered)
-            command.limit = 1;
+    if (!isAnswer(answer.status)) {
+        for (const std::size_t *item = items.first; item != items.last; ++item)
+            m_batch[*item].status = answer.status;
         return Result::NoAnswer;
     }
-    command.unanswered = 0;
     const bool isDone = answer.status == Status::Done;
     const Result result = isDone ? Result::Complete : afterRefusal(kind, items, answer);
     command.worked = std::max(command.worked, isDone ? items.size() : answer.done);
@@ -187,7 +182,7 @@ BatchRead::Result BatchRead::readAlone(std::size_t item)
     } else {
         read.status = RegisterMemory::read(m_channel, read.range, read.bytes);
     }
-    if (read.status == Status::NoAnswer)
+    if (!isAnswer(read.status))
         return Result::NoAnswer;
     if (read.status != Status::Done)
         return refuse(item, read.status);

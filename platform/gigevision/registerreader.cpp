@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "registerreader.h"
 
+#include <cameraio/limits.h>
+
 #include <algorithm>
 
 namespace OrvGigEVision {
@@ -12,6 +14,8 @@ namespace {
 
 /// A register that changes all the time tells nothing, so others are tried, too.
 constexpr int mostLooks = 4;
+
+constexpr std::chrono::microseconds longestBatch = OrvCameraIo::Limits::readBudget / 2;
 
 std::vector<uint8_t> reversed(std::vector<uint8_t> bytes)
 {
@@ -32,10 +36,8 @@ bool RegisterReader::lookAtCamera()
     const auto reply = m_channel.readRegisters({Gvcp::Capability});
     m_capability = reply.isDone() ? reply.values.front() : 0;
     m_knowledge.rules.canConcatenate = m_capability & Gvcp::canConcatenate;
-    m_knowledge.registers.unanswered = 0;
-    m_knowledge.memoryBlock.unanswered = 0;
     if (!reply.isDone() || isWordNumber())
-        return reply.status != Status::NoAnswer;
+        return isAnswer(reply.status);
 
     ReadTransfer word;
     word.range = {Gvcp::Capability, 4};
@@ -47,19 +49,41 @@ bool RegisterReader::lookAtCamera()
 
 void RegisterReader::setHints(const OrvCameraIo::PortHints &hints)
 {
-    m_knowledge.memory.setDeclared(hints.declared);
-    m_hasHints = true;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_newHints = hints;
     if (hints.isWordNumber)
-        setWordNumber();
+        m_isWordNumber = true;
+}
+
+void RegisterReader::takeHints()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_newHints)
+        return;
+    m_knowledge.memory.setDeclared(std::move(m_newHints->declared));
+    m_knowledge.rules.isWordNumber = m_isWordNumber;
+    m_hasHints = true;
+    m_newHints.reset();
 }
 
 void RegisterReader::setWordNumber()
 {
+    m_isWordNumber = true;
     m_knowledge.rules.isWordNumber = true;
+}
+
+std::size_t RegisterReader::batchSize() const
+{
+    // A camera that does not concatenate may have to be asked for each register.
+    const auto roundTrip = std::max(m_channel.roundTrip(), std::chrono::microseconds(1));
+    const auto oneByOne = static_cast<std::size_t>(longestBatch / roundTrip);
+    return canConcatenate() ? Gvcp::maxRegisters
+                            : std::clamp<std::size_t>(oneByOne, 1, Gvcp::maxRegisters);
 }
 
 void RegisterReader::read(std::vector<ReadTransfer> &batch)
 {
+    takeHints();
     BatchRead(m_channel, m_knowledge, batch).run();
     if (m_hasHints && !isWordNumber() && m_looks < mostLooks && compareViews(batch)) {
         setWordNumber();
