@@ -51,9 +51,7 @@ void BatchRead::run()
         if (isWithinReach(m_batch[i]))
             items.push_back(i);
     }
-    ReadPlan::Rules rules = m_knowledge.rules;
-    rules.canConcatenate = rules.canConcatenate && m_knowledge.registers.limit > 1;
-    const ReadPlan plan(m_batch, items, rules, m_knowledge.memory);
+    const ReadPlan plan(m_batch, items, m_rules, m_knowledge.memory);
 
     const Kind registers{m_knowledge.registers, &BatchRead::transferRegisters};
     const Kind memory{m_knowledge.memoryBlock, &BatchRead::transferMemory};
@@ -173,8 +171,7 @@ BatchRead::Result BatchRead::readEachAlone(const Items &items)
 BatchRead::Result BatchRead::readAlone(std::size_t item)
 {
     ReadTransfer &read = m_batch[item];
-    const ReadPlan::Rules &rules = m_knowledge.rules;
-    if (ReadPlan::isWord(read.range) && (rules.isWordNumber || rules.canConcatenate)) {
+    if (ReadPlan::isWord(read.range) && m_rules.usesRegisters()) {
         const auto reply = m_channel.readRegisters({static_cast<uint32_t>(read.range.address)});
         read.status = reply.status;
         if (reply.isDone())

@@ -26,7 +26,7 @@ public:
     bool isWordNumber() const { return m_isWordNumber; }
 
     bool canWriteMemory() const { return m_capability & Gvcp::canWriteMemory; }
-    bool canConcatenate() const { return m_knowledge.rules.canConcatenate; }
+    bool canConcatenate() const { return m_knowledge.canConcatenate; }
 
     /// As many registers as can be read in a time that others can wait.
     std::size_t batchSize() const;
@@ -36,8 +36,8 @@ public:
 private:
     enum class Order { Unknown, Same, Reversed };
 
-    bool compareViews(std::vector<OrvCameraIo::ReadTransfer> &batch);
-    Order orderOf(const OrvCameraIo::ReadTransfer &word);
+    bool compareViews(const std::vector<OrvCameraIo::ReadTransfer> &batch, bool wasRegister);
+    Order orderOf(uint32_t address, const std::vector<uint8_t> &bytes, bool wasRegister);
     void setWordNumber();
     void takeHints();
 
