@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QFileInfo>
 #include <QMenu>
 #include <QSettings>
 #include <QTreeView>
@@ -42,6 +43,11 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     m_titles.insert(&m_configuration, m_configuration.windowTitle());
     for (QDialog *dialog : m_configuration.findChildren<QDialog *>())
         m_titles.insert(dialog, dialog->windowTitle());
+    if (m_settings) {
+        const QString folder = QFileInfo(m_settings->fileName()).path();
+        m_openCameras = std::make_unique<OpenCameras>(folder + QStringLiteral("/open"));
+        connect(m_openCameras.get(), &OpenCameras::changed, this, &CameraWindows::nameWindows);
+    }
 
     auto *view = m_configuration.findChild<QMenu *>(QStringLiteral("menuView"));
     view->addSeparator();
@@ -77,21 +83,25 @@ void CameraWindows::follow(OrvCam::Device *device)
     if (!device) {
         m_tree.clearParams();
         m_tree.setWindowTitle(tr("Features"));
-        nameWindows(QString());
+        m_camera.clear();
+        nameWindows();
         return;
     }
     m_tree.setParams(device->GetParamArray());
     unfoldTree();
-    const QString camera = QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName());
-    m_tree.setWindowTitle(camera);
-    nameWindows(camera);
+    m_camera = QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName());
+    m_tree.setWindowTitle(m_camera);
+    nameWindows();
 }
 
-void CameraWindows::nameWindows(const QString &camera)
+void CameraWindows::nameWindows()
 {
+    if (m_openCameras)
+        m_openCameras->setOpen(!m_camera.isEmpty());
+    const bool isNamed = !m_camera.isEmpty() && m_openCameras && m_openCameras->areSeveral();
+    const QString prefix = isNamed ? m_camera + QStringLiteral(" - ") : QString();
     for (auto it = m_titles.begin(); it != m_titles.end(); ++it)
-        it.key()->setWindowTitle(camera.isEmpty() ? it.value()
-                                                  : camera + QStringLiteral(" - ") + it.value());
+        it.key()->setWindowTitle(prefix + it.value());
 }
 
 void CameraWindows::rememberTree()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "opencameras.h"
 #include "released.h"
 
 #include <orvcamconfig.h>
@@ -10,6 +11,7 @@
 #include <QHash>
 #include <QObject>
 
+#include <memory>
 #include <optional>
 
 class QAction;
@@ -18,8 +20,8 @@ class QSettings;
 /// The windows of one camera: the configuration window and the tree of all its features, which
 /// always shows the camera that the other has, and is opened from its "View" menu.
 ///
-/// Every window has the camera's name in its title, so that those of several cameras, each in a
-/// program of its own, can be told apart.
+/// While the user has several cameras open, each in a program of its own, all windows have the
+/// camera's name in their titles.
 ///
 /// The places of the windows, which of them are open and what is unfolded in the tree are kept in
 /// the settings from one run to the next.
@@ -45,7 +47,7 @@ protected:
 
 private:
     void follow(OrvCam::Device *device);
-    void nameWindows(const QString &camera);
+    void nameWindows();
     void rememberTree();
     void unfoldTree();
     void restore();
@@ -57,6 +59,8 @@ private:
     OrvGui::OrvGenParamTreeView m_tree;
     OrvGui::OrvCamConfig m_configuration;
     QHash<QWidget *, QString> m_titles; ///< of the configuration's windows, without a camera
+    QString m_camera;
+    std::unique_ptr<OpenCameras> m_openCameras; ///< null without settings
     QAction *m_treeAction;
     QByteArray m_treeState; ///< of the tree while it shows nothing
 };

@@ -53,6 +53,7 @@ private slots:
     void initTestCase();
     void showTheSameCamera();
     void followTheConfiguration();
+    void namedWhileSeveralAreOpen();
     void rememberedFromRunToRun();
     void damagedSettings();
     void vanishedCamera();
@@ -86,11 +87,7 @@ void TestCameraWindows::showTheSameCamera()
     CameraWindows windows(open(), nullptr);
     windows.show();
     QVERIFY(windows.configuration().isVisible() && windows.tree().isVisible());
-    const QString camera = "DualFrame 12M (SIM-0001)";
-    QCOMPARE(windows.tree().windowTitle(), camera);
-    QCOMPARE(windows.configuration().windowTitle(), camera + " - CamConfig");
-    const auto *dialog = windows.configuration().findChild<QDialog *>("OrvCamConfigTriggerDialog");
-    QCOMPARE(dialog->windowTitle(), camera + " - Trigger Control");
+    QCOMPARE(windows.tree().windowTitle(), QString("DualFrame 12M (SIM-0001)"));
     windows.tree().setVisibility(OrvGui::Guru);
     QAbstractItemModel *model = windows.tree().treeView()->model();
 
@@ -127,7 +124,31 @@ void TestCameraWindows::followTheConfiguration()
         windows.configuration().SetDevice(nullptr);
     }
     QCOMPARE(windows.tree().windowTitle(), QString("Features"));
-    QCOMPARE(windows.configuration().windowTitle(), QString("CamConfig"));
+}
+
+void TestCameraWindows::namedWhileSeveralAreOpen()
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    CameraWindows windows(open(), &settings);
+    const auto *dialog = windows.configuration().findChild<QDialog *>("OrvCamConfigTriggerDialog");
+    const auto titles = [&]() -> QString {
+        return windows.configuration().windowTitle() + '|' + dialog->windowTitle();
+    };
+    const QString plain = "CamConfig|Trigger Control";
+    const QString camera = "DualFrame 12M (SIM-0001) - ";
+    QCOMPARE(titles(), plain);
+    OpenCameras other(folder.filePath("open")); // of another program
+    other.setOpen(true);
+    QTRY_COMPARE(titles(), camera + "CamConfig|" + camera + "Trigger Control");
+    action(windows, "actionDisconnect").trigger();
+    QCOMPARE(titles(), plain);
+    const Released<OrvCam::Device> device = open();
+    windows.configuration().SetDevice(device.get());
+    QVERIFY(titles().startsWith(camera));
+    other.setOpen(false);
+    QTRY_COMPARE(titles(), plain);
+    windows.configuration().SetDevice(nullptr);
 }
 
 void TestCameraWindows::rememberedFromRunToRun()
