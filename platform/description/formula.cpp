@@ -40,16 +40,16 @@ int64_t remainder(int64_t dividend, int64_t divisor)
     return divisor == -1 ? 0 : dividend % divisor;
 }
 
+// Of the count of a shift its lower six bits matter, as to a processor.
+
 int64_t shiftedLeft(int64_t value, int64_t count)
 {
-    return count < 0 || count > 63 ? 0 : wrapped(bitsOf(value) << count);
+    return wrapped(bitsOf(value) << (count & 63));
 }
 
 int64_t shiftedRight(int64_t value, int64_t count)
 {
-    if (count < 0 || count > 63)
-        return value < 0 ? -1 : 0;
-    return value >> count;
+    return value >> (count & 63);
 }
 
 int64_t integerPower(int64_t base, int64_t exponent)

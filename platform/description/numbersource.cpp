@@ -339,11 +339,14 @@ void ConverterSource::setReal(double value)
 
 std::optional<double> ConverterSource::converted(double rawValue)
 {
+    const auto raw = [&] {
+        return m_isInteger ? FormulaNumber(toInteger(rawValue)) : FormulaNumber(rawValue);
+    };
     try {
-        const double value = m_isInteger
-                                 ? static_cast<double>(m_from->integer(
-                                       [rawValue] { return FormulaNumber(toInteger(rawValue)); }))
-                                 : m_from->real([rawValue] { return FormulaNumber(rawValue); });
+        double value = m_from->real(raw);
+        // Beyond its range an integer formula comes back at the other end; no limit does.
+        if (m_isInteger && std::abs(value) < 9.2e18)
+            value = static_cast<double>(m_from->integer(raw));
         return std::isfinite(value) ? std::optional<double>(value) : std::nullopt;
     } catch (const GenICam::RuntimeException &) {
         return std::nullopt; // such as a reciprocal at 0: no limit on that side

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <aravis/nodemap.h>
+#include <description/nodemap.h>
 #include <featuresteps.h>
 
 #include <GenApi/GenApi.h>
@@ -40,11 +40,11 @@ QByteArray root(const QByteArrayList &features)
     return xml + "</Category>";
 }
 
-std::unique_ptr<OrvAravis::NodeMap> load(const QByteArray &nodes)
+std::unique_ptr<OrvDescription::NodeMap> load(const QByteArray &nodes)
 {
     const QByteArray xml = description(nodes);
-    return OrvAravis::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
-                                        "test.xml");
+    return OrvDescription::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
+                                             "test.xml");
 }
 
 QString textOf(INodeMap &map, const char *name)
@@ -128,8 +128,8 @@ void TestNodeMap::badDescriptions()
     QFETCH(QByteArray, xml);
     QFETCH(QString, message);
     try {
-        OrvAravis::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
-                                     "test.xml");
+        OrvDescription::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
+                                          "test.xml");
         QFAIL("the description was accepted");
     } catch (const GenICam::RuntimeException &e) {
         const QString text = e.GetDescription();
@@ -143,7 +143,7 @@ void TestNodeMap::badFiles()
     const QTemporaryDir folder;
     for (const QString &name : {folder.filePath("missing.xml"), folder.path()}) {
         try {
-            OrvAravis::NodeMap::fromFile(name.toStdString());
+            OrvDescription::NodeMap::fromFile(name.toStdString());
             QFAIL(qPrintable(name + " was accepted"));
         } catch (const GenICam::RuntimeException &e) {
             QVERIFY2(QString(e.GetDescription()).startsWith(name + ": "), e.GetDescription());

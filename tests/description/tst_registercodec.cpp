@@ -29,8 +29,8 @@ public:
                                   "</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
                                   "<Cachable>NoCache</Cachable>";
         const QByteArray xml = "<RegisterDescription SchemaMajorVersion='1' SchemaMinorVersion='1' "
-                               "SchemaSubMinorVersion='0'>" +
-                               "<" + tag + " Name='R'>" + common + properties + "</" + tag +
+                               "SchemaSubMinorVersion='0'><" +
+                               tag + " Name='R'>" + common + properties + "</" + tag +
                                "><Port Name='Device'/></RegisterDescription>";
         m_genicam = arv_gc_new(m_device, xml.constData(), static_cast<gsize>(xml.size()));
         m_node = arv_gc_get_node(m_genicam, "R");

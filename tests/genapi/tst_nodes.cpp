@@ -215,12 +215,17 @@ void TestNodes::valuesAreReadOnce()
     node.ToString();
     QCOMPARE(node.reads(), 1);
 
-    // Nor is a camera that does not answer asked again and again.
+    // Nor is a camera that refuses asked again and again; that one did not answer passes.
+    node.InvalidateNode();
+    node.onRead([] { throw GenICam::RuntimeException("refused", "", 0); });
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(throws<GenICam::RuntimeException>([&] { node.GetValue(); }));
+    QCOMPARE(node.reads(), 2);
     node.InvalidateNode();
     node.onRead([] { throw GenICam::TimeoutException("no answer", "", 0); });
     for (int i = 0; i < 3; ++i)
         QVERIFY(throws<GenICam::TimeoutException>([&] { node.GetValue(); }));
-    QCOMPARE(node.reads(), 2);
+    QCOMPARE(node.reads(), 5);
     node.onRead({});
     map.InvalidateNodes();
     QCOMPARE(node.GetValue(), int64_t(7));
