@@ -21,6 +21,10 @@ public:
     /// Stays as long as the connection, also while the camera is lost.
     virtual GenApi::INodeMap &nodeMap() = 0;
 
+    /// Polls the node map, so many ms after the last call. Called on the thread that runs the
+    /// default main context.
+    virtual void poll(int64_t elapsedMs) { nodeMap().Poll(elapsedMs); }
+
     /// Who is told when the camera is lost and found; null for nobody. When this returns, no call
     /// of the former listener is under way on another thread.
     virtual void setListener(OrvCameraIo::RegisterIoListener *listener) = 0;

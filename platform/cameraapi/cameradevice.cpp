@@ -94,7 +94,7 @@ void CameraDevice::poll()
     if (!m_isConnected)
         return;
     try {
-        m_connection->nodeMap().Poll(elapsed.count());
+        m_connection->poll(elapsed.count());
     } catch (const GenICam::GenericException &) {
         // A node that cannot be polled now may be at the next turn.
     }

@@ -16,6 +16,7 @@ public:
     PortConnection(std::unique_ptr<OrvCameraIo::Port> port, const std::string &description);
 
     GenApi::INodeMap &nodeMap() override { return m_nodeMap; }
+    void poll(int64_t elapsedMs) override { m_nodeMap.pollLater(elapsedMs); }
     void setListener(OrvCameraIo::RegisterIoListener *listener) override;
 
 private:

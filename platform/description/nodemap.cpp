@@ -3,6 +3,7 @@
 
 #include "nodelinks.h"
 #include "nodemapbuilder.h"
+#include "poller.h"
 
 #include <cameraio/maincontext.h>
 #include <cameraio/memoryport.h>
@@ -91,6 +92,7 @@ NodeMap::NodeMap(std::shared_ptr<const Description> description,
     NodeMapBuilder(*this).build();
     m_registers->setHints(hints());
     m_registers->setListener(m_listener.get());
+    m_poller = std::make_unique<Poller>(*this, *m_links, *m_registers);
 }
 
 NodeMap::~NodeMap()
@@ -141,6 +143,11 @@ OrvCameraIo::PortHints NodeMap::hints() const
 void NodeMap::setListener(RegisterIoListener *listener)
 {
     m_listener->setOther(listener);
+}
+
+void NodeMap::pollLater(int64_t elapsedMs)
+{
+    m_poller->poll(elapsedMs);
 }
 
 void NodeMap::fetch(Question &question) const

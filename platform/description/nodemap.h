@@ -13,6 +13,7 @@
 namespace OrvDescription {
 
 class NodeMapBuilder;
+class Poller;
 struct NodeLinks;
 
 /// The node map of a device description.
@@ -45,6 +46,10 @@ public:
     /// call of the former listener is under way.
     void setListener(OrvCameraIo::RegisterIoListener *listener);
 
+    /// As `Poll`, in the background: see `Poller`. To be called on the thread that runs the main
+    /// context.
+    void pollLater(int64_t elapsedMs);
+
 protected:
     void fetch(OrvGenApi::Question &question) const override;
     void carryOut(OrvGenApi::Question &question) override;
@@ -61,6 +66,7 @@ private:
     const std::unique_ptr<std::deque<NodeLinks>> m_links;
     const std::unique_ptr<OrvCameraIo::RegisterIo> m_registers;
     const std::unique_ptr<Listener> m_listener;
+    std::unique_ptr<Poller> m_poller;
 };
 
 } // namespace OrvDescription

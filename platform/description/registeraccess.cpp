@@ -84,6 +84,8 @@ Bytes RegisterAccess::read(const RegisterRange &range)
     if (range.size == 0)
         return {};
     Question &asked = question();
+    m_isLookedAt = true;
+    m_lastRange = range;
     RegisterIo::Known known = look(range, asked);
     if (!known.isKnown) {
         asked.missing.push_back(range);
@@ -93,6 +95,11 @@ Bytes RegisterAccess::read(const RegisterRange &range)
     if (known.status != Status::Done)
         throwFailure(known.status, m_name);
     return std::move(known.bytes);
+}
+
+std::pair<RegisterRange, RegisterIo::Known> RegisterAccess::known() const
+{
+    return {m_lastRange, m_io.look(m_lastRange, m_staleSince)};
 }
 
 void RegisterAccess::write(uint64_t address, Bytes bytes, Bytes mask)

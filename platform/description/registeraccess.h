@@ -34,6 +34,13 @@ public:
     /// Whether the last read failed for want of an answer; asking resets it.
     bool takeUnanswered() { return std::exchange(m_wasUnanswered, false); }
 
+    /// Whether somebody has asked for the value since this was set to false.
+    bool isLookedAt() const { return m_isLookedAt; }
+    void setLookedAt(bool isLookedAt) { m_isLookedAt = isLookedAt; }
+
+    /// Where it was read last, and what is known of it, unless that is outdated.
+    std::pair<OrvGenApi::RegisterRange, OrvCameraIo::RegisterIo::Known> known() const;
+
     int64_t integer();
     double real();
     std::string text();
@@ -72,6 +79,8 @@ private:
     GenApi::ECachingMode m_mode;
     GenApi::EAccessMode m_access;
     bool m_wasUnanswered = false;
+    bool m_isLookedAt = false;
+    OrvGenApi::RegisterRange m_lastRange; ///< that was read; shorter than the register for a text
     uint64_t m_staleSince = 0;
 };
 

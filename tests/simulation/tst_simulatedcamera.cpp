@@ -179,7 +179,7 @@ void TestSimulatedCamera::behaviour_data()
         "PixelFormat=BayerRG12");
     row("commands", "TriggerMode=On TriggerSource=Software TriggerSoftware=1 "
                     "TriggerSoftware?1 TriggerCount?1 +5 TimestampLatch=1 +2.5 "
-                    "TimestampLatchValue?7500000000 +-3 +nan UpTime?7 TriggerCount?1");
+                    "TimestampLatchValue?5000000000 +-3 +nan UpTime?7 TriggerCount?1");
     row("user sets",
         "Frame_ExposureLines=55 PixelFormat=Mono8 LUTIndex=100 LUTValue=7 "
         "UserSetSelector=UserSet2 UserSetSave=1 +0 UserSetSelector=Default UserSetSave:RO "
@@ -280,7 +280,7 @@ void TestSimulatedCamera::zeroes()
 {
     RunningCamera camera;
     camera.write(Registers::PixelClock, 0);
-    QCOMPARE(camera.run("CurrentExposureTime?0 ResultingFrameRate?0"), QString());
+    QCOMPARE(camera.run("CurrentExposureTime?0 ResultingFrameRate?0.00"), QString());
     camera.write(Registers::PulseGenPeriod, 0);
     QCOMPARE(camera.run("PulseGenMode=Continuous PulseGenEnable=1 +0.001 PulseGenPulseCount?1000"),
              QString());

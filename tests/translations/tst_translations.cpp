@@ -267,7 +267,7 @@ QStringList TestTranslations::strangers(const QStringList &texts) const
     static const QRegularExpression letter("\\pL");
     static const QRegularExpression number("^([-+]?[0-9.]+(e[-+][0-9]+)?)?");
     static const QRegularExpression hexadecimalOrSize(
-        "^(0x)?[0-9A-Fa-f]+(:[0-9A-F]{2})*$|^[0-9]+x[0-9]+$");
+        "^(0x)?[0-9A-Fa-f]+\\x{2026}?(:[0-9A-F]{2})*$|^[0-9]+x[0-9]+$");
     const auto isKnown = [&](QString text) {
         return text.contains(hexadecimalOrSize) || m_cameraTexts.contains(text) ||
                names.contains(text) || !text.remove(number).contains(letter) ||

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "poller.h"
+
+#include "nodelinks.h"
+
+#include <cameraio/maincontext.h>
+
+#include <algorithm>
+#include <set>
+
+using namespace OrvGenApi;
+using OrvCameraIo::Status;
+
+namespace OrvDescription {
+
+namespace {
+
+std::vector<NodeLinks *> registersBehind(NodeLinks &feature)
+{
+    std::vector<NodeLinks *> registers;
+    std::set<const NodeLinks *> seen;
+    std::vector<NodeLinks *> pending{&feature};
+    while (!pending.empty()) {
+        NodeLinks *links = pending.back();
+        pending.pop_back();
+        if (!seen.insert(links).second || links->isUnusable)
+            continue;
+        if (links->reg)
+            registers.push_back(links);
+        pending.insert(pending.end(), links->valueChildren.begin(), links->valueChildren.end());
+    }
+    return registers;
+}
+
+} // namespace
+
+Poller::Poller(NodeMapBase &map, std::deque<NodeLinks> &links, OrvCameraIo::RegisterIo &io)
+    : m_map(map), m_io(io), m_self(std::make_shared<Poller *>(this))
+{
+    for (NodeLinks &candidate : links) {
+        if (candidate.node->GetPollingTime() < 0)
+            continue;
+        Feature feature;
+        feature.node = candidate.node;
+        feature.registers = registersBehind(candidate);
+        if (!feature.registers.empty())
+            m_features.push_back(std::move(feature));
+    }
+}
+
+Poller::~Poller()
+{
+    *m_self = nullptr;
+}
+
+void Poller::poll(int64_t elapsedMs)
+{
+    const std::vector<NodeLinks *> due = takeDue(elapsedMs);
+    if (!due.empty() && m_pending.empty())
+        startReading(due);
+}
+
+/// The registers that are to be read; those that nobody looks at are outdated.
+std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
+{
+    std::vector<NodeLinks *> due;
+    std::vector<Node *> outdated;
+    const GenApi::AutoLock lock(m_map.GetLock());
+    for (Feature &feature : m_features) {
+        feature.sincePolled += elapsedMs;
+        if (feature.sincePolled < feature.node->GetPollingTime())
+            continue;
+        feature.sincePolled = 0;
+        for (NodeLinks *links : feature.registers) {
+            if (links->reg->isLookedAt())
+                due.push_back(links);
+            else if (links->reg->known().second.isKnown)
+                outdated.push_back(links->node);
+        }
+    }
+    if (!outdated.empty())
+        m_map.forget(outdated);
+    std::sort(due.begin(), due.end());
+    due.erase(std::unique(due.begin(), due.end()), due.end());
+    return due;
+}
+
+void Poller::startReading(const std::vector<NodeLinks *> &registers)
+{
+    std::vector<RegisterRange> ranges;
+    {
+        const GenApi::AutoLock lock(m_map.GetLock());
+        for (NodeLinks *links : registers) {
+            auto [range, known] = links->reg->known();
+            if (!known.isKnown || known.status != Status::Done)
+                continue;
+            ranges.push_back(range);
+            m_pending.push_back({links, range, std::move(known)});
+        }
+    }
+    if (ranges.empty())
+        return;
+    m_request = m_io.readLater(std::move(ranges), [self = m_self] {
+        OrvCameraIo::MainContext::post([self] {
+            if (*self)
+                (*self)->tellChanged();
+        });
+    });
+}
+
+void Poller::tellChanged()
+{
+    std::vector<Node *> changed;
+    for (const Pending &pending : std::exchange(m_pending, {})) {
+        const auto now = m_io.look(pending.range, 0);
+        if (now.status == Status::Done && now.bytes == pending.before.bytes)
+            continue;
+        pending.links->reg->setLookedAt(false);
+        changed.push_back(pending.links->node);
+    }
+    m_request.reset();
+    if (changed.empty())
+        return;
+    // What was read is known already; only what depends on it is outdated.
+    m_map.enterChange();
+    m_map.changed(changed);
+    m_map.leaveChange();
+}
+
+} // namespace OrvDescription

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cameraio/registerio.h>
+#include <genapi/nodes/nodemapbase.h>
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+namespace OrvDescription {
+
+struct NodeLinks;
+
+/// Polls the features of a node map that have a polling time: their registers are read in the
+/// background, all that are due in one batch. Only those whose bytes have changed are told and
+/// outdate what depends on them.
+///
+/// A feature is polled as long as somebody looks at it, that is, as long as its value is asked for
+/// after each change. One that nobody looks at is outdated when its time is up, so that the next
+/// question reaches the camera.
+///
+/// Belongs to the thread that runs the main context.
+class Poller
+{
+public:
+    /// All must outlive the object.
+    Poller(OrvGenApi::NodeMapBase &map, std::deque<NodeLinks> &links, OrvCameraIo::RegisterIo &io);
+    ~Poller();
+    Poller(const Poller &) = delete;
+    Poller &operator=(const Poller &) = delete;
+
+    /// So many ms have passed since the last call.
+    void poll(int64_t elapsedMs);
+
+private:
+    struct Feature
+    {
+        OrvGenApi::Node *node = nullptr;
+        std::vector<NodeLinks *> registers; ///< that its value is computed from
+        int64_t sincePolled = 0;            ///< ms
+    };
+
+    /// A register that is being read, and what was known of it before.
+    struct Pending
+    {
+        NodeLinks *links = nullptr;
+        OrvGenApi::RegisterRange range;
+        OrvCameraIo::RegisterIo::Known before;
+    };
+
+    std::vector<NodeLinks *> takeDue(int64_t elapsedMs);
+    void startReading(const std::vector<NodeLinks *> &registers);
+    void tellChanged();
+
+    OrvGenApi::NodeMapBase &m_map;
+    OrvCameraIo::RegisterIo &m_io;
+    std::vector<Feature> m_features;
+    std::vector<Pending> m_pending; ///< empty unless a batch is under way
+    std::unique_ptr<OrvCameraIo::Request> m_request;
+    const std::shared_ptr<Poller *> m_self; ///< null after the end
+};
+
+} // namespace OrvDescription
