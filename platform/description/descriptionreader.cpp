@@ -42,6 +42,24 @@ int toVersion(std::string_view text)
     return value && *value >= 0 && *value < 1000 ? static_cast<int>(*value) : 1;
 }
 
+/// Keeps quiet what the library would print because it has no parser at hand that takes it, such as
+/// what it dislikes of an encoding.
+class Quiet
+{
+public:
+    Quiet() : m_handler(xmlStructuredError), m_context(xmlStructuredErrorContext)
+    {
+        xmlSetStructuredErrorFunc(nullptr, [](void *, auto *) {});
+    }
+    ~Quiet() { xmlSetStructuredErrorFunc(m_context, m_handler); }
+    Quiet(const Quiet &) = delete;
+    Quiet &operator=(const Quiet &) = delete;
+
+private:
+    const xmlStructuredErrorFunc m_handler;
+    void *const m_context;
+};
+
 } // namespace
 
 struct DescriptionReader::Callbacks
@@ -106,6 +124,7 @@ void DescriptionReader::read()
     if (xml.size() > Limits::descriptionSize)
         fail(m_source, "the description is too large");
 
+    const Quiet quiet;
     const std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxt *)> parser(
         xmlCreateMemoryParserCtxt(xml.data(), static_cast<int>(xml.size())), xmlFreeParserCtxt);
     if (!parser)

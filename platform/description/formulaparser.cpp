@@ -168,9 +168,10 @@ void FormulaParser::parseBinary(int lowestLevel)
     parseOperand();
     for (;;) {
         skipBlanks();
+        const char next = m_position < m_text.size() ? m_text[m_position] : ')';
         const auto found =
-            std::find_if(std::begin(operators), std::end(operators), [this](const Operator &o) {
-                return m_text.substr(m_position, o.token.size()) == o.token;
+            std::find_if(std::begin(operators), std::end(operators), [&](const Operator &o) {
+                return o.token[0] == next && m_text.substr(m_position, o.token.size()) == o.token;
             });
         if (found == std::end(operators) || found->level < lowestLevel)
             return;
@@ -342,7 +343,8 @@ void FormulaParser::skipBlanks()
 bool FormulaParser::take(std::string_view token)
 {
     skipBlanks();
-    if (m_text.substr(m_position, token.size()) != token)
+    if (m_position == m_text.size() || m_text[m_position] != token[0] ||
+        m_text.substr(m_position, token.size()) != token)
         return false;
     m_position += token.size();
     skipBlanks();

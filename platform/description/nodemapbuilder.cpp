@@ -397,7 +397,7 @@ void NodeMapBuilder::connectRegister(NodeLinks &links)
     // Ports of chunks and events have no data but those that come with images.
     const DescriptionProperty *port = description.find("pPort");
     const NodeLinks *portLinks = port ? linksOf(port->text) : nullptr;
-    if (!portLinks)
+    if (!portLinks || !portLinks->description)
         return;
     for (const char *tag : {"ChunkID", "EventID", "pChunkID", "pEventID"}) {
         if (portLinks->description->find(tag))

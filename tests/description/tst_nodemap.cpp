@@ -502,20 +502,24 @@ void TestNodeMap::validValues()
 
 void TestNodeMap::senselessReferences()
 {
-    const auto map = load(root({"Good", "Missing", "Dangling", "Limited", "Switched", "Chunk"}) +
-                          intReg("Good", "0") +
-                          "<Integer Name='Dangling'><pValue>Nowhere</pValue></Integer>"
-                          "<Integer Name='Limited'><pValue>Good</pValue><pMax>Nowhere</pMax>"
-                          "</Integer><Integer Name='Switched'><pIsAvailable>Dangling"
-                          "</pIsAvailable><pValue>Good</pValue></Integer>"
-                          "<Integer Name='Empty'/>"
-                          "<IntReg Name='Chunk'><Address>0</Address><Length>4</Length>"
-                          "<AccessMode>RO</AccessMode><pPort>ChunkPort</pPort></IntReg>"
-                          "<Port Name='ChunkPort'><ChunkID>12</ChunkID></Port>");
+    const auto map =
+        load(root({"Good", "Missing", "NoPort", "Dangling", "Limited", "Switched", "Chunk"}) +
+             intReg("Good", "0") +
+             "<Integer Name='Dangling'><pValue>Nowhere</pValue></Integer>"
+             "<Integer Name='Limited'><pValue>Good</pValue><pMax>Nowhere</pMax>"
+             "</Integer><Integer Name='Switched'><pIsAvailable>Dangling"
+             "</pIsAvailable><pValue>Good</pValue></Integer>"
+             "<Integer Name='Empty'/>"
+             "<IntReg Name='Chunk'><Address>0</Address><Length>4</Length>"
+             "<AccessMode>RO</AccessMode><pPort>ChunkPort</pPort></IntReg>"
+             "<IntReg Name='Portless'><Address>0</Address><Length>4</Length>"
+             "<pPort>NoPort</pPort></IntReg>"
+             "<Port Name='ChunkPort'><ChunkID>12</ChunkID></Port>");
     FeatureList_t features;
     CCategoryPtr(map->GetNode("Root"))->GetFeatures(features);
-    QCOMPARE(features.size(), std::size_t(6));
+    QCOMPARE(features.size(), std::size_t(7));
     QCOMPARE(access(*map, "Good"), RW);
+    QCOMPARE(access(*map, "Portless"), RO);
     for (const char *name : {"Missing", "Dangling", "Limited", "Switched", "Empty", "Chunk"}) {
         QCOMPARE(access(*map, name), NA);
         QVERIFY(textOf(*map, name).startsWith("exception: "));
@@ -775,9 +779,9 @@ void TestNodeMap::roundsOfReading()
 {
     const auto state = std::make_shared<CountingPort::State>();
     const auto map = loadWith(
-        root({}) + intReg("Implemented", "0x100") + intReg("Locked", "0x104") + intReg("Base", "8") +
-            intReg("Index", "12") + intReg("A", "16") + intReg("B", "20") + intReg("Min", "24") +
-            intReg("Max", "28") +
+        root({}) + intReg("Implemented", "0x100") + intReg("Locked", "0x104") +
+            intReg("Base", "8") + intReg("Index", "12") + intReg("A", "16") + intReg("B", "20") +
+            intReg("Min", "24") + intReg("Max", "28") +
             "<IntReg Name='Moving'><pAddress>Base</pAddress><pIndex "
             "Offset='4'>Index</pIndex><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</"
             "pPort></IntReg>"
