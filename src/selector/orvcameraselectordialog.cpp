@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "orvcameraselectordialog.h"
 
+#include "base/cameratext.h"
 #include "cameratreemodel.h"
 #include "infopane.h"
 #include "ip4validator.h"
 #include "macaddress.h"
 #include "setipdialog.h"
 #include "ui_orvcameraselectordialog.h"
+#include "waitcursor.h"
 
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
-#include <QApplication>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
+#include <QShortcut>
 #include <QStandardItemModel>
 
 #include <functional>
@@ -33,15 +35,11 @@ const int buttonTextMargin = 10;
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
 const int64_t lastByteWithNeighbourAbove = 128;
 
-/// Shown while the camera system keeps the GUI thread waiting.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-};
+/// The most rows that the panes have, those of a GigE Vision interface and camera.
+const int interfaceFacts = 6;
+const int deviceFacts = 11;
+
+const int leastTreeRows = 4;
 
 OrvCam::DeviceInfo *cameraAt(const QModelIndex &index)
 {
@@ -118,6 +116,7 @@ public:
     OrvCameraSelectorDialogPrivate(OrvCameraSelectorDialog *dialog, OrvCam::System *system);
 
     void connectSignals();
+    void divide();
     void expandAll();
     void rescan();
 
@@ -166,6 +165,7 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     ui->cameraTreeView->setModel(model);
     connectSignals();
     expandAll();
+    divide();
 }
 
 void OrvCameraSelectorDialogPrivate::connectSignals()
@@ -177,6 +177,8 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
     QPushButton *rescanButton =
         ui->buttonBox->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
     QObject::connect(rescanButton, &QPushButton::clicked, &life, [this] { rescan(); });
+    QObject::connect(new QShortcut(Qt::Key_F5, q), &QShortcut::activated, rescanButton,
+                     &QPushButton::click);
 
     QObject::connect(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged,
                      &life, [this](const QModelIndex &current) {
@@ -188,6 +190,25 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
                      [this](const QPoint &position) { showContextMenu(position); });
     QObject::connect(ui->cameraTreeView, &QTreeView::collapsed, model, &CameraTreeModel::collapsed);
     QObject::connect(model, &DeviceTreeModel::modelReset, &life, [this] { expandAll(); });
+}
+
+/// Shows the device pane whole and some rows of the tree, then as much as fits of the interface
+/// pane; the tree has the rest.
+void OrvCameraSelectorDialogPrivate::divide()
+{
+    const int interfaceHeight = interfacePane->heightOf(interfaceFacts);
+    const int deviceHeight = devicePane->heightOf(deviceFacts);
+    const int rowHeight = ui->cameraTreeView->fontMetrics().height();
+    ui->cameraTreeView->setMinimumHeight((leastTreeRows + 1) * rowHeight); // and the header
+    ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
+    // Not more on account of a large font: the dialog has to fit on the screen.
+    ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / 2));
+    const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
+                       3 * ui->verticalLayout_2->spacing();
+    ui->splitter->setStretchFactor(0, 1);
+    ui->splitter->setStretchFactor(1, 0);
+    ui->splitter->setSizes(
+        {ui->cameraTreeView->minimumHeight(), labels + interfaceHeight + deviceHeight});
 }
 
 void OrvCameraSelectorDialogPrivate::expandAll()
@@ -227,7 +248,7 @@ void OrvCameraSelectorDialogPrivate::showCamera(const QModelIndex &index)
              {tr("Serial number"), camera.GetSerial()},
              {tr("Version"), camera.GetVersionText()},
              {tr("User name"), camera.GetUserName()}})
-        InfoPane::add(facts, fact.first, QString::fromUtf8(fact.second));
+        InfoPane::add(facts, fact.first, cameraText(fact.second));
     InfoPane::add(facts, tr("Access status"), accessText(camera.GetAccessState()),
                   !isUsable(camera));
     okButton->setEnabled(true);
@@ -249,9 +270,9 @@ void OrvCameraSelectorDialogPrivate::showInterface(OrvCam::Interface *interface)
         return;
     }
     QStandardItemModel *facts = InfoPane::makeFacts();
-    InfoPane::add(facts, tr("Description"), QString::fromUtf8(interface->GetDescription()));
+    InfoPane::add(facts, tr("Description"), cameraText(interface->GetDescription()));
     InfoPane::add(facts, tr("Type"), kindText(interface->GetTransportKind()));
-    InfoPane::add(facts, tr("Version"), QString::fromUtf8(interface->GetVersionText()));
+    InfoPane::add(facts, tr("Version"), cameraText(interface->GetVersionText()));
 
     const OrvGenParam::Array *parameters =
         isNetwork(interface) ? interface->GetParamArray() : nullptr;
