@@ -3,6 +3,7 @@
 
 #include <OrvCam.h>
 #include <OrvGenParam.h>
+#include <base/cameratext.h>
 
 #include <QAction>
 #include <QCloseEvent>
@@ -78,7 +79,7 @@ void CameraWindows::follow(OrvCam::Device *device)
     }
     m_tree.setParams(device->GetParamArray());
     unfoldTree();
-    const QString camera = QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName());
+    const QString camera = OrvGui::cameraText(device->GetDeviceInfo()->GetDisplayName());
     m_tree.setWindowTitle(camera);
     nameWindows(camera);
 }

@@ -2,6 +2,7 @@
 #include "featuresource.h"
 
 #include <aravis/nodemap.h>
+#include <base/cameratext.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -40,7 +41,7 @@ public:
     GenApi::INodeMap *nodeMap() const override { return m_map; }
     QString title() const override
     {
-        return QString::fromUtf8(m_device->GetDeviceInfo()->GetDisplayName());
+        return OrvGui::cameraText(m_device->GetDeviceInfo()->GetDisplayName());
     }
 
 private:

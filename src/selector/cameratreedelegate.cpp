@@ -34,7 +34,9 @@ bool CameraTreeDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
 {
     if (!event || !view || event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), reason(index), view->viewport(), option.rect);
+    // As rich text it is wrapped.
+    QToolTip::showText(event->globalPos(), OrvGui::literally(reason(index)), view->viewport(),
+                       option.rect);
     return true;
 }
 
