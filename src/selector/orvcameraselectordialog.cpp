@@ -230,8 +230,8 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
     QObject::connect(ui->setIpBtn, &QPushButton::clicked, &life, setIpOfCurrent);
     rescanButton = ui->buttonBox->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
     QObject::connect(rescanButton, &QPushButton::clicked, &life, [this] { rescan(); });
-    QObject::connect(new QShortcut(Qt::Key_F5, q), &QShortcut::activated, rescanButton,
-                     &QPushButton::click);
+    QObject::connect(new QShortcut(QKeySequence(Qt::Key_F5), q), &QShortcut::activated,
+                     rescanButton, &QPushButton::click);
 
     QObject::connect(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged,
                      &life, [this](const QModelIndex &current) {
@@ -595,6 +595,7 @@ void OrvCameraSelectorDialogPrivate::commandEnded()
 {
     isForcing = false;
     model->setPaused(false);
+    ui->cameraTreeView->viewport()->update(); // whether the camera can be opened now
     if (!std::exchange(isAbandoned, false))
         return;
     q->unsetCursor();

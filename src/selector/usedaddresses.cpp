@@ -60,7 +60,7 @@ unsigned int UsedAddresses::firstFree(unsigned int first, int step, unsigned int
     const unsigned int hostBits = ~mask;
     unsigned int address = first;
     // Only the known ones, the first and the last address of the subnet can be in the way.
-    for (int tries = m_owners.size() + 2; tries >= 0; --tries) {
+    for (auto tries = m_owners.size() + 2; tries >= 0; --tries) {
         if (fault(address, mask).isEmpty())
             return address;
         const unsigned int next = address + static_cast<unsigned int>(step);
