@@ -45,6 +45,9 @@ public:
 
     /// True once the user has typed or stepped; such an editor is no longer filled.
     bool isTouched() const { return m_isTouched; }
+
+    /// For an input method, whose text is not in the editor before it is complete.
+    void setTouched() { m_isTouched = true; }
     bool isToBeWritten() const;
     void setWritten();
 

@@ -98,7 +98,9 @@ void SafeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 bool SafeDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     auto *editor = qobject_cast<QWidget *>(watched);
-    const EditorState *state = editor ? EditorState::of(editor) : nullptr;
+    EditorState *state = editor ? EditorState::of(editor) : nullptr;
+    if (state && event->type() == QEvent::InputMethod)
+        state->setTouched();
     if (state && event->type() == QEvent::Wheel && !state->isTouched()) {
         event->ignore(); // the tree gets it
         return true;
