@@ -10,6 +10,7 @@
 // second figure is the time per feature, which should not grow with their number. The features are
 // in 100 categories, or in as many as asked for, or in categories of as many features as asked for.
 
+#include <GenApi/GenApi.h>
 #include <memorynodemap.h>
 #include <orvgenparamtreeview.h>
 
@@ -58,6 +59,8 @@ private:
             m_integers.push_back(&addInteger(name, i, parent));
             m_integers.back()->properties().visibility = visibility;
             m_integers.back()->dependsOn(*m_selector);
+            GenApi::Register(
+                m_integers.back(), [](GenApi::INode *) {}, GenApi::cbPostOutsideLock);
             break;
         case 1:
             addFloat(name, i, parent).properties().visibility = visibility;
