@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CameraTreeDelegate</name>
+    <message>
+        <source>This camera cannot be opened: it is in use, or access to it is denied.</source>
+        <translation>Diese Kamera kann nicht geöffnet werden: Sie wird benutzt, oder der Zugriff auf sie ist nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>This camera cannot be opened: its IP address is not in the subnet of the network adapter.</source>
+        <translation>Diese Kamera kann nicht geöffnet werden: Ihre IP-Adresse liegt nicht im Subnetz des Netzwerkadapters.</translation>
+    </message>
+</context>
+<context>
     <name>CameraWindows</name>
     <message>
         <source>Feature Tree</source>
@@ -1317,6 +1328,10 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <translation>Die angegebene IP-Konfiguration ist nicht richtig, die Kamera ist danach vielleicht nicht mehr auffindbar
 OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     </message>
+    <message>
+        <source>Waiting for the camera to come back with its new address...</source>
+        <translation>Warten, bis die Kamera sich mit ihrer neuen Adresse meldet …</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::SafeDelegate</name>
@@ -1408,6 +1423,41 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     <message>
         <source>IP Configuration OK</source>
         <translation>IP-Konfiguration in Ordnung</translation>
+    </message>
+</context>
+<context>
+    <name>UsedAddresses</name>
+    <message>
+        <source>The address %1 is that of the network adapter %2.</source>
+        <translation>Die Adresse %1 ist die des Netzwerkadapters %2.</translation>
+    </message>
+    <message>
+        <source>The camera %2 has the address %1.</source>
+        <translation>Die Kamera %2 hat die Adresse %1.</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it begins with 0.</source>
+        <translation>Keine Kamera kann die Adresse %1 haben: Sie beginnt mit 0.</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is a loopback address.</source>
+        <translation>Keine Kamera kann die Adresse %1 haben: Sie ist eine Loopback-Adresse.</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is a multicast address.</source>
+        <translation>Keine Kamera kann die Adresse %1 haben: Sie ist eine Multicast-Adresse.</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is a broadcast address.</source>
+        <translation>Keine Kamera kann die Adresse %1 haben: Sie ist eine Broadcast-Adresse.</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is reserved.</source>
+        <translation>Keine Kamera kann die Adresse %1 haben: Sie ist reserviert.</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is that of the subnet.</source>
+        <translation>Keine Kamera kann die Adresse %1 haben: Sie ist die des Subnetzes.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>CameraTreeDelegate</name>
+    <message>
+        <source>This camera cannot be opened: it is in use, or access to it is denied.</source>
+        <translation>このカメラは開けません。使用中であるか、アクセスが拒否されています。</translation>
+    </message>
+    <message>
+        <source>This camera cannot be opened: its IP address is not in the subnet of the network adapter.</source>
+        <translation>このカメラは開けません。IP アドレスがネットワークアダプターのサブネットにありません。</translation>
+    </message>
+</context>
+<context>
     <name>CameraWindows</name>
     <message>
         <source>Feature Tree</source>
@@ -1317,6 +1328,10 @@ Press OK to skip the IP Configuration, or press Ignore to confirm</source>
         <translation>指定された IP 設定は正しくありません。カメラを検出できなくなるおそれがあります
 IP 設定を中止するには [OK]、そのまま設定するには [無視] を押してください</translation>
     </message>
+    <message>
+        <source>Waiting for the camera to come back with its new address...</source>
+        <translation>カメラが新しいアドレスで応答するのを待っています...</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::SafeDelegate</name>
@@ -1408,6 +1423,41 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     <message>
         <source>IP Configuration OK</source>
         <translation>IP 設定は正常です</translation>
+    </message>
+</context>
+<context>
+    <name>UsedAddresses</name>
+    <message>
+        <source>The address %1 is that of the network adapter %2.</source>
+        <translation>アドレス %1 はネットワークアダプター %2 のものです。</translation>
+    </message>
+    <message>
+        <source>The camera %2 has the address %1.</source>
+        <translation>カメラ %2 がアドレス %1 を使用しています。</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it begins with 0.</source>
+        <translation>カメラにアドレス %1 は設定できません。0 で始まっています。</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is a loopback address.</source>
+        <translation>カメラにアドレス %1 は設定できません。ループバックアドレスです。</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is a multicast address.</source>
+        <translation>カメラにアドレス %1 は設定できません。マルチキャストアドレスです。</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is a broadcast address.</source>
+        <translation>カメラにアドレス %1 は設定できません。ブロードキャストアドレスです。</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is reserved.</source>
+        <translation>カメラにアドレス %1 は設定できません。予約されています。</translation>
+    </message>
+    <message>
+        <source>No camera can have the address %1: it is that of the subnet.</source>
+        <translation>カメラにアドレス %1 は設定できません。サブネット自体のアドレスです。</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include <Base/GCException.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
+#include <base/cameratext.h>
 
 #include <QAction>
 #include <QCloseEvent>
@@ -89,7 +90,7 @@ void CameraWindows::follow(OrvCam::Device *device)
     }
     m_tree.setParams(device->GetParamArray());
     unfoldTree();
-    m_camera = QString::fromUtf8(device->GetDeviceInfo()->GetDisplayName());
+    m_camera = OrvGui::cameraText(device->GetDeviceInfo()->GetDisplayName());
     m_tree.setWindowTitle(m_camera);
     nameWindows();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "featuresource.h"
 
+#include <base/cameratext.h>
 #include <description/nodemap.h>
 
 #include <QCoreApplication>
@@ -40,7 +41,7 @@ public:
     GenApi::INodeMap *nodeMap() const override { return m_map; }
     QString title() const override
     {
-        const auto name = QString::fromUtf8(m_device->GetDeviceInfo()->GetDisplayName());
+        const auto name = OrvGui::cameraText(m_device->GetDeviceInfo()->GetDisplayName());
         return m_isReadOnly ? FeatureSource::tr("%1 (read only)").arg(name) : name;
     }
     QString warning() const override
@@ -48,7 +49,7 @@ public:
         if (!m_isReadOnly)
             return QString();
         return FeatureSource::tr("The camera '%1' is read only: another program controls it.")
-            .arg(QString::fromUtf8(m_device->GetDeviceInfo()->GetId()));
+            .arg(OrvGui::cameraText(m_device->GetDeviceInfo()->GetId()));
     }
 
 private:

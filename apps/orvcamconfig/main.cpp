@@ -7,6 +7,7 @@
 #include "released.h"
 #include "translation.h"
 
+#include <base/cameratext.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
 
@@ -167,7 +168,7 @@ int pickCamera(OrvCam::System &system, const Options &options)
     while (picker.exec() == QDialog::Accepted) {
         if (auto device = openDevice(*picker.selectedCamera(), &error))
             return configure(std::move(device), options);
-        QMessageBox::critical(nullptr, QApplication::applicationName(), error);
+        QMessageBox::critical(nullptr, QApplication::applicationName(), OrvGui::literally(error));
     }
     return Success;
 }

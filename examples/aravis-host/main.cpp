@@ -36,7 +36,9 @@ std::unique_ptr<QWidget> makeWindow(OrvCam::Device *device, bool isMain)
 {
     if (isMain)
         return std::make_unique<OrvGui::OrvCamConfig>(device);
-    return std::make_unique<OrvGui::OrvGenParamTreeView>(device->GetParamArray(), nullptr);
+    auto tree = std::make_unique<OrvGui::OrvGenParamTreeView>(device->GetParamArray(), nullptr);
+    tree->resize(640, 800);
+    return tree;
 }
 
 int show(Grabber &grabber, bool isMain)
@@ -55,7 +57,6 @@ int show(Grabber &grabber, bool isMain)
             QStringLiteral("%1: %2 images").arg(title).arg(grabber.takeImages()));
     });
     timer.start(50);
-    window->resize(640, 800);
     window->show();
     return QApplication::exec();
 } // the window goes before the device, and both before the camera

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "camerainformation.h"
 
+#include "base/cameratext.h"
 #include "ui_orvcamconfigaboutdialog.h"
 
 #include <OrvCam/Codes.h>
@@ -78,7 +79,7 @@ void CameraInformation::adjust(OrvGenParam::Array *array)
     for (const Row &row : textRows) {
         QLabel *label = (*m_ui).*row.label;
         if (!array || !show(label, array->GetString(row.feature),
-                            [](const char *text) { return QString::fromUtf8(text); }))
+                            [](const char *text) { return cameraText(text); }))
             label->setText(none);
     }
     for (const Row &row : numberRows) {

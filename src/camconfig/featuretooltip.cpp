@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "featuretooltip.h"
 
+#include "base/cameratext.h"
+
 #include <OrvGenParam/Int.h>
 
 #include <QLabel>
@@ -16,7 +18,7 @@ const char given[] = "orvFeatureToolTip";
 
 QString escaped(const char *text)
 {
-    return QString::fromUtf8(text).simplified().toHtmlEscaped();
+    return cameraText(QString::fromUtf8(text).simplified()).toHtmlEscaped();
 }
 
 QString joined(QStringList lines)

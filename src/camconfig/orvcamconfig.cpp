@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfig.h"
 
+#include "base/cameratext.h"
 #include "camerainformation.h"
 #include "devicewatch.h"
 #include "featuretooltip.h"
@@ -275,8 +276,9 @@ OrvCam::Device *OrvCamConfigPrivate::pick()
     if (!picked) {
         auto *box = new QMessageBox(
             QMessageBox::Critical, QString(),
-            tr("The camera %1 cannot be opened!").arg(QString::fromUtf8(camera->GetDisplayName())),
+            tr("The camera %1 cannot be opened!").arg(cameraText(camera->GetDisplayName())),
             QMessageBox::Ok, q);
+        box->setTextFormat(Qt::PlainText);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->open();
     }
@@ -584,14 +586,13 @@ void OrvCamConfigPrivate::updateStatus()
     if (array) {
         const OrvGenParam::String *model = array->GetString("DeviceModelName");
         int32_t error = OrvCam::Success;
-        text = model ? QString::fromUtf8(model->GetValue(&error)) : QString();
+        text = model ? cameraText(model->GetValue(&error)) : QString();
         if (!model || error != OrvCam::Success)
             text = tr("Unknown");
         icon = QStringLiteral(":/icons/res/connected.ico");
     }
     statusText->setText(text);
-    const QString toolTip = QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
-    statusText->setToolTip(array ? toolTip : QString());
+    statusText->setToolTip(array ? literally(text) : QString());
     const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
     statusIcon->setPixmap(QIcon(icon).pixmap(extent));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigmapper.h"
 
+#include "base/cameratext.h"
 #include "featuretooltip.h"
 #include "heldinput.h"
 #include "iorvcamconfigintconverter.h"
@@ -468,7 +469,7 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QButtonGroup *buttons)
         all[i]->setVisible(entry);
         setValue(buttons, all[i], entry ? entry->GetValue() : idOfUnused(i), idOfUnused(i));
         if (entry)
-            all[i]->setText(symbolicOf(entry));
+            all[i]->setText(cameraText(symbolicOf(entry)));
     }
     if (param->IsAvailable() && param->IsWritable())
         setUsable(record, param, true);
@@ -519,7 +520,7 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QTabWidget *tabs)
     for (int i = 0; i < tabs->count(); ++i) {
         const EnumEntry *entry = entryAt(param, i);
         if (entry) {
-            tabs->setTabText(i, symbolicOf(entry));
+            tabs->setTabText(i, cameraText(symbolicOf(entry)));
             tabOf.insert(symbolicOf(entry), i);
         } else {
             tabs->widget(i)->hide();

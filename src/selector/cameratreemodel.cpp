@@ -9,7 +9,8 @@ CameraTreeModel::CameraTreeModel(OrvCam::System *system, QObject *parent)
 
 bool CameraTreeModel::canFetchMore(const QModelIndex &parent) const
 {
-    return !m_expanded.contains(parent.internalPointer()) && DeviceTreeModel::canFetchMore(parent);
+    return !m_isPaused && !m_expanded.contains(parent.internalPointer()) &&
+           DeviceTreeModel::canFetchMore(parent);
 }
 
 void CameraTreeModel::fetchMore(const QModelIndex &parent)

@@ -23,6 +23,10 @@ public:
     /// The interface's next expansion counts.
     void collapsed(const QModelIndex &interface);
 
+    /// Lets nothing be asked of the camera system for a while; for when it is busy.
+    void setPaused(bool isPaused) { m_isPaused = isPaused; }
+
 private:
+    bool m_isPaused = false;
     QSet<void *> m_expanded; ///< the interfaces that were asked since they were collapsed
 };

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "infopane.h"
 
+#include "base/cameratext.h"
 #include "treeviewresizer.h"
 
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QStandardItemModel>
 #include <QTreeView>
 
@@ -19,6 +21,19 @@ InfoPane::InfoPane(QTreeView *view) : m_view(view)
     new TreeViewResizer(view);
 }
 
+int InfoPane::heightOf(int rows) const
+{
+    QStandardItemModel *sample = makeFacts();
+    add(sample, QString(), QString());
+    setModel(sample);
+    const QHeaderView *header = m_view->header();
+    const int headerHeight = header->isHidden() ? 0 : header->sizeHint().height();
+    const int height = headerHeight + rows * m_view->sizeHintForRow(0) + 2 * m_view->frameWidth();
+    setModel(nullptr);
+    delete sample;
+    return height;
+}
+
 void InfoPane::clear()
 {
     QAbstractItemModel *facts = m_view->model();
@@ -31,7 +46,7 @@ void InfoPane::clear()
     facts->deleteLater();
 }
 
-void InfoPane::setModel(QAbstractItemModel *facts)
+void InfoPane::setModel(QAbstractItemModel *facts) const
 {
     m_view->setModel(facts);
     // The view and its header leave the selection models that they had behind.
@@ -62,7 +77,7 @@ void InfoPane::add(QStandardItemModel *facts, const QString &label, const QStrin
                    bool isWrong)
 {
     auto *valueItem = new QStandardItem(value);
-    valueItem->setToolTip(value); // the column may be too narrow for it
+    valueItem->setToolTip(OrvGui::literally(value)); // the column may be too narrow for it
     if (isWrong)
         valueItem->setBackground(QBrush(Qt::red));
     facts->appendRow({new QStandardItem(label), valueItem});

@@ -15,6 +15,9 @@ public:
     /// The view outlives the pane.
     explicit InfoPane(QTreeView *view);
 
+    /// The height of the view that shows so many facts without a scroll bar. Nothing is shown yet.
+    int heightOf(int rows) const;
+
     void clear();
 
     /// Replaces what is shown. The pane takes the model, which `makeFacts` has made.
@@ -28,7 +31,7 @@ public:
                     bool isWrong = false);
 
 private:
-    void setModel(QAbstractItemModel *facts);
+    void setModel(QAbstractItemModel *facts) const;
 
     QTreeView *m_view;
     int m_width = 0; ///< of the labels' column, when something was shown last

@@ -1,26 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "orvcameraselectordialog.h"
 
+#include "base/cameratext.h"
 #include "cameratreemodel.h"
+#include "forceipcommand.h"
 #include "infopane.h"
 #include "ip4validator.h"
 #include "macaddress.h"
 #include "setipdialog.h"
 #include "ui_orvcameraselectordialog.h"
+#include "usedaddresses.h"
+#include "waitcursor.h"
 
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
-#include <QApplication>
+#include <QEventLoop>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
+#include <QProgressDialog>
+#include <QShortcut>
 #include <QStandardItemModel>
+#include <QTimer>
 
 #include <functional>
 #include <initializer_list>
+#include <limits>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace OrvGui {
 
@@ -33,15 +42,14 @@ const int buttonTextMargin = 10;
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
 const int64_t lastByteWithNeighbourAbove = 128;
 
-/// Shown while the camera system keeps the GUI thread waiting.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-};
+/// The most rows that the panes have, those of a GigE Vision interface and camera.
+const int interfaceFacts = 6;
+const int deviceFacts = 11;
+
+const int leastTreeRows = 4;
+
+/// What is over sooner needs no dialog that shows it (milliseconds).
+const int progressDelay = 300;
 
 OrvCam::DeviceInfo *cameraAt(const QModelIndex &index)
 {
@@ -69,23 +77,55 @@ bool isUsable(const OrvCam::DeviceInfo &camera)
     return state != OrvCam::AccessNone && state != OrvCam::AccessSubnetMismatch;
 }
 
-/// The parameters of a network camera's interface, with that camera selected; null when that fails.
-/// The interface lists its cameras in the order of the tree.
-OrvGenParam::Array *parametersOf(const QModelIndex &camera)
+std::vector<OrvCam::DeviceInfo *> listedCameras(OrvCam::Interface &interface)
 {
-    int32_t error = OrvCam::Success;
-    OrvGenParam::Array *parameters = cameraAt(camera)->GetInterface()->GetParamArray(&error);
-    if (!parameters || error != OrvCam::Success ||
-        parameters->SetIntegerValue("DeviceSelector", camera.row()) != OrvCam::Success)
-        return nullptr;
-    return parameters;
+    std::vector<OrvCam::DeviceInfo *> cameras;
+    OrvCam::DeviceInfoList *list = interface.GetDeviceInfoSet();
+    if (!list)
+        return cameras;
+    for (auto *camera = list->GetFirst(); camera; camera = list->GetNext())
+        cameras.push_back(camera);
+    list->Release();
+    return cameras;
 }
 
-/// The adapter's neighbour in its subnet.
-int64_t proposedAddress(int64_t adapterAddress)
+/// Two adapters at one switch list the same cameras.
+bool isSame(const OrvCam::DeviceInfo &one, const OrvCam::DeviceInfo &other)
 {
-    return (adapterAddress & 0xff) <= lastByteWithNeighbourAbove ? adapterAddress + 1
-                                                                 : adapterAddress - 1;
+    return &one == &other ||
+           (one.GetInterface() != other.GetInterface() && qstrcmp(one.GetId(), other.GetId()) == 0);
+}
+
+OrvGenParam::Array *parametersOf(OrvCam::Interface &interface)
+{
+    int32_t error = OrvCam::Success;
+    OrvGenParam::Array *parameters = interface.GetParamArray(&error);
+    return error == OrvCam::Success ? parameters : nullptr;
+}
+
+/// False when that fails.
+bool selectCamera(OrvGenParam::Array &parameters, std::size_t position)
+{
+    return parameters.SetIntegerValue("DeviceSelector", static_cast<int64_t>(position)) ==
+           OrvCam::Success;
+}
+
+bool read(const OrvGenParam::Array &parameters, const char *feature, int64_t &value)
+{
+    int32_t error = OrvCam::Success;
+    value = parameters.GetIntegerValue(feature, &error);
+    return error == OrvCam::Success;
+}
+
+unsigned int number(int64_t address)
+{
+    return static_cast<unsigned int>(address);
+}
+
+/// Where an adapter's neighbour lies that is proposed to a camera.
+int stepFrom(int64_t adapterAddress)
+{
+    return (adapterAddress & 0xff) <= lastByteWithNeighbourAbove ? 1 : -1;
 }
 
 QString macText(int64_t address)
@@ -95,16 +135,15 @@ QString macText(int64_t address)
 
 QString ipText(int64_t address)
 {
-    return IP4Validator::getIpStr(static_cast<unsigned int>(address));
+    return IP4Validator::getIpStr(number(address));
 }
 
 /// A feature that cannot be read is left out.
 void addAddress(QStandardItemModel *facts, const OrvGenParam::Array &parameters,
                 const QString &label, const char *feature, AddressText toText)
 {
-    int32_t error = OrvCam::Success;
-    const int64_t address = parameters.GetIntegerValue(feature, &error);
-    if (error == OrvCam::Success)
+    int64_t address = 0;
+    if (read(parameters, feature, address))
         InfoPane::add(facts, label, toText(address));
 }
 
@@ -118,6 +157,7 @@ public:
     OrvCameraSelectorDialogPrivate(OrvCameraSelectorDialog *dialog, OrvCam::System *system);
 
     void connectSignals();
+    void divide();
     void expandAll();
     void rescan();
 
@@ -129,14 +169,23 @@ public:
     void updateButtons();
     void showContextMenu(const QPoint &position);
 
+    OrvGenParam::Array *parametersOfCamera(const QModelIndex &index) const;
+
     void setIp();
     bool ForceIP();
-    bool ForceIP(const QPointer<SetIpDialog> &dialog, OrvGenParam::Array &parameters);
-    static bool fill(SetIpDialog &dialog, const OrvGenParam::Array &parameters);
-    bool isWarningIgnored();
+    bool ForceIP(const QPointer<SetIpDialog> &dialog, const QPersistentModelIndex &camera);
+    UsedAddresses usedAddresses(const OrvCam::DeviceInfo &except) const;
+    static bool fill(SetIpDialog &dialog, const OrvGenParam::Array &parameters,
+                     const UsedAddresses &used);
+    bool isWarningIgnored(const QString &reason);
     QMessageBox::StandardButton ask(const QString &title, const QString &text,
-                                    QMessageBox::StandardButtons buttons);
-    static bool force(const SetIpDialog &dialog, OrvGenParam::Array &parameters);
+                                    QMessageBox::StandardButtons buttons,
+                                    const QString &reason = QString());
+    static bool setAddresses(const SetIpDialog &dialog, OrvGenParam::Array &parameters);
+    bool force(OrvGenParam::Array &parameters);
+    bool awaitCommand();
+    void abandonCommand();
+    void commandEnded();
 
     OrvCameraSelectorDialog *const q;
     const QObject life; // of this; what is connected ends with it, before the widgets go
@@ -144,8 +193,12 @@ public:
     QMenu *const contextMenu;
     CameraTreeModel *const model;
     QPushButton *okButton = nullptr;
+    QPushButton *rescanButton = nullptr;
     std::unique_ptr<InfoPane> interfacePane;
     std::unique_ptr<InfoPane> devicePane;
+    bool isForcing = false;   // then the camera system is the command's
+    bool isAbandoned = false; // the user has stopped waiting for it
+    std::unique_ptr<ForceIpCommand> command;
 };
 
 // OrvCameraSelectorDialogPrivate
@@ -166,6 +219,7 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     ui->cameraTreeView->setModel(model);
     connectSignals();
     expandAll();
+    divide();
 }
 
 void OrvCameraSelectorDialogPrivate::connectSignals()
@@ -174,9 +228,10 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
     QObject::connect(contextMenu->addAction(tr("Set IP address")), &QAction::triggered, &life,
                      setIpOfCurrent);
     QObject::connect(ui->setIpBtn, &QPushButton::clicked, &life, setIpOfCurrent);
-    QPushButton *rescanButton =
-        ui->buttonBox->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
+    rescanButton = ui->buttonBox->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
     QObject::connect(rescanButton, &QPushButton::clicked, &life, [this] { rescan(); });
+    QObject::connect(new QShortcut(QKeySequence(Qt::Key_F5), q), &QShortcut::activated,
+                     rescanButton, &QPushButton::click);
 
     QObject::connect(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged,
                      &life, [this](const QModelIndex &current) {
@@ -190,6 +245,25 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
     QObject::connect(model, &DeviceTreeModel::modelReset, &life, [this] { expandAll(); });
 }
 
+/// Shows the device pane whole and some rows of the tree, then as much as fits of the interface
+/// pane; the tree has the rest.
+void OrvCameraSelectorDialogPrivate::divide()
+{
+    const int interfaceHeight = interfacePane->heightOf(interfaceFacts);
+    const int deviceHeight = devicePane->heightOf(deviceFacts);
+    const int rowHeight = ui->cameraTreeView->fontMetrics().height();
+    ui->cameraTreeView->setMinimumHeight((leastTreeRows + 1) * rowHeight); // and the header
+    ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
+    // Not more on account of a large font: the dialog has to fit on the screen.
+    ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / 2));
+    const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
+                       3 * ui->verticalLayout_2->spacing();
+    ui->splitter->setStretchFactor(0, 1);
+    ui->splitter->setStretchFactor(1, 0);
+    ui->splitter->setSizes(
+        {ui->cameraTreeView->minimumHeight(), labels + interfaceHeight + deviceHeight});
+}
+
 void OrvCameraSelectorDialogPrivate::expandAll()
 {
     const WaitCursor waiting;
@@ -200,6 +274,8 @@ void OrvCameraSelectorDialogPrivate::expandAll()
 
 void OrvCameraSelectorDialogPrivate::rescan()
 {
+    if (isForcing)
+        return;
     model->rescan();
     FillInfo(ui->cameraTreeView->currentIndex());
     updateButtons();
@@ -227,12 +303,12 @@ void OrvCameraSelectorDialogPrivate::showCamera(const QModelIndex &index)
              {tr("Serial number"), camera.GetSerial()},
              {tr("Version"), camera.GetVersionText()},
              {tr("User name"), camera.GetUserName()}})
-        InfoPane::add(facts, fact.first, QString::fromUtf8(fact.second));
+        InfoPane::add(facts, fact.first, cameraText(fact.second));
     InfoPane::add(facts, tr("Access status"), accessText(camera.GetAccessState()),
                   !isUsable(camera));
     okButton->setEnabled(true);
 
-    const OrvGenParam::Array *parameters = isNetworkCamera(&camera) ? parametersOf(index) : nullptr;
+    const OrvGenParam::Array *parameters = parametersOfCamera(index);
     if (parameters) {
         addAddress(facts, *parameters, tr("MAC Address"), "GevDeviceMACAddress", macText);
         addAddress(facts, *parameters, tr("IP Address"), "GevDeviceIPAddress", ipText);
@@ -249,12 +325,12 @@ void OrvCameraSelectorDialogPrivate::showInterface(OrvCam::Interface *interface)
         return;
     }
     QStandardItemModel *facts = InfoPane::makeFacts();
-    InfoPane::add(facts, tr("Description"), QString::fromUtf8(interface->GetDescription()));
+    InfoPane::add(facts, tr("Description"), cameraText(interface->GetDescription()));
     InfoPane::add(facts, tr("Type"), kindText(interface->GetTransportKind()));
-    InfoPane::add(facts, tr("Version"), QString::fromUtf8(interface->GetVersionText()));
+    InfoPane::add(facts, tr("Version"), cameraText(interface->GetVersionText()));
 
     const OrvGenParam::Array *parameters =
-        isNetwork(interface) ? interface->GetParamArray() : nullptr;
+        isNetwork(interface) && !isForcing ? interface->GetParamArray() : nullptr;
     if (parameters) {
         addAddress(facts, *parameters, tr("MAC Address"), "GevInterfaceMACAddress", macText);
         addAddress(facts, *parameters, tr("IP Address"), "GevInterfaceSubnetIPAddress", ipText);
@@ -300,14 +376,32 @@ QString OrvCameraSelectorDialogPrivate::kindText(int32_t kind)
 void OrvCameraSelectorDialogPrivate::updateButtons()
 {
     const OrvCam::DeviceInfo *camera = q->selectedCamera();
-    okButton->setEnabled(camera && isUsable(*camera));
-    ui->setIpBtn->setEnabled(isNetworkCamera(camera));
+    okButton->setEnabled(camera && isUsable(*camera) && !isForcing);
+    ui->setIpBtn->setEnabled(isNetworkCamera(camera) && !isForcing);
 }
 
 void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
 {
     if (isNetworkCamera(cameraAt(ui->cameraTreeView->indexAt(position))))
         contextMenu->popup(ui->cameraTreeView->viewport()->mapToGlobal(position));
+}
+
+/// Those of a network camera's interface, with that camera selected; null when that fails.
+///
+/// The interface lists its cameras in the order of the tree, unless it has been asked to look for
+/// cameras elsewhere in the program: then another camera may have the row.
+OrvGenParam::Array *
+OrvCameraSelectorDialogPrivate::parametersOfCamera(const QModelIndex &index) const
+{
+    const OrvCam::DeviceInfo *camera = cameraAt(index);
+    if (!isNetworkCamera(camera) || isForcing)
+        return nullptr;
+    const auto row = static_cast<std::size_t>(index.row());
+    const auto listed = listedCameras(*camera->GetInterface());
+    if (row >= listed.size() || listed[row] != camera)
+        return nullptr;
+    OrvGenParam::Array *parameters = parametersOf(*camera->GetInterface());
+    return parameters && selectCamera(*parameters, row) ? parameters : nullptr;
 }
 
 void OrvCameraSelectorDialogPrivate::setIp()
@@ -318,15 +412,16 @@ void OrvCameraSelectorDialogPrivate::setIp()
 
 bool OrvCameraSelectorDialogPrivate::ForceIP()
 {
-    const QModelIndex current = ui->cameraTreeView->currentIndex();
-    if (!isNetworkCamera(cameraAt(current)))
+    const QPersistentModelIndex current = ui->cameraTreeView->currentIndex();
+    if (!isNetworkCamera(cameraAt(current)) || isForcing)
         return false;
-    OrvGenParam::Array *parameters = parametersOf(current);
+    const UsedAddresses used = usedAddresses(*cameraAt(current));
+    const OrvGenParam::Array *parameters = parametersOfCamera(current);
     if (!parameters)
         return false;
 
     const QPointer<SetIpDialog> dialog(new SetIpDialog(q));
-    const bool isFine = fill(*dialog, *parameters) && ForceIP(dialog, *parameters);
+    const bool isFine = fill(*dialog, *parameters, used) && ForceIP(dialog, current);
     delete dialog;
     return isFine;
 }
@@ -334,59 +429,93 @@ bool OrvCameraSelectorDialogPrivate::ForceIP()
 /// While one of the dialogs is open the picker may be destroyed, and with it the dialogs and this
 /// object. That counts as cancelled.
 bool OrvCameraSelectorDialogPrivate::ForceIP(const QPointer<SetIpDialog> &dialog,
-                                             OrvGenParam::Array &parameters)
+                                             const QPersistentModelIndex &camera)
 {
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!dialog || !isAccepted)
         return true;
-    const bool fits = dialog->isAddressValid() && dialog->isMaskValid();
-    if (!fits && !isWarningIgnored())
-        return true;
-    if (!force(*dialog, parameters))
+    if (!cameraAt(camera))
         return false;
-    // Not followed by updateButtons(): what the last scan found out of the camera is outdated now,
-    // and OK stays enabled.
-    FillInfo(ui->cameraTreeView->currentIndex());
-    return true;
+    const QString reason =
+        usedAddresses(*cameraAt(camera)).fault(dialog->ipAddress(), dialog->Netmask());
+    const bool fits = dialog->isAddressValid() && dialog->isMaskValid() && reason.isEmpty();
+    if (!fits && !isWarningIgnored(reason))
+        return true;
+
+    OrvGenParam::Array *parameters = parametersOfCamera(camera);
+    int64_t mac = 0;
+    if (!parameters || !read(*parameters, "GevDeviceMACAddress", mac) ||
+        macText(mac) != dialog->macAddress())
+        return false;
+    return setAddresses(*dialog, *parameters) && force(*parameters);
 }
 
-bool OrvCameraSelectorDialogPrivate::fill(SetIpDialog &dialog, const OrvGenParam::Array &parameters)
+UsedAddresses OrvCameraSelectorDialogPrivate::usedAddresses(const OrvCam::DeviceInfo &except) const
 {
+    UsedAddresses used;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        OrvCam::Interface *interface = interfaceAt(model->index(row, 0));
+        OrvGenParam::Array *parameters = isNetwork(interface) ? parametersOf(*interface) : nullptr;
+        if (!parameters)
+            continue;
+        int64_t address = 0;
+        if (read(*parameters, "GevInterfaceSubnetIPAddress", address))
+            used.addAdapter(number(address), cameraText(interface->GetDescription()));
+        const auto listed = listedCameras(*interface);
+        for (std::size_t i = 0; i < listed.size(); ++i) {
+            if (!isSame(*listed[i], except) && selectCamera(*parameters, i) &&
+                read(*parameters, "GevDeviceIPAddress", address))
+                used.addCamera(number(address), cameraText(listed[i]->GetDisplayName()));
+        }
+    }
+    return used;
+}
+
+bool OrvCameraSelectorDialogPrivate::fill(SetIpDialog &dialog, const OrvGenParam::Array &parameters,
+                                          const UsedAddresses &used)
+{
+    int64_t mask = 0;
     using Setter = std::function<void(int64_t)>;
-    const auto number = [](int64_t value) { return static_cast<unsigned int>(value); };
     for (const auto &field : std::initializer_list<std::pair<const char *, Setter>>{
              {"GevInterfaceMACAddress", [&](int64_t v) { dialog.setNicMACAddress(v); }},
              {"GevInterfaceSubnetIPAddress", [&](int64_t v) { dialog.setNicIPAddress(number(v)); }},
-             {"GevInterfaceSubnetMask", [&](int64_t v) { dialog.setNicNetmask(number(v)); }},
+             {"GevInterfaceSubnetMask",
+              [&](int64_t v) {
+                  mask = v;
+                  dialog.setNicNetmask(number(v));
+              }},
              {"GevDeviceMACAddress", [&](int64_t v) { dialog.setMACAddress(v); }},
              {"GevInterfaceSubnetIPAddress",
-              [&](int64_t v) { dialog.setIPAddress(number(proposedAddress(v))); }},
+              [&](int64_t v) {
+                  const int step = stepFrom(v);
+                  dialog.setIPAddress(used.firstFree(number(v + step), step, number(mask)));
+              }},
              {"GevInterfaceSubnetMask", [&](int64_t v) { dialog.setNetmask(number(v)); }},
              {"GevDeviceForceGateway", [&](int64_t v) { dialog.setGateway(number(v)); }}}) {
-        int32_t error = OrvCam::Success;
-        const int64_t value = parameters.GetIntegerValue(field.first, &error);
-        if (error != OrvCam::Success)
+        int64_t value = 0;
+        if (!read(parameters, field.first, value))
             return false;
         field.second(value);
     }
     return true;
 }
 
-bool OrvCameraSelectorDialogPrivate::isWarningIgnored()
+bool OrvCameraSelectorDialogPrivate::isWarningIgnored(const QString &reason)
 {
     return ask(tr("IP Configuration Warning"),
                tr("Specified IP Configuraion is not correct, camera may become undiscoverable\n"
                   "Press OK to skip the IP Configuration, or press Ignore to confirm"),
-               QMessageBox::Ok | QMessageBox::Ignore) == QMessageBox::Ignore;
+               QMessageBox::Ok | QMessageBox::Ignore, reason) == QMessageBox::Ignore;
 }
 
 /// OK is for those who only want to get on. No button when the picker is destroyed meanwhile.
 QMessageBox::StandardButton
 OrvCameraSelectorDialogPrivate::ask(const QString &title, const QString &text,
-                                    QMessageBox::StandardButtons buttons)
+                                    QMessageBox::StandardButtons buttons, const QString &reason)
 {
     const QPointer<QMessageBox> box(
         new QMessageBox(QMessageBox::Critical, title, text, buttons, q));
+    box->setInformativeText(literally(reason));
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(QMessageBox::Ok);
     const int pressed = box->exec();
@@ -396,17 +525,83 @@ OrvCameraSelectorDialogPrivate::ask(const QString &title, const QString &text,
     return static_cast<QMessageBox::StandardButton>(pressed);
 }
 
-bool OrvCameraSelectorDialogPrivate::force(const SetIpDialog &dialog,
-                                           OrvGenParam::Array &parameters)
+bool OrvCameraSelectorDialogPrivate::setAddresses(const SetIpDialog &dialog,
+                                                  OrvGenParam::Array &parameters)
 {
-    const WaitCursor waiting;
-    const auto set = [&](const char *feature, unsigned int value) {
-        return parameters.SetIntegerValue(feature, value) == OrvCam::Success;
+    const auto set = [&](const char *feature, unsigned int address) {
+        return parameters.SetIntegerValue(feature, address) == OrvCam::Success;
     };
     return set("GevDeviceForceIPAddress", dialog.ipAddress()) &&
            set("GevDeviceForceSubnetMask", dialog.Netmask()) &&
-           set("GevDeviceForceGateway", dialog.Gateway()) &&
-           parameters.ExecuteCommand("GevDeviceForceIP") == OrvCam::Success;
+           set("GevDeviceForceGateway", dialog.Gateway());
+}
+
+/// True also when the user gives up waiting, or the picker is destroyed meanwhile.
+bool OrvCameraSelectorDialogPrivate::force(OrvGenParam::Array &parameters)
+{
+    command = std::make_unique<ForceIpCommand>(parameters);
+    if (!awaitCommand())
+        return true;
+    command->wait();
+    if (!command->hasSucceeded())
+        return false;
+    // Not followed by updateButtons(): what the last scan found out of the camera is outdated now,
+    // and OK stays enabled.
+    FillInfo(ui->cameraTreeView->currentIndex());
+    return true;
+}
+
+/// False when the user gives up, or the picker is destroyed.
+bool OrvCameraSelectorDialogPrivate::awaitCommand()
+{
+    const QPointer<QProgressDialog> progress(new QProgressDialog(q));
+    progress->setWindowTitle(tr("Set IP Address"));
+    progress->setLabelText(tr("Waiting for the camera to come back with its new address..."));
+    progress->setRange(0, 0);
+    progress->setMinimumDuration(std::numeric_limits<int>::max());
+    progress->setWindowModality(Qt::WindowModal);
+    QObject::connect(command.get(), &QThread::finished, &life, [this] { commandEnded(); });
+    QObject::connect(command.get(), &QThread::finished, progress, &QDialog::accept);
+    model->setPaused(true);
+    isForcing = true;
+    command->start();
+
+    QEventLoop loop;
+    QObject::connect(command.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    QObject::connect(progress, &QObject::destroyed, &loop, &QEventLoop::quit);
+    QTimer::singleShot(progressDelay, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+
+    if (progress && isForcing)
+        progress->exec();
+    if (!progress)
+        return false;
+    delete progress;
+    if (isForcing)
+        abandonCommand();
+    return !isForcing;
+}
+
+/// Until the command has ended, the picker only shows what it knows.
+void OrvCameraSelectorDialogPrivate::abandonCommand()
+{
+    isAbandoned = true;
+    q->setCursor(Qt::BusyCursor);
+    rescanButton->setEnabled(false);
+    updateButtons();
+}
+
+void OrvCameraSelectorDialogPrivate::commandEnded()
+{
+    isForcing = false;
+    model->setPaused(false);
+    ui->cameraTreeView->viewport()->update(); // whether the camera can be opened now
+    if (!std::exchange(isAbandoned, false))
+        return;
+    q->unsetCursor();
+    rescanButton->setEnabled(true);
+    FillInfo(ui->cameraTreeView->currentIndex());
+    updateButtons();
 }
 
 // OrvCameraSelectorDialog

@@ -69,6 +69,11 @@ unsigned int SetIpDialog::Gateway() const
     return addressIn(ui->defaultGatewayLineEdit);
 }
 
+QString SetIpDialog::macAddress() const
+{
+    return ui->macAddressLineEdit->text();
+}
+
 void SetIpDialog::setIPAddress(unsigned int address)
 {
     setAddress(ui->ipAddressLineEdit, address);

@@ -27,6 +27,9 @@ public:
     unsigned int Netmask() const;
     unsigned int Gateway() const;
 
+    /// The camera's, as it is shown.
+    QString macAddress() const;
+
     /// The camera's address lies in the adapter's subnet and is not the adapter's own. The verdicts
     /// are those of the last change of the camera's address or mask.
     bool isAddressValid() const { return m_addressValid; }

@@ -198,7 +198,7 @@ private slots:
     void choosing_data();
     void choosing();
     void listOpensOnce();
-    void escapeAndClickElsewhere();
+    void clickElsewhere();
     void untouchedEditors();
     void levelWhileEditing();
     void onlyTheUsersChanges();
@@ -593,16 +593,6 @@ void TestOrvGenParamTreeView::choosing()
     QTRY_VERIFY(!tree.driver.isEditing());
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(tree.written(row.feature), before);
-
-    // Escape closes the list, then the editor; nothing is written.
-    tree.driver.tree().setCurrentIndex(QModelIndex());
-    tree.driver.click(row.feature);
-    tree.driver.press(row.key);
-    tree.driver.press(Qt::Key_Escape);
-    QVERIFY(!QApplication::activePopupWidget());
-    tree.driver.press(Qt::Key_Escape);
-    QTRY_VERIFY(!tree.driver.isEditing());
-    QCOMPARE(tree.written(row.feature), before);
 }
 
 // Writing a choice, and a change by the camera, make the node report; the list must not flash.
@@ -632,7 +622,7 @@ void TestOrvGenParamTreeView::listOpensOnce()
     }
 }
 
-void TestOrvGenParamTreeView::escapeAndClickElsewhere()
+void TestOrvGenParamTreeView::clickElsewhere()
 {
     SampleNodeMap map;
     auto &width = map.integer("Width");
@@ -640,16 +630,9 @@ void TestOrvGenParamTreeView::escapeAndClickElsewhere()
     TreeDriver driver(view);
     driver.show();
 
-    driver.click("Width");
-    driver.type("640");
-    driver.press(Qt::Key_Escape);
-    QTRY_VERIFY(!driver.isEditing());
-    QCOMPARE(width.writes(), 0);
-
     // A click into the editor does not end it, one on another row does, and so does one in another
     // window of the program.
-    driver.click("Width"); // the current cell: Qt waits whether this becomes a double click
-    QTRY_VERIFY(driver.editor<QSpinBox>());
+    driver.click("Width");
     auto *spinBox = driver.editor<QSpinBox>();
     spinBox->setValue(640);
     TreeDriver::click(*spinBox, spinBox->rect().center());

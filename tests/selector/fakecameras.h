@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QMap>
 #include <QStringList>
+#include <QThread>
 
 #include <memory>
 #include <vector>
@@ -21,6 +22,8 @@ public:
     QMap<QByteArray, int64_t> values;
     QMap<QByteArray, int32_t> errors; ///< by feature; what is neither here nor there is not found
     QStringList writes;               ///< "feature=value", a command's name alone
+    QMap<int64_t, int64_t> addresses; ///< "GevDeviceIPAddress", by row, where it differs
+    unsigned commandTime = 0;         ///< milliseconds
 
     uint32_t GetCount() const override { return 0; }
     OrvGenParam::Param *GetParam(uint32_t) const override { return nullptr; }
@@ -38,6 +41,9 @@ public:
         const int32_t code = codeOf(name);
         if (error)
             *error = code;
+        if (qstrcmp(name, "GevDeviceIPAddress") == 0 &&
+            addresses.contains(values.value("DeviceSelector")))
+            return addresses.value(values.value("DeviceSelector"));
         return values.value(name);
     }
     int32_t SetIntegerValue(const char *name, int64_t value) override
@@ -50,6 +56,7 @@ public:
     }
     int32_t ExecuteCommand(const char *name) override
     {
+        QThread::msleep(commandTime);
         writes << name;
         return codeOf(name);
     }

@@ -8,6 +8,10 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QStyledItemDelegate>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QtTest>
 
 using namespace OrvCam;
@@ -23,6 +27,7 @@ private slots:
     void cleanup() { m_dialog.reset(); }
     void opens();
     void looksOncePerExpansion();
+    void hostileTexts();
     void accessStates();
     void interfaceKinds();
     void panes();
@@ -31,8 +36,12 @@ private slots:
     void listsThatLie();
     void contextMenu();
     void proposedAddress();
+    void proposesFreeAddress();
     void forcesAddress();
     void warnsOfBadAddress();
+    void saysWhatIsWrong();
+    void rowsMoved();
+    void waitsForCamera();
     void forcingFails();
     void destroyedMeanwhile();
 
@@ -165,8 +174,7 @@ void TestCameraSelectorDialog::opens()
     QVERIFY(!okButton()->isEnabled());
     for (int row = 0; row < 4; ++row)
         QVERIFY(tree()->isExpanded(interfaceRow(row)));
-    // It is enabled and there is nothing to set.
-    QVERIFY(force({failureMessage()}));
+    QVERIFY(!setIpButton()->isEnabled());
 
     QTest::keyClick(tree(), Qt::Key_Down);
     QCOMPARE(tree()->currentIndex(), interfaceRow(0));
@@ -188,6 +196,51 @@ void TestCameraSelectorDialog::looksOncePerExpansion()
     m_dialog->resize(700, 900);
     QTest::qWait(50);
     QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
+
+    // The user looks for cameras where there are none, and where there are.
+    const auto arrow = [this](int row) {
+        const QRect text = tree()->visualRect(interfaceRow(row));
+        return QPoint(text.left() / 2, text.center().y());
+    };
+    const auto click = [&](int row) {
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, arrow(row));
+    };
+    click(2);
+    click(0);
+    click(0);
+    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 1}));
+    tree()->setCurrentIndex(interfaceRow(3));
+    QTest::keyClick(tree(), Qt::Key_Right);
+    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 2}));
+    m_empty->add("Late");
+    QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                       tree()->visualRect(interfaceRow(2)).center());
+    QCOMPARE(looks(), (QList<size_t>{1, 1, 3, 2}));
+    QCOMPARE(tree()->model()->rowCount(interfaceRow(2)), 1);
+    QTest::keyClick(m_dialog.get(), Qt::Key_F5);
+    QCOMPARE(looks(), (QList<size_t>{2, 2, 4, 3}));
+}
+
+/// Nothing is laid out, opened or made several lines of.
+void TestCameraSelectorDialog::hostileTexts()
+{
+    const char *const text = "<img src=x>\n\x01\u202E\u200F\u2028.";
+    const QString shown = QString::fromUtf8("<img src=x>\uFFFD\uFFFD\uFFFD\u200F\uFFFD.");
+    auto *camera = static_cast<FakeCamera *>(m_network->cameras.entries[0]);
+    camera->displayName = camera->vendor = camera->userName = m_network->description = text;
+    open();
+    tree()->setCurrentIndex(networkCamera(0));
+    QCOMPARE(networkCamera(0).data().toString(), QString::fromUtf8(text));
+    const QLocale locale;
+    auto *delegate = static_cast<QStyledItemDelegate *>(tree()->itemDelegate());
+    QCOMPARE(delegate->displayText(networkCamera(0).data(), locale), shown);
+    QCOMPARE(interfaceFacts().first(), "Description: " + shown);
+    const QModelIndex vendor = devicePane()->model()->index(1, 1);
+    QCOMPARE(vendor.data().toString(), shown);
+    const QString toolTip = vendor.data(Qt::ToolTipRole).toString();
+    QVERIFY(Qt::mightBeRichText(toolTip));
+    QCOMPARE(QTextDocumentFragment::fromHtml(toolTip).toPlainText(), shown);
+    QCOMPARE(devicePane()->model()->index(2, 1).data(Qt::ToolTipRole).toString(), QString());
 }
 
 void TestCameraSelectorDialog::accessStates()
@@ -207,6 +260,12 @@ void TestCameraSelectorDialog::accessStates()
         open();
         const QModelIndex index = camera(1, 0);
         tree()->setCurrentIndex(index);
+        QHelpEvent help(QEvent::ToolTip, QPoint(), tree()->viewport()->mapToGlobal(QPoint()));
+        QStyleOptionViewItem option;
+        option.rect = tree()->visualRect(index);
+        QToolTip::hideText();
+        tree()->itemDelegate()->helpEvent(&help, tree(), option, index);
+        QCOMPARE(QToolTip::text().isEmpty(), row.isUsable);
         QCOMPARE(deviceFacts().last(), QString("Access status: ") + row.text);
         const QVariant background = devicePane()->model()->index(6, 1).data(Qt::BackgroundRole);
         QCOMPARE(background, row.isUsable ? QVariant() : QVariant(QBrush(Qt::red)));
@@ -395,13 +454,45 @@ void TestCameraSelectorDialog::proposedAddress()
                      QString("IP Configuration OK"));
             dialog.reject();
         }}));
-        QCOMPARE(m_parameters->writes, QStringList{"DeviceSelector=1"});
+        QCOMPARE(m_parameters->writes.last(), QString("DeviceSelector=1"));
+        QVERIFY(m_parameters->writes.filter("Force").isEmpty());
         QVERIFY(!okButton()->isEnabled());
+    }
+}
+
+void TestCameraSelectorDialog::proposesFreeAddress()
+{
+    const struct
+    {
+        quint32 adapter, mask;
+        QList<quint32> taken;
+        const char *proposal;
+    } rows[] = {
+        {0xC0A8010A, 0xFFFFFF00, {0xC0A8010B, 0xC0A8010C}, "192.168.1.13"},
+        {0xC0A801FE, 0xFFFFFF00, {0xC0A801FD}, "192.168.1.252"},
+        {0xC0A80102, 0xFFFFFFFC, {}, "192.168.1.1"}, // round the broadcast address
+        {0xC0A80102, 0xFFFFFFFC, {0xC0A80101}, "192.168.1.3"},
+    };
+    for (const auto &row : rows) {
+        m_parameters->values["GevInterfaceSubnetIPAddress"] = row.adapter;
+        m_parameters->values["GevInterfaceSubnetMask"] = row.mask;
+        m_parameters->addresses.clear();
+        while (m_network->cameras.entries.size() < 4)
+            m_network->add("Further");
+        for (int i = 0; i < row.taken.size(); ++i)
+            m_parameters->addresses[i + 1] = row.taken[i];
+        open();
+        tree()->setCurrentIndex(networkCamera(0));
+        QVERIFY(force({[&](QDialog &dialog) {
+            QCOMPARE(field(dialog, "ipAddressLineEdit")->text(), QString(row.proposal));
+            dialog.reject();
+        }}));
     }
 }
 
 void TestCameraSelectorDialog::forcesAddress()
 {
+    m_parameters->addresses[0] = 0xC0A80163;
     open();
     tree()->setCurrentIndex(networkCamera(1));
     QVERIFY(force({[&](QDialog &dialog) {
@@ -410,7 +501,7 @@ void TestCameraSelectorDialog::forcesAddress()
         m_parameters->values["GevDeviceIPAddress"] = 0xC0A8014D;
         dialog.accept();
     }}));
-    QCOMPARE(m_parameters->writes,
+    QCOMPARE(m_parameters->writes.mid(m_parameters->writes.size() - 6),
              (QStringList{"DeviceSelector=1", "GevDeviceForceIPAddress=3232235853",
                           "GevDeviceForceSubnetMask=4294967040", "GevDeviceForceGateway=3232235777",
                           "GevDeviceForceIP", "DeviceSelector=1"}));
@@ -431,14 +522,141 @@ void TestCameraSelectorDialog::warnsOfBadAddress()
     };
     open();
     tree()->setCurrentIndex(networkCamera(0));
-    const QStringList nothing = {"DeviceSelector=0"};
     QVERIFY(force({enterWrongAddress, warning(QMessageBox::Ok)}));
-    QCOMPARE(m_parameters->writes, nothing);
+    QVERIFY(m_parameters->writes.filter("Force").isEmpty());
     QVERIFY(force({wrongMask, [](QDialog &box) { QTest::keyClick(&box, Qt::Key_Escape); }}));
-    QCOMPARE(m_parameters->writes, nothing);
+    QVERIFY(m_parameters->writes.filter("Force").isEmpty());
     QVERIFY(force({wrongMask, warning(QMessageBox::Ignore)}));
     QVERIFY(m_parameters->writes.contains("GevDeviceForceSubnetMask=4294967168"));
     QVERIFY(m_parameters->writes.contains("GevDeviceForceIP"));
+}
+
+void TestCameraSelectorDialog::saysWhatIsWrong()
+{
+    const struct
+    {
+        const char *address, *reason;
+    } rows[] = {
+        {"192.168.1.10", "The address 192.168.1.10 is that of the network adapter Network."},
+        {"192.168.1.66", "The camera <b>Far</b>\uFFFD has the address 192.168.1.66."},
+        {"0.0.0.0", "it begins with 0."},
+        {"127.0.0.1", "it is a loopback address."},
+        {"224.0.0.1", "it is a multicast address."},
+        {"255.255.255.255", "it is a broadcast address."},
+        {"192.168.1.255", "it is a broadcast address."},
+        {"192.168.1.0", "it is that of the subnet."},
+    };
+    static_cast<FakeCamera *>(m_network->cameras.entries[1])->displayName = "<b>Far</b>\n";
+    m_parameters->addresses[1] = 0xC0A80142;
+    open();
+    tree()->setCurrentIndex(networkCamera(0));
+    for (const auto &row : rows) {
+        const auto enter = [&](QDialog &dialog) {
+            field(dialog, "ipAddressLineEdit")->setText(row.address);
+            dialog.accept();
+        };
+        const auto read = [&](QDialog &dialog) {
+            const QString text = dynamic_cast<QMessageBox &>(dialog).informativeText();
+            const QString shown = QTextDocumentFragment::fromHtml(text).toPlainText();
+            QVERIFY2(shown.contains(QString::fromUtf8(row.reason)), qPrintable(shown));
+            warning(QMessageBox::Ok)(dialog);
+        };
+        QVERIFY(force({enter, read}));
+        QVERIFY(m_parameters->writes.filter("Force").isEmpty());
+    }
+    // Its own address, and one that another camera has when that is wanted all the same.
+    for (const auto &last : {QString("169.254.7.21"), QString("192.168.1.66")}) {
+        m_parameters->values["GevInterfaceSubnetIPAddress"] = 0xA9FE070A;
+        m_parameters->values["GevInterfaceSubnetMask"] = 0xFFFF0000;
+        QList<ModalVisitor::Action> dialogs = {[&](QDialog &dialog) {
+            field(dialog, "ipAddressLineEdit")->setText(last);
+            dialog.accept();
+        }};
+        if (last != "169.254.7.21")
+            dialogs << warning(QMessageBox::Ignore);
+        QVERIFY(force(dialogs));
+        QVERIFY(m_parameters->writes.contains("GevDeviceForceIP"));
+    }
+}
+
+/// Another part of the program has looked for cameras.
+void TestCameraSelectorDialog::rowsMoved()
+{
+    const auto swap = [this] {
+        std::swap(m_network->cameras.entries[0], m_network->cameras.entries[1]);
+    };
+    const auto accept = [](QDialog &dialog) { dialog.accept(); };
+    const QList<std::function<void()>> moves = {
+        swap, [this] { m_network->cameras.entries.resize(1); },
+        [this] { m_parameters->values["GevDeviceMACAddress"] = 0x001B2C3D4E60; }};
+    for (const auto &move : moves) {
+        init();
+        open();
+        tree()->setCurrentIndex(networkCamera(1));
+        QVERIFY(force({[&](QDialog &dialog) {
+                           move();
+                           accept(dialog);
+                       },
+                       failureMessage()}));
+        QVERIFY(m_parameters->writes.filter("Force").isEmpty());
+        QVERIFY(!okButton()->isEnabled());
+    }
+    init();
+    open();
+    swap();
+    tree()->setCurrentIndex(networkCamera(1));
+    QCOMPARE(deviceFacts().size(), 7); // no addresses rather than those of another camera
+    QVERIFY(force({failureMessage()}));
+
+    // A window that has selected another camera meanwhile.
+    init();
+    open();
+    tree()->setCurrentIndex(networkCamera(1));
+    QVERIFY(force({[&](QDialog &dialog) {
+        m_parameters->SetIntegerValue("DeviceSelector", 0);
+        dialog.accept();
+    }}));
+    const int command = m_parameters->writes.indexOf("GevDeviceForceIP");
+    QCOMPARE(m_parameters->writes.mid(0, command).filter("DeviceSelector").last(),
+             QString("DeviceSelector=1"));
+}
+
+void TestCameraSelectorDialog::waitsForCamera()
+{
+    const auto accept = [](QDialog &dialog) { dialog.accept(); };
+    m_parameters->commandTime = 700;
+    open();
+    tree()->setCurrentIndex(networkCamera(1));
+    int turns = 0;
+    QTimer ticks;
+    connect(&ticks, &QTimer::timeout, &ticks, [&] { ++turns; });
+    ticks.start(20);
+    bool isProgress = false;
+    QVERIFY(
+        force({accept, [&](QDialog &dialog) { isProgress = dialog.inherits("QProgressDialog"); }}));
+    QVERIFY(isProgress && turns >= 15); // the window is alive
+    QVERIFY(okButton()->isEnabled());
+
+    // The user does not wait. Nothing is asked of the camera system until it is free again.
+    QVERIFY(force({accept, [](QDialog &dialog) { dialog.findChild<QPushButton *>()->click(); }}));
+    QVERIFY(!m_parameters->writes.contains("GevDeviceForceIP"));
+    QVERIFY(!okButton()->isEnabled() && !setIpButton()->isEnabled() &&
+            !rescanButton()->isEnabled());
+    const size_t looks = m_network->refreshes.size();
+    tree()->setCurrentIndex(networkCamera(0));
+    QCOMPARE(deviceFacts().size(), 7);
+    tree()->collapse(interfaceRow(2));
+    tree()->expand(interfaceRow(2));
+    QTest::keyClick(m_dialog.get(), Qt::Key_F5);
+    QCOMPARE(m_network->refreshes.size(), looks);
+    QCOMPARE(m_empty->refreshes.size(), size_t(1));
+    QTRY_VERIFY(setIpButton()->isEnabled() && okButton()->isEnabled() &&
+                rescanButton()->isEnabled());
+    QVERIFY(m_parameters->writes.contains("GevDeviceForceIP"));
+    QCOMPARE(deviceFacts().size(), 11);
+
+    QVERIFY(force({accept, [this](QDialog &) { m_dialog.reset(); }}));
+    QVERIFY(!m_dialog && m_parameters->writes.contains("GevDeviceForceIP"));
 }
 
 void TestCameraSelectorDialog::forcingFails()
@@ -448,13 +666,13 @@ void TestCameraSelectorDialog::forcingFails()
         const char *feature;
         bool whileFilling;
         int writes;
-    } rows[] = {{"DeviceSelector", true, 1},
-                {"GevInterfaceMACAddress", true, 1},
-                {"GevDeviceForceGateway", true, 1},
-                {"GevDeviceForceIPAddress", false, 2},
-                {"GevDeviceForceSubnetMask", false, 3},
-                {"GevDeviceForceGateway", false, 4},
-                {"GevDeviceForceIP", false, 5}};
+    } rows[] = {{"DeviceSelector", true, 0},
+                {"GevInterfaceMACAddress", true, 0},
+                {"GevDeviceForceGateway", true, 0},
+                {"GevDeviceForceIPAddress", false, 1},
+                {"GevDeviceForceSubnetMask", false, 2},
+                {"GevDeviceForceGateway", false, 3},
+                {"GevDeviceForceIP", false, 4}};
     for (const auto &row : rows) {
         m_parameters->errors.clear();
         open();
@@ -468,7 +686,7 @@ void TestCameraSelectorDialog::forcingFails()
                 dialog.accept();
             });
         QVERIFY2(force(dialogs), row.feature);
-        QCOMPARE(m_parameters->writes.size(), row.writes);
+        QCOMPARE(m_parameters->writes.filter("Force").size(), row.writes);
         QVERIFY(!okButton()->isEnabled());
     }
 }

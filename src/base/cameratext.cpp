@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "cameratext.h"
+
+namespace OrvGui {
+
+namespace {
+
+/// Embeddings, overrides and isolates reorder what follows them. The marks of direction, which
+/// names in Arabic and Hebrew need, do not.
+bool changesDirection(QChar character)
+{
+    const ushort code = character.unicode();
+    return (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
+}
+
+bool isHarmful(QChar character)
+{
+    switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return changesDirection(character);
+    }
+}
+
+} // namespace
+
+QString cameraText(const QString &text)
+{
+    QString shown = text;
+    for (QChar &character : shown) {
+        if (isHarmful(character))
+            character = QChar(QChar::ReplacementCharacter);
+    }
+    return shown;
+}
+
+QString cameraText(const char *utf8)
+{
+    return cameraText(QString::fromUtf8(utf8));
+}
+
+QString literally(const QString &text)
+{
+    return text.isEmpty() ? text : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
+} // namespace OrvGui

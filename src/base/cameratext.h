@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace OrvGui {
+
+/// What a camera says of itself, made fit for a label, a cell or a title: one line, in which a
+/// control character, a line separator or a change of the writing direction is a U+FFFD. Never
+/// needed for what goes back to the camera.
+///
+/// The result is still plain text. Where Qt guesses the format, as in tool tips and message boxes,
+/// set `Qt::PlainText` or use `literally`.
+QString cameraText(const QString &text);
+
+/// The same of UTF-8; empty for null.
+QString cameraText(const char *utf8);
+
+/// Rich text that shows exactly this text, whatever markup it looks like; empty when that is empty.
+QString literally(const QString &text);
+
+} // namespace OrvGui
