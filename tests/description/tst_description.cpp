@@ -7,6 +7,8 @@
 
 #include <thread>
 
+#include <unistd.h>
+
 using OrvDescription::Description;
 using OrvDescription::DescriptionNode;
 namespace Limits = OrvCameraIo::Limits;
@@ -56,6 +58,7 @@ private slots:
     void contents();
     void refused_data();
     void refused();
+    void silence();
     void limits();
     void sharing();
 };
@@ -119,6 +122,21 @@ void TestDescription::refused()
 {
     QFETCH(QByteArray, xml);
     QTEST(errorOf(xml), "message");
+}
+
+void TestDescription::silence()
+{
+    QTemporaryFile output;
+    QVERIFY(output.open());
+    const int before = dup(STDERR_FILENO);
+    dup2(output.handle(), STDERR_FILENO);
+    // The second half of a character in UTF-16 is missing.
+    const QByteArray name("\xfe\xff\0<\0a\0/\0>\xd8\0\0s\0t", 16);
+    const QStringList errors = {errorOf(name), errorOf("<a>&b;</a>"), errorOf("\xff\xff")};
+    dup2(before, STDERR_FILENO);
+    close(before);
+    QVERIFY(!errors.contains("accepted"));
+    QCOMPARE(output.size(), qint64(0));
 }
 
 void TestDescription::limits()
