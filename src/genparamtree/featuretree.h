@@ -15,6 +15,9 @@ class FeatureTree : public QTreeView
 public:
     using QTreeView::QTreeView;
 
+    /// Until the layout is done, expanding and collapsing cost nothing.
+    using QTreeView::scheduleDelayedItemsLayout;
+
     void keyboardSearch(const QString &search) override;
 
 protected:

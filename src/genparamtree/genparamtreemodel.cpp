@@ -16,9 +16,6 @@
 #include <QStringList>
 #include <QVector>
 
-#include <typeinfo>
-#include <utility>
-
 namespace {
 
 const int nameColumn = 0;
@@ -86,69 +83,6 @@ void setEnumeration(GenApi::IEnumeration &enumeration, const QVariant &data)
         enumeration.FromString(toUtf8(data.toString()), true);
 }
 
-/// Finds a feature in the tree below a category. Most features are no categories, and a failing
-/// `dynamic_cast` through the interfaces is what such a search would spend its time on; so it is
-/// made only once for each class of node that the search meets.
-class FeatureSearch
-{
-public:
-    struct Place
-    {
-        bool found = false;
-        int row = -1;
-        /// The categories on the way down with their rows, the outermost first.
-        std::vector<std::pair<GenApi::IValue *, int>> ancestors;
-    };
-
-    FeatureSearch(const GenApi::IValue *value, const AcyclicFeatures &features)
-        : m_value(value), m_features(features)
-    {
-    }
-
-    Place run(const GenApi::ICategory &top)
-    {
-        search(top);
-        return std::move(m_place);
-    }
-
-private:
-    bool search(const GenApi::ICategory &category)
-    {
-        const GenApi::FeatureList_t features = m_features.of(category);
-        for (size_t row = 0; row < features.size(); ++row) {
-            GenApi::IValue *feature = features[row];
-            if (feature == m_value) {
-                m_place.found = true;
-                m_place.row = static_cast<int>(row);
-                return true;
-            }
-            if (!isCategory(feature))
-                continue;
-            m_place.ancestors.emplace_back(feature, static_cast<int>(row));
-            if (search(dynamic_cast<GenApi::ICategory &>(*feature)))
-                return true;
-            m_place.ancestors.pop_back();
-        }
-        return false;
-    }
-
-    bool isCategory(GenApi::IValue *feature)
-    {
-        const std::type_info &type = typeid(*feature);
-        for (const auto &known : m_knownTypes) {
-            if (known.first == &type)
-                return known.second;
-        }
-        m_knownTypes.emplace_back(&type, dynamic_cast<GenApi::ICategory *>(feature) != nullptr);
-        return m_knownTypes.back().second;
-    }
-
-    const GenApi::IValue *m_value;
-    const AcyclicFeatures &m_features;
-    Place m_place;
-    std::vector<std::pair<const std::type_info *, bool>> m_knownTypes;
-};
-
 } // namespace
 
 // GenParamTreeModelPrivate
@@ -161,7 +95,7 @@ void GenParamTreeModelPrivate::Init(GenParamTreeModel *model)
     try {
         const GenApi::CCategoryPtr root = CategoryFromIndex(QModelIndex());
         if (root)
-            features.cutCircles(*root);
+            places.cutCircles(*root);
         RegisterCallbackForChildren(root);
     } catch (...) {
         DeRegisterCallbacks();
@@ -186,7 +120,7 @@ void GenParamTreeModelPrivate::RegisterCallbackForChildren(const GenApi::CCatego
     if (!category)
         return;
 
-    const GenApi::FeatureList_t children = features.of(*category);
+    const GenApi::FeatureList_t children = places.listOf(*category);
     for (size_t i = 0; i < children.size(); ++i) {
         callbackHandles.push_back(GenApi::Register(children[i]->GetNode(), *this,
                                                    &GenParamTreeModelPrivate::NodeCallback,
@@ -207,47 +141,23 @@ void GenParamTreeModelPrivate::NodeCallback(GenApi::INode *node)
     const auto *value = dynamic_cast<GenApi::IValue *>(node);
     if (!value || OrvGui::SelectorDetour::isUnderWay())
         return;
-    const QModelIndex cell = findIndexByValueClass(value, valueColumn, QModelIndex());
+    const QModelIndex cell = findIndexByValueClass(value, valueColumn);
     if (cell.isValid())
         emit q->dataChanged(cell, cell);
 }
 
-QModelIndex GenParamTreeModelPrivate::findIndexByValueClass(const GenApi::IValue *value, int column,
-                                                            const QModelIndex &parent) const
+QModelIndex GenParamTreeModelPrivate::findIndexByValueClass(const GenApi::IValue *value,
+                                                            int column) const
 {
-    const GenApi::CCategoryPtr category = CategoryFromIndex(parent);
-    if (!category)
+    const GenApi::CCategoryPtr root = CategoryFromIndex(QModelIndex());
+    if (!root)
         return QModelIndex();
-
-    const FeatureSearch::Place place = FeatureSearch(value, features).run(*category);
-    if (!place.found)
+    const FeaturePlaces::Place place = places.find(value, *root);
+    if (place.row < 0)
         return QModelIndex();
     if (column >= 0)
         return q->createIndex(place.row, column, const_cast<GenApi::IValue *>(value));
-    if (place.ancestors.empty())
-        return parent;
-    return q->createIndex(place.ancestors.back().second, nameColumn, place.ancestors.back().first);
-}
-
-QModelIndex GenParamTreeModelPrivate::parentOf(const GenApi::IValue *value) const
-{
-    const auto known = parents.find(value);
-    if (known == parents.end())
-        return findIndexByValueClass(value, -1, QModelIndex());
-    const Parent &parent = known->second;
-    return parent.value ? q->createIndex(parent.row, nameColumn, parent.value) : QModelIndex();
-}
-
-void GenParamTreeModelPrivate::fillParents(const GenApi::ICategory &category,
-                                           GenApi::IValue *parent, int parentRow)
-{
-    const GenApi::FeatureList_t children = features.of(category);
-    for (size_t row = 0; row < children.size(); ++row) {
-        GenApi::IValue *child = children[row];
-        parents.emplace(child, Parent{parent, parentRow});
-        if (const GenApi::CCategoryPtr childCategory{child})
-            fillParents(*childCategory, child, static_cast<int>(row));
-    }
+    return place.parent ? findIndexByValueClass(place.parent, nameColumn) : QModelIndex();
 }
 
 QVariant GenParamTreeModelPrivate::nameData(const QModelIndex &index, GenApi::INode *node,
@@ -337,19 +247,6 @@ bool GenParamTreeModelPrivate::write(GenApi::IValue *value, const QVariant &data
     }
 }
 
-// GenParamTreeModel::ParentTable
-
-GenParamTreeModel::ParentTable::ParentTable(const GenParamTreeModel &model) : m_model(model)
-{
-    if (const GenApi::CCategoryPtr root = model.d->CategoryFromIndex(QModelIndex()))
-        model.d->fillParents(*root, nullptr, -1);
-}
-
-GenParamTreeModel::ParentTable::~ParentTable()
-{
-    m_model.d->parents.clear();
-}
-
 // GenParamTreeModel
 
 GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent)
@@ -380,16 +277,14 @@ QModelIndex GenParamTreeModel::index(int row, int column, const QModelIndex &par
     if (!category)
         return QModelIndex();
 
-    const GenApi::FeatureList_t features = d->features.of(*category);
-    if (static_cast<size_t>(row) >= features.size())
-        return QModelIndex();
-    return createIndex(row, column, features[static_cast<size_t>(row)]);
+    GenApi::IValue *feature = d->places.at(*category, row);
+    return feature ? createIndex(row, column, feature) : QModelIndex();
 }
 
 QModelIndex GenParamTreeModel::parent(const QModelIndex &index) const
 {
     const GenApi::IValue *value = GenParamTreeModelPrivate::valueFromIndex(index);
-    return value ? d->parentOf(value) : QModelIndex();
+    return value ? d->findIndexByValueClass(value, -1) : QModelIndex();
 }
 
 int GenParamTreeModel::rowCount(const QModelIndex &parent) const
@@ -397,7 +292,7 @@ int GenParamTreeModel::rowCount(const QModelIndex &parent) const
     if (parent.column() > nameColumn)
         return 0;
     const GenApi::CCategoryPtr category = d->CategoryFromIndex(parent);
-    return category ? static_cast<int>(d->features.of(*category).size()) : 0;
+    return category ? d->places.count(*category) : 0;
 }
 
 int GenParamTreeModel::columnCount(const QModelIndex &parent) const

@@ -23,10 +23,11 @@ Q_DECLARE_METATYPE(GenApi::IValue *)
 /// `setData`. The tree hangs from the category "Root"; without one, or without a node map, the
 /// model is empty.
 ///
-/// The model keeps no copy of the tree, it asks the node map every time. A feature that several
-/// categories list has a row in each, but `parent` and change notifications know only the first of
-/// them in depth-first order. Features that join the tree after the model was made are shown but
-/// not watched.
+/// The model keeps no copy of the tree, it asks the node map every time; only the list of a
+/// category of more than 500 features may be as old as the last `rowCount` or the last turn of the
+/// event loop. A feature that several categories list has a row in each, but `parent` and change
+/// notifications know only the first of them in depth-first order. Features that join the tree
+/// after the model was made are shown but not watched.
 ///
 /// The node map must outlive the model. The model belongs to the GUI thread; `dataChanged` is
 /// emitted on whatever thread changed the node.
@@ -35,21 +36,6 @@ class GenParamTreeModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    /// While one lives, the model answers `parent` from a table instead of by a search from the
-    /// root. For an operation that asks for very many parents, and during which no category changes
-    /// its features. Must not outlive the model.
-    class ParentTable
-    {
-    public:
-        explicit ParentTable(const GenParamTreeModel &model);
-        ~ParentTable();
-        ParentTable(const ParentTable &) = delete;
-        ParentTable &operator=(const ParentTable &) = delete;
-
-    private:
-        const GenParamTreeModel &m_model;
-    };
-
     explicit GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent = nullptr);
 
     /// Works on the node map that the array comes from.

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "acyclicfeatures.h"
+#include "featureplaces.h"
 #include "genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>
 
-#include <unordered_map>
 #include <vector>
 
 /// Private part of `GenParamTreeModel`, and the client of its node callbacks.
@@ -26,16 +25,9 @@ public:
     void DeRegisterCallbacks();
     void NodeCallback(GenApi::INode *node);
 
-    /// The cell of the feature's first occurrence below `parent`, depth first; column -1 asks for
-    /// the parent of that row instead.
-    QModelIndex findIndexByValueClass(const GenApi::IValue *value, int column,
-                                      const QModelIndex &parent) const;
-
-    /// The parent index of a feature's first occurrence.
-    QModelIndex parentOf(const GenApi::IValue *value) const;
-
-    /// Notes where everything in a category has its parent, first occurrences first.
-    void fillParents(const GenApi::ICategory &category, GenApi::IValue *parent, int parentRow);
+    /// The cell of the feature's first occurrence, depth first; column -1 asks for the parent of
+    /// that row instead.
+    QModelIndex findIndexByValueClass(const GenApi::IValue *value, int column) const;
 
     QVariant nameData(const QModelIndex &index, GenApi::INode *node, int role) const;
     static QVariant valueData(GenApi::IValue *value, int role);
@@ -46,16 +38,8 @@ public:
     /// False for a kind of feature that cannot be written.
     static bool write(GenApi::IValue *value, const QVariant &data);
 
-    /// A category with its own row; null for the root.
-    struct Parent
-    {
-        GenApi::IValue *value;
-        int row;
-    };
-
     GenParamTreeModel *q = nullptr;
     GenApi::INodeMap *nodeMap = nullptr;
-    AcyclicFeatures features;
+    mutable FeaturePlaces places;
     std::vector<GenApi::CallbackHandleType> callbackHandles;
-    std::unordered_map<const GenApi::IValue *, Parent> parents; ///< empty but for a `ParentTable`
 };

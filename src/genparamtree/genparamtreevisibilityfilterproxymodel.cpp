@@ -6,8 +6,6 @@
 #include <Base/GCException.h>
 #include <GenApi/INode.h>
 
-#include <memory>
-
 GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
@@ -16,10 +14,6 @@ GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel(Q
 void GenParamTreeVisibilityFilterProxyModel::setFilterVisibility(int _visibility)
 {
     m_filterVisibility = _visibility;
-    // Each range of rows that goes makes Qt ask for the parents of all expanded rows.
-    std::unique_ptr<GenParamTreeModel::ParentTable> parents;
-    if (const auto *model = qobject_cast<GenParamTreeModel *>(sourceModel()))
-        parents.reset(new GenParamTreeModel::ParentTable(*model));
     invalidateFilter();
 }
 

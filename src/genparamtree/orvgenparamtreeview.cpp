@@ -214,6 +214,7 @@ void OrvGenParamTreeViewPrivate::applyLevel(GenParamTreeVisibilityFilterProxyMod
     endEditing();
     if (!alive) // a host has replaced the tree in reaction to what was written
         return;
+    ui->treeView->scheduleDelayedItemsLayout();
     forgetExpandedLeaves(QModelIndex());
     proxy->setFilterVisibility(ui->cbVisibility->currentIndex());
     // When a whole category goes, the current row goes without a signal.

@@ -8,6 +8,9 @@
 #include <QPalette>
 #include <QtTest>
 
+#include <algorithm>
+#include <array>
+#include <random>
 #include <stdexcept>
 
 using GenICam::TimeoutException;
@@ -33,17 +36,30 @@ void collect(const QAbstractItemModel &model, const QModelIndex &parent, QModelI
     }
 }
 
-/// A category that may be unable to say what it contains.
-class SilentCategory : public OrvGenApi::MemoryCategory
+/// The parent of each feature's first row below an index.
+void noteParents(const QAbstractItemModel &model, const QModelIndex &parent,
+                 QHash<void *, QModelIndex> &parents)
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        if (!parents.contains(index.internalPointer()))
+            parents.insert(index.internalPointer(), parent);
+        noteParents(model, index, parents);
+    }
+}
+
+/// A category whose features change, or that may be unable to tell them.
+class ChangingCategory : public OrvGenApi::MemoryCategory
 {
 public:
     using MemoryCategory::MemoryCategory;
-    void GetFeatures(GenApi::FeatureList_t &features) const override
+    void GetFeatures(GenApi::FeatureList_t &list) const override
     {
         if (isSilent)
             throwTimeout();
-        MemoryCategory::GetFeatures(features);
+        list = features;
     }
+    GenApi::FeatureList_t features;
     bool isSilent = false;
 };
 
@@ -68,7 +84,8 @@ class TestGenParamTreeModel : public QObject
 private slots:
     void structure();
     void featureListedTwice();
-    void parentTable();
+    void changedCategories();
+    void changedLongCategory();
     void circles();
     void names();
     void values_data();
@@ -133,38 +150,69 @@ void TestGenParamTreeModel::featureListedTwice()
         QCOMPARE(change.at(0).toModelIndex(), first);
 }
 
-// The table says what a search says, also of a feature in two places, and only while it lives.
-void TestGenParamTreeModel::parentTable()
+// A parent is what a search from the root finds, however the lists have changed.
+void TestGenParamTreeModel::changedCategories()
 {
-    SampleNodeMap map;
-    map.addCategory("Favourites").addFeature(map.number("Gain"));
+    OrvGenApi::MemoryNodeMap map;
     OrvGenApi::NodeProperties properties;
-    properties.name = "Silent";
-    SilentCategory silent(map, properties);
-    map.root().addFeature(silent);
-    const GenParamTreeModel model(&map);
-    QModelIndexList indexes;
-    collect(model, QModelIndex(), indexes);
-    QVERIFY(indexes.size() > 40);
-    QModelIndexList parents;
-    for (const QModelIndex &index : indexes)
-        parents << index.parent();
-    {
-        const GenParamTreeModel::ParentTable table(model);
-        for (int i = 0; i < indexes.size(); ++i)
-            QCOMPARE(indexes.at(i).parent(), parents.at(i));
-    }
-    const auto moved = [&] { return nameOf(valueCell(model, "Gain").parent()); };
-    map.category("ImageFormatControl").addFeature(map.number("Gain"));
-    QCOMPARE(moved(), QString("Image Format Control"));
+    properties.name = "Changing";
+    ChangingCategory first(map, properties);
+    ChangingCategory inner(map, properties);
+    ChangingCategory last(map, properties);
+    std::vector<OrvGenApi::MemoryInteger *> integers;
+    map.root().addFeature(first);
+    for (const char *name : {"A", "B", "C", "D"})
+        integers.push_back(&map.addInteger(name, 0, "Everything"));
+    map.root().addFeature(last);
+    map.root().addFeature(inner);
 
-    silent.isSilent = true;
-    {
-        const GenParamTreeModel::ParentTable table(model);
-        QCOMPARE(moved(), QString("Image Format Control"));
+    const GenParamTreeModel model(&map);
+    connect(&model, &GenParamTreeModel::dataChanged, this, [&model](const QModelIndex &cell) {
+        QCOMPARE(model.index(cell.row(), 1, cell.parent()), cell);
+    });
+    std::mt19937 random(1);
+    for (int change = 0; change < 1000; ++change) {
+        ChangingCategory &changed = *std::array{&first, &inner, &last}[random() % 3];
+        changed.isSilent = random() % 8 == 0;
+        changed.features.clear();
+        for (unsigned count = random() % 4; count > 0; --count)
+            changed.features.push_back(integers[random() % integers.size()]);
+        if (&changed != &inner && random() % 2)
+            changed.features.insert(changed.features.begin(), &inner);
+
+        for (OrvGenApi::MemoryInteger *integer : integers)
+            integer->changed();
+        QHash<void *, QModelIndex> parents;
+        noteParents(model, QModelIndex(), parents);
+        QModelIndexList cells;
+        collect(model, QModelIndex(), cells);
+        for (const QModelIndex &cell : cells)
+            QCOMPARE(cell.parent(), parents.value(cell.internalPointer()));
     }
-    map.category("DeviceControl").addFeature(map.number("Gain"));
-    QCOMPARE(moved(), QString("Device Control"));
+}
+
+// Its list is asked for anew with its length, and in the next turn of the event loop.
+void TestGenParamTreeModel::changedLongCategory()
+{
+    OrvGenApi::MemoryNodeMap map;
+    OrvGenApi::NodeProperties properties;
+    ChangingCategory category(map, properties);
+    map.root().addFeature(category);
+    for (int i = 0; i < 1000; ++i)
+        category.features.push_back(&map.addInteger("Feature" + std::to_string(i), i, ""));
+    GenParamTreeModel model(&map);
+    const QModelIndex parent = model.index(0, 0);
+    const auto valueAt = [&](int row) { return model.index(row, 1, parent).data().toInt(); };
+
+    QCOMPARE(valueAt(999), 999);
+    std::reverse(category.features.begin(), category.features.end());
+    QCoreApplication::processEvents();
+    QCOMPARE(valueAt(0), 999);
+    category.features.erase(category.features.begin());
+    QCOMPARE(model.rowCount(parent), 999);
+    QCOMPARE(valueAt(0), 998);
+    category.features.push_back(&map.addInteger("Feature1000", 1000, ""));
+    QCOMPARE(valueAt(999), 1000);
 }
 
 // A category in itself is left out where a walk would come back to it, and nothing else is.
