@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "treelookahead.h"
+
+#include "featurecell.h"
+#include "genparamtreemodel_p.h"
+#include "parameterdescription.h"
+
+#include <GenApi/GenApi.h>
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace OrvGui {
+
+namespace {
+
+using Ask = TreeLookAhead::Ask;
+
+/// What is missing again as soon as it was read, because it outdates faster than that or because it
+/// was changed in between, is read again after so many milliseconds.
+const int repetitionPause = 100;
+
+bool covers(const std::map<GenApi::IValue *, TreeLookAhead::Extent> &extents,
+            GenApi::IValue *feature, TreeLookAhead::Extent extent)
+{
+    const auto found = extents.find(feature);
+    return found != extents.end() && found->second >= extent;
+}
+
+void askForCell(GenApi::IValue *feature)
+{
+    featureText(feature, GenParamTreeModelPrivate::valueData(feature, Qt::DisplayRole), QLocale());
+}
+
+template<typename Number>
+void addLimits(Number *number, std::vector<Ask> *asks)
+{
+    if (!number)
+        return;
+    asks->push_back([number] { number->GetMin(); });
+    asks->push_back([number] { number->GetMax(); });
+    asks->push_back([number] {
+        const GenApi::EIncMode mode = number->GetIncMode();
+        if (mode == GenApi::listIncrement)
+            number->GetListOfValidValues(true);
+        else if (mode == GenApi::fixedIncrement)
+            number->GetInc();
+    });
+}
+
+void addEntries(GenApi::IEnumeration *enumeration, std::vector<Ask> *asks)
+{
+    if (!enumeration)
+        return;
+    GenApi::NodeList_t entries;
+    enumeration->GetEntries(entries);
+    for (size_t i = 0; i < entries.size(); ++i)
+        asks->push_back([entry = entries[i]] { entry->GetAccessMode(); });
+}
+
+/// A function of its own for all that can be asked independently of the rest.
+void addAsks(GenApi::IValue *feature, TreeLookAhead::Extent extent, std::vector<Ask> *asks)
+{
+    asks->push_back([feature] { askForCell(feature); });
+    if (extent != TreeLookAhead::Everything)
+        return;
+    addLimits(dynamic_cast<GenApi::IInteger *>(feature), asks);
+    addLimits(dynamic_cast<GenApi::IFloat *>(feature), asks);
+    addEntries(dynamic_cast<GenApi::IEnumeration *>(feature), asks);
+    asks->push_back([feature] { escapedDescription(feature); });
+}
+
+} // namespace
+
+TreeLookAhead *TreeLookAhead::create(GenApi::INodeMap *map, std::function<Features()> shown,
+                                     QObject *parent)
+{
+    auto *lookAhead = dynamic_cast<OrvGenParam::LookAhead *>(map);
+    return lookAhead ? new TreeLookAhead(*lookAhead, std::move(shown), parent) : nullptr;
+}
+
+TreeLookAhead::TreeLookAhead(OrvGenParam::LookAhead &map, std::function<Features()> shown,
+                             QObject *parent)
+    : QObject(parent), m_map(map), m_shown(std::move(shown))
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &TreeLookAhead::fetch);
+}
+
+bool TreeLookAhead::look(GenApi::IValue *feature, Extent extent, const Ask &ask)
+{
+    if (m_map.look(ask))
+        return true;
+    note(feature, extent);
+    return false;
+}
+
+bool TreeLookAhead::knowsEverything(GenApi::IValue *feature)
+{
+    std::vector<Ask> asks;
+    addAsks(feature, Everything, &asks);
+    return look(feature, Everything, [&asks] {
+        for (const Ask &ask : asks) {
+            try {
+                ask();
+            } catch (const GenICam::GenericException &) {
+                // That the node fails is known.
+            }
+        }
+    });
+}
+
+void TreeLookAhead::note(GenApi::IValue *feature, Extent extent)
+{
+    Extent &missed = m_missed.emplace(feature, extent).first->second;
+    missed = std::max(missed, extent);
+    const bool isRepetition = !m_isUnderWay && m_sinceEnd.isValid() &&
+                              m_sinceEnd.elapsed() < repetitionPause &&
+                              covers(m_asked, feature, extent);
+    const int pause = isRepetition ? repetitionPause : 0;
+    if (!m_timer.isActive() || pause < m_timer.interval())
+        m_timer.start(pause);
+}
+
+void TreeLookAhead::fetch()
+{
+    Extents missed = std::move(m_missed);
+    m_missed.clear();
+    if (m_isUnderWay) {
+        const bool isComing = std::all_of(missed.begin(), missed.end(), [this](const auto &entry) {
+            return covers(m_asked, entry.first, entry.second);
+        });
+        if (isComing)
+            return;
+        const Features shown = m_shown();
+        for (const auto &[feature, extent] : m_asked) {
+            if (!shown.count(feature))
+                continue;
+            Extent &wanted = missed.emplace(feature, extent).first->second;
+            wanted = std::max(wanted, extent);
+        }
+    }
+    std::vector<Ask> asks;
+    for (const auto &[feature, extent] : missed)
+        addAsks(feature, extent, &asks);
+    m_asked = std::move(missed);
+    m_isUnderWay = true;
+    m_request = m_map.fetch(std::move(asks), [this] { finish(); });
+}
+
+void TreeLookAhead::finish()
+{
+    m_isUnderWay = false;
+    m_sinceEnd.start();
+    emit arrived(); // in reaction to which we may be destroyed
+}
+
+} // namespace OrvGui
