@@ -15,10 +15,6 @@ using OrvCameraIo::Status;
 
 namespace {
 
-/// So many batches without an answer, with other commands answered in between, mean that the
-/// camera drops batches.
-constexpr int mostUnanswered = 2;
-
 void setWords(ReadTransfer &read, const uint32_t *words)
 {
     read.bytes.clear();
@@ -55,9 +51,7 @@ void BatchRead::run()
         if (isWithinReach(m_batch[i]))
             items.push_back(i);
     }
-    ReadPlan::Rules rules = m_knowledge.rules;
-    rules.canConcatenate = rules.canConcatenate && m_knowledge.registers.limit > 1;
-    const ReadPlan plan(m_batch, items, rules, m_knowledge.memory);
+    const ReadPlan plan(m_batch, items, m_rules, m_knowledge.memory);
 
     const Kind registers{m_knowledge.registers, &BatchRead::transferRegisters};
     const Kind memory{m_knowledge.memoryBlock, &BatchRead::transferMemory};
@@ -74,7 +68,7 @@ void BatchRead::run()
 /// Otherwise the result is clear already.
 bool BatchRead::isWithinReach(ReadTransfer &read) const
 {
-    read.status = Status::NoAnswer;
+    read.status = Status::NotSent;
     read.bytes.clear();
     if (read.range.size == 0)
         read.status = Status::Done;
@@ -99,12 +93,11 @@ BatchRead::Result BatchRead::readTogether(const Kind &kind, const Items &items)
         return readInParts(kind, items, command.limit, command.limit);
 
     const Answer answer = (this->*kind.transfer)(items);
-    if (answer.status == Status::NoAnswer) {
-        if (++command.unanswered >= mostUnanswered)
-            command.limit = 1;
+    if (!isAnswer(answer.status)) {
+        for (const std::size_t *item = items.first; item != items.last; ++item)
+            m_batch[*item].status = answer.status;
         return Result::NoAnswer;
     }
-    command.unanswered = 0;
     const bool isDone = answer.status == Status::Done;
     const Result result = isDone ? Result::Complete : afterRefusal(kind, items, answer);
     command.worked = std::max(command.worked, isDone ? items.size() : answer.done);
@@ -178,8 +171,7 @@ BatchRead::Result BatchRead::readEachAlone(const Items &items)
 BatchRead::Result BatchRead::readAlone(std::size_t item)
 {
     ReadTransfer &read = m_batch[item];
-    const ReadPlan::Rules &rules = m_knowledge.rules;
-    if (ReadPlan::isWord(read.range) && (rules.isWordNumber || rules.canConcatenate)) {
+    if (ReadPlan::isWord(read.range) && m_rules.usesRegisters()) {
         const auto reply = m_channel.readRegisters({static_cast<uint32_t>(read.range.address)});
         read.status = reply.status;
         if (reply.isDone())
@@ -187,7 +179,7 @@ BatchRead::Result BatchRead::readAlone(std::size_t item)
     } else {
         read.status = RegisterMemory::read(m_channel, read.range, read.bytes);
     }
-    if (read.status == Status::NoAnswer)
+    if (!isAnswer(read.status))
         return Result::NoAnswer;
     if (read.status != Status::Done)
         return refuse(item, read.status);

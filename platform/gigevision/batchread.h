@@ -14,16 +14,23 @@ struct BatchCommand
     std::size_t limit = SIZE_MAX; ///< the number of registers up to which the camera takes it
     std::size_t worked = 0;       ///< as many registers were once read by one
     bool tellsProgress = false;   ///< a refusal tells which register is refused
-    int unanswered = 0;           ///< in a row
 };
 
 /// What is known of a camera that matters for reading its registers.
 struct ReadKnowledge
 {
-    ReadPlan::Rules rules;
+    bool isWordNumber = false;
+    bool canConcatenate = false;
+    bool isOrderKnown = false; ///< memory and numbers are known to have the same order of bytes
     ReadableMemory memory;
     BatchCommand registers;
     BatchCommand memoryBlock;
+
+    ReadPlan::Rules rules() const
+    {
+        const bool concatenates = canConcatenate && registers.limit > 1;
+        return {isWordNumber, concatenates, concatenates && isOrderKnown};
+    }
 };
 
 /// Reads the registers of one batch.
@@ -36,7 +43,7 @@ class BatchRead
 public:
     BatchRead(GvcpChannel &channel, ReadKnowledge &knowledge,
               std::vector<OrvCameraIo::ReadTransfer> &batch)
-        : m_channel(channel), m_knowledge(knowledge), m_batch(batch)
+        : m_channel(channel), m_knowledge(knowledge), m_rules(knowledge.rules()), m_batch(batch)
     {
     }
 
@@ -66,6 +73,7 @@ private:
 
     GvcpChannel &m_channel;
     ReadKnowledge &m_knowledge;
+    const ReadPlan::Rules m_rules;
     std::vector<OrvCameraIo::ReadTransfer> &m_batch;
 };
 

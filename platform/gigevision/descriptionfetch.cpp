@@ -23,7 +23,7 @@ using Progress = std::function<void(std::size_t, std::size_t)>;
 constexpr std::size_t blockSize = Gvcp::maxMemorySize;
 
 /// A single block that gets lost for good must not cost the whole download.
-constexpr int attempts = 3;
+constexpr int attempts = 2;
 
 bool readBlock(GvcpChannel &channel, uint32_t address, uint32_t size, std::string &bytes,
                Failure &failure)
@@ -37,7 +37,7 @@ bool readBlock(GvcpChannel &channel, uint32_t address, uint32_t size, std::strin
     for (int i = 0; i < attempts && !reply.isDone(); ++i)
         reply = channel.readMemory(start, end - start, data);
     if (!reply.isDone()) {
-        failure = reply.status == Status::NoAnswer ? Failure::NoAnswer : Failure::Unusable;
+        failure = isAnswer(reply.status) ? Failure::Unusable : Failure::NoAnswer;
         return false;
     }
     bytes = words.substr(address - start, size);

@@ -103,11 +103,11 @@ GvcpChannel::Reply GvcpChannel::ask(uint32_t address, std::chrono::milliseconds 
     return transfer(command);
 }
 
-GvcpChannel::Reply GvcpChannel::writeRegister(uint32_t address, uint32_t value)
+GvcpChannel::Reply GvcpChannel::writeRegisters(const std::vector<Gvcp::RegisterValue> &values)
 {
     const uint16_t id = m_socket.nextId();
-    Command command{id, Gvcp::writeRegistersCommand(id, {{address, value}}),
-                    Gvcp::Answer::WriteRegister, Clock::now() + Limits::writeBudget};
+    Command command{id, Gvcp::writeRegistersCommand(id, values), Gvcp::Answer::WriteRegister,
+                    Clock::now() + Limits::writeBudget};
     command.isMeasured = false;
     return transfer(command);
 }
@@ -149,12 +149,19 @@ void GvcpChannel::writeRegisterBlindly(uint32_t address, uint32_t value)
 
 GvcpChannel::Reply GvcpChannel::transfer(const Command &command)
 {
-    ++m_counters.commands;
     State state;
+    state.reply.status = Status::Closed;
+    if (m_socket.isInterrupted())
+        return state.reply;
+    ++m_counters.commands;
     while (true) {
         m_socket.send(command.packet, m_camera);
         if (await(command, state))
             return state.reply;
+        if (m_socket.isInterrupted()) {
+            state.reply.status = Status::Closed;
+            return state.reply;
+        }
         if (!command.isRepeated || Clock::now() >= command.deadline)
             break;
         ++state.repetitions;

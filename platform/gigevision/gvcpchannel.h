@@ -23,6 +23,10 @@ public:
     /// The camera has another address, or the adapter has.
     void setCamera(const NetworkAdapter &adapter, uint32_t camera);
 
+    /// Ends the command that is under way, and every later one at once, with the status `Closed`.
+    /// May be called on any thread.
+    void interrupt() { m_socket.interrupt(); }
+
     /// What became of a command.
     struct Reply
     {
@@ -37,7 +41,11 @@ public:
     /// `addresses` as `Gvcp::readRegistersCommand` takes them. When the camera refuses, `values`
     /// are those of the registers before the one that it refuses.
     Reply readRegisters(const std::vector<uint32_t> &addresses);
-    Reply writeRegister(uint32_t address, uint32_t value);
+    Reply writeRegisters(const std::vector<Gvcp::RegisterValue> &values);
+    Reply writeRegister(uint32_t address, uint32_t value)
+    {
+        return writeRegisters({{address, value}});
+    }
 
     /// Address and size as `Gvcp::readMemoryCommand` takes them.
     Reply readMemory(uint32_t address, uint32_t size, uint8_t *bytes);
@@ -59,6 +67,9 @@ public:
     const Counters &counters() const { return m_counters; }
 
     Clock::time_point lastAnswer() const { return m_lastAnswer; }
+
+    /// How long the camera usually takes to answer.
+    std::chrono::microseconds roundTrip() const { return m_timer.roundTrip(); }
 
 private:
     struct Command;

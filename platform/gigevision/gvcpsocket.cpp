@@ -3,6 +3,7 @@
 
 #include <arpa/inet.h>
 #include <poll.h>
+#include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -51,6 +52,7 @@ int millisecondsUntil(Clock::time_point until)
 GvcpSocket::GvcpSocket(const NetworkAdapter &adapter)
     : m_adapter(adapter)
     , m_socket(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0))
+    , m_wake(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
     , m_lastId(static_cast<uint16_t>(std::random_device{}()))
 {
     enable(m_socket, SOL_SOCKET, SO_BROADCAST);
@@ -66,8 +68,16 @@ GvcpSocket::GvcpSocket(const NetworkAdapter &adapter)
 
 GvcpSocket::~GvcpSocket()
 {
-    if (m_socket >= 0)
-        close(m_socket);
+    for (const int descriptor : {m_socket, m_wake}) {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
+}
+
+void GvcpSocket::interrupt()
+{
+    m_isInterrupted = true;
+    eventfd_write(m_wake, 1);
 }
 
 uint16_t GvcpSocket::nextId()
@@ -122,13 +132,13 @@ std::optional<Gvcp::Acknowledge> GvcpSocket::receive(Clock::time_point until)
 {
     while (true) {
         const int wait = millisecondsUntil(until);
-        pollfd waiting{m_socket, POLLIN, 0};
-        if (poll(&waiting, 1, wait) <= 0 && wait == 0)
+        pollfd waiting[] = {{m_socket, POLLIN, 0}, {m_wake, POLLIN, 0}};
+        if ((poll(waiting, 2, wait) <= 0 && wait == 0) || m_isInterrupted)
             return std::nullopt;
-        if (waiting.revents & POLLIN) {
+        if (waiting[0].revents & POLLIN) {
             if (const auto answer = take())
                 return answer;
-        } else if (waiting.revents & (POLLNVAL | POLLHUP)) {
+        } else if (waiting[0].revents & (POLLNVAL | POLLHUP)) {
             return std::nullopt;
         }
         // A flood must not keep us here, even one that always has a packet ready.

@@ -4,6 +4,7 @@
 #include "gvcp.h"
 #include "networkadapter.h"
 
+#include <atomic>
 #include <chrono>
 #include <optional>
 
@@ -30,6 +31,11 @@ public:
     /// The same adapter may have other addresses by now. The socket stays the same to cameras.
     void setAdapter(const NetworkAdapter &adapter) { m_adapter = adapter; }
 
+    /// Ends the wait for an answer that is under way, and lets none begin any more. May be called
+    /// on any thread.
+    void interrupt();
+    bool isInterrupted() const { return m_isInterrupted; }
+
     /// A new number for a command; never 0.
     uint16_t nextId();
 
@@ -48,6 +54,8 @@ private:
 
     NetworkAdapter m_adapter;
     int m_socket = -1;
+    int m_wake = -1; ///< readable as soon as it is interrupted
+    std::atomic<bool> m_isInterrupted{false};
     std::optional<uint32_t> m_onlyFrom;
     uint16_t m_lastId;
     uint8_t m_buffer[2048];

@@ -35,7 +35,7 @@ Status GvPort::connect()
 Status GvPort::takeControl()
 {
     const auto present = m_channel.readRegisters({Gvcp::ControlPrivilege});
-    if (present.status == Status::NoAnswer || present.status == Status::AccessDenied)
+    if (!isAnswer(present.status) || present.status == Status::AccessDenied)
         return present.status; // exclusive control keeps readers out, too
     if (m_mode == OpenMode::Monitor)
         return Status::Done;
@@ -50,7 +50,7 @@ Status GvPort::takeControl()
     // A camera that does not let it be changed has one of its own.
     const auto heartbeat = m_channel.writeRegister(
         Gvcp::HeartbeatTimeout, static_cast<uint32_t>(Limits::heartbeat.count()));
-    return heartbeat.status == Status::NoAnswer ? heartbeat.status : Status::Done;
+    return isAnswer(heartbeat.status) ? Status::Done : heartbeat.status;
 }
 
 void GvPort::giveControlBack()
@@ -72,12 +72,30 @@ Status GvPort::write(uint64_t address, const std::vector<uint8_t> &bytes)
         return Status::InvalidAddress;
 
     const auto start = static_cast<uint32_t>(address);
-    if (!ReadPlan::isWord(range) || (m_reader.canWriteMemory() && !isWordNumber()))
-        return RegisterMemory::write(m_channel, start, bytes);
-    uint32_t value = 0;
-    for (const uint8_t byte : bytes)
-        value = value << 8 | byte;
-    return m_channel.writeRegister(start, value).status;
+    const bool isWhole = range.address % 4 == 0 && range.size % 4 == 0;
+    const bool isNumber = ReadPlan::isWord(range) && m_reader.isWordNumber();
+    if (isNumber || (isWhole && !m_reader.canWriteMemory()))
+        return writeWords(start, bytes);
+    return RegisterMemory::write(m_channel, start, bytes);
+}
+
+Status GvPort::writeWords(uint32_t address, const std::vector<uint8_t> &bytes)
+{
+    const std::size_t most = m_reader.canConcatenate() ? Gvcp::maxRegisters / 2 : 1;
+    std::vector<Gvcp::RegisterValue> values;
+    for (std::size_t i = 0; i < bytes.size(); i += 4) {
+        uint32_t value = 0;
+        for (std::size_t j = i; j < i + 4; ++j)
+            value = value << 8 | bytes[j];
+        values.push_back({address + static_cast<uint32_t>(i), value});
+        if (values.size() < most && i + 4 < bytes.size())
+            continue;
+        const Status status = m_channel.writeRegisters(values).status;
+        if (status != Status::Done)
+            return status;
+        values.clear();
+    }
+    return Status::Done;
 }
 
 OrvCameraIo::Port::Presence GvPort::probe()

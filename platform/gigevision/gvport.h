@@ -37,15 +37,17 @@ public:
     /// What `reopen` has to find again.
     void setDescription(const DescriptionMark &mark) { m_description = mark; }
 
-    std::size_t batchSize() const override { return Gvcp::maxRegisters; }
+    std::size_t batchSize() const override { return m_reader.batchSize(); }
     void setHints(const OrvCameraIo::PortHints &hints) override { m_reader.setHints(hints); }
     bool isWordNumber() const override { return m_reader.isWordNumber(); }
     void read(std::vector<OrvCameraIo::ReadTransfer> &batch) override { m_reader.read(batch); }
     OrvCameraIo::Status write(uint64_t address, const std::vector<uint8_t> &bytes) override;
     Presence probe() override;
+    void interrupt() override { m_channel.interrupt(); }
     bool reopen(const std::function<bool()> &isCancelled) override;
 
 private:
+    OrvCameraIo::Status writeWords(uint32_t address, const std::vector<uint8_t> &bytes);
     OrvCameraIo::Status takeControl();
     void giveControlBack();
 

@@ -126,9 +126,9 @@ ReadPlan::ReadPlan(const std::vector<ReadTransfer> &batch, const std::vector<std
     Items others;
     for (const std::size_t item : items) {
         const RegisterRange &range = batch[item].range;
-        if (isWord(range) && (rules.isWordNumber || rules.canConcatenate))
+        if (isWord(range) && rules.usesRegisters())
             words.push_back(item);
-        else if (isFewWords(range) && rules.canConcatenate && !rules.isWordNumber)
+        else if (isFewWords(range) && rules.canSplit && !rules.isWordNumber)
             fewWords.push_back(item);
         else
             others.push_back(item);

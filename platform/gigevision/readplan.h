@@ -45,10 +45,14 @@ struct ReadPlan
     {
         bool isWordNumber = false;
         bool canConcatenate = false;
+        bool canSplit = false; ///< a longer register is its words, one behind the other
+
+        /// Whether words are read by READREG rather than as memory.
+        bool usesRegisters() const { return isWordNumber || canConcatenate; }
     };
 
     ReadPlan(const std::vector<OrvCameraIo::ReadTransfer> &batch,
-             const std::vector<std::size_t> &items, Rules rules, const ReadableMemory &memory);
+             const std::vector<std::size_t> &items, Rules rules, const ReadableMemory &readable);
 
     /// What one READREG reads, unless one item is read alone.
     std::vector<std::vector<std::size_t>> registers;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "registerreader.h"
 
+#include <cameraio/limits.h>
+
 #include <algorithm>
 
 namespace OrvGigEVision {
@@ -12,6 +14,8 @@ namespace {
 
 /// A register that changes all the time tells nothing, so others are tried, too.
 constexpr int mostLooks = 4;
+
+constexpr std::chrono::microseconds longestBatch = OrvCameraIo::Limits::readBudget / 2;
 
 std::vector<uint8_t> reversed(std::vector<uint8_t> bytes)
 {
@@ -31,37 +35,57 @@ bool RegisterReader::lookAtCamera()
 {
     const auto reply = m_channel.readRegisters({Gvcp::Capability});
     m_capability = reply.isDone() ? reply.values.front() : 0;
-    m_knowledge.rules.canConcatenate = m_capability & Gvcp::canConcatenate;
-    m_knowledge.registers.unanswered = 0;
-    m_knowledge.memoryBlock.unanswered = 0;
+    m_knowledge.canConcatenate = m_capability & Gvcp::canConcatenate;
     if (!reply.isDone() || isWordNumber())
-        return reply.status != Status::NoAnswer;
+        return isAnswer(reply.status);
 
-    ReadTransfer word;
-    word.range = {Gvcp::Capability, 4};
-    word.bytes = bytesOf(m_capability);
-    if (word.bytes != reversed(word.bytes) && orderOf(word) == Order::Reversed)
+    const auto bytes = bytesOf(m_capability);
+    if (bytes != reversed(bytes) && orderOf(Gvcp::Capability, bytes, true) == Order::Reversed)
         setWordNumber();
     return true;
 }
 
 void RegisterReader::setHints(const OrvCameraIo::PortHints &hints)
 {
-    m_knowledge.memory.setDeclared(hints.declared);
-    m_hasHints = true;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_newHints = hints;
     if (hints.isWordNumber)
-        setWordNumber();
+        m_isWordNumber = true;
+}
+
+void RegisterReader::takeHints()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_newHints)
+        return;
+    m_knowledge.memory.setDeclared(std::move(m_newHints->declared));
+    m_knowledge.isWordNumber = m_isWordNumber;
+    m_hasHints = true;
+    m_newHints.reset();
 }
 
 void RegisterReader::setWordNumber()
 {
-    m_knowledge.rules.isWordNumber = true;
+    m_isWordNumber = true;
+    m_knowledge.isWordNumber = true;
+}
+
+std::size_t RegisterReader::batchSize() const
+{
+    // A camera that does not concatenate may have to be asked for each register.
+    const auto roundTrip = std::max(m_channel.roundTrip(), std::chrono::microseconds(1));
+    const auto oneByOne = static_cast<std::size_t>(longestBatch / roundTrip);
+    return canConcatenate() ? Gvcp::maxRegisters
+                            : std::clamp<std::size_t>(oneByOne, 1, Gvcp::maxRegisters);
 }
 
 void RegisterReader::read(std::vector<ReadTransfer> &batch)
 {
+    takeHints();
+    const bool usesRegisters = m_knowledge.rules().usesRegisters();
     BatchRead(m_channel, m_knowledge, batch).run();
-    if (m_hasHints && !isWordNumber() && m_looks < mostLooks && compareViews(batch)) {
+    const bool wantsToKnow = m_hasHints && !isWordNumber() && !m_knowledge.isOrderKnown;
+    if (wantsToKnow && m_looks < mostLooks && compareViews(batch, usesRegisters)) {
         setWordNumber();
         BatchRead(m_channel, m_knowledge, batch).run();
     }
@@ -69,37 +93,36 @@ void RegisterReader::read(std::vector<ReadTransfer> &batch)
 
 /// The registers that every camera has may be the same both ways while those of its maker are not.
 /// True when a register of the batch shows that they differ.
-bool RegisterReader::compareViews(std::vector<ReadTransfer> &batch)
+bool RegisterReader::compareViews(const std::vector<ReadTransfer> &batch, bool wasRegister)
 {
-    for (const ReadTransfer &read : batch) {
-        const bool tells = read.status == Status::Done && ReadPlan::isWord(read.range) &&
-                           read.range.address >= Gvcp::FirstOfMaker &&
-                           read.bytes != reversed(read.bytes);
-        if (!tells)
-            continue;
-        const Order order = orderOf(read);
-        m_looks = order == Order::Unknown ? m_looks + 1 : mostLooks;
-        return order == Order::Reversed;
-    }
-    return false;
+    const auto tells = [](const ReadTransfer &read) {
+        return read.status == Status::Done && ReadPlan::isWord(read.range) &&
+               read.range.address >= Gvcp::FirstOfMaker && read.bytes != reversed(read.bytes);
+    };
+    const auto read = std::find_if(batch.begin(), batch.end(), tells);
+    if (read == batch.end())
+        return false;
+    ++m_looks;
+    const auto address = static_cast<uint32_t>(read->range.address);
+    const Order order = orderOf(address, read->bytes, wasRegister);
+    m_knowledge.isOrderKnown = order == Order::Same;
+    return order == Order::Reversed;
 }
 
-/// Reads the register in the other way than it was read.
-RegisterReader::Order RegisterReader::orderOf(const ReadTransfer &word)
+/// Reads the word in the other way than it was read.
+RegisterReader::Order RegisterReader::orderOf(uint32_t address, const std::vector<uint8_t> &bytes,
+                                              bool wasRegister)
 {
-    const auto address = static_cast<uint32_t>(word.range.address);
     std::vector<uint8_t> other(4);
-    const bool wasRegister =
-        m_knowledge.rules.canConcatenate || word.range.address == Gvcp::Capability;
     const auto reply = wasRegister ? m_channel.readMemory(address, 4, other.data())
                                    : m_channel.readRegisters({address});
     if (!reply.isDone())
         return Order::Unknown;
     if (!wasRegister)
         other = bytesOf(reply.values.front());
-    if (other == word.bytes)
+    if (other == bytes)
         return Order::Same;
-    return other == reversed(word.bytes) ? Order::Reversed : Order::Unknown;
+    return other == reversed(bytes) ? Order::Reversed : Order::Unknown;
 }
 
 } // namespace OrvGigEVision

@@ -17,8 +17,11 @@ public:
     /// A command was answered so long after it was sent first.
     void answered(Duration elapsed, int repetitions);
 
+    /// 0 as long as nothing was measured.
+    Duration roundTrip() const { return m_smoothed; }
+
 private:
-    Duration m_smoothed{0}; ///< 0: nothing measured so far
+    Duration m_smoothed{0};
     Duration m_deviation{0};
     Duration m_interval = std::chrono::milliseconds(100);
 };
