@@ -24,16 +24,19 @@ QVariant KnownValuesModel::data(const QModelIndex &index, int role) const
     const bool isOfCell =
         index.column() == valueColumn && (role == Qt::DisplayRole || role == Qt::ForegroundRole);
     const bool isOfValue = index.column() == valueColumn && role == Qt::EditRole;
-    const QModelIndex source = mapToSource(index);
-    if (!m_lookAhead || !(isOfCell || isOfValue || role == Qt::WhatsThisRole) || !featureOf(source))
+    if (!m_lookAhead || !(isOfCell || isOfValue || role == Qt::WhatsThisRole))
         return GenParamTreeVisibilityFilterProxyModel::data(index, role);
+    const QModelIndex source = mapToSource(index);
+    GenApi::IValue *feature = featureOf(source);
+    if (!feature)
+        return QVariant();
 
     if (isOfCell)
         return role == Qt::DisplayRole ? cell(source).text : cell(source).foreground;
     const auto extent = isOfValue ? TreeLookAhead::Cell : TreeLookAhead::Everything;
     QVariant answer;
-    const bool isKnown = m_lookAhead->look(featureOf(source), extent,
-                                           [&] { answer = sourceModel()->data(source, role); });
+    const bool isKnown =
+        m_lookAhead->look(feature, extent, [&] { answer = sourceModel()->data(source, role); });
     return isKnown ? answer : QVariant();
 }
 

@@ -21,6 +21,9 @@ using Ask = TreeLookAhead::Ask;
 /// was changed in between, is read again after so many milliseconds.
 const int repetitionPause = 100;
 
+/// While something is read, what has come so far is shown that often.
+const int progressPeriod = 100;
+
 bool covers(const std::map<GenApi::IValue *, TreeLookAhead::Extent> &extents,
             GenApi::IValue *feature, TreeLookAhead::Extent extent)
 {
@@ -84,8 +87,10 @@ TreeLookAhead::TreeLookAhead(OrvGenParam::LookAhead &map, std::function<Features
                              QObject *parent)
     : QObject(parent), m_map(map), m_shown(std::move(shown))
 {
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &TreeLookAhead::fetch);
+    m_start.setSingleShot(true);
+    connect(&m_start, &QTimer::timeout, this, &TreeLookAhead::fetch);
+    m_progress.setInterval(progressPeriod);
+    connect(&m_progress, &QTimer::timeout, this, &TreeLookAhead::arrived);
 }
 
 bool TreeLookAhead::look(GenApi::IValue *feature, Extent extent, const Ask &ask)
@@ -119,8 +124,8 @@ void TreeLookAhead::note(GenApi::IValue *feature, Extent extent)
                               m_sinceEnd.elapsed() < repetitionPause &&
                               covers(m_asked, feature, extent);
     const int pause = isRepetition ? repetitionPause : 0;
-    if (!m_timer.isActive() || pause < m_timer.interval())
-        m_timer.start(pause);
+    if (!m_start.isActive() || pause < m_start.interval())
+        m_start.start(pause);
 }
 
 void TreeLookAhead::fetch()
@@ -146,12 +151,14 @@ void TreeLookAhead::fetch()
         addAsks(feature, extent, &asks);
     m_asked = std::move(missed);
     m_isUnderWay = true;
+    m_progress.start();
     m_request = m_map.fetch(std::move(asks), [this] { finish(); });
 }
 
 void TreeLookAhead::finish()
 {
     m_isUnderWay = false;
+    m_progress.stop();
     m_sinceEnd.start();
     emit arrived(); // in reaction to which we may be destroyed
 }

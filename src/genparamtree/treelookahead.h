@@ -49,7 +49,7 @@ public:
     bool knowsEverything(GenApi::IValue *feature);
 
 signals:
-    /// What was missed can be looked at again.
+    /// What was missed can be looked at again; some of it may still be on its way.
     void arrived();
 
 private:
@@ -66,7 +66,8 @@ private:
     Extents m_asked; ///< by the last request
     QElapsedTimer m_sinceEnd;
     bool m_isUnderWay = false;
-    QTimer m_timer;
+    QTimer m_start;
+    QTimer m_progress;
     std::unique_ptr<OrvGenParam::LookAhead::Request> m_request;
 };
 
