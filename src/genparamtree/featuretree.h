@@ -17,7 +17,8 @@ class TreeLookAhead;
 
 /// The tree of the features: names in column 0, which the keyboard walks through, and values in
 /// column 1, which it enters with F2 or Return and leaves with Escape or Return. Tab goes on to the
-/// next value that can be changed. What the camera says of itself is shown literally.
+/// next value that can be changed. An editor opens when all that it needs is known. What the camera
+/// says of itself is shown literally.
 class FeatureTree : public QTreeView
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ public:
     /// Until the layout is done, expanding and collapsing cost nothing.
     using QTreeView::scheduleDelayedItemsLayout;
 
-    /// Null for none. With one, an editor opens when all that it needs is known.
+    /// Null for none; the camera is waited for then.
     void setLookAhead(TreeLookAhead *lookAhead);
 
     /// The features whose rows are on the screen.

@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 
 namespace OrvGui {
 
@@ -24,11 +25,22 @@ const int repetitionPause = 100;
 /// While something is read, what has come so far is shown that often.
 const int progressPeriod = 100;
 
+/// For so long something else waits for what is being read: a new request would read once more what
+/// is on its way.
+const int replacementPause = 300;
+
 bool covers(const std::map<GenApi::IValue *, TreeLookAhead::Extent> &extents,
             GenApi::IValue *feature, TreeLookAhead::Extent extent)
 {
     const auto found = extents.find(feature);
     return found != extents.end() && found->second >= extent;
+}
+
+void merge(GenApi::IValue *feature, TreeLookAhead::Extent extent,
+           std::map<GenApi::IValue *, TreeLookAhead::Extent> *extents)
+{
+    TreeLookAhead::Extent &merged = extents->emplace(feature, extent).first->second;
+    merged = std::max(merged, extent);
 }
 
 void askForCell(GenApi::IValue *feature)
@@ -88,7 +100,7 @@ TreeLookAhead::TreeLookAhead(OrvGenParam::LookAhead &map, std::function<Features
     : QObject(parent), m_map(map), m_shown(std::move(shown))
 {
     m_start.setSingleShot(true);
-    connect(&m_start, &QTimer::timeout, this, &TreeLookAhead::fetch);
+    connect(&m_start, &QTimer::timeout, this, &TreeLookAhead::startFetch);
     m_progress.setInterval(progressPeriod);
     connect(&m_progress, &QTimer::timeout, this, &TreeLookAhead::arrived);
 }
@@ -118,8 +130,7 @@ bool TreeLookAhead::knowsEverything(GenApi::IValue *feature)
 
 void TreeLookAhead::note(GenApi::IValue *feature, Extent extent)
 {
-    Extent &missed = m_missed.emplace(feature, extent).first->second;
-    missed = std::max(missed, extent);
+    merge(feature, extent, &m_missed);
     const bool isRepetition = !m_isUnderWay && m_sinceEnd.isValid() &&
                               m_sinceEnd.elapsed() < repetitionPause &&
                               covers(m_asked, feature, extent);
@@ -128,29 +139,47 @@ void TreeLookAhead::note(GenApi::IValue *feature, Extent extent)
         m_start.start(pause);
 }
 
-void TreeLookAhead::fetch()
+void TreeLookAhead::startFetch()
 {
-    Extents missed = std::move(m_missed);
-    m_missed.clear();
-    if (m_isUnderWay) {
-        const bool isComing = std::all_of(missed.begin(), missed.end(), [this](const auto &entry) {
-            return covers(m_asked, entry.first, entry.second);
-        });
-        if (isComing)
-            return;
-        const Features shown = m_shown();
-        for (const auto &[feature, extent] : m_asked) {
-            if (!shown.count(feature))
-                continue;
-            Extent &wanted = missed.emplace(feature, extent).first->second;
-            wanted = std::max(wanted, extent);
-        }
+    Extents missed = std::exchange(m_missed, {});
+    if (!m_isUnderWay)
+        return fetch(std::move(missed));
+    const bool isComing = std::all_of(missed.begin(), missed.end(), [this](const auto &entry) {
+        return covers(m_asked, entry.first, entry.second);
+    });
+    if (isComing)
+        return;
+    Extents shown = stillShown();
+    if (!shown.empty() && m_sinceStart.elapsed() < replacementPause) {
+        m_missed = std::move(missed);
+        m_start.start(progressPeriod);
+        return;
     }
-    std::vector<Ask> asks;
     for (const auto &[feature, extent] : missed)
+        merge(feature, extent, &shown);
+    fetch(std::move(shown));
+}
+
+/// What is being read and is on the screen.
+TreeLookAhead::Extents TreeLookAhead::stillShown() const
+{
+    const Features features = m_shown();
+    Extents shown;
+    for (const auto &asked : m_asked) {
+        if (features.count(asked.first))
+            shown.insert(asked);
+    }
+    return shown;
+}
+
+void TreeLookAhead::fetch(Extents extents)
+{
+    std::vector<Ask> asks;
+    for (const auto &[feature, extent] : extents)
         addAsks(feature, extent, &asks);
-    m_asked = std::move(missed);
+    m_asked = std::move(extents);
     m_isUnderWay = true;
+    m_sinceStart.start();
     m_progress.start();
     m_request = m_map.fetch(std::move(asks), [this] { finish(); });
 }
@@ -160,6 +189,8 @@ void TreeLookAhead::finish()
     m_isUnderWay = false;
     m_progress.stop();
     m_sinceEnd.start();
+    if (!m_missed.empty())
+        m_start.start(0);
     emit arrived(); // in reaction to which we may be destroyed
 }
 

@@ -21,8 +21,8 @@ namespace OrvGui {
 /// they find missing is read in the background.
 ///
 /// What is missed until the program is back in its event loop is read together. Only one such read
-/// is under way at a time: when something else is missed it is replaced, and what is no longer on
-/// the screen then does not come.
+/// is under way at a time. What is missed in between comes after it; but when it takes long, or
+/// nothing of it is on the screen any more, it is replaced, and what is not on the screen is dropped.
 class TreeLookAhead : public QObject
 {
     Q_OBJECT
@@ -57,13 +57,16 @@ private:
 
     TreeLookAhead(OrvGenParam::LookAhead &map, std::function<Features()> shown, QObject *parent);
     void note(GenApi::IValue *feature, Extent extent);
-    void fetch();
+    void startFetch();
+    Extents stillShown() const;
+    void fetch(Extents extents);
     void finish();
 
     OrvGenParam::LookAhead &m_map;
     const std::function<Features()> m_shown;
     Extents m_missed;
     Extents m_asked; ///< by the last request
+    QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceEnd;
     bool m_isUnderWay = false;
     QTimer m_start;
