@@ -111,8 +111,14 @@ FetchAhead::~FetchAhead()
 
 bool FetchAhead::look(const Ask &ask) const
 {
-    Question question(Question::Kind::Looking);
-    return m_access->map->look(question, ask);
+    for (int round = 0;; ++round) {
+        Question question(Question::Kind::Looking);
+        if (m_access->map->look(question, ask))
+            return true;
+        if (!m_access->io->isImmediate() || round == maxRounds)
+            return false;
+        m_access->io->read(question.missing);
+    }
 }
 
 std::unique_ptr<Request> FetchAhead::fetch(std::vector<Ask> asks, std::function<void()> done)

@@ -28,7 +28,8 @@ public:
     FetchAhead(const FetchAhead &) = delete;
     FetchAhead &operator=(const FetchAhead &) = delete;
 
-    /// True when everything was known; exceptions of GenICam pass.
+    /// True when everything was known; exceptions of GenICam pass. What an immediate port has is
+    /// always known.
     bool look(const Ask &ask) const;
 
     /// Has all that the functions ask for read in the background. They run on the thread that

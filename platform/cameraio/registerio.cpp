@@ -533,6 +533,11 @@ Status RegisterIo::write(const std::vector<RegisterWrite> &writes)
     return job->isDone ? job->status : Status::NoAnswer;
 }
 
+bool RegisterIo::isImmediate() const
+{
+    return d->port->isImmediate();
+}
+
 void RegisterIo::setHints(const PortHints &hints)
 {
     const std::lock_guard<std::mutex> onPort(d->onPort);

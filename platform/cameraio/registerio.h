@@ -61,6 +61,9 @@ public:
 
     void setHints(const PortHints &hints);
 
+    /// Reading takes no time, see `Port::isImmediate`.
+    bool isImmediate() const;
+
     /// See `Port::isWordNumber`.
     bool isWordNumber() const;
 

@@ -15,10 +15,13 @@ DescriptionPanel::DescriptionPanel(QWidget *parent) : QTextBrowser(parent)
     setOpenLinks(false);
 }
 
-void DescriptionPanel::describe(GenApi::IValue *feature)
+void DescriptionPanel::describe(GenApi::IValue *feature, TreeLookAhead *lookAhead)
 {
-    const QString text = feature ? escapedDescription(feature) : QString();
+    QString text;
+    const bool isWhole = !feature || knownDescription(feature, lookAhead, &text);
     const bool isSameFeature = feature == m_feature;
+    if (isSameFeature && !isWhole)
+        return;
     if (isSameFeature && text == m_text)
         return;
     m_feature = feature;

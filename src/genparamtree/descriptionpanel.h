@@ -9,6 +9,8 @@ struct IValue;
 
 namespace OrvGui {
 
+class TreeLookAhead;
+
 /// Shows the description of a feature. What the camera says of itself is shown literally: its texts
 /// are no markup, and nothing that they name is opened.
 class DescriptionPanel : public QTextBrowser
@@ -19,8 +21,9 @@ public:
     explicit DescriptionPanel(QWidget *parent = nullptr);
 
     /// Null, or a feature that cannot be described, leaves the panel empty. To be called again when
-    /// the feature changes; the reader's place in the text stays.
-    void describe(GenApi_3_0::IValue *feature);
+    /// the feature changes; the reader's place in the text stays. What is not known yet is left
+    /// out, or stays as it was; without a look-ahead the camera is waited for.
+    void describe(GenApi_3_0::IValue *feature, TreeLookAhead *lookAhead);
 
     QVariant loadResource(int type, const QUrl &name) override;
 

@@ -3,7 +3,6 @@
 
 #include "genicamstring.h"
 #include "genparamdelegate.h"
-#include "genparamtreemodel.h"
 #include "readablecolors.h"
 
 #include <GenApi/GenApi.h>
@@ -95,12 +94,12 @@ QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
 
 } // namespace
 
-QString featureText(const QModelIndex &cell, const QVariant &value, const QLocale &locale)
+QString featureText(GenApi::IValue *feature, const QVariant &value, const QLocale &locale)
 {
     QLocale ungrouped(locale); // as in the editors
     ungrouped.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
     try {
-        return valueText(cell.data(Qt::UserRole).value<GenApi::IValue *>(), value, ungrouped);
+        return valueText(feature, value, ungrouped);
     } catch (const GenICam::GenericException &) {
         return value.toString();
     }

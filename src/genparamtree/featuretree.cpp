@@ -4,6 +4,7 @@
 #include "featurecell.h"
 #include "genparamtreemodel.h"
 #include "parameterdescription.h"
+#include "treelookahead.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -23,7 +24,72 @@ QString literally(const QString &text)
     return text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
+GenApi::IValue *featureOf(const QModelIndex &index)
+{
+    return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
 } // namespace
+
+void FeatureTree::setLookAhead(TreeLookAhead *lookAhead)
+{
+    m_lookAhead = lookAhead;
+    m_waitingEdit = Edit();
+    if (lookAhead)
+        connect(lookAhead, &TreeLookAhead::arrived, this, &FeatureTree::showArrived);
+}
+
+std::set<GenApi::IValue *> FeatureTree::shownFeatures() const
+{
+    std::set<GenApi::IValue *> features;
+    const int bottom = viewport()->height();
+    for (QModelIndex row = indexAt(QPoint(0, 0)); row.isValid() && visualRect(row).top() < bottom;
+         row = indexBelow(row))
+        features.insert(featureOf(row));
+    return features;
+}
+
+bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool isWanted = trigger == AllEditTriggers || (editTriggers() & trigger);
+    if (!isWanted || isReadyForEditing(index))
+        return QTreeView::edit(index, trigger, event);
+    m_waitingEdit = {index, trigger, m_hint, isFocused()};
+    return true;
+}
+
+bool FeatureTree::isReadyForEditing(const QModelIndex &index) const
+{
+    GenApi::IValue *feature = featureOf(index);
+    return !m_lookAhead || !feature || index.column() != valueColumn || indexWidget(index) ||
+           m_lookAhead->knowsEverything(feature);
+}
+
+void FeatureTree::showArrived()
+{
+    viewport()->update();
+    const Edit edit = m_waitingEdit;
+    const QModelIndex index = edit.index;
+    // The user may have gone elsewhere.
+    const bool isObsolete =
+        index != currentIndex() || (edit.hadFocus && QApplication::focusWidget() && !isFocused());
+    if (index.isValid() && !isObsolete && !isReadyForEditing(index))
+        return;
+    m_waitingEdit = Edit();
+    if (!index.isValid() || isObsolete)
+        return;
+    const bool isEditable = index.flags() & Qt::ItemIsEditable;
+    if (isEditable)
+        QTreeView::edit(index, edit.trigger, nullptr);
+    else if (edit.hint != QAbstractItemDelegate::NoHint)
+        closeEditor(nullptr, edit.hint); // goes on to the next one
+}
+
+bool FeatureTree::isFocused() const
+{
+    const QWidget *focused = QApplication::focusWidget();
+    return focused && (focused == this || isAncestorOf(focused));
+}
 
 // Qt would lay out a text that looks like markup, and open the pictures that it names.
 bool FeatureTree::viewportEvent(QEvent *event)
@@ -35,8 +101,10 @@ bool FeatureTree::viewportEvent(QEvent *event)
     if (event->type() == QEvent::ToolTip) {
         const QString text = index.data(Qt::ToolTipRole).toString();
         QToolTip::showText(help->globalPos(), literally(text), viewport());
-    } else if (auto *feature = index.data(Qt::UserRole).value<GenApi::IValue *>()) {
-        QWhatsThis::showText(help->globalPos(), escapedDescription(feature), viewport());
+    } else if (GenApi::IValue *feature = featureOf(index)) {
+        QString text;
+        knownDescription(feature, m_lookAhead, &text);
+        QWhatsThis::showText(help->globalPos(), text, viewport());
     }
     return true;
 }
@@ -115,7 +183,9 @@ QModelIndex FeatureTree::moveCursor(CursorAction action, Qt::KeyboardModifiers m
 void FeatureTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
     const bool isCurrent = editor && indexWidget(currentIndex()) == editor;
+    m_hint = hint;
     QTreeView::closeEditor(editor, hint);
+    m_hint = QAbstractItemDelegate::NoHint;
     if (isCurrent && !indexWidget(currentIndex()))
         goToName();
 }

@@ -260,6 +260,14 @@ QWidget *GenParamDelegate::createIPAddressEditor(QWidget *parent,
     return lineEdit;
 }
 
+bool GenParamDelegate::ask(const GenApi::CValuePtr &node,
+                           const std::function<void()> &questions) const
+{
+    Q_UNUSED(node)
+    questions();
+    return true;
+}
+
 void GenParamDelegate::openList(QComboBox *comboBox)
 {
     // While a choice is being written, the change of the node leads here, but the list must not
@@ -285,11 +293,19 @@ void GenParamDelegate::setIntegerEditorData(QWidget *editor, const QModelIndex &
     if (isIpAddress(integer))
         return setIPAddressEditorData(editor, index, node);
 
-    if (integer->GetIncMode() == GenApi::listIncrement) {
+    bool isList = false;
+    int64_t value = 0;
+    const bool isAnswered = ask(node, [&] {
+        isList = integer->GetIncMode() == GenApi::listIncrement;
+        value = integer->GetValue(false, false);
+    });
+    if (!isAnswered)
+        return;
+    if (isList) {
         if (auto *comboBox = qobject_cast<QComboBox *>(editor))
-            openListAt(comboBox, static_cast<qlonglong>(integer->GetValue(false, false)));
+            openListAt(comboBox, static_cast<qlonglong>(value));
     } else if (auto *spinBox = qobject_cast<QSpinBox *>(editor)) {
-        spinBox->setValue(static_cast<int>(integer->GetValue(false, false)));
+        spinBox->setValue(static_cast<int>(value));
     }
 }
 
@@ -300,11 +316,19 @@ void GenParamDelegate::setFloatEditorData(QWidget *editor, const QModelIndex &in
     const GenApi::CFloatPtr number(node);
     if (!number)
         return;
-    if (number->GetIncMode() == GenApi::listIncrement) {
+    bool isList = false;
+    double value = 0;
+    const bool isAnswered = ask(node, [&] {
+        isList = number->GetIncMode() == GenApi::listIncrement;
+        value = number->GetValue(false, false);
+    });
+    if (!isAnswered)
+        return;
+    if (isList) {
         if (auto *comboBox = qobject_cast<QComboBox *>(editor))
-            openListAt(comboBox, number->GetValue(false, false));
+            openListAt(comboBox, value);
     } else if (auto *spinBox = qobject_cast<QDoubleSpinBox *>(editor)) {
-        spinBox->setValue(number->GetValue(false, false));
+        spinBox->setValue(value);
     }
 }
 
@@ -314,8 +338,9 @@ void GenParamDelegate::setBooleanEditorData(QWidget *editor, const QModelIndex &
     Q_UNUSED(index)
     const GenApi::CBooleanPtr boolean(node);
     auto *comboBox = qobject_cast<QComboBox *>(editor);
-    if (boolean && comboBox)
-        openListAt(comboBox, boolean->GetValue(false, false));
+    bool value = false;
+    if (boolean && comboBox && ask(node, [&] { value = boolean->GetValue(false, false); }))
+        openListAt(comboBox, value);
 }
 
 void GenParamDelegate::setEnumerationEditorData(QWidget *editor, const QModelIndex &index,
@@ -324,8 +349,10 @@ void GenParamDelegate::setEnumerationEditorData(QWidget *editor, const QModelInd
     Q_UNUSED(index)
     const GenApi::CEnumerationPtr enumeration(node);
     auto *comboBox = qobject_cast<QComboBox *>(editor);
-    if (enumeration && comboBox)
-        openListAt(comboBox, static_cast<qlonglong>(enumeration->GetIntValue(false, false)));
+    qlonglong value = 0;
+    if (enumeration && comboBox &&
+        ask(node, [&] { value = enumeration->GetIntValue(false, false); }))
+        openListAt(comboBox, value);
 }
 
 void GenParamDelegate::setIPAddressEditorData(QWidget *editor, const QModelIndex &index,
@@ -334,10 +361,9 @@ void GenParamDelegate::setIPAddressEditorData(QWidget *editor, const QModelIndex
     Q_UNUSED(index)
     const GenApi::CIntegerPtr integer(node);
     auto *lineEdit = qobject_cast<QLineEdit *>(editor);
-    if (integer && lineEdit) {
-        const auto ip = static_cast<unsigned int>(integer->GetValue(false, false));
-        lineEdit->setText(IP4Validator::getIpStr(ip));
-    }
+    int64_t ip = 0;
+    if (integer && lineEdit && ask(node, [&] { ip = integer->GetValue(false, false); }))
+        lineEdit->setText(IP4Validator::getIpStr(static_cast<unsigned int>(ip)));
 }
 
 QComboBox *GenParamDelegate::createComboBox(QWidget *parent, const ComboBoxEntries &entries) const

@@ -5,6 +5,7 @@
 
 #include <QStyledItemDelegate>
 
+#include <functional>
 #include <utility>
 
 class QComboBox;
@@ -33,6 +34,10 @@ public:
                               const QModelIndex &index) const override;
 
 protected:
+    /// Runs a function that asks nodes for what an editor is filled with. False when it was not
+    /// answered; the editor stays as it is then.
+    virtual bool ask(const GenApi::CValuePtr &node, const std::function<void()> &questions) const;
+
     /// Shows the list of entries, unless it is open or the choice is made already.
     static void openList(QComboBox *comboBox);
 

@@ -3,12 +3,14 @@
 
 #include "featurenamedelegate.h"
 #include "genparamtreemodel.h"
-#include "genparamtreevisibilityfilterproxymodel.h"
+#include "knownvaluesmodel.h"
 #include "safedelegate.h"
+#include "treelookahead.h"
 #include "treeviewresizer.h"
 #include "ui_genparamtreeview.h"
 
 #include <GenApi/GenApi.h>
+#include <OrvGenParam/Array.h>
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -40,6 +42,17 @@ const int otherPaneSize = 10;
 GenApi::IValue *featureOf(const QModelIndex &index)
 {
     return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+GenApi::INodeMap *nodeMapOf(GenApi::INodeMap *nodeMap)
+{
+    return nodeMap;
+}
+
+GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *array)
+{
+    int32_t error = 0;
+    return array->GetNodeMap(&error);
 }
 
 /// Throws for an index without a feature.
@@ -84,6 +97,7 @@ public:
     void setModel(Source *source);
     void setModel(std::nullptr_t);
     void installModel(QAbstractItemModel *model);
+    void setLookAhead(TreeLookAhead *lookAhead);
     void setSpanForChildren(const QModelIndex &parent);
     void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
     void endEditing();
@@ -97,6 +111,8 @@ public:
 
     OrvGenParamTreeView *q = nullptr;
     const std::unique_ptr<Ui::GenParamTreeView> ui{new Ui::GenParamTreeView};
+    SafeDelegate *valueDelegate = nullptr;
+    QPointer<TreeLookAhead> lookAhead; ///< of the model
     std::string state;
     bool columnWidthRestored = false;
 };
@@ -109,9 +125,10 @@ void OrvGenParamTreeViewPrivate::Init(OrvGenParamTreeView *view, Source *source)
     q = view;
     ui->setupUi(q);
     buildSplitter();
+    valueDelegate = new SafeDelegate(q);
     setModel(source);
     ui->treeView->setItemDelegate(new FeatureNameDelegate(q));
-    ui->treeView->setItemDelegateForColumn(valueColumn, new SafeDelegate(q));
+    ui->treeView->setItemDelegateForColumn(valueColumn, valueDelegate);
     watchFirstShow();
 }
 
@@ -177,9 +194,12 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     if (!source)
         return;
 
-    auto *proxy = new GenParamTreeVisibilityFilterProxyModel(q);
+    auto *proxy = new KnownValuesModel(q);
     proxy->setSourceModel(new GenParamTreeModel(source, proxy));
     proxy->setFilterVisibility(ui->cbVisibility->currentIndex());
+    const auto shown = [this] { return ui->treeView->shownFeatures(); };
+    proxy->setLookAhead(TreeLookAhead::create(nodeMapOf(source), shown, proxy));
+    setLookAhead(proxy->lookAhead());
     installModel(proxy);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
@@ -192,6 +212,15 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     QObject::connect(ui->cbVisibility, levelChanged, proxy, [this, proxy] { applyLevel(proxy); });
     halveColumns();
     setSpanForChildren(QModelIndex());
+}
+
+void OrvGenParamTreeViewPrivate::setLookAhead(TreeLookAhead *newLookAhead)
+{
+    lookAhead = newLookAhead;
+    ui->treeView->setLookAhead(lookAhead);
+    valueDelegate->setLookAhead(lookAhead);
+    if (lookAhead)
+        QObject::connect(lookAhead, &TreeLookAhead::arrived, q, [this] { describeCurrent(); });
 }
 
 void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
@@ -260,7 +289,7 @@ void OrvGenParamTreeViewPrivate::forgetExpandedLeaves(const QModelIndex &parent)
 
 void OrvGenParamTreeViewPrivate::describeCurrent()
 {
-    ui->whatsThisLabel->describe(featureOf(ui->treeView->currentIndex()));
+    ui->whatsThisLabel->describe(featureOf(ui->treeView->currentIndex()), lookAhead);
 }
 
 void OrvGenParamTreeViewPrivate::saveState()

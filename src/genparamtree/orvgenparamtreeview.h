@@ -19,6 +19,10 @@ class OrvGenParamTreeViewPrivate;
 /// A widget like any other for Qt programs; see `IOrvGenParamTreeView` for what the host must keep
 /// alive and for the meaning of the operations. Values are edited in place and written at once;
 /// what the camera refuses silently falls back to the camera's value.
+///
+/// With a node map that is an `OrvGenParam::LookAhead`, only a write waits for the camera. Values
+/// appear as they come, and an editor opens when its value and limits have come. The model of
+/// `treeView()` then tells what is known; a `GenParamTreeModel` of the host's own waits.
 class ORVCAMERAGUIAPI_EXPORT OrvGenParamTreeView : public QWidget, public IOrvGenParamTreeView
 {
     Q_OBJECT

@@ -3,6 +3,7 @@
 
 #include "genicamstring.h"
 #include "genparamtreemodel.h"
+#include "treelookahead.h"
 
 #include <GenApi/GenApi.h>
 
@@ -136,11 +137,10 @@ QStringList typeSpecificLines(GenApi::IValue *value, GenApi::EInterfaceType type
     }
 }
 
-QString describe(GenApi::IValue *value, CameraText cameraText)
+/// What is the same for all kinds of feature, and never changes.
+QStringList commonLines(GenApi::IValue *value, GenApi::EInterfaceType type, CameraText cameraText)
 {
     const GenApi::CNodePtr node(value->GetNode());
-    const GenApi::EInterfaceType type = node->GetPrincipalInterfaceType();
-
     QStringList lines;
     lines.append(GenParamTreeModel::tr("<i>Name:</i> %1").arg(cameraText(node->GetDisplayName())));
     const QString typeText = typeName(type);
@@ -155,8 +155,28 @@ QString describe(GenApi::IValue *value, CameraText cameraText)
     const QString streamable =
         node->IsStreamable() ? GenParamTreeModel::tr("True") : GenParamTreeModel::tr("False");
     lines.append(GenParamTreeModel::tr("<i>Streamable:</i> %1").arg(streamable));
-    lines.append(typeSpecificLines(value, type, cameraText));
+    return lines;
+}
+
+enum class Part { Common, Whole };
+
+QString describe(GenApi::IValue *value, CameraText cameraText, Part part = Part::Whole)
+{
+    const GenApi::CNodePtr node(value->GetNode());
+    const GenApi::EInterfaceType type = node->GetPrincipalInterfaceType();
+    QStringList lines = commonLines(value, type, cameraText);
+    if (part == Part::Whole)
+        lines.append(typeSpecificLines(value, type, cameraText));
     return lines.join(QLatin1String("<br />"));
+}
+
+QString escapedPart(GenApi::IValue *value, Part part)
+{
+    try {
+        return describe(value, escaped, part);
+    } catch (const GenICam::GenericException &) {
+        return QString();
+    }
 }
 
 } // namespace
@@ -168,9 +188,24 @@ QString parameterDescription(GenApi::IValue *value)
 
 QString escapedDescription(GenApi::IValue *value)
 {
-    try {
-        return describe(value, escaped);
-    } catch (const GenICam::GenericException &) {
-        return QString();
-    }
+    return escapedPart(value, Part::Whole);
 }
+
+namespace OrvGui {
+
+bool knownDescription(GenApi::IValue *value, TreeLookAhead *lookAhead, QString *text)
+{
+    const auto ask = [&](Part part) {
+        const auto describeIt = [&] { *text = escapedPart(value, part); };
+        if (lookAhead)
+            return lookAhead->look(value, TreeLookAhead::Everything, describeIt);
+        describeIt();
+        return true;
+    };
+    if (ask(Part::Whole))
+        return true;
+    ask(Part::Common);
+    return false;
+}
+
+} // namespace OrvGui

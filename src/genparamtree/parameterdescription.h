@@ -16,3 +16,13 @@ QString parameterDescription(GenApi::IValue *value);
 /// The same lines to be shown as rich text: the camera's own texts are decoded as UTF-8 where they
 /// are valid UTF-8, and no markup. Empty for a feature that cannot be described.
 QString escapedDescription(GenApi::IValue *value);
+
+namespace OrvGui {
+
+class TreeLookAhead;
+
+/// As `escapedDescription`, but of what the look-ahead knows. While something is missing the lines
+/// are left out that depend on values, and the result is false. Null stands for no look-ahead.
+bool knownDescription(GenApi::IValue *value, TreeLookAhead *lookAhead, QString *text);
+
+} // namespace OrvGui

@@ -4,6 +4,7 @@
 #include "editorstate.h"
 #include "featurecell.h"
 #include "genparamtreemodel.h"
+#include "treelookahead.h"
 
 #include <GenApi/GenApi.h>
 
@@ -14,11 +15,35 @@
 
 namespace OrvGui {
 
+namespace {
+
+GenApi::IValue *featureOf(const QModelIndex &index)
+{
+    return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+} // namespace
+
+bool SafeDelegate::ask(const GenApi::CValuePtr &node, const std::function<void()> &questions) const
+{
+    if (!m_lookAhead)
+        return GenParamDelegate::ask(node, questions);
+    const bool isKnown = m_lookAhead->look(node, TreeLookAhead::Everything, questions);
+    m_hasMissed = m_hasMissed || !isKnown;
+    return isKnown;
+}
+
 QWidget *SafeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
     try {
-        QWidget *editor = GenParamDelegate::createEditor(parent, option, index);
+        QWidget *editor = nullptr;
+        const auto create = [&] { editor = GenParamDelegate::createEditor(parent, option, index); };
+        GenApi::IValue *feature = featureOf(index);
+        if (feature && !ask(feature, create))
+            return nullptr;
+        if (!feature)
+            create();
         const auto *list = qobject_cast<QComboBox *>(editor);
         if (list && list->count() == 0) {
             delete list;
@@ -63,6 +88,9 @@ void SafeDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
     }
     if (state->isTouched() || state->isListClosed())
         return;
+    GenApi::IValue *feature = featureOf(index);
+    if (m_lookAhead && feature && !m_lookAhead->knowsEverything(feature))
+        return fillLater(editor, index);
     const QPointer<QComboBox> list(qobject_cast<QComboBox *>(editor));
     if (!fill(editor, index) && list)
         openList(list);
@@ -73,15 +101,39 @@ bool SafeDelegate::fill(QWidget *editor, const QModelIndex &index) const
 {
     try {
         // The model has a text in place of a value that is not readable.
-        const GenApi::CValuePtr feature(index.data(Qt::UserRole).value<GenApi::IValue *>());
-        if (!GenApi::IsReadable(feature->GetAccessMode()))
+        const GenApi::CValuePtr feature(featureOf(index));
+        bool isReadable = false;
+        m_hasMissed = false;
+        ask(feature, [&] { isReadable = GenApi::IsReadable(feature->GetAccessMode()); });
+        if (!isReadable && !m_hasMissed)
             return false;
-        const EditorState::Filling filling(EditorState::of(editor));
-        GenParamDelegate::setEditorData(editor, index);
+        if (!m_hasMissed) {
+            const EditorState::Filling filling(EditorState::of(editor));
+            GenParamDelegate::setEditorData(editor, index);
+        }
+        if (m_hasMissed)
+            fillLater(editor, index);
         return true;
     } catch (const GenICam::GenericException &) {
         return false;
     }
+}
+
+void SafeDelegate::fillLater(QWidget *editor, const QModelIndex &index) const
+{
+    const QString name = QStringLiteral("fillLater");
+    if (editor->findChild<QObject *>(name, Qt::FindDirectChildrenOnly))
+        return;
+    auto *waiting = new QObject(editor);
+    waiting->setObjectName(name);
+    const QPersistentModelIndex cell(index);
+    connect(m_lookAhead, &TreeLookAhead::arrived, waiting, [this, waiting, editor, cell] {
+        waiting->setObjectName(QString());
+        disconnect(m_lookAhead, nullptr, waiting, nullptr);
+        waiting->deleteLater();
+        if (cell.isValid())
+            setEditorData(editor, cell);
+    });
 }
 
 void SafeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
@@ -114,7 +166,13 @@ bool SafeDelegate::eventFilter(QObject *watched, QEvent *event)
 
 QString SafeDelegate::displayText(const QVariant &value, const QLocale &locale) const
 {
-    return featureText(m_painted, value, locale);
+    GenApi::IValue *feature = featureOf(m_painted);
+    if (!m_lookAhead || !feature)
+        return featureText(feature, value, locale);
+    QString text = value.toString();
+    m_lookAhead->look(feature, TreeLookAhead::Cell,
+                      [&] { text = featureText(feature, value, locale); });
+    return text;
 }
 
 void SafeDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const

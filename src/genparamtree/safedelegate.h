@@ -4,8 +4,11 @@
 #include "genparamdelegate.h"
 
 #include <QModelIndex>
+#include <QPointer>
 
 namespace OrvGui {
+
+class TreeLookAhead;
 
 /// The value column of the tree, which opens an editor wherever the current cell goes.
 ///
@@ -13,12 +16,18 @@ namespace OrvGui {
 /// longer filled with the camera's value, a list that is dismissed closes, and the wheel scrolls
 /// the tree. And the failure of a node is kept out of Qt's event loop, which cannot handle it: such
 /// a node gets no editor, or one without its current value.
+///
+/// With a look-ahead nothing here waits for the camera: an editor is made of what is known, and
+/// filled when its value is known.
 class SafeDelegate : public GenParamDelegate
 {
     Q_OBJECT
 
 public:
     using GenParamDelegate::GenParamDelegate;
+
+    /// Null for none.
+    void setLookAhead(TreeLookAhead *lookAhead) { m_lookAhead = lookAhead; }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
@@ -28,6 +37,7 @@ public:
     QString displayText(const QVariant &value, const QLocale &locale) const override;
 
 protected:
+    bool ask(const GenApi::CValuePtr &node, const std::function<void()> &questions) const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
@@ -35,9 +45,12 @@ private:
     void watch(QWidget *editor) const;
     static QWidget *createNote(QWidget *parent);
     bool fill(QWidget *editor, const QModelIndex &index) const;
+    void fillLater(QWidget *editor, const QModelIndex &index) const;
 
     /// The cell whose value `displayText` is asked for.
     mutable QModelIndex m_painted;
+    mutable bool m_hasMissed = false; ///< something that `ask` was to find out
+    QPointer<TreeLookAhead> m_lookAhead;
 };
 
 } // namespace OrvGui

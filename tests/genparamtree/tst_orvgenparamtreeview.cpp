@@ -318,7 +318,8 @@ void TestOrvGenParamTreeView::texts()
     SampleNodeMap map;
     const GenParamTreeModel model(&map);
     const auto text = [&](const char *feature, const QVariant &value, const char *locale = "C") {
-        return OrvGui::featureText(valueCell(model, feature), value, QLocale(locale));
+        auto *node = dynamic_cast<GenApi::IValue *>(map.GetNode(feature));
+        return OrvGui::featureText(node, value, QLocale(locale));
     };
     QCOMPARE(text("ReverseX", true), QString("True"));
     QCOMPARE(text("BinningHorizontal", QVariant::fromValue(-1234567L)), QString("-1234567 px"));

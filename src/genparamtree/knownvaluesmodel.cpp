@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "knownvaluesmodel.h"
+
+#include "genparamtreemodel.h"
+#include "treelookahead.h"
+
+#include <QPalette>
+
+namespace OrvGui {
+
+namespace {
+
+const int valueColumn = 1;
+
+GenApi::IValue *featureOf(const QModelIndex &index)
+{
+    return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+} // namespace
+
+QVariant KnownValuesModel::data(const QModelIndex &index, int role) const
+{
+    const bool isOfCell =
+        index.column() == valueColumn && (role == Qt::DisplayRole || role == Qt::ForegroundRole);
+    const bool isOfValue = index.column() == valueColumn && role == Qt::EditRole;
+    if (!m_lookAhead || !(isOfCell || isOfValue || role == Qt::WhatsThisRole))
+        return GenParamTreeVisibilityFilterProxyModel::data(index, role);
+    const QModelIndex source = mapToSource(index);
+    GenApi::IValue *feature = featureOf(source);
+    if (!feature)
+        return QVariant();
+
+    if (isOfCell)
+        return role == Qt::DisplayRole ? cell(source).text : cell(source).foreground;
+    const auto extent = isOfValue ? TreeLookAhead::Cell : TreeLookAhead::Everything;
+    QVariant answer;
+    const bool isKnown =
+        m_lookAhead->look(feature, extent, [&] { answer = sourceModel()->data(source, role); });
+    return isKnown ? answer : QVariant();
+}
+
+Qt::ItemFlags KnownValuesModel::flags(const QModelIndex &index) const
+{
+    const QModelIndex source = mapToSource(index);
+    if (!m_lookAhead || index.column() != valueColumn || !featureOf(source))
+        return GenParamTreeVisibilityFilterProxyModel::flags(index);
+    return cell(source).flags;
+}
+
+KnownValuesModel::Cell KnownValuesModel::cell(const QModelIndex &source) const
+{
+    GenApi::IValue *feature = featureOf(source);
+    Cell now;
+    const bool isKnown = m_lookAhead->look(feature, TreeLookAhead::Cell, [&] {
+        const QAbstractItemModel *model = sourceModel();
+        now = {model->data(source, Qt::DisplayRole), model->data(source, Qt::ForegroundRole),
+               model->flags(source)};
+    });
+    if (isKnown) {
+        m_lastCells.insert(feature, new Cell(now));
+        return now;
+    }
+    if (const Cell *last = m_lastCells.object(feature))
+        return *last;
+    return {QString(QChar(0x2026)), QPalette().brush(QPalette::Disabled, QPalette::Text),
+            Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable};
+}
+
+} // namespace OrvGui

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "genparamtreevisibilityfilterproxymodel.h"
+
+#include <QCache>
+
+namespace GenApi_3_0 {
+struct IValue;
+}
+
+namespace OrvGui {
+
+class TreeLookAhead;
+
+/// The feature tree as its view shows it: with what is known of the values, so that no view,
+/// delegate or assistive technology ever waits for the camera.
+///
+/// While a new value is on its way, a cell has its last text; one that has had none yet has "…" in
+/// the disabled colour. To edit there is nothing but what is known. A cell whose access mode is not
+/// known counts as editable, but there is no editor before it is.
+///
+/// Without a look-ahead it answers everything, and waits.
+class KnownValuesModel : public GenParamTreeVisibilityFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    using GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel;
+
+    /// Null for none.
+    void setLookAhead(TreeLookAhead *lookAhead) { m_lookAhead = lookAhead; }
+    TreeLookAhead *lookAhead() const { return m_lookAhead; }
+
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+private:
+    struct Cell
+    {
+        QVariant text;
+        QVariant foreground;
+        Qt::ItemFlags flags;
+    };
+
+    Cell cell(const QModelIndex &source) const;
+
+    TreeLookAhead *m_lookAhead = nullptr;
+    mutable QCache<const GenApi_3_0::IValue *, Cell> m_lastCells{1000};
+};
+
+} // namespace OrvGui
