@@ -68,7 +68,7 @@ QString failure(const OrvCam::DeviceInfo &camera, const Result &result)
         return QString();
     const QString text = FeatureSource::tr("The camera '%1' cannot be opened.")
                              .arg(QString::fromUtf8(camera.GetId()));
-    return result.reason.isEmpty() ? text : text + ' ' + result.reason;
+    return result.reason.isEmpty() ? text : text + ' ' + QString(result.reason).replace('\n', ' ');
 }
 
 } // namespace

