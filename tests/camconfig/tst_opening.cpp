@@ -81,6 +81,7 @@ private slots:
     void changesOfMind();
     void fewCommands();
     void neverWaits();
+    void silence();
 
 private:
     CameraOpening::Result open();
@@ -100,6 +101,7 @@ void TestOpening::initTestCase()
     QVERIFY(file.open(QIODevice::ReadOnly));
     TestCamera::Settings settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
     settings.description = file.readAll().toStdString();
+    settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // those of the other frame
     settings.fillsRegisters = true;
     settings.serial = "SLOW";
     m_camera = std::make_unique<TestCamera>(settings);
@@ -196,7 +198,7 @@ void TestOpening::saysWhy()
 void TestOpening::changesOfMind_data()
 {
     QTest::addColumn<QString>("change");
-    for (const char *name : {"disconnect", "close", "destroy", "quit"})
+    for (const char *name : {"disconnect", "connect again", "close", "destroy", "quit"})
         QTest::newRow(name) << QString(name);
 }
 
@@ -240,7 +242,11 @@ void TestOpening::changesOfMind()
         QVERIFY(!window->device());
         if (change == "disconnect")
             window->findChild<QAction *>("actionDisconnect")->trigger();
-        else if (change == "close")
+        else if (change == "connect again") {
+            QTimer::singleShot(
+                200, [] { qobject_cast<QDialog *>(QApplication::activeModalWidget())->reject(); });
+            window->findChild<QAction *>("actionConnect")->trigger();
+        } else if (change == "close")
             window->close();
         else if (change == "destroy")
             window.reset();
@@ -263,9 +269,12 @@ void TestOpening::changesOfMind()
 
 void TestOpening::fewCommands()
 {
-    const DevicePtr device(open().device);
+    // As a host opens it: nothing has been read yet. The window looks at both frames.
+    int32_t error = OrvCam::Success;
+    const DevicePtr device(OrvCam_CreateDevice(m_info, &error, OrvCam::AccessControl));
     QVERIFY(device);
-    QTest::qWait(1500); // what the camera changes by itself is to be read again
+    OrvGenParam::Enum *const selector = device->GetParamArray()->GetEnum("FrameAB_Selector");
+    QCOMPARE(selector->SetIntValue(0), int32_t(OrvCam::Success));
     m_camera->takeCounters();
     OrvCamConfig window(device.get());
     const unsigned bound = m_camera->takeCounters().transfers();
@@ -313,6 +322,33 @@ void TestOpening::neverWaits()
     QVERIFY2(gaps.longest() < 170, qPrintable(QString::number(gaps.longest())));
     QCOMPARE(tabs->currentIndex(), other);
     QCOMPARE(tabs->tabText(other), QString(selector->GetSymbolicValue()));
+    window.SetDevice(nullptr);
+}
+
+/// A camera that has fallen silent costs a write, not the rest.
+void TestOpening::silence()
+{
+    m_camera->setMood("delay", 0);
+    const DevicePtr device(open().device);
+    QVERIFY(device);
+    OrvCamConfig window(device.get());
+    window.show();
+    m_camera->setMood("silence", -1);
+    OrvGenParam::Enum *const mode = device->GetParamArray()->GetEnum("TriggerMode");
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(mode->SetIntValue(1) != OrvCam::Success);
+    const qint64 first = timer.restart();
+    QVERIFY(mode->SetIntValue(1) != OrvCam::Success);
+    const qint64 second = timer.elapsed();
+    QVERIFY2(first < 2700 && second < 50, qPrintable(QString("%1 %2").arg(first).arg(second)));
+
+    const Gaps gaps;
+    const auto *status = window.findChild<QLabel *>("lblStatusText");
+    QTRY_COMPARE(status->text(), QString("Disconnected"));
+    QVERIFY2(gaps.longest() < 100, qPrintable(QString::number(gaps.longest())));
+    m_camera->setMood("delay", 0);
+    QTRY_VERIFY(status->text() != "Disconnected");
     window.SetDevice(nullptr);
 }
 
