@@ -48,44 +48,20 @@
 <context>
     <name>FeatureSource</name>
     <message>
-        <source>somebody else has it open</source>
-        <translation>ein anderes Programm hat sie geöffnet</translation>
-    </message>
-    <message>
-        <source>it does not answer</source>
-        <translation>sie antwortet nicht</translation>
-    </message>
-    <message>
-        <source>it did not answer in time</source>
-        <translation>sie hat nicht rechtzeitig geantwortet</translation>
-    </message>
-    <message>
-        <source>its address does not fit the network adapter&apos;s subnet</source>
-        <translation>ihre Adresse passt nicht zum Subnetz des Netzwerkadapters</translation>
-    </message>
-    <message>
-        <source>its description cannot be understood</source>
-        <translation>ihre Beschreibung ist nicht verständlich</translation>
-    </message>
-    <message>
-        <source>it refuses access</source>
-        <translation>sie verweigert den Zugriff</translation>
-    </message>
-    <message>
-        <source>error code %1</source>
-        <translation>Fehlercode %1</translation>
-    </message>
-    <message>
-        <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
-        <translation>Die Kamera „%1“ kann nicht geöffnet werden: %2.</translation>
-    </message>
-    <message>
         <source>%1 (read only)</source>
         <translation>%1 (schreibgeschützt)</translation>
     </message>
     <message>
         <source>The camera &apos;%1&apos; is read only: another program controls it.</source>
         <translation>Die Kamera „%1“ kann nur gelesen werden: Ein anderes Programm steuert sie.</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; cannot be opened.</source>
+        <translation>Die Kamera „%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is gone.</source>
+        <translation>Die Kamera „%1“ ist nicht mehr da.</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1002,33 @@ Trigger</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::CameraOpening</name>
+    <message>
+        <source>Another program has it open.</source>
+        <translation>Ein anderes Programm hat sie geöffnet.</translation>
+    </message>
+    <message>
+        <source>It does not answer.</source>
+        <translation>Sie antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>It did not answer in time.</source>
+        <translation>Sie hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>Its address does not fit the network adapter&apos;s subnet.</source>
+        <translation>Ihre Adresse passt nicht zum Subnetz des Netzwerkadapters.</translation>
+    </message>
+    <message>
+        <source>Its description cannot be used.</source>
+        <translation>Ihre Beschreibung kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>It refuses access.</source>
+        <translation>Sie verweigert den Zugriff.</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::FeatureToolTip</name>
     <message>
         <source>Range: %1 to %2</source>
@@ -1042,6 +1045,25 @@ Trigger</translation>
     <message>
         <source>Feature: %1</source>
         <translation>Parameter: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OpeningProgress</name>
+    <message>
+        <source>Open Camera</source>
+        <translation>Kamera öffnen</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>%1 wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Verbindung wird hergestellt …</translation>
+    </message>
+    <message>
+        <source>Reading the camera&apos;s description...</source>
+        <translation>Die Beschreibung der Kamera wird gelesen …</translation>
     </message>
 </context>
 <context>

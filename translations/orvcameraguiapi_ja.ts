@@ -48,44 +48,20 @@
 <context>
     <name>FeatureSource</name>
     <message>
-        <source>somebody else has it open</source>
-        <translation>ほかのプログラムが使用中です</translation>
-    </message>
-    <message>
-        <source>it does not answer</source>
-        <translation>応答がありません</translation>
-    </message>
-    <message>
-        <source>it did not answer in time</source>
-        <translation>時間内に応答がありませんでした</translation>
-    </message>
-    <message>
-        <source>its address does not fit the network adapter&apos;s subnet</source>
-        <translation>アドレスがネットワークアダプターのサブネットに合っていません</translation>
-    </message>
-    <message>
-        <source>its description cannot be understood</source>
-        <translation>記述ファイルを解釈できません</translation>
-    </message>
-    <message>
-        <source>it refuses access</source>
-        <translation>アクセスが拒否されました</translation>
-    </message>
-    <message>
-        <source>error code %1</source>
-        <translation>エラーコード %1</translation>
-    </message>
-    <message>
-        <source>The camera &apos;%1&apos; cannot be opened: %2.</source>
-        <translation>カメラ「%1」を開けません: %2。</translation>
-    </message>
-    <message>
         <source>%1 (read only)</source>
         <translation>%1（読み取り専用）</translation>
     </message>
     <message>
         <source>The camera &apos;%1&apos; is read only: another program controls it.</source>
         <translation>カメラ「%1」は読み取り専用です: ほかのプログラムが制御しています。</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; cannot be opened.</source>
+        <translation>カメラ「%1」を開けません。</translation>
+    </message>
+    <message>
+        <source>The camera &apos;%1&apos; is gone.</source>
+        <translation>カメラ「%1」は取り外されました。</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1002,33 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvGui::CameraOpening</name>
+    <message>
+        <source>Another program has it open.</source>
+        <translation>他のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <source>It does not answer.</source>
+        <translation>応答がありません。</translation>
+    </message>
+    <message>
+        <source>It did not answer in time.</source>
+        <translation>時間内に応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>Its address does not fit the network adapter&apos;s subnet.</source>
+        <translation>アドレスがネットワークアダプターのサブネットに合っていません。</translation>
+    </message>
+    <message>
+        <source>Its description cannot be used.</source>
+        <translation>記述ファイルを使用できません。</translation>
+    </message>
+    <message>
+        <source>It refuses access.</source>
+        <translation>アクセスが拒否されました。</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::FeatureToolTip</name>
     <message>
         <source>Range: %1 to %2</source>
@@ -1042,6 +1045,25 @@ Trigger</source>
     <message>
         <source>Feature: %1</source>
         <translation>パラメーター: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OpeningProgress</name>
+    <message>
+        <source>Open Camera</source>
+        <translation>カメラを開く</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation>%1 を開いています</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>接続しています…</translation>
+    </message>
+    <message>
+        <source>Reading the camera&apos;s description...</source>
+        <translation>カメラの記述ファイルを読み込んでいます…</translation>
     </message>
 </context>
 <context>

@@ -2,12 +2,17 @@
 #include "featuresource.h"
 
 #include <base/cameratext.h>
+#include <cameraopening.h>
 #include <description/nodemap.h>
+#include <orvcamconfig.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include <utility>
+
+using OrvGui::CameraOpening;
+using Result = CameraOpening::Result;
 
 namespace {
 
@@ -58,53 +63,36 @@ private:
     const bool m_isReadOnly;
 };
 
-QString reason(int32_t code)
+QString failure(const OrvCam::DeviceInfo &camera, const Result &result)
 {
-    switch (code) {
-    case OrvCam::ErrorBusy:
-        return FeatureSource::tr("somebody else has it open");
-    case OrvCam::ErrorGone:
-        return FeatureSource::tr("it does not answer");
-    case OrvCam::ErrorTimeout:
-        return FeatureSource::tr("it did not answer in time");
-    case OrvCam::ErrorWrongSubnet:
-        return FeatureSource::tr("its address does not fit the network adapter's subnet");
-    case OrvCam::ErrorBadDescription:
-        return FeatureSource::tr("its description cannot be understood");
-    case OrvCam::ErrorAccessDenied:
-        return FeatureSource::tr("it refuses access");
-    default:
-        return FeatureSource::tr("error code %1").arg(code);
-    }
-}
-
-QString failure(const OrvCam::DeviceInfo &camera, int32_t code)
-{
-    return FeatureSource::tr("The camera '%1' cannot be opened: %2.")
-        .arg(QString::fromUtf8(camera.GetId()), reason(code));
+    if (result.isCancelled)
+        return QString();
+    const QString text = FeatureSource::tr("The camera '%1' cannot be opened.")
+                             .arg(QString::fromUtf8(camera.GetId()));
+    return result.reason.isEmpty() ? text : text + ' ' + QString(result.reason).replace('\n', ' ');
 }
 
 } // namespace
 
 Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 {
-    int32_t code = OrvCam::Success;
-    Released<OrvCam::Device> device(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessControl));
-    if (!device)
-        *error = failure(camera, code);
-    return device;
+    CameraOpening opening(camera, OrvCam::AccessControl);
+    opening.setPreparation(&OrvGui::OrvCamConfig::prepare);
+    const Result result = opening.exec();
+    if (!result.device)
+        *error = failure(camera, result);
+    return Released<OrvCam::Device>(result.device);
 }
 
 std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
 {
-    int32_t code = OrvCam::Success;
-    Released<OrvCam::Device> device(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessControl));
-    const bool isReadOnly = code == OrvCam::ErrorBusy;
+    Result result = CameraOpening(camera, OrvCam::AccessControl).exec();
+    const bool isReadOnly = result.error == OrvCam::ErrorBusy;
     if (isReadOnly)
-        device.reset(OrvCam_CreateDevice(&camera, &code, OrvCam::AccessMonitor));
-    if (device)
-        return ofDevice(std::move(device), isReadOnly, error);
-    *error = failure(camera, code);
+        result = CameraOpening(camera, OrvCam::AccessMonitor).exec();
+    if (result.device)
+        return ofDevice(Released<OrvCam::Device>(result.device), isReadOnly, error);
+    *error = failure(camera, result);
     return nullptr;
 }
 
@@ -115,7 +103,8 @@ std::unique_ptr<FeatureSource> FeatureSource::ofDevice(Released<OrvCam::Device> 
     GenApi::INodeMap *map = array ? array->GetNodeMap() : nullptr;
     if (map)
         return std::make_unique<CameraSource>(std::move(device), map, isReadOnly);
-    *error = failure(*device->GetDeviceInfo(), OrvCam::ErrorGone);
+    *error =
+        tr("The camera '%1' is gone.").arg(QString::fromUtf8(device->GetDeviceInfo()->GetId()));
     return nullptr;
 }
 

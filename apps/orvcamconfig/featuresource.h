@@ -11,7 +11,8 @@
 
 #include <memory>
 
-/// Opens a camera, whose system must outlive the device. Null on failure, with `error` one line.
+/// Opens a camera, whose system must outlive the device, while a dialog shows how far that has
+/// come. Null on failure, with `error` one line, which is empty when the user has cancelled.
 Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
 
 /// The features that the program shows, and what keeps them alive.
@@ -31,8 +32,7 @@ public:
     /// One line about what a user may not expect; usually empty.
     virtual QString warning() const { return QString(); }
 
-    /// Opens a camera, whose system must outlive it; one that another program controls for reading.
-    /// Null on failure, with `error` one line.
+    /// Opens a camera as `openDevice` does; one that another program controls for reading.
     static std::unique_ptr<FeatureSource> openCamera(OrvCam::DeviceInfo &camera, QString *error);
 
     /// Takes over an opened camera, whose system must outlive it. Null when it has vanished

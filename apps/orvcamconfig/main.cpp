@@ -125,7 +125,9 @@ int configureCamera(OrvCam::System &system, const Options &options)
     QString error;
     OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
     Released<OrvCam::Device> device = camera ? openDevice(*camera, &error) : nullptr;
-    return device ? configure(std::move(device), options) : fail(Failure, error);
+    if (device)
+        return configure(std::move(device), options);
+    return error.isEmpty() ? Success : fail(Failure, error); // or cancelled
 }
 
 int showCamera(OrvCam::System &system, const Options &options)
@@ -133,7 +135,9 @@ int showCamera(OrvCam::System &system, const Options &options)
     QString error;
     OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
     const auto source = camera ? FeatureSource::openCamera(*camera, &error) : nullptr;
-    return source ? showFeatures(*source, options) : fail(Failure, error);
+    if (source)
+        return showFeatures(*source, options);
+    return error.isEmpty() ? Success : fail(Failure, error); // or cancelled
 }
 
 /// False when the picker has no such camera.
@@ -168,7 +172,9 @@ int pickCamera(OrvCam::System &system, const Options &options)
     while (picker.exec() == QDialog::Accepted) {
         if (auto device = openDevice(*picker.selectedCamera(), &error))
             return configure(std::move(device), options);
-        QMessageBox::critical(nullptr, QApplication::applicationName(), OrvGui::literally(error));
+        if (!error.isEmpty())
+            QMessageBox::critical(nullptr, QApplication::applicationName(),
+                                  OrvGui::literally(error));
     }
     return Success;
 }

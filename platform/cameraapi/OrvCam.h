@@ -6,6 +6,7 @@
 #include <OrvCam/Device.h>
 #include <OrvCam/DeviceInfo.h>
 #include <OrvCam/DeviceInfoList.h>
+#include <OrvCam/DeviceOpener.h>
 #include <OrvCam/Interface.h>
 #include <OrvCam/InterfaceList.h>
 #include <OrvCam/System.h>

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace OrvCam {
 
@@ -30,12 +31,13 @@ public:
     virtual void setListener(OrvCameraIo::RegisterIoListener *listener) = 0;
 };
 
-/// How far the opening of a camera has come. Both functions may be empty, and are called on the
-/// thread that opens.
+/// How the opening of a camera goes on. All functions may be empty, and are called on the thread
+/// that opens.
 struct OpenProgress
 {
-    std::function<void(int percent)> report;
+    std::function<void(int percent)> report; ///< the share of the description that has come
     std::function<bool()> isCancelled;
+    std::function<void(const std::string &reason)> explain; ///< why it failed, in English
 };
 
 /// Knows how to reach one camera. It depends on no record or interface, so that it can be used on

@@ -57,11 +57,32 @@ bool DeviceRecord::update(DeviceFacts facts)
 
 Device *DeviceRecord::open(int32_t accessMode, int32_t &error)
 {
-    if (m_connector)
-        return CameraDevice::open(m_parent.system().shared_from_this(), *this, m_connector,
-                                  accessMode, error);
-    error = ErrorAccessDenied;
-    return nullptr;
+    Request request;
+    request.accessMode = accessMode;
+    const Result result = opener()(request);
+    error = result.error;
+    return result.device;
+}
+
+DeviceOpener::Open DeviceRecord::opener()
+{
+    // The record is the system's, and stays where it is as long as that.
+    return [this, system = m_parent.system().shared_from_this(),
+            connector = m_connector](const Request &request) {
+        Result result;
+        result.error = ErrorAccessDenied;
+        if (!connector)
+            return result;
+        const OpenProgress progress{request.report, request.isCancelled,
+                                    [&](const std::string &reason) { result.reason = reason; }};
+        try {
+            result.device = CameraDevice::open(system, *this, connector, request.accessMode,
+                                               result.error, progress, request.homeThread);
+        } catch (...) {
+            result.error = ErrorFailed;
+        }
+        return result;
+    };
 }
 
 Interface *DeviceRecord::GetInterface() const

@@ -5,6 +5,7 @@
 
 #include <OrvCam/Device.h>
 #include <OrvCam/DeviceInfo.h>
+#include <OrvCam/DeviceOpener.h>
 
 #include <memory>
 #include <optional>
@@ -33,7 +34,7 @@ struct DeviceFacts
 };
 
 /// The camera record that every interface of this library hands out.
-class DeviceRecord final : public DeviceInfo
+class DeviceRecord final : public DeviceInfo, public DeviceOpener
 {
 public:
     DeviceRecord(CameraInterface &parent, DeviceFacts facts,
@@ -49,6 +50,8 @@ public:
 
     /// Opens the camera; null with the reason in `error`.
     Device *open(int32_t accessMode, int32_t &error);
+
+    Open opener() override;
 
     const char *GetDisplayName() const override { return m_displayName.c_str(); }
     const char *GetVendor() const override;

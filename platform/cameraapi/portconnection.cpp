@@ -30,7 +30,9 @@ std::unique_ptr<CameraConnection> PortConnector::open(int32_t accessMode,
             std::make_unique<PortConnection>(std::move(opened.port), *opened.description);
         error = Success;
         return connection;
-    } catch (const GenICam::GenericException &) {
+    } catch (const GenICam::GenericException &e) {
+        if (progress.explain)
+            progress.explain(e.GetDescription());
     } catch (const std::exception &) {
     }
     return nullptr;

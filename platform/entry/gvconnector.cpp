@@ -51,6 +51,8 @@ OpenedCamera GvConnector::openPort(int32_t accessMode, const OpenProgress &progr
     auto result = OrvGigEVision::openCamera(m_adapterName, m_cameraId, mode, inPercent(progress),
                                             progress.isCancelled);
     error = codeOf(result.failure);
+    if (!result.port && progress.explain)
+        progress.explain(result.message);
     return {std::move(result.port), std::move(result.description)};
 }
 

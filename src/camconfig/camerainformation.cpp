@@ -2,6 +2,7 @@
 #include "camerainformation.h"
 
 #include "base/cameratext.h"
+#include "featurereader.h"
 #include "ui_orvcamconfigaboutdialog.h"
 
 #include <OrvCam/Codes.h>
@@ -47,12 +48,12 @@ const Row numberRows[] = {
 
 /// Shows what `text` makes of the parameter's value; false when there is none to be read.
 template<class Kind, class Text>
-bool show(QLabel *label, const Kind *param, Text text)
+bool show(const FeatureReader &reader, QLabel *label, const Kind *param, Text text)
 {
     if (!param)
         return false;
     int32_t error = OrvCam::Success;
-    const QString value = text(param->GetValue(&error));
+    const QString value = reader.get([&] { return text(param->GetValue(&error)); });
     if (error == OrvCam::Success)
         label->setText(value);
     return error == OrvCam::Success;
@@ -73,18 +74,18 @@ CameraInformation::CameraInformation(QWidget *parent)
 
 CameraInformation::~CameraInformation() = default;
 
-void CameraInformation::adjust(OrvGenParam::Array *array)
+void CameraInformation::adjust(const FeatureReader &reader, OrvGenParam::Array *array)
 {
     const QString none = tr("N/A");
     for (const Row &row : textRows) {
         QLabel *label = (*m_ui).*row.label;
-        if (!array || !show(label, array->GetString(row.feature),
+        if (!array || !show(reader, label, array->GetString(row.feature),
                             [](const char *text) { return cameraText(text); }))
             label->setText(none);
     }
     for (const Row &row : numberRows) {
         QLabel *label = (*m_ui).*row.label;
-        if (!array || !show(label, array->GetInt(row.feature),
+        if (!array || !show(reader, label, array->GetInt(row.feature),
                             [](qint64 number) { return QString::number(number); }))
             label->setText(none);
     }

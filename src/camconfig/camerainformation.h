@@ -15,6 +15,8 @@ class Array;
 
 namespace OrvGui {
 
+class FeatureReader;
+
 /// Fills the dialog that says what this program is, and who the connected camera is.
 ///
 /// The dialog is a child of the widget it is made for; nothing more happens when that is gone.
@@ -28,7 +30,7 @@ public:
 
     /// Reads what the camera says of itself; without a camera, when `array` is null, or where it
     /// says nothing, that is what the dialog says.
-    void adjust(OrvGenParam::Array *array);
+    void adjust(const FeatureReader &reader, OrvGenParam::Array *array);
 
     QDialog *dialog() const { return m_dialog; }
 

@@ -2,8 +2,11 @@
 #include "orvcamconfig.h"
 
 #include "base/cameratext.h"
+#include "boundfeatures.h"
 #include "camerainformation.h"
+#include "cameraopening.h"
 #include "devicewatch.h"
+#include "featurereader.h"
 #include "featuretooltip.h"
 #include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
@@ -38,28 +41,12 @@ const int RefreshPeriod = 1000; // ms
 const char nameOfFrameA[] = "FrameA";
 const char nameOfFrameB[] = "FrameB";
 
-/// As text; empty when the camera lacks the feature or does not let it be read.
-QString numberOf(const OrvGenParam::Int *param)
-{
-    int32_t error = OrvCam::Success;
-    const qint64 value = param ? param->GetValue(&error) : 0;
-    return param && error == OrvCam::Success ? QString::number(value) : QString();
-}
-
 QString frameRate(const QString &frameTime, const QLocale &locale)
 {
     if (frameTime.isEmpty())
         return QString();
     const double microseconds = frameTime.toDouble();
     return NumberText::of(microseconds > 0 ? 1e6 / microseconds : 0.0, 2, locale);
-}
-
-/// Empty when it cannot be read.
-QByteArray symbolicOf(const OrvGenParam::Enum *param)
-{
-    int32_t error = OrvCam::Success;
-    const QByteArray value = param->GetSymbolicValue(&error);
-    return error == OrvCam::Success ? value : QByteArray();
 }
 
 } // namespace
@@ -83,6 +70,7 @@ public:
     void showTemperature();
     void closeDialogs();
     void OnParameterUpdate(OrvGenParam::Param *param) override;
+    void cancelOpening() { delete opening; }
 
     /// The device, if it has parameters to offer.
     OrvCam::Device *usable() const { return array ? device : nullptr; }
@@ -106,7 +94,15 @@ private:
     template<class Dialog>
     void addDialog(Dialog *dialog, QPushButton *button, QAction *action);
     void addShortcut(QWidget *dialog, QPushButton *button, int number);
-    OrvCam::Device *pick();
+    OrvCam::DeviceInfo *pick();
+    void connectPicked();
+    CameraOpening *newOpening(OrvCam::DeviceInfo &camera);
+    OrvCam::Device *open(OrvCam::DeviceInfo &camera);
+    void reportFailure(const QString &camera, const CameraOpening::Result &result);
+
+    QString numberOf(const OrvGenParam::Int *param) const;
+    QByteArray symbolicOf(const OrvGenParam::Enum *param) const;
+    FeatureReader::Params shownParams() const;
 
     bool init(OrvCam::Device *newDevice);
     void getNeededParams();
@@ -123,10 +119,12 @@ private:
     void drop();
     void restore();
     void refreshFrames();
+    void refreshFrame();
     Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
     bool updateBoth();
     void updateStatus();
+    void update(const OrvGenParam::Param *param);
     void readSelectedFrame();
     void readFrameMode();
 
@@ -135,6 +133,8 @@ private:
     OrvCam::System *system = nullptr;    ///< only when the window has obtained it
     OrvCam::Device *ownDevice = nullptr; ///< which the window has to release
     OrvGenParam::Array *array = nullptr; ///< the device's
+    FeatureReader reader;                ///< of that
+    QPointer<CameraOpening> opening;     ///< of the camera that the user wants next
     DeviceWatch watch;                   ///< keeps the device that is unplugged, too
     Ui_OrvCamConfigMainWindow ui;
     std::unique_ptr<CameraInformation> information;
@@ -166,8 +166,12 @@ OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window), time
 void OrvCamConfigPrivate::begin(OrvCam::Device *newDevice, bool mayAsk)
 {
     build();
-    if (!newDevice && mayAsk)
-        newDevice = ownDevice = pick();
+    if (!newDevice && mayAsk) {
+        if (OrvCam::DeviceInfo *picked = pick())
+            newDevice = ownDevice = open(*picked);
+    }
+    if (newDevice)
+        OrvCamConfig::prepare(*newDevice);
     addDialog(new OrvCamConfigFrameABDialog(newDevice, q), ui.pushBtnFrameAB, ui.actionFrame_A_B);
     addDialog(new OrvCamConfigTriggerDialog(newDevice, q), ui.pushBtnTrigger, ui.actionTrigger);
     addDialog(new OrvCamConfigPulseDialog(newDevice, q), ui.pushBtnPulse, ui.actionPulse);
@@ -215,9 +219,8 @@ void OrvCamConfigPrivate::connectMenus()
     QObject::connect(ui.actionConnect, &QAction::triggered, &receiver, [this] {
         const QPointer<OrvCamConfig> window(q);
         use(nullptr, nullptr);
-        OrvCam::Device *picked = window ? pick() : nullptr;
-        if (picked)
-            use(picked, picked);
+        if (window)
+            connectPicked();
     });
 }
 
@@ -254,7 +257,8 @@ void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int 
     });
 }
 
-OrvCam::Device *OrvCamConfigPrivate::pick()
+/// Null when the user picks none, and when the window goes meanwhile.
+OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
 {
     if (!system)
         system = OrvCam_GetSystem();
@@ -269,24 +273,84 @@ OrvCam::Device *OrvCamConfigPrivate::pick()
         return nullptr;
     OrvCam::DeviceInfo *camera = isAccepted ? picker->selectedCamera() : nullptr;
     delete picker;
-    if (!camera)
-        return nullptr;
+    return camera;
+}
 
-    OrvCam::Device *picked = OrvCam_CreateDevice(camera, nullptr, OrvCam::AccessControl);
-    if (!picked) {
-        auto *box = new QMessageBox(
-            QMessageBox::Critical, QString(),
-            tr("The camera %1 cannot be opened!").arg(cameraText(camera->GetDisplayName())),
-            QMessageBox::Ok, q);
-        box->setTextFormat(Qt::PlainText);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->open();
-    }
-    return picked;
+/// The user may change their mind while the camera is being opened, or the host have another device
+/// shown: what comes last counts.
+void OrvCamConfigPrivate::connectPicked()
+{
+    OrvCam::DeviceInfo *const picked = pick();
+    if (!picked)
+        return;
+    const QPointer<CameraOpening> started = newOpening(*picked);
+    const QString name = cameraText(picked->GetDisplayName());
+    started->setReceiver([this](OrvCam::Device *opened) {
+        opening.clear();
+        use(opened, opened);
+    });
+    const CameraOpening::Result result = started->exec();
+    if (started && result.error != OrvCam::Success)
+        reportFailure(name, result);
+    delete started;
+}
+
+CameraOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera)
+{
+    delete opening;
+    opening = new CameraOpening(camera, OrvCam::AccessControl, q);
+    opening->setPreparation(&OrvCamConfig::prepare);
+    return opening;
+}
+
+/// Null on failure, which has been reported.
+OrvCam::Device *OrvCamConfigPrivate::open(OrvCam::DeviceInfo &camera)
+{
+    const QString name = cameraText(camera.GetDisplayName());
+    const QPointer<CameraOpening> started = newOpening(camera);
+    const CameraOpening::Result result = started->exec();
+    delete started;
+    if (!result.device && !result.isCancelled)
+        reportFailure(name, result);
+    return result.device;
+}
+
+void OrvCamConfigPrivate::reportFailure(const QString &camera, const CameraOpening::Result &result)
+{
+    QString text = tr("The camera %1 cannot be opened!").arg(camera);
+    if (!result.reason.isEmpty())
+        text += QStringLiteral("\n\n") + result.reason;
+    auto *box = new QMessageBox(QMessageBox::Critical, QString(), text, QMessageBox::Ok, q);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+/// As text; empty when the camera lacks the feature or does not let it be read.
+QString OrvCamConfigPrivate::numberOf(const OrvGenParam::Int *param) const
+{
+    int32_t error = OrvCam::Success;
+    const qint64 value = param ? reader.get([&] { return param->GetValue(&error); }) : 0;
+    return param && error == OrvCam::Success ? QString::number(value) : QString();
+}
+
+/// Empty when it cannot be read.
+QByteArray OrvCamConfigPrivate::symbolicOf(const OrvGenParam::Enum *param) const
+{
+    int32_t error = OrvCam::Success;
+    const QByteArray value =
+        reader.get([&] { return QByteArray(param->GetSymbolicValue(&error)); });
+    return error == OrvCam::Success ? value : QByteArray();
+}
+
+FeatureReader::Params OrvCamConfigPrivate::shownParams() const
+{
+    return {frameSelector, width, height, frameTime, exposureTime};
 }
 
 void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created)
 {
+    delete opening;
     OrvCam::Device *const former = watch.device();
     const bool isOwn = std::exchange(ownDevice, created) == former;
     init(newDevice);
@@ -309,11 +373,13 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     device = newDevice;
     watch.watch(device); // first, so that nothing is missed
     if (device) {
+        OrvCamConfig::prepare(*device);
         int32_t error = OrvCam::Success;
         array = device->GetParamArray(&error);
         if (error != OrvCam::Success)
             array = nullptr;
     }
+    reader.setArray(array);
     if (array)
         getNeededParams();
     q->setEnabled(true);
@@ -324,7 +390,7 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     showTemperature();
     const bool isBack = updateBoth();
     updateStatus();
-    information->adjust(array);
+    information->adjust(reader, array);
     return isBack;
 }
 
@@ -358,6 +424,7 @@ void OrvCamConfigPrivate::forgetParams()
     if (frameModeParam)
         frameModeParam->UnregisterEventSink(this);
     array = nullptr;
+    reader.setArray(nullptr);
     frameSelector = nullptr;
     frameModeParam = nullptr;
     temperature = nullptr;
@@ -453,6 +520,7 @@ void OrvCamConfigPrivate::handOver()
 
 void OrvCamConfigPrivate::end()
 {
+    delete opening;
     timer.stop();
     forgetParams();
     watch.watch(nullptr);
@@ -486,13 +554,14 @@ void OrvCamConfigPrivate::drop()
     handOver();
     clearFields();
     updateStatus();
-    information->adjust(nullptr);
+    information->adjust(reader, nullptr);
     emit q->deviceChanged(nullptr);
 }
 
 void OrvCamConfigPrivate::restore()
 {
     device = watch.device();
+    OrvCamConfig::prepare(*device);
     handOver();
     if (!init(watch.device()))
         handOver();
@@ -503,8 +572,10 @@ void OrvCamConfigPrivate::refreshFrames()
 {
     if (!array)
         return;
-    if (!isFrameABSupported)
-        return updateFrame(FrameA);
+    if (!isFrameABSupported) {
+        reader.whenKnown(this, &ui, shownParams(), [this] { updateFrame(FrameA); });
+        return;
+    }
     if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false)) {
         if (!updateBoth()) {
             handOver();
@@ -512,6 +583,11 @@ void OrvCamConfigPrivate::refreshFrames()
         }
         return;
     }
+    reader.whenKnown(this, &ui, shownParams(), [this] { refreshFrame(); });
+}
+
+void OrvCamConfigPrivate::refreshFrame()
+{
     // What the camera tells is of the selected frame; the other column keeps what it shows.
     const bool isWanted =
         frameMode == BothFrames || (frameMode == OnlyFrameA) == (selectedFrame == FrameA);
@@ -521,8 +597,10 @@ void OrvCamConfigPrivate::refreshFrames()
 
 void OrvCamConfigPrivate::showTemperature()
 {
-    if (temperature)
-        ui.lineEditTemperature->setText(numberOf(temperature));
+    if (!temperature)
+        return;
+    reader.whenKnown(this, temperature, {temperature},
+                     [this] { ui.lineEditTemperature->setText(numberOf(temperature)); });
 }
 
 OrvCamConfigPrivate::Column OrvCamConfigPrivate::columnOf(Frame frame) const
@@ -562,6 +640,7 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
 bool OrvCamConfigPrivate::updateBoth()
 {
     const Frame first = selectedFrame;
+    reader.fetchNow(shownParams());
     updateFrame(first);
     if (!frameSelector)
         return true;
@@ -575,6 +654,7 @@ bool OrvCamConfigPrivate::updateBoth()
     const bool isA = first == FrameA;
     if (!select(isA ? nameOfFrameB : nameOfFrameA))
         return true;
+    reader.fetchNow(shownParams());
     updateFrame(isA ? FrameB : FrameA);
     return select(selected.constData()) || select(selected.constData());
 }
@@ -586,7 +666,7 @@ void OrvCamConfigPrivate::updateStatus()
     if (array) {
         const OrvGenParam::String *model = array->GetString("DeviceModelName");
         int32_t error = OrvCam::Success;
-        text = model ? cameraText(model->GetValue(&error)) : QString();
+        text = model ? reader.get([&] { return cameraText(model->GetValue(&error)); }) : QString();
         if (!model || error != OrvCam::Success)
             text = tr("Unknown");
         icon = QStringLiteral(":/icons/res/connected.ico");
@@ -610,7 +690,13 @@ void OrvCamConfigPrivate::readFrameMode()
 
 void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)
 {
-    if (!device || !param->IsReadable())
+    if (device)
+        reader.whenKnown(this, param, {param}, [=] { update(param); });
+}
+
+void OrvCamConfigPrivate::update(const OrvGenParam::Param *param)
+{
+    if (!reader.get([=] { return param->IsReadable(); }))
         return;
     if (param == frameSelector) {
         readSelectedFrame();
@@ -650,6 +736,14 @@ void OrvCamConfig::SetDevice(OrvCam::Device *device)
     d->use(device, nullptr);
 }
 
+void OrvCamConfig::prepare(OrvCam::Device &device)
+{
+    int32_t error = OrvCam::Success;
+    const OrvGenParam::Array *array = device.GetParamArray(&error);
+    if (array && error == OrvCam::Success)
+        FeatureReader::fetchNow(*array, BoundFeatures::all());
+}
+
 OrvCam::Device *OrvCamConfig::device() const
 {
     return d->usable();
@@ -663,6 +757,7 @@ void OrvCamConfig::showEvent(QShowEvent *event)
 
 void OrvCamConfig::closeEvent(QCloseEvent *event)
 {
+    d->cancelOpening();
     d->closeDialogs();
     QMainWindow::closeEvent(event);
 }

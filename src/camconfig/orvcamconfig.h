@@ -18,8 +18,10 @@ class OrvCamConfigPrivate;
 /// frames, and opens the dialogs that change it.
 ///
 /// Give it a device, or none to have the user pick a camera in the constructor. The user can
-/// disconnect and connect another one at any time. A camera that is unplugged leaves the window
-/// without one, and comes back about a second after it is there again.
+/// disconnect and connect another one at any time. While a camera is being opened events are
+/// handled, and the window is without one; another device, or closing the window, cancels that. A
+/// camera that is unplugged leaves the window without one, and comes back about a second after it
+/// is there again.
 ///
 /// A device that you give remains yours: give another one, or null, before you release it, also
 /// while its camera is unplugged. A device that the window has opened for the user is released by
@@ -47,6 +49,11 @@ public:
     /// What the window works with at this moment; null while its camera is unplugged, and without
     /// one.
     OrvCam::Device *device() const;
+
+    /// Reads what such a window and its dialogs are going to show of the device, in few transfers,
+    /// so that the window need not. May be called on any thread as long as nobody else has the
+    /// device.
+    static void prepare(OrvCam::Device &device);
 
 Q_SIGNALS:
     /// What `device` answers has changed, or it is the same device with other parameters, for it

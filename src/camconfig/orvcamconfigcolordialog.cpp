@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigcolordialog.h"
 
+#include "boundfeatures.h"
 #include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigcolordialog.h"
@@ -32,6 +33,7 @@ public:
 protected:
     void buildForm() override;
     void release() override;
+    FeatureReader::Names features() const override { return BoundFeatures::colorDialog(); }
     void bind() override;
 
 private:
@@ -46,6 +48,7 @@ private:
     };
 
     void bindCoefficient(Coefficient &coefficient);
+    void showStatistics(const OrvGenParam::Param *param);
     void initStatistics();
 
     Ui_OrvCamConfigColorDialog ui;
@@ -116,11 +119,17 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
 
 void OrvCamConfigColorDialogPrivate::OnParameterUpdate(OrvGenParam::Param *param)
 {
+    reader().whenKnown(this, param, {param}, [=] { showStatistics(param); });
+}
+
+void OrvCamConfigColorDialogPrivate::showStatistics(const OrvGenParam::Param *param)
+{
     for (const Coefficient &coefficient : m_coefficients) {
-        if (coefficient.bound != param || !param->IsReadable())
+        if (coefficient.bound != param || !reader().get([=] { return param->IsReadable(); }))
             continue;
         int32_t error = OrvCam::Success;
-        const qint64 value = static_cast<OrvGenParam::Int *>(param)->GetValue(&error);
+        const auto *number = static_cast<const OrvGenParam::Int *>(param);
+        const qint64 value = reader().get([&] { return number->GetValue(&error); });
         if (error == OrvCam::Success)
             coefficient.statistics->setText(QString::number(value));
     }

@@ -58,9 +58,11 @@ void OrvCamConfigDialogPrivate::target()
     release();
 
     array = device ? paramsOf(device) : nullptr;
+    mapper.setArray(array);
     q->setEnabled(array);
     if (!array)
         return;
+    FeatureReader::fetchNow(*array, features());
     m_boundDevice = device;
     bind();
 }

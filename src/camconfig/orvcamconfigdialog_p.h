@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "featurereader.h"
 #include "orvcamconfigdialog.h"
 #include "orvcamconfigmapper.h"
 
@@ -55,6 +56,9 @@ protected:
     /// Builds the form on `q`; called once, before anything else.
     virtual void buildForm() = 0;
 
+    /// What `bind` is going to read.
+    virtual FeatureReader::Names features() const = 0;
+
     /// Gives up what a dialog holds of the device apart from its bindings.
     virtual void release() {}
 
@@ -104,6 +108,8 @@ protected:
         QObject::connect(sender, signal, handlers(), handler);
     }
     QObject *handlers() const { return m_handlers.get(); }
+
+    FeatureReader &reader() const { return mapper.reader(); }
 
     OrvCamConfigDialog *q = nullptr;
     OrvCam::Device *device = nullptr;

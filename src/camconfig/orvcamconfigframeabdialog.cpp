@@ -2,6 +2,7 @@
 #include "orvcamconfigframeabdialog.h"
 
 #include "areapresets.h"
+#include "boundfeatures.h"
 #include "featuretooltip.h"
 #include "formfit.h"
 #include "heldinput.h"
@@ -28,6 +29,7 @@
 #include <QTimer>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <utility>
 
@@ -90,16 +92,17 @@ bool isUsable(const QWidget *widget)
     return !widget->testAttribute(Qt::WA_ForceDisabled);
 }
 
-bool isWritable(const Param *param)
+bool isWritable(const FeatureReader &reader, const Param *param)
 {
-    return param && param->IsAvailable() && param->IsWritable();
+    return param && reader.get([=] { return param->IsAvailable() && param->IsWritable(); });
 }
 
 /// Changes the value only if the camera tells it.
-bool read(const Int *param, int64_t (Int::*get)(int32_t *) const, qint64 &value)
+bool read(const FeatureReader &reader, const Int *param, int64_t (Int::*get)(int32_t *) const,
+          qint64 &value)
 {
     int32_t error = OrvCam::Success;
-    const qint64 answer = param ? (param->*get)(&error) : 0;
+    const qint64 answer = param ? reader.get([&] { return (param->*get)(&error); }) : 0;
     if (param && error == OrvCam::Success)
         value = answer;
     return param && error == OrvCam::Success;
@@ -108,11 +111,12 @@ bool read(const Int *param, int64_t (Int::*get)(int32_t *) const, qint64 &value)
 /// The number of doublings stays where powers of two make sense.
 struct Gain
 {
-    static Gain read(int64_t (Int::*get)(int32_t *) const, const Int *coarse, const Int *fine)
+    static Gain read(const FeatureReader &reader, int64_t (Int::*get)(int32_t *) const,
+                     const Int *coarse, const Int *fine)
     {
         Gain gain{0, 0};
-        OrvGui::read(coarse, get, gain.coarse);
-        OrvGui::read(fine, get, gain.fine);
+        OrvGui::read(reader, coarse, get, gain.coarse);
+        OrvGui::read(reader, fine, get, gain.fine);
         gain.coarse = qBound(-mostDoublings, gain.coarse, mostDoublings);
         return gain;
     }
@@ -161,6 +165,7 @@ public:
 
 protected:
     void buildForm() override;
+    FeatureReader::Names features() const override { return BoundFeatures::frameABDialog(); }
     void release() override;
     void bind() override;
     void settle() override;
@@ -185,6 +190,9 @@ private:
     void connectDrags();
     void startSizeTimer();
     void showCurrentSize();
+    FeatureReader::Params neededBy(const Param *param) const;
+    FeatureReader::Params areaParams() const;
+    void update(Param *param);
 
     void readLineTime();
     void readPixelClock();
@@ -201,6 +209,7 @@ private:
     void setDigitalGain(double factor);
     Gain gainOf(double factor) const;
 
+    void whenFrameModeIsKnown(const std::function<void()> &call);
     bool onFrameModeChanged();
     void onTabChanged(int index);
     bool showOnlyTab(int index);
@@ -210,6 +219,7 @@ private:
     void unbindFrameCounts();
     void dropInput();
     void catchUp();
+    void showAll();
 
     QtOrvSpinBox *areaBox(AreaPresets::Side side) const;
     void setArea(AreaPresets::Preset preset);
@@ -419,7 +429,8 @@ void OrvCamConfigFrameABDialogPrivate::getNeededParams()
     for (const char *feature : {"SensorWidth", "SensorHeight"})
         watched(array->GetInt(feature));
 
-    selectedFrame = frameSelector ? frameSelector->GetIntValue() : 0;
+    selectedFrame =
+        frameSelector ? reader().get([this] { return frameSelector->GetIntValue(); }) : 0;
     readPixelClock();
     readLineTime();
     readExposure();
@@ -502,9 +513,11 @@ void OrvCamConfigFrameABDialogPrivate::explainTrigger()
 
 void OrvCamConfigFrameABDialogPrivate::connectHandlers()
 {
-    on(ui.cmBoxFrameMode, &QComboBox::currentTextChanged, [this] { onFrameModeChanged(); });
+    on(ui.cmBoxFrameMode, &QComboBox::currentTextChanged,
+       [this] { whenFrameModeIsKnown([this] { onFrameModeChanged(); }); });
     on(ui.tabFrames, &QTabWidget::currentChanged, [this](int index) { onTabChanged(index); });
-    on(tabTimer, &QTimer::timeout, [this] { onFrameModeChanged(); });
+    on(tabTimer, &QTimer::timeout,
+       [this] { whenFrameModeIsKnown([this] { onFrameModeChanged(); }); });
     for (QAbstractButton *button : exposureButtons->buttons()) {
         on(button, &QAbstractButton::toggled, [this](bool isChecked) {
             if (isChecked)
@@ -553,16 +566,19 @@ void OrvCamConfigFrameABDialogPrivate::connectDrags()
 void OrvCamConfigFrameABDialogPrivate::startSizeTimer()
 {
     sizeTimer = new QTimer(q);
-    on(sizeTimer, &QTimer::timeout, [this] { showCurrentSize(); });
+    on(sizeTimer, &QTimer::timeout, [this] {
+        reader().whenKnown(this, sizeTimer, {widthActual, heightActual},
+                           [this] { showCurrentSize(); });
+    });
     sizeTimer->start(sizeInterval);
     showCurrentSize();
 }
 
 void OrvCamConfigFrameABDialogPrivate::showCurrentSize()
 {
-    const auto text = [](const Int *param) {
+    const auto text = [this](const Int *param) {
         qint64 value = 0;
-        return read(param, &Int::GetValue, value) ? QString::number(value) : QString();
+        return read(reader(), param, &Int::GetValue, value) ? QString::number(value) : QString();
     };
     const QString width = text(widthActual);
     const QString height = text(heightActual);
@@ -574,6 +590,30 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
 {
     if (!array || SelectorDetour::isUnderWay())
         return;
+    reader().whenKnown(this, param, neededBy(param), [=] { update(param); });
+}
+
+/// What is going to be read when the parameter has changed.
+FeatureReader::Params OrvCamConfigFrameABDialogPrivate::neededBy(const Param *param) const
+{
+    if (param == pixelClockParam || param == lineTimeParam)
+        return {param, periodParam};
+    if (param == exposureLinesParam || param == exposureClocksParam)
+        return {exposureLinesParam, exposureClocksParam};
+    if (param == coarseGain || param == fineGain)
+        return {coarseGain, fineGain};
+    return area.dependsOn(param) ? areaParams() : FeatureReader::Params{param};
+}
+
+FeatureReader::Params OrvCamConfigFrameABDialogPrivate::areaParams() const
+{
+    return {area.param(AreaPresets::OffsetX), area.param(AreaPresets::OffsetY),
+            area.param(AreaPresets::Width),   area.param(AreaPresets::Height),
+            array->GetInt("SensorWidth"),     array->GetInt("SensorHeight")};
+}
+
+void OrvCamConfigFrameABDialogPrivate::update(Param *param)
+{
     if (param == frameSelector) {
         dropInput();
         return;
@@ -601,30 +641,31 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
 void OrvCamConfigFrameABDialogPrivate::readPixelClock()
 {
     pixelClock = usualPixelClock;
-    read(pixelClockParam, &Int::GetValue, pixelClock);
+    read(reader(), pixelClockParam, &Int::GetValue, pixelClock);
 }
 
 void OrvCamConfigFrameABDialogPrivate::readLineTime()
 {
-    read(lineTimeParam, &Int::GetValue, lineTime);
+    read(reader(), lineTimeParam, &Int::GetValue, lineTime);
 }
 
 void OrvCamConfigFrameABDialogPrivate::readTriggerMode()
 {
     if (!triggerMode)
         isTriggerOn = false;
-    else if (triggerMode->IsReadable())
-        isTriggerOn = triggerMode->GetIntValue() > 0;
+    else if (reader().get([this] { return triggerMode->IsReadable(); }))
+        isTriggerOn = reader().get([this] { return triggerMode->GetIntValue() > 0; });
 }
 
 void OrvCamConfigFrameABDialogPrivate::readExposure()
 {
     if (isWriting)
         return; // one of the two has not been written yet
-    read(exposureLinesParam, &Int::GetValue, exposureLines);
-    read(exposureLinesParam, &Int::GetMax, exposureLinesMax);
-    read(exposureClocksParam, &Int::GetValue, exposureClocks);
-    read(exposureClocksParam, &Int::GetMax, exposureClocksMax);
+    const FeatureReader &known = reader();
+    read(known, exposureLinesParam, &Int::GetValue, exposureLines);
+    read(known, exposureLinesParam, &Int::GetMax, exposureLinesMax);
+    read(known, exposureClocksParam, &Int::GetValue, exposureClocks);
+    read(known, exposureClocksParam, &Int::GetMax, exposureClocksMax);
 }
 
 long OrvCamConfigFrameABDialogPrivate::ToControl(long value, Int *)
@@ -709,17 +750,17 @@ void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
 void OrvCamConfigFrameABDialogPrivate::readDigitalGain()
 {
     if (!isWriting)
-        gain = Gain::read(&Int::GetValue, coarseGain, fineGain);
+        gain = Gain::read(reader(), &Int::GetValue, coarseGain, fineGain);
 }
 
 void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
 {
     QtOrvGainSlider *const slider = ui.spBoxDigitalGain;
-    slider->setEnabled(isWritable(coarseGain) || isWritable(fineGain));
+    slider->setEnabled(isWritable(reader(), coarseGain) || isWritable(reader(), fineGain));
     if (isWriting || HeldInput::isDrag(slider))
         return;
-    leastGain = Gain::read(&Int::GetMin, coarseGain, fineGain);
-    mostGain = Gain::read(&Int::GetMax, coarseGain, fineGain);
+    leastGain = Gain::read(reader(), &Int::GetMin, coarseGain, fineGain);
+    mostGain = Gain::read(reader(), &Int::GetMax, coarseGain, fineGain);
 
     const QScopedValueRollback<bool> showing(isShowingGain, true);
     slider->setRange(leastGain.factor(), mostGain.factor());
@@ -756,6 +797,15 @@ Gain OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
     if (factor >= box->maximum())
         return mostGain;
     return factor <= box->minimum() ? leastGain : Gain::of(factor);
+}
+
+/// What the output mode binds and unbinds must be known, too.
+void OrvCamConfigFrameABDialogPrivate::whenFrameModeIsKnown(const std::function<void()> &call)
+{
+    reader().whenKnown(
+        this, tabTimer,
+        {frameSelector, lineTimeParam, array->GetInt(frameAsName), array->GetInt(frameBsName)},
+        call);
 }
 
 /// False when the dialog has got another camera by that, or is gone.
@@ -811,8 +861,10 @@ void OrvCamConfigFrameABDialogPrivate::onTabChanged(int index)
         tabTimer->start(0);
         return;
     }
-    if (onFrameModeChanged())
-        updateExposureTime();
+    whenFrameModeIsKnown([this] {
+        if (onFrameModeChanged())
+            updateExposureTime();
+    });
 }
 
 /// The frames share one set of widgets.
@@ -853,7 +905,7 @@ void OrvCamConfigFrameABDialogPrivate::unbindFrameCounts()
 // What the user is typing or dragging is meant for the frame that was selected up to now.
 void OrvCamConfigFrameABDialogPrivate::dropInput()
 {
-    const qint64 selected = frameSelector->GetIntValue();
+    const qint64 selected = reader().get([this] { return frameSelector->GetIntValue(); });
     if (selected == selectedFrame)
         return;
     selectedFrame = selected;
@@ -874,6 +926,14 @@ void OrvCamConfigFrameABDialogPrivate::dropInput()
 
 /// After several writes.
 void OrvCamConfigFrameABDialogPrivate::catchUp()
+{
+    reader().whenKnown(this, this,
+                       areaParams() + FeatureReader::Params{exposureLinesParam, exposureClocksParam,
+                                                            coarseGain, fineGain},
+                       [this] { showAll(); });
+}
+
+void OrvCamConfigFrameABDialogPrivate::showAll()
 {
     readExposure();
     readDigitalGain();
@@ -898,19 +958,23 @@ QtOrvSpinBox *OrvCamConfigFrameABDialogPrivate::areaBox(AreaPresets::Side side) 
 
 void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
 {
-    customArea = preset == AreaPresets::Custom ? area.area() : QVector<qint64>();
+    reader().fetchNow(areaParams());
+    customArea = preset == AreaPresets::Custom ? reader().get([this] { return area.area(); })
+                                               : QVector<qint64>();
+    const auto steps = reader().get([=] { return area.stepsTo(preset); });
     {
         const Writing writing(this);
-        for (const auto &step : area.stepsTo(preset)) {
+        for (const auto &step : steps) {
             Int *const side = area.param(step.first);
             QtOrvSpinBox *const spinBox = areaBox(step.first);
+            reader().fetchNow({side});
             mapper.updateSpinBox(side, spinBox); // may show what has been refused
             if (writing.isOver())
                 return;
             spinBox->setValue(ValueGrid::toInt(step.second));
             if (writing.isOver())
                 return;
-            if (side->GetValue() != step.second)
+            if (reader().get([=] { return side->GetValue(); }) != step.second)
                 break; // the next step is valid only from there
         }
     }
@@ -921,21 +985,26 @@ void OrvCamConfigFrameABDialogPrivate::showArea()
 {
     if (isWriting)
         return;
-    if (area.area() != customArea)
+    const auto holds = [this](AreaPresets::Preset preset) {
+        return reader().get([=] { return area.holds(preset); });
+    };
+    if (reader().get([this] { return area.area(); }) != customArea)
         customArea.clear();
     // On a sensor of just that size both presets are the same area; the user's choice stays.
     AreaPresets::Preset shown = AreaPresets::Custom;
     if (customArea.isEmpty()) {
         const auto checked = static_cast<AreaPresets::Preset>(areaButtons->checkedId());
-        if (area.holds(AreaPresets::FullFrame))
+        if (holds(AreaPresets::FullFrame))
             shown = AreaPresets::FullFrame;
-        if (area.holds(AreaPresets::Qfhd) &&
+        if (holds(AreaPresets::Qfhd) &&
             (shown == AreaPresets::Custom || checked == AreaPresets::Qfhd))
             shown = AreaPresets::Qfhd;
     }
     areaButtons->button(shown)->setChecked(true);
-    for (QAbstractButton *button : areaButtons->buttons())
-        button->setEnabled(area.offers(static_cast<AreaPresets::Preset>(areaButtons->id(button))));
+    for (QAbstractButton *button : areaButtons->buttons()) {
+        const auto preset = static_cast<AreaPresets::Preset>(areaButtons->id(button));
+        button->setEnabled(reader().get([=] { return area.offers(preset); }));
+    }
 }
 
 OrvCamConfigFrameABDialog::OrvCamConfigFrameABDialog(OrvCam::Device *device, QWidget *parent)

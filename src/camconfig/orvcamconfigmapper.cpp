@@ -2,6 +2,7 @@
 #include "orvcamconfigmapper.h"
 
 #include "base/cameratext.h"
+#include "featurereader.h"
 #include "featuretooltip.h"
 #include "heldinput.h"
 #include "iorvcamconfigintconverter.h"
@@ -128,17 +129,6 @@ QtOrvSlider *sliderOf(const OrvCamConfigMapData &record)
     return nullptr;
 }
 
-void setUsable(const OrvCamConfigMapData &record, const Param *param, bool usable)
-{
-    if (QButtonGroup *group = groupOf(record)) {
-        const auto *choice = dynamic_cast<const Enum *>(param);
-        for (QAbstractButton *button : group->buttons())
-            button->setEnabled(usable && (!choice || canChoose(choice, valueOf(group, button))));
-    } else if (record.control) {
-        record.control->setEnabled(usable);
-    }
-}
-
 void explain(const OrvCamConfigMapData &record, const QString &toolTip)
 {
     if (const QButtonGroup *group = groupOf(record)) {
@@ -220,6 +210,7 @@ struct OrvCamConfigMapper::State
     QHash<Param *, QByteArray> registered; ///< with their names: they may be gone
     QHash<QTabWidget *, QVector<QPointer<QWidget>>> removedPages; ///< the last one first
     WheelGuard wheelGuard;
+    FeatureReader reader;
 };
 
 OrvCamConfigMapper::Showing::Showing(OrvCamConfigMapper &mapper, QObject *control)
@@ -263,11 +254,35 @@ QObject *OrvCamConfigMapper::context() const
     return m_state->context.get();
 }
 
+void OrvCamConfigMapper::setArray(const OrvGenParam::Array *array)
+{
+    m_state->reader.setArray(array);
+}
+
+FeatureReader &OrvCamConfigMapper::reader() const
+{
+    return m_state->reader;
+}
+
+/// What the function reads of a parameter.
+template<class Get>
+auto OrvCamConfigMapper::read(Get get) const
+{
+    return m_state->reader.get(get);
+}
+
 void OrvCamConfigMapper::OnParameterUpdate(Param *param)
 {
     const QString name = nameOf(param);
     if (SelectorDetour::isUnderWay() || m_params.value(name) != param)
         return; // of a camera that this mapper has been taken away from
+    m_state->reader.whenKnown(this, param, {param}, [=] { refresh(name, param); });
+}
+
+void OrvCamConfigMapper::refresh(const QString &name, Param *param)
+{
+    if (m_params.value(name) != param)
+        return; // no longer
 
     // Whoever listens to the widgets may map, unmap or destroy the mapper.
     const Bindings bindings = m_bindings.value(name);
@@ -276,19 +291,34 @@ void OrvCamConfigMapper::OnParameterUpdate(Param *param)
         return !state->context || m_bindings.value(name).constData() != bindings.constData();
     };
 
-    const bool available = param->IsAvailable();
-    if (available && param->IsReadable()) {
+    const bool available = read([=] { return param->IsAvailable(); });
+    if (available && read([=] { return param->IsReadable(); })) {
         for (const Binding &binding : bindings) {
             show(binding.alive(), param);
             if (isOver())
                 return;
         }
     }
-    const bool usable = available && param->IsWritable();
+    const bool usable = available && read([=] { return param->IsWritable(); });
     for (const Binding &binding : bindings) {
         setUsable(binding.alive(), param, usable);
         if (isOver())
             return;
+    }
+}
+
+void OrvCamConfigMapper::setUsable(const OrvCamConfigMapData &record, const Param *param,
+                                   bool usable) const
+{
+    if (QButtonGroup *group = groupOf(record)) {
+        const auto *choice = dynamic_cast<const Enum *>(param);
+        for (QAbstractButton *button : group->buttons()) {
+            const qint64 value = valueOf(group, button);
+            button->setEnabled(usable &&
+                               (!choice || read([=] { return canChoose(choice, value); })));
+        }
+    } else if (record.control) {
+        record.control->setEnabled(usable);
     }
 }
 
@@ -305,8 +335,9 @@ bool OrvCamConfigMapper::begin(Param *param, const Records &records)
     cut(records.first());
 
     // One that is only read-only keeps its state until the next notification.
-    const bool available = param->IsAvailable();
-    if (!available || param->IsWritable()) {
+    m_state->reader.fetchNow({param});
+    const bool available = read([=] { return param->IsAvailable(); });
+    if (!available || read([=] { return param->IsWritable(); })) {
         for (const OrvCamConfigMapData &record : records)
             setUsable(record, nullptr, available);
     }
@@ -433,12 +464,13 @@ void OrvCamConfigMapper::updateComboBox(Enum *param, QComboBox *comboBox)
     if (comboBox->count() == 0)
         return;
     int32_t error = OrvCam::Success;
-    const QString current = QString::fromUtf8(param->GetSymbolicValue(&error));
+    const QString current =
+        read([&] { return QString::fromUtf8(param->GetSymbolicValue(&error)); });
     const Showing showing(*this, comboBox);
     if (auto *items = qobject_cast<QStandardItemModel *>(comboBox->model())) {
         for (int i = 0; i < comboBox->count(); ++i) {
             const EnumEntry *entry = entryAt(param, i);
-            items->item(i)->setEnabled(entry && entry->IsAvailable());
+            items->item(i)->setEnabled(entry && read([=] { return entry->IsAvailable(); }));
         }
     }
     if (error == OrvCam::Success)
@@ -491,7 +523,8 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QButtonGroup *buttons)
 bool OrvCamConfigMapper::checkCurrentButton(Enum *param, QButtonGroup *buttons)
 {
     int32_t error = OrvCam::Success;
-    QAbstractButton *button = buttonOf(buttons, param->GetIntValue(&error));
+    const qint64 value = read([&] { return param->GetIntValue(&error); });
+    QAbstractButton *button = buttonOf(buttons, value);
     if (error != OrvCam::Success || !button)
         return true;
     const Showing showing(*this, buttons);
@@ -507,7 +540,7 @@ void OrvCamConfigMapper::updateRadioButtons(Enum *param, QButtonGroup *buttons)
     for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
         const EnumEntry *entry = param->GetEntry(i);
         if (QAbstractButton *button = entry ? buttonOf(buttons, entry->GetValue()) : nullptr)
-            button->setEnabled(entry->IsAvailable());
+            button->setEnabled(read([=] { return entry->IsAvailable(); }));
     }
 }
 
@@ -556,7 +589,7 @@ void OrvCamConfigMapper::fitTabCount(QTabWidget *tabs, int entries)
 void OrvCamConfigMapper::updateTabWidget(Enum *param, QTabWidget *tabs)
 {
     const QHash<QString, int> tabOf = m_tabs.value(nameOf(param));
-    const QString current = QString::fromUtf8(param->GetSymbolicValue());
+    const QString current = read([=] { return QString::fromUtf8(param->GetSymbolicValue()); });
     {
         const Showing showing(*this, tabs);
         if (tabOf.contains(current))
@@ -567,7 +600,7 @@ void OrvCamConfigMapper::updateTabWidget(Enum *param, QTabWidget *tabs)
     for (int i = 0; i < tabs->count(); ++i) {
         const EnumEntry *entry = entryAt(param, i);
         if (QWidget *page = entry ? tabs->widget(tabOf.value(symbolicOf(entry), -1)) : nullptr)
-            page->setEnabled(entry->IsAvailable());
+            page->setEnabled(read([=] { return entry->IsAvailable(); }));
     }
 }
 
@@ -624,16 +657,20 @@ void OrvCamConfigMapper::showText(Int *param, QLineEdit *lineEdit)
 {
     int32_t error = OrvCam::Success;
     const auto *validator = qobject_cast<const QIntValidator *>(lineEdit->validator());
-    const qint64 min = validator ? param->GetMin(&error) : 0;
-    const qint64 max = validator && error == OrvCam::Success ? param->GetMax(&error) : 0;
+    const auto ask = [&](int64_t (Int::*get)(int32_t *) const) -> qint64 {
+        return read([&] { return (param->*get)(&error); });
+    };
+    const qint64 min = validator ? ask(&Int::GetMin) : 0;
+    const qint64 max = validator && error == OrvCam::Success ? ask(&Int::GetMax) : 0;
     if (validator && error == OrvCam::Success) {
         const int bottom = ValueGrid::toInt(min);
         const int top = ValueGrid::toInt(qMin(max, m_valueCap));
         const_cast<QIntValidator *>(validator)->setRange(bottom, top);
-        FeatureToolTip::set(lineEdit,
-                            FeatureToolTip::text(param, {bottom, top, param->GetInc()}, true));
+        int32_t ignored = OrvCam::Success;
+        const qint64 step = read([&] { return param->GetInc(&ignored); });
+        FeatureToolTip::set(lineEdit, FeatureToolTip::text(param, {bottom, top, step}, true));
     }
-    const qint64 value = param->GetValue(&error);
+    const qint64 value = ask(&Int::GetValue);
     const bool isTyping = lineEdit->hasFocus() && lineEdit->isModified();
     if (error == OrvCam::Success && !isTyping)
         lineEdit->setText(QString::number(qMin(value, m_valueCap)));
@@ -750,12 +787,16 @@ bool OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
     // All is read before anything is shown: what listens to the widget may write.
     int32_t limitsError = OrvCam::Success;
     int32_t maxError = OrvCam::Success;
+    int32_t incError = OrvCam::Success;
     int32_t valueError = OrvCam::Success;
-    const int min = ValueGrid::toInt(qint64(shown(param->GetMin(&limitsError))));
-    const int max = capped(shown(param->GetMax(&maxError)));
-    const int step = ValueGrid::toInt(qint64(shown(param->GetInc())));
+    const auto ask = [=](int64_t (Int::*get)(int32_t *) const, int32_t &error) {
+        return shown(read([=, &error] { return (param->*get)(&error); }));
+    };
+    const int min = ValueGrid::toInt(qint64(ask(&Int::GetMin, limitsError)));
+    const int max = capped(ask(&Int::GetMax, maxError));
+    const int step = ValueGrid::toInt(qint64(ask(&Int::GetInc, incError)));
     const bool isKept = what == LimitsAroundValue;
-    const int value = isKept ? widget->value() : capped(shown(param->GetValue(&valueError)));
+    const int value = isKept ? widget->value() : capped(ask(&Int::GetValue, valueError));
     if (isKept && (value < min || value > max))
         return true;
 
@@ -808,9 +849,9 @@ void OrvCamConfigMapper::show(const OrvCamConfigMapData &record, Param *param)
         return with<Enum, QComboBox>(param, control,
                                      [=](auto *p, auto *widget) { updateComboBox(p, widget); });
     case MapEnumCheckBox:
-        return with<Enum, QCheckBox>(param, control, [](auto *p, auto *widget) {
+        return with<Enum, QCheckBox>(param, control, [this](auto *p, auto *widget) {
             int32_t error = OrvCam::Success;
-            const bool on = p->GetIntValue(&error) != 0;
+            const bool on = this->read([&] { return p->GetIntValue(&error) != 0; });
             if (error == OrvCam::Success)
                 widget->setChecked(on);
         });
@@ -822,9 +863,9 @@ void OrvCamConfigMapper::show(const OrvCamConfigMapData &record, Param *param)
         return with<Enum, QTabWidget>(param, control,
                                       [=](auto *p, auto *widget) { updateTabWidget(p, widget); });
     case MapBooleanButton:
-        return with<Boolean, QAbstractButton>(param, control, [](auto *p, auto *widget) {
+        return with<Boolean, QAbstractButton>(param, control, [this](auto *p, auto *widget) {
             int32_t error = OrvCam::Success;
-            const bool on = p->GetValue(&error);
+            const bool on = this->read([&] { return p->GetValue(&error); });
             if (error == OrvCam::Success)
                 widget->setChecked(on);
         });

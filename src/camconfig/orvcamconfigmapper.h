@@ -39,6 +39,7 @@ class Int;
 
 namespace OrvGui {
 
+class FeatureReader;
 class IOrvCamConfigIntConverter;
 
 /// Binds parameters of a camera to widgets, in both directions: what the user changes is written to
@@ -77,7 +78,15 @@ public:
     explicit OrvCamConfigMapper(qint64 valueCap = std::numeric_limits<int>::max());
     ~OrvCamConfigMapper() override;
 
-    /// Shows the parameter in the widgets that are bound to it, and enables or disables them.
+    /// The array of which parameters are going to be mapped; null for none. Without it, every
+    /// value is asked of the camera when it is shown, and waited for.
+    void setArray(const OrvGenParam::Array *array);
+
+    /// What reads the parameters of that array.
+    FeatureReader &reader() const;
+
+    /// Shows the parameter in the widgets that are bound to it, and enables or disables them; once
+    /// its value is known, where that has to be read first.
     void OnParameterUpdate(OrvGenParam::Param *param) override;
 
     /// One item for each entry; those that are not available cannot be chosen.
@@ -155,6 +164,11 @@ private:
     class Showing;
     struct State;
 
+    void refresh(const QString &name, OrvGenParam::Param *param);
+    void setUsable(const OrvCamConfigMapData &record, const OrvGenParam::Param *param,
+                   bool usable) const;
+    template<class Get>
+    auto read(Get get) const;
     bool begin(OrvGenParam::Param *param, const Records &records);
     void finish(OrvGenParam::Param *param);
     void cut(const OrvCamConfigMapData &record);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigoutputdialog.h"
 
+#include "boundfeatures.h"
 #include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigoutputdialog.h"
@@ -14,6 +15,7 @@ public:
 
 protected:
     void buildForm() override;
+    FeatureReader::Names features() const override { return BoundFeatures::outputDialog(); }
     void bind() override;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigpulsedialog.h"
 
+#include "boundfeatures.h"
 #include "orvcamconfigdialog_p.h"
 #include "qtorvslider.h"
 #include "ui_orvcamconfigpulsedialog.h"
@@ -38,6 +39,7 @@ public:
 
 protected:
     void buildForm() override;
+    FeatureReader::Names features() const override { return BoundFeatures::pulseDialog(); }
     void bind() override;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigstrobedialog.h"
 
+#include "boundfeatures.h"
 #include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 #include "qtorvslider.h"
@@ -21,6 +22,7 @@ class OrvCamConfigStrobeDialogPrivate : public OrvCamConfigDialogPrivate
 {
 protected:
     void buildForm() override;
+    FeatureReader::Names features() const override { return BoundFeatures::strobeDialog(); }
     void bind() override;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigtriggerdialog.h"
 
+#include "boundfeatures.h"
 #include "orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigtriggerdialog.h"
 
@@ -10,6 +11,7 @@ class OrvCamConfigTriggerDialogPrivate : public OrvCamConfigDialogPrivate
 {
 protected:
     void buildForm() override { ui.setupUi(q); }
+    FeatureReader::Names features() const override { return BoundFeatures::triggerDialog(); }
     void bind() override;
 
 private:

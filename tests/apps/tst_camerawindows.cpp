@@ -219,8 +219,7 @@ void TestCameraWindows::vanishedCamera()
     QString error;
     QVERIFY(
         !FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), false, &error));
-    QCOMPARE(error,
-             QString("The camera 'Simulated-SIM-0001' cannot be opened: it does not answer."));
+    QCOMPARE(error, QString("The camera 'Simulated-SIM-0001' is gone."));
 }
 
 QTEST_MAIN(TestCameraWindows)

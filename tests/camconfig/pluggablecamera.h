@@ -71,14 +71,15 @@ class CountedDevice final : public OrvCam::Device
 {
 public:
     /// Null when the camera is unplugged or open already.
-    static CountedDevice *open(PluggableCamera &camera, OrvCam::DeviceInfo &info)
+    static CountedDevice *open(PluggableCamera &camera, OrvCam::DeviceInfo &info,
+                               std::thread::id homeThread = std::this_thread::get_id())
     {
         if (counts(camera).open > 0)
             return nullptr;
         int32_t error = OrvCam::Success;
         auto *device = OrvCam::CameraDevice::open(
             nullptr, info, std::make_shared<PluggableCamera::Connector>(camera),
-            OrvCam::AccessControl, error);
+            OrvCam::AccessControl, error, {}, homeThread);
         return device ? new CountedDevice(camera, device) : nullptr;
     }
 

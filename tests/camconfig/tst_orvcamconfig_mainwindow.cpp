@@ -33,6 +33,7 @@ struct World
     FakeCamera &firstInfo = interface.add("First");
     FakeCamera &secondInfo = interface.add("Second");
     int systems = 0; ///< handed out and not released
+    const std::thread::id homeThread = std::this_thread::get_id();
     struct System final : OrvCam::System
     {
         explicit System(World &w) : world(w) {}
@@ -65,7 +66,8 @@ OrvCamDevice *OrvCam_CreateDevice(OrvCamDeviceInfo *info, int32_t *error, int32_
 {
     if (error || accessMode != OrvCam::AccessControl)
         qFatal("Not how a device is to be created");
-    return CountedDevice::open(theWorld->camera(info == &theWorld->firstInfo ? 0 : 1), *info);
+    return CountedDevice::open(theWorld->camera(info == &theWorld->firstInfo ? 0 : 1), *info,
+                               theWorld->homeThread);
 }
 
 namespace {

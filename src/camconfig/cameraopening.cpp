@@ -1,0 +1,334 @@
+// SPDX-License-Identifier: MIT
+#include "cameraopening.h"
+
+#include "openingprogress.h"
+
+#include <OrvCam.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <atomic>
+#include <condition_variable>
+#include <list>
+#include <mutex>
+#include <set>
+#include <thread>
+#include <utility>
+
+using OrvCam::DeviceOpener;
+
+namespace OrvGui {
+
+namespace {
+
+const int patience = 300;      // ms until the dialog is shown
+const int progressPeriod = 50; // ms
+
+struct Releaser
+{
+    template<class Object>
+    void operator()(Object *object) const
+    {
+        if (object)
+            object->Release();
+    }
+};
+
+/// What a camera's own library does not tell in words is told by the code.
+QString reasonOf(int32_t code)
+{
+    switch (code) {
+    case OrvCam::ErrorBusy:
+        return CameraOpening::tr("Another program has it open.");
+    case OrvCam::ErrorGone:
+        return CameraOpening::tr("It does not answer.");
+    case OrvCam::ErrorTimeout:
+        return CameraOpening::tr("It did not answer in time.");
+    case OrvCam::ErrorWrongSubnet:
+        return CameraOpening::tr("Its address does not fit the network adapter's subnet.");
+    case OrvCam::ErrorBadDescription:
+        return CameraOpening::tr("Its description cannot be used.");
+    case OrvCam::ErrorAccessDenied:
+        return CameraOpening::tr("It refuses access.");
+    default:
+        return QString();
+    }
+}
+
+/// With what the platform has to say where the code leaves that open.
+QString explained(const DeviceOpener::Result &result)
+{
+    const QString reason = reasonOf(result.error);
+    const bool isPlain = !reason.isEmpty() && result.error != OrvCam::ErrorBadDescription;
+    const QString detail = isPlain ? QString() : QString::fromStdString(result.reason);
+    if (reason.isEmpty() || detail.isEmpty())
+        return reason + detail;
+    return reason + QLatin1Char('\n') + detail;
+}
+
+/// For a camera whose library has only the one function. Its system stays as long as the job.
+DeviceOpener::Open simpleOpener(OrvCam::DeviceInfo &camera)
+{
+    return [&camera](const DeviceOpener::Request &request) {
+        DeviceOpener::Result result;
+        result.device = OrvCam_CreateDevice(&camera, nullptr, request.accessMode);
+        result.error = result.device ? OrvCam::Success : OrvCam::ErrorFailed;
+        return result;
+    };
+}
+
+} // namespace
+
+/// What the GUI thread and the thread that opens share.
+struct CameraOpening::Job
+{
+    DeviceOpener::Open open;
+    DeviceOpener::Request request;
+    std::function<void(OrvCam::Device &)> prepare;
+    std::string camera;
+    std::shared_ptr<OrvCam::System> system; ///< only where the opener does not keep it alive
+
+    std::atomic<bool> isCancelled{false};
+    std::atomic<int> percent{-1};
+    std::atomic<bool> isThreadDone{false};
+
+    std::mutex mutex;            ///< guards the next two
+    QObject *receiver = nullptr; ///< null when nobody wants the device any more
+    DeviceOpener::Result result;
+
+    QEventLoop *loop = nullptr; ///< of the GUI thread
+    bool isOver = false;        ///< there, too
+};
+
+/// The threads that open cameras, also those that nobody waits for any more.
+class CameraOpening::Workers
+{
+public:
+    static Workers &all()
+    {
+        static Workers workers;
+        return workers;
+    }
+
+    ~Workers()
+    {
+        for (const Worker &worker : m_workers)
+            cancel(*worker.job);
+        for (Worker &worker : m_workers)
+            worker.thread.join();
+    }
+
+    void start(const std::shared_ptr<Job> &job)
+    {
+        reap();
+        m_workers.push_back({job, std::thread([job] { work(*job); })});
+    }
+
+    void reap()
+    {
+        for (auto it = m_workers.begin(); it != m_workers.end();) {
+            if (!it->job->isThreadDone) {
+                ++it;
+                continue;
+            }
+            it->thread.join();
+            it = m_workers.erase(it);
+        }
+    }
+
+    /// Waits for an opening of the same camera to end, as only one can have control. False when
+    /// this one has been cancelled.
+    bool begin(const Job &job)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_ended.wait(lock, [&] { return job.isCancelled || m_cameras.count(job.camera) == 0; });
+        return !job.isCancelled && m_cameras.insert(job.camera).second;
+    }
+
+    void end(const Job &job)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_cameras.erase(job.camera);
+        m_ended.notify_all();
+    }
+
+    void cancel(Job &job)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        job.isCancelled = true;
+        m_ended.notify_all();
+    }
+
+private:
+    struct Worker
+    {
+        std::shared_ptr<Job> job;
+        std::thread thread;
+    };
+
+    std::list<Worker> m_workers; ///< the GUI thread's
+
+    std::mutex m_mutex; ///< guards the cameras that are being opened
+    std::condition_variable m_ended;
+    std::set<std::string> m_cameras;
+};
+
+CameraOpening::CameraOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWidget *window)
+    : QObject(window)
+    , m_camera(camera)
+    , m_window(window)
+    , m_name(QString::fromUtf8(camera.GetDisplayName()))
+    , m_job(std::make_shared<Job>())
+{
+    m_job->request.accessMode = accessMode;
+}
+
+CameraOpening::~CameraOpening()
+{
+    abandon();
+    delete m_progress;
+}
+
+void CameraOpening::setPreparation(std::function<void(OrvCam::Device &)> prepare)
+{
+    m_job->prepare = std::move(prepare);
+}
+
+void CameraOpening::setReceiver(std::function<void(OrvCam::Device *)> receiver)
+{
+    m_receiver = std::move(receiver);
+}
+
+CameraOpening::Result CameraOpening::exec()
+{
+    const std::shared_ptr<Job> job = m_job; // this may be gone at the end
+    const QPointer<CameraOpening> self(this);
+    QEventLoop loop;
+    job->loop = &loop;
+    start();
+    loop.exec();
+    job->loop = nullptr;
+    if (job->isOver)
+        return take(*job);
+    if (self)
+        abandon(); // the program is about to end
+    Result cancelled;
+    cancelled.isCancelled = true;
+    return cancelled;
+}
+
+void CameraOpening::start()
+{
+    if (auto *opener = dynamic_cast<DeviceOpener *>(&m_camera)) {
+        m_job->open = opener->opener();
+    } else {
+        m_job->open = simpleOpener(m_camera);
+        m_job->system.reset(OrvCam_GetSystem(), Releaser());
+    }
+    m_job->camera = m_camera.GetId();
+    m_job->receiver = this;
+    m_job->request.report = [job = m_job.get()](int percent) { job->percent = percent; };
+    m_job->request.isCancelled = [job = m_job.get()] { return job->isCancelled.load(); };
+    QTimer::singleShot(patience, this, [this] { show(); });
+    Workers::all().start(m_job);
+}
+
+void CameraOpening::show()
+{
+    if (m_job->isOver || m_job->isCancelled)
+        return;
+    m_progress = new OpeningProgress(m_name, m_window);
+    connect(m_progress, &QDialog::rejected, this, &CameraOpening::abandon);
+    auto *timer = new QTimer(m_progress);
+    connect(timer, &QTimer::timeout, this, [this] { m_progress->setShare(m_job->percent); });
+    timer->start(progressPeriod);
+    m_progress->setShare(m_job->percent);
+    m_progress->show();
+}
+
+void CameraOpening::abandon()
+{
+    Workers::all().cancel(*m_job);
+    {
+        const std::lock_guard<std::mutex> lock(m_job->mutex);
+        m_job->receiver = nullptr;
+        Releaser()(std::exchange(m_job->result.device, nullptr));
+    }
+    if (m_job->loop)
+        m_job->loop->quit();
+}
+
+bool CameraOpening::event(QEvent *event)
+{
+    if (event->type() != QEvent::User)
+        return QObject::event(event);
+    if (!m_job->isCancelled)
+        end();
+    return true;
+}
+
+void CameraOpening::end()
+{
+    const std::shared_ptr<Job> job = m_job;
+    job->isOver = true;
+    job->system.reset();
+    delete m_progress;
+    Workers::all().reap();
+    if (job->loop)
+        job->loop->quit();
+    const auto receiver = m_receiver;
+    if (!receiver || !job->result.device)
+        return;
+    receiver(take(*job).device); // which may destroy this
+}
+
+CameraOpening::Result CameraOpening::take(Job &job)
+{
+    Result result;
+    const std::lock_guard<std::mutex> lock(job.mutex);
+    result.device = std::exchange(job.result.device, nullptr);
+    result.error = job.result.error;
+    result.reason = explained(job.result);
+    return result;
+}
+
+// On the thread that opens
+
+void CameraOpening::work(Job &job)
+{
+    const bool isBegun = Workers::all().begin(job);
+    DeviceOpener::Result result;
+    result.error = OrvCam::ErrorFailed;
+    try {
+        if (isBegun)
+            result = job.open(job.request);
+        if (result.device && job.prepare && !job.isCancelled)
+            job.prepare(*result.device);
+    } catch (const std::exception &e) {
+        result.reason = e.what();
+    }
+    job.open = nullptr;
+    deliver(job, std::move(result));
+    if (isBegun)
+        Workers::all().end(job);
+    job.isThreadDone = true;
+}
+
+void CameraOpening::deliver(Job &job, DeviceOpener::Result result)
+{
+    {
+        const std::lock_guard<std::mutex> lock(job.mutex);
+        if (job.receiver) {
+            job.result = std::move(result);
+            QCoreApplication::postEvent(job.receiver, new QEvent(QEvent::User));
+            return;
+        }
+    }
+    Releaser()(result.device);
+    job.system.reset();
+}
+
+} // namespace OrvGui

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "featurereader.h"
+
+#include <OrvCam/Codes.h>
+#include <OrvGenParam.h>
+
+#include <algorithm>
+#include <utility>
+
+using OrvGenParam::Array;
+using OrvGenParam::LookAhead;
+using OrvGenParam::Param;
+
+namespace OrvGui {
+
+namespace {
+
+/// What changes faster than it can be read is shown as it comes.
+const int maxRounds = 3;
+
+LookAhead *lookAheadOf(const Array *array)
+{
+    int32_t error = OrvCam::Success;
+    return array ? dynamic_cast<LookAhead *>(array->GetNodeMap(&error)) : nullptr;
+}
+
+template<class Number>
+void addNumber(const Number *param, std::vector<LookAhead::Ask> &asks)
+{
+    asks.emplace_back([=] { param->GetValue(); });
+    asks.emplace_back([=] { param->GetMin(); });
+    asks.emplace_back([=] { param->GetMax(); });
+    asks.emplace_back([=] { param->GetInc(); });
+}
+
+void addEnum(const OrvGenParam::Enum *param, std::vector<LookAhead::Ask> &asks)
+{
+    asks.emplace_back([=] { param->GetIntValue(); });
+    for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
+        if (const OrvGenParam::EnumEntry *entry = param->GetEntry(i))
+            asks.emplace_back([=] { entry->IsAvailable(); });
+    }
+}
+
+/// One question each, so that one that must wait for an answer does not keep others back.
+void add(const Param *param, std::vector<LookAhead::Ask> &asks)
+{
+    if (!param)
+        return;
+    asks.emplace_back([=] { param->IsWritable(); });
+    if (const auto *number = dynamic_cast<const OrvGenParam::Int *>(param))
+        addNumber(number, asks);
+    else if (const auto *real = dynamic_cast<const OrvGenParam::Float *>(param))
+        addNumber(real, asks);
+    else if (const auto *choice = dynamic_cast<const OrvGenParam::Enum *>(param))
+        addEnum(choice, asks);
+    else if (const auto *flag = dynamic_cast<const OrvGenParam::Boolean *>(param))
+        asks.emplace_back([=] { flag->GetValue(); });
+    else if (const auto *text = dynamic_cast<const OrvGenParam::String *>(param))
+        asks.emplace_back([=] { text->GetValue(); });
+}
+
+std::vector<LookAhead::Ask> asksFor(const FeatureReader::Params &params)
+{
+    std::vector<LookAhead::Ask> asks;
+    for (const Param *param : params)
+        add(param, asks);
+    return asks;
+}
+
+} // namespace
+
+FeatureReader::FeatureReader()
+{
+    m_timer.setSingleShot(true);
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { fetch(); });
+}
+
+FeatureReader::~FeatureReader() = default;
+
+void FeatureReader::setArray(const Array *array)
+{
+    m_request.reset();
+    m_timer.stop();
+    m_waiting.clear();
+    m_underWay.clear();
+    m_array = array;
+}
+
+/// Null as well while the camera is lost: nothing can be read, which takes no time.
+LookAhead *FeatureReader::lookAhead() const
+{
+    return lookAheadOf(m_array);
+}
+
+bool FeatureReader::look(const LookAhead::Ask &ask) const
+{
+    const LookAhead *ahead = lookAhead();
+    return ahead && ahead->look(ask);
+}
+
+void FeatureReader::fetchNow(const Params &params) const
+{
+    if (LookAhead *ahead = lookAhead())
+        ahead->fetchNow(asksFor(params));
+}
+
+void FeatureReader::fetchNow(const Array &array, const Names &features)
+{
+    LookAhead *ahead = lookAheadOf(&array);
+    if (!ahead)
+        return;
+    Params params;
+    for (const char *feature : features)
+        params << array.GetParam(feature);
+    ahead->fetchNow(asksFor(params));
+}
+
+bool FeatureReader::areKnown(const Params &params) const
+{
+    return look([&] {
+        for (const LookAhead::Ask &ask : asksFor(params))
+            ask();
+    });
+}
+
+void FeatureReader::whenKnown(const void *owner, const void *subject, const Params &params,
+                              const std::function<void()> &call)
+{
+    const auto isSame = [=](const Waiting &one) {
+        return one.owner == owner && one.subject == subject;
+    };
+    m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isSame), m_waiting.end());
+    if (!lookAhead()) {
+        // The camera is lost: its array may be gone when the rest would be fetched.
+        setArray(m_array);
+        return call();
+    }
+    if (areKnown(params))
+        return call();
+    m_waiting.append({owner, subject, params, call});
+    if (!m_request && !m_timer.isActive())
+        m_timer.start(0);
+}
+
+void FeatureReader::fetch()
+{
+    LookAhead *ahead = lookAhead();
+    if (!ahead)
+        return setArray(m_array);
+    m_underWay = std::exchange(m_waiting, {});
+    Params params;
+    for (const Waiting &one : m_underWay)
+        params << one.params;
+    m_request = ahead->fetch(asksFor(params), [this] { fetched(); });
+}
+
+void FeatureReader::fetched()
+{
+    m_request.reset();
+    const std::weak_ptr<bool> life = m_life;
+    while (!m_underWay.isEmpty()) {
+        Waiting next = m_underWay.takeFirst();
+        if (++next.rounds < maxRounds && lookAhead() && !areKnown(next.params))
+            m_waiting.append(next);
+        else
+            next.call(); // which may set another array, or destroy this
+        if (life.expired())
+            return;
+    }
+    if (!m_waiting.isEmpty())
+        m_timer.start(0);
+}
+
+} // namespace OrvGui

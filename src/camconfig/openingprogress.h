@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QProgressBar;
+
+namespace OrvGui {
+
+/// Shows how far the opening of a camera has come; rejected when the user cancels it.
+class OpeningProgress : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit OpeningProgress(const QString &camera, QWidget *parent = nullptr);
+
+    /// How much of the camera's description has come; below 0 while it is not known.
+    void setShare(int percent);
+
+private:
+    QLabel *const m_step;
+    QProgressBar *const m_bar;
+};
+
+} // namespace OrvGui

@@ -1,0 +1,356 @@
+// SPDX-License-Identifier: MIT
+#include <OrvCam.h>
+#include <OrvGenParam.h>
+#include <cameranetwork.h>
+#include <cameraopening.h>
+#include <orvcamconfig.h>
+#include <orvcamconfigdialog.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QTreeView>
+#include <QtTest>
+
+#include <memory>
+
+using OrvGui::CameraOpening;
+using OrvGui::OrvCamConfig;
+
+namespace {
+
+/// Measures for how long the event loop stands still.
+class Gaps : public QObject
+{
+public:
+    Gaps()
+    {
+        m_timer.start();
+        startTimer(5, Qt::PreciseTimer);
+    }
+    qint64 longest() const { return qMax(m_longest, m_timer.elapsed()); }
+
+protected:
+    void timerEvent(QTimerEvent *) override { m_longest = qMax(m_longest, m_timer.restart()); }
+
+private:
+    QElapsedTimer m_timer;
+    qint64 m_longest = 0;
+};
+
+struct Releaser
+{
+    template<class Object>
+    void operator()(Object *object) const
+    {
+        object->Release();
+    }
+};
+using DevicePtr = std::unique_ptr<OrvCam::Device, Releaser>;
+
+QDialog *progressDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == "OpeningProgress" && widget->isVisible())
+            return qobject_cast<QDialog *>(widget);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// What a slow camera costs the windows: opened beside them, read in few commands.
+class TestOpening : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void cleanup() { m_camera->setMood("delay", 0); }
+    void showsProgress();
+    void cancels();
+    void saysWhy();
+    void changesOfMind_data();
+    void changesOfMind();
+    void fewCommands();
+    void neverWaits();
+    void silence();
+
+private:
+    CameraOpening::Result open();
+    OrvCam::DeviceInfo *findCamera();
+
+    std::unique_ptr<CameraNetwork> m_network;
+    std::unique_ptr<TestCamera> m_camera;
+    OrvCam::System *m_system = nullptr;
+    OrvCam::DeviceInfo *m_info = nullptr;
+};
+
+void TestOpening::initTestCase()
+{
+    qputenv("ORVCAM_DESCRIPTION_CACHE", "");
+    m_network = std::make_unique<CameraNetwork>("orv0", "10.1.0.1/24", "10.1.0.2/24");
+    QFile file(ORV_DESCRIPTION);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    TestCamera::Settings settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
+    settings.description = file.readAll().toStdString();
+    settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // those of the other frame
+    settings.fillsRegisters = true;
+    settings.serial = "SLOW";
+    m_camera = std::make_unique<TestCamera>(settings);
+    m_system = OrvCam_GetSystem();
+    QTRY_VERIFY_WITH_TIMEOUT((m_info = findCamera()), 15000);
+}
+
+void TestOpening::cleanupTestCase()
+{
+    m_system->Release();
+    m_camera.reset();
+    m_network.reset();
+}
+
+OrvCam::DeviceInfo *TestOpening::findCamera()
+{
+    OrvCam_RefreshDevices(m_system, 200);
+    return OrvCam_GetDeviceInfo(m_system, 0);
+}
+
+CameraOpening::Result TestOpening::open()
+{
+    CameraOpening opening(*m_info, OrvCam::AccessControl);
+    opening.setPreparation(&OrvCamConfig::prepare);
+    return opening.exec();
+}
+
+void TestOpening::showsProgress()
+{
+    // A busy machine may hold the program up; the camera would do so every time.
+    qint64 longest = 1000;
+    for (int attempt = 0; attempt < 3 && longest >= 50; ++attempt) {
+        m_camera->setMood("delay", 10);
+        int shares = 0;
+        int last = 0;
+        QElapsedTimer shownAfter;
+        shownAfter.start();
+        qint64 shown = -1;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            const QDialog *dialog = progressDialog();
+            if (!dialog)
+                return;
+            if (shown < 0)
+                shown = shownAfter.elapsed();
+            const int share = dialog->findChild<QProgressBar *>()->value();
+            shares += share > last ? 1 : 0;
+            last = qMax(last, share);
+        });
+        watch.start(10);
+        const Gaps gaps;
+        const DevicePtr device(open().device);
+        longest = gaps.longest();
+        QVERIFY(device);
+        QVERIFY2(shown >= 300 && shown < 600, qPrintable(QString::number(shown)));
+        QVERIFY2(shares > 3 && last > 50 && last <= 100, qPrintable(QString::number(last)));
+        QVERIFY(!progressDialog());
+        qInfo("opened with a longest gap of %d ms", int(longest));
+    }
+    QVERIFY2(longest < 50, qPrintable(QString::number(longest)));
+}
+
+void TestOpening::cancels()
+{
+    m_camera->setMood("delay", 50);
+    QElapsedTimer timer;
+    QTimer::singleShot(600, [&] {
+        QVERIFY(progressDialog());
+        timer.start();
+        progressDialog()->findChild<QAbstractButton *>()->click();
+    });
+    const CameraOpening::Result result = open();
+    QVERIFY(result.isCancelled && !result.device && timer.elapsed() < 50);
+
+    // The next one waits until the camera has been let go of.
+    m_camera->setMood("delay", 0);
+    const DevicePtr device(open().device);
+    QVERIFY(device);
+}
+
+void TestOpening::saysWhy()
+{
+    m_camera->setPrivilege(2);
+    CameraOpening::Result result = open();
+    QCOMPARE(result.error, qint32(OrvCam::ErrorBusy));
+    QCOMPARE(result.reason, QString("Another program has it open."));
+    m_camera->setPrivilege(0);
+    m_camera->setMood("silence", -1);
+    result = open();
+    QCOMPARE(result.error, qint32(OrvCam::ErrorGone));
+    QVERIFY(!result.reason.isEmpty() && !result.isCancelled);
+}
+
+void TestOpening::changesOfMind_data()
+{
+    QTest::addColumn<QString>("change");
+    for (const char *name : {"disconnect", "connect again", "close", "destroy", "quit"})
+        QTest::newRow(name) << QString(name);
+}
+
+/// While the main window opens the camera that was picked.
+void TestOpening::changesOfMind()
+{
+    QFETCH(QString, change);
+    m_camera->setMood("delay", 20);
+    std::unique_ptr<OrvCamConfig> window;
+    int devices = 0;
+    QTimer picks;
+    connect(&picks, &QTimer::timeout, [&] {
+        auto *picker = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!picker)
+            return;
+        auto *tree = picker->findChild<QTreeView *>("cameraTreeView");
+        const QModelIndexList found =
+            tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, "SLOW", 1,
+                                 Qt::MatchContains | Qt::MatchRecursive);
+        if (found.isEmpty())
+            return;
+        picks.stop();
+        tree->setCurrentIndex(found.first());
+        picker->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+    });
+    class Simple : public OrvCamConfig
+    {
+    public:
+        Simple() : OrvCamConfig(NoChoice, nullptr, nullptr, Qt::WindowFlags()) {}
+    };
+    window = std::make_unique<Simple>();
+    connect(window.get(), &OrvCamConfig::deviceChanged,
+            [&](OrvCam::Device *device) { devices += device ? 1 : 0; });
+    window->show();
+    picks.start(50);
+    QTimer changes;
+    connect(&changes, &QTimer::timeout, [&] {
+        if (!progressDialog())
+            return;
+        changes.stop();
+        QVERIFY(!window->device());
+        if (change == "disconnect")
+            window->findChild<QAction *>("actionDisconnect")->trigger();
+        else if (change == "connect again") {
+            QTimer::singleShot(
+                200, [] { qobject_cast<QDialog *>(QApplication::activeModalWidget())->reject(); });
+            window->findChild<QAction *>("actionConnect")->trigger();
+        } else if (change == "close")
+            window->close();
+        else if (change == "destroy")
+            window.reset();
+        else
+            QApplication::quit();
+    });
+    changes.start(10);
+    const auto connectCamera = [&] {
+        window->findChild<QAction *>("actionConnect")->trigger();
+        QApplication::quit();
+    };
+    QTimer::singleShot(0, connectCamera);
+    QApplication::exec();
+    QCOMPARE(devices, 0);
+    QVERIFY(!window || !window->device());
+    window.reset();
+    QVERIFY(!progressDialog());
+    QTRY_COMPARE(m_camera->privilege(), 0u);
+}
+
+void TestOpening::fewCommands()
+{
+    // As a host opens it: nothing has been read yet. The window looks at both frames.
+    int32_t error = OrvCam::Success;
+    const DevicePtr device(OrvCam_CreateDevice(m_info, &error, OrvCam::AccessControl));
+    QVERIFY(device);
+    OrvGenParam::Enum *const selector = device->GetParamArray()->GetEnum("FrameAB_Selector");
+    QCOMPARE(selector->SetIntValue(0), int32_t(OrvCam::Success));
+    m_camera->takeCounters();
+    OrvCamConfig window(device.get());
+    const unsigned bound = m_camera->takeCounters().transfers();
+    window.SetDevice(device.get());
+    const unsigned boundAgain = m_camera->takeCounters().transfers();
+    qInfo("%u commands for all windows, %u once more", bound, boundAgain);
+    QVERIFY(bound <= 12 && boundAgain <= 12);
+    window.SetDevice(nullptr);
+}
+
+void TestOpening::neverWaits()
+{
+    const DevicePtr device(open().device);
+    QVERIFY(device);
+    OrvCamConfig window(device.get());
+    window.show();
+    for (QPushButton *button : window.findChildren<QPushButton *>()) {
+        if (button->isCheckable())
+            button->click();
+    }
+    QTest::qWait(300);
+    m_camera->setMood("delay", 60);
+    {
+        const Gaps gaps;
+        QTest::qWait(2500);
+        qInfo("idle: longest gap %d ms", int(gaps.longest()));
+        QVERIFY2(gaps.longest() < 50, qPrintable(QString::number(gaps.longest())));
+    }
+
+    // A write takes a round trip; what it leads to is shown when it has come.
+    OrvGenParam::Enum *const selector = device->GetParamArray()->GetEnum("FrameAB_Selector");
+    auto *tabs = window.findChild<QTabWidget *>("tabFrames");
+    const int other = 1 - tabs->currentIndex();
+    const auto reads = m_camera->counters().transfers();
+    QElapsedTimer timer;
+    timer.start();
+    const Gaps gaps;
+    tabs->setCurrentIndex(other);
+    const qint64 written = timer.elapsed();
+    QTest::qWait(1000);
+    qInfo("write: %d ms, longest gap %d ms, %u commands", int(written), int(gaps.longest()),
+          m_camera->counters().transfers() - reads);
+    // A command that is under way has to end first.
+    QVERIFY2(written < 160, qPrintable(QString::number(written)));
+    QVERIFY2(gaps.longest() < 170, qPrintable(QString::number(gaps.longest())));
+    QCOMPARE(tabs->currentIndex(), other);
+    QCOMPARE(tabs->tabText(other), QString(selector->GetSymbolicValue()));
+    window.SetDevice(nullptr);
+}
+
+/// A camera that has fallen silent costs a write, not the rest.
+void TestOpening::silence()
+{
+    m_camera->setMood("delay", 0);
+    const DevicePtr device(open().device);
+    QVERIFY(device);
+    OrvCamConfig window(device.get());
+    window.show();
+    m_camera->setMood("silence", -1);
+    OrvGenParam::Enum *const mode = device->GetParamArray()->GetEnum("TriggerMode");
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(mode->SetIntValue(1) != OrvCam::Success);
+    const qint64 first = timer.restart();
+    QVERIFY(mode->SetIntValue(1) != OrvCam::Success);
+    const qint64 second = timer.elapsed();
+    QVERIFY2(first < 2700 && second < 50, qPrintable(QString("%1 %2").arg(first).arg(second)));
+
+    const Gaps gaps;
+    const auto *status = window.findChild<QLabel *>("lblStatusText");
+    QTRY_COMPARE(status->text(), QString("Disconnected"));
+    QVERIFY2(gaps.longest() < 100, qPrintable(QString::number(gaps.longest())));
+    m_camera->setMood("delay", 0);
+    QTRY_VERIFY(status->text() != "Disconnected");
+    window.SetDevice(nullptr);
+}
+
+QTEST_MAIN(TestOpening)
+#include "tst_opening.moc"
