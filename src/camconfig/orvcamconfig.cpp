@@ -388,6 +388,9 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     dimOldNumbers();
     showTemperature();
     const bool isBack = updateBoth();
+    // Moving the selector takes several transfers, which the window would wait for once more.
+    if (reader.looksAhead())
+        isFrameModeChanged = false;
     updateStatus();
     information->adjust(reader, array);
     return isBack;
