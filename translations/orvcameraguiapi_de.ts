@@ -1002,33 +1002,6 @@ Trigger</translation>
     </message>
 </context>
 <context>
-    <name>OrvGui::CameraOpening</name>
-    <message>
-        <source>Another program has it open.</source>
-        <translation>Ein anderes Programm hat sie geöffnet.</translation>
-    </message>
-    <message>
-        <source>It does not answer.</source>
-        <translation>Sie antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>It did not answer in time.</source>
-        <translation>Sie hat nicht rechtzeitig geantwortet.</translation>
-    </message>
-    <message>
-        <source>Its address does not fit the network adapter&apos;s subnet.</source>
-        <translation>Ihre Adresse passt nicht zum Subnetz des Netzwerkadapters.</translation>
-    </message>
-    <message>
-        <source>Its description cannot be used.</source>
-        <translation>Ihre Beschreibung kann nicht verwendet werden.</translation>
-    </message>
-    <message>
-        <source>It refuses access.</source>
-        <translation>Sie verweigert den Zugriff.</translation>
-    </message>
-</context>
-<context>
     <name>OrvGui::FeatureToolTip</name>
     <message>
         <source>Range: %1 to %2</source>
@@ -1191,6 +1164,33 @@ Fehlercode: %2</translation>
 Error Code: %2</source>
         <translation>Fehler beim Setzen des booleschen Werts %1!<byte value="xd"/>
 Fehlercode: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigOpening</name>
+    <message>
+        <source>Another program has it open.</source>
+        <translation>Ein anderes Programm hat sie geöffnet.</translation>
+    </message>
+    <message>
+        <source>It does not answer.</source>
+        <translation>Sie antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>It did not answer in time.</source>
+        <translation>Sie hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>Its address does not fit the network adapter&apos;s subnet.</source>
+        <translation>Ihre Adresse passt nicht zum Subnetz des Netzwerkadapters.</translation>
+    </message>
+    <message>
+        <source>Its description cannot be used.</source>
+        <translation>Ihre Beschreibung kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>It refuses access.</source>
+        <translation>Sie verweigert den Zugriff.</translation>
     </message>
 </context>
 <context>

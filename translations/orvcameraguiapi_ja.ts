@@ -1002,33 +1002,6 @@ Trigger</source>
     </message>
 </context>
 <context>
-    <name>OrvGui::CameraOpening</name>
-    <message>
-        <source>Another program has it open.</source>
-        <translation>他のプログラムが使用しています。</translation>
-    </message>
-    <message>
-        <source>It does not answer.</source>
-        <translation>応答がありません。</translation>
-    </message>
-    <message>
-        <source>It did not answer in time.</source>
-        <translation>時間内に応答がありませんでした。</translation>
-    </message>
-    <message>
-        <source>Its address does not fit the network adapter&apos;s subnet.</source>
-        <translation>アドレスがネットワークアダプターのサブネットに合っていません。</translation>
-    </message>
-    <message>
-        <source>Its description cannot be used.</source>
-        <translation>記述ファイルを使用できません。</translation>
-    </message>
-    <message>
-        <source>It refuses access.</source>
-        <translation>アクセスが拒否されました。</translation>
-    </message>
-</context>
-<context>
     <name>OrvGui::FeatureToolTip</name>
     <message>
         <source>Range: %1 to %2</source>
@@ -1191,6 +1164,33 @@ Error Code: %2</source>
 Error Code: %2</source>
         <translation>ブール値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
 エラーコード: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvCamConfigOpening</name>
+    <message>
+        <source>Another program has it open.</source>
+        <translation>他のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <source>It does not answer.</source>
+        <translation>応答がありません。</translation>
+    </message>
+    <message>
+        <source>It did not answer in time.</source>
+        <translation>時間内に応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>Its address does not fit the network adapter&apos;s subnet.</source>
+        <translation>アドレスがネットワークアダプターのサブネットに合っていません。</translation>
+    </message>
+    <message>
+        <source>Its description cannot be used.</source>
+        <translation>記述ファイルを使用できません。</translation>
+    </message>
+    <message>
+        <source>It refuses access.</source>
+        <translation>アクセスが拒否されました。</translation>
     </message>
 </context>
 <context>

@@ -2,17 +2,17 @@
 #include "featuresource.h"
 
 #include <base/cameratext.h>
-#include <cameraopening.h>
 #include <description/nodemap.h>
 #include <orvcamconfig.h>
+#include <orvcamconfigopening.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include <utility>
 
-using OrvGui::CameraOpening;
-using Result = CameraOpening::Result;
+using OrvGui::OrvCamConfigOpening;
+using Result = OrvCamConfigOpening::Result;
 
 namespace {
 
@@ -76,7 +76,7 @@ QString failure(const OrvCam::DeviceInfo &camera, const Result &result)
 
 Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 {
-    CameraOpening opening(camera, OrvCam::AccessControl);
+    OrvCamConfigOpening opening(camera, OrvCam::AccessControl);
     opening.setPreparation(&OrvGui::OrvCamConfig::prepare);
     const Result result = opening.exec();
     if (!result.device)
@@ -86,10 +86,10 @@ Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 
 std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
 {
-    Result result = CameraOpening(camera, OrvCam::AccessControl).exec();
+    Result result = OrvCamConfigOpening(camera, OrvCam::AccessControl).exec();
     const bool isReadOnly = result.error == OrvCam::ErrorBusy;
     if (isReadOnly)
-        result = CameraOpening(camera, OrvCam::AccessMonitor).exec();
+        result = OrvCamConfigOpening(camera, OrvCam::AccessMonitor).exec();
     if (result.device)
         return ofDevice(Released<OrvCam::Device>(result.device), isReadOnly, error);
     *error = failure(camera, result);

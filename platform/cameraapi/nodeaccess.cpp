@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "nodeaccess.h"
 
+#include <genapi/nodes/node.h>
+
 using namespace GenApi;
 
 namespace OrvGenParam {
@@ -72,6 +74,15 @@ int32_t NodeAccess::codeOfException() const
     } catch (...) {
         return OrvCam::ErrorFailed;
     }
+}
+
+void NodeAccess::nodeChanged(INode *)
+{
+    // A sink need not read the value to wait for its next change.
+    auto *node = m_sinks.isEmpty() ? nullptr : dynamic_cast<OrvGenApi::Node *>(&m_node);
+    if (node)
+        node->keepPolled();
+    notify();
 }
 
 void NodeAccess::notify()

@@ -84,7 +84,7 @@ private:
     void requireReadable() const;
     int32_t codeOfException() const;
     bool isAvailable() const;
-    void nodeChanged(GenApi::INode *) { notify(); }
+    void nodeChanged(GenApi::INode *);
 
     ArrayState &m_array;
     GenApi::INode &m_node;

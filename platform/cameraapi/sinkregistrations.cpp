@@ -102,6 +102,12 @@ void SinkRegistrations::remove(ParamEventSink *sink)
     waitForCall(link);
 }
 
+bool SinkRegistrations::isEmpty() const
+{
+    const std::lock_guard<std::mutex> lock(m_sinks->mutex);
+    return m_sinks->links.empty();
+}
+
 void SinkRegistrations::notify()
 {
     // A sink may destroy the parameter and with it this object.

@@ -40,6 +40,8 @@ public:
     /// A sink that is not there is ignored.
     void remove(ParamEventSink *sink);
 
+    bool isEmpty() const;
+
     /// Calls every sink that is registered when its turn comes, on this thread.
     void notify();
 

@@ -125,6 +125,12 @@ void Poller::tellChanged()
     m_map.enterChange();
     m_map.changed(changed);
     m_map.leaveChange();
+    for (const Feature &feature : m_features) {
+        if (!feature.node->takePollWanted())
+            continue;
+        for (NodeLinks *links : feature.registers)
+            links->reg->setLookedAt(true);
+    }
 }
 
 } // namespace OrvDescription

@@ -17,7 +17,7 @@ struct NodeLinks;
 /// outdate what depends on them.
 ///
 /// A feature is polled as long as somebody looks at it, that is, as long as its value is asked for
-/// after each change. One that nobody looks at is outdated when its time is up, so that the next
+/// after each change, or somebody says that it is to be polled on (`Node::keepPolled`). One that nobody looks at is outdated when its time is up, so that the next
 /// question reaches the camera.
 ///
 /// Belongs to the thread that runs the main context.

@@ -37,6 +37,9 @@ public:
     /// none. What has not been done yet of the former one is dropped.
     void setArray(const OrvGenParam::Array *array);
 
+    /// Whether what is to be shown has to be transferred first.
+    bool looksAhead() const { return lookAhead() != nullptr; }
+
     /// Null pointers are left out.
     void fetchNow(const Params &params) const;
 

@@ -4,13 +4,13 @@
 #include "base/cameratext.h"
 #include "boundfeatures.h"
 #include "camerainformation.h"
-#include "cameraopening.h"
 #include "devicewatch.h"
 #include "featurereader.h"
 #include "featuretooltip.h"
 #include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
 #include "orvcamconfigframeabdialog.h"
+#include "orvcamconfigopening.h"
 #include "orvcamconfigoutputdialog.h"
 #include "orvcamconfigpulsedialog.h"
 #include "orvcamconfigstrobedialog.h"
@@ -96,9 +96,9 @@ private:
     void addShortcut(QWidget *dialog, QPushButton *button, int number);
     OrvCam::DeviceInfo *pick();
     void connectPicked();
-    CameraOpening *newOpening(OrvCam::DeviceInfo &camera);
+    OrvCamConfigOpening *newOpening(OrvCam::DeviceInfo &camera);
     OrvCam::Device *open(OrvCam::DeviceInfo &camera);
-    void reportFailure(const QString &camera, const CameraOpening::Result &result);
+    void reportFailure(const QString &camera, const OrvCamConfigOpening::Result &result);
 
     QString numberOf(const OrvGenParam::Int *param) const;
     QByteArray symbolicOf(const OrvGenParam::Enum *param) const;
@@ -129,13 +129,13 @@ private:
     void readFrameMode();
 
     OrvCamConfig *const q;
-    OrvCam::Device *device = nullptr;    ///< null while its camera is unplugged
-    OrvCam::System *system = nullptr;    ///< only when the window has obtained it
-    OrvCam::Device *ownDevice = nullptr; ///< which the window has to release
-    OrvGenParam::Array *array = nullptr; ///< the device's
-    FeatureReader reader;                ///< of that
-    QPointer<CameraOpening> opening;     ///< of the camera that the user wants next
-    DeviceWatch watch;                   ///< keeps the device that is unplugged, too
+    OrvCam::Device *device = nullptr;      ///< null while its camera is unplugged
+    OrvCam::System *system = nullptr;      ///< only when the window has obtained it
+    OrvCam::Device *ownDevice = nullptr;   ///< which the window has to release
+    OrvGenParam::Array *array = nullptr;   ///< the device's
+    FeatureReader reader;                  ///< of that
+    QPointer<OrvCamConfigOpening> opening; ///< of the camera that the user wants next
+    DeviceWatch watch;                     ///< keeps the device that is unplugged, too
     Ui_OrvCamConfigMainWindow ui;
     std::unique_ptr<CameraInformation> information;
     QVector<OrvCamConfigDialog *> dialogs; ///< children of the window
@@ -283,23 +283,23 @@ void OrvCamConfigPrivate::connectPicked()
     OrvCam::DeviceInfo *const picked = pick();
     if (!picked)
         return;
-    const QPointer<CameraOpening> started = newOpening(*picked);
+    const QPointer<OrvCamConfigOpening> started = newOpening(*picked);
     const QString name = cameraText(picked->GetDisplayName());
     started->setReceiver([this](OrvCam::Device *opened) {
         opening.clear();
         use(opened, opened);
     });
-    const CameraOpening::Result result = started->exec();
+    const OrvCamConfigOpening::Result result = started->exec();
     if (started && result.error != OrvCam::Success)
         reportFailure(name, result);
     delete started;
 }
 
-CameraOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera)
+OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera)
 {
     delete opening;
-    opening = new CameraOpening(camera, OrvCam::AccessControl, q);
-    opening->setPreparation(&OrvCamConfig::prepare);
+    opening = new OrvCamConfigOpening(camera, OrvCam::AccessControl, q);
+    opening->setPreparation([](OrvCam::Device &opened) { OrvCamConfig::prepare(opened); });
     return opening;
 }
 
@@ -307,15 +307,16 @@ CameraOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera)
 OrvCam::Device *OrvCamConfigPrivate::open(OrvCam::DeviceInfo &camera)
 {
     const QString name = cameraText(camera.GetDisplayName());
-    const QPointer<CameraOpening> started = newOpening(camera);
-    const CameraOpening::Result result = started->exec();
+    const QPointer<OrvCamConfigOpening> started = newOpening(camera);
+    const OrvCamConfigOpening::Result result = started->exec();
     delete started;
     if (!result.device && !result.isCancelled)
         reportFailure(name, result);
     return result.device;
 }
 
-void OrvCamConfigPrivate::reportFailure(const QString &camera, const CameraOpening::Result &result)
+void OrvCamConfigPrivate::reportFailure(const QString &camera,
+                                        const OrvCamConfigOpening::Result &result)
 {
     QString text = tr("The camera %1 cannot be opened!").arg(camera);
     if (!result.reason.isEmpty())
@@ -389,6 +390,9 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     dimOldNumbers();
     showTemperature();
     const bool isBack = updateBoth();
+    // Moving the selector takes several transfers, which the window would wait for once more.
+    if (reader.looksAhead())
+        isFrameModeChanged = false;
     updateStatus();
     information->adjust(reader, array);
     return isBack;

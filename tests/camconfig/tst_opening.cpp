@@ -2,9 +2,9 @@
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 #include <cameranetwork.h>
-#include <cameraopening.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigdialog.h>
+#include <orvcamconfigopening.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -20,8 +20,8 @@
 
 #include <memory>
 
-using OrvGui::CameraOpening;
 using OrvGui::OrvCamConfig;
+using OrvGui::OrvCamConfigOpening;
 
 namespace {
 
@@ -84,7 +84,7 @@ private slots:
     void silence();
 
 private:
-    CameraOpening::Result open();
+    OrvCamConfigOpening::Result open();
     OrvCam::DeviceInfo *findCamera();
 
     std::unique_ptr<CameraNetwork> m_network;
@@ -122,9 +122,9 @@ OrvCam::DeviceInfo *TestOpening::findCamera()
     return OrvCam_GetDeviceInfo(m_system, 0);
 }
 
-CameraOpening::Result TestOpening::open()
+OrvCamConfigOpening::Result TestOpening::open()
 {
-    CameraOpening opening(*m_info, OrvCam::AccessControl);
+    OrvCamConfigOpening opening(*m_info, OrvCam::AccessControl);
     opening.setPreparation(&OrvCamConfig::prepare);
     return opening.exec();
 }
@@ -173,7 +173,7 @@ void TestOpening::cancels()
         timer.start();
         progressDialog()->findChild<QAbstractButton *>()->click();
     });
-    const CameraOpening::Result result = open();
+    const OrvCamConfigOpening::Result result = open();
     QVERIFY(result.isCancelled && !result.device && timer.elapsed() < 50);
 
     // The next one waits until the camera has been let go of.
@@ -185,7 +185,7 @@ void TestOpening::cancels()
 void TestOpening::saysWhy()
 {
     m_camera->setPrivilege(2);
-    CameraOpening::Result result = open();
+    OrvCamConfigOpening::Result result = open();
     QCOMPARE(result.error, qint32(OrvCam::ErrorBusy));
     QCOMPARE(result.reason, QString("Another program has it open."));
     m_camera->setPrivilege(0);

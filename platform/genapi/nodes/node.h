@@ -7,6 +7,7 @@
 #include <GenApi/GenApi.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace OrvGenApi {
@@ -50,6 +51,12 @@ public:
 
     /// Forgets what the node keeps of the camera's memory. For registers; nothing otherwise.
     virtual void dropRegister() {}
+
+    /// Has the node polled on, although nobody reads it: somebody waits for its changes.
+    void keepPolled() { m_isPollWanted = true; }
+
+    /// Whether that was called since the last call of this one.
+    bool takePollWanted() { return std::exchange(m_isPollWanted, false); }
 
     /// The nodes whose contents change when this one is written, this one first.
     virtual std::vector<Node *> writtenNodes() { return {this}; }
@@ -118,6 +125,7 @@ private:
     NodeProperties m_properties;
     std::size_t m_index = 0; ///< position in the node map
     bool m_isFeature = false;
+    bool m_isPollWanted = false;
     bool m_isToBeNotified = false; ///< is in the map's list
     GenApi::EAccessMode m_imposedAccess = GenApi::RW;
     GenApi::EVisibility m_imposedVisibility = GenApi::Beginner;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cameraopening.h"
+#include "orvcamconfigopening.h"
 
 #include "openingprogress.h"
 
@@ -42,17 +42,17 @@ QString reasonOf(int32_t code)
 {
     switch (code) {
     case OrvCam::ErrorBusy:
-        return CameraOpening::tr("Another program has it open.");
+        return OrvCamConfigOpening::tr("Another program has it open.");
     case OrvCam::ErrorGone:
-        return CameraOpening::tr("It does not answer.");
+        return OrvCamConfigOpening::tr("It does not answer.");
     case OrvCam::ErrorTimeout:
-        return CameraOpening::tr("It did not answer in time.");
+        return OrvCamConfigOpening::tr("It did not answer in time.");
     case OrvCam::ErrorWrongSubnet:
-        return CameraOpening::tr("Its address does not fit the network adapter's subnet.");
+        return OrvCamConfigOpening::tr("Its address does not fit the network adapter's subnet.");
     case OrvCam::ErrorBadDescription:
-        return CameraOpening::tr("Its description cannot be used.");
+        return OrvCamConfigOpening::tr("Its description cannot be used.");
     case OrvCam::ErrorAccessDenied:
-        return CameraOpening::tr("It refuses access.");
+        return OrvCamConfigOpening::tr("It refuses access.");
     default:
         return QString();
     }
@@ -83,7 +83,7 @@ DeviceOpener::Open simpleOpener(OrvCam::DeviceInfo &camera)
 } // namespace
 
 /// What the GUI thread and the thread that opens share.
-struct CameraOpening::Job
+struct OrvCamConfigOpening::Job
 {
     DeviceOpener::Open open;
     DeviceOpener::Request request;
@@ -104,7 +104,7 @@ struct CameraOpening::Job
 };
 
 /// The threads that open cameras, also those that nobody waits for any more.
-class CameraOpening::Workers
+class OrvCamConfigOpening::Workers
 {
 public:
     static Workers &all()
@@ -176,7 +176,8 @@ private:
     std::set<std::string> m_cameras;
 };
 
-CameraOpening::CameraOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWidget *window)
+OrvCamConfigOpening::OrvCamConfigOpening(OrvCam::DeviceInfo &camera, qint32 accessMode,
+                                         QWidget *window)
     : QObject(window)
     , m_camera(camera)
     , m_window(window)
@@ -186,26 +187,26 @@ CameraOpening::CameraOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWid
     m_job->request.accessMode = accessMode;
 }
 
-CameraOpening::~CameraOpening()
+OrvCamConfigOpening::~OrvCamConfigOpening()
 {
     abandon();
     delete m_progress;
 }
 
-void CameraOpening::setPreparation(std::function<void(OrvCam::Device &)> prepare)
+void OrvCamConfigOpening::setPreparation(std::function<void(OrvCam::Device &)> prepare)
 {
     m_job->prepare = std::move(prepare);
 }
 
-void CameraOpening::setReceiver(std::function<void(OrvCam::Device *)> receiver)
+void OrvCamConfigOpening::setReceiver(std::function<void(OrvCam::Device *)> receiver)
 {
     m_receiver = std::move(receiver);
 }
 
-CameraOpening::Result CameraOpening::exec()
+OrvCamConfigOpening::Result OrvCamConfigOpening::exec()
 {
     const std::shared_ptr<Job> job = m_job; // this may be gone at the end
-    const QPointer<CameraOpening> self(this);
+    const QPointer<OrvCamConfigOpening> self(this);
     QEventLoop loop;
     job->loop = &loop;
     start();
@@ -220,7 +221,7 @@ CameraOpening::Result CameraOpening::exec()
     return cancelled;
 }
 
-void CameraOpening::start()
+void OrvCamConfigOpening::start()
 {
     if (auto *opener = dynamic_cast<DeviceOpener *>(&m_camera)) {
         m_job->open = opener->opener();
@@ -236,12 +237,12 @@ void CameraOpening::start()
     Workers::all().start(m_job);
 }
 
-void CameraOpening::show()
+void OrvCamConfigOpening::show()
 {
     if (m_job->isOver || m_job->isCancelled)
         return;
     m_progress = new OpeningProgress(m_name, m_window);
-    connect(m_progress, &QDialog::rejected, this, &CameraOpening::abandon);
+    connect(m_progress, &QDialog::rejected, this, &OrvCamConfigOpening::abandon);
     auto *timer = new QTimer(m_progress);
     connect(timer, &QTimer::timeout, this, [this] { m_progress->setShare(m_job->percent); });
     timer->start(progressPeriod);
@@ -249,7 +250,7 @@ void CameraOpening::show()
     m_progress->show();
 }
 
-void CameraOpening::abandon()
+void OrvCamConfigOpening::abandon()
 {
     Workers::all().cancel(*m_job);
     {
@@ -261,7 +262,7 @@ void CameraOpening::abandon()
         m_job->loop->quit();
 }
 
-bool CameraOpening::event(QEvent *event)
+bool OrvCamConfigOpening::event(QEvent *event)
 {
     if (event->type() != QEvent::User)
         return QObject::event(event);
@@ -270,7 +271,7 @@ bool CameraOpening::event(QEvent *event)
     return true;
 }
 
-void CameraOpening::end()
+void OrvCamConfigOpening::end()
 {
     const std::shared_ptr<Job> job = m_job;
     job->isOver = true;
@@ -285,7 +286,7 @@ void CameraOpening::end()
     receiver(take(*job).device); // which may destroy this
 }
 
-CameraOpening::Result CameraOpening::take(Job &job)
+OrvCamConfigOpening::Result OrvCamConfigOpening::take(Job &job)
 {
     Result result;
     const std::lock_guard<std::mutex> lock(job.mutex);
@@ -297,7 +298,7 @@ CameraOpening::Result CameraOpening::take(Job &job)
 
 // On the thread that opens
 
-void CameraOpening::work(Job &job)
+void OrvCamConfigOpening::work(Job &job)
 {
     const bool isBegun = Workers::all().begin(job);
     DeviceOpener::Result result;
@@ -317,7 +318,7 @@ void CameraOpening::work(Job &job)
     job.isThreadDone = true;
 }
 
-void CameraOpening::deliver(Job &job, DeviceOpener::Result result)
+void OrvCamConfigOpening::deliver(Job &job, DeviceOpener::Result result)
 {
     {
         const std::lock_guard<std::mutex> lock(job.mutex);

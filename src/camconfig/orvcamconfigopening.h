@@ -27,7 +27,7 @@ class OpeningProgress;
 ///
 /// Destroying the object cancels, at once: the camera is closed again as soon as it is open, and
 /// nobody is told. To be used on the GUI thread.
-class ORVCAMERAGUIAPI_EXPORT CameraOpening : public QObject
+class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOpening : public QObject
 {
     Q_OBJECT
 
@@ -41,8 +41,8 @@ public:
     };
 
     /// Opens nothing yet. The dialog is shown in front of the window, which may be null.
-    CameraOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWidget *window = nullptr);
-    ~CameraOpening() override;
+    OrvCamConfigOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWidget *window = nullptr);
+    ~OrvCamConfigOpening() override;
 
     /// Is called with the open device before anybody else gets it, on the thread that opens it.
     void setPreparation(std::function<void(OrvCam::Device &)> prepare);
