@@ -4,6 +4,7 @@
 #include "maincontext.h"
 
 #include <algorithm>
+#include <chrono>
 
 using OrvGenApi::Question;
 
@@ -14,6 +15,10 @@ namespace {
 /// References are not nearly as deep.
 constexpr int maxRounds = 100;
 
+/// A fetch can take longer than a value counts as known that the camera changes by itself. For so
+/// long what it has read counts as known nevertheless.
+constexpr std::chrono::seconds fetchedAge{1};
+
 } // namespace
 
 /// What the rounds need; empty after the end.
@@ -21,6 +26,10 @@ struct FetchAhead::Access
 {
     OrvGenApi::NodeMapBase *map = nullptr;
     RegisterIo *io = nullptr;
+
+    // Of the last fetch that has ended.
+    uint64_t lastAskedAt = 0;
+    std::chrono::steady_clock::time_point lastEnd;
 
     /// Lets all functions look, and returns what they miss.
     std::vector<RegisterRange> missing(const std::vector<Ask> &asks, uint64_t askedAt) const
@@ -59,6 +68,8 @@ public:
         const auto missing = m_access->missing(m_asks, m_askedAt);
         const std::weak_ptr<Fetch> weak = shared_from_this();
         if (missing.empty() || ++m_rounds > maxRounds) {
+            m_access->lastAskedAt = m_askedAt;
+            m_access->lastEnd = std::chrono::steady_clock::now();
             MainContext::post([weak] {
                 if (const auto self = weak.lock())
                     self->m_done();
@@ -113,6 +124,8 @@ bool FetchAhead::look(const Ask &ask) const
 {
     for (int round = 0;; ++round) {
         Question question(Question::Kind::Looking);
+        if (std::chrono::steady_clock::now() - m_access->lastEnd < fetchedAge)
+            question.askedAt = m_access->lastAskedAt;
         if (m_access->map->look(question, ask))
             return true;
         if (!m_access->io->isImmediate() || round == maxRounds)

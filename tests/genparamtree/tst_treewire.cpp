@@ -146,6 +146,8 @@ void TestTreeWire::initTestCase()
     m_camera = std::make_unique<TestCamera>(settings);
     m_system.reset(OrvCam_GetSystem());
     const auto open = [this] {
+        if (m_device)
+            return true;
         for (OrvCam::Interface *adapter : interfacesOf(*m_system, OrvCam::InterfaceGigEVision)) {
             for (OrvCam::DeviceInfo *camera : camerasOf(*adapter))
                 m_device.reset(OrvCam_CreateDevice(camera, nullptr, OrvCam::AccessControl));

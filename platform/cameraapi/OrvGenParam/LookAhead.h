@@ -31,7 +31,8 @@ public:
 
     /// Runs the function; true when everything that it asked for was known, false when it was left
     /// before its end. Exceptions of GenICam pass. Values that the camera changes by itself count
-    /// as known when they are at most a second old.
+    /// as known when they are at most a second old, or were read by a fetch that has ended within
+    /// the last second.
     virtual bool look(const Ask &ask) const = 0;
 
     /// Reads in the background what the functions find missing, in as few transfers as possible,
