@@ -150,7 +150,7 @@ void NodeMap::pollLater(int64_t elapsedMs)
     m_poller->poll(elapsedMs);
 }
 
-void NodeMap::fetch(Question &question) const
+void NodeMap::fetchMissing(Question &question) const
 {
     auto &missing = question.missing;
     std::sort(missing.begin(), missing.end());

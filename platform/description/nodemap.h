@@ -51,7 +51,7 @@ public:
     void pollLater(int64_t elapsedMs);
 
 protected:
-    void fetch(OrvGenApi::Question &question) const override;
+    void fetchMissing(OrvGenApi::Question &question) const override;
     void carryOut(OrvGenApi::Question &question) override;
 
 private:

@@ -260,8 +260,9 @@ void TestCameraDescription::changesByTheCameraReachTheHost()
 // Whatever looks like a name in the sources of the dialogs is one that the camera has.
 void TestCameraDescription::dialogsFindTheirFeatures()
 {
-    QSet<QString> known{"Disconnected", "OrvCameraConfiguration", "Start", "Stop", "Temperature",
-                        "Unknown"};
+    QSet<QString> known{
+        "Disconnected", "OpeningProgress", "OrvCameraConfiguration", "Start", "Stop",
+        "Temperature",  "Unknown"};
     known += m_features.toSet();
     for (const Node &node : qAsConst(m_nodes)) {
         if (node.element == "EnumEntry")

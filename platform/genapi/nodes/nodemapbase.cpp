@@ -148,7 +148,7 @@ void NodeMapBase::refresh(Node &node) const
         invalidate({&node});
 }
 
-void NodeMapBase::fetch(Question &) const {}
+void NodeMapBase::fetchMissing(Question &) const {}
 
 void NodeMapBase::carryOut(Question &) {}
 
@@ -159,7 +159,7 @@ void NodeMapBase::fetchAgain(Question &question, int round) const
     if (round == maxRounds)
         throw GenICam::RuntimeException("The camera's registers do not come to rest", __FILE__,
                                         __LINE__);
-    fetch(question);
+    fetchMissing(question);
     question.missing.clear();
 }
 

@@ -89,7 +89,7 @@ protected:
 
     /// Gets what the question found missing; a failure to get it is a result, too. Called without
     /// the lock. Maps whose nodes keep their values themselves have nothing to do.
-    virtual void fetch(Question &question) const;
+    virtual void fetchMissing(Question &question) const;
 
     /// Carries out the writes of the question; throws what became of the first one that failed.
     /// Called without the lock.
