@@ -78,11 +78,21 @@ int32_t NodeAccess::codeOfException() const
 
 void NodeAccess::nodeChanged(INode *)
 {
-    // A sink need not read the value to wait for its next change.
-    auto *node = m_sinks.isEmpty() ? nullptr : dynamic_cast<OrvGenApi::Node *>(&m_node);
-    if (node)
-        node->keepPolled();
+    if (!m_sinks.isEmpty())
+        keepPolled();
     notify();
+}
+
+void NodeAccess::keepPolled()
+{
+    if (auto *node = dynamic_cast<OrvGenApi::Node *>(&m_node))
+        node->keepPolled();
+}
+
+void NodeAccess::addSink(ParamEventSink *sink)
+{
+    m_sinks.add(sink);
+    keepPolled();
 }
 
 void NodeAccess::notify()

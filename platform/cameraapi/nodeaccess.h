@@ -37,6 +37,9 @@ public:
     const std::string &description() const { return m_description; }
     SinkRegistrations &sinks() { return m_sinks; }
 
+    /// The sink is told of changes from now on, also when nobody reads the value.
+    void addSink(ParamEventSink *sink);
+
     /// NI when it cannot be found out.
     GenApi::EAccessMode accessMode() const;
 
@@ -85,6 +88,7 @@ private:
     int32_t codeOfException() const;
     bool isAvailable() const;
     void nodeChanged(GenApi::INode *);
+    void keepPolled();
 
     ArrayState &m_array;
     GenApi::INode &m_node;

@@ -32,7 +32,7 @@ public:
     bool IsAvailable() const override { return GenApi::IsAvailable(m_access.accessMode()); }
     bool IsReadable() const override { return GenApi::IsReadable(m_access.accessMode()); }
     bool IsWritable() const override { return GenApi::IsWritable(m_access.accessMode()); }
-    void RegisterEventSink(ParamEventSink *sink) override { m_access.sinks().add(sink); }
+    void RegisterEventSink(ParamEventSink *sink) override { m_access.addSink(sink); }
     void UnregisterEventSink(ParamEventSink *sink) override { m_access.sinks().remove(sink); }
 
     NodeAccess &access() { return m_access; }

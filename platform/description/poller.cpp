@@ -56,7 +56,7 @@ Poller::~Poller()
 void Poller::poll(int64_t elapsedMs)
 {
     const std::vector<NodeLinks *> due = takeDue(elapsedMs);
-    if (!due.empty() && m_pending.empty())
+    if ((!due.empty() || !m_missing.empty()) && !m_request)
         startReading(due);
 }
 
@@ -71,6 +71,8 @@ std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
         if (feature.sincePolled < feature.node->GetPollingTime())
             continue;
         feature.sincePolled = 0;
+        if (feature.node->takePollWanted())
+            lookAt(feature);
         for (NodeLinks *links : feature.registers) {
             if (links->reg->isLookedAt())
                 due.push_back(links);
@@ -85,9 +87,26 @@ std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
     return due;
 }
 
+/// What the feature's value needs counts as looked at; what was never read is noted.
+void Poller::lookAt(const Feature &feature)
+{
+    Question question(Question::Kind::Looking);
+    m_map.look(question, [&] {
+        try {
+            if (auto *value = dynamic_cast<GenApi::IValue *>(feature.node))
+                value->ToString();
+        } catch (const GenICam::GenericException &) {
+            // It has no value at the moment.
+        }
+    });
+    m_missing.insert(m_missing.end(), question.missing.begin(), question.missing.end());
+    if (!question.missing.empty())
+        feature.node->keepPolled(); // a reference may lead on
+}
+
 void Poller::startReading(const std::vector<NodeLinks *> &registers)
 {
-    std::vector<RegisterRange> ranges;
+    std::vector<RegisterRange> ranges = std::exchange(m_missing, {});
     {
         const GenApi::AutoLock lock(m_map.GetLock());
         for (NodeLinks *links : registers) {
@@ -125,12 +144,6 @@ void Poller::tellChanged()
     m_map.enterChange();
     m_map.changed(changed);
     m_map.leaveChange();
-    for (const Feature &feature : m_features) {
-        if (!feature.node->takePollWanted())
-            continue;
-        for (NodeLinks *links : feature.registers)
-            links->reg->setLookedAt(true);
-    }
 }
 
 } // namespace OrvDescription

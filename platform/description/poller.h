@@ -17,8 +17,8 @@ struct NodeLinks;
 /// outdate what depends on them.
 ///
 /// A feature is polled as long as somebody looks at it, that is, as long as its value is asked for
-/// after each change, or somebody says that it is to be polled on (`Node::keepPolled`). One that nobody looks at is outdated when its time is up, so that the next
-/// question reaches the camera.
+/// after each change, or somebody says that it is to be polled on (`Node::keepPolled`). One that
+/// nobody looks at is outdated when its time is up, so that the next question reaches the camera.
 ///
 /// Belongs to the thread that runs the main context.
 class Poller
@@ -50,13 +50,15 @@ private:
     };
 
     std::vector<NodeLinks *> takeDue(int64_t elapsedMs);
+    void lookAt(const Feature &feature);
     void startReading(const std::vector<NodeLinks *> &registers);
     void tellChanged();
 
     OrvGenApi::NodeMapBase &m_map;
     OrvCameraIo::RegisterIo &m_io;
     std::vector<Feature> m_features;
-    std::vector<Pending> m_pending; ///< empty unless a batch is under way
+    std::vector<OrvGenApi::RegisterRange> m_missing; ///< of what is to be polled and was never read
+    std::vector<Pending> m_pending;                  ///< empty unless a batch is under way
     std::unique_ptr<OrvCameraIo::Request> m_request;
     const std::shared_ptr<Poller *> m_self; ///< null after the end
 };
