@@ -1,17 +1,49 @@
 // SPDX-License-Identifier: MIT
 #include "featurelist.h"
 
+#include <OrvGenParam/LookAhead.h>
+
+#include <QAbstractProxyModel>
+
 namespace {
+
+/// The cell of the model that answers when the camera has: what a view is given says "not yet".
+QModelIndex sourceOf(QModelIndex cell)
+{
+    while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(cell.model()))
+        cell = proxy->mapToSource(cell);
+    return cell;
+}
 
 QString cellText(const QModelIndex &cell)
 {
-    QString text = cell.data().toString();
+    QString text = sourceOf(cell).data().toString();
     for (const QChar lineBreak : {QChar('\n'), QChar('\r'), QChar('\t')})
         text.replace(lineBreak, ' ');
     return text;
 }
 
+void collect(const QAbstractItemModel &model, const QModelIndex &parent,
+             std::vector<OrvGenParam::LookAhead::Ask> &asks)
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex value = sourceOf(model.index(row, 1, parent));
+        asks.emplace_back([value] { value.model()->data(value, Qt::DisplayRole); });
+        collect(model, model.index(row, 0, parent), asks);
+    }
+}
+
 } // namespace
+
+void fetchFeatures(const QAbstractItemModel &model, GenApi::INodeMap *nodeMap)
+{
+    auto *lookAhead = dynamic_cast<OrvGenParam::LookAhead *>(nodeMap);
+    if (!lookAhead)
+        return;
+    std::vector<OrvGenParam::LookAhead::Ask> asks;
+    collect(model, QModelIndex(), asks);
+    lookAhead->fetchNow(asks);
+}
 
 void printFeatures(const QAbstractItemModel &model, QTextStream &out, const QModelIndex &parent,
                    int level)

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <GenApi/INodeMap.h>
+
 #include <QAbstractItemModel>
 #include <QTextStream>
 
 /// Prints the rows of a tree, one a line: two blanks of indentation per level, the name, a tab, the
-/// value. Line breaks inside a text become blanks.
+/// value. Line breaks inside a text become blanks. Waits for the values of a camera.
 void printFeatures(const QAbstractItemModel &model, QTextStream &out,
                    const QModelIndex &parent = QModelIndex(), int level = 0);
+
+/// Reads what printing the rows of that node map takes, in as few transfers as possible.
+void fetchFeatures(const QAbstractItemModel &model, GenApi::INodeMap *nodeMap);

@@ -86,8 +86,11 @@ int showFeatures(const FeatureSource &source, const Options &options)
     view.setParams(source.nodeMap());
     if (options.listFeatures && !source.warning().isEmpty())
         QTextStream(stderr) << "orvcamconfig: " << source.warning() << '\n';
-    if (options.listFeatures)
-        return printText([&](QTextStream &out) { printFeatures(*view.treeView()->model(), out); });
+    if (options.listFeatures) {
+        const QAbstractItemModel &model = *view.treeView()->model();
+        fetchFeatures(model, source.nodeMap());
+        return printText([&](QTextStream &out) { printFeatures(model, out); });
+    }
 
     view.setWindowTitle(source.title());
     view.resize(640, 800);

@@ -68,6 +68,13 @@ EVisibility Node::GetVisibility() const
     return std::max(m_properties.visibility, m_imposedVisibility);
 }
 
+void Node::keepPolled()
+{
+    const AutoLock lock(m_map.GetLock());
+    for (Node *node : terminalNodes())
+        node->m_isPollWanted = true;
+}
+
 void Node::InvalidateNode()
 {
     m_map.invalidate({this});

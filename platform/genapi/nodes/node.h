@@ -52,8 +52,9 @@ public:
     /// Forgets what the node keeps of the camera's memory. For registers; nothing otherwise.
     virtual void dropRegister() {}
 
-    /// Has the node polled on, although nobody reads it: somebody waits for its changes.
-    void keepPolled() { m_isPollWanted = true; }
+    /// Has the node, and what its value comes from, polled on although nobody reads it: somebody
+    /// waits for its changes.
+    void keepPolled();
 
     /// Whether that was called since the last call of this one.
     bool takePollWanted() { return std::exchange(m_isPollWanted, false); }
