@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QTextBrowser>
+#include <GenApi/IValue.h>
 
-namespace GenApi_3_0 {
-struct IValue;
-}
+#include <QTextBrowser>
 
 namespace OrvGui {
 
@@ -23,12 +21,12 @@ public:
     /// Null, or a feature that cannot be described, leaves the panel empty. To be called again when
     /// the feature changes; the reader's place in the text stays. What is not known yet is left
     /// out, or stays as it was; without a look-ahead the camera is waited for.
-    void describe(GenApi_3_0::IValue *feature, TreeLookAhead *lookAhead);
+    void describe(GenApi::IValue *feature, TreeLookAhead *lookAhead);
 
     QVariant loadResource(int type, const QUrl &name) override;
 
 private:
-    const GenApi_3_0::IValue *m_feature = nullptr; ///< only to be compared
+    const GenApi::IValue *m_feature = nullptr; ///< only to be compared
     QString m_text;
 };
 

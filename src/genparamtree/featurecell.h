@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <GenApi/IValue.h>
+
 #include <QString>
 
 class QLocale;
@@ -11,15 +13,11 @@ class QVariant;
 
 // How the cells of the tree look. Nothing here reads a value from the camera.
 
-namespace GenApi_3_0 {
-struct IValue;
-}
-
 namespace OrvGui {
 
 /// The text for the value of a feature: numbers with their unit, floating-point numbers in the
 /// notation and precision of the node, booleans in the words of their editor.
-QString featureText(GenApi_3_0::IValue *feature, const QVariant &value, const QLocale &locale);
+QString featureText(GenApi::IValue *feature, const QVariant &value, const QLocale &locale);
 
 /// Makes the alternate rows of a palette ones on which its text can be read.
 void keepRowsReadable(QPalette *palette);

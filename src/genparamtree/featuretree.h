@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <GenApi/IValue.h>
+
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTreeView>
 
 #include <set>
-
-namespace GenApi_3_0 {
-struct IValue;
-}
 
 namespace OrvGui {
 
@@ -33,7 +31,7 @@ public:
     void setLookAhead(TreeLookAhead *lookAhead);
 
     /// The features whose rows are on the screen.
-    std::set<GenApi_3_0::IValue *> shownFeatures() const;
+    std::set<GenApi::IValue *> shownFeatures() const;
 
     void keyboardSearch(const QString &search) override;
 

@@ -3,11 +3,9 @@
 
 #include "genparamtreevisibilityfilterproxymodel.h"
 
-#include <QCache>
+#include <GenApi/IValue.h>
 
-namespace GenApi_3_0 {
-struct IValue;
-}
+#include <QCache>
 
 namespace OrvGui {
 
@@ -46,7 +44,7 @@ private:
     Cell cell(const QModelIndex &source) const;
 
     TreeLookAhead *m_lookAhead = nullptr;
-    mutable QCache<const GenApi_3_0::IValue *, Cell> m_lastCells{1000};
+    mutable QCache<const GenApi::IValue *, Cell> m_lastCells{1000};
 };
 
 } // namespace OrvGui
