@@ -2,6 +2,7 @@
 #include "genparamdelegate.h"
 
 #include "fixintegerrepresentation.h"
+#include "floateditor.h"
 #include "genicamstring.h"
 #include "genparamtreemodel.h"
 #include "ip4validator.h"
@@ -180,7 +181,7 @@ QWidget *GenParamDelegate::createFloatEditor(QWidget *parent, const QStyleOption
         return createComboBox(parent, entries);
     }
 
-    QScopedPointer<QDoubleSpinBox> spinBox(new QDoubleSpinBox(parent));
+    QScopedPointer<QDoubleSpinBox> spinBox(new OrvGui::FloatEditor(parent));
     spinBox->setFrame(false);
     spinBox->setRange(number->GetMin(), number->GetMax());
     spinBox->setSuffix(unit);
