@@ -35,5 +35,7 @@ picture() {
 echo "There is no display; these are pictures of the windows:"
 picture picker --simulate --window picker --camera SIM-0001
 picture main-window --simulate --window main
-picture features-basic --simulate
-picture features-guru --simulate --visibility guru
+for dialog in frames trigger pulse strobe output color about; do
+    picture "$dialog" --simulate --window "$dialog"
+done
+picture features --simulate --visibility guru

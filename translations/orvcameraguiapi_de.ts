@@ -22,6 +22,10 @@
         <source>Features</source>
         <translation>Parameter</translation>
     </message>
+    <message>
+        <source>The camera has nothing that &apos;%1&apos; could show.</source>
+        <translation>Die Kamera hat nichts, was „%1“ zeigen könnte.</translation>
+    </message>
 </context>
 <context>
     <name>Cameras</name>
@@ -243,10 +247,6 @@
         <translation>Je Zeile eine Kamera ausgeben und beenden: die Kennung (MAC-Adresse oder Hersteller und Seriennummer), der Name, die IPv4-Adresse, falls vorhanden, und der Zugriff (read-write, read-only, no-access, subnet-mismatch oder unknown), durch Tabulatoren getrennt.</translation>
     </message>
     <message>
-        <source>Save a picture of the first window and exit.</source>
-        <translation>Ein Bild des ersten Fensters speichern und beenden.</translation>
-    </message>
-    <message>
         <source>Shows and changes the features of a camera, which is picked first.
 Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
         <translation>Zeigt und ändert die Parameter einer Kamera, die zuerst ausgewählt wird.
@@ -265,14 +265,6 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
         <translation>Bitte angeben, wessen Parameter aufgelistet werden sollen: --simulate, --camera ID oder --xml FILE.</translation>
     </message>
     <message>
-        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; or the tree alone. The last two take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
-        <translation>Was zuerst gezeigt wird: die Kameraauswahl (picker), in der die mit --camera genannte Kamera markiert ist; das Hauptfenster (main) mit dem Baum daneben; oder der Baum (tree) allein. Die letzten beiden nehmen ohne --camera die erste verwendbare Kamera. Ohne Angabe: die Kameraauswahl, wenn weder --simulate noch --camera noch --xml sagt, was zu zeigen ist; der Baum bei --xml und --screenshot; sonst das Hauptfenster.</translation>
-    </message>
-    <message>
-        <source>There is no window &apos;%1&apos;; use picker, main or tree.</source>
-        <translation>Es gibt kein Fenster „%1“; möglich sind picker, main und tree.</translation>
-    </message>
-    <message>
         <source>The main window needs a camera: use --xml alone.</source>
         <translation>Das Hauptfenster braucht eine Kamera: --xml steht allein.</translation>
     </message>
@@ -287,6 +279,18 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
     <message>
         <source>The option &apos;--%1&apos; needs a value.</source>
         <translation>Die Option „--%1“ braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; the tree alone; or one of the main window&apos;s dialogs (trigger, pulse, strobe, output, color, frames, about) with the main window. All but the picker take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
+        <translation>Was zuerst gezeigt wird: die Kameraauswahl (picker), in der die mit --camera genannte Kamera markiert ist; das Hauptfenster (main) mit dem Baum daneben; der Baum (tree) allein; oder einer der Dialoge des Hauptfensters (trigger, pulse, strobe, output, color, frames, about) mit dem Hauptfenster. Alle außer der Kameraauswahl nehmen ohne --camera die erste verwendbare Kamera. Ohne Angabe: die Kameraauswahl, wenn weder --simulate noch --camera noch --xml sagt, was zu zeigen ist; der Baum bei --xml und --screenshot; sonst das Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>Save a picture of the first window, or of the dialog that --window names, and exit. Needs no display.</source>
+        <translation>Ein Bild des ersten Fensters oder des mit --window genannten Dialogs speichern und beenden. Braucht keine Anzeige.</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use one of: %2.</source>
+        <translation>Es gibt kein Fenster „%1“; möglich sind: %2.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +1383,14 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     <message>
         <source>The camera system cannot be started.</source>
         <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>No window can be shown: %1</source>
+        <translation>Es kann kein Fenster gezeigt werden: %1</translation>
+    </message>
+    <message>
+        <source>No camera was found.</source>
+        <translation>Es wurde keine Kamera gefunden.</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,10 @@
         <source>Features</source>
         <translation>パラメーター</translation>
     </message>
+    <message>
+        <source>The camera has nothing that &apos;%1&apos; could show.</source>
+        <translation>このカメラには「%1」で表示できるものがありません。</translation>
+    </message>
 </context>
 <context>
     <name>Cameras</name>
@@ -243,10 +247,6 @@
         <translation>カメラを 1 行に 1 台ずつ出力して終了します。識別子 (MAC アドレス、またはベンダーとシリアル番号)、名前、IPv4 アドレス (ある場合)、アクセス状態 (read-write、read-only、no-access、subnet-mismatch または unknown) をタブで区切ります。</translation>
     </message>
     <message>
-        <source>Save a picture of the first window and exit.</source>
-        <translation>最初のウィンドウの画像を保存して終了します。</translation>
-    </message>
-    <message>
         <source>Shows and changes the features of a camera, which is picked first.
 Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
         <translation>最初に選択したカメラのパラメーターを表示および変更します。
@@ -265,14 +265,6 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
         <translation>パラメーターを一覧表示する対象を指定してください: --simulate、--camera ID または --xml FILE。</translation>
     </message>
     <message>
-        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; or the tree alone. The last two take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
-        <translation>最初に表示するもの: カメラの選択 (picker、--camera で指定したカメラが選択されます)、メインウィンドウ (main、横にツリーを表示)、またはツリーのみ (tree)。後の 2 つは --camera がなければ最初に使用できるカメラを開きます。省略時は、--simulate、--camera、--xml のいずれも指定されていなければカメラの選択、--xml または --screenshot が指定されていればツリー、それ以外はメインウィンドウです。</translation>
-    </message>
-    <message>
-        <source>There is no window &apos;%1&apos;; use picker, main or tree.</source>
-        <translation>ウィンドウ「%1」はありません。picker、main または tree を指定してください。</translation>
-    </message>
-    <message>
         <source>The main window needs a camera: use --xml alone.</source>
         <translation>メインウィンドウにはカメラが必要です。--xml は単独で指定してください。</translation>
     </message>
@@ -287,6 +279,18 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
     <message>
         <source>The option &apos;--%1&apos; needs a value.</source>
         <translation>オプション「--%1」には値が必要です。</translation>
+    </message>
+    <message>
+        <source>What to show first: the picker, in which the camera named by --camera is selected; the main window, with the tree beside it; the tree alone; or one of the main window&apos;s dialogs (trigger, pulse, strobe, output, color, frames, about) with the main window. All but the picker take the first usable camera without --camera. The picker when neither --simulate nor --camera nor --xml says what to show; the tree for --xml and --screenshot; otherwise the main window.</source>
+        <translation>最初に表示するもの: カメラの選択 (picker、--camera で指定したカメラが選択されます)、メインウィンドウ (main、横にツリーを表示)、ツリーのみ (tree)、またはメインウィンドウのダイアログの 1 つ (trigger、pulse、strobe、output、color、frames、about、メインウィンドウも表示)。カメラの選択以外は、--camera がなければ最初に使用できるカメラを開きます。省略時は、--simulate、--camera、--xml のいずれも指定されていなければカメラの選択、--xml または --screenshot が指定されていればツリー、それ以外はメインウィンドウです。</translation>
+    </message>
+    <message>
+        <source>Save a picture of the first window, or of the dialog that --window names, and exit. Needs no display.</source>
+        <translation>最初のウィンドウ、または --window で指定したダイアログの画像を保存して終了します。ディスプレイは不要です。</translation>
+    </message>
+    <message>
+        <source>There is no window &apos;%1&apos;; use one of: %2.</source>
+        <translation>ウィンドウ「%1」はありません。次のいずれかを指定してください: %2。</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +1383,14 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     <message>
         <source>The camera system cannot be started.</source>
         <translation>カメラシステムを起動できません。</translation>
+    </message>
+    <message>
+        <source>No window can be shown: %1</source>
+        <translation>ウィンドウを表示できません: %1</translation>
+    </message>
+    <message>
+        <source>No camera was found.</source>
+        <translation>カメラが見つかりませんでした。</translation>
     </message>
 </context>
 <context>

@@ -122,8 +122,9 @@ OrvCam::DeviceInfo *findCamera(OrvCam::System &system, const QString &name, QStr
     return nullptr;
 }
 
-void printCameras(OrvCam::System &system, QTextStream &out)
+int printCameras(OrvCam::System &system, QTextStream &out)
 {
+    int count = 0;
     for (OrvCam::Interface *interface : foundInterfaces(system)) {
         int row = 0;
         for (const OrvCam::DeviceInfo *info : foundCameras(*interface)) {
@@ -131,5 +132,7 @@ void printCameras(OrvCam::System &system, QTextStream &out)
                 << addressOf(*interface, row++) << '\t' << accessWord(info->GetAccessState())
                 << '\n';
         }
+        count += row;
     }
+    return count;
 }

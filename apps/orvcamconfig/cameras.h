@@ -12,5 +12,5 @@ OrvCam::DeviceInfo *findCamera(OrvCam::System &system, const QString &name, QStr
 
 /// Looks for cameras and prints one a line: the identifier (MAC address, or vendor and serial
 /// number), the name, the IPv4 address (empty for a camera without one) and the access, with tabs
-/// between them.
-void printCameras(OrvCam::System &system, QTextStream &out);
+/// between them. Returns how many there are.
+int printCameras(OrvCam::System &system, QTextStream &out);

@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPushButton>
 #include <QSettings>
 #include <QTreeView>
 
@@ -76,6 +77,40 @@ void CameraWindows::show()
     m_configuration.show();
     const bool isOpen = !m_settings || m_settings->value(key(treeIsOpen), true).toBool();
     m_treeAction->setChecked(isOpen);
+}
+
+QWidget *CameraWindows::openDialog(const QString &name, QString *error)
+{
+    static const struct
+    {
+        const char *name, *opener, *dialog;
+    } dialogs[] = {
+        {"trigger", "pushBtnTrigger", "OrvCamConfigTriggerDialog"},
+        {"pulse", "pushBtnPulse", "OrvCamConfigPulseDialog"},
+        {"strobe", "pushBtnStrobe", "OrvCamConfigStrobeDialog"},
+        {"output", "pushBtnDataOut", "OrvCamConfigOutputDialog"},
+        {"color", "pushBtnColor", "OrvCamConfigColorDialog"},
+        {"frames", "pushBtnFrameAB", "OrvCamConfigFrameABDialog"},
+        {"about", "actionAbout", "OrvCamConfigAboutDialog"},
+    };
+    for (const auto &entry : dialogs) {
+        if (name != QLatin1String(entry.name))
+            continue;
+        auto *dialog = m_configuration.findChild<QDialog *>(QString::fromLatin1(entry.dialog));
+        auto *action = m_configuration.findChild<QAction *>(QString::fromLatin1(entry.opener));
+        auto *button = m_configuration.findChild<QPushButton *>(QString::fromLatin1(entry.opener));
+        if (action) {
+            action->trigger();
+        } else if (button->isEnabled() && !button->isHidden()) {
+            button->setChecked(true);
+        } else {
+            *error = tr("The camera has nothing that '%1' could show.").arg(name);
+            return nullptr;
+        }
+        return dialog;
+    }
+    Q_UNREACHABLE();
+    return nullptr;
 }
 
 void CameraWindows::follow(OrvCam::Device *device)

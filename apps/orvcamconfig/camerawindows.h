@@ -39,6 +39,10 @@ public:
     /// Shows what was open at the end of the last run, the configuration window in any case.
     void show();
 
+    /// Opens a dialog of the configuration window: trigger, pulse, strobe, output, color, frames or
+    /// about. Null, and a reason, when the camera has no use for it.
+    QWidget *openDialog(const QString &name, QString *error);
+
     OrvGui::OrvCamConfig &configuration() { return m_configuration; }
     OrvGui::OrvGenParamTreeView &tree() { return m_tree; }
 

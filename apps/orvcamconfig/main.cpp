@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cameras.h"
 #include "camerawindows.h"
+#include "display.h"
 #include "featurelist.h"
 #include "featuresource.h"
 #include "options.h"
@@ -14,7 +15,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 #include <QTreeView>
@@ -33,24 +33,19 @@ int fail(ExitStatus status, const QString &message)
 }
 
 /// Ends the program for help and version. Needs no display, whatever is asked for.
-Options readOptions(int argc, char **argv, QString *error)
+Options readOptions(int argc, char **argv, QString *error, QString *complaint)
 {
     QCoreApplication application(argc, argv);
     translate(application);
+    *complaint = QObject::tr("No window can be shown: %1");
     return Options::fromArguments(QCoreApplication::arguments(), error);
 }
 
-/// Text needs no display, nor the session that Qt would miss with a complaint.
-std::unique_ptr<QTemporaryDir> goWithoutDisplay()
+Display::Need displayFor(const Options &options)
 {
-    std::unique_ptr<QTemporaryDir> runtimeFolder;
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
-        runtimeFolder = std::make_unique<QTemporaryDir>();
-        qputenv("XDG_RUNTIME_DIR", runtimeFolder->path().toLocal8Bit());
-    }
-    return runtimeFolder;
+    if (options.listFeatures || options.listCameras)
+        return Display::Need::Text;
+    return options.screenshot.isEmpty() ? Display::Need::Windows : Display::Need::Picture;
 }
 
 /// Gives `print` the standard output.
@@ -117,9 +112,17 @@ int configure(Released<OrvCam::Device> device, const Options &options)
     if (options.isVisibilityGiven)
         level = static_cast<OrvGui::Visibility>(options.visibility);
     CameraWindows windows(std::move(device), isPicture ? nullptr : &settings, level);
+    QWidget *first = &windows.configuration();
+    if (!isPicture)
+        windows.show();
+    if (!options.dialog.isEmpty()) {
+        QString error;
+        first = windows.openDialog(options.dialog, &error);
+        if (!first)
+            return fail(Failure, error);
+    }
     if (isPicture)
-        return takePicture(windows.configuration(), options.screenshot);
-    windows.show();
+        return takePicture(*first, options.screenshot);
     return QApplication::exec();
 }
 
@@ -182,6 +185,15 @@ int pickCamera(OrvCam::System &system, const Options &options)
     return Success;
 }
 
+int listCameras(OrvCam::System &system)
+{
+    int count = 0;
+    const int status = printText([&](QTextStream &out) { count = printCameras(system, out); });
+    if (count == 0 && status == Success)
+        QTextStream(stderr) << "orvcamconfig: " << QObject::tr("No camera was found.") << '\n';
+    return status;
+}
+
 int run(const Options &options)
 {
     if (!options.description.isEmpty())
@@ -193,7 +205,7 @@ int run(const Options &options)
     if (!system)
         return fail(Failure, QObject::tr("The camera system cannot be started."));
     if (options.listCameras)
-        return printText([&](QTextStream &out) { printCameras(*system, out); });
+        return listCameras(*system);
     switch (options.window) {
     case Options::Window::Picker:
         return pickCamera(*system, options);
@@ -213,16 +225,14 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
 
     QString error;
-    const Options options = readOptions(argc, argv, &error);
+    QString complaint;
+    const Options options = readOptions(argc, argv, &error, &complaint);
     if (!error.isEmpty())
         return fail(WrongUsage, error);
 
-    std::unique_ptr<QTemporaryDir> runtimeFolder;
-    if (options.listFeatures || options.listCameras)
-        runtimeFolder = goWithoutDisplay();
-    QApplication application(argc, argv);
+    Display display(argc, argv, displayFor(options), complaint);
     QApplication::setDesktopFileName(QStringLiteral("orvcamconfig"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/res/orvicon.ico")));
-    translate(application);
+    translate(display.application());
     return run(options);
 }

@@ -43,6 +43,12 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
 {
     const QStringList levels = {QStringLiteral("basic"), QStringLiteral("expert"),
                                 QStringLiteral("guru")};
+    const QStringList windows = {QStringLiteral("picker"), QStringLiteral("main"),
+                                 QStringLiteral("tree")};
+    const QStringList dialogs = {QStringLiteral("trigger"), QStringLiteral("pulse"),
+                                 QStringLiteral("strobe"),  QStringLiteral("output"),
+                                 QStringLiteral("color"),   QStringLiteral("frames"),
+                                 QStringLiteral("about")};
     const QCommandLineOption simulate(QStringLiteral("simulate"),
                                       tr("Use simulated cameras; nothing is sent anywhere."));
     const QCommandLineOption camera(
@@ -55,11 +61,12 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
     const QCommandLineOption window(
         QStringLiteral("window"),
         tr("What to show first: the picker, in which the camera named by --camera is selected; the "
-           "main window, with the tree beside it; or the tree alone. The last two take the first "
-           "usable camera without --camera. The picker when neither --simulate nor --camera nor "
-           "--xml says what to show; the tree for --xml and --screenshot; otherwise the main "
-           "window."),
-        QStringLiteral("picker|main|tree"));
+           "main window, with the tree beside it; the tree alone; or one of the main window's "
+           "dialogs (trigger, pulse, strobe, output, color, frames, about) with the main window. "
+           "All but the picker take the first usable camera without --camera. The picker when "
+           "neither --simulate nor --camera nor --xml says what to show; the tree for --xml and "
+           "--screenshot; otherwise the main window."),
+        QStringLiteral("picker|main|tree|DIALOG"));
     const QCommandLineOption listCameras(
         QStringLiteral("list-cameras"),
         tr("Print one camera a line and exit: the identifier (MAC address, or vendor and serial "
@@ -73,7 +80,8 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
                                         tr("The level of detail: basic, expert or guru."),
                                         QStringLiteral("LEVEL"), levels.first());
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        tr("Save a picture of the first window and exit."),
+                                        tr("Save a picture of the first window, or of the dialog "
+                                           "that --window names, and exit. Needs no display."),
                                         QStringLiteral("FILE"));
 
     QCommandLineParser parser;
@@ -111,35 +119,46 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
     const QString wanted = parser.value(window);
     const bool isToldWhat = options.simulate || parser.isSet(camera) || parser.isSet(xml);
     const bool isTree = parser.isSet(xml) || parser.isSet(screenshot) || options.listFeatures;
+    if (dialogs.contains(wanted))
+        options.dialog = wanted;
     if (wanted == QLatin1String("picker") || (wanted.isEmpty() && !isToldWhat))
         options.window = Window::Picker;
-    else if (wanted == QLatin1String("main") || (wanted.isEmpty() && !isTree))
+    else if (wanted == QLatin1String("main") || !options.dialog.isEmpty() ||
+             (wanted.isEmpty() && !isTree))
         options.window = Window::Main;
 
     const QString valueless = optionWithoutValue(parser, own);
-    if (!valueless.isEmpty())
-        *error = tr("The option '--%1' needs a value.").arg(valueless);
-    else if (!parser.positionalArguments().isEmpty())
-        *error = tr("There is no option '%1'.").arg(parser.positionalArguments().first());
-    else if (options.visibility < 0)
-        *error = tr("There is no visibility '%1'; use basic, expert or guru.")
-                     .arg(parser.value(visibility));
-    else if (parser.isSet(window) && wanted != QLatin1String("tree") &&
-             wanted != QLatin1String("picker") && wanted != QLatin1String("main"))
-        *error = tr("There is no window '%1'; use picker, main or tree.").arg(wanted);
-    else if (options.listCameras &&
+    const QString stray = parser.positionalArguments().value(0);
+    const struct
+    {
+        bool isSo;
+        QString message;
+    } contradictions[] = {
+        {!valueless.isEmpty(), tr("The option '--%1' needs a value.").arg(valueless)},
+        {!stray.isNull(), tr("There is no option '%1'.").arg(stray)},
+        {options.visibility < 0, tr("There is no visibility '%1'; use basic, expert or guru.")
+                                     .arg(parser.value(visibility))},
+        {parser.isSet(window) && !windows.contains(wanted) && !dialogs.contains(wanted),
+         tr("There is no window '%1'; use one of: %2.")
+             .arg(wanted, (windows + dialogs).join(QStringLiteral(", ")))},
+        {options.listCameras &&
              (parser.isSet(camera) || parser.isSet(xml) || parser.isSet(window) ||
-              options.listFeatures || parser.isSet(screenshot)))
-        *error = tr("All cameras are listed: use --list-cameras alone or with --simulate.");
-    else if (parser.isSet(xml) && (options.simulate || parser.isSet(camera)))
-        *error = tr("A description is shown without a camera: use --xml alone.");
-    else if (parser.isSet(xml) && options.window == Window::Picker)
-        *error = tr("A description is shown without a camera: there is nothing to pick.");
-    else if (parser.isSet(xml) && options.window == Window::Main)
-        *error = tr("The main window needs a camera: use --xml alone.");
-    else if (options.listFeatures && options.window == Window::Main)
-        *error = tr("Only the tree can be printed: use --list-features without --window.");
-    else if (options.listFeatures && options.window == Window::Picker)
-        *error = tr("Say whose features to list: --simulate, --camera ID or --xml FILE.");
+              options.listFeatures || parser.isSet(screenshot)),
+         tr("All cameras are listed: use --list-cameras alone or with --simulate.")},
+        {parser.isSet(xml) && (options.simulate || parser.isSet(camera)),
+         tr("A description is shown without a camera: use --xml alone.")},
+        {parser.isSet(xml) && options.window == Window::Picker,
+         tr("A description is shown without a camera: there is nothing to pick.")},
+        {parser.isSet(xml) && options.window == Window::Main,
+         tr("The main window needs a camera: use --xml alone.")},
+        {options.listFeatures && options.window == Window::Main,
+         tr("Only the tree can be printed: use --list-features without --window.")},
+        {options.listFeatures && options.window == Window::Picker,
+         tr("Say whose features to list: --simulate, --camera ID or --xml FILE.")},
+    };
+    for (const auto &contradiction : contradictions) {
+        if (contradiction.isSo && error->isEmpty())
+            *error = contradiction.message;
+    }
     return options;
 }

@@ -14,6 +14,7 @@ public:
     enum class Window { Tree, Picker, Main };
 
     Window window = Window::Tree; ///< the first to be shown
+    QString dialog; ///< to be opened with the main window: its name in the option; empty for none
     bool simulate = false;
     bool listCameras = false;
     bool listFeatures = false;

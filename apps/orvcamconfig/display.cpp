@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "display.h"
+
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+namespace {
+
+const char platformVariable[] = "QT_QPA_PLATFORM";
+
+bool isOffscreen()
+{
+    return qgetenv(platformVariable) == "offscreen";
+}
+
+/// What is held while Qt looks for a display: it aborts the program when it finds none.
+struct Attempt
+{
+    struct Message
+    {
+        QtMsgType type;
+        QString text;
+    };
+
+    char **arguments;
+    bool mayGoOffscreen;
+    QString complaint;
+    QVector<Message> messages;
+};
+Attempt *attempt = nullptr;
+
+[[noreturn]] void giveUp()
+{
+    if (attempt->mayGoOffscreen && !isOffscreen()) {
+        qputenv(platformVariable, "offscreen");
+        execv("/proc/self/exe", attempt->arguments);
+    }
+    const QString reason =
+        attempt->messages.isEmpty() ? QString() : attempt->messages.first().text.trimmed();
+    std::fprintf(stderr, "orvcamconfig: %s\n", qPrintable(attempt->complaint.arg(reason)));
+    std::_Exit(EXIT_FAILURE);
+}
+
+void holdMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtFatalMsg)
+        giveUp();
+    attempt->messages.append({type, text});
+}
+
+/// A picture has no window manager to complain about.
+void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support ")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    if (type == QtFatalMsg)
+        std::abort();
+}
+
+} // namespace
+
+Display::Display(int &argc, char **argv, Need need, const QString &complaint)
+{
+    if (need == Need::Text && !qEnvironmentVariableIsSet(platformVariable))
+        qputenv(platformVariable, "offscreen");
+    if (isOffscreen())
+        goOffscreen();
+
+    Attempt thisAttempt = {argv, need == Need::Picture, complaint, {}};
+    attempt = &thisAttempt;
+    const QtMessageHandler earlier = qInstallMessageHandler(holdMessage);
+    m_application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(isOffscreen() ? dropMessagesOfOffscreen : earlier);
+    attempt = nullptr;
+    for (const Attempt::Message &message : qAsConst(thisAttempt.messages))
+        qt_message_output(message.type, QMessageLogContext(), message.text);
+}
+
+Display::~Display() = default;
+
+/// Qt complains of a session without a folder for its sockets.
+void Display::goOffscreen()
+{
+    if (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        return;
+    m_runtimeFolder = std::make_unique<QTemporaryDir>();
+    qputenv("XDG_RUNTIME_DIR", m_runtimeFolder->path().toLocal8Bit());
+}
