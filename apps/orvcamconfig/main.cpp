@@ -8,6 +8,7 @@
 #include "translation.h"
 
 #include <base/cameratext.h>
+#include <orvcameraguiapi_version.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
 
@@ -210,7 +211,7 @@ int main(int argc, char **argv)
 {
     QApplication::setOrganizationName(QStringLiteral("orvcamconfig")); // names the settings' folder
     QApplication::setApplicationName(QStringLiteral("orvcamconfig"));
-    QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
+    QApplication::setApplicationVersion(QStringLiteral(ORVCAMERAGUIAPI_VERSION_TEXT));
 
     QString error;
     const Options options = readOptions(argc, argv, &error);
