@@ -32,8 +32,17 @@ echo "$(wc -l <"$work/headers") headers can be used on their own"
 
 cat >"$work/host.c" <<'EOF'
 #include <orvcameraguiapi.h>
+#include <stdio.h>
 int main(void)
 {
+    printf("%s %s ", OrvCameraGuiApi_GetVersionText(), OrvCameraApi_GetVersionText());
+    printf("%d.%d.%d ", ORVCAMERAGUIAPI_VERSION_MAJOR, ORVCAMERAGUIAPI_VERSION_MINOR,
+           ORVCAMERAGUIAPI_VERSION_PATCH);
+    printf("%d.%d.%d\n", ORVCAMERAAPI_VERSION_MAJOR, ORVCAMERAAPI_VERSION_MINOR,
+           ORVCAMERAAPI_VERSION_PATCH);
+    if (OrvCameraGuiApi_GetVersion() != ORVCAMERAGUIAPI_VERSION
+        || OrvCameraApi_GetVersion() != ORVCAMERAAPI_VERSION)
+        return 1;
     OrvGuiParamTreeView *view = CreateGenParamTreeViewForNodemapA(NULL, "empty", 0);
     DestroyGenParamTreeView(view);
     return 0;
@@ -42,8 +51,11 @@ EOF
 # shellcheck disable=SC2046,SC2086 # flags are words
 ${CC:-cc} -std=c99 -Wall -Wextra -Werror ${CFLAGS:-} "$work/host.c" -o "$work/host" \
     $(pkg-config --cflags --libs orvcameraguiapi) ${LDFLAGS:-}
-LD_LIBRARY_PATH=$(dirname -- "$pkgconfig") QT_QPA_PLATFORM=offscreen "$work/host" \
+LD_LIBRARY_PATH=$(dirname -- "$pkgconfig") QT_QPA_PLATFORM=offscreen "$work/host" >"$work/versions" \
     || fail "a C program can't use the installed library"
+version=$(pkg-config --modversion orvcameraguiapi)
+[ "$(cat "$work/versions")" = "$version $version $version $version" ] \
+    || fail "the headers' versions are not $version: $(cat "$work/versions")"
 echo "a C program made with pkg-config runs"
 
 # The program in the README, the first code of each language there, is an example like the others.
