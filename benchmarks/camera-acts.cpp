@@ -171,6 +171,8 @@ void Acts::measure(Row &row, const Act &act, const IsDone &isDone)
     row.gaps.longestWait = qMax(row.gaps.longestWait, gaps.longestWait);
     row.gaps.beyond += gaps.beyond;
 
+    if (getenv("ACTS_TRACE"))
+        fprintf(stderr, "%s", qPrintable(row.name));
     const Traffic traffic = m_cameras.takeUnpolledTraffic();
     ++row.times;
     row.traffic.commands += traffic.commands;
@@ -390,10 +392,7 @@ void TreeActs::runWindow()
     });
     measureEach("expand", [this](int i) { tree(i).expandAll(); });
     turnPages();
-    measureEach("repaint", [this](int i) {
-        for (int times = 0; times < 10; ++times)
-            tree(i).viewport()->repaint();
-    });
+    measureEach("repaint", [this](int i) { tree(i).viewport()->repaint(); });
     write();
 }
 
@@ -459,6 +458,7 @@ private:
     {
         return m_windows[static_cast<std::size_t>(camera)]->findChild<Widget *>(name);
     }
+    void showDialogs();
     void selectMode(const char *mode);
 
     std::vector<std::unique_ptr<OrvGui::OrvCamConfig>> m_windows;
@@ -478,15 +478,9 @@ void ConfigurationActs::runWindow()
     measureEach("show", [this](int i) {
         m_windows.push_back(std::make_unique<OrvGui::OrvCamConfig>(&device(i)));
         m_windows.back()->show();
-        for (QPushButton *button : m_windows.back()->findChildren<QPushButton *>()) {
-            if (button->isCheckable() && button->isEnabled())
-                button->click();
-        }
     });
-    measureEach("repaint", [this](int i) {
-        for (int times = 0; times < 10; ++times)
-            m_windows[static_cast<std::size_t>(i)]->repaint();
-    });
+    showDialogs();
+    measureEach("repaint", [this](int i) { m_windows[static_cast<std::size_t>(i)]->repaint(); });
     if (OrvGenParam::Int *width = device(0).GetParamArray()->GetInt("Width"))
         measure(
             "write", [&] { width->SetValue(width->GetValue()); }, [] { return true; });
@@ -504,6 +498,20 @@ void ConfigurationActs::runWindow()
             measure(
                 preset, [=] { button->click(); }, [] { return true; });
     }
+}
+
+void ConfigurationActs::showDialogs()
+{
+    Row row;
+    row.name = QStringLiteral("show a dialog");
+    for (const auto &window : m_windows) {
+        for (QPushButton *button : window->findChildren<QPushButton *>()) {
+            if (button->isCheckable() && button->isVisible())
+                measure(
+                    row, [=] { button->click(); }, [] { return true; });
+        }
+    }
+    print(row);
 }
 
 /// The window notices within a second.

@@ -3,6 +3,8 @@
 
 #include "polledregisters.h"
 
+#include <simulation/simulatedcamera.h>
+
 #include <QElapsedTimer>
 
 #include <algorithm>
@@ -22,6 +24,24 @@ TestCameraBehaviour behaviourFor(const Condition &condition, unsigned seed)
     behaviour.answerLoss = condition.loss / 2;
     behaviour.seed = seed;
     return behaviour;
+}
+
+/// What the simulated camera holds, in place of small numbers that make no sense together.
+void fillLikeSimulation(TestCamera &camera)
+{
+    const uint32_t first = 0x1000; // of its own registers
+    const uint32_t end = 0x10000;
+    const OrvSimulation::SimulatedCamera simulation;
+    std::vector<OrvCameraIo::ReadTransfer> registers;
+    for (uint32_t address = first; address < end; address += 4)
+        registers.push_back({{address, 4}, OrvCameraIo::Status::Failed, {}});
+    simulation.port()->read(registers);
+    for (const OrvCameraIo::ReadTransfer &read : registers) {
+        uint32_t word = 0;
+        for (const uint8_t byte : read.bytes)
+            word = word << 8 | byte;
+        camera.setRegister(static_cast<uint32_t>(read.range.address), word);
+    }
 }
 
 } // namespace
@@ -45,6 +65,8 @@ CameraSet::CameraSet(const QByteArray &description, const Condition &condition)
         settings.fillsRegisters = true;
         settings.unknownRegisters = TestCameraMemory::Unknown::Filled;
         m_cameras.push_back(std::make_unique<TestCamera>(settings));
+        if (settings.description == *OrvSimulation::SimulatedCamera::description())
+            fillLikeSimulation(*m_cameras.back());
         m_cameras.back()->setBehaviour(behaviourFor(condition, static_cast<unsigned>(i + 1)));
     }
     for (const int thread : threadIds()) {
@@ -120,6 +142,17 @@ Traffic CameraSet::traffic(const std::vector<TestCamera::Access> &accesses, bool
             words.insert(access.address);
         else
             others.insert({access.address, access.size});
+    }
+    if (getenv("ACTS_TRACE") && !withPolled) {
+        unsigned last = 0;
+        for (const TestCamera::Access &access : accesses) {
+            if (m_polled.count(access.address))
+                continue;
+            std::fprintf(stderr, "%s%s%x:%u", access.packet != last ? "\n    " : " ",
+                         access.isRead() ? "" : "W", access.address, access.size);
+            last = access.packet;
+        }
+        std::fprintf(stderr, "\n--\n");
     }
     Traffic traffic;
     traffic.commands = unsigned(packets.size());
