@@ -21,6 +21,15 @@ public:
         double beyond = 0;      ///< the sum of what was beyond 5 ms
     };
 
+    /// In milliseconds, of the thread.
+    struct Clocks
+    {
+        double work = 0;     ///< processor time
+        double runQueue = 0; ///< time for which it was ready, but had no processor
+    };
+
+    static Clocks now();
+
     GuiMeter();
 
     /// Since the last call.
@@ -32,13 +41,6 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    struct Clocks
-    {
-        double work = 0;     ///< processor time of the thread
-        double runQueue = 0; ///< time for which it was ready, but had no processor
-    };
-
-    static Clocks now();
     void note();
 
     QElapsedTimer m_sinceTurn;
