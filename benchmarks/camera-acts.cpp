@@ -171,8 +171,6 @@ void Acts::measure(Row &row, const Act &act, const IsDone &isDone)
     row.gaps.longestWait = qMax(row.gaps.longestWait, gaps.longestWait);
     row.gaps.beyond += gaps.beyond;
 
-    if (getenv("ACTS_TRACE"))
-        fprintf(stderr, "%s work %.1f gap %.1f", qPrintable(row.name), gaps.work, gaps.longest);
     const Traffic traffic = m_cameras.takeUnpolledTraffic();
     ++row.times;
     row.traffic.commands += traffic.commands;

@@ -143,17 +143,6 @@ Traffic CameraSet::traffic(const std::vector<TestCamera::Access> &accesses, bool
         else
             others.insert({access.address, access.size});
     }
-    if (getenv("ACTS_TRACE") && !withPolled) {
-        unsigned last = 0;
-        for (const TestCamera::Access &access : accesses) {
-            if (m_polled.count(access.address))
-                continue;
-            std::fprintf(stderr, "%s%s%x:%u", access.packet != last ? "\n    " : " ",
-                         access.isRead() ? "" : "W", access.address, access.size);
-            last = access.packet;
-        }
-        std::fprintf(stderr, "\n--\n");
-    }
     Traffic traffic;
     traffic.commands = unsigned(packets.size());
     traffic.packed = unsigned((words.size() + mostRegisters - 1) / mostRegisters + others.size() +
