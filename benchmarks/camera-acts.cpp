@@ -490,11 +490,13 @@ void ConfigurationActs::runWindow()
         [] { return true; });
     selectMode("FrameA");
     selectMode("DualVideo");
-    for (const char *preset : {"radioBtnQFHDFrame", "radioBtnFullFrame"}) {
-        auto *button = part<QRadioButton>(0, preset);
+    using Preset = std::pair<const char *, const char *>;
+    for (const auto &[name, title] : {Preset("radioBtnQFHDFrame", "area QFHD, four writes"),
+                                      Preset("radioBtnFullFrame", "full area, four writes")}) {
+        auto *button = part<QRadioButton>(0, name);
         if (button->isEnabled())
             measure(
-                preset, [=] { button->click(); }, [] { return true; });
+                title, [=] { button->click(); }, [] { return true; });
     }
 }
 
@@ -521,7 +523,7 @@ void ConfigurationActs::selectMode(const char *mode)
         return;
     QElapsedTimer timer;
     timer.start();
-    const QByteArray name = QByteArray("frame mode ").append(mode);
+    const QByteArray name = QByteArray("output mode ").append(mode);
     measure(
         name.constData(), [=] { modes->setCurrentIndex(index); },
         [&] { return timer.hasExpired(1500); });
