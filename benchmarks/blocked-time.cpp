@@ -3,24 +3,40 @@
 // For how long does the feature tree keep a program from answering its user?
 //
 //   blocked-time [--categories COUNT | --width FEATURES] [FEATURES ...]
+//   tests/support/with-netns.sh blocked-time --camera MS [...]
 //
-// For each number of features, by default 5000, 20000 and 100000: the time from the call to the end
-// of what it causes in the event loop, painting included. The node map is in memory, so that no
-// camera is waited for; the time is the processor's, so that other programs do not count. The
-// second figure is the time per feature, which should not grow with their number. The features are
-// in 100 categories, or in as many as asked for, or in categories of as many features as asked for.
+// For each number of features, by default 5000, 20000 and 100000: the work from the call to the end
+// of what it causes in the event loop, painting included. It is the GUI thread's processor time, so
+// that other programs do not count. The second figure is the time per feature, which should not
+// grow with their number, the third one the longest time for which the thread did not work and did
+// not get to its event loop either. The features are in 100 categories, or in as many as asked for,
+// or in categories of as many features as asked for.
+//
+// The node map is in memory, or that of a GigE Vision camera that answers after so many
+// milliseconds. What is read from the camera after a call is part of what the call causes. A write
+// waits for its answer.
+
+#include "guimeter.h"
+#include "largedescription.h"
 
 #include <GenApi/GenApi.h>
+#include <OrvCam.h>
+#include <OrvGenParam.h>
+#include <cameranetwork.h>
 #include <memorynodemap.h>
 #include <orvgenparamtreeview.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QEventLoop>
 #include <QTextStream>
+#include <QTimer>
 #include <QTreeView>
 
-#include <ctime>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace {
@@ -42,9 +58,6 @@ public:
 
     /// The integer features, which are those that notify: a quarter of all.
     const std::vector<OrvGenApi::MemoryInteger *> &integers() const { return m_integers; }
-
-    /// The feature on which the integer features depend.
-    OrvGenApi::MemoryInteger &selector() const { return *m_selector; }
 
 private:
     static std::string category(int i) { return "Category" + std::to_string(i); }
@@ -80,18 +93,74 @@ private:
     std::vector<OrvGenApi::MemoryInteger *> m_integers;
 };
 
+/// A camera with the same features in a network of its own.
+class LargeCamera
+{
+public:
+    LargeCamera(int features, int categories, int delay)
+    {
+        TestCamera::Settings settings = m_network.cameraSettings(0x020000000001, "10.1.0.2");
+        settings.description = LargeDescription(features, categories).text();
+        settings.isZipped = true;
+        settings.unknownRegisters = TestCameraMemory::Unknown::Zero;
+        m_camera = std::make_unique<TestCamera>(settings);
+        m_system.reset(OrvCam_GetSystem());
+        for (int attempt = 0; attempt < 50 && !m_device; ++attempt) {
+            OrvCam_RefreshDevices(m_system.get(), 200);
+            if (OrvCam::DeviceInfo *found = OrvCam_GetDeviceInfo(m_system.get(), 0))
+                m_device.reset(OrvCam_CreateDevice(found, nullptr, OrvCam::AccessControl));
+        }
+        if (!m_device)
+            qFatal("The camera cannot be opened");
+        m_camera->setMood("delay", delay);
+    }
+
+    GenApi::INodeMap &map() { return *m_device->GetParamArray()->GetNodeMap(); }
+
+private:
+    struct Releaser
+    {
+        template<typename Object>
+        void operator()(Object *object) const
+        {
+            object->Release();
+        }
+    };
+
+    CameraNetwork m_network{QStringLiteral("orv0"), QStringLiteral("10.1.0.1/24"),
+                            QStringLiteral("10.1.0.2/24")};
+    std::unique_ptr<TestCamera> m_camera;
+    std::unique_ptr<OrvCam::System, Releaser> m_system;
+    std::unique_ptr<OrvCam::Device, Releaser> m_device;
+};
+
 class Benchmark
 {
 public:
-    Benchmark(int features, int categories) : m_features(features), m_map(features, categories) {}
+    /// Without a delay the features are in memory.
+    Benchmark(int features, int categories, std::optional<int> delay)
+        : m_features(features), m_pause(delay ? 200 + 6 * *delay : 0)
+    {
+        if (delay)
+            m_camera = std::make_unique<LargeCamera>(features, categories, *delay);
+        else
+            m_memory = std::make_unique<LargeNodeMap>(features, categories);
+    }
 
     void run()
     {
         QTextStream(stdout) << m_features << " features\n";
-        measure("write, a quarter depends, no tree", [&] { writeSelector(); });
+        GenApi::INodeMap &map = m_camera ? m_camera->map() : *m_memory;
+        const GenApi::CIntegerPtr selector(map.GetNode("Selector"));
+        const auto writeSelector = [&] { selector->SetValue(selector->GetValue() + 1); };
+        const auto notifyAll = [&] {
+            if (m_memory)
+                measure("200 notifications", [&] { notify(); });
+        };
+        measure("write, a quarter depends, no tree", writeSelector);
         std::unique_ptr<OrvGui::OrvGenParamTreeView> view;
         measure("building and showing the tree", [&] {
-            view.reset(new OrvGui::OrvGenParamTreeView(&m_map, nullptr));
+            view.reset(new OrvGui::OrvGenParamTreeView(&map, nullptr));
             view->show();
         });
         QTreeView *tree = view->treeView();
@@ -107,10 +176,10 @@ public:
         });
         measure("level Guru to Basic, expanded", [&] { view->setVisibility(OrvGui::Basic); });
         measure("level Basic to Guru, expanded", [&] { view->setVisibility(OrvGui::Guru); });
-        measure("200 notifications", [&] { notify(); });
+        notifyAll();
         measure("scrolling to the end", [&] { tree->scrollToBottom(); });
-        measure("200 notifications, scrolled", [&] { notify(); });
-        measure("write, a quarter depends", [&] { writeSelector(); });
+        notifyAll();
+        measure("write, a quarter depends", writeSelector);
         measure("saveState", [&] { m_state = view->saveState(); });
         measure("loadState", [&] { view->loadState(m_state.constData()); });
         measure("destroying the tree", [&] { view.reset(); });
@@ -120,35 +189,38 @@ private:
     template<typename Function>
     void measure(const char *what, Function function)
     {
-        const std::clock_t start = std::clock();
+        m_meter.take();
+        const double start = GuiMeter::now().work;
         function();
         QCoreApplication::processEvents();
-        const double milliseconds =
-            static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
-        QTextStream(stdout) << QStringLiteral("  %1 %2 ms %3 us/feature\n")
+        if (m_pause > 0) {
+            QEventLoop loop;
+            QTimer::singleShot(m_pause, &loop, &QEventLoop::quit);
+            loop.exec();
+        }
+        const double milliseconds = GuiMeter::now().work - start;
+        QTextStream(stdout) << QStringLiteral("  %1 %2 ms %3 us/feature, longest wait %4 ms\n")
                                    .arg(QLatin1String(what), -34)
                                    .arg(milliseconds, 9, 'f', 1)
-                                   .arg(milliseconds * 1000 / m_features, 8, 'f', 2);
+                                   .arg(milliseconds * 1000 / m_features, 8, 'f', 2)
+                                   .arg(m_meter.take().longestWait, 5, 'f', 1);
     }
 
     /// Spread over all of the tree, in a row: the tree is repainted only after the last.
     void notify()
     {
-        const std::vector<OrvGenApi::MemoryInteger *> &integers = m_map.integers();
+        const std::vector<OrvGenApi::MemoryInteger *> &integers = m_memory->integers();
         for (std::size_t i = 0; i < notificationCount; ++i) {
             OrvGenApi::MemoryInteger &integer = *integers[i * integers.size() / notificationCount];
             integer.change(integer.GetValue() + 1);
         }
     }
 
-    void writeSelector()
-    {
-        OrvGenApi::MemoryInteger &selector = m_map.selector();
-        selector.SetValue(selector.GetValue() + 1);
-    }
-
     const int m_features;
-    LargeNodeMap m_map;
+    const int m_pause; ///< ms, for what is read from the camera
+    std::unique_ptr<LargeNodeMap> m_memory;
+    std::unique_ptr<LargeCamera> m_camera;
+    GuiMeter m_meter;
     QByteArray m_state;
 };
 
@@ -158,11 +230,14 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     QApplication application(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
     parser.addOptions({{"categories", "How many categories there are.", "count", "100"},
-                       {"width", "How many features a category has.", "features", "0"}});
+                       {"width", "How many features a category has.", "features", "0"},
+                       {"camera", "Of a camera that answers after so many ms.", "ms"}});
     parser.addPositionalArgument("features", "How many features there are.", "[features ...]");
     parser.process(application);
 
@@ -171,6 +246,9 @@ int main(int argc, char **argv)
         sizes << argument.toInt();
     if (sizes.isEmpty())
         sizes << 5000 << 20000 << 100000;
+    std::optional<int> delay;
+    if (parser.isSet("camera"))
+        delay = parser.value("camera").toInt();
     const int width = parser.value("width").toInt();
     for (const int size : sizes) {
         const int categories = width > 0 ? size / width : parser.value("categories").toInt();
@@ -179,7 +257,7 @@ int main(int argc, char **argv)
                                 << " features in a category are needed\n";
             return 2;
         }
-        Benchmark(size, categories).run();
+        Benchmark(size, categories, delay).run();
     }
     return 0;
 }

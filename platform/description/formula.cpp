@@ -153,8 +153,10 @@ public:
         }
         for (std::size_t i = 0; i < code.steps.size();)
             i = run(i, code.steps[i]);
-        if (!m_top->isKnown())
+        if (!m_top->isKnown()) {
+            lookAtRest();
             throw OrvGenApi::NotYetKnown();
+        }
         return *m_top;
     }
 
@@ -193,12 +195,24 @@ private:
 
     std::size_t choose(std::size_t number, FormulaCode::Step step)
     {
-        // Neither side is looked at as long as nobody knows which one counts.
+        // Neither side is computed as long as nobody knows which one counts.
         if (!m_top->isKnown())
             return m_formula.m_code.steps[step.operand - 1].operand;
         const bool isTrue = m_top->isTrue();
         --m_top;
         return isTrue ? number + 1 : step.operand;
+    }
+
+    /// One round of transfers then fetches all that may be missing, not one for each condition.
+    void lookAtRest()
+    {
+        for (std::size_t use = 0; use < m_variables.size(); ++use) {
+            try {
+                variable(use);
+            } catch (const GenICam::GenericException &) {
+                // It may not count.
+            }
+        }
     }
 
     void push(FormulaNumber number)

@@ -79,14 +79,12 @@ GenICam::gcstring NodeLinks::text(std::string_view tag) const
     return {found.data(), found.size()};
 }
 
-EAccessMode restrictedAccessMode(const NodeLinks &links,
-                                 const std::function<EAccessMode()> &ownMode)
+EAccessMode unlockedAccessMode(const NodeLinks &links, const std::function<EAccessMode()> &ownMode)
 {
     if (links.isUnusable)
         return NA;
     std::optional<bool> isImplemented = true;
     std::optional<bool> isAvailable = true;
-    std::optional<bool> isLocked = false;
     EAccessMode mode = RW;
     Gather gather;
     const auto look = [&](const NodeLinks *predicate, std::optional<bool> &result) {
@@ -102,8 +100,19 @@ EAccessMode restrictedAccessMode(const NodeLinks &links,
         return NA;
     }
     gather([&] { mode = combinedAccessMode(ownMode(), links.imposedAccess); });
-    if (IsWritable(mode))
-        look(links.isLocked, isLocked);
+    gather.finish();
+    return mode;
+}
+
+EAccessMode restrictedAccessMode(const NodeLinks &links,
+                                 const std::function<EAccessMode()> &ownMode)
+{
+    std::optional<bool> isLocked = false;
+    EAccessMode mode = RW;
+    Gather gather;
+    gather([&] { mode = unlockedAccessMode(links, ownMode); });
+    if (links.isLocked && IsWritable(mode))
+        gather([&] { isLocked = isTrue(*links.isLocked->node); });
     gather.finish();
     if (!IsWritable(mode) || !isLocked.value_or(true))
         return mode;

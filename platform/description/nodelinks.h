@@ -90,6 +90,7 @@ protected:
     virtual GenApi::EAccessMode ownAccessMode() const { return GenApi::RO; }
 
     GenApi::EAccessMode readAccessMode() const override;
+    GenApi::EAccessMode readUnlockedAccessMode() const override;
     bool accessIsCachable() const override { return m_links.isAccessCachable; }
     bool valueIsCachable() const override { return m_links.isValueCachable; }
     bool limitsAreCachable() const override { return m_links.areLimitsCachable; }
@@ -100,7 +101,11 @@ private:
     NodeLinks &m_links;
 };
 
-/// The access mode that availability and locks leave of `ownMode()`.
+/// The access mode that availability leaves of `ownMode()`.
+GenApi::EAccessMode unlockedAccessMode(const NodeLinks &links,
+                                       const std::function<GenApi::EAccessMode()> &ownMode);
+
+/// The one that locks leave of that.
 GenApi::EAccessMode restrictedAccessMode(const NodeLinks &links,
                                          const std::function<GenApi::EAccessMode()> &ownMode);
 
@@ -112,6 +117,12 @@ template<typename Base>
 GenApi::EAccessMode DescribedNode<Base>::readAccessMode() const
 {
     return restrictedAccessMode(m_links, [this] { return ownAccessMode(); });
+}
+
+template<typename Base>
+GenApi::EAccessMode DescribedNode<Base>::readUnlockedAccessMode() const
+{
+    return unlockedAccessMode(m_links, [this] { return ownAccessMode(); });
 }
 
 template<typename Base>

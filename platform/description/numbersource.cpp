@@ -260,6 +260,16 @@ double FormulaSource::real()
     return m_isInteger ? static_cast<double>(m_formula->integer()) : m_formula->real();
 }
 
+/// Has the value of a variable read together with what the access modes of others need.
+void FormulaSource::lookAt(Node &variable)
+{
+    try {
+        rawReal(variable);
+    } catch (const GenICam::GenericException &) {
+        // It may not count for the result.
+    }
+}
+
 EAccessMode FormulaSource::accessMode()
 {
     const ReferenceGuard guard;
@@ -268,7 +278,11 @@ EAccessMode FormulaSource::accessMode()
     for (Node *variable : m_variables) {
         if (variable->GetPrincipalInterfaceType() == intfIEnumEntry)
             continue;
-        gather([&] { areReadable = areReadable && IsReadable(variable->GetAccessMode()); });
+        gather([&] {
+            areReadable = areReadable && IsReadable(variable->GetAccessMode());
+            if (areReadable && m_formula->canFail())
+                lookAt(*variable);
+        });
     }
     if (!areReadable)
         return NA;

@@ -151,6 +151,8 @@ public:
     void setReal(double value) override;
 
 private:
+    static void lookAt(OrvGenApi::Node &variable);
+
     std::unique_ptr<NodeFormula> m_formula;
     std::vector<OrvGenApi::Node *> m_variables;
     bool m_isInteger;

@@ -118,7 +118,9 @@ private:
     void refresh();
     void drop();
     void restore();
+    void takeBack();
     void refreshFrames();
+    void showBothFrames();
     void refreshFrame();
     Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
@@ -562,10 +564,23 @@ void OrvCamConfigPrivate::drop()
     emit q->deviceChanged(nullptr);
 }
 
+/// What the windows show of the camera that is back is read before they get it.
 void OrvCamConfigPrivate::restore()
 {
+    int32_t error = OrvCam::Success;
+    const OrvGenParam::Array *const back = watch.device()->GetParamArray(&error);
+    reader.setArray(error == OrvCam::Success ? back : nullptr);
+    FeatureReader::Params params;
+    if (reader.looksAhead()) {
+        for (const char *feature : BoundFeatures::all())
+            params << back->GetParam(feature);
+    }
+    reader.whenKnown(this, &watch, params, [this] { takeBack(); });
+}
+
+void OrvCamConfigPrivate::takeBack()
+{
     device = watch.device();
-    OrvCamConfig::prepare(*device);
     handOver();
     if (!init(watch.device()))
         handOver();
@@ -581,13 +596,18 @@ void OrvCamConfigPrivate::refreshFrames()
         return;
     }
     if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false)) {
-        if (!updateBoth()) {
-            handOver();
-            emit q->deviceChanged(usable());
-        }
+        reader.whenKnown(this, &timer, shownParams(), [this] { showBothFrames(); });
         return;
     }
     reader.whenKnown(this, &ui, shownParams(), [this] { refreshFrame(); });
+}
+
+void OrvCamConfigPrivate::showBothFrames()
+{
+    if (frameMode != BothFrames || updateBoth())
+        return;
+    handOver();
+    emit q->deviceChanged(usable());
 }
 
 void OrvCamConfigPrivate::refreshFrame()

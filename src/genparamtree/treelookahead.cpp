@@ -78,6 +78,9 @@ void addEntries(GenApi::IEnumeration *enumeration, std::vector<Ask> *asks)
 void addAsks(GenApi::IValue *feature, TreeLookAhead::Extent extent, std::vector<Ask> *asks)
 {
     asks->push_back([feature] { askForCell(feature); });
+    // A cell's access mode needs to know of locks, its value does not.
+    if (feature->GetNode()->GetPrincipalInterfaceType() != GenApi::intfICommand)
+        asks->push_back([feature] { feature->ToString(); });
     if (extent != TreeLookAhead::Everything)
         return;
     addLimits(dynamic_cast<GenApi::IInteger *>(feature), asks);

@@ -443,10 +443,10 @@ void TestFormula::unknownVariables_data()
     };
     row("U + A * D", "not yet known", {4, 0, 2});
     row("U + U", "not yet known", {4});
-    row("U ? A : B", "not yet known", {4});
-    row("(U ? A : B) + D", "not yet known", {4, 2});
+    row("U ? A : B", "not yet known", {4, 0, 1});
+    row("(U ? A : B) + D", "not yet known", {4, 2, 0, 1});
     row("A ? B : U", "-3", {0, 1});
-    row("U && A", "not yet known", {4});
+    row("U && A", "not yet known", {4, 0});
     row("A && U", "not yet known", {0, 4});
     row("Z && U", "0", {3});
     row("A || U", "1", {0});

@@ -242,16 +242,16 @@ void TestTreeWire::nothingWaits()
              QCOMPARE(cell("Width").data(Qt::ForegroundRole).value<QBrush>(),
                       QPalette().brush(QPalette::Disabled, QPalette::Text));
          },
-         nothing, 5},
+         nothing, 2},
         {"repaint", [&] { tree().viewport()->repaint(); }, nothing, 0},
         {"editor",
          [&] {
              select("Frame_BlackLevel", 1);
              QVERIFY(!editor<QSpinBox>());
          },
-         [&] { return editor<QSpinBox>() && editor<QSpinBox>()->maximum() == 1023; }, 3},
+         [&] { return editor<QSpinBox>() && editor<QSpinBox>()->maximum() == 1023; }, 1},
         {"description", [&] { select("Width", 0); },
-         [&] { return panel->toPlainText().contains("Limits: Min"); }, 3},
+         [&] { return panel->toPlainText().contains("Limits: Min"); }, 1},
         {"known editor", [&] { select("Width", 1); }, [&] { return editor<QSpinBox>() != nullptr; },
          0},
         {"page",
@@ -259,7 +259,7 @@ void TestTreeWire::nothingWaits()
              tree().verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd);
              tree().viewport()->repaint();
          },
-         nothing, 3},
+         nothing, 2},
         {"end",
          [&] {
              for (int page = 0; page < 20; ++page) {
@@ -268,10 +268,10 @@ void TestTreeWire::nothingWaits()
                  QCoreApplication::processEvents();
              }
          },
-         nothing, 5},
+         nothing, 2},
         {"entries", [&] { select("TriggerSource", 1); },
-         [&] { return editor<QComboBox>() && editor<QComboBox>()->count() > 0; }, 3},
-        {"level", [&] { m_view->setVisibility(OrvGui::Guru); }, nothing, 3},
+         [&] { return editor<QComboBox>() && editor<QComboBox>()->count() > 0; }, 1},
+        {"level", [&] { m_view->setVisibility(OrvGui::Guru); }, nothing, 1},
         {"accessibility",
          [&] {
              const auto *table = QAccessible::queryAccessibleInterface(&tree());
@@ -280,7 +280,7 @@ void TestTreeWire::nothingWaits()
                  table->child(i)->state();
              }
          },
-         nothing, 6},
+         nothing, 2},
     };
     m_camera->takeAccesses();
     LongestWait wait;

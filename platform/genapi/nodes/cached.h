@@ -15,6 +15,9 @@ namespace OrvGenApi {
 /// kept like a value: asking again must not cost the camera another transaction. A time-out is not:
 /// it passes by itself when the camera answers again, and nobody waits for it twice, since the
 /// registers of a silent camera fail at once.
+///
+/// What is not yet known is not computed twice in a round of a question: many nodes may need it, and
+/// each would find all that is missing again.
 template<typename T>
 class Cached
 {
@@ -22,6 +25,9 @@ public:
     template<typename Compute>
     T get(bool keep, Compute compute)
     {
+        const uint64_t round = Question::currentRound();
+        if (round != 0 && m_missedIn == round)
+            throw NotYetKnown();
         if (!keep)
             drop();
         if (m_failure)
@@ -33,6 +39,7 @@ public:
                     return value;
                 m_value = std::move(value);
             } catch (const NotYetKnown &) {
+                m_missedIn = round;
                 throw;
             } catch (const GenICam::TimeoutException &) {
                 throw;
@@ -49,12 +56,14 @@ public:
     {
         m_value = std::move(value);
         m_failure = nullptr;
+        m_missedIn = 0;
     }
 
     void drop()
     {
         m_value.reset();
         m_failure = nullptr;
+        m_missedIn = 0;
     }
 
     bool isValid() const { return m_value.has_value(); }
@@ -62,6 +71,7 @@ public:
 private:
     std::optional<T> m_value;
     std::exception_ptr m_failure;
+    uint64_t m_missedIn = 0; ///< the round; 0 for none
 };
 
 } // namespace OrvGenApi

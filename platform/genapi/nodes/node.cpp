@@ -162,9 +162,18 @@ void Node::GetSelectingFeatures(FeatureList_t &features) const
     toFeatures(m_selecting, features);
 }
 
+bool Node::isReadable() const
+{
+    try {
+        return IsReadable(GetAccessMode());
+    } catch (const NotYetKnown &) {
+        return IsReadable(combinedAccessMode(readUnlockedAccessMode(), m_imposedAccess));
+    }
+}
+
 void Node::requireReadable() const
 {
-    if (!IsReadable(GetAccessMode()))
+    if (!isReadable())
         throw GenICam::AccessException(("The feature '" + name() + "' is not readable").c_str(),
                                        __FILE__, __LINE__);
 }

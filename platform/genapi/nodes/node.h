@@ -100,6 +100,9 @@ protected:
     /// The access mode before what was imposed. Called with the lock held; the result is cached
     /// when `accessIsCachable()`.
     virtual GenApi::EAccessMode readAccessMode() const = 0;
+
+    /// The same before it is known whether the node is locked against writing.
+    virtual GenApi::EAccessMode readUnlockedAccessMode() const { return readAccessMode(); }
     virtual bool accessIsCachable() const { return true; }
     virtual bool valueIsCachable() const { return IsCachable(); }
     virtual bool limitsAreCachable() const { return true; }
@@ -107,6 +110,8 @@ protected:
     /// The neighbours other than those that the dependency graph knows.
     virtual void collectChildren(std::vector<Node *> &children, GenApi::ELinkType linkType) const;
 
+    /// A lock against writing may still be unknown, so that the value is looked up together with
+    /// it.
     void requireReadable() const;
     void requireWritable() const;
 
@@ -119,6 +124,7 @@ protected:
 private:
     friend class NodeMapBase;
 
+    bool isReadable() const;
     void abandonWrite(bool mayHaveWritten);
     void finishWrite();
 

@@ -161,6 +161,7 @@ void NodeMapBase::fetchAgain(Question &question, int round) const
                                         __LINE__);
     fetchMissing(question);
     question.missing.clear();
+    question.beginRound();
 }
 
 void NodeMapBase::interruptChange(const std::function<void()> &call)

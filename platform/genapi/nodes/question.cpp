@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "question.h"
 
+#include <atomic>
+
 namespace OrvGenApi {
 
 namespace {
 
 thread_local Question::Scope *innermost = nullptr;
+std::atomic<uint64_t> lastRound{0};
 
 } // namespace
 
@@ -27,6 +30,16 @@ Question *Question::current(const NodeMapBase &map)
             return &scope->m_question;
     }
     return nullptr;
+}
+
+void Question::beginRound()
+{
+    m_round = ++lastRound;
+}
+
+uint64_t Question::currentRound()
+{
+    return innermost ? innermost->m_question.m_round : 0;
 }
 
 } // namespace OrvGenApi

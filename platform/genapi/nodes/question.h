@@ -33,7 +33,7 @@ public:
         Looking  ///< whoever asks is content with "not yet", and with values a second old
     };
 
-    explicit Question(Kind kind) : m_kind(kind) {}
+    explicit Question(Kind kind) : m_kind(kind) { beginRound(); }
     Question(const Question &) = delete;
     Question &operator=(const Question &) = delete;
 
@@ -41,6 +41,14 @@ public:
 
     /// The one that this thread is answering for that map, or null.
     static Question *current(const NodeMapBase &map);
+
+    /// Between two rounds nothing becomes known, as far as the question is concerned. To be called
+    /// when what was missing has been fetched.
+    void beginRound();
+
+    /// A number for the round of the innermost question that this thread is answering; 0 when there
+    /// is none. No two rounds have the same.
+    static uint64_t currentRound();
 
     std::vector<RegisterRange> missing;
     std::vector<RegisterWrite> writes;
@@ -68,6 +76,7 @@ public:
 
 private:
     const Kind m_kind;
+    uint64_t m_round = 0;
 };
 
 /// Lets several things be looked at before `NotYetKnown` is passed on, so that one round fetches
