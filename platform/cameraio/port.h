@@ -90,7 +90,8 @@ public:
     };
 
     /// Asks the camera whether it is there, with one command that is not repeated; takes at most
-    /// `Limits::keepAlivePeriod`. Called when nothing else is on the cable.
+    /// `Limits::keepAlivePeriod`. A late answer to an earlier question counts, too: a slow camera
+    /// is there. Called when nothing else is on the cable.
     virtual Presence probe() { return Presence::Answers; }
 
     /// Has the call that is under way return soon, whatever becomes of it, and every later one at

@@ -774,9 +774,17 @@ void TestGvPort::presence()
     QCOMPARE(opened.port->probe(), Presence::Silent);
     QVERIFY(timer.elapsed() < 300);
     QCOMPARE(camera.counters().packets, 1u);
+    camera.setMood("delay", 400); // slower than it is asked
+    QCOMPARE(opened.port->probe(), Presence::Silent);
+    for (int i = 0; i < 4; ++i) {
+        QTest::qWait(200);
+        QCOMPARE(opened.port->probe(), Presence::Answers);
+    }
     camera.setMood("good");
     QCOMPARE(opened.port->probe(), Presence::Answers);
+    QTest::qWait(400);      // until all has been answered
     camera.setPrivilege(0); // switched off and on
+    opened.port->probe();   // the last of the late answers
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
     camera.setPrivilege(1);
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
