@@ -69,9 +69,6 @@ public:
 
     Clock::time_point lastAnswer() const { return m_lastAnswer; }
 
-    /// How long the camera usually takes to answer.
-    std::chrono::microseconds roundTrip() const { return m_timer.roundTrip(); }
-
 private:
     struct Command;
     struct State;

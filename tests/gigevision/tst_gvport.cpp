@@ -50,6 +50,7 @@ private slots:
     void control();
     void batches_data();
     void batches();
+    void aLongBatchIsLeftEarly();
     void refusedRegisters_data();
     void refusedRegisters();
     void registersOfAllShapes();
@@ -514,6 +515,28 @@ void TestGvPort::batches()
     std::reverse(ranges.begin(), ranges.end());
     QCOMPARE(right(camera, read(*opened.port, ranges)), int(ranges.size()));
     QCOMPARE(int(camera.counters().transfers()), commands);
+}
+
+void TestGvPort::aLongBatchIsLeftEarly()
+{
+    auto settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
+    settings.description = description(20);
+    settings.canConcatenate = false;
+    settings.unknownRegisters = TestCameraMemory::Unknown::Filled;
+    TestCamera camera(settings);
+    const auto opened = open();
+    camera.setMood("delay", 40);
+    const auto ranges = words(40, 12);
+    auto batch = read(*opened.port, ranges);
+    const auto isDone = [](const ReadTransfer &read) { return read.status == Status::Done; };
+    const auto done = std::count_if(batch.begin(), batch.end(), isDone);
+    QVERIFY2(done >= 1 && done <= 4, qPrintable(QString::number(done)));
+    QCOMPARE(std::count_if(batch.begin(), batch.end(),
+                           [](const auto &read) { return read.status == Status::NotSent; }),
+             batch.size() - done);
+    camera.setMood("delay", 300); // longer than all the time that there is
+    batch = read(*opened.port, ranges);
+    QCOMPARE(std::count_if(batch.begin(), batch.end(), isDone), 1);
 }
 
 void TestGvPort::refusedRegisters_data()
