@@ -67,6 +67,10 @@
         <source>The camera &apos;%1&apos; is gone.</source>
         <translation>Die Kamera „%1“ ist nicht mehr da.</translation>
     </message>
+    <message>
+        <source>The camera &apos;%1&apos; has sent nothing new for %2 seconds.</source>
+        <translation>Von der Kamera „%1“ ist seit %2 Sekunden nichts Neues gekommen.</translation>
+    </message>
 </context>
 <context>
     <name>GenParamDelegate</name>
@@ -206,6 +210,13 @@
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningLine</name>
+    <message>
+        <source>Opening the camera &apos;%1&apos;: %2 %</source>
+        <translation>Kamera „%1“ wird geöffnet: %2 %</translation>
     </message>
 </context>
 <context>

@@ -67,6 +67,10 @@
         <source>The camera &apos;%1&apos; is gone.</source>
         <translation>カメラ「%1」は取り外されました。</translation>
     </message>
+    <message>
+        <source>The camera &apos;%1&apos; has sent nothing new for %2 seconds.</source>
+        <translation>カメラ「%1」から %2 秒間新しいデータが届いていません。</translation>
+    </message>
 </context>
 <context>
     <name>GenParamDelegate</name>
@@ -206,6 +210,13 @@
     <message>
         <source>Value</source>
         <translation>値</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningLine</name>
+    <message>
+        <source>Opening the camera &apos;%1&apos;: %2 %</source>
+        <translation>カメラ「%1」を開いています: %2 %</translation>
     </message>
 </context>
 <context>

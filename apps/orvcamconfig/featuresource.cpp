@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "featuresource.h"
 
+#include "openingline.h"
+
 #include <base/cameratext.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigopening.h>
@@ -85,10 +87,34 @@ Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 
 std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
 {
-    Result result = OrvCamConfigOpening(camera, OrvCam::AccessControl).exec();
+    return open(camera, nullptr, error);
+}
+
+std::unique_ptr<FeatureSource> FeatureSource::openCameraForText(OrvCam::DeviceInfo &camera,
+                                                                QString *error)
+{
+    OpeningLine progress(QString::fromUtf8(camera.GetId()));
+    auto source = open(camera, &progress, error);
+    if (progress.standsStill())
+        *error = tr("The camera '%1' has sent nothing new for %2 seconds.")
+                     .arg(QString::fromUtf8(camera.GetId()))
+                     .arg(OpeningLine::longestStandstill / 1000);
+    return source;
+}
+
+std::unique_ptr<FeatureSource> FeatureSource::open(OrvCam::DeviceInfo &camera,
+                                                   OpeningLine *progress, QString *error)
+{
+    const auto openWith = [&](int32_t accessMode) {
+        OrvCamConfigOpening opening(camera, accessMode);
+        if (progress)
+            opening.setProgress([progress](int percent) { return progress->show(percent); });
+        return opening.exec();
+    };
+    Result result = openWith(OrvCam::AccessControl);
     const bool isReadOnly = result.error == OrvCam::ErrorBusy;
     if (isReadOnly)
-        result = OrvCamConfigOpening(camera, OrvCam::AccessMonitor).exec();
+        result = openWith(OrvCam::AccessMonitor);
     if (result.device)
         return ofDevice(Released<OrvCam::Device>(result.device), isReadOnly, error);
     *error = failure(camera, result);

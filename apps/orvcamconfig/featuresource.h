@@ -11,6 +11,8 @@
 
 #include <memory>
 
+class OpeningLine;
+
 /// Opens a camera, whose system must outlive the device, while a dialog shows how far that has
 /// come. Null on failure, with `error` one line, which is empty when the user has cancelled.
 Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
@@ -35,6 +37,11 @@ public:
     /// Opens a camera as `openDevice` does; one that another program controls for reading.
     static std::unique_ptr<FeatureSource> openCamera(OrvCam::DeviceInfo &camera, QString *error);
 
+    /// The same without a dialog: a terminal shows how far it has come. An opening that does not
+    /// come on for a minute fails.
+    static std::unique_ptr<FeatureSource> openCameraForText(OrvCam::DeviceInfo &camera,
+                                                            QString *error);
+
     /// Takes over an opened camera, whose system must outlive it. Null when it has vanished
     /// meanwhile, with `error` one line.
     static std::unique_ptr<FeatureSource> ofDevice(Released<OrvCam::Device> device, bool isReadOnly,
@@ -42,4 +49,8 @@ public:
 
     /// Reads a description. Null on failure, with `error` one line.
     static std::unique_ptr<FeatureSource> openDescription(const QString &fileName, QString *error);
+
+private:
+    static std::unique_ptr<FeatureSource> open(OrvCam::DeviceInfo &camera, OpeningLine *progress,
+                                               QString *error);
 };

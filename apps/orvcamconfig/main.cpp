@@ -141,7 +141,9 @@ int showCamera(OrvCam::System &system, const Options &options)
 {
     QString error;
     OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
-    const auto source = camera ? FeatureSource::openCamera(*camera, &error) : nullptr;
+    const auto open =
+        options.listFeatures ? &FeatureSource::openCameraForText : &FeatureSource::openCamera;
+    const auto source = camera ? open(*camera, &error) : nullptr;
     if (source)
         return showFeatures(*source, options);
     return error.isEmpty() ? Success : fail(Failure, error); // or cancelled

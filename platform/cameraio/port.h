@@ -19,7 +19,7 @@ using Clock = std::chrono::steady_clock;
 /// What became of a transfer.
 enum class Status {
     Done,
-    NotSent,          ///< nothing was tried, since an earlier command got no answer
+    NotSent,          ///< nothing was tried, see `Port::read`
     NoAnswer,         ///< not within its budget; forgotten as soon as the camera answers again
     AccessDenied,     ///< refused: no right to do this, or write-protected, or busy
     InvalidAddress,   ///< refused: no register there, or not aligned
@@ -66,8 +66,7 @@ public:
     /// True when a transfer takes no time, as with memory: then it runs on the thread that asks.
     virtual bool isImmediate() const { return false; }
 
-    /// The largest number of registers that one command reads; longer batches are cut so that a
-    /// caller who waits can come in between.
+    /// The largest number of registers that one command reads; longer batches are cut.
     virtual std::size_t batchSize() const { return 1; }
 
     virtual void setHints(const PortHints &) {}
@@ -76,8 +75,10 @@ public:
     /// by looking at the camera.
     virtual bool isWordNumber() const { return false; }
 
-    /// Reads all registers of the batch with as few commands as possible. Takes at most
-    /// `Limits::readBudget` for each command, and ends with the first one that gets no answer.
+    /// Reads the registers of the batch with as few commands as possible. Takes at most
+    /// `Limits::readBudget` for each command, and ends with the first one that gets no answer. When
+    /// it takes many commands, it may end before all are read, but never before some are: who waits
+    /// for another transfer can come in between.
     virtual void read(std::vector<ReadTransfer> &batch) = 0;
 
     /// Takes at most `Limits::writeBudget`.
@@ -90,7 +91,8 @@ public:
     };
 
     /// Asks the camera whether it is there, with one command that is not repeated; takes at most
-    /// `Limits::keepAlivePeriod`. Called when nothing else is on the cable.
+    /// `Limits::keepAlivePeriod`. A late answer to an earlier question counts, too: a slow camera
+    /// is there. Called when nothing else is on the cable.
     virtual Presence probe() { return Presence::Answers; }
 
     /// Has the call that is under way return soon, whatever becomes of it, and every later one at

@@ -195,14 +195,21 @@ void RegisterIo::Private::readChunk(std::unique_lock<std::mutex> &lock, Job &job
     for (std::size_t i = 0; i < count; ++i)
         batch[i].range = job.reads[job.readsDone + i];
     transfer(lock, batch);
-    job.readsDone += count;
+    // What there was no time for comes next.
+    const auto unread =
+        std::stable_partition(batch.begin(), batch.end(), [](const ReadTransfer &read) {
+            return read.status != Status::NotSent;
+        });
+    job.readsDone += static_cast<std::size_t>(unread - batch.begin());
+    std::transform(unread, batch.end(),
+                   job.reads.begin() + static_cast<std::ptrdiff_t>(job.readsDone),
+                   [](const ReadTransfer &read) { return read.range; });
 }
 
 void RegisterIo::Private::transfer(std::unique_lock<std::mutex> &lock,
                                    std::vector<ReadTransfer> &batch)
 {
     const uint64_t moment = ++clock;
-    transactions.reads += batch.size();
     lock.unlock();
     port->read(batch);
     lock.lock();
@@ -211,7 +218,15 @@ void RegisterIo::Private::transfer(std::unique_lock<std::mutex> &lock,
     lastCommand = time;
     bool hasAnswer = false;
     std::vector<RegisterRange> inVain;
+    // Unless a command was in vain, the port has had no time for what it has left out.
+    const bool isWithoutFailure =
+        std::all_of(batch.begin(), batch.end(), [](const ReadTransfer &read) {
+            return isAnswer(read.status) || read.status == Status::NotSent;
+        });
     for (ReadTransfer &read : batch) {
+        if (isWithoutFailure && read.status == Status::NotSent)
+            continue;
+        ++transactions.reads;
         if (read.status == Status::Done && read.bytes.size() != read.range.size)
             read.status = Status::Failed;
         hasAnswer |= isAnswer(read.status);

@@ -57,12 +57,19 @@ void BatchRead::run()
     const Kind memory{m_knowledge.memoryBlock, &BatchRead::transferMemory};
     const auto readAll = [&](const Kind &kind, const auto &groups) {
         return std::all_of(groups.begin(), groups.end(), [&](const auto &group) {
-            return readTogether(kind, {group.data(), group.data() + group.size()}) !=
-                   Result::NoAnswer;
+            return readTogether(kind, {group.data(), group.data() + group.size()}) != Result::Ended;
         });
     };
     if (readAll(registers, plan.registers))
         readAll(memory, plan.memory);
+}
+
+/// Asked before each command.
+bool BatchRead::isTimeUp() const
+{
+    return Clock::now() >= m_end &&
+           std::any_of(m_batch.begin(), m_batch.end(),
+                       [](const ReadTransfer &read) { return read.status != Status::NotSent; });
 }
 
 /// Otherwise the result is clear already.
@@ -91,12 +98,14 @@ BatchRead::Result BatchRead::readTogether(const Kind &kind, const Items &items)
     BatchCommand &command = kind.command;
     if (items.size() > command.limit)
         return readInParts(kind, items, command.limit, command.limit);
+    if (isTimeUp())
+        return Result::Ended;
 
     const Answer answer = (this->*kind.transfer)(items);
     if (!isAnswer(answer.status)) {
         for (const std::size_t *item = items.first; item != items.last; ++item)
             m_batch[*item].status = answer.status;
-        return Result::NoAnswer;
+        return Result::Ended;
     }
     const bool isDone = answer.status == Status::Done;
     const Result result = isDone ? Result::Complete : afterRefusal(kind, items, answer);
@@ -112,7 +121,7 @@ BatchRead::Result BatchRead::readInParts(const Kind &kind, const Items &items, s
     for (Items rest = items; rest.size() > 0; size = others) {
         const std::size_t now = std::min(size, rest.size());
         const Result result = readTogether(kind, rest.until(now));
-        if (result == Result::NoAnswer)
+        if (result == Result::Ended)
             return result;
         if (result == Result::SomeRefused)
             all = result;
@@ -133,11 +142,11 @@ BatchRead::Result BatchRead::afterRefusal(const Kind &kind, const Items &items,
     const Items rest = items.from(done + 1);
     const bool isKnown = done > 0 && done < command.worked && command.tellsProgress;
     const Result suspect = isKnown ? refuse(items[done], answer.status) : readAlone(items[done]);
-    if (suspect == Result::NoAnswer)
+    if (suspect == Result::Ended)
         return suspect;
     if (suspect == Result::SomeRefused) {
         command.tellsProgress = command.tellsProgress || done > 0;
-        return readTogether(kind, rest) == Result::NoAnswer ? Result::NoAnswer : suspect;
+        return readTogether(kind, rest) == Result::Ended ? Result::Ended : suspect;
     }
     if (done > 0) {
         // It takes no more at a time.
@@ -160,7 +169,7 @@ BatchRead::Result BatchRead::readEachAlone(const Items &items)
     Result all = Result::Complete;
     for (const std::size_t *item = items.first; item != items.last; ++item) {
         const Result result = readAlone(*item);
-        if (result == Result::NoAnswer)
+        if (result == Result::Ended)
             return result;
         if (result == Result::SomeRefused)
             all = result;
@@ -170,6 +179,8 @@ BatchRead::Result BatchRead::readEachAlone(const Items &items)
 
 BatchRead::Result BatchRead::readAlone(std::size_t item)
 {
+    if (isTimeUp())
+        return Result::Ended;
     ReadTransfer &read = m_batch[item];
     if (ReadPlan::isWord(read.range) && m_rules.usesRegisters()) {
         const auto reply = m_channel.readRegisters({static_cast<uint32_t>(read.range.address)});
@@ -180,7 +191,7 @@ BatchRead::Result BatchRead::readAlone(std::size_t item)
         read.status = RegisterMemory::read(m_channel, read.range, read.bytes);
     }
     if (!isAnswer(read.status))
-        return Result::NoAnswer;
+        return Result::Ended;
     if (read.status != Status::Done)
         return refuse(item, read.status);
     m_knowledge.memory.accepted(read.range);

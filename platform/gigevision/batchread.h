@@ -33,7 +33,8 @@ struct ReadKnowledge
     }
 };
 
-/// Reads the registers of one batch.
+/// Reads the registers of one batch, or as many of them as there is time for: the others are left
+/// with the status `NotSent`.
 ///
 /// When the camera refuses a command for several registers, they are read in smaller groups, in the
 /// end one by one, and what is learnt from that is kept in the knowledge: that a register is
@@ -41,9 +42,14 @@ struct ReadKnowledge
 class BatchRead
 {
 public:
+    /// No command begins after `end`, unless no register has a result yet.
     BatchRead(GvcpChannel &channel, ReadKnowledge &knowledge,
-              std::vector<OrvCameraIo::ReadTransfer> &batch)
-        : m_channel(channel), m_knowledge(knowledge), m_rules(knowledge.rules()), m_batch(batch)
+              std::vector<OrvCameraIo::ReadTransfer> &batch, Clock::time_point end)
+        : m_channel(channel)
+        , m_knowledge(knowledge)
+        , m_rules(knowledge.rules())
+        , m_batch(batch)
+        , m_end(end)
     {
     }
 
@@ -52,7 +58,11 @@ public:
 private:
     struct Items;
     struct Answer;
-    enum class Result { Complete, SomeRefused, NoAnswer };
+    enum class Result {
+        Complete,
+        SomeRefused,
+        Ended ///< by a command without an answer, or for want of time
+    };
     using Transfer = Answer (BatchRead::*)(const Items &items);
 
     struct Kind
@@ -61,6 +71,7 @@ private:
         Transfer transfer;
     };
 
+    bool isTimeUp() const;
     bool isWithinReach(OrvCameraIo::ReadTransfer &read) const;
     Result readTogether(const Kind &kind, const Items &items);
     Result readInParts(const Kind &kind, const Items &items, std::size_t first, std::size_t others);
@@ -75,6 +86,7 @@ private:
     ReadKnowledge &m_knowledge;
     const ReadPlan::Rules m_rules;
     std::vector<OrvCameraIo::ReadTransfer> &m_batch;
+    const Clock::time_point m_end;
 };
 
 } // namespace OrvGigEVision

@@ -16,6 +16,9 @@ namespace {
 /// A camera that answers nonsense so often will not do better.
 constexpr int nonsenseLimit = 3;
 
+/// Of the questions that a camera has not answered yet; later ones take their place.
+constexpr std::size_t mostOpenQuestions = 16;
+
 Status statusOf(uint16_t code)
 {
     switch (code) {
@@ -49,7 +52,8 @@ struct GvcpChannel::Command
     std::function<bool(const Gvcp::Acknowledge &answer, Reply &reply)> take = nullptr;
 
     bool isRepeated = true;
-    bool isMeasured = true; ///< what the camera takes for a write says nothing of the network
+    bool isQuestion = false; ///< the answer to an earlier question is one to it, too
+    bool isMeasured = true;  ///< what the camera takes for a write says nothing of the network
 };
 
 /// How far a command has got.
@@ -73,6 +77,7 @@ void GvcpChannel::setCamera(const NetworkAdapter &adapter, uint32_t camera)
     m_socket.setAdapter(adapter);
     m_socket.listenOnlyTo(camera);
     m_timer = RepetitionTimer();
+    m_openQuestions.clear();
 }
 
 GvcpChannel::Command GvcpChannel::readCommand(const std::vector<uint32_t> &addresses)
@@ -100,7 +105,21 @@ GvcpChannel::Reply GvcpChannel::ask(uint32_t address, std::chrono::milliseconds 
     Command command = readCommand({address});
     command.deadline = Clock::now() + time;
     command.isRepeated = false;
+    command.isQuestion = true;
+    if (address != m_questioned || m_openQuestions.size() == mostOpenQuestions)
+        m_openQuestions.clear();
+    m_questioned = address;
+    m_openQuestions.push_back(command.id);
     return transfer(command);
+}
+
+bool GvcpChannel::isAnswerTo(const Command &command, const Gvcp::Acknowledge &answer) const
+{
+    if (answer.is(command.answer, command.id))
+        return true;
+    return command.isQuestion &&
+           std::any_of(m_openQuestions.begin(), m_openQuestions.end(),
+                       [&](uint16_t id) { return answer.is(command.answer, id); });
 }
 
 GvcpChannel::Reply GvcpChannel::writeRegisters(const std::vector<Gvcp::RegisterValue> &values)
@@ -178,7 +197,7 @@ bool GvcpChannel::await(const Command &command, State &state)
     if (command.isRepeated)
         until = std::min(until, Clock::now() + m_timer.interval(state.repetitions));
     while (const auto answer = m_socket.receive(until)) {
-        if (answer->is(command.answer, command.id)) {
+        if (isAnswerTo(command, *answer)) {
             m_lastAnswer = Clock::now();
             if (accept(*answer, command, state))
                 return true;
@@ -198,7 +217,11 @@ bool GvcpChannel::accept(const Gvcp::Acknowledge &answer, const Command &command
         state.reply.status = Status::Failed;
         return ++state.nonsense >= nonsenseLimit;
     }
-    if (command.isMeasured && !state.reply.wasPending) {
+    if (command.isQuestion) {
+        const auto open = std::find(m_openQuestions.begin(), m_openQuestions.end(), answer.id);
+        m_openQuestions.erase(m_openQuestions.begin(), open + 1);
+    }
+    if (command.isMeasured && answer.id == command.id && !state.reply.wasPending) {
         const auto elapsed = m_lastAnswer - state.start;
         m_timer.answered(std::chrono::duration_cast<RepetitionTimer::Duration>(elapsed),
                          state.repetitions);

@@ -52,7 +52,8 @@ public:
     Reply writeMemory(uint32_t address, const uint8_t *bytes, uint32_t size,
                       Clock::time_point deadline);
 
-    /// Reads a register, without any repetition.
+    /// Asks for a register that is asked for again and again, without any repetition. A slow camera
+    /// may answer the question before this one.
     Reply ask(uint32_t address, std::chrono::milliseconds time);
 
     /// Writes a register without waiting for the answer; sends the command twice in case one is
@@ -68,9 +69,6 @@ public:
 
     Clock::time_point lastAnswer() const { return m_lastAnswer; }
 
-    /// How long the camera usually takes to answer.
-    std::chrono::microseconds roundTrip() const { return m_timer.roundTrip(); }
-
 private:
     struct Command;
     struct State;
@@ -78,6 +76,7 @@ private:
     Command readCommand(const std::vector<uint32_t> &addresses);
     Reply transfer(const Command &command);
     bool await(const Command &command, State &state);
+    bool isAnswerTo(const Command &command, const Gvcp::Acknowledge &answer) const;
     bool accept(const Gvcp::Acknowledge &answer, const Command &command, State &state);
 
     GvcpSocket m_socket;
@@ -85,6 +84,9 @@ private:
     RepetitionTimer m_timer;
     Counters m_counters;
     Clock::time_point m_lastAnswer = Clock::now();
+
+    std::vector<uint16_t> m_openQuestions; ///< the ids of unanswered `ask`s, the oldest first
+    uint32_t m_questioned = 0;             ///< the register that they ask for
 };
 
 } // namespace OrvGigEVision

@@ -37,7 +37,7 @@ public:
     /// What `reopen` has to find again.
     void setDescription(const DescriptionMark &mark) { m_description = mark; }
 
-    std::size_t batchSize() const override { return m_reader.batchSize(); }
+    std::size_t batchSize() const override { return Gvcp::maxRegisters; }
     void setHints(const OrvCameraIo::PortHints &hints) override { m_reader.setHints(hints); }
     bool isWordNumber() const override { return m_reader.isWordNumber(); }
     void read(std::vector<OrvCameraIo::ReadTransfer> &batch) override { m_reader.read(batch); }

@@ -15,7 +15,9 @@ namespace {
 /// A register that changes all the time tells nothing, so others are tried, too.
 constexpr int mostLooks = 4;
 
-constexpr std::chrono::microseconds longestBatch = OrvCameraIo::Limits::readBudget / 2;
+/// A camera that does not concatenate may have to be asked for each register of a batch, and others
+/// wait until that is over.
+constexpr std::chrono::milliseconds longestBatch{100};
 
 std::vector<uint8_t> reversed(std::vector<uint8_t> bytes)
 {
@@ -70,25 +72,21 @@ void RegisterReader::setWordNumber()
     m_knowledge.isWordNumber = true;
 }
 
-std::size_t RegisterReader::batchSize() const
-{
-    // A camera that does not concatenate may have to be asked for each register.
-    const auto roundTrip = std::max(m_channel.roundTrip(), std::chrono::microseconds(1));
-    const auto oneByOne = static_cast<std::size_t>(longestBatch / roundTrip);
-    return canConcatenate() ? Gvcp::maxRegisters
-                            : std::clamp<std::size_t>(oneByOne, 1, Gvcp::maxRegisters);
-}
-
 void RegisterReader::read(std::vector<ReadTransfer> &batch)
 {
     takeHints();
     const bool usesRegisters = m_knowledge.rules().usesRegisters();
-    BatchRead(m_channel, m_knowledge, batch).run();
+    readInTime(batch);
     const bool wantsToKnow = m_hasHints && !isWordNumber() && !m_knowledge.isOrderKnown;
     if (wantsToKnow && m_looks < mostLooks && compareViews(batch, usesRegisters)) {
         setWordNumber();
-        BatchRead(m_channel, m_knowledge, batch).run();
+        readInTime(batch);
     }
+}
+
+void RegisterReader::readInTime(std::vector<ReadTransfer> &batch)
+{
+    BatchRead(m_channel, m_knowledge, batch, Clock::now() + longestBatch).run();
 }
 
 /// The registers that every camera has may be the same both ways while those of its maker are not.

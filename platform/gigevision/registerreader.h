@@ -28,9 +28,7 @@ public:
     bool canWriteMemory() const { return m_capability & Gvcp::canWriteMemory; }
     bool canConcatenate() const { return m_knowledge.canConcatenate; }
 
-    /// As many registers as can be read in a time that others can wait.
-    std::size_t batchSize() const;
-
+    /// See `OrvCameraIo::Port::read`.
     void read(std::vector<OrvCameraIo::ReadTransfer> &batch);
 
 private:
@@ -38,6 +36,7 @@ private:
 
     bool compareViews(const std::vector<OrvCameraIo::ReadTransfer> &batch, bool wasRegister);
     Order orderOf(uint32_t address, const std::vector<uint8_t> &bytes, bool wasRegister);
+    void readInTime(std::vector<OrvCameraIo::ReadTransfer> &batch);
     void setWordNumber();
     void takeHints();
 

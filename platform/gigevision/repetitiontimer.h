@@ -17,11 +17,8 @@ public:
     /// A command was answered so long after it was sent first.
     void answered(Duration elapsed, int repetitions);
 
-    /// 0 as long as nothing was measured.
-    Duration roundTrip() const { return m_smoothed; }
-
 private:
-    Duration m_smoothed{0};
+    Duration m_smoothed{0}; ///< 0 as long as nothing was measured
     Duration m_deviation{0};
     Duration m_interval = std::chrono::milliseconds(100);
 };

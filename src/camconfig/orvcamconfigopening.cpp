@@ -203,6 +203,11 @@ void OrvCamConfigOpening::setReceiver(std::function<void(OrvCam::Device *)> rece
     m_receiver = std::move(receiver);
 }
 
+void OrvCamConfigOpening::setProgress(std::function<bool(int percent)> progress)
+{
+    m_report = std::move(progress);
+}
+
 OrvCamConfigOpening::Result OrvCamConfigOpening::exec()
 {
     const std::shared_ptr<Job> job = m_job; // this may be gone at the end
@@ -241,11 +246,19 @@ void OrvCamConfigOpening::show()
 {
     if (m_job->isOver || m_job->isCancelled)
         return;
-    m_progress = new OpeningProgress(m_name, m_window);
-    connect(m_progress, &QDialog::rejected, this, &OrvCamConfigOpening::abandon);
-    auto *timer = new QTimer(m_progress);
-    connect(timer, &QTimer::timeout, this, [this] { m_progress->setShare(m_job->percent); });
+    auto *timer = new QTimer(this);
     timer->start(progressPeriod);
+    if (m_report) {
+        connect(timer, &QTimer::timeout, this, [this] {
+            if (!m_job->isOver && !m_report(m_job->percent))
+                abandon();
+        });
+        return;
+    }
+    m_progress = new OpeningProgress(m_name, m_window);
+    timer->setParent(m_progress);
+    connect(m_progress, &QDialog::rejected, this, &OrvCamConfigOpening::abandon);
+    connect(timer, &QTimer::timeout, this, [this] { m_progress->setShare(m_job->percent); });
     m_progress->setShare(m_job->percent);
     m_progress->show();
 }

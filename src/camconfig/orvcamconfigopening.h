@@ -51,6 +51,11 @@ public:
     /// still waited for.
     void setReceiver(std::function<void(OrvCam::Device *)> receiver);
 
+    /// Is told again and again in place of the dialog, for a program without windows, which share
+    /// of the description has come: in per cent, -1 as long as there is none. Answers false to
+    /// cancel.
+    void setProgress(std::function<bool(int percent)> progress);
+
     /// Opens the camera and handles events until that is over. What a receiver has got is not in
     /// the result. The object may be destroyed meanwhile.
     Result exec();
@@ -76,6 +81,7 @@ private:
     const QString m_name;
     const std::shared_ptr<Job> m_job;
     std::function<void(OrvCam::Device *)> m_receiver;
+    std::function<bool(int)> m_report; ///< in place of the dialog
     QPointer<OpeningProgress> m_progress;
 };
 

@@ -14,16 +14,25 @@ GenParamTreeVisibilityFilterProxyModel::GenParamTreeVisibilityFilterProxyModel(Q
 void GenParamTreeVisibilityFilterProxyModel::setFilterVisibility(int _visibility)
 {
     m_filterVisibility = _visibility;
+    refilter();
+}
+
+void GenParamTreeVisibilityFilterProxyModel::refilter()
+{
     invalidateFilter();
 }
 
 bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow,
                                                               const QModelIndex &sourceParent) const
 {
-    const QModelIndex source = sourceModel()->index(sourceRow, 0, sourceParent);
-    auto *value = source.data(Qt::UserRole).value<GenApi::IValue *>();
+    return isShownAt(m_filterVisibility, sourceModel()->index(sourceRow, 0, sourceParent));
+}
+
+bool GenParamTreeVisibilityFilterProxyModel::isShownAt(int visibility, const QModelIndex &index)
+{
+    auto *value = index.data(Qt::UserRole).value<GenApi::IValue *>();
     try {
-        return !value || value->GetNode()->GetVisibility() <= m_filterVisibility;
+        return !value || value->GetNode()->GetVisibility() <= visibility;
     } catch (const GenICam::GenericException &) {
         return true; // Qt's proxy would be left half filtered
     }

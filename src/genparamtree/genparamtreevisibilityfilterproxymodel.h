@@ -18,10 +18,17 @@ public:
     /// The highest `GenApi::EVisibility` shown: 0 Beginner (the default), 1 Expert, 2 Guru.
     int filterVisibility() const { return m_filterVisibility; }
 
+    /// What the row of that index is judged by, at any level.
+    static bool isShownAt(int visibility, const QModelIndex &index);
+
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 public slots:
     void setFilterVisibility(int _visibility);
+
+protected:
+    /// Has all rows judged anew.
+    virtual void refilter();
 
 private:
     int m_filterVisibility = 0;

@@ -4,7 +4,11 @@
 #include "genparamtreemodel.h"
 #include "treelookahead.h"
 
+#include <QHash>
 #include <QPalette>
+
+#include <algorithm>
+#include <functional>
 
 namespace OrvGui {
 
@@ -46,6 +50,52 @@ Qt::ItemFlags KnownValuesModel::flags(const QModelIndex &index) const
     if (!m_lookAhead || index.column() != valueColumn || !featureOf(source))
         return GenParamTreeVisibilityFilterProxyModel::flags(index);
     return cell(source).flags;
+}
+
+// Removing and inserting rows costs the product of the stretches that go and the indexes that views
+// keep. A new layout costs each row once, and views keep what is expanded and selected all the
+// same.
+void KnownValuesModel::refilter()
+{
+    if (!isEachIndexFoundAgain())
+        return invalidateFilter();
+    dropIndexesInHiddenCategories();
+    invalidate();
+}
+
+// The source knows a feature that is in several categories in the first of them only, and one that
+// has just vanished nowhere.
+bool KnownValuesModel::isEachIndexFoundAgain() const
+{
+    const QModelIndexList indexes = persistentIndexList();
+    return std::all_of(indexes.begin(), indexes.end(), [this](const QModelIndex &index) {
+        return mapFromSource(mapToSource(index)) == index;
+    });
+}
+
+// Qt would take them for rows of the top level.
+void KnownValuesModel::dropIndexesInHiddenCategories()
+{
+    QHash<QModelIndex, bool> isShown{{QModelIndex(), true}};
+    const std::function<bool(const QModelIndex &)> isCategoryShown =
+        [&](const QModelIndex &source) {
+            const auto known = isShown.constFind(source);
+            if (known != isShown.constEnd())
+                return *known;
+            const bool isAccepted =
+                isCategoryShown(source.parent()) && filterAcceptsRow(source.row(), source.parent());
+            isShown.insert(source, isAccepted);
+            return isAccepted;
+        };
+    QModelIndexList dropped;
+    for (const QModelIndex &index : persistentIndexList()) {
+        if (!isCategoryShown(mapToSource(index).parent()))
+            dropped << index;
+    }
+    QModelIndexList nothing;
+    while (nothing.size() < dropped.size())
+        nothing << QModelIndex();
+    changePersistentIndexList(dropped, nothing);
 }
 
 KnownValuesModel::Cell KnownValuesModel::cell(const QModelIndex &source) const

@@ -33,6 +33,9 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
+protected:
+    void refilter() override;
+
 private:
     struct Cell
     {
@@ -42,6 +45,8 @@ private:
     };
 
     Cell cell(const QModelIndex &source) const;
+    bool isEachIndexFoundAgain() const;
+    void dropIndexesInHiddenCategories();
 
     TreeLookAhead *m_lookAhead = nullptr;
     mutable QCache<const GenApi::IValue *, Cell> m_lastCells{1000};

@@ -101,7 +101,7 @@ public:
     void setSpanForChildren(const QModelIndex &parent);
     void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
     void endEditing();
-    void forgetExpandedLeaves(const QModelIndex &parent);
+    void leaveRowsThatGo(int level);
     void describeCurrent();
 
     void saveState();
@@ -243,15 +243,16 @@ void OrvGenParamTreeViewPrivate::applyLevel(GenParamTreeVisibilityFilterProxyMod
     endEditing();
     if (!alive) // a host has replaced the tree in reaction to what was written
         return;
+    const int level = ui->cbVisibility->currentIndex();
+    leaveRowsThatGo(level);
     ui->treeView->scheduleDelayedItemsLayout();
-    forgetExpandedLeaves(QModelIndex());
-    proxy->setFilterVisibility(ui->cbVisibility->currentIndex());
+    proxy->setFilterVisibility(level);
     // When a whole category goes, the current row goes without a signal.
     describeCurrent();
 }
 
 // Writing a value while rows go makes the filter remove rows twice. And when the row of a current
-// value cell goes, its neighbour's becomes the current one, and edited.
+// value cell goes, its neighbour's would become the current one, and edited.
 void OrvGenParamTreeViewPrivate::endEditing()
 {
     QTreeView *tree = ui->treeView;
@@ -270,21 +271,25 @@ void OrvGenParamTreeViewPrivate::endEditing()
                                                 QItemSelectionModel::NoUpdate);
 }
 
-// `QTreeView::expandAll` remembers leaves as expanded, too. That can be seen nowhere, but makes
-// each change of the level cost the square of their number.
-void OrvGenParamTreeViewPrivate::forgetExpandedLeaves(const QModelIndex &parent)
+// The current row becomes the next one that stays, or the one before, or the category.
+void OrvGenParamTreeViewPrivate::leaveRowsThatGo(int level)
 {
-    const QAbstractItemModel *model = ui->treeView->model();
-    const int rows = model->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = model->index(row, nameColumn, parent);
-        if (!featureOf(index)) // its category has fewer features now
-            continue;
-        if (isCategory(index))
-            forgetExpandedLeaves(index);
-        else if (ui->treeView->isExpanded(index))
-            ui->treeView->collapse(index);
-    }
+    const QModelIndex current = ui->treeView->currentIndex();
+    const auto goes = [level](const QModelIndex &row) {
+        return row.isValid() && !GenParamTreeVisibilityFilterProxyModel::isShownAt(level, row);
+    };
+    if (!goes(current))
+        return;
+    const auto firstThatStays = [&](int step) {
+        QModelIndex row = current;
+        while (goes(row))
+            row = row.sibling(row.row() + step, current.column());
+        return row;
+    };
+    QModelIndex next = firstThatStays(1);
+    if (!next.isValid())
+        next = firstThatStays(-1);
+    ui->treeView->setCurrentIndex(next.isValid() ? next : current.parent());
 }
 
 void OrvGenParamTreeViewPrivate::describeCurrent()

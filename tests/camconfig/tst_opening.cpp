@@ -176,6 +176,19 @@ void TestOpening::cancels()
     const OrvCamConfigOpening::Result result = open();
     QVERIFY(result.isCancelled && !result.device && timer.elapsed() < 50);
 
+    // A program without windows.
+    OrvCamConfigOpening opening(*m_info, OrvCam::AccessControl);
+    bool isSilent = true;
+    int last = -1;
+    opening.setProgress([&](int percent) {
+        isSilent = isSilent && !progressDialog();
+        last = percent;
+        return percent < 3;
+    });
+    const OrvCamConfigOpening::Result stopped = opening.exec();
+    QVERIFY(stopped.isCancelled && !stopped.device && isSilent);
+    QCOMPARE(last, 3);
+
     // The next one waits until the camera has been let go of.
     m_camera->setMood("delay", 0);
     const DevicePtr device(open().device);

@@ -20,6 +20,7 @@ struct Camera
     std::atomic<bool> isThere{true};
     std::atomic<bool> isForgetful{false};
     std::atomic<int> delayMs{0};
+    std::atomic<std::size_t> inTime{SIZE_MAX}; ///< registers of a batch that there is time for
     std::atomic<int> commands{0};
     std::atomic<int> reopenings{0};
 
@@ -50,7 +51,10 @@ public:
         const bool isMute = std::any_of(batch.begin(), batch.end(), [&](const auto &read) {
             return m_camera.mute.count(read.range.address) != 0;
         });
+        std::size_t left = m_camera.inTime;
         for (ReadTransfer &read : batch) {
+            if (left-- == 0)
+                break;
             read.status = answers && !isMute ? Status::Done : Status::NoAnswer;
             read.bytes = m_camera.memory[read.range.address];
             read.bytes.resize(read.range.size);
@@ -117,6 +121,7 @@ private slots:
     void knowsWhatWasTransferred();
     void fieldsOfOneRegisterKeepEachOther();
     void waitingCallersGoFirst();
+    void whatThereIsNoTimeForIsReadNext();
     void aDroppedRequestIsNotAnswered();
     void silenceCostsOneTimeout();
     void aMuteRegisterIsGivenUp();
@@ -184,6 +189,31 @@ void TestRegisterIo::waitingCallersGoFirst()
     QVERIFY(!isDone);
     QTRY_VERIFY(isDone);
     QCOMPARE(camera.commands.load(), 11); // ten of four registers, and the other one
+}
+
+void TestRegisterIo::whatThereIsNoTimeForIsReadNext()
+{
+    Camera camera;
+    camera.inTime = 3;
+    RegisterIo io(std::make_unique<FakePort>(camera));
+    Story story;
+    io.setListener(&story);
+    std::vector<RegisterRange> page;
+    for (uint64_t i = 0; i < 10; ++i)
+        page.push_back(word(4 * i));
+    io.read(page);
+    for (const RegisterRange &range : page)
+        QCOMPARE(io.look(range, 0).status, Status::Done);
+    QCOMPARE(camera.batches, (std::vector<std::size_t>{4, 4, 4, 1}));
+    QCOMPARE(io.transactions().reads, uint64_t(10));
+
+    // Silence is something else.
+    camera.isThere = false;
+    io.read({word(100), word(104), word(108), word(112)});
+    QCOMPARE(camera.batches.size(), std::size_t(5));
+    QCOMPARE(io.look(word(112), 0).status, Status::NoAnswer);
+    QVERIFY(io.isSilent());
+    io.setListener(nullptr);
 }
 
 void TestRegisterIo::aDroppedRequestIsNotAnswered()

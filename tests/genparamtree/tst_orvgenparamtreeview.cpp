@@ -216,6 +216,7 @@ private slots:
     void takenAwayByItsOwnWrite();
     void changedOnAnotherThread();
     void readsOnlyWhatIsSeen();
+    void levelKeepsThePlace();
     void levelOfALargeTree();
     void brokenCategories();
 };
@@ -1126,6 +1127,64 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
         tree.viewport()->repaint();
     }
     QCOMPARE(total(), int(features.size()));
+}
+
+void TestOrvGenParamTreeView::levelKeepsThePlace()
+{
+    OrvGenApi::MemoryNodeMap map("Places");
+    for (int i = 0; i < 60; ++i) {
+        const std::string category = i < 30 ? "First" : "Second";
+        map.addInteger("Feature" + std::to_string(i), i, category).properties().visibility =
+            i % 3 ? GenApi::Guru : GenApi::Beginner;
+    }
+    map.addCategory("Hidden").properties().visibility = GenApi::Guru;
+    map.addInteger("Inside", 0, "Hidden");
+    OrvGenParamTreeView view(&map, nullptr);
+    TreeDriver driver(view);
+    driver.show();
+    QTreeView &tree = driver.tree();
+    const QAbstractItemModelTester tester(tree.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const auto current = [&] { return tree.currentIndex().data().toString(); };
+    tree.collapse(driver.cell("Hidden", 0));
+    tree.setCurrentIndex(driver.cell("Feature33", 0));
+    tree.scrollTo(tree.currentIndex(), QAbstractItemView::PositionAtTop);
+    for (const OrvGui::Visibility level : {OrvGui::Basic, OrvGui::Guru}) {
+        view.setVisibility(level);
+        QCOMPARE(current(), QString("Feature33"));
+        QCOMPARE(tree.selectionModel()->selectedRows().size(), 1);
+        QVERIFY(tree.selectionModel()->isSelected(tree.currentIndex()));
+        for (const char *category : {"First", "Second"}) {
+            QVERIFY(tree.isExpanded(driver.cell(category, 0)));
+            QVERIFY(tree.isFirstColumnSpanned(driver.cell(category, 0).row(), QModelIndex()));
+        }
+    }
+    QVERIFY(!tree.isExpanded(driver.cell("Hidden", 0)));
+
+    // Its neighbour takes the place of a row that goes.
+    for (const auto &[before, after] :
+         {std::pair{"Feature34", "Feature36"}, {"Feature59", "Feature57"}}) {
+        tree.setCurrentIndex(driver.cell(before, 0));
+        view.setVisibility(OrvGui::Basic);
+        QCOMPARE(current(), QString(after));
+        view.setVisibility(OrvGui::Guru);
+    }
+    tree.expand(driver.cell("Hidden", 0));
+    tree.setCurrentIndex(driver.cell("Inside", 0));
+    view.setVisibility(OrvGui::Basic);
+    QVERIFY(!tree.currentIndex().isValid());
+    view.setVisibility(OrvGui::Guru);
+
+    // A feature that is in two categories stays in the one where it was.
+    map.category("Second").addFeature(*map.node("Feature0"));
+    view.setParams(&map);
+    driver.show();
+    const QModelIndex second = driver.cell("Second", 0);
+    tree.setCurrentIndex(second.model()->index(second.model()->rowCount(second) - 1, 0, second));
+    QCOMPARE(current(), QString("Feature0"));
+    view.setVisibility(OrvGui::Basic);
+    QCOMPARE(current(), QString("Feature0"));
+    QCOMPARE(tree.currentIndex().parent().data().toString(), QString("Second"));
 }
 
 // What a change of the level costs must not be the product of the rows that go and those that are

@@ -50,6 +50,7 @@ private slots:
     void control();
     void batches_data();
     void batches();
+    void aLongBatchIsLeftEarly();
     void refusedRegisters_data();
     void refusedRegisters();
     void registersOfAllShapes();
@@ -516,6 +517,28 @@ void TestGvPort::batches()
     QCOMPARE(int(camera.counters().transfers()), commands);
 }
 
+void TestGvPort::aLongBatchIsLeftEarly()
+{
+    auto settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
+    settings.description = description(20);
+    settings.canConcatenate = false;
+    settings.unknownRegisters = TestCameraMemory::Unknown::Filled;
+    TestCamera camera(settings);
+    const auto opened = open();
+    camera.setMood("delay", 40);
+    const auto ranges = words(40, 12);
+    auto batch = read(*opened.port, ranges);
+    const auto isDone = [](const ReadTransfer &read) { return read.status == Status::Done; };
+    const auto done = std::count_if(batch.begin(), batch.end(), isDone);
+    QVERIFY2(done >= 1 && done <= 4, qPrintable(QString::number(done)));
+    QCOMPARE(std::count_if(batch.begin(), batch.end(),
+                           [](const auto &read) { return read.status == Status::NotSent; }),
+             batch.size() - done);
+    camera.setMood("delay", 300); // longer than all the time that there is
+    batch = read(*opened.port, ranges);
+    QCOMPARE(std::count_if(batch.begin(), batch.end(), isDone), 1);
+}
+
 void TestGvPort::refusedRegisters_data()
 {
     QTest::addColumn<bool>("canConcatenate");
@@ -774,9 +797,17 @@ void TestGvPort::presence()
     QCOMPARE(opened.port->probe(), Presence::Silent);
     QVERIFY(timer.elapsed() < 300);
     QCOMPARE(camera.counters().packets, 1u);
+    camera.setMood("delay", 400); // slower than it is asked
+    QCOMPARE(opened.port->probe(), Presence::Silent);
+    for (int i = 0; i < 4; ++i) {
+        QTest::qWait(200);
+        QCOMPARE(opened.port->probe(), Presence::Answers);
+    }
     camera.setMood("good");
     QCOMPARE(opened.port->probe(), Presence::Answers);
+    QTest::qWait(400);      // until all has been answered
     camera.setPrivilege(0); // switched off and on
+    opened.port->probe();   // the last of the late answers
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
     camera.setPrivilege(1);
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
