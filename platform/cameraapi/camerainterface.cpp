@@ -3,9 +3,14 @@
 
 #include "entrylist.h"
 
+#include <cameraio/limits.h>
+
 #include <algorithm>
+#include <set>
 
 namespace OrvCam {
+
+namespace Limits = OrvCameraIo::Limits;
 
 namespace {
 
@@ -27,11 +32,23 @@ CameraInterface::CameraInterface(CameraSystem &system, std::string description,
 {
 }
 
-DeviceRecord *CameraInterface::record(const std::string &id) const
+void CameraInterface::setDescription(const std::string &description)
 {
-    const auto found = std::find_if(m_records.begin(), m_records.end(),
-                                    [&](const auto &r) { return r->facts().id == id; });
-    return found == m_records.end() ? nullptr : found->get();
+    // The text stays where it is when nothing has changed.
+    if (description != m_description)
+        m_description = description;
+}
+
+/// Where the camera's record is, which is made for a new camera; `nowhere` when there are too many.
+std::size_t CameraInterface::positionOf(const DeviceFacts &facts)
+{
+    const auto known = m_positions.find(facts.id);
+    if (known != m_positions.end())
+        return known->second;
+    if (m_records.size() >= Limits::knownCameras)
+        return nowhere;
+    m_records.push_back(std::make_unique<DeviceRecord>(*this, facts, makeConnector(facts)));
+    return m_positions[facts.id] = m_records.size() - 1;
 }
 
 int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
@@ -47,25 +64,20 @@ int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
     std::sort(found.begin(), found.end(),
               [](const DeviceFacts &a, const DeviceFacts &b) { return a.id < b.id; });
     bool differs = false;
-    std::vector<DeviceRecord *> present;
+    std::set<std::size_t> positions;
+    m_unlisted = 0;
     for (DeviceFacts &facts : found) {
-        DeviceRecord *known = record(facts.id);
-        if (known) {
-            differs |= known->update(std::move(facts));
-        } else {
-            auto connector = makeConnector(facts);
-            m_records.push_back(
-                std::make_unique<DeviceRecord>(*this, std::move(facts), std::move(connector)));
-            known = m_records.back().get();
+        const std::size_t position = positionOf(facts);
+        if (position == nowhere) {
+            ++m_unlisted;
+            continue;
         }
-        present.push_back(known);
+        differs |= m_records[position]->update(std::move(facts));
+        positions.insert(position);
     }
-    const auto age = [this](const DeviceRecord *wanted) {
-        return std::find_if(m_records.begin(), m_records.end(),
-                            [&](const auto &r) { return r.get() == wanted; });
-    };
-    std::sort(present.begin(), present.end(),
-              [&](const DeviceRecord *a, const DeviceRecord *b) { return age(a) < age(b); });
+    std::vector<DeviceRecord *> present;
+    for (const std::size_t position : positions)
+        present.push_back(m_records[position].get());
     differs |= present != m_present;
     m_present = std::move(present);
     if (changed)

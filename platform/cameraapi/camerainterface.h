@@ -5,8 +5,10 @@
 
 #include <OrvCam/Interface.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace OrvCam {
@@ -14,7 +16,8 @@ namespace OrvCam {
 class CameraSystem;
 
 /// What every interface does with the cameras that it finds: it keeps a record of each, for good,
-/// and hands out those that are there, in the order in which they were first seen.
+/// and hands out those that are there, in the order in which they were first seen. It gets to know
+/// `Limits::knownCameras`.
 class CameraInterface : public Interface
 {
 public:
@@ -25,6 +28,9 @@ public:
     /// The present cameras; the position is the camera's "DeviceSelector" value.
     const std::vector<DeviceRecord *> &present() const { return m_present; }
 
+    /// The number of cameras that were found, but are beyond `Limits::knownCameras`.
+    std::size_t unlisted() const { return m_unlisted; }
+
     int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) override;
     DeviceInfoList *GetDeviceInfoSet() override;
     const char *GetDescription() const override { return m_description.c_str(); }
@@ -33,7 +39,7 @@ public:
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
 
 protected:
-    void setDescription(std::string description) { m_description = std::move(description); }
+    void setDescription(const std::string &description);
 
     /// Looks for cameras, for at most so long. Returns an `ErrorCode`.
     virtual int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) = 0;
@@ -45,13 +51,17 @@ protected:
     virtual void refreshed() {}
 
 private:
-    DeviceRecord *record(const std::string &id) const;
+    static constexpr std::size_t nowhere = static_cast<std::size_t>(-1);
+
+    std::size_t positionOf(const DeviceFacts &facts);
 
     CameraSystem &m_system;
     std::string m_description;
     const int32_t m_transportKind;
     std::vector<std::unique_ptr<DeviceRecord>> m_records;
+    std::unordered_map<std::string, std::size_t> m_positions; ///< in `m_records`, by camera id
     std::vector<DeviceRecord *> m_present;
+    std::size_t m_unlisted = 0;
 };
 
 } // namespace OrvCam

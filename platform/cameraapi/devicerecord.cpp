@@ -13,7 +13,7 @@ namespace {
 auto tied(const DeviceFacts &facts)
 {
     return std::tie(facts.vendor, facts.model, facts.serial, facts.version, facts.userName,
-                    facts.id, facts.accessState);
+                    facts.id, facts.remark, facts.accessState);
 }
 
 const char *textOrNull(const std::optional<std::string> &text)
@@ -31,15 +31,17 @@ bool DeviceFacts::operator==(const DeviceFacts &other) const
 std::string DeviceFacts::displayName() const
 {
     const auto &detail = userName ? userName : serial;
+    const std::string appended = remark.empty() ? remark : " - " + remark;
     if (!model)
-        return detail.value_or(id);
-    return detail ? *model + " (" + *detail + ")" : *model;
+        return detail.value_or(id) + appended;
+    return (detail ? *model + " (" + *detail + ")" : *model) + appended;
 }
 
 DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
                            std::shared_ptr<CameraConnector> connector)
     : m_parent(parent)
     , m_facts(std::move(facts))
+    , m_accessState(m_facts.accessState)
     , m_displayName(m_facts.displayName())
     , m_connector(std::move(connector))
 {
@@ -47,9 +49,10 @@ DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
 
 bool DeviceRecord::update(DeviceFacts facts)
 {
+    const bool isSameState = m_accessState.exchange(facts.accessState) == facts.accessState;
     // The texts stay where they are when nothing has changed.
     if (facts == m_facts)
-        return false;
+        return !isSameState;
     m_facts = std::move(facts);
     m_displayName = m_facts.displayName();
     return true;

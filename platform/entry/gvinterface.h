@@ -3,7 +3,7 @@
 
 #include <cameraapi/camerainterface.h>
 #include <cameraapi/gevparameters.h>
-#include <gigevision/networkadapter.h>
+#include <gigevision/networksearch.h>
 
 #include <map>
 #include <string>
@@ -14,9 +14,11 @@ namespace OrvCam {
 class GvInterface final : public CameraInterface, private GevNetwork
 {
 public:
-    GvInterface(CameraSystem &system, OrvGigEVision::NetworkAdapter adapter);
+    /// The search is that of all network adapters and outlives the interface.
+    GvInterface(CameraSystem &system, OrvGigEVision::NetworkAdapter adapter,
+                OrvGigEVision::NetworkSearch &search);
 
-    /// Takes over what may have changed: addresses come and go.
+    /// Takes over what may have changed: addresses come and go, and so does the carrier.
     void setAdapter(OrvGigEVision::NetworkAdapter adapter);
 
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
@@ -30,8 +32,12 @@ private:
     std::vector<GevAddresses> cameras() const override;
     int32_t forceIp(const GevAddresses &wanted) override;
 
+    void describe();
+
+    OrvGigEVision::NetworkSearch &m_search;
     OrvGigEVision::NetworkAdapter m_adapter;
-    std::map<std::string, GevAddresses> m_addresses; ///< by camera id
+    std::map<std::string, GevAddresses> m_addresses; ///< of the last search, by camera id
+    std::size_t m_unlisted = 0;                      ///< cameras beyond those listed, likewise
     GevParameters m_parameters;
 };
 
