@@ -155,8 +155,10 @@ int32_t GvInterface::forceIp(const GevAddresses &wanted)
     if (concerned.size() != 1)
         return concerned.empty() ? ErrorGone : ErrorNotAvailable;
 
-    const int32_t error = codeOf(
-        OrvGigEVision::forceIp(m_adapter, wanted.mac, wanted.ip, wanted.mask, wanted.gateway));
+    m_isGivenUp = false;
+    const auto isGivenUp = [this] { return m_isGivenUp.load(); };
+    const int32_t error = codeOf(OrvGigEVision::forceIp(m_adapter, wanted.mac, wanted.ip,
+                                                        wanted.mask, wanted.gateway, isGivenUp));
     if (error != Success)
         return error;
     m_addresses.at(concerned.front()->facts().id) = wanted;

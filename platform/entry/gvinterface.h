@@ -5,13 +5,16 @@
 #include <cameraapi/gevparameters.h>
 #include <gigevision/networksearch.h>
 
+#include <OrvCam/AddressForcing.h>
+
+#include <atomic>
 #include <map>
 #include <string>
 
 namespace OrvCam {
 
 /// A network adapter as an interface of the camera system.
-class GvInterface final : public CameraInterface, private GevNetwork
+class GvInterface final : public CameraInterface, public AddressForcing, private GevNetwork
 {
 public:
     /// The search is that of all network adapters and outlives the interface.
@@ -22,6 +25,7 @@ public:
     void setAdapter(OrvGigEVision::NetworkAdapter adapter);
 
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
+    void giveUp() override { m_isGivenUp = true; }
 
 private:
     int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) override;
@@ -38,6 +42,7 @@ private:
     OrvGigEVision::NetworkAdapter m_adapter;
     std::map<std::string, GevAddresses> m_addresses; ///< of the last search, by camera id
     std::size_t m_unlisted = 0;                      ///< cameras beyond those listed, likewise
+    std::atomic<bool> m_isGivenUp{false};            ///< the present forcing of an address
     GevParameters m_parameters;
 };
 

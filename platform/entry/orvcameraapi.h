@@ -97,9 +97,10 @@ ORVCAMERAAPI_EXPORT OrvCamSystem *OrvCam_GetSystem(void);
 ORVCAMERAAPI_EXPORT void OrvCam_ReleaseSystem(OrvCamSystem *system);
 
 /*
- * Looks for cameras on every interface, for at most timeoutMs milliseconds on each, and blocks so
- * long; 200 finds every camera that behaves. Returns OrvCam_Success, or the error of the first
- * interface that could not be searched; the cameras of all others are found nevertheless.
+ * Looks for cameras on every interface, for at most timeoutMs milliseconds on all network adapters
+ * together, and blocks so long; 200 finds every camera that behaves. Returns OrvCam_Success, or the
+ * error of the first interface that could not be searched; the cameras of all others are found
+ * nevertheless.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvCam_RefreshDevices(OrvCamSystem *system, uint32_t timeoutMs);
 

@@ -26,7 +26,7 @@ public:
     {
     }
 
-    ForceResult run();
+    ForceResult run(const std::function<bool()> &isCancelled);
 
 private:
     void ask();
@@ -44,9 +44,9 @@ private:
     bool m_isAcknowledged = false;
 };
 
-ForceResult Forcing::run()
+ForceResult Forcing::run(const std::function<bool()> &isCancelled)
 {
-    while (Clock::now() < m_end) {
+    while (Clock::now() < m_end && !(isCancelled && isCancelled())) {
         ask();
         if (const auto result = listen(std::min(m_end, Clock::now() + repetition)))
             return *result;
@@ -113,14 +113,14 @@ std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::str
 }
 
 ForceResult forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
-                    uint32_t gateway)
+                    uint32_t gateway, const std::function<bool()> &isCancelled)
 {
     Gvcp::Identity wanted;
     wanted.mac = mac;
     wanted.ip = ip;
     wanted.mask = mask;
     wanted.gateway = gateway;
-    return Forcing(adapter, wanted).run();
+    return Forcing(adapter, wanted).run(isCancelled);
 }
 
 } // namespace OrvGigEVision

@@ -24,8 +24,8 @@ enum class ForceResult {
 
 /// Gives the camera of that MAC address a new configuration and waits until it answers with it:
 /// `Limits::forcedIpBudget` from when it acknowledges the command, which is repeated until then. A
-/// camera that does neither is given up earlier.
+/// camera that does neither is given up earlier; a cancelled one counts as not seen.
 ForceResult forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
-                    uint32_t gateway);
+                    uint32_t gateway, const std::function<bool()> &isCancelled = nullptr);
 
 } // namespace OrvGigEVision

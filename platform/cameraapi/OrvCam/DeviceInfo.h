@@ -28,7 +28,8 @@ public:
     /// The name that a user gave the camera.
     virtual const char *GetUserName() const = 0;
 
-    /// An `AccessState`, as of the last discovery; treat an unknown code as unknown.
+    /// An `AccessState`, as of the last discovery or of an address that the camera was given since;
+    /// treat an unknown code as unknown.
     virtual int32_t GetAccessState() const = 0;
 
     /// The interface on which the camera was found. Never null.

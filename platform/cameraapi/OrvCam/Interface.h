@@ -18,6 +18,13 @@ public:
 
     /// Looks for cameras, for at most `timeoutMs` milliseconds, and blocks so long. `changed`, when
     /// not null, tells whether anything differs from before. Records handed out earlier stay valid.
+    ///
+    /// Network adapters are searched all at once: after the first one's turn, each of the others
+    /// answers its next call at once from what came then, if that call follows within half a second
+    /// and gives no longer time. An adapter without carrier is not waited for. Cameras beyond the
+    /// first 256 are not listed, and those beyond the 4096 that an interface has ever listed; the
+    /// description gives their number.
+    ///
     /// The positions of the cameras may change, so let nobody look for cameras while a window is
     /// open that shows them, such as a camera picker. Returns an `ErrorCode`.
     virtual int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) = 0;
@@ -26,7 +33,7 @@ public:
     /// the camera's "DeviceSelector" value. Null when the interface cannot list cameras.
     virtual DeviceInfoList *GetDeviceInfoSet() = 0;
 
-    /// UTF-8, never null.
+    /// UTF-8, never null, valid until the next `RefreshDevices` or `System::GetInterfaceSet`.
     virtual const char *GetDescription() const = 0;
 
     /// A `TransportKind`; other values are custom kinds.
