@@ -5,7 +5,7 @@
 
 #include <cameraio/limits.h>
 
-#include <algorithm>
+#include <map>
 #include <set>
 
 namespace OrvCam {
@@ -39,16 +39,33 @@ void CameraInterface::setDescription(const std::string &description)
         m_description = description;
 }
 
-/// Where the camera's record is, which is made for a new camera; `nowhere` when there are too many.
-std::size_t CameraInterface::positionOf(const DeviceFacts &facts)
+/// Null when none of the known cameras is gone.
+CameraInterface::Known *CameraInterface::longestGone()
 {
-    const auto known = m_positions.find(facts.id);
-    if (known != m_positions.end())
-        return known->second;
-    if (m_records.size() >= Limits::knownCameras)
-        return nowhere;
-    m_records.push_back(std::make_unique<DeviceRecord>(*this, facts, makeConnector(facts)));
-    return m_positions[facts.id] = m_records.size() - 1;
+    Known *longest = nullptr;
+    for (Known &known : m_known) {
+        if (known.lastSeen != m_search && !known.record->isInUse() &&
+            (!longest || known.lastSeen < longest->lastSeen))
+            longest = &known;
+    }
+    return longest;
+}
+
+/// Makes a new camera known; where it is.
+std::size_t CameraInterface::placeFor(DeviceFacts &&facts)
+{
+    auto connector = makeConnector(facts);
+    const std::string id = facts.id;
+    Known *reused = m_known.size() < Limits::knownCameras ? nullptr : longestGone();
+    if (reused) {
+        m_places.erase(reused->record->facts().id);
+        reused->record->become(std::move(facts), std::move(connector));
+        reused->lastSeen = m_search;
+        return m_places[id] = static_cast<std::size_t>(reused - m_known.data());
+    }
+    m_known.push_back(
+        {std::make_unique<DeviceRecord>(*this, std::move(facts), std::move(connector)), m_search});
+    return m_places[id] = m_known.size() - 1;
 }
 
 int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
@@ -60,25 +77,27 @@ int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
     if (error != Success)
         return error;
 
-    // Answers come in any order; those that are new are given a reproducible one.
-    std::sort(found.begin(), found.end(),
-              [](const DeviceFacts &a, const DeviceFacts &b) { return a.id < b.id; });
+    ++m_search;
     bool differs = false;
-    std::set<std::size_t> positions;
-    m_unlisted = 0;
+    std::set<std::size_t> places;
+    std::map<std::string, DeviceFacts> added; // answers come in any order, these get one by id
     for (DeviceFacts &facts : found) {
-        const std::size_t position = positionOf(facts);
-        if (position == nowhere) {
-            ++m_unlisted;
+        const auto known = m_places.find(facts.id);
+        if (known == m_places.end()) {
+            added[facts.id] = std::move(facts);
             continue;
         }
-        differs |= m_records[position]->update(std::move(facts));
-        positions.insert(position);
+        differs |= m_known[known->second].record->update(std::move(facts));
+        m_known[known->second].lastSeen = m_search;
+        places.insert(known->second);
     }
+    for (auto &[id, facts] : added)
+        places.insert(placeFor(std::move(facts)));
+
     std::vector<DeviceRecord *> present;
-    for (const std::size_t position : positions)
-        present.push_back(m_records[position].get());
-    differs |= present != m_present;
+    for (const std::size_t place : places)
+        present.push_back(m_known[place].record.get());
+    differs |= !added.empty() || present != m_present;
     m_present = std::move(present);
     if (changed)
         *changed = differs;

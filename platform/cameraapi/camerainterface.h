@@ -6,6 +6,7 @@
 #include <OrvCam/Interface.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -15,9 +16,10 @@ namespace OrvCam {
 
 class CameraSystem;
 
-/// What every interface does with the cameras that it finds: it keeps a record of each, for good,
-/// and hands out those that are there, in the order in which they were first seen. It gets to know
-/// `Limits::knownCameras`.
+/// What every interface does with the cameras that it finds: it keeps a record of each and hands
+/// out those that are there, in the order in which they were first seen. Records that were handed
+/// out must stay; when there are `Limits::knownCameras`, a new camera gets that of the one that has
+/// been gone the longest.
 class CameraInterface : public Interface
 {
 public:
@@ -27,9 +29,6 @@ public:
 
     /// The present cameras; the position is the camera's "DeviceSelector" value.
     const std::vector<DeviceRecord *> &present() const { return m_present; }
-
-    /// The number of cameras that were found, but are beyond `Limits::knownCameras`.
-    std::size_t unlisted() const { return m_unlisted; }
 
     int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) override;
     DeviceInfoList *GetDeviceInfoSet() override;
@@ -51,17 +50,22 @@ protected:
     virtual void refreshed() {}
 
 private:
-    static constexpr std::size_t nowhere = static_cast<std::size_t>(-1);
+    struct Known
+    {
+        std::unique_ptr<DeviceRecord> record;
+        uint64_t lastSeen; ///< number of the search
+    };
 
-    std::size_t positionOf(const DeviceFacts &facts);
+    std::size_t placeFor(DeviceFacts &&facts);
+    Known *longestGone();
 
     CameraSystem &m_system;
     std::string m_description;
     const int32_t m_transportKind;
-    std::vector<std::unique_ptr<DeviceRecord>> m_records;
-    std::unordered_map<std::string, std::size_t> m_positions; ///< in `m_records`, by camera id
+    std::vector<Known> m_known;
+    std::unordered_map<std::string, std::size_t> m_places; ///< in `m_known`, by camera id
     std::vector<DeviceRecord *> m_present;
-    std::size_t m_unlisted = 0;
+    uint64_t m_search = 0;
 };
 
 } // namespace OrvCam

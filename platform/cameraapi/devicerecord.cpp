@@ -21,6 +21,13 @@ const char *textOrNull(const std::optional<std::string> &text)
     return text ? text->c_str() : nullptr;
 }
 
+/// What an open camera keeps alive.
+struct Owner
+{
+    std::shared_ptr<CameraSystem> system;
+    std::shared_ptr<void> use;
+};
+
 } // namespace
 
 bool DeviceFacts::operator==(const DeviceFacts &other) const
@@ -44,7 +51,14 @@ DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
     , m_accessState(m_facts.accessState)
     , m_displayName(m_facts.displayName())
     , m_connector(std::move(connector))
+    , m_use(std::make_shared<char>())
 {
+}
+
+void DeviceRecord::become(DeviceFacts facts, std::shared_ptr<CameraConnector> connector)
+{
+    update(std::move(facts));
+    m_connector = std::move(connector);
 }
 
 bool DeviceRecord::update(DeviceFacts facts)
@@ -70,8 +84,8 @@ Device *DeviceRecord::open(int32_t accessMode, int32_t &error)
 DeviceOpener::Open DeviceRecord::opener()
 {
     // The record is the system's, and stays where it is as long as that.
-    return [this, system = m_parent.system().shared_from_this(),
-            connector = m_connector](const Request &request) {
+    const auto owner = std::make_shared<Owner>(Owner{m_parent.system().shared_from_this(), m_use});
+    return [this, owner, connector = m_connector](const Request &request) {
         Result result;
         result.error = ErrorAccessDenied;
         if (!connector)
@@ -79,7 +93,7 @@ DeviceOpener::Open DeviceRecord::opener()
         const OpenProgress progress{request.report, request.isCancelled,
                                     [&](const std::string &reason) { result.reason = reason; }};
         try {
-            result.device = CameraDevice::open(system, *this, connector, request.accessMode,
+            result.device = CameraDevice::open(owner, *this, connector, request.accessMode,
                                                result.error, progress, request.homeThread);
         } catch (...) {
             result.error = ErrorFailed;

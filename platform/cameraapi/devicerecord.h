@@ -49,6 +49,12 @@ public:
     /// Takes over what a discovery found out; true when it differs from what was known.
     bool update(DeviceFacts facts);
 
+    /// Is the record of another camera from now on. Not while it is in use.
+    void become(DeviceFacts facts, std::shared_ptr<CameraConnector> connector);
+
+    /// The camera is open or being opened.
+    bool isInUse() const { return m_use.use_count() > 1; }
+
     /// For a change between two discoveries. Leaves the texts alone; may be called on any thread.
     void setAccessState(int32_t state) { m_accessState = state; }
 
@@ -72,7 +78,8 @@ private:
     DeviceFacts m_facts;
     std::atomic<int32_t> m_accessState;
     std::string m_displayName;
-    const std::shared_ptr<CameraConnector> m_connector; ///< null when it cannot be opened at all
+    std::shared_ptr<CameraConnector> m_connector; ///< null when it cannot be opened at all
+    const std::shared_ptr<void> m_use;            ///< shared with those who open or have opened it
 };
 
 } // namespace OrvCam

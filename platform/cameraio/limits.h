@@ -91,9 +91,9 @@ constexpr std::chrono::milliseconds heartbeat{3000};
 /// The cameras that are listed of one network adapter.
 constexpr std::size_t camerasPerAdapter = 256;
 
-/// The cameras that a program gets to know on one interface in the course of time. Their records
-/// are handed out for good; further cameras are only counted.
-constexpr std::size_t knownCameras = 4096;
+/// The cameras, present or gone, that an interface has records of. These are handed out and cannot
+/// be deleted; a further camera gets the one of the camera that has been gone the longest.
+constexpr std::size_t knownCameras = 1024;
 
 /// A camera that has acknowledged a new address has so long to come back with it.
 constexpr std::chrono::milliseconds forcedIpBudget{10000};

@@ -90,8 +90,8 @@ void GvInterface::setAdapter(NetworkAdapter adapter)
 void GvInterface::describe()
 {
     std::string text = descriptionOf(m_adapter);
-    if (const std::size_t count = m_unlisted + unlisted())
-        text += " - " + std::to_string(count) + " more cameras are not listed";
+    if (m_unlisted > 0)
+        text += " - " + std::to_string(m_unlisted) + " more cameras are not listed";
     setDescription(text);
 }
 

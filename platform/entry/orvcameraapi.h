@@ -110,7 +110,8 @@ ORVCAMERAAPI_EXPORT uint32_t OrvCam_GetDeviceCount(OrvCamSystem *system);
 /*
  * One of the cameras that the last OrvCam_RefreshDevices found; null for an index that is not below
  * OrvCam_GetDeviceCount. It belongs to the system, is not to be released and stays valid as long as
- * the system, also when the camera disappears.
+ * the system, also when the camera disappears; only after more than 1024 cameras on one interface a
+ * new one may get the record of one that is gone.
  */
 ORVCAMERAAPI_EXPORT OrvCamDeviceInfo *OrvCam_GetDeviceInfo(OrvCamSystem *system, uint32_t index);
 

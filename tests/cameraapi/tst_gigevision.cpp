@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cameratestsupport.h"
 
+#include <cameracrowd.h>
 #include <cameranetwork.h>
 
 #include <QRegularExpression>
@@ -8,6 +9,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <set>
 
 using namespace OrvCam;
 
@@ -30,6 +32,7 @@ private slots:
     void notConnected();
     void withoutAddress();
     void sharedMacAddress();
+    void manyCamerasComeAndGo();
     void strangeAnswers_data();
     void strangeAnswers();
     void wrongSubnetAndForcedIp();
@@ -333,6 +336,33 @@ void TestGigEVision::sharedMacAddress()
     int32_t error = Success;
     const Released<Device> device(OrvCam_CreateDevice(cameras.back(), &error, AccessControl));
     QCOMPARE(error, int32_t(ErrorWrongSubnet));
+}
+
+/// What is kept of them has a limit, and what has been handed out stays.
+void TestGigEVision::manyCamerasComeAndGo()
+{
+    auto settings = m_second->cameraSettings(0x020000000001, "10.2.0.2");
+    settings.description = "<RegisterDescription><Category Name=\"Root\"/></RegisterDescription>";
+    auto camera = std::make_unique<TestCamera>(settings);
+    const Released<Device> device(
+        OrvCam_CreateDevice(camerasOf(*interface("orv1")).front(), nullptr, AccessControl));
+    QVERIFY(device);
+    camera.reset();
+    CameraCrowd crowd(m_second->farNamespace().toStdString(), {});
+    std::set<DeviceInfo *> records;
+    for (uint64_t round = 1; round < 12; ++round) {
+        CameraCrowd::Claims claims;
+        for (uint64_t i = 0; i < 256; ++i)
+            claims.push_back({0x020000000000 | round << 8 | i, 0x0A020002, ""});
+        crowd.setClaims(claims);
+        const auto cameras = camerasOf(*interface("orv1"));
+        QCOMPARE(cameras.size(), claims.size());
+        const QByteArray id = cameras.front()->GetId();
+        QVERIFY(id.startsWith("02:00:00:00:") && id.mid(12, 2).toInt(nullptr, 16) == int(round));
+        records.insert(cameras.begin(), cameras.end());
+    }
+    QCOMPARE(records.size(), size_t(1023));
+    QCOMPARE(device->GetDeviceInfo()->GetId(), "02:00:00:00:00:01");
 }
 
 Q_DECLARE_METATYPE(TestCameraBehaviour)

@@ -22,8 +22,7 @@ public:
     /// Network adapters are searched all at once: after the first one's turn, each of the others
     /// answers its next call at once from what came then, if that call follows within half a second
     /// and gives no longer time. An adapter without carrier is not waited for. Cameras beyond the
-    /// first 256 are not listed, and those beyond the 4096 that an interface has ever listed; the
-    /// description gives their number.
+    /// first 256 are not listed; the description gives their number.
     ///
     /// The positions of the cameras may change, so let nobody look for cameras while a window is
     /// open that shows them, such as a camera picker. Returns an `ErrorCode`.
