@@ -82,6 +82,8 @@ GvInterface::GvInterface(CameraSystem &system, NetworkAdapter adapter,
 
 void GvInterface::setAdapter(NetworkAdapter adapter)
 {
+    if (m_isForcing)
+        return;
     m_adapter = std::move(adapter);
     describe();
     m_parameters.networkChanged();
@@ -104,6 +106,8 @@ OrvGenParam::Array *GvInterface::GetParamArray(int32_t *error)
 
 int32_t GvInterface::discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found)
 {
+    if (m_isForcing) // that thread uses what this would change
+        return ErrorBusy;
     auto result = m_search.camerasOf(m_adapter.name, std::chrono::milliseconds(timeoutMs));
     m_addresses.clear();
     for (const GvCamera &camera : result.cameras) {
@@ -156,9 +160,11 @@ int32_t GvInterface::forceIp(const GevAddresses &wanted)
         return concerned.empty() ? ErrorGone : ErrorNotAvailable;
 
     m_isGivenUp = false;
+    m_isForcing = true;
     const auto isGivenUp = [this] { return m_isGivenUp.load(); };
     const int32_t error = codeOf(OrvGigEVision::forceIp(m_adapter, wanted.mac, wanted.ip,
                                                         wanted.mask, wanted.gateway, isGivenUp));
+    m_isForcing = false;
     if (error != Success)
         return error;
     m_addresses.at(concerned.front()->facts().id) = wanted;

@@ -42,7 +42,8 @@ private:
     OrvGigEVision::NetworkAdapter m_adapter;
     std::map<std::string, GevAddresses> m_addresses; ///< of the last search, by camera id
     std::size_t m_unlisted = 0;                      ///< cameras beyond those listed, likewise
-    std::atomic<bool> m_isGivenUp{false};            ///< the present forcing of an address
+    std::atomic<bool> m_isForcing{false};            ///< an address, on another thread
+    std::atomic<bool> m_isGivenUp{false};            ///< that
     GevParameters m_parameters;
 };
 

@@ -38,6 +38,7 @@ private slots:
     void wrongSubnetAndForcedIp();
     void forcedIpOnABadDay_data();
     void forcedIpOnABadDay();
+    void forcedIpGivenUp();
     void unplugAndReplug();
     void controlTakenAway();
     void cablePulled();
@@ -495,6 +496,28 @@ void TestGigEVision::forcedIpOnABadDay()
     QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"),
              int64_t(isDone ? 0x0A010002 : 0xA9FE0715));
     QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"), int64_t(0x0A010002));
+}
+
+void TestGigEVision::forcedIpGivenUp()
+{
+    TestCamera wrong(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
+    Interface *first = interface("orv0");
+    const auto cameras = camerasOf(*first);
+    wrong.setMood("force-ip-ignored");
+    OrvGenParam::Array *array = first->GetParamArray();
+    array->SetIntegerValue("DeviceSelector", 0);
+    array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
+    int32_t error = Success;
+    std::thread other([&] { error = array->ExecuteCommand("GevDeviceForceIP"); });
+    QTRY_VERIFY(!wrong.forcedIps().empty());
+    QCOMPARE(first->RefreshDevices(nullptr, 200), int32_t(ErrorBusy));
+    QElapsedTimer timer;
+    timer.start();
+    dynamic_cast<AddressForcing &>(*first).giveUp();
+    other.join();
+    QVERIFY(timer.elapsed() < 500);
+    QCOMPARE(error, int32_t(ErrorTimeout));
+    QCOMPARE(camerasOf(*first), cameras);
 }
 
 void TestGigEVision::unplugAndReplug()

@@ -24,8 +24,9 @@ public:
     /// and gives no longer time. An adapter without carrier is not waited for. Cameras beyond the
     /// first 256 are not listed; the description gives their number.
     ///
-    /// The positions of the cameras may change, so let nobody look for cameras while a window is
-    /// open that shows them, such as a camera picker. Returns an `ErrorCode`.
+    /// The positions of the cameras may change, so do not look for cameras while a window is open
+    /// that shows them, such as a camera picker. Returns an `ErrorCode`, `ErrorBusy` while another
+    /// thread executes "GevDeviceForceIP" of this interface.
     virtual int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) = 0;
 
     /// The cameras found by the last `RefreshDevices`, always in the same order; the position is
