@@ -17,7 +17,7 @@ struct Cameras
     Q_DECLARE_TR_FUNCTIONS(Cameras)
 };
 
-const quint32 DiscoveryTime = 200; // ms on each interface
+const quint32 DiscoveryTime = 200; // ms, on all network adapters at once
 
 std::vector<OrvCam::Interface *> foundInterfaces(OrvCam::System &system)
 {

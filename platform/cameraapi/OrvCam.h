@@ -2,6 +2,7 @@
 #pragma once
 
 // The camera system, its interfaces and cameras.
+#include <OrvCam/AddressForcing.h>
 #include <OrvCam/Codes.h>
 #include <OrvCam/Device.h>
 #include <OrvCam/DeviceInfo.h>

@@ -5,9 +5,15 @@
 
 #include <OrvCam/Version.h>
 
+#include <cameraio/limits.h>
+
 #include <algorithm>
+#include <map>
+#include <set>
 
 namespace OrvCam {
+
+namespace Limits = OrvCameraIo::Limits;
 
 namespace {
 
@@ -29,11 +35,40 @@ CameraInterface::CameraInterface(CameraSystem &system, std::string description,
 {
 }
 
-DeviceRecord *CameraInterface::record(const std::string &id) const
+void CameraInterface::setDescription(const std::string &description)
 {
-    const auto found = std::find_if(m_records.begin(), m_records.end(),
-                                    [&](const auto &r) { return r->facts().id == id; });
-    return found == m_records.end() ? nullptr : found->get();
+    // The text stays where it is when nothing has changed.
+    if (description != m_description)
+        m_description = description;
+}
+
+/// Null when none of the known cameras is gone.
+CameraInterface::Known *CameraInterface::longestGone()
+{
+    Known *longest = nullptr;
+    for (Known &known : m_known) {
+        if (known.lastSeen != m_search && !known.record->isInUse() &&
+            (!longest || known.lastSeen < longest->lastSeen))
+            longest = &known;
+    }
+    return longest;
+}
+
+/// Makes a new camera known; where it is.
+std::size_t CameraInterface::placeFor(DeviceFacts &&facts)
+{
+    auto connector = makeConnector(facts);
+    const std::string id = facts.id;
+    Known *reused = m_known.size() < Limits::knownCameras ? nullptr : longestGone();
+    if (reused) {
+        m_places.erase(reused->record->facts().id);
+        reused->record->become(std::move(facts), std::move(connector));
+        reused->lastSeen = m_search;
+        return m_places[id] = static_cast<std::size_t>(reused - m_known.data());
+    }
+    m_known.push_back(
+        {std::make_unique<DeviceRecord>(*this, std::move(facts), std::move(connector)), m_search});
+    return m_places[id] = m_known.size() - 1;
 }
 
 int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
@@ -45,30 +80,27 @@ int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
     if (error != Success)
         return error;
 
-    // Answers come in any order; those that are new are given a reproducible one.
-    std::sort(found.begin(), found.end(),
-              [](const DeviceFacts &a, const DeviceFacts &b) { return a.id < b.id; });
+    ++m_search;
     bool differs = false;
-    std::vector<DeviceRecord *> present;
+    std::set<std::size_t> places;
+    std::map<std::string, DeviceFacts> added; // answers come in any order, these get one by id
     for (DeviceFacts &facts : found) {
-        DeviceRecord *known = record(facts.id);
-        if (known) {
-            differs |= known->update(std::move(facts));
-        } else {
-            auto connector = makeConnector(facts);
-            m_records.push_back(
-                std::make_unique<DeviceRecord>(*this, std::move(facts), std::move(connector)));
-            known = m_records.back().get();
+        const auto known = m_places.find(facts.id);
+        if (known == m_places.end()) {
+            added[facts.id] = std::move(facts);
+            continue;
         }
-        present.push_back(known);
+        differs |= m_known[known->second].record->update(std::move(facts));
+        m_known[known->second].lastSeen = m_search;
+        places.insert(known->second);
     }
-    const auto age = [this](const DeviceRecord *wanted) {
-        return std::find_if(m_records.begin(), m_records.end(),
-                            [&](const auto &r) { return r.get() == wanted; });
-    };
-    std::sort(present.begin(), present.end(),
-              [&](const DeviceRecord *a, const DeviceRecord *b) { return age(a) < age(b); });
-    differs |= present != m_present;
+    for (auto &[id, facts] : added)
+        places.insert(placeFor(std::move(facts)));
+
+    std::vector<DeviceRecord *> present;
+    for (const std::size_t place : places)
+        present.push_back(m_known[place].record.get());
+    differs |= !added.empty() || present != m_present;
     m_present = std::move(present);
     if (changed)
         *changed = differs;

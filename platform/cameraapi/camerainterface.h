@@ -5,16 +5,21 @@
 
 #include <OrvCam/Interface.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace OrvCam {
 
 class CameraSystem;
 
-/// What every interface does with the cameras that it finds: it keeps a record of each, for good,
-/// and hands out those that are there, in the order in which they were first seen.
+/// What every interface does with the cameras that it finds: it keeps a record of each and hands
+/// out those that are there, in the order in which they were first seen. Records that were handed
+/// out must stay; when there are `Limits::knownCameras`, a new camera gets that of the one that has
+/// been gone the longest.
 class CameraInterface : public Interface
 {
 public:
@@ -33,7 +38,7 @@ public:
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
 
 protected:
-    void setDescription(std::string description) { m_description = std::move(description); }
+    void setDescription(const std::string &description);
 
     /// Looks for cameras, for at most so long. Returns an `ErrorCode`.
     virtual int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) = 0;
@@ -45,13 +50,22 @@ protected:
     virtual void refreshed() {}
 
 private:
-    DeviceRecord *record(const std::string &id) const;
+    struct Known
+    {
+        std::unique_ptr<DeviceRecord> record;
+        uint64_t lastSeen; ///< number of the search
+    };
+
+    std::size_t placeFor(DeviceFacts &&facts);
+    Known *longestGone();
 
     CameraSystem &m_system;
     std::string m_description;
     const int32_t m_transportKind;
-    std::vector<std::unique_ptr<DeviceRecord>> m_records;
+    std::vector<Known> m_known;
+    std::unordered_map<std::string, std::size_t> m_places; ///< in `m_known`, by camera id
     std::vector<DeviceRecord *> m_present;
+    uint64_t m_search = 0;
 };
 
 } // namespace OrvCam

@@ -13,13 +13,20 @@ namespace {
 auto tied(const DeviceFacts &facts)
 {
     return std::tie(facts.vendor, facts.model, facts.serial, facts.version, facts.userName,
-                    facts.id, facts.accessState);
+                    facts.id, facts.remark, facts.accessState);
 }
 
 const char *textOrNull(const std::optional<std::string> &text)
 {
     return text ? text->c_str() : nullptr;
 }
+
+/// What an open camera keeps alive.
+struct Owner
+{
+    std::shared_ptr<CameraSystem> system;
+    std::shared_ptr<void> use;
+};
 
 } // namespace
 
@@ -31,25 +38,35 @@ bool DeviceFacts::operator==(const DeviceFacts &other) const
 std::string DeviceFacts::displayName() const
 {
     const auto &detail = userName ? userName : serial;
+    const std::string appended = remark.empty() ? remark : " - " + remark;
     if (!model)
-        return detail.value_or(id);
-    return detail ? *model + " (" + *detail + ")" : *model;
+        return detail.value_or(id) + appended;
+    return (detail ? *model + " (" + *detail + ")" : *model) + appended;
 }
 
 DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
                            std::shared_ptr<CameraConnector> connector)
     : m_parent(parent)
     , m_facts(std::move(facts))
+    , m_accessState(m_facts.accessState)
     , m_displayName(m_facts.displayName())
     , m_connector(std::move(connector))
+    , m_use(std::make_shared<char>())
 {
+}
+
+void DeviceRecord::become(DeviceFacts facts, std::shared_ptr<CameraConnector> connector)
+{
+    update(std::move(facts));
+    m_connector = std::move(connector);
 }
 
 bool DeviceRecord::update(DeviceFacts facts)
 {
+    const bool isSameState = m_accessState.exchange(facts.accessState) == facts.accessState;
     // The texts stay where they are when nothing has changed.
     if (facts == m_facts)
-        return false;
+        return !isSameState;
     m_facts = std::move(facts);
     m_displayName = m_facts.displayName();
     return true;
@@ -67,8 +84,8 @@ Device *DeviceRecord::open(int32_t accessMode, int32_t &error)
 DeviceOpener::Open DeviceRecord::opener()
 {
     // The record is the system's, and stays where it is as long as that.
-    return [this, system = m_parent.system().shared_from_this(),
-            connector = m_connector](const Request &request) {
+    const auto owner = std::make_shared<Owner>(Owner{m_parent.system().shared_from_this(), m_use});
+    return [this, owner, connector = m_connector](const Request &request) {
         Result result;
         result.error = ErrorAccessDenied;
         if (!connector)
@@ -76,7 +93,7 @@ DeviceOpener::Open DeviceRecord::opener()
         const OpenProgress progress{request.report, request.isCancelled,
                                     [&](const std::string &reason) { result.reason = reason; }};
         try {
-            result.device = CameraDevice::open(system, *this, connector, request.accessMode,
+            result.device = CameraDevice::open(owner, *this, connector, request.accessMode,
                                                result.error, progress, request.homeThread);
         } catch (...) {
             result.error = ErrorFailed;

@@ -2,6 +2,8 @@
 #include "gevparameters.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <utility>
 
 using namespace OrvGenApi;
@@ -142,7 +144,8 @@ void GevParameters::networkChanged()
     m_selector->setLimits(0, count ? count - 1 : 0);
     const auto row = static_cast<std::size_t>(m_row);
     if (row < former.size())
-        follow(former[row].mac);
+        follow(former[row]);
+    forgetOthers();
     m_selector->setAccessMode(count ? GenApi::RW : GenApi::NA);
     for (MemoryInteger *node : m_cameraNodes)
         node->setAccessMode(count ? GenApi::RO : GenApi::NA);
@@ -153,15 +156,31 @@ void GevParameters::networkChanged()
         node->changed();
 }
 
-/// Keeps a camera selected, wherever it is listed now. No other one takes its place unasked.
-void GevParameters::follow(uint64_t mac)
+/// Keeps a camera selected, wherever it is listed now. No other one takes its place unasked, also
+/// none with the same MAC address.
+void GevParameters::follow(const GevAddresses &camera)
 {
-    const auto camera =
-        std::find_if(m_cameras.begin(), m_cameras.end(),
-                     [mac](const GevAddresses &candidate) { return candidate.mac == mac; });
-    const int64_t row = camera == m_cameras.end() ? noRow : camera - m_cameras.begin();
+    std::vector<std::size_t> same;
+    for (std::size_t row = 0; row < m_cameras.size(); ++row) {
+        if (m_cameras[row].mac == camera.mac)
+            same.push_back(row);
+    }
+    const auto found = std::find_if(same.begin(), same.end(), [&](std::size_t row) {
+        return same.size() == 1 || m_cameras[row].ip == camera.ip;
+    });
+    const int64_t row = found == same.end() ? noRow : static_cast<int64_t>(*found);
     if (row != m_row)
         m_selector->change(row);
+}
+
+/// What was to be forced on cameras that are gone.
+void GevParameters::forgetOthers()
+{
+    std::set<uint64_t> present;
+    for (const GevAddresses &camera : m_cameras)
+        present.insert(camera.mac);
+    for (auto forced = m_forced.begin(); forced != m_forced.end();)
+        forced = present.count(forced->first) ? std::next(forced) : m_forced.erase(forced);
 }
 
 } // namespace OrvCam

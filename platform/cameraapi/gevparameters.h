@@ -42,7 +42,8 @@ public:
 
 /// The parameters of a GigE Vision interface: its own addresses, those of the camera that
 /// "DeviceSelector" selects, and the addresses to force on that camera. What is to be forced is
-/// kept for each camera and is the camera's present configuration until it is set.
+/// kept for each camera, as long as it is there, and is the camera's present configuration until it
+/// is set.
 ///
 /// The selection follows its camera when the list of cameras changes. When the camera is no longer
 /// there, "DeviceSelector" is -1 and what depends on it cannot be read, until a camera is selected.
@@ -68,7 +69,8 @@ private:
     GevAddresses selected() const;
     GevAddresses forced() const;
     void force();
-    void follow(uint64_t mac);
+    void follow(const GevAddresses &camera);
+    void forgetOthers();
 
     GevNetwork &m_network;
     std::vector<GevAddresses> m_cameras;

@@ -17,6 +17,14 @@ constexpr std::size_t descriptionSize = 64u << 20;
 /// The longest one as the camera sends it, zipped or not.
 constexpr std::size_t downloadSize = 64u << 20;
 
+/// The files and folders of a zipped one.
+constexpr std::size_t archiveEntries = 100;
+
+/// The descriptions that are kept for later, and what their files may hold in all, in bytes; those
+/// used longest ago go.
+constexpr std::size_t keptDescriptions = 100;
+constexpr uint64_t keptSize = 256u << 20;
+
 /// Nodes of a description, entries of enumerations included.
 constexpr std::size_t nodeCount = 500000;
 
@@ -82,5 +90,15 @@ constexpr std::chrono::milliseconds heartbeat{3000};
 
 /// The cameras that are listed of one network adapter.
 constexpr std::size_t camerasPerAdapter = 256;
+
+/// The cameras, present or gone, that an interface has records of. These are handed out and cannot
+/// be deleted; a further camera gets the one of the camera that has been gone the longest.
+constexpr std::size_t knownCameras = 1024;
+
+/// A camera that has acknowledged a new address has so long to come back with it.
+constexpr std::chrono::milliseconds forcedIpBudget{10000};
+
+/// One that has not even done that, although the command was repeated.
+constexpr std::chrono::milliseconds forcedIpSilence{5000};
 
 } // namespace OrvCameraIo::Limits

@@ -15,12 +15,12 @@ namespace OrvCam {
 
 namespace {
 
-/// How long a camera may take to come up with an address that was forced on it.
-constexpr std::chrono::seconds forceTime{5};
-
-std::string describe(const NetworkAdapter &adapter)
+std::string descriptionOf(const NetworkAdapter &adapter)
 {
-    return adapter.name + " (" + OrvGigEVision::ipText(adapter.addresses.front().ip) + ")";
+    std::string text = adapter.name + " (";
+    text += adapter.addresses.empty() ? "no IPv4 address"
+                                      : OrvGigEVision::ipText(adapter.addresses.front().ip);
+    return text + (adapter.isConnected ? ")" : ", not connected)");
 }
 
 std::optional<std::string> textOrNothing(const std::string &bytes)
@@ -63,14 +63,18 @@ DeviceFacts factsOf(const GvCamera &camera)
     facts.serial = textOrNothing(camera.identity.serial);
     facts.version = textOrNothing(camera.identity.version);
     facts.userName = textOrNothing(camera.identity.userName);
+    if (camera.isNameShared)
+        facts.remark = camera.identity.mac ? "MAC address used twice" : "serial number used twice";
     facts.accessState = accessStateOf(camera);
     return facts;
 }
 
 } // namespace
 
-GvInterface::GvInterface(CameraSystem &system, NetworkAdapter adapter)
-    : CameraInterface(system, describe(adapter), TransportGigEVision)
+GvInterface::GvInterface(CameraSystem &system, NetworkAdapter adapter,
+                         OrvGigEVision::NetworkSearch &search)
+    : CameraInterface(system, descriptionOf(adapter), TransportGigEVision)
+    , m_search(search)
     , m_adapter(std::move(adapter))
     , m_parameters(*this)
 {
@@ -78,9 +82,19 @@ GvInterface::GvInterface(CameraSystem &system, NetworkAdapter adapter)
 
 void GvInterface::setAdapter(NetworkAdapter adapter)
 {
+    if (m_isForcing)
+        return;
     m_adapter = std::move(adapter);
-    setDescription(describe(m_adapter));
+    describe();
     m_parameters.networkChanged();
+}
+
+void GvInterface::describe()
+{
+    std::string text = descriptionOf(m_adapter);
+    if (m_unlisted > 0)
+        text += " - " + std::to_string(m_unlisted) + " more cameras are not listed";
+    setDescription(text);
 }
 
 OrvGenParam::Array *GvInterface::GetParamArray(int32_t *error)
@@ -92,12 +106,18 @@ OrvGenParam::Array *GvInterface::GetParamArray(int32_t *error)
 
 int32_t GvInterface::discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found)
 {
-    for (const GvCamera &camera :
-         OrvGigEVision::discoverCameras(m_adapter, std::chrono::milliseconds(timeoutMs))) {
+    if (m_isForcing) // that thread uses what this would change
+        return ErrorBusy;
+    auto result = m_search.camerasOf(m_adapter.name, std::chrono::milliseconds(timeoutMs));
+    m_addresses.clear();
+    for (const GvCamera &camera : result.cameras) {
         found.push_back(factsOf(camera));
         const auto &identity = camera.identity;
         m_addresses[found.back().id] = {identity.mac, identity.ip, identity.mask, identity.gateway};
     }
+    m_unlisted = result.unlisted;
+    if (!result.adapter.name.empty())
+        m_adapter = std::move(result.adapter);
     return Success;
 }
 
@@ -108,11 +128,14 @@ std::shared_ptr<CameraConnector> GvInterface::makeConnector(const DeviceFacts &f
 
 void GvInterface::refreshed()
 {
+    describe();
     m_parameters.networkChanged();
 }
 
 GevAddresses GvInterface::adapter() const
 {
+    if (m_adapter.addresses.empty())
+        return {m_adapter.mac, 0, 0, 0};
     const auto &address = m_adapter.addresses.front();
     return {m_adapter.mac, address.ip, address.mask, 0};
 }
@@ -127,18 +150,26 @@ std::vector<GevAddresses> GvInterface::cameras() const
 
 int32_t GvInterface::forceIp(const GevAddresses &wanted)
 {
+    std::vector<DeviceRecord *> concerned;
+    for (DeviceRecord *record : present()) {
+        if (m_addresses.at(record->facts().id).mac == wanted.mac)
+            concerned.push_back(record);
+    }
+    // The command names the camera by its MAC address and would change each of them.
+    if (concerned.size() != 1)
+        return concerned.empty() ? ErrorGone : ErrorNotAvailable;
+
+    m_isGivenUp = false;
+    m_isForcing = true;
+    const auto isGivenUp = [this] { return m_isGivenUp.load(); };
     const int32_t error = codeOf(OrvGigEVision::forceIp(m_adapter, wanted.mac, wanted.ip,
-                                                        wanted.mask, wanted.gateway, forceTime));
+                                                        wanted.mask, wanted.gateway, isGivenUp));
+    m_isForcing = false;
     if (error != Success)
         return error;
-    for (DeviceRecord *record : present()) {
-        GevAddresses &addresses = m_addresses.at(record->facts().id);
-        if (addresses.mac != wanted.mac)
-            continue;
-        addresses = wanted;
-        record->setAccessState(m_adapter.addressFor(wanted.ip) ? AccessReadWrite
-                                                               : AccessSubnetMismatch);
-    }
+    m_addresses.at(concerned.front()->facts().id) = wanted;
+    concerned.front()->setAccessState(m_adapter.addressFor(wanted.ip) ? AccessReadWrite
+                                                                      : AccessSubnetMismatch);
     return Success;
 }
 

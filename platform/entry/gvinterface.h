@@ -3,23 +3,29 @@
 
 #include <cameraapi/camerainterface.h>
 #include <cameraapi/gevparameters.h>
-#include <gigevision/networkadapter.h>
+#include <gigevision/networksearch.h>
 
+#include <OrvCam/AddressForcing.h>
+
+#include <atomic>
 #include <map>
 #include <string>
 
 namespace OrvCam {
 
 /// A network adapter as an interface of the camera system.
-class GvInterface final : public CameraInterface, private GevNetwork
+class GvInterface final : public CameraInterface, public AddressForcing, private GevNetwork
 {
 public:
-    GvInterface(CameraSystem &system, OrvGigEVision::NetworkAdapter adapter);
+    /// The search is that of all network adapters and outlives the interface.
+    GvInterface(CameraSystem &system, OrvGigEVision::NetworkAdapter adapter,
+                OrvGigEVision::NetworkSearch &search);
 
-    /// Takes over what may have changed: addresses come and go.
+    /// Takes over what may have changed: addresses come and go, and so does the carrier.
     void setAdapter(OrvGigEVision::NetworkAdapter adapter);
 
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
+    void giveUp() override { m_isGivenUp = true; }
 
 private:
     int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) override;
@@ -30,8 +36,14 @@ private:
     std::vector<GevAddresses> cameras() const override;
     int32_t forceIp(const GevAddresses &wanted) override;
 
+    void describe();
+
+    OrvGigEVision::NetworkSearch &m_search;
     OrvGigEVision::NetworkAdapter m_adapter;
-    std::map<std::string, GevAddresses> m_addresses; ///< by camera id
+    std::map<std::string, GevAddresses> m_addresses; ///< of the last search, by camera id
+    std::size_t m_unlisted = 0;                      ///< cameras beyond those listed, likewise
+    std::atomic<bool> m_isForcing{false};            ///< an address, on another thread
+    std::atomic<bool> m_isGivenUp{false};            ///< that
     GevParameters m_parameters;
 };
 

@@ -9,7 +9,7 @@ GvInterface &HardwareSystem::interfaceFor(const OrvGigEVision::NetworkAdapter &a
     if (interface)
         interface->setAdapter(adapter);
     else
-        interface = std::make_unique<GvInterface>(*this, adapter);
+        interface = std::make_unique<GvInterface>(*this, adapter, m_search);
     return *interface;
 }
 

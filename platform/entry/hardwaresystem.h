@@ -20,6 +20,7 @@ protected:
 private:
     GvInterface &interfaceFor(const OrvGigEVision::NetworkAdapter &adapter);
 
+    OrvGigEVision::NetworkSearch m_search;
     std::map<std::string, std::unique_ptr<GvInterface>> m_networks; ///< by the adapter's name
 #ifdef ORV_WITH_ARAVIS
     UvInterface m_usb{*this};

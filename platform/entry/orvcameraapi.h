@@ -99,9 +99,10 @@ ORVCAMERAAPI_EXPORT OrvCamSystem *OrvCam_GetSystem(void);
 ORVCAMERAAPI_EXPORT void OrvCam_ReleaseSystem(OrvCamSystem *system);
 
 /*
- * Looks for cameras on every interface, for at most timeoutMs milliseconds on each, and blocks so
- * long; 200 finds every camera that behaves. Returns OrvCam_Success, or the error of the first
- * interface that could not be searched; the cameras of all others are found nevertheless.
+ * Looks for cameras on every interface, for at most timeoutMs milliseconds on all network adapters
+ * together, and blocks so long; 200 finds every camera that behaves. Returns OrvCam_Success, or the
+ * error of the first interface that could not be searched; the cameras of all others are found
+ * nevertheless.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvCam_RefreshDevices(OrvCamSystem *system, uint32_t timeoutMs);
 
@@ -111,7 +112,8 @@ ORVCAMERAAPI_EXPORT uint32_t OrvCam_GetDeviceCount(OrvCamSystem *system);
 /*
  * One of the cameras that the last OrvCam_RefreshDevices found; null for an index that is not below
  * OrvCam_GetDeviceCount. It belongs to the system, is not to be released and stays valid as long as
- * the system, also when the camera disappears.
+ * the system, also when the camera disappears; only after more than 1024 cameras on one interface a
+ * new one may get the record of one that is gone.
  */
 ORVCAMERAAPI_EXPORT OrvCamDeviceInfo *OrvCam_GetDeviceInfo(OrvCamSystem *system, uint32_t index);
 

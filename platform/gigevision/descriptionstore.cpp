@@ -1,21 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "descriptionstore.h"
 
+#include <cameraio/limits.h>
+
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <iterator>
+#include <memory>
+#include <tuple>
+#include <vector>
 
 namespace OrvGigEVision {
+
+namespace Limits = OrvCameraIo::Limits;
 
 namespace {
 
 const char magic[] = "OrvCamera description 1\n";
+
+/// What has been half written for so long was left behind, in seconds.
+constexpr std::time_t abandonedAfter = 3600;
 
 class FileDescriptor
 {
@@ -127,6 +141,77 @@ bool writeAll(int file, const std::string &bytes)
     return true;
 }
 
+struct KeptFile
+{
+    std::string name;
+    uint64_t size;
+    timespec lastUse;
+
+    bool operator<(const KeptFile &other) const // the one used last is the first
+    {
+        return std::tie(other.lastUse.tv_sec, other.lastUse.tv_nsec, other.name) <
+               std::tie(lastUse.tv_sec, lastUse.tv_nsec, name);
+    }
+};
+
+bool isName(const std::string &name)
+{
+    return name.size() == 16 && name.find_first_not_of("0123456789abcdef") == std::string::npos;
+}
+
+/// As `keep` names a file while it writes it.
+bool isTemporaryName(const std::string &name)
+{
+    return name.size() > 18 && name[0] == '.' && isName(name.substr(1, 16)) && name[17] == '.' &&
+           name.find_first_not_of("0123456789.", 17) == std::string::npos;
+}
+
+/// The user may have pointed us to a folder with files of other programs.
+bool isDescription(int folder, const std::string &name)
+{
+    const FileDescriptor file(
+        openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    char start[sizeof magic - 1];
+    return file >= 0 && read(file, start, sizeof start) == sizeof start &&
+           std::equal(std::begin(start), std::end(start), magic);
+}
+
+/// The descriptions in the folder. What has been half written for long is removed.
+std::vector<KeptFile> keptFiles(int folder)
+{
+    std::vector<KeptFile> files;
+    const std::unique_ptr<DIR, int (*)(DIR *)> entries(
+        fdopendir(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)), closedir);
+    while (const dirent *entry = entries ? readdir(entries.get()) : nullptr) {
+        const std::string name = entry->d_name;
+        struct stat facts = {};
+        if ((!isName(name) && !isTemporaryName(name)) ||
+            fstatat(folder, name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0 ||
+            !S_ISREG(facts.st_mode) || facts.st_uid != geteuid())
+            continue;
+        if (isName(name))
+            files.push_back({name, static_cast<uint64_t>(facts.st_size), facts.st_mtim});
+        else if (facts.st_mtim.tv_sec + abandonedAfter < std::time(nullptr))
+            unlinkat(folder, name.c_str(), 0);
+    }
+    return files;
+}
+
+/// Removes what is too much. Who is reading one of the files can read on.
+void prune(int folder, const std::string &newest)
+{
+    std::vector<KeptFile> files = keptFiles(folder);
+    std::sort(files.begin(), files.end());
+    uint64_t size = 0;
+    std::size_t count = 0;
+    for (const KeptFile &file : files) {
+        size += file.size;
+        const bool fits = ++count <= Limits::keptDescriptions && size <= Limits::keptSize;
+        if (!fits && file.name != newest && isDescription(folder, file.name))
+            unlinkat(folder, file.name.c_str(), 0);
+    }
+}
+
 } // namespace
 
 DescriptionStore DescriptionStore::ofUser()
@@ -159,6 +244,7 @@ std::optional<std::string> DescriptionStore::find(const Key &key) const
     std::string bytes = contents->substr(headerSize);
     if (contents->compare(0, headerSize, headerText(key, bytes)) != 0)
         return std::nullopt;
+    futimens(file, nullptr);
     return bytes;
 }
 
@@ -185,6 +271,7 @@ void DescriptionStore::keep(const Key &key, const std::string &bytes) const
     }
     if (!isWritten || renameat(folder, temporary.c_str(), folder, name.c_str()) != 0)
         unlinkat(folder, temporary.c_str(), 0);
+    prune(folder, name);
 }
 
 } // namespace OrvGigEVision

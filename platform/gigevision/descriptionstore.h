@@ -10,7 +10,9 @@ namespace OrvGigEVision {
 /// The descriptions that cameras have sent, kept in a folder so that they are not sent again.
 ///
 /// Files that are damaged, that belong to another user or whose name fits by chance only count as
-/// missing. Nothing throws, and what cannot be kept is not.
+/// missing. Nothing throws, and what cannot be kept is not. When there are more than
+/// `Limits::keptDescriptions`, or they hold more than `Limits::keptSize`, those used longest ago
+/// are removed. No other files in the folder are touched.
 class DescriptionStore
 {
 public:
@@ -31,8 +33,8 @@ public:
     /// "orvcameraapi" below the user's folder for such things.
     static DescriptionStore ofUser();
 
-    /// The `key.size` bytes as the camera has sent them. Whether it would send the same is for the
-    /// caller to find out.
+    /// The `key.size` bytes as the camera has sent them, which counts as use. Whether it would send
+    /// the same is for the caller to find out.
     std::optional<std::string> find(const Key &key) const;
 
     void keep(const Key &key, const std::string &bytes) const;

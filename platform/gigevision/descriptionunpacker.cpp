@@ -61,6 +61,19 @@ bool isXmlName(std::string name)
            name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 
+/// True when the directory may have so many entries that reading it is an effort. Counts what each
+/// entry begins with, since the number in the archive can be a lie.
+bool hasManyEntries(const std::string &bytes)
+{
+    static const std::string mark = "PK\1\2";
+    std::size_t count = 0;
+    for (auto at = bytes.find(mark); at != std::string::npos; at = bytes.find(mark, at + 1)) {
+        if (++count > Limits::archiveEntries)
+            return true;
+    }
+    return false;
+}
+
 Archive openArchive(const std::string &bytes)
 {
     zip_source_t *source = zip_source_buffer_create(bytes.data(), bytes.size(), 0, nullptr);
@@ -120,6 +133,8 @@ UnpackedDescription unpackDescription(const std::string &bytes)
 {
     if (!startsWith(bytes, "PK"))
         return xmlText(bytes, "The camera's description is neither XML nor a zip archive.");
+    if (hasManyEntries(bytes))
+        return {std::string(), "The camera's zip archive holds too many files."};
     const Archive archive = openArchive(bytes);
     if (!archive)
         return {std::string(), "The camera's description is a damaged zip archive."};

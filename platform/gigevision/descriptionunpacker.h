@@ -14,8 +14,9 @@ struct UnpackedDescription
     std::string problem;
 };
 
-/// An archive must hold one file, or one whose name ends in ".xml". What would become longer than
-/// `Limits::descriptionSize` is not unpacked.
+/// An archive must hold one file, or one whose name ends in ".xml", and at most
+/// `Limits::archiveEntries` in all. What would become longer than `Limits::descriptionSize` is not
+/// unpacked.
 UnpackedDescription unpackDescription(const std::string &bytes);
 
 } // namespace OrvGigEVision

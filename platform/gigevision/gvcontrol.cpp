@@ -6,9 +6,6 @@
 #include <cameraio/limits.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <functional>
-#include <map>
 
 using namespace std::chrono;
 namespace Limits = OrvCameraIo::Limits;
@@ -20,167 +17,110 @@ namespace {
 /// After so long without an answer, a command may have been lost.
 constexpr milliseconds repetition{100};
 
-Control controlByPrivilege(const Gvcp::Acknowledge &answer)
-{
-    // A camera that is under exclusive control does not even let others read.
-    if (answer.status == Gvcp::StatusAccessDenied)
-        return Control::Taken;
-    const auto values = Gvcp::parseRegisters(answer, 1);
-    if (answer.status != Gvcp::StatusSuccess || !values)
-        return Control::Unknown;
-    return values->front() & Gvcp::controlPrivilegeMask ? Control::Taken : Control::Free;
-}
-
-/// One search for cameras.
-class Discovery
+/// Forcing a configuration on a camera and looking for it there.
+class Forcing
 {
 public:
-    enum class Ask { WhoTheyAre, WhoControlsThem };
-
-    explicit Discovery(const NetworkAdapter &adapter, Ask question = Ask::WhoTheyAre)
-        : m_adapter(adapter), m_question(question), m_socket(adapter), m_id(m_socket.nextId())
+    Forcing(const NetworkAdapter &adapter, const Gvcp::Identity &wanted)
+        : m_adapter(adapter), m_wanted(wanted), m_socket(adapter)
     {
     }
 
-    void ask() { m_socket.broadcast(Gvcp::discoveryCommand(m_id)); }
-
-    /// Listens until the time is up or `isEnough` says so of a camera that has just answered.
-    bool listen(Clock::time_point until, const std::function<bool(const GvCamera &)> &isEnough);
-
-    const std::vector<GvCamera> &cameras() const { return m_cameras; }
+    ForceResult run(const std::function<bool()> &isCancelled);
 
 private:
-    const GvCamera *meet(const Gvcp::Acknowledge &answer);
+    void ask();
+    std::optional<ForceResult> listen(Clock::time_point until);
+    bool isDone(const Gvcp::Acknowledge &answer) const;
 
     const NetworkAdapter &m_adapter;
-    const Ask m_question;
+    const Gvcp::Identity m_wanted;
     GvcpSocket m_socket;
-    const uint16_t m_id;
-    std::vector<GvCamera> m_cameras;
-    std::map<uint16_t, std::size_t> m_asked; ///< camera by the id of the question
+    const uint16_t m_forceId = m_socket.nextId();
+    const uint16_t m_discoveryId = m_socket.nextId();
+    Clock::time_point m_end = Clock::now() + Limits::forcedIpSilence;
+    Clock::time_point m_nextCommand = Clock::now();
+    milliseconds m_interval = repetition;
+    bool m_isAcknowledged = false;
 };
 
-bool Discovery::listen(Clock::time_point until,
-                       const std::function<bool(const GvCamera &)> &isEnough)
+ForceResult Forcing::run(const std::function<bool()> &isCancelled)
 {
-    while (const auto answer = m_socket.receive(until)) {
-        if (answer->is(Gvcp::Answer::Discovery, m_id)) {
-            const GvCamera *camera = meet(*answer);
-            if (camera && isEnough(*camera))
-                return true;
-            continue;
-        }
-        const auto asked = m_asked.find(answer->id);
-        if (asked != m_asked.end() && answer->is(Gvcp::Answer::ReadRegister, asked->first))
-            m_cameras[asked->second].control = controlByPrivilege(*answer);
+    while (Clock::now() < m_end && !(isCancelled && isCancelled())) {
+        ask();
+        if (const auto result = listen(std::min(m_end, Clock::now() + repetition)))
+            return *result;
     }
-    return false;
+    return ForceResult::NotSeen;
 }
 
-const GvCamera *Discovery::meet(const Gvcp::Acknowledge &answer)
+void Forcing::ask()
 {
-    const auto identity = Gvcp::parseIdentity(answer);
-    if (answer.status != Gvcp::StatusSuccess || !identity)
-        return nullptr;
-    GvCamera camera;
-    camera.identity = *identity;
-    camera.isReachable = m_adapter.addressFor(identity->ip) != nullptr;
-    const auto isSame = [&](const GvCamera &other) { return other.id() == camera.id(); };
-    const auto known = std::find_if(m_cameras.begin(), m_cameras.end(), isSame);
-    if (known != m_cameras.end()) {
-        known->identity = *identity;
-        known->isReachable = camera.isReachable;
-        return &*known;
+    const auto now = Clock::now();
+    if (!m_isAcknowledged && now >= m_nextCommand) {
+        m_socket.broadcast(Gvcp::forceIpCommand(m_forceId, m_wanted.mac, m_wanted.ip, m_wanted.mask,
+                                                m_wanted.gateway));
+        // Less and less often, since it may restart a camera whose acknowledge does not get here.
+        m_nextCommand = now + m_interval;
+        m_interval *= 2;
     }
-    if (m_cameras.size() >= Limits::camerasPerAdapter)
-        return nullptr;
+    m_socket.broadcast(Gvcp::discoveryCommand(m_discoveryId));
+}
 
-    if (camera.isReachable && m_question == Ask::WhoControlsThem) {
-        const uint16_t id = m_socket.nextId();
-        m_asked[id] = m_cameras.size();
-        m_socket.send(Gvcp::readRegistersCommand(id, {Gvcp::ControlPrivilege}), identity->ip);
+std::optional<ForceResult> Forcing::listen(Clock::time_point until)
+{
+    while (const auto answer = m_socket.receive(until)) {
+        if (answer->is(Gvcp::Answer::Discovery, m_discoveryId) && isDone(*answer))
+            return ForceResult::Done;
+        if (m_isAcknowledged || !answer->is(Gvcp::Answer::ForceIp, m_forceId))
+            continue;
+        if (answer->status != Gvcp::StatusSuccess)
+            return ForceResult::Refused;
+        // It may be silent for seconds while it changes its address.
+        m_isAcknowledged = true;
+        m_end = Clock::now() + Limits::forcedIpBudget;
     }
-    m_cameras.push_back(std::move(camera));
-    return &m_cameras.back();
+    return std::nullopt;
+}
+
+bool Forcing::isDone(const Gvcp::Acknowledge &answer) const
+{
+    const auto camera = parseCamera(answer, m_socket.sender(), m_adapter);
+    return camera && camera->identity.mac == m_wanted.mac && camera->identity.ip == m_wanted.ip &&
+           camera->identity.mask == m_wanted.mask;
 }
 
 } // namespace
-
-std::string GvCamera::id() const
-{
-    if (identity.mac == 0)
-        return identity.manufacturer + "-" + identity.serial;
-    char text[18];
-    std::snprintf(text, sizeof text, "%02X:%02X:%02X:%02X:%02X:%02X",
-                  static_cast<unsigned>(identity.mac >> 40 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 32 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 24 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 16 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 8 & 0xFF),
-                  static_cast<unsigned>(identity.mac & 0xFF));
-    return text;
-}
-
-std::vector<GvCamera> discoverCameras(const NetworkAdapter &adapter, milliseconds time)
-{
-    const auto start = Clock::now();
-    const auto never = [](const GvCamera &) { return false; };
-    Discovery discovery(adapter, Discovery::Ask::WhoControlsThem);
-    // Twice, because the first packet to a camera is the one that gets lost.
-    discovery.ask();
-    discovery.listen(start + time / 2, never);
-    discovery.ask();
-    discovery.listen(start + time, never);
-    return discovery.cameras();
-}
 
 std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::string &id,
                                    milliseconds time, const std::function<bool()> &isCancelled)
 {
     const auto end = Clock::now() + time;
-    std::optional<GvCamera> found;
-    const auto isWanted = [&](const GvCamera &camera) {
-        if (camera.id() == id)
-            found = camera;
-        return found.has_value();
-    };
-    Discovery discovery(adapter);
+    GvcpSocket socket(adapter);
+    const uint16_t commandId = socket.nextId();
     do {
-        discovery.ask();
-    } while (!discovery.listen(std::min(end, Clock::now() + repetition), isWanted) &&
-             Clock::now() < end && !(isCancelled && isCancelled()));
-    return found;
+        socket.broadcast(Gvcp::discoveryCommand(commandId));
+        const auto until = std::min(end, Clock::now() + repetition);
+        while (const auto answer = socket.receive(until)) {
+            if (!answer->is(Gvcp::Answer::Discovery, commandId))
+                continue;
+            auto camera = parseCamera(*answer, socket.sender(), adapter);
+            if (camera && camera->isCalled(id))
+                return camera;
+        }
+    } while (Clock::now() < end && !(isCancelled && isCancelled()));
+    return std::nullopt;
 }
 
 ForceResult forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
-                    uint32_t gateway, milliseconds time)
+                    uint32_t gateway, const std::function<bool()> &isCancelled)
 {
-    const auto end = Clock::now() + time;
-    {
-        GvcpSocket socket(adapter);
-        const uint16_t id = socket.nextId();
-        socket.broadcast(Gvcp::forceIpCommand(id, mac, ip, mask, gateway));
-        while (const auto answer = socket.receive(std::min(end, Clock::now() + repetition))) {
-            if (!answer->is(Gvcp::Answer::ForceIp, id))
-                continue;
-            if (answer->status != Gvcp::StatusSuccess)
-                return ForceResult::Refused;
-            break;
-        }
-    }
-
-    // Cameras may be silent for seconds while they change their address.
-    const auto isThere = [&](const GvCamera &camera) {
-        return camera.identity.mac == mac && camera.identity.ip == ip &&
-               camera.identity.mask == mask;
-    };
-    Discovery discovery(adapter);
-    do {
-        discovery.ask();
-        if (discovery.listen(std::min(end, Clock::now() + repetition), isThere))
-            return ForceResult::Done;
-    } while (Clock::now() < end);
-    return ForceResult::NotSeen;
+    Gvcp::Identity wanted;
+    wanted.mac = mac;
+    wanted.ip = ip;
+    wanted.mask = mask;
+    wanted.gateway = gateway;
+    return Forcing(adapter, wanted).run(isCancelled);
 }
 
 } // namespace OrvGigEVision

@@ -1,38 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "gvcp.h"
-#include "networkadapter.h"
+#include "gvcamera.h"
 
 #include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace OrvGigEVision {
-
-/// Whether somebody controls a camera.
-enum class Control { Free, Taken, Unknown };
-
-/// A GigE Vision camera that answered.
-struct GvCamera
-{
-    Gvcp::Identity identity;
-    Control control = Control::Unknown;
-
-    /// False when its address is in none of the adapter's subnets.
-    bool isReachable = false;
-
-    /// MAC address, or manufacturer and serial number of a camera that does not tell its MAC
-    /// address. The same for one camera at all times.
-    std::string id() const;
-};
-
-/// The cameras behind the adapter, each once, and whether they can be opened. Takes exactly so
-/// long; what comes later is not waited for.
-std::vector<GvCamera> discoverCameras(const NetworkAdapter &adapter,
-                                      std::chrono::milliseconds time);
 
 /// The camera with that id, as soon as it answers; nothing when it does not in time. Who controls
 /// it is not asked.
@@ -46,8 +22,10 @@ enum class ForceResult {
     NotSeen ///< the camera has not answered with the new configuration in time
 };
 
-/// Gives the camera of that MAC address a new configuration and waits until it answers with it.
+/// Gives the camera of that MAC address a new configuration and waits until it answers with it:
+/// `Limits::forcedIpBudget` from when it acknowledges the command, which is repeated until then. A
+/// camera that does neither is given up earlier; a cancelled one counts as not seen.
 ForceResult forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
-                    uint32_t gateway, std::chrono::milliseconds time);
+                    uint32_t gateway, const std::function<bool()> &isCancelled = nullptr);
 
 } // namespace OrvGigEVision

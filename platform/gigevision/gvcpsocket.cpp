@@ -89,15 +89,18 @@ uint16_t GvcpSocket::nextId()
 
 void GvcpSocket::send(const Gvcp::Packet &packet, uint32_t camera)
 {
-    const auto *own = m_adapter.addressFor(camera);
-    sendFrom((own ? own : &m_adapter.addresses.front())->ip, packet, camera);
+    if (const auto *own = m_adapter.addressFor(camera))
+        sendFrom(own->ip, packet, camera);
 }
 
 void GvcpSocket::broadcast(const Gvcp::Packet &packet)
 {
     for (const auto &own : m_adapter.addresses)
         sendFrom(own.ip, packet, own.broadcast());
-    sendFrom(m_adapter.addresses.front().ip, packet, INADDR_BROADCAST);
+    // Without an address of its own on this adapter, the system takes another one or 0.0.0.0.
+    const uint32_t ownIp =
+        m_adapter.addresses.empty() ? INADDR_ANY : m_adapter.addresses.front().ip;
+    sendFrom(ownIp, packet, INADDR_BROADCAST);
 }
 
 void GvcpSocket::sendFrom(uint32_t ownIp, const Gvcp::Packet &packet, uint32_t ip)
@@ -130,21 +133,24 @@ void GvcpSocket::sendFrom(uint32_t ownIp, const Gvcp::Packet &packet, uint32_t i
 
 std::optional<Gvcp::Acknowledge> GvcpSocket::receive(Clock::time_point until)
 {
-    while (true) {
-        const int wait = millisecondsUntil(until);
+    // A flood must not keep us or the caller here, even one that always has a packet ready.
+    while (Clock::now() < until) {
         pollfd waiting[] = {{m_socket, POLLIN, 0}, {m_wake, POLLIN, 0}};
-        if ((poll(waiting, 2, wait) <= 0 && wait == 0) || m_isInterrupted)
+        poll(waiting, 2, millisecondsUntil(until));
+        if (m_isInterrupted || waiting[0].revents & (POLLNVAL | POLLHUP))
             return std::nullopt;
         if (waiting[0].revents & POLLIN) {
             if (const auto answer = take())
                 return answer;
-        } else if (waiting[0].revents & (POLLNVAL | POLLHUP)) {
-            return std::nullopt;
         }
-        // A flood must not keep us here, even one that always has a packet ready.
-        if (Clock::now() >= until)
-            return std::nullopt;
     }
+    return std::nullopt;
+}
+
+bool GvcpSocket::hasPacket() const
+{
+    pollfd waiting{m_socket, POLLIN, 0};
+    return poll(&waiting, 1, 0) > 0 && (waiting.revents & POLLIN);
 }
 
 std::optional<Gvcp::Acknowledge> GvcpSocket::take()
@@ -164,6 +170,7 @@ std::optional<Gvcp::Acknowledge> GvcpSocket::take()
         return std::nullopt;
     if (m_onlyFrom && from.sin_addr.s_addr != htonl(*m_onlyFrom))
         return std::nullopt;
+    m_sender = ntohl(from.sin_addr.s_addr);
     return Gvcp::parseAcknowledge(m_buffer, static_cast<std::size_t>(size));
 }
 

@@ -39,17 +39,29 @@ public:
     /// A new number for a command; never 0.
     uint16_t nextId();
 
+    /// Sends nothing to an address that the adapter does not reach.
     void send(const Gvcp::Packet &packet, uint32_t camera);
 
-    /// To every camera, whatever its address.
+    /// To every camera, whatever its address and the adapter's.
     void broadcast(const Gvcp::Packet &packet);
 
     /// The next well-formed answer, valid until the next call; nothing when the time is up. What
     /// else comes in is skipped and does not make the wait longer.
     std::optional<Gvcp::Acknowledge> receive(Clock::time_point until);
 
-private:
+    // For those who wait for several sockets at once
+
+    /// Readable while `hasPacket`.
+    int descriptor() const { return m_socket; }
+    bool hasPacket() const;
+
+    /// The packet that has come in; nothing when it is to be skipped, or there is none.
     std::optional<Gvcp::Acknowledge> take();
+
+    /// Where the last answer came from.
+    uint32_t sender() const { return m_sender; }
+
+private:
     void sendFrom(uint32_t ownIp, const Gvcp::Packet &packet, uint32_t ip);
 
     NetworkAdapter m_adapter;
@@ -58,6 +70,7 @@ private:
     std::atomic<bool> m_isInterrupted{false};
     std::optional<uint32_t> m_onlyFrom;
     uint16_t m_lastId;
+    uint32_t m_sender = 0;
     uint8_t m_buffer[2048];
 };
 

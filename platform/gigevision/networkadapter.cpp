@@ -3,10 +3,14 @@
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>
+#include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <netpacket/packet.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <memory>
 
@@ -37,6 +41,7 @@ uint64_t macOf(const sockaddr_ll &address)
 
 void addTo(NetworkAdapter &adapter, const ifaddrs &entry)
 {
+    adapter.isConnected = entry.ifa_flags & IFF_RUNNING;
     if (entry.ifa_addr->sa_family == AF_PACKET) {
         const auto &link = *reinterpret_cast<const sockaddr_ll *>(entry.ifa_addr);
         adapter.mac = macOf(link);
@@ -52,10 +57,72 @@ std::string adapterName(const char *label)
     return name.substr(0, name.find(':'));
 }
 
+/// What the system says of one adapter; empty when that fails.
+std::vector<char> linkFacts(int index)
+{
+    struct
+    {
+        nlmsghdr header;
+        ifinfomsg link;
+    } question{};
+    question.header.nlmsg_len = sizeof question;
+    question.header.nlmsg_type = RTM_GETLINK;
+    question.header.nlmsg_flags = NLM_F_REQUEST;
+    question.link.ifi_index = index;
+
+    const int netlink = socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_ROUTE);
+    if (netlink < 0)
+        return {};
+    std::vector<char> answer(32 << 10);
+    const bool isSent = send(netlink, &question, sizeof question, 0) >= 0;
+    const ssize_t size = isSent ? recv(netlink, answer.data(), answer.size(), 0) : 0;
+    close(netlink);
+    answer.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    return answer;
+}
+
+/// True when another adapter, such as a bridge, takes all that comes in.
+bool isEnslaved(int index)
+{
+    const std::vector<char> answer = linkFacts(index);
+    const auto *header = reinterpret_cast<const nlmsghdr *>(answer.data());
+    if (!NLMSG_OK(header, answer.size()) || header->nlmsg_type != RTM_NEWLINK)
+        return false;
+    auto left = static_cast<int>(IFLA_PAYLOAD(header));
+    const auto *link = static_cast<const ifinfomsg *>(NLMSG_DATA(header));
+    for (const rtattr *fact = IFLA_RTA(link); RTA_OK(fact, left); fact = RTA_NEXT(fact, left)) {
+        if (fact->rta_type == IFLA_MASTER)
+            return true;
+    }
+    return false;
+}
+
+bool isUseful(const NetworkAdapter &adapter)
+{
+    if (adapter.index == 0)
+        return false;
+    return !adapter.addresses.empty() || (adapter.mac != 0 && !isEnslaved(adapter.index));
+}
+
 } // namespace
+
+bool NetworkAdapter::Address::reaches(uint32_t other) const
+{
+    const bool isUnicast = other >> 24 != 0 && other >> 24 != IN_LOOPBACKNET &&
+                           !IN_MULTICAST(other) && !IN_BADCLASS(other);
+    if (!isUnicast || other == ip || ((other ^ ip) & mask) != 0)
+        return false;
+    const uint32_t hostBits = ~mask;
+    if (hostBits <= 1) // the two ends of a cable
+        return true;
+    return (other & hostBits) != 0 && (other & hostBits) != hostBits;
+}
 
 const NetworkAdapter::Address *NetworkAdapter::addressFor(uint32_t camera) const
 {
+    const auto isCamera = [&](const Address &own) { return own.ip == camera; };
+    if (std::any_of(addresses.begin(), addresses.end(), isCamera))
+        return nullptr;
     const auto found = std::find_if(addresses.begin(), addresses.end(),
                                     [&](const Address &own) { return own.reaches(camera); });
     return found == addresses.end() ? nullptr : &*found;
@@ -78,7 +145,7 @@ std::vector<NetworkAdapter> networkAdapters()
     for (auto &[name, adapter] : byName) {
         adapter.name = name;
         adapter.index = static_cast<int>(if_nametoindex(name.c_str()));
-        if (adapter.index != 0 && !adapter.addresses.empty())
+        if (isUseful(adapter))
             adapters.push_back(std::move(adapter));
     }
     std::sort(adapters.begin(), adapters.end(),

@@ -17,20 +17,24 @@ struct NetworkAdapter
         uint32_t mask;
 
         uint32_t broadcast() const { return ip | ~mask; }
-        bool reaches(uint32_t other) const { return other != 0 && (other & mask) == (ip & mask); }
+
+        /// True for the other hosts of the subnet.
+        bool reaches(uint32_t other) const;
     };
 
     std::string name; ///< as the system calls it, "eth0"
     int index = 0;    ///< likewise
     uint64_t mac = 0;
-    std::vector<Address> addresses; ///< never empty
+    bool isConnected = false; ///< has a carrier
+    std::vector<Address> addresses;
 
-    /// The address from which `camera` is reached; null when it is in none of the subnets.
+    /// The address from which `camera` is reached; null when it is in none of the subnets, when it
+    /// is no host's, or this machine's own on this adapter.
     const Address *addressFor(uint32_t camera) const;
 };
 
 /// The adapters that are up and can broadcast to a network beyond this machine, in the system's
-/// order.
+/// order; also those without an IPv4 address, except when they only serve a bridge or a bond.
 std::vector<NetworkAdapter> networkAdapters();
 
 /// "192.168.0.1"

@@ -6,14 +6,32 @@
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
-ForceIpCommand::ForceIpCommand(OrvGenParam::Array &parameters) : m_parameters(parameters) {}
+namespace {
+
+/// Giving up has no effect before the command is under way (milliseconds).
+const unsigned long giveUpAgain = 20;
+
+} // namespace
+
+ForceIpCommand::ForceIpCommand(OrvCam::Interface &interface, OrvGenParam::Array &parameters)
+    : m_forcing(dynamic_cast<OrvCam::AddressForcing *>(&interface)), m_parameters(parameters)
+{
+}
 
 ForceIpCommand::~ForceIpCommand()
 {
     if (!isRunning())
         return;
     const WaitCursor waiting;
-    wait();
+    do
+        giveUp();
+    while (!wait(giveUpAgain));
+}
+
+void ForceIpCommand::giveUp()
+{
+    if (m_forcing)
+        m_forcing->giveUp();
 }
 
 void ForceIpCommand::run()

@@ -182,7 +182,7 @@ public:
                                     QMessageBox::StandardButtons buttons,
                                     const QString &reason = QString());
     static bool setAddresses(const SetIpDialog &dialog, OrvGenParam::Array &parameters);
-    bool force(OrvGenParam::Array &parameters);
+    bool force(OrvCam::Interface &interface, OrvGenParam::Array &parameters);
     bool awaitCommand();
     void abandonCommand();
     void commandEnded();
@@ -447,7 +447,8 @@ bool OrvCameraSelectorDialogPrivate::ForceIP(const QPointer<SetIpDialog> &dialog
     if (!parameters || !read(*parameters, "GevDeviceMACAddress", mac) ||
         macText(mac) != dialog->macAddress())
         return false;
-    return setAddresses(*dialog, *parameters) && force(*parameters);
+    return setAddresses(*dialog, *parameters) &&
+           force(*cameraAt(camera)->GetInterface(), *parameters);
 }
 
 UsedAddresses OrvCameraSelectorDialogPrivate::usedAddresses(const OrvCam::DeviceInfo &except) const
@@ -537,9 +538,10 @@ bool OrvCameraSelectorDialogPrivate::setAddresses(const SetIpDialog &dialog,
 }
 
 /// True also when the user gives up waiting, or the picker is destroyed meanwhile.
-bool OrvCameraSelectorDialogPrivate::force(OrvGenParam::Array &parameters)
+bool OrvCameraSelectorDialogPrivate::force(OrvCam::Interface &interface,
+                                           OrvGenParam::Array &parameters)
 {
-    command = std::make_unique<ForceIpCommand>(parameters);
+    command = std::make_unique<ForceIpCommand>(interface, parameters);
     if (!awaitCommand())
         return true;
     command->wait();
@@ -586,6 +588,7 @@ bool OrvCameraSelectorDialogPrivate::awaitCommand()
 void OrvCameraSelectorDialogPrivate::abandonCommand()
 {
     isAbandoned = true;
+    command->giveUp();
     q->setCursor(Qt::BusyCursor);
     rescanButton->setEnabled(false);
     updateButtons();

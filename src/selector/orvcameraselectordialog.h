@@ -21,7 +21,7 @@ class OrvCameraSelectorDialogPrivate;
 /// Construct it, run it with `exec`, and when it was accepted read `selectedCamera`; or use
 /// `SelectCamera`, which does all that. Only cameras that can be opened are accepted, but none is
 /// opened. Looking for cameras blocks the constructor, and "Rescan", for up to 200 ms per
-/// interface.
+/// interface; libOrvCameraApi takes that once for all network adapters.
 ///
 /// The system must outlive the dialog; a null system has no cameras. Use it on the GUI thread only.
 class ORVCAMERAGUIAPI_EXPORT OrvCameraSelectorDialog : public QDialog

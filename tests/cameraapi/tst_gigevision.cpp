@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cameratestsupport.h"
 
+#include <cameracrowd.h>
 #include <cameranetwork.h>
 
 #include <QRegularExpression>
@@ -8,6 +9,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <set>
 
 using namespace OrvCam;
 
@@ -26,12 +28,17 @@ private slots:
     void openedByAnotherProgram();
     void camerasComeAndGo();
     void badDescription();
-    void oneAdapterAtATime();
+    void allAdaptersAtOnce();
+    void notConnected();
+    void withoutAddress();
+    void sharedMacAddress();
+    void manyCamerasComeAndGo();
     void strangeAnswers_data();
     void strangeAnswers();
     void wrongSubnetAndForcedIp();
-    void forcedIpFails_data();
-    void forcedIpFails();
+    void forcedIpOnABadDay_data();
+    void forcedIpOnABadDay();
+    void forcedIpGivenUp();
     void unplugAndReplug();
     void controlTakenAway();
     void cablePulled();
@@ -242,7 +249,7 @@ void TestGigEVision::badDescription()
     }
 }
 
-void TestGigEVision::oneAdapterAtATime()
+void TestGigEVision::allAdaptersAtOnce()
 {
     TestCamera::Settings settings = m_first->cameraSettings(0x020000000001, "10.1.0.2");
     settings.vendor = "Strawman\xff";
@@ -250,15 +257,113 @@ void TestGigEVision::oneAdapterAtATime()
     TestCamera near(settings);
     TestCamera far(m_second->cameraSettings(0x020000000002, "10.2.0.2"));
     near.setPrivilege(2);
-    const auto cameras = camerasOf(*interface("orv0"));
+    Interface *first = interface("orv0");
+    Interface *second = interface("orv1");
+    QElapsedTimer timer;
+    timer.start();
+    const auto cameras = camerasOf(*first);
+    QCOMPARE(camerasOf(*second).size(), size_t(1));
+    QVERIFY2(timer.elapsed() < 350, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(cameras.size(), size_t(1));
     QCOMPARE(cameras.front()->GetId(), "02:00:00:00:00:01");
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessNone));
     QCOMPARE(cameras.front()->GetUserName(), "abcdefghijklmnop");
     QCOMPARE(QString::fromUtf8(cameras.front()->GetVendor()), QStringLiteral("Strawman\uFFFD"));
     QVERIFY(!cameras.front()->GetSerial());
-    QVERIFY(near.counters().packets > 0);
-    QCOMPARE(far.counters().packets, 0u);
+
+    // A second question is a new one.
+    far.setMood("silence");
+    QVERIFY(camerasOf(*second).empty());
+}
+
+void TestGigEVision::notConnected()
+{
+    TestCamera camera(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
+    Interface *first = interface("orv0");
+    m_first->runFar("ip", "link set orv0-far down");
+    m_second->runFar("ip", "link set orv1-far down");
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(camerasOf(*first).empty());
+    QVERIFY2(timer.elapsed() < 100, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(first->GetDescription(), "orv0 (10.1.0.1, not connected)");
+    m_first->runFar("ip", "link set orv0-far up");
+    m_second->runFar("ip", "link set orv1-far up");
+    QTRY_COMPARE(camerasOf(*first).size(), size_t(1));
+    QCOMPARE(first->GetDescription(), "orv0 (10.1.0.1)");
+}
+
+void TestGigEVision::withoutAddress()
+{
+    TestCamera camera(m_first->cameraSettings(0x020000000001, "169.254.7.21"));
+    CameraNetwork::run("ip", "addr flush dev orv0");
+    Interface *first = interface("orv0");
+    const auto cameras = camerasOf(*first);
+    const QByteArray description = first->GetDescription();
+    OrvGenParam::Array *array = first->GetParamArray();
+    array->SetIntegerValue("DeviceSelector", 0);
+    array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
+    array->SetIntegerValue("GevDeviceForceSubnetMask", 0xFFFFFF00);
+    const int32_t error = array->ExecuteCommand("GevDeviceForceIP");
+    CameraNetwork::run("ip", "addr add 10.1.0.1/24 dev orv0");
+
+    QCOMPARE(description, QByteArray("orv0 (no IPv4 address)"));
+    QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetMask"), int64_t(0));
+    QCOMPARE(error, int32_t(Success));
+    QCOMPARE(cameras.size(), size_t(1));
+    QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessSubnetMismatch));
+    QCOMPARE(camera.address(), std::string("10.1.0.2"));
+    QCOMPARE(camerasOf(*interface("orv0")), cameras);
+    QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
+}
+
+/// Which of them is meant cannot be said on the wire.
+void TestGigEVision::sharedMacAddress()
+{
+    TestCamera right(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
+    TestCamera wrong(m_first->cameraSettings(0x020000000001, "169.254.7.21"));
+    const auto cameras = camerasOf(*interface("orv0"));
+    QCOMPARE(cameras.size(), size_t(2));
+    for (DeviceInfo *camera : cameras)
+        QCOMPARE(camera->GetDisplayName(), "TestCamera - MAC address used twice");
+    OrvGenParam::Array *array = interface("orv0")->GetParamArray();
+    array->SetIntegerValue("DeviceSelector", 1);
+    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0xA9FE0715));
+    interface("orv0")->RefreshDevices(nullptr, 200);
+    QCOMPARE(array->GetIntegerValue("DeviceSelector"), int64_t(1));
+    QVERIFY(array->ExecuteCommand("GevDeviceForceIP") != Success);
+    QVERIFY(right.forcedIps().empty() && wrong.forcedIps().empty());
+
+    int32_t error = Success;
+    const Released<Device> device(OrvCam_CreateDevice(cameras.back(), &error, AccessControl));
+    QCOMPARE(error, int32_t(ErrorWrongSubnet));
+}
+
+/// What is kept of them has a limit, and what has been handed out stays.
+void TestGigEVision::manyCamerasComeAndGo()
+{
+    auto settings = m_second->cameraSettings(0x020000000001, "10.2.0.2");
+    settings.description = "<RegisterDescription><Category Name=\"Root\"/></RegisterDescription>";
+    auto camera = std::make_unique<TestCamera>(settings);
+    const Released<Device> device(
+        OrvCam_CreateDevice(camerasOf(*interface("orv1")).front(), nullptr, AccessControl));
+    QVERIFY(device);
+    camera.reset();
+    CameraCrowd crowd(m_second->farNamespace().toStdString(), {});
+    std::set<DeviceInfo *> records;
+    for (uint64_t round = 1; round < 12; ++round) {
+        CameraCrowd::Claims claims;
+        for (uint64_t i = 0; i < 256; ++i)
+            claims.push_back({0x020000000000 | round << 8 | i, 0x0A020002, ""});
+        crowd.setClaims(claims);
+        const auto cameras = camerasOf(*interface("orv1"));
+        QCOMPARE(cameras.size(), claims.size());
+        const QByteArray id = cameras.front()->GetId();
+        QVERIFY(id.startsWith("02:00:00:00:") && id.mid(12, 2).toInt(nullptr, 16) == int(round));
+        records.insert(cameras.begin(), cameras.end());
+    }
+    QCOMPARE(records.size(), size_t(1023));
+    QCOMPARE(device->GetDeviceInfo()->GetId(), "02:00:00:00:00:01");
 }
 
 Q_DECLARE_METATYPE(TestCameraBehaviour)
@@ -274,8 +379,7 @@ void TestGigEVision::strangeAnswers_data()
     late.delay = 300;
     QTest::newRow("late") << late << 0;
     TestCameraBehaviour confused;
-    // Fields that a later version of the protocol appends are ignored.
-    confused.faults = TestCameraBehaviour::AllFaults & ~TestCameraBehaviour::LongAnswer;
+    confused.faults = TestCameraBehaviour::AllFaults;
     confused.isGoodAfter = true;
     confused.duplicates = 1;
     QTest::newRow("wrong, short, foreign, twice") << confused << 1;
@@ -359,31 +463,61 @@ void TestGigEVision::wrongSubnetAndForcedIp()
     QVERIFY2(!text.contains("Malformed"), qPrintable(text));
 }
 
-void TestGigEVision::forcedIpFails_data()
+void TestGigEVision::forcedIpOnABadDay_data()
 {
+    QTest::addColumn<int>("value");
     QTest::addColumn<int>("error");
-    QTest::newRow("force-ip-refused") << int(ErrorAccessDenied);
-    QTest::newRow("force-ip-ignored") << int(ErrorTimeout);
-    QTest::newRow("force-ip-fatal") << int(ErrorTimeout);
+    QTest::addColumn<int>("seconds");
+    QTest::newRow("force-ip-refused") << 0 << int(ErrorAccessDenied) << 0;
+    QTest::newRow("force-ip-ignored") << 0 << int(ErrorTimeout) << 10; // but acknowledged
+    QTest::newRow("silence") << -1 << int(ErrorTimeout) << 5;
+    QTest::newRow("request-loss") << 60 << int(Success) << 0;
+    QTest::newRow("answer-loss") << 60 << int(Success) << 0;
 }
 
-void TestGigEVision::forcedIpFails()
+void TestGigEVision::forcedIpOnABadDay()
 {
+    QFETCH(int, value);
     QFETCH(int, error);
+    QFETCH(int, seconds);
     TestCamera wrong(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
     DeviceInfo *camera = camerasOf(*interface("orv0")).front();
-    wrong.setMood(QTest::currentDataTag());
+    wrong.setMood(QTest::currentDataTag(), value);
     OrvGenParam::Array *array = interface("orv0")->GetParamArray();
     array->SetIntegerValue("DeviceSelector", 0);
     array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
+    array->SetIntegerValue("GevDeviceForceSubnetMask", 0xFFFFFF00);
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(error));
-    QVERIFY(timer.elapsed() < 8000);
-    QVERIFY(!wrong.forcedIps().empty());
-    QCOMPARE(camera->GetAccessState(), int32_t(AccessSubnetMismatch));
-    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"), int64_t(0xA9FE0715));
+    QVERIFY(timer.elapsed() >= 1000 * seconds && timer.elapsed() < 1000 * seconds + 3000);
+    const bool isDone = error == Success;
+    QCOMPARE(camera->GetAccessState(), int32_t(isDone ? AccessReadWrite : AccessSubnetMismatch));
+    QCOMPARE(array->GetIntegerValue("GevDeviceIPAddress"),
+             int64_t(isDone ? 0x0A010002 : 0xA9FE0715));
     QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"), int64_t(0x0A010002));
+}
+
+void TestGigEVision::forcedIpGivenUp()
+{
+    TestCamera wrong(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
+    Interface *first = interface("orv0");
+    const auto cameras = camerasOf(*first);
+    wrong.setMood("force-ip-ignored");
+    OrvGenParam::Array *array = first->GetParamArray();
+    array->SetIntegerValue("DeviceSelector", 0);
+    array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
+    int32_t error = Success;
+    std::thread other([&] { error = array->ExecuteCommand("GevDeviceForceIP"); });
+    QTRY_VERIFY(!wrong.forcedIps().empty());
+    QCOMPARE(first->RefreshDevices(nullptr, 200), int32_t(ErrorBusy));
+    QElapsedTimer timer;
+    timer.start();
+    dynamic_cast<AddressForcing &>(*first).giveUp();
+    other.join();
+    QVERIFY(timer.elapsed() < 500);
+    QCOMPARE(error, int32_t(ErrorTimeout));
+    QCOMPARE(camerasOf(*first), cameras);
 }
 
 void TestGigEVision::unplugAndReplug()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <gigevision/descriptionstore.h>
 #include <gigevision/descriptionunpacker.h>
 #include <gigevision/gvcontrol.h>
 #include <gigevision/gvopen.h>
@@ -14,10 +15,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <arpa/inet.h>
-#include <fcntl.h>
-#include <sched.h>
-#include <unistd.h>
+#include <utime.h>
 
 #include <thread>
 
@@ -42,6 +40,7 @@ private slots:
     void openTwice();
     void keptButNotUsed_data();
     void keptButNotUsed();
+    void keptForAWhile();
     void urls_data();
     void urls();
     void archives_data();
@@ -62,7 +61,6 @@ private slots:
     void presence();
     void interrupted();
     void reopen();
-    void manyCameras();
 
 private:
     std::unique_ptr<CameraNetwork> m_network;
@@ -248,6 +246,39 @@ void TestGvPort::keptButNotUsed()
     QVERIFY(camera.counters().readMemory <= 4);
 }
 
+void TestGvPort::keptForAWhile()
+{
+    const QTemporaryDir directory;
+    const auto withAge = [&](const QString &name, std::time_t seconds) {
+        const utimbuf times{std::time(nullptr) - seconds, std::time(nullptr) - seconds};
+        QVERIFY(utime(QFile::encodeName(directory.filePath(name)).constData(), &times) == 0);
+    };
+    const auto present = [&] { return QDir(directory.path()).entryList(QDir::Files, QDir::Time); };
+    const DescriptionStore store(directory.path().toStdString());
+    const auto key = [](std::size_t number) {
+        return DescriptionStore::Key{"", "", std::to_string(number), "", 1};
+    };
+    for (std::size_t i = 0; i < Limits::keptDescriptions; ++i) {
+        const QStringList before = present();
+        store.keep(key(i), "x");
+        for (const QString &name : present()) {
+            if (!before.contains(name))
+                withAge(name, static_cast<std::time_t>(1000 - i));
+        }
+    }
+    QFile foreign(directory.filePath("0123456789abcdef"));
+    QVERIFY(foreign.open(QIODevice::WriteOnly));
+    foreign.close();
+    withAge("0123456789abcdef", 5000);
+    QVERIFY(store.find(key(0))); // used last
+    store.keep(key(1000), "x");
+    QVERIFY(store.find(key(0)));
+    QVERIFY(!store.find(key(1)));
+    QVERIFY(store.find(key(2)) && store.find(key(1000)));
+    QCOMPARE(present().size(), int(Limits::keptDescriptions) + 1);
+    QVERIFY(foreign.exists());
+}
+
 void TestGvPort::urls_data()
 {
     QTest::addColumn<QByteArray>("first");
@@ -362,6 +393,12 @@ void TestGvPort::archives_data()
     row("with a folder", archive({{"gen/", ""}, {"gen/camera.dat", xml}}));
     row("with a note", archive({{"note.txt", "..."}, {"CAMERA.XML", xml}}));
     row("two descriptions", archive({{"a.xml", xml}, {"b.xml", xml}}), "several files");
+    std::vector<std::pair<std::string, std::string>> files{{"camera.xml", xml}};
+    while (files.size() < Limits::archiveEntries)
+        files.emplace_back(std::to_string(files.size()), "");
+    row("many files", archive(files));
+    files.emplace_back("last", "");
+    row("too many files", archive(files), "too many");
     row("encrypted", archive({{"camera.xml", xml}}, true), "encrypted");
     row("bomb", archive({{"camera.xml", std::string(Limits::descriptionSize + 1, ' ')}}),
         "too long");
@@ -893,40 +930,6 @@ void TestGvPort::reopen()
         QTRY_COMPARE(camera->privilege(), 0u);
         QCOMPARE(opened.port->probe(), Port::Presence::Forgotten);
     }
-}
-
-void TestGvPort::manyCameras()
-{
-    std::thread crowd([space = m_network->farNamespace().toStdString()] {
-        const int there = ::open(space.c_str(), O_RDONLY | O_CLOEXEC);
-        QVERIFY(setns(there, CLONE_NEWNET) == 0);
-        close(there);
-        const int endpoint = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-        const timeval longest{2, 0};
-        setsockopt(endpoint, SOL_SOCKET, SO_RCVTIMEO, &longest, sizeof longest);
-        sockaddr_in peer{};
-        socklen_t size = sizeof peer;
-        peer.sin_family = AF_INET;
-        peer.sin_port = htons(3956);
-        QVERIFY(bind(endpoint, reinterpret_cast<const sockaddr *>(&peer), size) == 0);
-        char command[8];
-        QVERIFY(recvfrom(endpoint, command, sizeof command, 0, reinterpret_cast<sockaddr *>(&peer),
-                         &size) == sizeof command);
-        for (int i = 0; i < 400; ++i) {
-            QByteArray answer = QByteArray::fromHex("0000000300f8");
-            answer += QByteArray(command + 6, 2) + QByteArray(248, '\0');
-            answer[8 + 14] = static_cast<char>(i / 256); // of the MAC address
-            answer[8 + 15] = static_cast<char>(i);
-            answer[8 + 10] = 2;
-            sendto(endpoint, answer.constData(), size_t(answer.size()), 0,
-                   reinterpret_cast<const sockaddr *>(&peer), size);
-        }
-        close(endpoint);
-    });
-    QThread::msleep(50);
-    const auto found = discoverCameras(networkAdapters().front(), std::chrono::milliseconds(300));
-    crowd.join();
-    QCOMPARE(found.size(), Limits::camerasPerAdapter);
 }
 
 QTEST_GUILESS_MAIN(TestGvPort)

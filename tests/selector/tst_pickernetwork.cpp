@@ -25,6 +25,7 @@ private slots:
     void showsBothAdapters();
     void cameraStopsWhilePicking();
     void makesCameraReachable();
+    void givesUp();
 
 private:
     QTreeView *tree() const { return cameraTree(*m_picker); }
@@ -193,6 +194,26 @@ void TestPickerNetwork::makesCameraReachable()
     okButton()->click();
     QCOMPARE(m_picker->result(), int(QDialog::Accepted));
     QCOMPARE(m_picker->selectedCamera()->GetId(), "00:1B:2C:3D:4E:5F");
+}
+
+/// The camera acknowledges the new address, but does not take it.
+void TestPickerNetwork::givesUp()
+{
+    TestCamera camera(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
+    camera.setMood("force-ip-ignored");
+    m_picker = std::make_unique<OrvCameraSelectorDialog>(m_system);
+    m_picker->show();
+    QVERIFY(selectCamera("TestCamera"));
+    const ModalVisitor visitor(
+        {[](QDialog &dialog) { dialog.accept(); }, [](QDialog &dialog) { dialog.reject(); }});
+    QElapsedTimer timer;
+    timer.start();
+    button(*m_picker, "Set IP Address")->click();
+    QVERIFY(visitor.isDone());
+    QTRY_VERIFY(button(*m_picker, "Rescan")->isEnabled());
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!camera.forcedIps().empty());
+    QVERIFY(shows(devicePane, {"Access status: IP Subnet Mismatch", "IP Address: 169.254.7.21"}));
 }
 
 QTEST_MAIN(TestPickerNetwork)

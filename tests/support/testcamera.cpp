@@ -377,7 +377,14 @@ int TestCamera::openSocket(uint32_t address, uint16_t port) const
         fail("The network adapter " + adapter);
     }
     const sockaddr_in local = endpoint(address, port);
-    if (bind(made, reinterpret_cast<const sockaddr *>(&local), sizeof local) == 0)
+    const auto bindIt = [&] {
+        return bind(made, reinterpret_cast<const sockaddr *>(&local), sizeof local);
+    };
+    if (bindIt() == 0)
+        return made;
+    // Cameras answer from their own address, also one with which nothing reaches them.
+    if (errno == EADDRNOTAVAIL && setsockopt(made, SOL_IP, IP_TRANSPARENT, &on, sizeof on) == 0 &&
+        bindIt() == 0)
         return made;
     const int error = errno;
     close(made);

@@ -42,7 +42,8 @@ public:
     struct Settings
     {
         /// If no adapter has the address, the camera is one with a wrong IP configuration: it
-        /// answers broadcasts (discovery and forced IP), and nothing else reaches it.
+        /// answers broadcasts (discovery and forced IP) from it, and nothing else reaches it. That
+        /// takes the right to administer the network.
         std::string address = "127.0.0.1";
         std::string netmask; ///< empty: 255.0.0.0 on the loopback device, otherwise 255.255.255.0
         std::string gateway = "0.0.0.0";

@@ -26,8 +26,9 @@ enum ParamType : int32_t {
 /// What is not yet known is asked for at the camera, and what is set is sent there; such a call
 /// blocks until the camera has answered. A camera's parameters may be called on any thread, where a
 /// call waits for those of other threads at the same camera; an operation whose text changes with
-/// the next call is for one thread at a time. An interface's parameters are for the one thread that
-/// uses the system.
+/// the next call is for one thread at a time. An interface's parameters are, like the system,
+/// for one thread at a time. While it executes "GevDeviceForceIP", others may go on asking records
+/// and interfaces for their texts, and records for their access state.
 class ORVCAMERAAPI_EXPORT Param
 {
 public:
