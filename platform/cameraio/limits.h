@@ -75,6 +75,11 @@ constexpr int lostAfterProbes = 4;
 /// A lost camera is looked for in the network so often.
 constexpr std::chrono::milliseconds reopeningPeriod{500};
 
+/// A register that the camera has refused is asked for again after so long, which doubles with each
+/// attempt up to the longer time.
+constexpr std::chrono::milliseconds refusalPause{2000};
+constexpr std::chrono::milliseconds longestRefusalPause{16000};
+
 /// What the camera is told to wait for before it gives a silent program's control to others.
 constexpr std::chrono::milliseconds heartbeat{3000};
 
