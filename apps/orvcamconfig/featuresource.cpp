@@ -114,7 +114,7 @@ std::unique_ptr<FeatureSource> FeatureSource::openDescription(const QString &fil
     try {
         return std::make_unique<DescriptionSource>(fileName);
     } catch (const GenICam::GenericException &e) {
-        *error = QString::fromUtf8(e.GetDescription());
+        *error = OrvGui::cameraText(e.GetDescription());
         return nullptr;
     }
 }

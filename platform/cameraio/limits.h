@@ -20,6 +20,12 @@ constexpr std::size_t downloadSize = 64u << 20;
 /// Nodes of a description, entries of enumerations included.
 constexpr std::size_t nodeCount = 500000;
 
+/// Entries of one enumeration, which are all put into one list. Real ones have some hundred.
+constexpr std::size_t entryCount = 4096;
+
+/// Valid values of one number, for the same reason; one that states more cannot be used.
+constexpr std::size_t validValueCount = 4096;
+
 /// Elements inside of nodes; those of a structured register count for each of its entries.
 constexpr std::size_t elementCount = 4000000;
 
