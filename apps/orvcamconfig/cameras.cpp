@@ -4,6 +4,7 @@
 #include "released.h"
 
 #include <OrvGenParam.h>
+#include <base/cameratext.h>
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -97,7 +98,7 @@ QString field(const char *text)
         if (character.category() == QChar::Other_Control)
             character = ' ';
     }
-    return plain;
+    return OrvGui::cameraText(plain);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "featurelist.h"
 
 #include <OrvGenParam/LookAhead.h>
+#include <base/cameratext.h>
 
 #include <QAbstractProxyModel>
 
@@ -20,7 +21,7 @@ QString cellText(const QModelIndex &cell)
     QString text = sourceOf(cell).data().toString();
     for (const QChar lineBreak : {QChar('\n'), QChar('\r'), QChar('\t')})
         text.replace(lineBreak, ' ');
-    return text;
+    return OrvGui::printable(text); // a terminal obeys control characters
 }
 
 void collect(const QAbstractItemModel &model, const QModelIndex &parent,

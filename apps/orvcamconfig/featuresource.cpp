@@ -141,6 +141,6 @@ std::unique_ptr<FeatureSource> FeatureSource::openDescription(const QString &fil
                                                         reason.data(), reason.size());
     if (map)
         return std::make_unique<DescriptionSource>(map, fileName);
-    *error = QString::fromUtf8(reason.data());
+    *error = OrvGui::cameraText(reason.data());
     return nullptr;
 }

@@ -28,6 +28,12 @@ constexpr uint64_t keptSize = 256u << 20;
 /// Nodes of a description, entries of enumerations included.
 constexpr std::size_t nodeCount = 500000;
 
+/// Entries of one enumeration, which are all put into one list. Real ones have some hundred.
+constexpr std::size_t entryCount = 4096;
+
+/// Valid values of one number, for the same reason; one that states more cannot be used.
+constexpr std::size_t validValueCount = 4096;
+
 /// Elements inside of nodes; those of a structured register count for each of its entries.
 constexpr std::size_t elementCount = 4000000;
 
@@ -82,6 +88,11 @@ constexpr int lostAfterProbes = 4;
 
 /// A lost camera is looked for in the network so often.
 constexpr std::chrono::milliseconds reopeningPeriod{500};
+
+/// A register that the camera has refused is asked for again after so long, which doubles with each
+/// attempt up to the longer time.
+constexpr std::chrono::milliseconds refusalPause{2000};
+constexpr std::chrono::milliseconds longestRefusalPause{16000};
 
 /// What the camera is told to wait for before it gives a silent program's control to others.
 constexpr std::chrono::milliseconds heartbeat{3000};

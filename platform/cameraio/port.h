@@ -34,6 +34,11 @@ constexpr bool isAnswer(Status status)
     return status != Status::NotSent && status != Status::NoAnswer && status != Status::Closed;
 }
 
+constexpr bool isRefusal(Status status)
+{
+    return isAnswer(status) && status != Status::Done;
+}
+
 /// One read of a batch and its result.
 struct ReadTransfer
 {

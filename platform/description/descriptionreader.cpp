@@ -274,6 +274,8 @@ void DescriptionReader::startEntry(std::string_view tag, int count, Attributes a
     startNode(tag, count, attributes);
     if (tag != "EnumEntry" || !m_failure.empty())
         return;
+    if (m_pending.size() > Limits::entryCount + 1)
+        return stop("there are too many entries in an enumeration");
     DescriptionNode &entry = m_pending.back();
     entry.owner = m_pending.front().name;
     entry.symbolic = entry.name;

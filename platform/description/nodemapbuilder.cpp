@@ -80,7 +80,7 @@ std::vector<T> listOf(std::string_view text, T (*parse)(std::string_view))
 {
     std::vector<T> values;
     std::size_t start = 0;
-    while (start < text.size()) {
+    while (start < text.size() && values.size() <= Limits::validValueCount) {
         const auto end = std::min(text.find_first_of("; ,\t\r\n", start), text.size());
         if (end > start)
             values.push_back(parse(text.substr(start, end - start)));
@@ -641,6 +641,7 @@ void NodeMapBuilder::connectLimits(NodeLinks &links, Described &node, T (*parse)
     connectLimit(limits->max, "Max");
     connectLimit(limits->inc, "Inc");
     limits->validValues = listOf(description.text("ValidValueSet"), parse);
+    links.isUnusable |= limits->validValues.size() > Limits::validValueCount;
     node.limits = std::move(limits);
 }
 

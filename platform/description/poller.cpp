@@ -3,6 +3,7 @@
 
 #include "nodelinks.h"
 
+#include <cameraio/limits.h>
 #include <cameraio/maincontext.h>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 
 using namespace OrvGenApi;
 using OrvCameraIo::Status;
+namespace Limits = OrvCameraIo::Limits;
 
 namespace OrvDescription {
 
@@ -35,7 +37,11 @@ std::vector<NodeLinks *> registersBehind(NodeLinks &feature)
 } // namespace
 
 Poller::Poller(NodeMapBase &map, std::deque<NodeLinks> &links, OrvCameraIo::RegisterIo &io)
-    : m_map(map), m_io(io), m_self(std::make_shared<Poller *>(this))
+    : m_map(map)
+    , m_links(links)
+    , m_io(io)
+    , m_refusalPause(Limits::refusalPause.count())
+    , m_self(std::make_shared<Poller *>(this))
 {
     for (NodeLinks &candidate : links) {
         if (candidate.node->GetPollingTime() < 0)
@@ -55,7 +61,9 @@ Poller::~Poller()
 
 void Poller::poll(int64_t elapsedMs)
 {
-    const std::vector<NodeLinks *> due = takeDue(elapsedMs);
+    std::vector<NodeLinks *> due = takeDue(elapsedMs);
+    const std::vector<NodeLinks *> refused = takeRefused(elapsedMs);
+    due.insert(due.end(), refused.begin(), refused.end());
     if ((!due.empty() || !m_missing.empty()) && !m_request)
         startReading(due);
 }
@@ -74,10 +82,11 @@ std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
         if (feature.node->takePollWanted())
             lookAt(feature);
         for (NodeLinks *links : feature.registers) {
-            if (links->reg->isLookedAt())
-                due.push_back(links);
-            else if (links->reg->known().second.isKnown)
+            const bool isKnown = links->reg->known().second.isKnown;
+            if (!links->reg->isLookedAt() && isKnown)
                 outdated.push_back(links->node);
+            else if (links->reg->isLookedAt() && !links->reg->wasRefused())
+                due.push_back(links);
         }
     }
     if (!outdated.empty())
@@ -85,6 +94,24 @@ std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
     std::sort(due.begin(), due.end());
     due.erase(std::unique(due.begin(), due.end()), due.end());
     return due;
+}
+
+std::vector<NodeLinks *> Poller::takeRefused(int64_t elapsedMs)
+{
+    m_sinceRefused += elapsedMs;
+    if (m_request || m_sinceRefused < m_refusalPause)
+        return {};
+    m_sinceRefused = 0;
+    std::vector<NodeLinks *> refused;
+    const GenApi::AutoLock lock(m_map.GetLock());
+    for (NodeLinks &links : m_links) {
+        if (links.reg && links.reg->wasRefused() && isRefusal(links.reg->known().second.status))
+            refused.push_back(&links);
+    }
+    m_refusalPause = refused.empty() ? Limits::refusalPause.count()
+                                     : std::min<int64_t>(2 * m_refusalPause,
+                                                         Limits::longestRefusalPause.count());
+    return refused;
 }
 
 /// What the feature's value needs counts as looked at; what was never read is noted.
@@ -111,7 +138,7 @@ void Poller::startReading(const std::vector<NodeLinks *> &registers)
         const GenApi::AutoLock lock(m_map.GetLock());
         for (NodeLinks *links : registers) {
             auto [range, known] = links->reg->known();
-            if (!known.isKnown || known.status != Status::Done)
+            if (!known.isKnown || !isAnswer(known.status))
                 continue;
             ranges.push_back(range);
             m_pending.push_back({links, range, std::move(known)});
@@ -132,8 +159,10 @@ void Poller::tellChanged()
     std::vector<Node *> changed;
     for (const Pending &pending : std::exchange(m_pending, {})) {
         const auto now = m_io.look(pending.range, 0);
-        if (now.status == Status::Done && now.bytes == pending.before.bytes)
+        if (now.status == pending.before.status && now.bytes == pending.before.bytes)
             continue;
+        if (isRefusal(pending.before.status) && now.status == Status::Done)
+            m_refusalPause = Limits::refusalPause.count(); // so may others be
         pending.links->reg->setLookedAt(false);
         changed.push_back(pending.links->node);
     }

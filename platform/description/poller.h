@@ -20,6 +20,9 @@ struct NodeLinks;
 /// after each change, or somebody says that it is to be polled on (`Node::keepPolled`). One that
 /// nobody looks at is outdated when its time is up, so that the next question reaches the camera.
 ///
+/// A register that the camera has refused is read again from time to time, whether it is polled or
+/// not: a camera that was busy, or in some other state, is not so for good.
+///
 /// Belongs to the thread that runs the main context.
 class Poller
 {
@@ -50,12 +53,16 @@ private:
     };
 
     std::vector<NodeLinks *> takeDue(int64_t elapsedMs);
+    std::vector<NodeLinks *> takeRefused(int64_t elapsedMs);
     void lookAt(const Feature &feature);
     void startReading(const std::vector<NodeLinks *> &registers);
     void tellChanged();
 
     OrvGenApi::NodeMapBase &m_map;
+    std::deque<NodeLinks> &m_links;
     OrvCameraIo::RegisterIo &m_io;
+    int64_t m_sinceRefused = 0; ///< ms since those that were refused were read again
+    int64_t m_refusalPause;     ///< ms until they are the next time
     std::vector<Feature> m_features;
     std::vector<OrvGenApi::RegisterRange> m_missing; ///< of what is to be polled and was never read
     std::vector<Pending> m_pending;                  ///< empty unless a batch is under way

@@ -92,6 +92,7 @@ Bytes RegisterAccess::read(const RegisterRange &range)
         throw NotYetKnown();
     }
     m_wasUnanswered = !isAnswer(known.status);
+    m_wasRefused = isRefusal(known.status);
     if (known.status != Status::Done)
         throwFailure(known.status, m_name);
     return std::move(known.bytes);

@@ -34,6 +34,9 @@ public:
     /// Whether the last read failed for want of an answer; asking resets it.
     bool takeUnanswered() { return std::exchange(m_wasUnanswered, false); }
 
+    /// Whether the camera has refused the last read.
+    bool wasRefused() const { return m_wasRefused; }
+
     /// Whether somebody has asked for the value since this was set to false.
     bool isLookedAt() const { return m_isLookedAt; }
     void setLookedAt(bool isLookedAt) { m_isLookedAt = isLookedAt; }
@@ -79,6 +82,7 @@ private:
     GenApi::ECachingMode m_mode;
     GenApi::EAccessMode m_access;
     bool m_wasUnanswered = false;
+    bool m_wasRefused = false;
     bool m_isLookedAt = false;
     OrvGenApi::RegisterRange m_lastRange; ///< that was read; shorter than the register for a text
     uint64_t m_staleSince = 0;

@@ -27,7 +27,13 @@ bool isHarmful(QChar character)
 
 } // namespace
 
-QString cameraText(const QString &text)
+QString cameraText(const QString &text, int longest)
+{
+    const QString shown = printable(text.left(longest));
+    return shown.size() < text.size() ? QString(shown + QChar(0x2026)) : shown;
+}
+
+QString printable(const QString &text)
 {
     QString shown = text;
     for (QChar &character : shown) {
@@ -37,9 +43,9 @@ QString cameraText(const QString &text)
     return shown;
 }
 
-QString cameraText(const char *utf8)
+QString cameraText(const char *utf8, int longest)
 {
-    return cameraText(QString::fromUtf8(utf8));
+    return cameraText(QString::fromUtf8(utf8), longest);
 }
 
 QString literally(const QString &text)

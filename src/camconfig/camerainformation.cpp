@@ -80,7 +80,7 @@ void CameraInformation::adjust(const FeatureReader &reader, OrvGenParam::Array *
     for (const Row &row : textRows) {
         QLabel *label = (*m_ui).*row.label;
         if (!array || !show(reader, label, array->GetString(row.feature),
-                            [](const char *text) { return cameraText(text); }))
+                            [](const char *text) { return cameraText(text, LongestName); }))
             label->setText(none);
     }
     for (const Row &row : numberRows) {

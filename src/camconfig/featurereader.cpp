@@ -107,13 +107,16 @@ void FeatureReader::fetchNow(const Params &params) const
 
 void FeatureReader::fetchNow(const Array &array, const Names &features)
 {
-    LookAhead *ahead = lookAheadOf(&array);
-    if (!ahead)
-        return;
+    if (LookAhead *ahead = lookAheadOf(&array))
+        ahead->fetchNow(asksFor(named(array, features)));
+}
+
+FeatureReader::Params FeatureReader::named(const Array &array, const Names &features)
+{
     Params params;
     for (const char *feature : features)
         params << array.GetParam(feature);
-    ahead->fetchNow(asksFor(params));
+    return params;
 }
 
 bool FeatureReader::areKnown(const Params &params) const

@@ -46,6 +46,9 @@ public:
     /// The same by name, of an array that nobody else uses yet; on any thread.
     static void fetchNow(const OrvGenParam::Array &array, const Names &features);
 
+    /// Null pointers for those that the array lacks.
+    static Params named(const OrvGenParam::Array &array, const Names &features);
+
     /// What the function reads of parameters and nothing else: with values that are a second old at
     /// most, as long as all are known. May call the function several times.
     template<class Get>

@@ -100,7 +100,7 @@ private:
     OrvCam::Device *open(OrvCam::DeviceInfo &camera);
     void reportFailure(const QString &camera, const OrvCamConfigOpening::Result &result);
 
-    QString numberOf(const OrvGenParam::Int *param) const;
+    QString numberOf(const OrvGenParam::Int *param);
     QByteArray symbolicOf(const OrvGenParam::Enum *param) const;
     FeatureReader::Params shownParams() const;
 
@@ -117,14 +117,16 @@ private:
 
     void refresh();
     void drop();
+    void awaitReturned();
     void restore();
-    void takeBack();
     void refreshFrames();
     void showBothFrames();
     void refreshFrame();
     Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
     bool updateBoth();
+    bool readBoth();
+    bool select(const char *frame);
     void updateStatus();
     void update(const OrvGenParam::Param *param);
     void readSelectedFrame();
@@ -148,6 +150,7 @@ private:
 
     bool isFrameABSupported = false;
     bool isFrameModeChanged = true;
+    bool hasTimedOut = false; ///< something that is shown, since this was set to false
     FrameMode frameMode = BothFrames;
     Frame selectedFrame = FrameA;
 
@@ -330,10 +333,11 @@ void OrvCamConfigPrivate::reportFailure(const QString &camera,
 }
 
 /// As text; empty when the camera lacks the feature or does not let it be read.
-QString OrvCamConfigPrivate::numberOf(const OrvGenParam::Int *param) const
+QString OrvCamConfigPrivate::numberOf(const OrvGenParam::Int *param)
 {
     int32_t error = OrvCam::Success;
     const qint64 value = param ? reader.get([&] { return param->GetValue(&error); }) : 0;
+    hasTimedOut |= error == OrvCam::ErrorTimeout;
     return param && error == OrvCam::Success ? QString::number(value) : QString();
 }
 
@@ -391,10 +395,10 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     explainFields();
     dimOldNumbers();
     showTemperature();
-    const bool isBack = updateBoth();
     // Moving the selector takes several transfers, which the window would wait for once more.
     if (reader.looksAhead())
         isFrameModeChanged = false;
+    const bool isBack = updateBoth();
     updateStatus();
     information->adjust(reader, array);
     return isBack;
@@ -546,7 +550,7 @@ void OrvCamConfigPrivate::refresh()
     case DeviceWatch::Disconnected:
         return drop();
     case DeviceWatch::Reconnected:
-        return restore();
+        return awaitReturned();
     default:
         showTemperature();
         refreshFrames();
@@ -564,21 +568,25 @@ void OrvCamConfigPrivate::drop()
     emit q->deviceChanged(nullptr);
 }
 
-/// What the windows show of the camera that is back is read before they get it.
-void OrvCamConfigPrivate::restore()
+/// A camera that is back may be slow to tell all that the windows are going to show.
+void OrvCamConfigPrivate::awaitReturned()
 {
-    int32_t error = OrvCam::Success;
-    const OrvGenParam::Array *const back = watch.device()->GetParamArray(&error);
-    reader.setArray(error == OrvCam::Success ? back : nullptr);
-    FeatureReader::Params params;
-    if (reader.looksAhead()) {
-        for (const char *feature : BoundFeatures::all())
-            params << back->GetParam(feature);
+    if (device) {
+        const QPointer<OrvCamConfig> window(q);
+        drop(); // that it was gone had not been noticed
+        if (!window || device || !watch.device())
+            return;
     }
-    reader.whenKnown(this, &watch, params, [this] { takeBack(); });
+    int32_t error = OrvCam::Success;
+    const OrvGenParam::Array *returned = watch.device()->GetParamArray(&error);
+    if (!returned || error != OrvCam::Success)
+        return; // gone again, which is going to be told
+    reader.setArray(returned);
+    reader.whenKnown(this, this, FeatureReader::named(*returned, BoundFeatures::all()),
+                     [this] { restore(); });
 }
 
-void OrvCamConfigPrivate::takeBack()
+void OrvCamConfigPrivate::restore()
 {
     device = watch.device();
     handOver();
@@ -660,8 +668,17 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
     column.exposure->setText(numberOf(exposureTime));
 }
 
-/// False when the camera stays with the other frame, of which only this window knows then.
+/// False when the camera stays with the other frame, of which only this window knows then. What the
+/// camera has left unanswered is tried again at the next turn.
 bool OrvCamConfigPrivate::updateBoth()
+{
+    hasTimedOut = false;
+    const bool isBack = readBoth();
+    isFrameModeChanged |= hasTimedOut;
+    return isBack;
+}
+
+bool OrvCamConfigPrivate::readBoth()
 {
     const Frame first = selectedFrame;
     reader.fetchNow(shownParams());
@@ -672,15 +689,19 @@ bool OrvCamConfigPrivate::updateBoth()
     if (selected.isEmpty())
         return true;
     const SelectorDetour detour;
-    const auto select = [this](const char *name) {
-        return frameSelector->SetSymbolicValue(name) == OrvCam::Success;
-    };
     const bool isA = first == FrameA;
     if (!select(isA ? nameOfFrameB : nameOfFrameA))
         return true;
     reader.fetchNow(shownParams());
     updateFrame(isA ? FrameB : FrameA);
     return select(selected.constData()) || select(selected.constData());
+}
+
+bool OrvCamConfigPrivate::select(const char *frame)
+{
+    const int32_t error = frameSelector->SetSymbolicValue(frame);
+    hasTimedOut |= error == OrvCam::ErrorTimeout;
+    return error == OrvCam::Success;
 }
 
 void OrvCamConfigPrivate::updateStatus()

@@ -443,19 +443,22 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QComboBox *comboBox)
     if (!begin(param, {{MapEnumComboBox, comboBox, nullptr}}))
         return;
     comboBox->clear();
-    for (uint32_t i = 0; i < param->GetEntryCount(); ++i)
-        comboBox->addItem(symbolicOf(param->GetEntry(i)));
+    for (uint32_t i = 0; i < param->GetEntryCount(); ++i) {
+        const QString name = symbolicOf(param->GetEntry(i));
+        comboBox->addItem(cameraText(name, LongestName), name);
+    }
     comboBox->setCurrentIndex(-1);
     updateComboBox(param, comboBox);
-    QObject::connect(
-        comboBox, static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged), context(),
-        [=](int index) {
-            if (index < 0)
-                return;
-            write(comboBox, enumError(), param, [=] {
-                return param->SetSymbolicValue(comboBox->itemText(index).toUtf8().constData());
-            });
-        });
+    QObject::connect(comboBox,
+                     static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged),
+                     context(), [=](int index) {
+                         if (index < 0)
+                             return;
+                         write(comboBox, enumError(), param, [=] {
+                             return param->SetSymbolicValue(
+                                 comboBox->itemData(index).toString().toUtf8().constData());
+                         });
+                     });
     finish(param);
 }
 
@@ -475,7 +478,7 @@ void OrvCamConfigMapper::updateComboBox(Enum *param, QComboBox *comboBox)
     }
     if (error == OrvCam::Success)
         comboBox->setCurrentIndex(
-            comboBox->findText(current, Qt::MatchExactly | Qt::MatchCaseSensitive));
+            comboBox->findData(current, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
 void OrvCamConfigMapper::mapEnumParam(Enum *param, QCheckBox *checkBox)
@@ -501,7 +504,7 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QButtonGroup *buttons)
         all[i]->setVisible(entry);
         setValue(buttons, all[i], entry ? entry->GetValue() : idOfUnused(i), idOfUnused(i));
         if (entry)
-            all[i]->setText(cameraText(symbolicOf(entry)));
+            all[i]->setText(cameraText(symbolicOf(entry), LongestName));
     }
     if (param->IsAvailable() && param->IsWritable())
         setUsable(record, param, true);
@@ -553,7 +556,7 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QTabWidget *tabs)
     for (int i = 0; i < tabs->count(); ++i) {
         const EnumEntry *entry = entryAt(param, i);
         if (entry) {
-            tabs->setTabText(i, cameraText(symbolicOf(entry)));
+            tabs->setTabText(i, cameraText(symbolicOf(entry), LongestName));
             tabOf.insert(symbolicOf(entry), i);
         } else {
             tabs->widget(i)->hide();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigopening.h"
 
+#include "base/cameratext.h"
 #include "openingprogress.h"
 
 #include <OrvCam.h>
@@ -63,7 +64,7 @@ QString explained(const DeviceOpener::Result &result)
 {
     const QString reason = reasonOf(result.error);
     const bool isPlain = !reason.isEmpty() && result.error != OrvCam::ErrorBadDescription;
-    const QString detail = isPlain ? QString() : QString::fromStdString(result.reason);
+    const QString detail = isPlain ? QString() : cameraText(result.reason.c_str());
     if (reason.isEmpty() || detail.isEmpty())
         return reason + detail;
     return reason + QLatin1Char('\n') + detail;
@@ -181,7 +182,7 @@ OrvCamConfigOpening::OrvCamConfigOpening(OrvCam::DeviceInfo &camera, qint32 acce
     : QObject(window)
     , m_camera(camera)
     , m_window(window)
-    , m_name(QString::fromUtf8(camera.GetDisplayName()))
+    , m_name(cameraText(camera.GetDisplayName()))
     , m_job(std::make_shared<Job>())
 {
     m_job->request.accessMode = accessMode;

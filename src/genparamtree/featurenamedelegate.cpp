@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "featurenamedelegate.h"
 
+#include "base/cameratext.h"
 #include "featurecell.h"
 
 namespace OrvGui {
+
+QString FeatureNameDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    Q_UNUSED(locale)
+    return cameraText(value.toString());
+}
 
 void FeatureNameDelegate::initStyleOption(QStyleOptionViewItem *option,
                                           const QModelIndex &index) const

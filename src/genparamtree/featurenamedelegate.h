@@ -13,6 +13,8 @@ class FeatureNameDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    QString displayText(const QVariant &value, const QLocale &locale) const override;
+
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "featuretree.h"
 
+#include "base/cameratext.h"
 #include "featurecell.h"
 #include "genparamtreemodel.h"
 #include "parameterdescription.h"
@@ -8,7 +9,6 @@
 
 #include <QApplication>
 #include <QHelpEvent>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QWhatsThis>
 
@@ -18,11 +18,6 @@ namespace {
 
 const int nameColumn = 0;
 const int valueColumn = 1;
-
-QString literally(const QString &text)
-{
-    return text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
-}
 
 GenApi::IValue *featureOf(const QModelIndex &index)
 {
@@ -99,7 +94,7 @@ bool FeatureTree::viewportEvent(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
     if (event->type() == QEvent::ToolTip) {
-        const QString text = index.data(Qt::ToolTipRole).toString();
+        const QString text = cameraText(index.data(Qt::ToolTipRole).toString().simplified());
         QToolTip::showText(help->globalPos(), literally(text), viewport());
     } else if (GenApi::IValue *feature = featureOf(index)) {
         QString text;

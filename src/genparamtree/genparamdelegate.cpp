@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamdelegate.h"
 
+#include "base/cameratext.h"
 #include "fixintegerrepresentation.h"
 #include "floateditor.h"
 #include "genicamstring.h"
@@ -135,7 +136,7 @@ QWidget *GenParamDelegate::createIntegerEditor(QWidget *parent, const QStyleOpti
     if (isIpAddress(integer))
         return createIPAddressEditor(parent, option, index, node);
 
-    const QString unit = fromUtf8(integer->GetUnit());
+    const QString unit = OrvGui::cameraText(fromUtf8(integer->GetUnit()), OrvGui::LongestName);
     const GenApi::EIncMode incMode = integer->GetIncMode();
     if (incMode == GenApi::listIncrement) {
         const GenApi::int64_autovector_t values = integer->GetListOfValidValues(true);
@@ -171,7 +172,7 @@ QWidget *GenParamDelegate::createFloatEditor(QWidget *parent, const QStyleOption
     if (!number)
         return nullptr;
 
-    const QString unit = fromUtf8(number->GetUnit());
+    const QString unit = OrvGui::cameraText(fromUtf8(number->GetUnit()), OrvGui::LongestName);
     const GenApi::EIncMode incMode = number->GetIncMode();
     if (incMode == GenApi::listIncrement) {
         const GenApi::double_autovector_t values = number->GetListOfValidValues(true);
@@ -220,7 +221,8 @@ QWidget *GenParamDelegate::createEnumerationEditor(QWidget *parent,
         const GenApi::CEnumEntryPtr entry(nodes[i]);
         if (entry && GenApi::IsAvailable(entry->GetAccessMode())) {
             const qlonglong value = entry->GetValue();
-            entries.append({fromUtf8(entry->GetSymbolic()), value});
+            entries.append(
+                {OrvGui::cameraText(fromUtf8(entry->GetSymbolic()), OrvGui::LongestName), value});
         }
     }
     return createComboBox(parent, entries);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "parameterdescription.h"
 
+#include "base/cameratext.h"
 #include "genicamstring.h"
 #include "genparamtreemodel.h"
 #include "treelookahead.h"
@@ -16,7 +17,7 @@ typedef QString (*CameraText)(const GenICam::gcstring &);
 
 QString escaped(const GenICam::gcstring &text)
 {
-    return fromUtf8OrLatin1(text).toHtmlEscaped();
+    return OrvGui::cameraText(fromUtf8OrLatin1(text).simplified()).toHtmlEscaped();
 }
 
 QString typeName(GenApi::EInterfaceType type)

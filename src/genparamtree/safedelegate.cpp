@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "safedelegate.h"
 
+#include "base/cameratext.h"
 #include "editorstate.h"
 #include "featurecell.h"
 #include "genparamtreemodel.h"
@@ -168,11 +169,11 @@ QString SafeDelegate::displayText(const QVariant &value, const QLocale &locale) 
 {
     GenApi::IValue *feature = featureOf(m_painted);
     if (!m_lookAhead || !feature)
-        return featureText(feature, value, locale);
+        return cameraText(featureText(feature, value, locale));
     QString text = value.toString();
     m_lookAhead->look(feature, TreeLookAhead::Cell,
                       [&] { text = featureText(feature, value, locale); });
-    return text;
+    return cameraText(text);
 }
 
 void SafeDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const

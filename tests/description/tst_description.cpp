@@ -110,6 +110,10 @@ void TestDescription::refused_data()
         "line 1: there are too many elements within each other");
     row("too many nodes", document(repeated("<Integer Name='N'/>", Limits::nodeCount)),
         "line 1: there are too many nodes");
+    row("too many entries",
+        document("<Enumeration Name='E'>" +
+                 repeated("<EnumEntry Name='N'/>", Limits::entryCount + 1) + "</Enumeration>"),
+        "line 1: there are too many entries in an enumeration");
     row("structures multiply",
         document("<StructReg>" + repeated("<Length>4</Length>", 3000) +
                  repeated("<StructEntry Name='N'/>", 3000) + "</StructReg>"),

@@ -33,15 +33,20 @@ Usage Usage::now()
     std::ifstream("/proc/self/statm") >> pages >> pages;
     usage.resident = pages * sysconf(_SC_PAGESIZE) / 1024;
 
-    const std::filesystem::directory_iterator files("/proc/self/fd");
-    usage.files = std::distance(begin(files), end(files)) - 1; // without the one that reads this
+    const auto entries = [](const char *folder) {
+        const std::filesystem::directory_iterator all(folder);
+        return std::distance(begin(all), end(all));
+    };
+    usage.threads = entries("/proc/self/task");
+    usage.files = entries("/proc/self/fd") - 1; // without the one that reads this
     return usage;
 }
 
 std::string Usage::text() const
 {
     return std::to_string(heap) + " KiB allocated, " + std::to_string(resident) +
-           " KiB resident, " + std::to_string(files) + " open files";
+           " KiB resident, " + std::to_string(files) + " open files, " + std::to_string(threads) +
+           " threads";
 }
 
 std::string Usage::grownBeyond(const Usage &before, int rounds) const
@@ -55,5 +60,6 @@ std::string Usage::grownBeyond(const Usage &before, int rounds) const
     compare("allocated KiB", heap - before.heap, heapOnce + heapPerRound * rounds);
     compare("resident KiB", resident - before.resident, residentOnce + residentPerRound * rounds);
     compare("open files", files - before.files, 0);
+    compare("threads", threads - before.threads, 0);
     return what;
 }

@@ -9,6 +9,7 @@ struct Usage
     long heap = 0;     ///< KiB that are allocated
     long resident = 0; ///< KiB of memory
     long files = 0;    ///< open ones, sockets and pipes too
+    long threads = 0;
 
     static Usage now();
 

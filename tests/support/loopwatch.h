@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+
+#include <atomic>
+#include <chrono>
+#include <ctime>
+#include <fstream>
+#include <thread>
+
+/// For how long the event loop of this thread has waited for something else than events, at most,
+/// while this lives. Computing does not count, nor does time in which the machine was busy with
+/// others: a second thread that only sleeps tells how late it wakes.
+class LoopWatch : public QObject
+{
+public:
+    LoopWatch()
+    {
+        m_last = Moment::now(m_lateness);
+        startTimer(period, Qt::PreciseTimer);
+    }
+
+    ~LoopWatch() override
+    {
+        m_isOver = true;
+        m_sleeper.join();
+    }
+
+    /// In milliseconds.
+    double longestWait()
+    {
+        take();
+        return m_longest;
+    }
+
+protected:
+    void timerEvent(QTimerEvent *) override { take(); }
+
+private:
+    static const int period = 5;
+
+    struct Moment
+    {
+        double real;
+        double busy;  ///< what the thread has computed, and has waited for a processor
+        int lateness; ///< of the sleeper
+
+        static Moment now(int lateness)
+        {
+            const auto milliseconds = [](clockid_t clock) {
+                timespec time{};
+                clock_gettime(clock, &time);
+                return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+            };
+            double computed = 0;
+            double delayed = 0;
+            std::ifstream("/proc/thread-self/schedstat") >> computed >> delayed;
+            return {milliseconds(CLOCK_MONOTONIC),
+                    milliseconds(CLOCK_THREAD_CPUTIME_ID) + delayed / 1e6, lateness};
+        }
+    };
+
+    void take()
+    {
+        const Moment now = Moment::now(m_lateness);
+        const double waited =
+            now.real - m_last.real - (now.busy - m_last.busy) - (now.lateness - m_last.lateness);
+        m_longest = qMax(m_longest, waited);
+        m_last = now;
+    }
+
+    void sleep()
+    {
+        while (!m_isOver) {
+            QElapsedTimer timer;
+            timer.start();
+            std::this_thread::sleep_for(std::chrono::milliseconds(period));
+            if (timer.elapsed() > 20)
+                m_lateness += int(timer.elapsed()) - period;
+        }
+    }
+
+    std::atomic<int> m_lateness{0};
+    std::atomic<bool> m_isOver{false};
+    Moment m_last{};
+    double m_longest = 0;
+    std::thread m_sleeper{[this] { sleep(); }};
+};
