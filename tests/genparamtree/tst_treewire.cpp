@@ -21,8 +21,8 @@
 
 namespace {
 
-const int delay = 150;         // of each answer, in milliseconds
-const QChar notKnown = 0x2026; // an ellipsis
+const int delay = 150;        // of each answer, in milliseconds
+const QChar notKnown(0x2026); // an ellipsis
 
 /// The longest time for which the thread did not get to its event loop, its own work left out.
 class LongestWait : public QObject
