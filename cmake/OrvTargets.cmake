@@ -1,8 +1,39 @@
 # SPDX-License-Identifier: MIT
 # What every target of the project has in common.
 
-# Strict warnings for one target.
+# The generation of Qt to build for, and what carries its number. The library of the second one is
+# another library, to be installed beside that of the first.
+if(ORV_QT_MAJOR_VERSION EQUAL 5)
+    set(ORV_QT_MINIMUM 5.5)
+    set(ORV_GUI_NAME OrvCameraGuiApi)
+    set(ORV_GUI_PKGCONFIG orvcameraguiapi)
+elseif(ORV_QT_MAJOR_VERSION EQUAL 6)
+    set(ORV_QT_MINIMUM 6.4)
+    set(ORV_GUI_NAME OrvCameraGuiApiQt6)
+    set(ORV_GUI_PKGCONFIG orvcameraguiapi-qt6)
+else()
+    message(FATAL_ERROR "ORV_QT_MAJOR_VERSION is '${ORV_QT_MAJOR_VERSION}'; it can be 5 or 6")
+endif()
+set(ORV_QT Qt${ORV_QT_MAJOR_VERSION})
+
+# Finds parts of Qt. In the build of another project the targets are made known to that one, too,
+# since it links them with the libraries. A macro, as Qt's commands need the variables it sets.
+macro(orv_find_qt)
+    set(orv_new_parts "")
+    foreach(part ${ARGN})
+        if(NOT TARGET ${ORV_QT}::${part} AND NOT PROJECT_IS_TOP_LEVEL)
+            list(APPEND orv_new_parts ${ORV_QT}::${part})
+        endif()
+    endforeach()
+    find_package(${ORV_QT} ${ORV_QT_MINIMUM} REQUIRED COMPONENTS ${ARGN})
+    if(orv_new_parts)
+        set_target_properties(${orv_new_parts} PROPERTIES IMPORTED_GLOBAL ON)
+    endif()
+endmacro()
+
+# Strict warnings and hardening for one target.
 function(orv_target_defaults target)
+    orv_harden(${target})
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wcast-align -Wformat=2 -Wundef -Wconversion
         -Wno-sign-conversion
@@ -13,6 +44,12 @@ function(orv_target_defaults target)
         $<$<BOOL:${ORV_WERROR}>:-Werror>)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x050500)
+endfunction()
+
+# Has a library export, under versions, what its version script names.
+function(orv_export_only target script)
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS "${script}")
 endfunction()
 
 # The target orv_genapi: where the GenApi interface headers come from. Ours by default, those of a

@@ -2,13 +2,13 @@
 #include "featuresource.h"
 
 #include <base/cameratext.h>
-#include <description/nodemap.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigopening.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <array>
 #include <utility>
 
 using OrvGui::OrvCamConfigOpening;
@@ -20,9 +20,8 @@ namespace {
 class DescriptionSource : public FeatureSource
 {
 public:
-    explicit DescriptionSource(const QString &fileName)
-        : m_map(OrvDescription::NodeMap::fromFile(fileName.toLocal8Bit().toStdString()))
-        , m_title(QFileInfo(fileName).fileName())
+    DescriptionSource(GenApi::INodeMap *map, const QString &fileName)
+        : m_map(map, &OrvGenParam_ReleaseNodeMap), m_title(QFileInfo(fileName).fileName())
     {
     }
 
@@ -30,7 +29,7 @@ public:
     QString title() const override { return m_title; }
 
 private:
-    std::unique_ptr<OrvDescription::NodeMap> m_map;
+    std::unique_ptr<GenApi::INodeMap, decltype(&OrvGenParam_ReleaseNodeMap)> m_map;
     QString m_title;
 };
 
@@ -111,10 +110,11 @@ std::unique_ptr<FeatureSource> FeatureSource::ofDevice(Released<OrvCam::Device> 
 std::unique_ptr<FeatureSource> FeatureSource::openDescription(const QString &fileName,
                                                               QString *error)
 {
-    try {
-        return std::make_unique<DescriptionSource>(fileName);
-    } catch (const GenICam::GenericException &e) {
-        *error = QString::fromUtf8(e.GetDescription());
-        return nullptr;
-    }
+    std::array<char, 1000> reason;
+    GenApi::INodeMap *map = OrvGenParam_LoadDescription(fileName.toLocal8Bit().constData(),
+                                                        reason.data(), reason.size());
+    if (map)
+        return std::make_unique<DescriptionSource>(map, fileName);
+    *error = QString::fromUtf8(reason.data());
+    return nullptr;
 }

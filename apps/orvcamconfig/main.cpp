@@ -9,6 +9,7 @@
 #include "windowsystem.h"
 
 #include <base/cameratext.h>
+#include <orvcameraguiapi_version.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
 
@@ -226,7 +227,7 @@ int main(int argc, char **argv)
 {
     QApplication::setOrganizationName(QStringLiteral("orvcamconfig")); // names the settings' folder
     QApplication::setApplicationName(QStringLiteral("orvcamconfig"));
-    QApplication::setApplicationVersion(QStringLiteral(ORV_VERSION));
+    QApplication::setApplicationVersion(QStringLiteral(ORVCAMERAGUIAPI_VERSION_TEXT));
 
     QString error;
     QString complaint;

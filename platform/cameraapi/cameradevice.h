@@ -19,8 +19,7 @@ namespace OrvCam {
 /// An opened camera of any kind: its parameters, and what happens to it. While the camera is lost
 /// they answer with an error; its connection looks for it, and everything goes on when it is back.
 /// Must not be released from inside a notification or event of its own.
-class ORVCAMERAAPI_EXPORT CameraDevice final : public Device,
-                                               private OrvCameraIo::RegisterIoListener
+class CameraDevice final : public Device, private OrvCameraIo::RegisterIoListener
 {
 public:
     /// Opens the camera; null with the reason in `error`. `owner` is kept alive as long as the

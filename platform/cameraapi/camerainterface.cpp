@@ -3,6 +3,8 @@
 
 #include "entrylist.h"
 
+#include <OrvCam/Version.h>
+
 #include <algorithm>
 
 namespace OrvCam {
@@ -84,7 +86,7 @@ DeviceInfoList *CameraInterface::GetDeviceInfoSet()
 
 const char *CameraInterface::GetVersionText() const
 {
-    return ORV_VERSION;
+    return ORVCAMERAAPI_VERSION_TEXT;
 }
 
 OrvGenParam::Array *CameraInterface::GetParamArray(int32_t *error)

@@ -46,7 +46,7 @@ public:
 ///
 /// The selection follows its camera when the list of cameras changes. When the camera is no longer
 /// there, "DeviceSelector" is -1 and what depends on it cannot be read, until a camera is selected.
-class ORVCAMERAAPI_EXPORT GevParameters
+class GevParameters
 {
 public:
     explicit GevParameters(GevNetwork &network);

@@ -22,7 +22,7 @@ namespace OrvGenParam {
 /// context, with high priority and, however many changes there were until the context comes to it,
 /// once per parameter; the home thread is expected to be the one that runs that context, as a
 /// program's GUI thread does. What is still on its way when the parameter goes is dropped.
-class ORVCAMERAAPI_EXPORT NodeMapArray final : public Array
+class NodeMapArray final : public Array
 {
 public:
     /// Reads no values, only what the description says. Throws what the nodes throw.

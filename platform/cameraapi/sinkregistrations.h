@@ -25,7 +25,7 @@ struct SinkLink
 ///
 /// A notification on one thread waits for one of the same sink on another; do not hold a lock that
 /// a sink needs while removing it.
-class ORVCAMERAAPI_EXPORT SinkRegistrations
+class SinkRegistrations
 {
 public:
     /// `param` is what the sinks are told; it need not outlive the registrations.

@@ -17,7 +17,7 @@ namespace OrvCameraIo {
 ///
 /// What is looked at is said by functions that ask nodes of the map. Such a function is left by an
 /// exception of no class that it knows when something is missing, and may be run several times.
-class GENAPI_DECL FetchAhead
+class FetchAhead
 {
 public:
     using Ask = std::function<void()>;

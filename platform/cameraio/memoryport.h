@@ -10,7 +10,7 @@
 namespace OrvCameraIo {
 
 /// Registers without a camera: any address can be read and written, and is 0 until written.
-class GENAPI_DECL MemoryPort final : public Port
+class MemoryPort final : public Port
 {
 public:
     bool isImmediate() const override { return true; }

@@ -19,7 +19,7 @@ struct Transactions
 };
 
 /// A request that was not waited for; destroying it drops it.
-class GENAPI_DECL Request
+class Request
 {
 public:
     virtual ~Request() = default;
@@ -46,7 +46,7 @@ public:
 /// Looking never waits. Transfers run on the I/O thread (an immediate port's on the thread that
 /// asks), in the order of the requests, those that somebody waits for first. Results are known to
 /// all from the moment they arrive. All functions may be called on any thread.
-class GENAPI_DECL RegisterIo
+class RegisterIo
 {
 public:
     explicit RegisterIo(std::unique_ptr<Port> port);

@@ -25,7 +25,7 @@ struct DescriptionExtras
 };
 
 /// One element inside a node of a description, for example `<pVariable Name="X">Width</pVariable>`.
-struct GENAPI_DECL DescriptionProperty
+struct DescriptionProperty
 {
     std::string_view tag;
     std::string_view text; ///< without surrounding blanks
@@ -39,7 +39,7 @@ struct GENAPI_DECL DescriptionProperty
 };
 
 /// One node of a description: its element, name and properties, in the order of the file.
-struct GENAPI_DECL DescriptionNode
+struct DescriptionNode
 {
     std::string_view tag;
     std::string_view name;
@@ -58,7 +58,7 @@ struct GENAPI_DECL DescriptionNode
 /// A GenICam device description as it is written: what it says of each node, nothing computed. It
 /// never changes, so that the node maps of several cameras and threads can share it; all views of
 /// texts are views of its own memory.
-class GENAPI_DECL Description
+class Description
 {
 public:
     /// Throws `RuntimeException` when the text is no device description or beyond what

@@ -14,7 +14,7 @@ namespace OrvDescription {
 class FormulaNames;
 
 /// A formula of a description, parsed once.
-class GENAPI_DECL Formula
+class Formula
 {
 public:
     /// Looks up the number that one of `uses()` asks for. May throw `NotYetKnown`: the formula goes

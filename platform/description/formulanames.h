@@ -11,7 +11,7 @@ namespace OrvDescription {
 
 /// What identifiers stand for in the formulas of one node. The texts must live as long as what is
 /// made of them.
-class GENAPI_DECL FormulaNames
+class FormulaNames
 {
 public:
     enum class Kind { Variable, Constant, Expression };

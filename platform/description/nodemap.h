@@ -21,7 +21,7 @@ struct NodeLinks;
 /// All nodes are made when the map is made and live as long as it; that reads nothing from the
 /// camera. Values, limits and access modes are read when they are asked for and kept until
 /// something that they depend on changes.
-class GENAPI_DECL NodeMap : public OrvGenApi::NodeMapBase
+class NodeMap : public OrvGenApi::NodeMapBase
 {
 public:
     /// A node map of a camera whose registers are behind the port.

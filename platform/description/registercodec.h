@@ -29,22 +29,22 @@ struct Format
 };
 
 /// Of 1 to 8 bytes. Unsigned numbers beyond the largest integer become negative.
-GENAPI_DECL int64_t integer(const Bytes &bytes, const Format &format);
-GENAPI_DECL Bytes bytesOfInteger(int64_t value, std::size_t size, const Format &format);
+int64_t integer(const Bytes &bytes, const Format &format);
+Bytes bytesOfInteger(int64_t value, std::size_t size, const Format &format);
 
 /// The bits of the field, in the order of the bytes; empty when it is no bit field.
-GENAPI_DECL Bytes mask(std::size_t size, const Format &format);
+Bytes mask(std::size_t size, const Format &format);
 
-GENAPI_DECL int64_t smallestInteger(std::size_t size, const Format &format);
-GENAPI_DECL int64_t largestInteger(std::size_t size, const Format &format);
+int64_t smallestInteger(std::size_t size, const Format &format);
+int64_t largestInteger(std::size_t size, const Format &format);
 
 /// Of 4 or 8 bytes.
-GENAPI_DECL double real(const Bytes &bytes, bool isBigEndian);
-GENAPI_DECL Bytes bytesOfReal(double value, std::size_t size, bool isBigEndian);
-GENAPI_DECL double largestReal(std::size_t size);
+double real(const Bytes &bytes, bool isBigEndian);
+Bytes bytesOfReal(double value, std::size_t size, bool isBigEndian);
+double largestReal(std::size_t size);
 
 /// A text ends at the first zero or with the register.
-GENAPI_DECL std::string text(const Bytes &bytes);
-GENAPI_DECL Bytes bytesOfText(std::string_view text, std::size_t size);
+std::string text(const Bytes &bytes);
+Bytes bytesOfText(std::string_view text, std::size_t size);
 
 } // namespace OrvDescription::RegisterCodec

@@ -5,9 +5,12 @@
 #include "simulatedsystem.h"
 
 #include <OrvGenParam.h>
+#include <description/nodemap.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <typeinfo>
 
 namespace {
 
@@ -55,6 +58,12 @@ void store(int32_t *error, int32_t code)
 {
     if (error)
         *error = code;
+}
+
+void store(char *reason, std::size_t size, const char *text)
+{
+    if (reason)
+        std::snprintf(reason, size, "%s", text);
 }
 
 // Only systems and records of this library can do what is asked for here.
@@ -187,4 +196,35 @@ OrvGenApiNodeMap *OrvGenParam_GetNodeMap(const OrvGenParamArray *array, int32_t 
         return array->GetNodeMap(error);
     store(error, OrvCam_ErrorInvalidArgument);
     return nullptr;
+}
+
+OrvGenApiNodeMap *OrvGenParam_LoadDescription(const char *fileName, char *reason, size_t size)
+{
+    store(reason, size, "");
+    try {
+        if (fileName)
+            return OrvDescription::NodeMap::fromFile(fileName).release();
+    } catch (const GenICam::GenericException &e) {
+        store(reason, size, e.GetDescription());
+    } catch (const std::exception &e) {
+        store(reason, size, e.what());
+    }
+    return nullptr;
+}
+
+void OrvGenParam_ReleaseNodeMap(OrvGenApiNodeMap *nodeMap)
+{
+    // A camera has one of a class that derives from this, and owns it.
+    if (nodeMap && typeid(*nodeMap) == typeid(OrvDescription::NodeMap))
+        delete nodeMap;
+}
+
+uint32_t OrvCameraApi_GetVersion()
+{
+    return ORVCAMERAAPI_VERSION;
+}
+
+const char *OrvCameraApi_GetVersionText()
+{
+    return ORVCAMERAAPI_VERSION_TEXT;
 }

@@ -23,7 +23,9 @@
  */
 
 #include <OrvCam/Export.h>
+#include <OrvCam/Version.h>
 
+#include <stddef.h>
 #include <stdint.h>
 
 #ifdef __cplusplus
@@ -156,6 +158,21 @@ ORVCAMERAAPI_EXPORT OrvGenParamArray *OrvCam_GetParamArray(OrvCamDevice *device,
 /* The GenApi node map that parameters come from; it lives as long as they. */
 ORVCAMERAAPI_EXPORT OrvGenApiNodeMap *OrvGenParam_GetNodeMap(const OrvGenParamArray *array,
                                                              int32_t *error);
+
+/*
+ * The node map of a device description without a camera: its registers live in memory and are 0 at
+ * the beginning. fileName is in the encoding of the file system. Null on failure, with one line of
+ * UTF-8 about it, cut to size bytes with the 0 at its end, in reason unless that is null. The
+ * caller owns the node map and ends it with OrvGenParam_ReleaseNodeMap.
+ */
+ORVCAMERAAPI_EXPORT OrvGenApiNodeMap *OrvGenParam_LoadDescription(const char *fileName,
+                                                                  char *reason, size_t size);
+
+/*
+ * Ends a node map that OrvGenParam_LoadDescription made; any other, and null, is left alone.
+ * Whatever shows its features has to be ended before.
+ */
+ORVCAMERAAPI_EXPORT void OrvGenParam_ReleaseNodeMap(OrvGenApiNodeMap *nodeMap);
 
 #ifdef __cplusplus
 }

@@ -140,7 +140,7 @@ private:
     MemoryValue<T> m_value;
 };
 
-class GENAPI_DECL MemoryInteger : public MemoryValueNode<IntegerNode, int64_t>
+class MemoryInteger : public MemoryValueNode<IntegerNode, int64_t>
 {
 public:
     using MemoryValueNode::MemoryValueNode;
@@ -176,7 +176,7 @@ private:
     std::string m_unit;
 };
 
-class GENAPI_DECL MemoryFloat : public MemoryValueNode<FloatNode, double>
+class MemoryFloat : public MemoryValueNode<FloatNode, double>
 {
 public:
     using MemoryValueNode::MemoryValueNode;
@@ -212,7 +212,7 @@ private:
     std::string m_unit;
 };
 
-class GENAPI_DECL MemoryBoolean : public MemoryValueNode<BooleanNode, bool>
+class MemoryBoolean : public MemoryValueNode<BooleanNode, bool>
 {
 public:
     using MemoryValueNode::MemoryValueNode;
@@ -222,13 +222,13 @@ protected:
     void writeValue(bool value) override { store(value); }
 };
 
-class GENAPI_DECL MemoryEnumEntry : public MemoryNode<EnumEntryNode>
+class MemoryEnumEntry : public MemoryNode<EnumEntryNode>
 {
 public:
     using MemoryNode::MemoryNode;
 };
 
-class GENAPI_DECL MemoryEnumeration : public MemoryValueNode<EnumerationNode, int64_t>
+class MemoryEnumeration : public MemoryValueNode<EnumerationNode, int64_t>
 {
 public:
     using MemoryValueNode::MemoryValueNode;
@@ -241,7 +241,7 @@ protected:
     void writeValue(int64_t value) override { store(value); }
 };
 
-class GENAPI_DECL MemoryCommand : public MemoryNode<CommandNode>
+class MemoryCommand : public MemoryNode<CommandNode>
 {
 public:
     using MemoryNode::MemoryNode;
@@ -260,7 +260,7 @@ private:
     std::function<bool()> m_isDone;
 };
 
-class GENAPI_DECL MemoryString : public MemoryValueNode<StringNode, std::string>
+class MemoryString : public MemoryValueNode<StringNode, std::string>
 {
 public:
     using MemoryValueNode::MemoryValueNode;
@@ -277,7 +277,7 @@ private:
     int64_t m_maxLength = 64;
 };
 
-class GENAPI_DECL MemoryRegister : public MemoryValueNode<RegisterNode, std::vector<uint8_t>>
+class MemoryRegister : public MemoryValueNode<RegisterNode, std::vector<uint8_t>>
 {
 public:
     using MemoryValueNode::MemoryValueNode;
@@ -294,7 +294,7 @@ private:
     int64_t m_address = 0;
 };
 
-class GENAPI_DECL MemoryCategory : public MemoryNode<CategoryNode>
+class MemoryCategory : public MemoryNode<CategoryNode>
 {
 public:
     using MemoryNode::MemoryNode;
@@ -311,7 +311,7 @@ protected:
 /// new node at its end; it is made, below "Root", when it does not exist. An empty `category`
 /// lists the node nowhere. Nodes are readable and writable unless set otherwise; what else a
 /// description would say is set through `properties()`.
-class GENAPI_DECL MemoryNodeMap : public NodeMapBase
+class MemoryNodeMap : public NodeMapBase
 {
 public:
     /// The map has an empty "Root" category.

@@ -131,12 +131,13 @@ bool writeAll(int file, const std::string &bytes)
 
 DescriptionStore DescriptionStore::ofUser()
 {
-    if (const char *named = std::getenv("ORVCAM_DESCRIPTION_CACHE"))
+    // A program with more rights than its user must not write where that user says.
+    if (const char *named = secure_getenv("ORVCAM_DESCRIPTION_CACHE"))
         return DescriptionStore(named);
-    const char *cache = std::getenv("XDG_CACHE_HOME");
+    const char *cache = secure_getenv("XDG_CACHE_HOME");
     if (cache && cache[0] == '/')
         return DescriptionStore(std::string(cache) + "/orvcameraapi");
-    const char *home = std::getenv("HOME");
+    const char *home = secure_getenv("HOME");
     if (home && home[0] == '/')
         return DescriptionStore(std::string(home) + "/.cache/orvcameraapi");
     return DescriptionStore(std::string());

@@ -21,7 +21,7 @@ namespace OrvSimulation {
 ///
 /// Cameras with different serial numbers are independent of each other. All functions may be called
 /// on any thread.
-class GENAPI_DECL SimulatedCamera
+class SimulatedCamera
 {
 public:
     /// Opens the camera with the serial number of \a identity.

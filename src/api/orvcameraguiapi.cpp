@@ -128,3 +128,13 @@ void ShowTriggerDialog(OrvCamDevice *device, unsigned long parent)
 {
     showDialog<OrvGui::OrvCamConfigTriggerDialog>(device, parent);
 }
+
+uint32_t OrvCameraGuiApi_GetVersion()
+{
+    return ORVCAMERAGUIAPI_VERSION;
+}
+
+const char *OrvCameraGuiApi_GetVersionText()
+{
+    return ORVCAMERAGUIAPI_VERSION_TEXT;
+}

@@ -20,6 +20,7 @@
  */
 
 #include "orvcameraguiapi_export.h"
+#include "orvcameraguiapi_version.h"
 
 #include <orvcameraapi.h>
 

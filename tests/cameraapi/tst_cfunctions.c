@@ -71,6 +71,16 @@ static void openAndClose(OrvCamSystem *system)
     CHECK(find(system, OrvCam_AccessReadWrite) == info);
 }
 
+static void descriptions(void)
+{
+    char reason[20] = "";
+    OrvGenApiNodeMap *map = OrvGenParam_LoadDescription(ORV_DESCRIPTION, reason, sizeof reason);
+    CHECK(map && !reason[0]);
+    OrvGenParam_ReleaseNodeMap(map);
+    CHECK(!OrvGenParam_LoadDescription("/no/such/folder/file.xml", reason, sizeof reason));
+    CHECK(strcmp(reason, "/no/such/folder/fil") == 0); /* cut */
+}
+
 static void nothing(void)
 {
     int32_t error = OrvCam_Success;
@@ -86,6 +96,8 @@ static void nothing(void)
     error = OrvCam_Success;
     CHECK(!OrvGenParam_GetNodeMap(NULL, &error) && error == OrvCam_ErrorInvalidArgument);
     CHECK(!OrvGenParam_GetNodeMap(OrvCam_GetParamArray(NULL, NULL), NULL));
+    CHECK(!OrvGenParam_LoadDescription(NULL, NULL, 0));
+    OrvGenParam_ReleaseNodeMap(NULL);
     OrvCam_ReleaseDevice(NULL);
     OrvCam_ReleaseSystem(NULL);
 }
@@ -96,6 +108,7 @@ int main(void)
     CHECK(system);
     search(system);
     openAndClose(system);
+    descriptions();
     nothing();
     OrvCam_ReleaseSystem(system);
     if (failures == 0)

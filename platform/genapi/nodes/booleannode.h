@@ -6,7 +6,7 @@
 namespace OrvGenApi {
 
 /// A switch with its checks and cache.
-class GENAPI_DECL BooleanNode : public ValueNode<GenApi::IBoolean>
+class BooleanNode : public ValueNode<GenApi::IBoolean>
 {
 public:
     using ValueNode::ValueNode;

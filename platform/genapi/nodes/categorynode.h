@@ -8,7 +8,7 @@
 namespace OrvGenApi {
 
 /// A group of features. Its text is its name.
-class GENAPI_DECL CategoryNode : public ValueNode<GenApi::ICategory>
+class CategoryNode : public ValueNode<GenApi::ICategory>
 {
 public:
     using ValueNode::ValueNode;

@@ -6,7 +6,7 @@
 namespace OrvGenApi {
 
 /// Something the camera can be told to do. As text it is "1" while it is being done, "0" otherwise.
-class GENAPI_DECL CommandNode : public ValueNode<GenApi::ICommand>
+class CommandNode : public ValueNode<GenApi::ICommand>
 {
 public:
     using ValueNode::ValueNode;

@@ -18,7 +18,7 @@ struct EnumEntryProperties
 };
 
 /// One entry of an enumeration. Its node name is "EnumEntry_<enumeration>_<symbolic>".
-class GENAPI_DECL EnumEntryNode : public ValueNode<GenApi::IEnumEntry>
+class EnumEntryNode : public ValueNode<GenApi::IEnumEntry>
 {
 public:
     EnumEntryNode(NodeMapBase &map, NodeProperties properties, EnumEntryProperties entry);

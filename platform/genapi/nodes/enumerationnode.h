@@ -8,7 +8,7 @@
 namespace OrvGenApi {
 
 /// An enumeration with its checks and cache. Its entries are nodes of the same map.
-class GENAPI_DECL EnumerationNode : public ValueNode<GenApi::IEnumeration>
+class EnumerationNode : public ValueNode<GenApi::IEnumeration>
 {
 public:
     using ValueNode::ValueNode;

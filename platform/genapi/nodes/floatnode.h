@@ -6,7 +6,7 @@
 namespace OrvGenApi {
 
 /// A floating-point feature with its checks and caches.
-class GENAPI_DECL FloatNode : public RangedNode<GenApi::IFloat, double, GenApi::double_autovector_t>
+class FloatNode : public RangedNode<GenApi::IFloat, double, GenApi::double_autovector_t>
 {
 public:
     using RangedNode::RangedNode;

@@ -6,8 +6,7 @@
 namespace OrvGenApi {
 
 /// An integer feature with its checks and caches.
-class GENAPI_DECL IntegerNode
-    : public RangedNode<GenApi::IInteger, int64_t, GenApi::int64_autovector_t>
+class IntegerNode : public RangedNode<GenApi::IInteger, int64_t, GenApi::int64_autovector_t>
 {
 public:
     using RangedNode::RangedNode;

@@ -33,7 +33,7 @@ struct NodeProperties
 /// Base of every node: identity, access mode, place in the dependency graph and callbacks. The
 /// classes derived from it implement the value interfaces with their checks and caches; where a
 /// value comes from is left to the classes derived from those.
-class GENAPI_DECL Node : public virtual GenApi::INode, public virtual GenApi::ISelector
+class Node : public virtual GenApi::INode, public virtual GenApi::ISelector
 {
 public:
     Node(NodeMapBase &map, NodeProperties properties);
@@ -141,7 +141,6 @@ private:
 };
 
 /// The narrower of two access modes.
-GENAPI_DECL GenApi::EAccessMode combinedAccessMode(GenApi::EAccessMode left,
-                                                   GenApi::EAccessMode right);
+GenApi::EAccessMode combinedAccessMode(GenApi::EAccessMode left, GenApi::EAccessMode right);
 
 } // namespace OrvGenApi

@@ -15,7 +15,7 @@ namespace OrvGenApi {
 
 /// A node map as far as it does not matter where the values come from: the nodes and their names,
 /// the dependency graph, the lock, changes with their callbacks, and polling.
-class GENAPI_DECL NodeMapBase : public GenApi::INodeMap
+class NodeMapBase : public GenApi::INodeMap
 {
 public:
     explicit NodeMapBase(std::string deviceName);

@@ -25,7 +25,7 @@ struct NotYetKnown
 /// Answering is computing only: nodes look at what is known. What is missing is noted here and
 /// `NotYetKnown` is thrown; after it was fetched, without the lock, the question is answered from
 /// the start. What a write means for the camera is noted here, too, and carried out afterwards.
-class GENAPI_DECL Question
+class Question
 {
 public:
     enum class Kind {
@@ -50,7 +50,7 @@ public:
     uint64_t askedAt = 0;
 
     /// Makes a question the current one of this thread as long as it lives.
-    class GENAPI_DECL Scope
+    class Scope
     {
     public:
         Scope(const NodeMapBase &map, Question &question);

@@ -9,7 +9,7 @@
 namespace OrvGenApi {
 
 /// Raw bytes in the camera, with their checks and cache.
-class GENAPI_DECL RegisterNode : public ValueNode<GenApi::IRegister>
+class RegisterNode : public ValueNode<GenApi::IRegister>
 {
 public:
     using ValueNode::ValueNode;

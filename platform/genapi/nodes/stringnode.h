@@ -8,7 +8,7 @@
 namespace OrvGenApi {
 
 /// A text with its checks and cache.
-class GENAPI_DECL StringNode : public ValueNode<GenApi::IString>
+class StringNode : public ValueNode<GenApi::IString>
 {
 public:
     using ValueNode::ValueNode;

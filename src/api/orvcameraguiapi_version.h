@@ -1,0 +1,37 @@
+/* SPDX-License-Identifier: MIT */
+#ifndef ORVCAMERAGUIAPI_VERSION_H
+#define ORVCAMERAGUIAPI_VERSION_H
+
+#include "orvcameraguiapi_export.h"
+
+#include <stdint.h>
+
+/*
+ * The version that a program is compiled against. docs/versions.md says what a version promises.
+ *
+ *     #if ORVCAMERAGUIAPI_VERSION >= ORVCAMERAGUIAPI_VERSION_NUMBER(1, 4, 0)
+ */
+#define ORVCAMERAGUIAPI_VERSION_NUMBER(major, minor, patch) ((major) << 16 | (minor) << 8 | (patch))
+#define ORVCAMERAGUIAPI_VERSION_MAJOR 1
+#define ORVCAMERAGUIAPI_VERSION_MINOR 3
+#define ORVCAMERAGUIAPI_VERSION_PATCH 0
+#define ORVCAMERAGUIAPI_VERSION                                                                    \
+    ORVCAMERAGUIAPI_VERSION_NUMBER(ORVCAMERAGUIAPI_VERSION_MAJOR, ORVCAMERAGUIAPI_VERSION_MINOR,   \
+                                   ORVCAMERAGUIAPI_VERSION_PATCH)
+#define ORVCAMERAGUIAPI_VERSION_TEXT "1.3.0"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The version of the library that the program runs with: a number like ORVCAMERAGUIAPI_VERSION. */
+ORVCAMERAGUIAPI_EXPORT uint32_t OrvCameraGuiApi_GetVersion(void);
+
+/* The same as a text like ORVCAMERAGUIAPI_VERSION_TEXT; never null. */
+ORVCAMERAGUIAPI_EXPORT const char *OrvCameraGuiApi_GetVersionText(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
