@@ -29,8 +29,7 @@ function(orv_find_fortification result)
             orv_optimises("${CMAKE_CXX_FLAGS} ${CMAKE_CXX_FLAGS_${upper}}" optimises)
             if(optimises)
                 # Some compilers define another level by themselves.
-                list(APPEND found
-                    "$<$<CONFIG:${type}>:-U_FORTIFY_SOURCE>" "$<$<CONFIG:${type}>:-D_FORTIFY_SOURCE=2>")
+                list(APPEND found "$<$<CONFIG:${type}>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
             endif()
         endforeach()
     endif()

@@ -9,9 +9,9 @@ macro(orv_install)
     endif()
 endmacro()
 
-# Where a target finds our libraries, in the build folder and installed. It must be the same in both:
-# to be able to replace one by the other CMake would put an empty element into the list, and that is
-# the current directory.
+# Where a target finds our libraries, in the build folder and installed. It must be the same in
+# both: to be able to replace one by the other CMake would put an empty element into the list, and
+# that is the current directory.
 function(orv_set_runpath target path)
     set_target_properties(${target} PROPERTIES
         INSTALL_RPATH "${path}" BUILD_WITH_INSTALL_RPATH ON)

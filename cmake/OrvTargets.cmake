@@ -69,14 +69,15 @@ function(orv_add_genapi_headers)
     endif()
 endfunction()
 
-# orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] [TIMEOUT seconds] SOURCES file...
+# orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] [THREADS] [TIMEOUT seconds] SOURCES file...
 #              [LIBRARIES target...])
 # A QtTest program, run offscreen; with XVFB under a virtual X server, with NETNS in a network
 # namespace of its own. STARTS_PROGRAMS (implied by NETNS) says that it starts others, which can't
-# be done in the emulator that runs the tests of another processor. It fails after TIMEOUT, 120
-# unless given; the emulator is given ten times as long.
+# be done in the emulator that runs the tests of another processor. THREADS says that the thread
+# sanitizer has something to look at: target tests-with-threads, label threads. It fails after
+# TIMEOUT, 120 unless given; the emulator is given ten times as long.
 function(orv_add_test name)
-    cmake_parse_arguments(arg "XVFB;NETNS;STARTS_PROGRAMS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "XVFB;NETNS;STARTS_PROGRAMS;THREADS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
@@ -98,7 +99,11 @@ function(orv_add_test name)
     endif()
     add_test(NAME ${name} COMMAND ${command})
     if(arg_NETNS OR arg_STARTS_PROGRAMS)
-        set_tests_properties(${name} PROPERTIES LABELS starts-programs)
+        set_property(TEST ${name} APPEND PROPERTY LABELS starts-programs)
+    endif()
+    if(arg_THREADS)
+        set_property(TEST ${name} APPEND PROPERTY LABELS threads)
+        add_dependencies(tests-with-threads ${name})
     endif()
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)

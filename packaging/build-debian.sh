@@ -1,11 +1,12 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
+# build-debian.sh [FOLDER]
 # Builds the Debian packages of what is committed, checks them with lintian, and leaves them in
-# build/debian.
+# FOLDER, build/debian unless another is named. What the folder held before is removed.
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
-out=$root/build/debian
+out=${1:-$root/build/debian}
 
 "$root/packaging/setup-debian.sh"
 "$root/packaging/setup-debian.sh" packaging-packages.txt
@@ -14,6 +15,7 @@ rm -rf "$out"
 mkdir -p "$out/source"
 git -C "$root" archive HEAD | tar -x -C "$out/source"
 cd "$out/source"
+out=$(pwd)/..
 log=$out/build.log
 dpkg-buildpackage --unsigned-source --unsigned-changes --build=binary >"$log" 2>&1 \
     || { tail -n 40 "$log" >&2; echo "build-debian.sh: the build failed" >&2; exit 1; }
