@@ -191,7 +191,7 @@ void CameraWindows::restore()
 /// To be called before the tree has features: then it is made at that level once.
 void CameraWindows::setLevel(std::optional<OrvGui::Visibility> level)
 {
-    const int mark = m_treeState.lastIndexOf(levelMark);
+    const int mark = int(m_treeState.lastIndexOf(levelMark));
     if (level) {
         m_tree.setVisibility(*level);
         if (mark >= 0)

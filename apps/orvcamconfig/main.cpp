@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cameras.h"
 #include "camerawindows.h"
-#include "display.h"
 #include "featurelist.h"
 #include "featuresource.h"
 #include "options.h"
 #include "released.h"
 #include "translation.h"
+#include "windowsystem.h"
 
 #include <base/cameratext.h>
 #include <orvcameraguiapi_version.h>
@@ -14,6 +14,7 @@
 #include <orvgenparamtreeview.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTextStream>
@@ -42,23 +43,26 @@ Options readOptions(int argc, char **argv, QString *error, QString *complaint)
     return Options::fromArguments(QCoreApplication::arguments(), error);
 }
 
-Display::Need displayFor(const Options &options)
+WindowSystem::Need displayFor(const Options &options)
 {
     if (options.listFeatures || options.listCameras)
-        return Display::Need::Text;
-    return options.screenshot.isEmpty() ? Display::Need::Windows : Display::Need::Picture;
+        return WindowSystem::Need::Text;
+    return options.screenshot.isEmpty() ? WindowSystem::Need::Windows : WindowSystem::Need::Picture;
 }
 
-/// Gives `print` the standard output.
+/// Gives `print` a stream whose text goes to the standard output, in UTF-8.
 template<typename Print>
 int printText(Print print)
 {
-    QTextStream out(stdout);
-    out.setCodec("UTF-8");
+    QString text;
+    QTextStream out(&text);
     print(out);
     out.flush();
-    return out.status() == QTextStream::Ok ? Success
-                                           : fail(Failure, QObject::tr("The output failed."));
+    const QByteArray bytes = text.toUtf8();
+    QFile file;
+    const bool isPrinted = file.open(stdout, QIODevice::WriteOnly) &&
+                           file.write(bytes) == bytes.size() && file.flush();
+    return isPrinted ? Success : fail(Failure, QObject::tr("The output failed."));
 }
 
 /// Shows the window, and saves a picture of it as soon as it has been painted.
@@ -233,9 +237,9 @@ int main(int argc, char **argv)
     if (!error.isEmpty())
         return fail(WrongUsage, error);
 
-    Display display(argc, argv, displayFor(options), complaint);
+    WindowSystem windowSystem(argc, argv, displayFor(options), complaint);
     QApplication::setDesktopFileName(QStringLiteral("orvcamconfig"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/res/orvicon.ico")));
-    translate(display.application());
+    translate(windowSystem.application());
     return run(options);
 }

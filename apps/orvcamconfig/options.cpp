@@ -114,7 +114,7 @@ Options Options::fromArguments(const QStringList &arguments, QString *error)
     options.camera = parser.value(camera);
     options.description = parser.value(xml);
     options.screenshot = parser.value(screenshot);
-    options.visibility = levels.indexOf(parser.value(visibility));
+    options.visibility = int(levels.indexOf(parser.value(visibility)));
     options.isVisibilityGiven = parser.isSet(visibility);
     const QString wanted = parser.value(window);
     const bool isToldWhat = options.simulate || parser.isSet(camera) || parser.isSet(xml);

@@ -21,12 +21,20 @@ def function(library, name, result, *arguments):
     return found
 
 
+def library_of_windows(folder):
+    """There is one for each Qt; to this program they are the same."""
+    try:
+        return ctypes.CDLL(os.path.join(folder, "libOrvCameraGuiApi.so.1"))
+    except OSError:
+        return ctypes.CDLL(os.path.join(folder, "libOrvCameraGuiApiQt6.so.1"))
+
+
 class Api:
     """What this program needs of the libraries, in the given folder or where the system looks."""
 
     def __init__(self, folder):
         cam = ctypes.CDLL(os.path.join(folder, "libOrvCameraApi.so.1"))
-        gui = ctypes.CDLL(os.path.join(folder, "libOrvCameraGuiApi.so.1"))
+        gui = library_of_windows(folder)
         glib = ctypes.CDLL("libglib-2.0.so.0")
         self.get_system = function(cam, "OrvCam_GetSystem", c_void_p)
         self.release_system = function(cam, "OrvCam_ReleaseSystem", None, c_void_p)

@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvCam/Export.h>
+#include <OrvGenParam/ParamEventSink.h>
 
 #include <memory>
-#include <mutex>
 
 namespace OrvGenParam {
-
-class Param;
-class ParamEventSink;
-
-/// The one thing that a sink and the parameters it is registered at share. Whoever calls the sink
-/// holds the lock meanwhile; whoever wants no call to be under way takes it.
-struct SinkLink
-{
-    std::recursive_mutex calling;
-    ParamEventSink *sink = nullptr; ///< null after the sink's end; guarded by the lock
-};
 
 /// The sinks of one parameter. Adding, removing, notifying and destroying either end are safe at
 /// any time and on any thread, also from inside a notification. When `remove` or the destructor

@@ -58,7 +58,9 @@ public:
         QTimer::singleShot(timeoutMs, filter, &QObject::deleteLater);
     }
 
-    bool nativeEventFilter(const QByteArray &eventType, void *message, long *) override
+    using FilterResult = std::conditional_t<(QT_VERSION < 0x060000), long, qintptr>;
+
+    bool nativeEventFilter(const QByteArray &eventType, void *message, FilterResult *) override
     {
         if (eventType != "xcb_generic_event_t")
             return false;

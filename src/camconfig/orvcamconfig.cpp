@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfig.h"
 
+#include "base/cameralibrary.h"
 #include "base/cameratext.h"
 #include "boundfeatures.h"
 #include "camerainformation.h"
@@ -99,6 +100,7 @@ private:
     OrvCamConfigOpening *newOpening(OrvCam::DeviceInfo &camera);
     OrvCam::Device *open(OrvCam::DeviceInfo &camera);
     void reportFailure(const QString &camera, const OrvCamConfigOpening::Result &result);
+    void showError(const QString &text);
 
     QString numberOf(const OrvGenParam::Int *param);
     QByteArray symbolicOf(const OrvGenParam::Enum *param) const;
@@ -266,9 +268,14 @@ void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int 
 OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
 {
     if (!system)
-        system = OrvCam_GetSystem();
-    if (!system)
+        system = CameraLibrary::system();
+    if (!system) {
+        showError(CameraLibrary::isPresent()
+                      ? tr("The camera system cannot be started.")
+                      : tr("This program has no camera library: OrvCam_GetSystem or "
+                           "OrvCam_CreateDevice is missing."));
         return nullptr;
+    }
 
     // The window may be destroyed meanwhile, and this object and the picker with it.
     const QPointer<OrvCameraSelectorDialog> picker(new OrvCameraSelectorDialog(system, q));
@@ -326,6 +333,11 @@ void OrvCamConfigPrivate::reportFailure(const QString &camera,
     QString text = tr("The camera %1 cannot be opened!").arg(camera);
     if (!result.reason.isEmpty())
         text += QStringLiteral("\n\n") + result.reason;
+    showError(text);
+}
+
+void OrvCamConfigPrivate::showError(const QString &text)
+{
     auto *box = new QMessageBox(QMessageBox::Critical, QString(), text, QMessageBox::Ok, q);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);

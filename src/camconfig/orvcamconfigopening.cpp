@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigopening.h"
 
+#include "base/cameralibrary.h"
 #include "base/cameratext.h"
 #include "openingprogress.h"
 
@@ -75,7 +76,7 @@ DeviceOpener::Open simpleOpener(OrvCam::DeviceInfo &camera)
 {
     return [&camera](const DeviceOpener::Request &request) {
         DeviceOpener::Result result;
-        result.device = OrvCam_CreateDevice(&camera, nullptr, request.accessMode);
+        result.device = CameraLibrary::createDevice(camera, nullptr, request.accessMode);
         result.error = result.device ? OrvCam::Success : OrvCam::ErrorFailed;
         return result;
     };
@@ -233,7 +234,7 @@ void OrvCamConfigOpening::start()
         m_job->open = opener->opener();
     } else {
         m_job->open = simpleOpener(m_camera);
-        m_job->system.reset(OrvCam_GetSystem(), Releaser());
+        m_job->system.reset(CameraLibrary::system(), Releaser());
     }
     m_job->camera = m_camera.GetId();
     m_job->receiver = this;

@@ -49,7 +49,7 @@ QString automatic(double value, int precision, const QLocale &locale)
 QString floatText(GenApi::IFloat *node, double value, const QLocale &locale)
 {
     const int precision =
-        node ? static_cast<int>(qBound<int64_t>(0, node->GetDisplayPrecision(), 17)) : 6;
+        node ? static_cast<int>(qBound(int64_t(0), node->GetDisplayPrecision(), int64_t(17))) : 6;
     switch (node ? node->GetDisplayNotation() : GenApi::fnAutomatic) {
     case GenApi::fnFixed:
         return locale.toString(value, 'f', precision);

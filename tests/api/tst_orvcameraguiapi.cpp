@@ -42,8 +42,10 @@ struct Features : OrvGenApi::MemoryNodeMap
 /// Counts the X server's refusals to move a window that the library has left to its host.
 struct Refusals : QAbstractNativeEventFilter
 {
+    using Result = std::conditional_t<(QT_VERSION < 0x060000), long, qintptr>;
+
     Refusals() { QCoreApplication::instance()->installNativeEventFilter(this); }
-    bool nativeEventFilter(const QByteArray &, void *message, long *) override
+    bool nativeEventFilter(const QByteArray &, void *message, Result *) override
     {
         const auto *error = static_cast<xcb_generic_error_t *>(message);
         const bool isOne = error->response_type == 0 && error->error_code == XCB_MATCH &&

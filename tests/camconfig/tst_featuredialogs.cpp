@@ -94,9 +94,8 @@ const auto pulseNames = {"spBoxWidth",         "cmBoxGranularity",   "spBoxPerio
 
 bool shows(const QWidget &dialog, const char *label, const char *resource)
 {
-    const QPixmap *pixmap = part<QLabel>(dialog, label)->pixmap();
-    return pixmap && !pixmap->isNull() &&
-           pixmap->toImage() == QPixmap(QLatin1String(resource)).toImage();
+    const auto pixmap = part<QLabel>(dialog, label)->property("pixmap").value<QPixmap>();
+    return !pixmap.isNull() && pixmap.toImage() == QPixmap(QLatin1String(resource)).toImage();
 }
 
 } // namespace

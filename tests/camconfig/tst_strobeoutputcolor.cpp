@@ -160,7 +160,7 @@ void edit(QWidget *widget)
 
 QImage pictureOf(const std::unique_ptr<OrvCamConfigDialog> &dialog)
 {
-    return part<QLabel>(*dialog, "lblStrobeImage")->pixmap()->toImage();
+    return part<QLabel>(*dialog, "lblStrobeImage")->property("pixmap").value<QPixmap>().toImage();
 }
 
 QImage resource(const char *name)

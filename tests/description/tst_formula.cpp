@@ -195,7 +195,7 @@ private:
             "LG(1+ABS(%1))", "SQRT(ABS(%1))", "ABS(%1)",   "SGN(%1)",
             "NEG(%1)",       "TRUNC(%1)",     "FLOOR(%1)", "CEIL(%1)",
             "TRUNC(%1/3)",   "TRUNC(%1/3)",   "PI",        "E()"};
-        return QByteArray(calls[below(20)]).replace("%1", "(" + expression(depth) + ")");
+        return QByteArray(calls[below(20)]).replace("%1", QByteArray("(" + expression(depth) + ")"));
     }
 
     std::mt19937 m_random;

@@ -364,7 +364,7 @@ void TestGenParamTreeModel::write()
         QSignalSpy changes(&model, &GenParamTreeModel::dataChanged);
         QVERIFY2(model.setData(cell, row.value), row.feature);
         const GenApi::CValuePtr node(map.GetNode(row.feature));
-        QCOMPARE(QString::fromUtf8(node->ToString()), row.written);
+        QCOMPARE(QString::fromUtf8(node->ToString().c_str()), row.written);
 
         // The node reports the change first, without naming a role; then the write does.
         QCOMPARE(changes.first().at(0).toModelIndex(), cell);

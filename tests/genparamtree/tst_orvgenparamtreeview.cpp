@@ -43,7 +43,7 @@ struct CameraTree
     {
         other->InvalidateNodes();
         const GenApi::CValuePtr value(other->GetNode(feature.toLatin1().constData()));
-        return QString::fromUtf8(value->ToString());
+        return QString::fromUtf8(value->ToString().c_str());
     }
 };
 
@@ -256,7 +256,7 @@ void TestOrvGenParamTreeView::levelsAndSpans()
 
     // A new tree is made at the level that is set, and spans all that is visible then.
     SampleNodeMap second;
-    const auto selections = [&] { return tree->findChildren<QItemSelectionModel *>().size(); };
+    const auto selections = [&] { return int(tree->findChildren<QItemSelectionModel *>().size()); };
     const int before = selections();
     view.setParams(&second);
     QCOMPARE(selections(), before);

@@ -21,8 +21,8 @@
 
 namespace {
 
-const int delay = 150;         // of each answer, in milliseconds
-const QChar notKnown = 0x2026; // an ellipsis
+const int delay = 150;        // of each answer, in milliseconds
+const QChar notKnown(0x2026); // an ellipsis
 
 // Under the thread sanitizer threads wait for each other where they do not otherwise.
 #ifdef __SANITIZE_THREAD__

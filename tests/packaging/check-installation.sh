@@ -1,12 +1,16 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# check-installation.sh SOURCE_DIR BUILD_DIR WORK_DIR
+# check-installation.sh SOURCE_DIR BUILD_DIR WORK_DIR [QT]
 # Installs the build, and uses it as a stranger's project would: every header on its own, the
 # libraries through pkg-config, and the examples through CMake, outside the source tree.
 set -eu
 source=$1
 build=$2
 work=$3
+qt=${4:-5}
+name=OrvCameraGuiApi
+pc=orvcameraguiapi
+[ "$qt" = 5 ] || { name=${name}Qt$qt pc=$pc-qt$qt; }
 prefix=$work/moved
 
 fail() { echo "check-installation.sh: $*" >&2; exit 1; }
@@ -17,10 +21,10 @@ cmake --install "$build" --prefix "$work/prefix" >"$work/install.log"
 mv "$work/prefix" "$prefix" # an installation can be moved
 pkgconfig=$(find "$prefix" -type d -name pkgconfig)
 export PKG_CONFIG_PATH="$pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
-cxxflags=$(pkg-config --cflags orvcameraguiapi Qt5Widgets)
+cxxflags=$(pkg-config --cflags "$pc" "Qt${qt}Widgets")
 
 include=$prefix/include
-(cd "$include/OrvCameraGuiApi" && ls -- *.h) >"$work/headers"
+(cd "$include/$name" && ls -- *.h) >"$work/headers"
 (cd "$include/OrvCameraApi" && find . -name '*.h' | sed 's|^\./||') >>"$work/headers"
 while read -r header; do
     echo "#include <$header>" >"$work/header.cpp"
@@ -50,10 +54,10 @@ int main(void)
 EOF
 # shellcheck disable=SC2046,SC2086 # flags are words
 ${CC:-cc} -std=c99 -Wall -Wextra -Werror ${CFLAGS:-} "$work/host.c" -o "$work/host" \
-    $(pkg-config --cflags --libs orvcameraguiapi) ${LDFLAGS:-}
+    $(pkg-config --cflags --libs "$pc") ${LDFLAGS:-}
 LD_LIBRARY_PATH=$(dirname -- "$pkgconfig") QT_QPA_PLATFORM=offscreen "$work/host" >"$work/versions" \
     || fail "a C program can't use the installed library"
-version=$(pkg-config --modversion orvcameraguiapi)
+version=$(pkg-config --modversion "$pc")
 [ "$(cat "$work/versions")" = "$version $version $version $version" ] \
     || fail "the headers' versions are not $version: $(cat "$work/versions")"
 echo "a C program made with pkg-config runs"
@@ -64,15 +68,17 @@ mkdir "$work/readme"
 code cpp >"$work/readme/main.cpp"
 code cmake >"$work/readme/CMakeLists.txt"
 for example in "$source"/examples/*/CMakeLists.txt "$work/readme/CMakeLists.txt"; do
-    name=$(basename -- "$(dirname -- "$example")")
-    [ "$name" != aravis-host ] || [ -f "$include/OrvCameraApi/orvcameraapi-aravis.h" ] || continue
-    [ "$name" = readme ] || cp -r "$source/examples/$name" "$work/$name"
-    cmake -S "$work/$name" -B "$work/$name/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" \
-        >"$work/$name.log" 2>&1 || { cat "$work/$name.log"; fail "$name: cmake failed"; }
-    cmake --build "$work/$name/build" >"$work/$name.log" 2>&1 \
-        || { cat "$work/$name.log"; fail "$name: the build failed"; }
-    grep -q "$work/moved" "$work/$name/build/CMakeCache.txt" || fail "$name used another library"
-    echo "example $name is built against the installation"
+    host=$(basename -- "$(dirname -- "$example")")
+    [ "$host" != aravis-host ] || [ -f "$include/OrvCameraApi/orvcameraapi-aravis.h" ] || continue
+    [ "$host" = readme ] || cp -r "$source/examples/$host" "$work/$host"
+    sed -i -e "s/find_package(OrvCameraGuiApi /find_package($name /" \
+        -e "s/OrvCameraGuiApi::OrvCameraGuiApi/OrvCameraGuiApi::$name/" "$work/$host/CMakeLists.txt"
+    cmake -S "$work/$host" -B "$work/$host/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" \
+        >"$work/$host.log" 2>&1 || { cat "$work/$host.log"; fail "$host: cmake failed"; }
+    cmake --build "$work/$host/build" >"$work/$host.log" 2>&1 \
+        || { cat "$work/$host.log"; fail "$host: the build failed"; }
+    grep -q "$work/moved" "$work/$host/build/CMakeCache.txt" || fail "$host used another library"
+    echo "example $host is built against the installation"
 done
 
 "$prefix/bin/orvcamconfig" --simulate --list-features >"$work/features" \

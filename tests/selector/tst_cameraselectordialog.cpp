@@ -616,7 +616,7 @@ void TestCameraSelectorDialog::rowsMoved()
         m_parameters->SetIntegerValue("DeviceSelector", 0);
         dialog.accept();
     }}));
-    const int command = m_parameters->writes.indexOf("GevDeviceForceIP");
+    const int command = int(m_parameters->writes.indexOf("GevDeviceForceIP"));
     QCOMPARE(m_parameters->writes.mid(0, command).filter("DeviceSelector").last(),
              QString("DeviceSelector=1"));
 }

@@ -107,7 +107,7 @@ void TestCameraDescription::readNode(QXmlStreamReader &xml, int structure)
                 node.children << child;
         }
     }
-    const int self = m_nodes.size();
+    const int self = int(m_nodes.size());
     m_nodes << node;
     while (xml.readNextStartElement()) {
         const QString element = xml.name().toString();
@@ -145,7 +145,7 @@ void TestCameraDescription::namesReferencesAndOrder()
                 QVERIFY2(m_byName.contains(child.text), qPrintable(node.name + ": " + child.text));
             if (node.element == "StructEntry" && e == "Address")
                 continue;
-            const int place = elementOrder.indexOf(e);
+            const int place = int(elementOrder.indexOf(e));
             QVERIFY2(place >= last, qPrintable(node.name + ": " + e));
             last = place;
         }
@@ -164,7 +164,8 @@ void TestCameraDescription::featuresAreDocumented()
     }
     QCOMPARE(levels, (QSet<QString>{"Beginner", "Expert", "Guru", "Invisible"}));
     QVERIFY(m_depth >= 2);
-    QVERIFY(m_features.toSet().size() < m_features.size()); // a feature in two categories
+    QVERIFY(QSet<QString>(m_features.begin(), m_features.end()).size() <
+            m_features.size()); // a feature in two categories
 }
 
 // The highest value that a pIndex can have, from the feature that writes its register.
@@ -263,7 +264,7 @@ void TestCameraDescription::dialogsFindTheirFeatures()
     QSet<QString> known{
         "Disconnected", "OpeningProgress", "OrvCameraConfiguration", "Start", "Stop",
         "Temperature",  "Unknown"};
-    known += m_features.toSet();
+    known += QSet<QString>(m_features.begin(), m_features.end());
     for (const Node &node : qAsConst(m_nodes)) {
         if (node.element == "EnumEntry")
             known << node.name;

@@ -112,7 +112,7 @@ int readsIn(const QList<GvcpCommand> &commands)
 
 int writesIn(const QList<GvcpCommand> &commands)
 {
-    return commands.size() - readsIn(commands);
+    return int(commands.size()) - readsIn(commands);
 }
 
 QString registersReadTwice(const QList<GvcpCommand> &commands)

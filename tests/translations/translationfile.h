@@ -26,11 +26,11 @@ struct TranslationFile
         while (!xml.atEnd()) {
             if (xml.readNext() != QXmlStreamReader::StartElement)
                 continue;
-            if (xml.name() == "name") {
+            if (xml.name() == QLatin1String("name")) {
                 context = readText(xml);
-            } else if (xml.name() == "source") {
+            } else if (xml.name() == QLatin1String("source")) {
                 messages.append({context, readText(xml), QString(), false});
-            } else if (xml.name() == "translation" && !messages.isEmpty()) {
+            } else if (xml.name() == QLatin1String("translation") && !messages.isEmpty()) {
                 messages.last().isFinished = !xml.attributes().hasAttribute("type");
                 messages.last().translation = readText(xml);
             }

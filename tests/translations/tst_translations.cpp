@@ -297,7 +297,7 @@ QStringList TestTranslations::strangers(const QStringList &texts) const
 void TestTranslations::check(const QWidget &window)
 {
     const QStringList texts = textsOf(window);
-    m_checked += texts.size();
+    m_checked += int(texts.size());
     m_strangers << strangers(texts);
 }
 

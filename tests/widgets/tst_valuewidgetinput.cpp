@@ -202,7 +202,7 @@ void TestValueWidgetInput::goesRoundWithTab()
         press({"Tab"});
         QTRY_COMPARE(QApplication::focusWidget(), stop);
     }
-    for (int i = stops.count() - 2; i >= 0; --i) {
+    for (int i = int(stops.count()) - 2; i >= 0; --i) {
         press({"shift+Tab"});
         QTRY_COMPARE(QApplication::focusWidget(), stops.at(i));
     }

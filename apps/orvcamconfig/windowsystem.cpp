@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "display.h"
+#include "windowsystem.h"
 
 #include <QTemporaryDir>
 #include <QVector>
@@ -63,7 +63,7 @@ void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const Q
 
 } // namespace
 
-Display::Display(int &argc, char **argv, Need need, const QString &complaint)
+WindowSystem::WindowSystem(int &argc, char **argv, Need need, const QString &complaint)
 {
     if (need == Need::Text && !qEnvironmentVariableIsSet(platformVariable))
         qputenv(platformVariable, "offscreen");
@@ -80,10 +80,10 @@ Display::Display(int &argc, char **argv, Need need, const QString &complaint)
         qt_message_output(message.type, QMessageLogContext(), message.text);
 }
 
-Display::~Display() = default;
+WindowSystem::~WindowSystem() = default;
 
 /// Qt complains of a session without a folder for its sockets.
-void Display::goOffscreen()
+void WindowSystem::goOffscreen()
 {
     if (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         return;

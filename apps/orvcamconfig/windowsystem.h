@@ -9,7 +9,7 @@ class QTemporaryDir;
 
 /// Where the program's windows go: onto a display, or, when only text or a picture is wanted and
 /// there is none, into memory. One per program.
-class Display
+class WindowSystem
 {
 public:
     enum class Need { Windows, Picture, Text };
@@ -17,8 +17,8 @@ public:
     /// Ends the program with one line and status 1 when windows are needed and cannot be shown.
     /// The line is `complaint`, with Qt's reason for its "%1". A picture is then taken offscreen:
     /// the program is started again for that.
-    Display(int &argc, char **argv, Need need, const QString &complaint);
-    ~Display();
+    WindowSystem(int &argc, char **argv, Need need, const QString &complaint);
+    ~WindowSystem();
 
     QApplication &application() { return *m_application; }
 
