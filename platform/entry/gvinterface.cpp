@@ -164,13 +164,13 @@ int32_t GvInterface::forceIp(const GevAddresses &wanted)
     const auto isGivenUp = [this] { return m_isGivenUp.load(); };
     const int32_t error = codeOf(OrvGigEVision::forceIp(m_adapter, wanted.mac, wanted.ip,
                                                         wanted.mask, wanted.gateway, isGivenUp));
+    if (error == Success) {
+        m_addresses.at(concerned.front()->facts().id) = wanted;
+        concerned.front()->setAccessState(m_adapter.addressFor(wanted.ip) ? AccessReadWrite
+                                                                          : AccessSubnetMismatch);
+    }
     m_isForcing = false;
-    if (error != Success)
-        return error;
-    m_addresses.at(concerned.front()->facts().id) = wanted;
-    concerned.front()->setAccessState(m_adapter.addressFor(wanted.ip) ? AccessReadWrite
-                                                                      : AccessSubnetMismatch);
-    return Success;
+    return error;
 }
 
 } // namespace OrvCam
