@@ -318,7 +318,8 @@ void Acts::measureInterruptions()
         m_cameras.takeTraffic(); // the cameras remember it
         return Usage::now();
     };
-    interrupt();
+    for (int i = 0; i < 2; ++i) // until caches are full
+        interrupt();
     const Usage before = usage();
     const int threadsBefore = threads();
     m_meter.take();
