@@ -43,12 +43,6 @@ EAccessMode NodeAccess::accessMode() const
     return mode;
 }
 
-void NodeAccess::requireReadable() const
-{
-    if (!IsReadable(m_node.GetAccessMode()))
-        throw GenICam::AccessException("The feature is not readable", __FILE__, __LINE__);
-}
-
 /// Never fails, since it is asked after a failure.
 bool NodeAccess::isAvailable() const
 {

@@ -70,21 +70,10 @@ public:
         return code == OrvCam::Success ? value : T();
     }
 
-    /// As `get`, for what takes read access.
-    template<class T, class Function>
-    T read(int32_t *error, Function function) const
-    {
-        return get<T>(error, [&] {
-            requireReadable();
-            return T(function());
-        });
-    }
-
     /// Tells the sinks: at once on the home thread, else through the main context.
     void notify();
 
 private:
-    void requireReadable() const;
     int32_t codeOfException() const;
     bool isAvailable() const;
     void nodeChanged(GenApi::INode *);

@@ -12,7 +12,7 @@ NodeInt::NodeInt(ArrayState &array, INode &node, IInteger &value)
 
 int64_t NodeInt::GetValue(int32_t *error) const
 {
-    return m_access.read<int64_t>(error, [this] { return m_value.GetValue(); });
+    return m_access.get<int64_t>(error, [this] { return m_value.GetValue(); });
 }
 
 int32_t NodeInt::SetValue(int64_t value)
@@ -42,7 +42,7 @@ NodeFloat::NodeFloat(ArrayState &array, INode &node, IFloat &value)
 
 double NodeFloat::GetValue(int32_t *error) const
 {
-    return m_access.read<double>(error, [this] { return m_value.GetValue(); });
+    return m_access.get<double>(error, [this] { return m_value.GetValue(); });
 }
 
 int32_t NodeFloat::SetValue(double value)
@@ -68,7 +68,7 @@ double NodeFloat::GetInc(int32_t *error) const
 
 bool NodeBoolean::GetValue(int32_t *error) const
 {
-    return m_access.read<bool>(error, [this] { return m_value.GetValue(); });
+    return m_access.get<bool>(error, [this] { return m_value.GetValue(); });
 }
 
 int32_t NodeBoolean::SetValue(bool value)
@@ -88,7 +88,7 @@ bool NodeCommand::IsDone(int32_t *error) const
 
 const char *NodeString::GetValue(int32_t *error) const
 {
-    m_text = m_access.read<std::string>(
+    m_text = m_access.get<std::string>(
         error, [this]() -> std::string { return m_value.GetValue().c_str(); });
     return m_text.c_str();
 }
@@ -161,7 +161,7 @@ EnumEntry *NodeEnum::GetEntry(uint32_t index) const
 
 int64_t NodeEnum::GetIntValue(int32_t *error) const
 {
-    return m_access.read<int64_t>(error, [this] { return m_value.GetIntValue(); });
+    return m_access.get<int64_t>(error, [this] { return m_value.GetIntValue(); });
 }
 
 int32_t NodeEnum::SetIntValue(int64_t value)
@@ -171,7 +171,7 @@ int32_t NodeEnum::SetIntValue(int64_t value)
 
 const char *NodeEnum::GetSymbolicValue(int32_t *error) const
 {
-    m_symbolic = m_access.read<std::string>(error, [this]() -> std::string {
+    m_symbolic = m_access.get<std::string>(error, [this]() -> std::string {
         IEnumEntry *entry = m_value.GetCurrentEntry();
         return entry ? entry->GetSymbolic().c_str() : "";
     });

@@ -402,8 +402,12 @@ std::optional<double> ConverterSource::incReal()
     if (!m_isLinear)
         return std::nullopt;
     ReferenceSource raw(m_node, {});
-    const auto rawInc = raw.incReal();
-    const auto zero = converted(0);
+    std::optional<double> rawInc;
+    std::optional<double> zero;
+    Gather gather;
+    gather([&] { rawInc = raw.incReal(); });
+    gather([&] { zero = converted(0); });
+    gather.finish();
     const auto step = rawInc ? converted(*rawInc) : std::nullopt;
     if (!zero || !step || *zero == *step)
         return std::nullopt;
