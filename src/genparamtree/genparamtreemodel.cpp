@@ -111,7 +111,7 @@ GenApi::IValue *GenParamTreeModelPrivate::valueFromIndex(const QModelIndex &inde
 GenApi::CCategoryPtr GenParamTreeModelPrivate::CategoryFromIndex(const QModelIndex &index) const
 {
     if (index.isValid())
-        return GenApi::CCategoryPtr(valueFromIndex(index));
+        return GenApi::CCategoryPtr(static_cast<GenApi::IValue *>(index.internalPointer()));
     return GenApi::CCategoryPtr(nodeMap ? nodeMap->GetNode("Root") : nullptr);
 }
 

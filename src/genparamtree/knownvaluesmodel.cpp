@@ -46,10 +46,10 @@ QVariant KnownValuesModel::data(const QModelIndex &index, int role) const
 
 Qt::ItemFlags KnownValuesModel::flags(const QModelIndex &index) const
 {
-    const QModelIndex source = mapToSource(index);
-    if (!m_lookAhead || index.column() != valueColumn || !featureOf(source))
+    if (!m_lookAhead || index.column() != valueColumn)
         return GenParamTreeVisibilityFilterProxyModel::flags(index);
-    return cell(source).flags;
+    const QModelIndex source = mapToSource(index);
+    return featureOf(source) ? cell(source).flags : sourceModel()->flags(source);
 }
 
 // Removing and inserting rows costs the product of the stretches that go and the indexes that views
