@@ -17,8 +17,8 @@ constexpr std::size_t descriptionSize = 64u << 20;
 /// The longest one as the camera sends it, zipped or not.
 constexpr std::size_t downloadSize = 64u << 20;
 
-/// Nodes of a description, entries of enumerations included.
-constexpr std::size_t nodeCount = 500000;
+/// Nodes of a description, entries of enumerations included. Real ones have some thousand.
+constexpr std::size_t nodeCount = 100000;
 
 /// Entries of one enumeration, which are all put into one list. Real ones have some hundred.
 constexpr std::size_t entryCount = 4096;
@@ -27,7 +27,7 @@ constexpr std::size_t entryCount = 4096;
 constexpr std::size_t validValueCount = 4096;
 
 /// Elements inside of nodes; those of a structured register count for each of its entries.
-constexpr std::size_t elementCount = 4000000;
+constexpr std::size_t elementCount = 1000000;
 
 /// Elements within each other; the standard has no use for more than 6.
 constexpr int elementDepth = 32;
