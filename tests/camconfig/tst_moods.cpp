@@ -103,8 +103,8 @@ double longestWait(const QByteArray &mood)
 /// A camera in every mood, while all windows that there are show it or open it: nothing crashes, is
 /// printed or waits, and as soon as the camera behaves, all is shown as before.
 ///
-/// Each mood comes in one situation only; with ORV_MOODS=all (by hand) in all of them, which takes
-/// some minutes.
+/// Five of six moods come, in one situation each; with ORV_MOODS=all (by hand) all in all, which
+/// takes some minutes.
 class TestMoods : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ private slots:
     void cleanupTestCase();
     void init();
     void cleanup();
-    void opening_data() { addMoods({0, 1, 3, 5}); }
+    void opening_data() { addMoods({0, 1, 3}); }
     void opening();
     void working_data() { addMoods({2}); }
     void working();
