@@ -25,8 +25,9 @@ constexpr std::size_t archiveEntries = 100;
 constexpr std::size_t keptDescriptions = 100;
 constexpr uint64_t keptSize = 256u << 20;
 
-/// Nodes of a description, entries of enumerations included.
-constexpr std::size_t nodeCount = 500000;
+/// Nodes of a description, entries of enumerations included. Real ones have some thousand; this many
+/// take some 0.4 GB.
+constexpr std::size_t nodeCount = 250000;
 
 /// Entries of one enumeration, which are all put into one list. Real ones have some hundred.
 constexpr std::size_t entryCount = 4096;
@@ -35,7 +36,7 @@ constexpr std::size_t entryCount = 4096;
 constexpr std::size_t validValueCount = 4096;
 
 /// Elements inside of nodes; those of a structured register count for each of its entries.
-constexpr std::size_t elementCount = 4000000;
+constexpr std::size_t elementCount = 2000000;
 
 /// Elements within each other; the standard has no use for more than 6.
 constexpr int elementDepth = 32;

@@ -680,6 +680,8 @@ void TestNodeMap::manyNodes()
         nodes += "<Enumeration Name='E'><pValue>Hub</pValue>";
         for (int i = 0; i < count; ++i) {
             const QByteArray number = QByteArray::number(i);
+            if (i % 2000 == 1999)
+                nodes += "</Enumeration><Enumeration Name='E" + number + "'><pValue>Hub</pValue>";
             nodes += "<EnumEntry Name='E" + number + "'><Value>" + number + "</Value></EnumEntry>";
         }
         nodes += "</Enumeration>";
