@@ -1100,6 +1100,14 @@ Trigger</translation>
         <source>Temperature</source>
         <translation>Temperatur</translation>
     </message>
+    <message>
+        <source>The camera system cannot be started.</source>
+        <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>This program has no camera library: OrvCam_GetSystem or OrvCam_CreateDevice is missing.</source>
+        <translation>Diesem Programm fehlt die Kamerabibliothek: OrvCam_GetSystem oder OrvCam_CreateDevice ist nicht vorhanden.</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigFrameABDialog</name>

@@ -1100,6 +1100,14 @@ Trigger</source>
         <source>Temperature</source>
         <translation>温度</translation>
     </message>
+    <message>
+        <source>The camera system cannot be started.</source>
+        <translation>カメラシステムを起動できません。</translation>
+    </message>
+    <message>
+        <source>This program has no camera library: OrvCam_GetSystem or OrvCam_CreateDevice is missing.</source>
+        <translation>このプログラムにはカメラライブラリがありません: OrvCam_GetSystem または OrvCam_CreateDevice が見つかりません。</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigFrameABDialog</name>
