@@ -1,17 +1,21 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds and runs every test: first as developers build, then with
-# clang's address and undefined-behaviour sanitizers, where the fuzzers have a short turn, too.
+# Installs what is missing, builds and runs every test: first as developers build; a short set for
+# Qt 6; then with clang's address and undefined-behaviour sanitizers, where the fuzzers have a short
+# turn, too.
 # Arguments go to ctest.
 #   ORV_PRESET=dev ./test.sh    tests one preset only
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
-presets=${ORV_PRESET:-dev fuzz}
+presets=${ORV_PRESET:-dev qt6 fuzz}
 
 "$root/packaging/setup-debian.sh"
 case " $presets " in
 *" fuzz "*) "$root/packaging/setup-debian.sh" clang-packages.txt ;;
+esac
+case " $presets " in
+*" qt6 "*) "$root/packaging/setup-debian.sh" qt6-packages.txt ;;
 esac
 
 cd "$root"

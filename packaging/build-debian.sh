@@ -10,6 +10,7 @@ out=${1:-$root/build/debian}
 
 "$root/packaging/setup-debian.sh"
 "$root/packaging/setup-debian.sh" packaging-packages.txt
+"$root/packaging/setup-debian.sh" qt6-packages.txt
 
 rm -rf "$out"
 mkdir -p "$out/source"
