@@ -28,6 +28,7 @@ cmake --install "$work/build" --prefix "$work/prefix" >"$work/install.log"
 mkdir -p "$work/host"
 cp "$source/platform/genapi/Base/GCException.cpp" "$source/platform/genapi/Base/GCString.cpp" \
     "$source/platform/genapi/GenApi/NodeCallback.cpp" "$work/host"
+sed -i -e 's/GenApi_3_0/GenApi_3_4/g' -e 's/GenICam_3_0/GenICam_3_4/g' "$work"/host/*.cpp
 cat >"$work/host/main.cpp" <<'EOF'
 #include <orvcamconfig.h>
 #include <orvgenparamtreeview.h>
@@ -56,7 +57,7 @@ project(host LANGUAGES CXX)
 set(CMAKE_CXX_STANDARD 17)
 find_package(OrvCameraGuiApi 1.3 REQUIRED)
 add_library(sdk SHARED GCException.cpp GCString.cpp NodeCallback.cpp)
-target_link_libraries(sdk PRIVATE OrvCameraGuiApi::OrvCameraGuiApi)
+target_include_directories(sdk PRIVATE "${ORV_GENICAM_ROOT}/library/CPP/include")
 add_executable(host main.cpp)
 target_link_libraries(host PRIVATE OrvCameraGuiApi::OrvCameraGuiApi sdk)
 EOF
