@@ -235,7 +235,7 @@ template<class Dialog>
 void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction *action)
 {
     dialogs.append(dialog);
-    addShortcut(dialog, button, dialogs.size());
+    addShortcut(dialog, button, int(dialogs.size()));
     QObject::connect(dialog, &Dialog::closing, &receiver, [=] { button->setChecked(false); });
     QObject::connect(button, &QPushButton::toggled, &receiver, [=](bool checked) {
         if (checked)

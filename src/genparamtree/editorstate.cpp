@@ -56,7 +56,7 @@ EditorState::Filling::Filling(EditorState *state) : m_state(state)
         return;
     m_isAllSelected = lineEdit->selectedText() == textOf(state->m_editor, lineEdit);
     m_selectionStart = lineEdit->selectionStart();
-    m_selectionLength = lineEdit->selectedText().size();
+    m_selectionLength = int(lineEdit->selectedText().size());
     m_cursor = lineEdit->cursorPosition();
 }
 
@@ -65,7 +65,7 @@ EditorState::Filling::~Filling()
     if (!m_state)
         return;
     if (QLineEdit *lineEdit = m_state->m_lineEdit) {
-        const int length = lineEdit->text().size();
+        const int length = int(lineEdit->text().size());
         if (m_isAllSelected)
             selectAll(m_state->m_editor, lineEdit);
         else if (m_selectionStart >= 0 && m_selectionStart <= length)

@@ -51,7 +51,9 @@ QColor readableOn(const QColor &background, const QColor &text)
 
 QColor mixed(const QColor &first, const QColor &second, double share)
 {
-    const auto mix = [share](double a, double b) { return a + (b - a) * share; };
+    // QColor's numbers are double in Qt 5 and float in Qt 6.
+    using Number = decltype(first.redF());
+    const auto mix = [share](Number a, Number b) { return Number(a + (b - a) * share); };
     return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
                             mix(first.blueF(), second.blueF()));
 }

@@ -119,8 +119,8 @@ void SetIpDialog::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     QLineEdit *edit = ui->ipAddressLineEdit;
     edit->setFocus();
-    const int hostNumber = edit->text().lastIndexOf(QLatin1Char('.')) + 1;
-    edit->setSelection(hostNumber, edit->text().length() - hostNumber);
+    const int hostNumber = int(edit->text().lastIndexOf(QLatin1Char('.'))) + 1;
+    edit->setSelection(hostNumber, int(edit->text().length()) - hostNumber);
 }
 
 void SetIpDialog::checkSubnet(const QString &)

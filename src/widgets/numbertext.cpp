@@ -51,7 +51,7 @@ void localizePoint(const QDoubleSpinBox *box, QString &text)
     const QLatin1Char point('.');
     const QString sign(box->locale().decimalPoint());
     const QString group(box->locale().groupSeparator());
-    const int start = box->prefix().size();
+    const int start = int(box->prefix().size());
     const QString number = text.mid(start, text.size() - start - box->suffix().size());
     const bool isGroup = box->isGroupSeparatorShown() && group == point;
     if (number.count(point) == 1 && !number.contains(sign) && !isGroup)

@@ -115,7 +115,7 @@ void QtOrvDoubleSpinBoxVal::finishTyping()
         return;
     }
     QString input = text();
-    int pos = input.size();
+    int pos = int(input.size());
     double number = 0.0;
     if (!m_validateTyping && QDoubleSpinBox::validate(input, pos) == QValidator::Acceptable &&
         NumberText::read(this, cleanText(), &number) && number != value())

@@ -104,7 +104,7 @@ void QtOrvSpinBoxVal::finishTyping()
         return;
     }
     QString input = text();
-    int pos = input.size();
+    int pos = int(input.size());
     int number = 0;
     if (!m_validateTyping && QSpinBox::validate(input, pos) == QValidator::Acceptable &&
         NumberText::read(this, cleanText(), &number) && number != value())
