@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <map>
 #include <memory>
 
@@ -85,14 +86,19 @@ std::vector<char> linkFacts(int index)
 bool isEnslaved(int index)
 {
     const std::vector<char> answer = linkFacts(index);
-    const auto *header = reinterpret_cast<const nlmsghdr *>(answer.data());
-    if (!NLMSG_OK(header, answer.size()) || header->nlmsg_type != RTM_NEWLINK)
+    nlmsghdr header = {};
+    std::memcpy(&header, answer.data(), std::min(answer.size(), sizeof header));
+    if (header.nlmsg_type != RTM_NEWLINK)
         return false;
-    auto left = static_cast<int>(IFLA_PAYLOAD(header));
-    const auto *link = static_cast<const ifinfomsg *>(NLMSG_DATA(header));
-    for (const rtattr *fact = IFLA_RTA(link); RTA_OK(fact, left); fact = RTA_NEXT(fact, left)) {
-        if (fact->rta_type == IFLA_MASTER)
+    const std::size_t end = std::min<std::size_t>(answer.size(), header.nlmsg_len);
+    rtattr fact = {};
+    for (std::size_t at = NLMSG_SPACE(sizeof(ifinfomsg)); at + sizeof fact <= end;
+         at += RTA_ALIGN(fact.rta_len)) {
+        std::memcpy(&fact, answer.data() + at, sizeof fact);
+        if (fact.rta_type == IFLA_MASTER)
             return true;
+        if (fact.rta_len < sizeof fact)
+            return false;
     }
     return false;
 }
