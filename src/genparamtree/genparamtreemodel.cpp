@@ -45,7 +45,7 @@ QVariant integerData(GenApi::IInteger &integer)
     case GenApi::MACAddress:
         return macAddressText(static_cast<quint64>(value));
     case GenApi::HexNumber:
-        return QString::number(static_cast<qlonglong>(value), 16).toUpper();
+        return QString::number(static_cast<qulonglong>(value), 16).toUpper();
     default:
         return longVariant(value);
     }

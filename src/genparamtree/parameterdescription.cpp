@@ -82,7 +82,7 @@ QString validValueText(GenApi::IInteger &integer, int64_t value)
 {
     if (integer.GetRepresentation() != GenApi::HexNumber)
         return numberText(value);
-    return QLatin1String("0x") + QString::number(static_cast<qlonglong>(value), 16);
+    return QLatin1String("0x") + QString::number(static_cast<qulonglong>(value), 16);
 }
 
 QString validValueText(GenApi::IFloat &, double value)
