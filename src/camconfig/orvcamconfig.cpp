@@ -8,6 +8,7 @@
 #include "devicewatch.h"
 #include "featurereader.h"
 #include "featuretooltip.h"
+#include "framenumbers.h"
 #include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
 #include "orvcamconfigframeabdialog.h"
@@ -17,6 +18,7 @@
 #include "orvcamconfigstrobedialog.h"
 #include "orvcamconfigtriggerdialog.h"
 #include "orvcameraselectordialog.h"
+#include "otherframe.h"
 #include "selectordetour.h"
 #include "ui_orvcamconfigmainwindow.h"
 
@@ -38,9 +40,6 @@ namespace OrvGui {
 namespace {
 
 const int RefreshPeriod = 1000; // ms
-
-const char nameOfFrameA[] = "FrameA";
-const char nameOfFrameB[] = "FrameB";
 
 QString frameRate(const QString &frameTime, const QLocale &locale)
 {
@@ -97,12 +96,12 @@ private:
     void addShortcut(QWidget *dialog, QPushButton *button, int number);
     OrvCam::DeviceInfo *pick();
     void connectPicked();
-    OrvCamConfigOpening *newOpening(OrvCam::DeviceInfo &camera);
+    OrvCamConfigOpening *newOpening(OrvCam::DeviceInfo &camera,
+                                    const std::shared_ptr<OtherFrame> &other);
     OrvCam::Device *open(OrvCam::DeviceInfo &camera);
     void reportFailure(const QString &camera, const OrvCamConfigOpening::Result &result);
     void showError(const QString &text);
 
-    QString numberOf(const OrvGenParam::Int *param);
     QByteArray symbolicOf(const OrvGenParam::Enum *param) const;
     FeatureReader::Params shownParams() const;
 
@@ -126,6 +125,7 @@ private:
     void refreshFrame();
     Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
+    void showFrame(Frame frame, const FrameNumbers &numbers);
     bool updateBoth();
     bool readBoth();
     bool select(const char *frame);
@@ -135,13 +135,14 @@ private:
     void readFrameMode();
 
     OrvCamConfig *const q;
-    OrvCam::Device *device = nullptr;      ///< null while its camera is unplugged
-    OrvCam::System *system = nullptr;      ///< only when the window has obtained it
-    OrvCam::Device *ownDevice = nullptr;   ///< which the window has to release
-    OrvGenParam::Array *array = nullptr;   ///< the device's
-    FeatureReader reader;                  ///< of that
-    QPointer<OrvCamConfigOpening> opening; ///< of the camera that the user wants next
-    DeviceWatch watch;                     ///< keeps the device that is unplugged, too
+    OrvCam::Device *device = nullptr;             ///< null while its camera is unplugged
+    OrvCam::System *system = nullptr;             ///< only when the window has obtained it
+    OrvCam::Device *ownDevice = nullptr;          ///< which the window has to release
+    OrvGenParam::Array *array = nullptr;          ///< the device's
+    FeatureReader reader;                         ///< of that
+    QPointer<OrvCamConfigOpening> opening;        ///< of the camera that the user wants next
+    std::shared_ptr<const OtherFrame> otherFrame; ///< of the device that is about to be used
+    DeviceWatch watch;                            ///< keeps the device that is unplugged, too
     Ui_OrvCamConfigMainWindow ui;
     std::unique_ptr<CameraInformation> information;
     QVector<OrvCamConfigDialog *> dialogs; ///< children of the window
@@ -295,10 +296,12 @@ void OrvCamConfigPrivate::connectPicked()
     OrvCam::DeviceInfo *const picked = pick();
     if (!picked)
         return;
-    const QPointer<OrvCamConfigOpening> started = newOpening(*picked);
+    const auto other = std::make_shared<OtherFrame>();
+    const QPointer<OrvCamConfigOpening> started = newOpening(*picked, other);
     const QString name = cameraText(picked->GetDisplayName());
-    started->setReceiver([this](OrvCam::Device *opened) {
+    started->setReceiver([this, other](OrvCam::Device *opened) {
         opening.clear();
+        otherFrame = other;
         use(opened, opened);
     });
     const OrvCamConfigOpening::Result result = started->exec();
@@ -307,11 +310,19 @@ void OrvCamConfigPrivate::connectPicked()
     delete started;
 }
 
-OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera)
+/// The thread that opens writes to `other`, until the device is there.
+OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera,
+                                                     const std::shared_ptr<OtherFrame> &other)
 {
     delete opening;
     opening = new OrvCamConfigOpening(camera, OrvCam::AccessControl, q);
-    opening->setPreparation([](OrvCam::Device &opened) { OrvCamConfig::prepare(opened); });
+    opening->setPreparation([other](OrvCam::Device &opened) {
+        int32_t error = OrvCam::Success;
+        const OrvGenParam::Array *params = opened.GetParamArray(&error);
+        if (params && error == OrvCam::Success)
+            other->read(*params); // first, since what depends on the selector is forgotten by it
+        OrvCamConfig::prepare(opened);
+    });
     return opening;
 }
 
@@ -319,9 +330,12 @@ OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera)
 OrvCam::Device *OrvCamConfigPrivate::open(OrvCam::DeviceInfo &camera)
 {
     const QString name = cameraText(camera.GetDisplayName());
-    const QPointer<OrvCamConfigOpening> started = newOpening(camera);
+    const auto other = std::make_shared<OtherFrame>();
+    const QPointer<OrvCamConfigOpening> started = newOpening(camera, other);
     const OrvCamConfigOpening::Result result = started->exec();
     delete started;
+    if (result.device)
+        otherFrame = other;
     if (!result.device && !result.isCancelled)
         reportFailure(name, result);
     return result.device;
@@ -342,15 +356,6 @@ void OrvCamConfigPrivate::showError(const QString &text)
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
-}
-
-/// As text; empty when the camera lacks the feature or does not let it be read.
-QString OrvCamConfigPrivate::numberOf(const OrvGenParam::Int *param)
-{
-    int32_t error = OrvCam::Success;
-    const qint64 value = param ? reader.get([&] { return param->GetValue(&error); }) : 0;
-    hasTimedOut |= error == OrvCam::ErrorTimeout;
-    return param && error == OrvCam::Success ? QString::number(value) : QString();
 }
 
 /// Empty when it cannot be read.
@@ -643,8 +648,9 @@ void OrvCamConfigPrivate::showTemperature()
 {
     if (!temperature)
         return;
-    reader.whenKnown(this, temperature, {temperature},
-                     [this] { ui.lineEditTemperature->setText(numberOf(temperature)); });
+    reader.whenKnown(this, temperature, {temperature}, [this] {
+        ui.lineEditTemperature->setText(FrameNumbers::text(reader, temperature, hasTimedOut));
+    });
 }
 
 OrvCamConfigPrivate::Column OrvCamConfigPrivate::columnOf(Frame frame) const
@@ -671,13 +677,19 @@ void OrvCamConfigPrivate::dimOldNumbers()
 
 void OrvCamConfigPrivate::updateFrame(Frame frame)
 {
+    const FrameNumbers numbers = array ? FrameNumbers::read(reader, *array) : FrameNumbers();
+    hasTimedOut |= numbers.hasTimedOut;
+    showFrame(frame, numbers);
+}
+
+void OrvCamConfigPrivate::showFrame(Frame frame, const FrameNumbers &numbers)
+{
     const Column column = columnOf(frame);
-    const QString time = numberOf(frameTime);
-    const QString size = numberOf(width) + QLatin1Char('x') + numberOf(height);
+    const QString size = numbers.width + QLatin1Char('x') + numbers.height;
     column.size->setText(size.size() > 1 ? size : QString());
-    column.fps->setText(frameRate(time, q->locale()));
-    column.frameTime->setText(time);
-    column.exposure->setText(numberOf(exposureTime));
+    column.fps->setText(frameRate(numbers.frameTime, q->locale()));
+    column.frameTime->setText(numbers.frameTime);
+    column.exposure->setText(numbers.exposure);
 }
 
 /// False when the camera stays with the other frame, of which only this window knows then. What the
@@ -692,6 +704,7 @@ bool OrvCamConfigPrivate::updateBoth()
 
 bool OrvCamConfigPrivate::readBoth()
 {
+    const std::shared_ptr<const OtherFrame> before = std::exchange(otherFrame, nullptr);
     const Frame first = selectedFrame;
     reader.fetchNow(shownParams());
     updateFrame(first);
@@ -700,9 +713,13 @@ bool OrvCamConfigPrivate::readBoth()
     const QByteArray selected = symbolicOf(frameSelector);
     if (selected.isEmpty())
         return true;
-    const SelectorDetour detour;
     const bool isA = first == FrameA;
-    if (!select(isA ? nameOfFrameB : nameOfFrameA))
+    if (before && before->isBeside(selected)) {
+        showFrame(isA ? FrameB : FrameA, before->numbers());
+        return true;
+    }
+    const SelectorDetour detour;
+    if (!select(isA ? OtherFrame::frameB : OtherFrame::frameA))
         return true;
     reader.fetchNow(shownParams());
     updateFrame(isA ? FrameB : FrameA);
@@ -736,13 +753,15 @@ void OrvCamConfigPrivate::updateStatus()
 
 void OrvCamConfigPrivate::readSelectedFrame()
 {
-    selectedFrame = symbolicOf(frameSelector) == nameOfFrameA ? FrameA : FrameB;
+    selectedFrame = symbolicOf(frameSelector) == OtherFrame::frameA ? FrameA : FrameB;
 }
 
 void OrvCamConfigPrivate::readFrameMode()
 {
     const QByteArray mode = symbolicOf(frameModeParam);
-    frameMode = mode == nameOfFrameA ? OnlyFrameA : mode == nameOfFrameB ? OnlyFrameB : BothFrames;
+    frameMode = mode == OtherFrame::frameA   ? OnlyFrameA
+                : mode == OtherFrame::frameB ? OnlyFrameB
+                                             : BothFrames;
 }
 
 void OrvCamConfigPrivate::OnParameterUpdate(OrvGenParam::Param *param)

@@ -29,7 +29,8 @@ class OrvCamConfigPrivate;
 ///
 /// To read what the other frame does, the window moves the camera's frame selector and moves it
 /// back at once: when it gets a device, and when the frame mode changes. Windows of this library
-/// ignore that; event sinks of your own are notified twice.
+/// ignore that; event sinks of your own are notified twice. With a camera that the window opens
+/// itself it does so before the device is there, and does not wait.
 ///
 /// Use it on the GUI thread only, which is also the one that the device was created on, and not
 /// from inside a notification of the device.

@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTabWidget>
@@ -63,6 +64,39 @@ QDialog *progressDialog()
     return nullptr;
 }
 
+class Simple : public OrvCamConfig
+{
+public:
+    Simple() : OrvCamConfig(NoChoice, nullptr, nullptr, Qt::WindowFlags()) {}
+};
+
+/// Once started, picks the camera in the dialog that comes.
+class Picks : public QTimer
+{
+public:
+    Picks()
+    {
+        connect(this, &QTimer::timeout, [this] { pick(); });
+    }
+
+private:
+    void pick()
+    {
+        auto *picker = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!picker)
+            return;
+        auto *tree = picker->findChild<QTreeView *>("cameraTreeView");
+        const QModelIndexList found =
+            tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, "SLOW", 1,
+                                 Qt::MatchContains | Qt::MatchRecursive);
+        if (found.isEmpty())
+            return;
+        stop();
+        tree->setCurrentIndex(found.first());
+        picker->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+    }
+};
+
 } // namespace
 
 /// What a slow camera costs the windows: opened beside them, read in few commands.
@@ -79,6 +113,7 @@ private slots:
     void saysWhy();
     void changesOfMind_data();
     void changesOfMind();
+    void connects();
     void fewCommands();
     void neverWaits();
     void silence();
@@ -222,26 +257,7 @@ void TestOpening::changesOfMind()
     m_camera->setMood("delay", 20);
     std::unique_ptr<OrvCamConfig> window;
     int devices = 0;
-    QTimer picks;
-    connect(&picks, &QTimer::timeout, [&] {
-        auto *picker = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!picker)
-            return;
-        auto *tree = picker->findChild<QTreeView *>("cameraTreeView");
-        const QModelIndexList found =
-            tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, "SLOW", 1,
-                                 Qt::MatchContains | Qt::MatchRecursive);
-        if (found.isEmpty())
-            return;
-        picks.stop();
-        tree->setCurrentIndex(found.first());
-        picker->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
-    });
-    class Simple : public OrvCamConfig
-    {
-    public:
-        Simple() : OrvCamConfig(NoChoice, nullptr, nullptr, Qt::WindowFlags()) {}
-    };
+    Picks picks;
     window = std::make_unique<Simple>();
     connect(window.get(), &OrvCamConfig::deviceChanged,
             [&](OrvCam::Device *device) { devices += device ? 1 : 0; });
@@ -278,6 +294,53 @@ void TestOpening::changesOfMind()
     window.reset();
     QVERIFY(!progressDialog());
     QTRY_COMPARE(m_camera->privilege(), 0u);
+}
+
+/// Of a camera that the window opens itself both frames have been read before it is shown.
+void TestOpening::connects()
+{
+    const QTemporaryDir cache; // a second opening takes a few commands
+    qputenv("ORVCAM_DESCRIPTION_CACHE", cache.path().toLocal8Bit());
+    {
+        const DevicePtr device(open().device);
+        QVERIFY(device);
+        device->GetParamArray()->GetEnum("FrameAB_Selector")->SetSymbolicValue("FrameA");
+    }
+    qint64 longest = 1000;
+    for (int attempt = 0; attempt < 3 && longest >= 250; ++attempt) {
+        Simple window;
+        Picks picks;
+        picks.start(50);
+        std::unique_ptr<Gaps> gaps;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            if (!gaps && progressDialog())
+                gaps = std::make_unique<Gaps>();
+        });
+        watch.start(10);
+        m_camera->setMood("delay", 100);
+        window.findChild<QAction *>("actionConnect")->trigger();
+        QVERIFY(window.device() && gaps);
+        longest = gaps->longest();
+        m_camera->setMood("delay", 0);
+        qInfo("connected with a longest gap of %d ms", int(longest));
+
+        OrvGenParam::Array *const params = window.device()->GetParamArray();
+        QCOMPARE(params->GetEnum("FrameAB_Selector")->GetSymbolicValue(), "FrameA");
+        for (const char frame : {'A', 'B'}) {
+            params->GetEnum("FrameAB_Selector")
+                ->SetSymbolicValue(QByteArray("Frame").append(frame).constData());
+            const auto size = QString("%1x%2")
+                                  .arg(params->GetIntegerValue("Width"))
+                                  .arg(params->GetIntegerValue("Height"));
+            const auto *field =
+                window.findChild<QLineEdit *>(QString("lineEditSizeFrame%1").arg(frame));
+            QCOMPARE(field->text(), size);
+        }
+        params->GetEnum("FrameAB_Selector")->SetSymbolicValue("FrameA");
+    }
+    qputenv("ORVCAM_DESCRIPTION_CACHE", "");
+    QVERIFY2(longest < 250, qPrintable(QString::number(longest)));
 }
 
 void TestOpening::fewCommands()
