@@ -12,21 +12,33 @@ namespace {
 
 /// What one thread hands over to another. GLib's locks put the two in order; the thread sanitizer
 /// does not see those, but this.
-struct Call
+template<typename Value>
+class HandedOver
 {
-    explicit Call(std::function<void()> toDo) : function(std::move(toDo))
+public:
+    explicit HandedOver(Value value) : m_value(std::move(value))
     {
-        isReady.store(true, std::memory_order_release);
+        m_isReady.store(true, std::memory_order_release);
     }
-    std::function<void()> function;
-    std::atomic<bool> isReady{false};
+
+    /// On the thread that it was handed over to.
+    const Value &get() const
+    {
+        while (!m_isReady.load(std::memory_order_acquire)) {
+        }
+        return m_value;
+    }
+
+private:
+    const Value m_value;
+    std::atomic<bool> m_isReady{false};
 };
+
+using Call = HandedOver<std::function<void()>>;
 
 int callOnce(void *data)
 {
-    auto *call = static_cast<Call *>(data);
-    if (call->isReady.load(std::memory_order_acquire))
-        call->function();
+    static_cast<Call *>(data)->get()();
     return G_SOURCE_REMOVE;
 }
 
@@ -55,13 +67,13 @@ struct Timer::State
 Timer::Timer(unsigned periodMs, std::function<void()> tick) : m_state(std::make_shared<State>())
 {
     m_state->tick = std::move(tick);
-    using Held = std::shared_ptr<State>;
+    using Held = HandedOver<std::shared_ptr<State>>;
     // The source removes itself at its next turn after the end: destroying it from here would race
     // with the context that is about to call it.
     g_timeout_add_full(
         G_PRIORITY_DEFAULT, periodMs,
         [](void *data) -> gboolean {
-            const Held state = *static_cast<Held *>(data);
+            const std::shared_ptr<State> state = static_cast<Held *>(data)->get();
             const std::lock_guard<std::recursive_mutex> lock(state->mutex);
             if (const auto call = state->tick)
                 call();

@@ -3,6 +3,8 @@
 
 #include <QThread>
 
+#include <atomic>
+
 namespace OrvCam {
 class AddressForcing;
 class Interface;
@@ -39,5 +41,5 @@ protected:
 private:
     OrvCam::AddressForcing *const m_forcing; ///< null when the interface cannot give up
     OrvGenParam::Array &m_parameters;
-    bool m_hasSucceeded = false;
+    std::atomic<bool> m_hasSucceeded{false};
 };
