@@ -979,8 +979,10 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
     QTest::addColumn<QString>("how");
     for (const char *feature : {"Width", "Gain", "PixelFormat", "DeviceUserID", "DeviceReset",
                                 "GevPersistentIPAddress"}) {
-        for (const char *how : {"replace", "clear", "delete"})
-            QTest::addRow("%s %s", feature, how) << feature << how;
+        for (const char *how : {"replace", "clear", "delete"}) {
+            const QByteArray name = QByteArray(feature) + ' ' + how;
+            QTest::newRow(name.constData()) << feature << how;
+        }
     }
 }
 
