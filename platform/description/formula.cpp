@@ -195,7 +195,7 @@ private:
 
     std::size_t choose(std::size_t number, FormulaCode::Step step)
     {
-        // Neither side is computed as long as nobody knows which one counts.
+        // Neither side is computed before it is known which one counts.
         if (!m_top->isKnown())
             return m_formula.m_code.steps[step.operand - 1].operand;
         const bool isTrue = m_top->isTrue();

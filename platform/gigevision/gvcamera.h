@@ -9,7 +9,7 @@
 
 namespace OrvGigEVision {
 
-/// Whether somebody controls a camera.
+/// Whether a camera is under control of a program.
 enum class Control { Free, Taken, Unknown };
 
 /// A GigE Vision camera that answered.

@@ -15,7 +15,7 @@ namespace OrvGui {
 /// and back.
 ///
 /// While the selector is away, whatever is written to the camera goes to the wrong frame. So this
-/// is for a camera that nobody else has yet, on the thread that opens it; a window moves the
+/// is for a camera that has no other user yet, on the thread that opens it; a window moves the
 /// selector of its camera without letting go of the GUI thread.
 class OtherFrame
 {

@@ -15,8 +15,8 @@
 #include <thread>
 #include <vector>
 
-/// Somebody who answers each discovery command as if there were many cameras, which may be made up.
-/// Nothing else is answered.
+/// A device that answers each discovery command as if there were many cameras, which may be made
+/// up. Nothing else is answered.
 class CameraCrowd
 {
 public:
