@@ -23,7 +23,7 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 for preset in $presets; do
     echo "test.sh: preset $preset"
-    cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; echo "test.sh: cmake failed" >&2; exit 1; }
+    cmake --preset "$preset" -DORV_PRECOMPILE_HEADERS=ON >"$log" 2>&1 || { cat "$log" >&2; echo "test.sh: cmake failed" >&2; exit 1; }
     cmake --build --preset "$preset" || { echo "test.sh: the build failed" >&2; exit 1; }
     ctest --preset "$preset" "$@"
 done
