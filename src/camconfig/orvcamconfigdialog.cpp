@@ -3,6 +3,7 @@
 
 #include <OrvCam/Device.h>
 
+#include <QComboBox>
 #include <QPointer>
 
 #include <utility>
@@ -49,6 +50,9 @@ void OrvCamConfigDialogPrivate::target()
 {
     if (!m_isFormBuilt) {
         buildForm();
+        // Unlike others, lists measure themselves without asking for what a style sheet adds.
+        for (QComboBox *list : q->findChildren<QComboBox *>())
+            list->ensurePolished();
         m_isFormBuilt = true;
     }
     ++m_tenures;
