@@ -20,6 +20,17 @@ OrvGenParam::Array *paramsOf(OrvCam::Device *device)
     return error == OrvCam::Success ? array : nullptr;
 }
 
+// The share of a row that a stretched list gets may be less than its entries take. One with entries
+// of an unusual length is left to be squeezed.
+void keepWhole(QComboBox *list)
+{
+    const int longest = 30 * list->fontMetrics().averageCharWidth();
+    QSizePolicy policy = list->sizePolicy();
+    policy.setHorizontalPolicy(list->sizeHint().width() > longest ? QSizePolicy::Preferred
+                                                                  : QSizePolicy::Minimum);
+    list->setSizePolicy(policy);
+}
+
 } // namespace
 
 OrvCamConfigDialogPrivate::OrvCamConfigDialogPrivate() = default;
@@ -69,6 +80,8 @@ void OrvCamConfigDialogPrivate::target()
     FeatureReader::fetchNow(*array, features());
     m_boundDevice = device;
     bind();
+    for (QComboBox *list : q->findChildren<QComboBox *>())
+        keepWhole(list);
 }
 
 // A device that has lost its camera may have lost the parameters with it. It tells of nothing more.

@@ -64,7 +64,8 @@ QPalette darkPalette()
 
 enum Colors { Light, Dark, DarkSheet };
 
-/// What the windows are looked at in.
+/// What the windows are looked at in; on a screen with several pixels for one, in few, because what
+/// differs there is only the numbers being rounded.
 struct Condition
 {
     const char *name;
@@ -72,18 +73,18 @@ struct Condition
     Colors colors = Light;
     int points = 9;
     bool isRightToLeft = false;
+    bool isForFineScreens = false;
 };
 
 // The colours are those of every language; the room for texts differs with language and size.
 const Condition conditions[] = {
     {"light, en", "en"},
-    {"light, de", "de"},
+    {"light, de", "de", Light, 9, false, true},
     {"light, ja", "ja"},
     {"dark, en", "en", Dark},
     {"sheet, de", "de", DarkSheet},
     {"sheet, ja", "ja", DarkSheet},
-    {"18 points, en", "en", Light, 18},
-    {"18 points, de", "de", Light, 18},
+    {"18 points, de", "de", Light, 18, false, true},
     {"18 points, ja, dark", "ja", Dark, 18},
     {"right to left, de", "de", Light, 9, true},
     {"right to left, 18 points, sheet, en", "en", DarkSheet, 18, true},
@@ -177,6 +178,10 @@ const char *reasonFor(const QString &window, const QString &fault)
         return "the button's width is its text's, without the padding of a style sheet";
     if (window == "color" && fault.startsWith("cut: pushBtn"))
         return "the button's width is its text's, without the padding of a style sheet";
+    if (window == "about" && fault.startsWith("off the screen"))
+        return "the window is higher than a small screen";
+    if (window == "frames" && fault.startsWith("cut: grBoxVideoAmplifier"))
+        return "Qt gives a title no room for the blank edge of its first character";
     return nullptr;
 }
 
@@ -225,6 +230,18 @@ QStringList faultsOf(QWidget &window, const QString &name)
     }
     return faults + Controls::namelessOf(window) + Controls::tabOrderFaultsOf(window) +
            Controls::sharedMnemonicsOf(window);
+}
+
+QStringList menuFaultsOf(const QWidget &window)
+{
+    QStringList faults;
+    for (const QAction *action : window.findChild<QMenuBar *>()->actions()) {
+        QMenu &menu = *action->menu();
+        menu.popup(QPoint());
+        faults << faultsOf(menu, QTest::currentDataTag() + ('-' + menu.objectName()));
+        menu.close();
+    }
+    return faults;
 }
 
 } // namespace
@@ -346,7 +363,10 @@ void TestLooks::windows_data()
     QTest::addColumn<int>("condition");
     QTest::addColumn<QString>("name");
     const int count = int(sizeof conditions / sizeof *conditions);
+    const bool isFine = qApp->devicePixelRatio() > 1;
     for (int i = 0; i < count; ++i) {
+        if (isFine && !conditions[i].isForFineScreens)
+            continue;
         for (const char *name : {"picker", "address", "wrong address", "opening", "tree", "main",
                                  "about", "trigger", "pulse", "slider", "strobe", "output",
                                  "color", "frames"})
@@ -367,14 +387,8 @@ void TestLooks::windows()
     QStringList faults;
     QWidget *shown = opened(*window, name);
     faults << faultsOf(*shown, QTest::currentDataTag());
-    if (auto *bar = window->findChild<QMenuBar *>()) {
-        for (const QAction *action : bar->actions()) {
-            action->menu()->popup(QPoint());
-            faults << faultsOf(*action->menu(),
-                               QTest::currentDataTag() + ('-' + action->menu()->objectName()));
-            action->menu()->close();
-        }
-    }
+    if (name == "main")
+        faults << menuFaultsOf(*window);
     QStringList unexpected;
     for (const QString &fault : qAsConst(faults)) {
         const char *reason = reasonFor(name, fault);

@@ -57,7 +57,9 @@ public:
             return;
         const QRectF height = metrics.tightBoundingRect(text);
         const qreal blanks = metrics.size(0, text).width() - metrics.size(0, text.trimmed()).width();
-        const QRectF ink(base.x(), base.y() + height.top(), item.width() - blanks, height.height());
+        QRectF ink(base.x(), base.y() + height.top(), item.width() - blanks, height.height());
+        const qreal bearing = metrics.rightBearing(text.trimmed().at(text.trimmed().size() - 1));
+        ink.setRight(ink.right() - std::max(qreal(0), bearing));
         const QTransform transform = painter()->combinedTransform();
         QRectF clip = m_rect;
         if (painter()->hasClipping())
