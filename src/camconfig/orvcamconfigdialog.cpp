@@ -134,7 +134,8 @@ void OrvCamConfigDialog::reject()
 void OrvCamConfigDialog::showEvent(QShowEvent *event)
 {
     d->prepareToShow();
-    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes it.
+    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes
+    // it.
     if (!focusWidget())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);

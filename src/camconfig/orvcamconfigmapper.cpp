@@ -22,8 +22,8 @@
 #include <QComboBox>
 #include <QIntValidator>
 #include <QLineEdit>
-#include <QMetaMethod>
 #include <QMessageBox>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>

@@ -6,8 +6,8 @@ class QComboBox;
 class QString;
 
 /**
- * Gives assistive technology the name and the value of a value widget and of its parts, and the name
- * of a list.
+ * Gives assistive technology the name and the value of a value widget and of its parts, and the
+ * name of a list.
  *
  * Without it a screen reader would hear the position of a slider instead of its value, a part of a
  * compound widget would not know the widget's name, and neither would a list without a label.

@@ -24,6 +24,8 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -142,8 +144,7 @@ OrvCam::Device *openCamera(OrvCam::System &system)
     first->RefreshDevices(nullptr, 100);
     OrvCam::DeviceInfoList *cameras = first->GetDeviceInfoSet();
     int32_t code = OrvCam::Success;
-    OrvCam::Device *device =
-        OrvCam_CreateDevice(cameras->GetFirst(), &code, OrvCam::AccessControl);
+    OrvCam::Device *device = OrvCam_CreateDevice(cameras->GetFirst(), &code, OrvCam::AccessControl);
     cameras->Release();
     interfaces->Release();
     return device;
@@ -351,7 +352,8 @@ Window TestLooks::makeAddresses(unsigned camera)
 Window TestLooks::makeTree()
 {
     int32_t code = OrvCam::Success;
-    auto view = std::make_unique<OrvGui::OrvGenParamTreeView>(m_device->GetParamArray(&code), nullptr);
+    auto view =
+        std::make_unique<OrvGui::OrvGenParamTreeView>(m_device->GetParamArray(&code), nullptr);
     view->setVisibility(OrvGui::Guru);
     QTreeView &tree = *view->treeView();
     tree.expandAll();
@@ -367,9 +369,9 @@ void TestLooks::windows_data()
     for (int i = 0; i < count; ++i) {
         if (isFine && !conditions[i].isForFineScreens)
             continue;
-        for (const char *name : {"picker", "address", "wrong address", "opening", "tree", "main",
-                                 "about", "trigger", "pulse", "slider", "strobe", "output",
-                                 "color", "frames"})
+        for (const char *name :
+             {"picker", "address", "wrong address", "opening", "tree", "main", "about", "trigger",
+              "pulse", "slider", "strobe", "output", "color", "frames"})
             QTest::addRow("%s: %s", conditions[i].name, name) << i << QString(name);
     }
 }
@@ -390,7 +392,7 @@ void TestLooks::windows()
     if (name == "main")
         faults << menuFaultsOf(*window);
     QStringList unexpected;
-    for (const QString &fault : qAsConst(faults)) {
+    for (const QString &fault : std::as_const(faults)) {
         const char *reason = reasonFor(name, fault);
         if (!reason)
             unexpected << fault;

@@ -56,7 +56,8 @@ public:
         if (text.trimmed().isEmpty())
             return;
         const QRectF height = metrics.tightBoundingRect(text);
-        const qreal blanks = metrics.size(0, text).width() - metrics.size(0, text.trimmed()).width();
+        const qreal blanks =
+            metrics.size(0, text).width() - metrics.size(0, text.trimmed()).width();
         QRectF ink(base.x(), base.y() + height.top(), item.width() - blanks, height.height());
         const qreal bearing = metrics.rightBearing(text.trimmed().at(text.trimmed().size() - 1));
         ink.setRight(ink.right() - std::max(qreal(0), bearing));
@@ -280,7 +281,8 @@ private:
     void checkPlace(const QWidget &widget)
     {
         const QWidget *parent = widget.parentWidget();
-        if (widget.isWindow() || isViewport(parent) || qobject_cast<const QSplitterHandle *>(&widget))
+        if (widget.isWindow() || isViewport(parent) ||
+            qobject_cast<const QSplitterHandle *>(&widget))
             return;
         if (!parent->rect().contains(widget.geometry()))
             add(Fault::Squeezed, widget,
@@ -301,7 +303,8 @@ private:
         const auto *view = viewOf(widget);
         const bool isHeader = qobject_cast<const QHeaderView *>(view);
         if (isElided)
-            return add(view && !isHeader ? Fault::CutCell : Fault::Cut, widget, text + " is elided");
+            return add(view && !isHeader ? Fault::CutCell : Fault::Cut, widget,
+                       text + " is elided");
         if (isViewport(&widget) && !isHeader)
             return;
         const QRectF room = painted.clip & QRectF(openPart(widget));

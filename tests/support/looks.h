@@ -13,8 +13,7 @@ namespace Looks {
 
 struct Fault
 {
-    enum Kind
-    {
+    enum Kind {
         Pale,     ///< less contrast than WCAG asks for; disabled texts are exempt
         Cut,      ///< a text that is not seen whole
         CutCell,  ///< the same in a cell of an item view, whose columns the user can widen
@@ -29,7 +28,8 @@ struct Fault
     QString toString() const;
 };
 
-/// Expects the window to be shown. Looks at its tool windows and menus only when they are asked for.
+/// Expects the window to be shown. Looks at its tool windows and menus only when they are asked
+/// for.
 QVector<Fault> faultsOf(QWidget &window);
 
 /// What the faults are found in.
