@@ -3,6 +3,7 @@
 
 #include <OrvCam/Device.h>
 
+#include <QComboBox>
 #include <QPointer>
 
 #include <utility>
@@ -17,6 +18,17 @@ OrvGenParam::Array *paramsOf(OrvCam::Device *device)
     int32_t error = OrvCam::Success;
     OrvGenParam::Array *const array = device->GetParamArray(&error);
     return error == OrvCam::Success ? array : nullptr;
+}
+
+// The share of a row that a stretched list gets may be less than its entries take. One with entries
+// of an unusual length is left to be squeezed.
+void keepWhole(QComboBox *list)
+{
+    const int longest = 30 * list->fontMetrics().averageCharWidth();
+    QSizePolicy policy = list->sizePolicy();
+    policy.setHorizontalPolicy(list->sizeHint().width() > longest ? QSizePolicy::Preferred
+                                                                  : QSizePolicy::Minimum);
+    list->setSizePolicy(policy);
 }
 
 } // namespace
@@ -49,6 +61,9 @@ void OrvCamConfigDialogPrivate::target()
 {
     if (!m_isFormBuilt) {
         buildForm();
+        // Unlike others, lists measure themselves without asking for what a style sheet adds.
+        for (QComboBox *list : q->findChildren<QComboBox *>())
+            list->ensurePolished();
         m_isFormBuilt = true;
     }
     ++m_tenures;
@@ -65,6 +80,8 @@ void OrvCamConfigDialogPrivate::target()
     FeatureReader::fetchNow(*array, features());
     m_boundDevice = device;
     bind();
+    for (QComboBox *list : q->findChildren<QComboBox *>())
+        keepWhole(list);
 }
 
 // A device that has lost its camera may have lost the parameters with it. It tells of nothing more.
@@ -117,7 +134,8 @@ void OrvCamConfigDialog::reject()
 void OrvCamConfigDialog::showEvent(QShowEvent *event)
 {
     d->prepareToShow();
-    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes it.
+    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes
+    // it.
     if (!focusWidget())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);

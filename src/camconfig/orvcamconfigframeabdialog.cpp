@@ -14,6 +14,7 @@
 #include "qtorvspinboxval.h"
 #include "selectordetour.h"
 #include "ui_orvcamconfigframeabdialog.h"
+#include "valueaccessibility.h"
 #include "valuegrid.h"
 #include "wheelguard.h"
 
@@ -298,6 +299,7 @@ void OrvCamConfigFrameABDialogPrivate::buildForm()
 {
     ui.setupUi(q);
     setCaptions();
+    ValueAccessibility::setName(ui.cmBoxAveraging, ui.radioBtnSubsampleAverage->text());
     shutterButtons = group({ui.radioBtnRollingShutter, ui.radioBtnGlobalShutter});
     adcButtons = group({ui.radioBtnAdcSelector10b, ui.radioBtnAdcSelector12b});
     exposureButtons = group({ui.radioBtnExpOff, ui.radioBtnExpTrigger, ui.radioBtnExpInternal});

@@ -17,13 +17,13 @@
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>
 
-#include <QAccessible>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QIntValidator>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -114,6 +114,18 @@ QButtonGroup *groupOf(const OrvCamConfigMapData &record)
 IOrvCamConfigIntConverter *converterOf(const OrvCamConfigMapData &record)
 {
     return static_cast<IOrvCamConfigIntConverter *>(record.extra);
+}
+
+// All but QObject's own, which tell others to forget the object: Qt itself when a style sheet or a
+// screen reader is in use.
+void disconnectSignals(QObject *object)
+{
+    const QMetaObject *type = object->metaObject();
+    for (int i = QObject::staticMetaObject.methodCount(); i < type->methodCount(); ++i) {
+        const QMetaMethod method = type->method(i);
+        if (method.methodType() == QMetaMethod::Signal)
+            QObject::disconnect(object, method, nullptr, QMetaMethod());
+    }
 }
 
 QtOrvSlider *sliderOf(const OrvCamConfigMapData &record)
@@ -372,11 +384,7 @@ void OrvCamConfigMapper::cut(const OrvCamConfigMapData &record)
         control = group;
     if (!control)
         return;
-    // What Qt keeps for screen readers goes by a signal of the control; it would outlive the
-    // control.
-    if (QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control))
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(accessible));
-    QObject::disconnect(control, nullptr, nullptr, nullptr);
+    disconnectSignals(control);
     if (QtOrvSlider *slider = sliderOf(record))
         QObject::disconnect(slider, nullptr, context(), nullptr);
     for (Showing *showing : m_state->showing) {

@@ -5,6 +5,7 @@
 #include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigoutputdialog.h"
+#include "valueaccessibility.h"
 
 namespace OrvGui {
 
@@ -28,6 +29,7 @@ void OrvCamConfigOutputDialogPrivate::buildForm()
     for (QtOrvSpinBox *spinBox : {ui.spBoxDpcDynThres, ui.spBoxHpcDynThres})
         spinBox->setLeftLabelText(OrvCamConfigOutputDialog::tr("Dyn.Thres.:"));
     FormFit::align({ui.label_3, ui.label_4});
+    ValueAccessibility::setName(ui.cmBoxLut, ui.groupBox_2->title());
 }
 
 void OrvCamConfigOutputDialogPrivate::bind()

@@ -6,6 +6,7 @@
 #include "orvcamconfigdialog_p.h"
 #include "qtorvslider.h"
 #include "ui_orvcamconfigstrobedialog.h"
+#include "valueaccessibility.h"
 
 namespace OrvGui {
 
@@ -43,6 +44,9 @@ void OrvCamConfigStrobeDialogPrivate::buildForm()
     ui.spBoxStrobe2Width->setLeftLabelText(width);
     FormFit::align({ui.spBoxStrobe1Delay->leftLabel(), ui.spBoxStrobe1Width->leftLabel(),
                     ui.spBoxStrobe2Delay->leftLabel(), ui.spBoxStrobe2Width->leftLabel()});
+    const QString source = OrvCamConfigStrobeDialog::tr("Source of output %1");
+    ValueAccessibility::setName(ui.cmBoxOut1Selector, source.arg(1));
+    ValueAccessibility::setName(ui.cmBoxOut2Selector, source.arg(2));
 }
 
 void OrvCamConfigStrobeDialogPrivate::bind()

@@ -6,6 +6,7 @@
 #include "featurecell.h"
 #include "genparamtreemodel.h"
 #include "treelookahead.h"
+#include "valueaccessibility.h"
 
 #include <GenApi/GenApi.h>
 
@@ -48,14 +49,25 @@ QWidget *SafeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
         const auto *list = qobject_cast<QComboBox *>(editor);
         if (list && list->count() == 0) {
             delete list;
-            return createNote(parent);
+            return named(createNote(parent), index);
         }
         if (editor)
             watch(editor);
-        return editor;
+        return named(editor, index);
     } catch (const GenICam::GenericException &) {
         return nullptr;
     }
+}
+
+/// For those who hear it: by the feature. May be null.
+QWidget *SafeDelegate::named(QWidget *editor, const QModelIndex &index)
+{
+    const QString name = cameraText(index.sibling(index.row(), 0).data().toString());
+    if (auto *list = qobject_cast<QComboBox *>(editor))
+        ValueAccessibility::setName(list, name);
+    else if (editor)
+        editor->setAccessibleName(name);
+    return editor;
 }
 
 /// In place of a list without entries.

@@ -43,6 +43,7 @@ protected:
 
 private:
     void watch(QWidget *editor) const;
+    static QWidget *named(QWidget *editor, const QModelIndex &index);
     static QWidget *createNote(QWidget *parent);
     bool fill(QWidget *editor, const QModelIndex &index) const;
     void fillLater(QWidget *editor, const QModelIndex &index) const;

@@ -78,7 +78,9 @@ void InfoPane::add(QStandardItemModel *facts, const QString &label, const QStrin
 {
     auto *valueItem = new QStandardItem(value);
     valueItem->setToolTip(OrvGui::literally(value)); // the column may be too narrow for it
-    if (isWrong)
+    if (isWrong) {
         valueItem->setBackground(QBrush(Qt::red));
+        valueItem->setForeground(QBrush(Qt::black)); // white is paler on it
+    }
     facts->appendRow({new QStandardItem(label), valueItem});
 }

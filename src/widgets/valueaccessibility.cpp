@@ -10,13 +10,19 @@
 #include "qtorvspinbox.h"
 #include "qtorvspinboxval.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
+#include <QToolButton>
 
 namespace {
+
+/// The property of a list whose accessible name counts.
+const char named[] = "orvNamed";
 
 QString shown(const QtOrvSlider *slider)
 {
@@ -148,6 +154,105 @@ private:
     QAccessibleInterface *const edit; // owned by Qt, as long as the line edit lives
 };
 
+// The button that opens the slider, named by what it is a part of, too.
+class ButtonInterface : public QAccessibleWidget
+{
+public:
+    explicit ButtonInterface(QToolButton *toolButton)
+        : QAccessibleWidget(toolButton, QAccessible::Button), button(toolButton)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString text = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name)
+            return text;
+        QAccessibleInterface *owner = QAccessible::queryAccessibleInterface(button->parent());
+        return QString(owner->text(QAccessible::Name) + QLatin1Char(' ') + text).trimmed();
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            button->click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    QToolButton *const button;
+};
+
+class ListInterface : public QAccessibleWidget
+{
+public:
+    explicit ListInterface(QComboBox *comboBox)
+        : QAccessibleWidget(comboBox, QAccessible::ComboBox), list(comboBox)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? list->currentText() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = list->view()->isVisible();
+        return state;
+    }
+
+    int childCount() const override { return 1; }
+    QAccessibleInterface *child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(list->view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child->object() == list->view() ? 0 : -1;
+    }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+
+    QStringList actionNames() const override
+    {
+        return QStringList{showMenuAction(), pressAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name != showMenuAction() && name != pressAction())
+            QAccessibleWidget::doAction(name);
+        else if (list->view()->isVisible())
+            list->hidePopup();
+        else
+            list->showPopup();
+    }
+
+private:
+    QComboBox *const list;
+};
+
+QAccessibleInterface *createForButton(QObject *object)
+{
+    auto *button = qobject_cast<QToolButton *>(object);
+    const bool isPart = button && qobject_cast<QtOrvSpinBox *>(button->parent());
+    return isPart ? new ButtonInterface(button) : nullptr;
+}
+
+QAccessibleInterface *createForList(QObject *object)
+{
+    auto *list = qobject_cast<QComboBox *>(object);
+    return list && list->property(named).toBool() ? new ListInterface(list) : nullptr;
+}
+
 template<class Widget>
 QAccessibleInterface *createFor(QObject *object)
 {
@@ -178,6 +283,8 @@ QAccessibleInterface *create(const QString &, QObject *object)
                                            &createForInner<QtOrvDoubleSlider>,
                                            &createForSpinBox<QtOrvSpinBoxVal>,
                                            &createForSpinBox<QtOrvDoubleSpinBoxVal>,
+                                           &createForButton,
+                                           &createForList,
                                            &createFor<QtOrvSlider>,
                                            &createFor<QtOrvDoubleSlider>,
                                            &createFor<QtOrvSpinBox>,
@@ -201,4 +308,12 @@ struct Installation
 void ValueAccessibility::install()
 {
     static const Installation installation;
+}
+
+void ValueAccessibility::setName(QComboBox *list, const QString &name)
+{
+    install();
+    list->setProperty(named, true);
+    list->setAccessibleName(name);
+    list->view()->setAccessibleName(name);
 }
