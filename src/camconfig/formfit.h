@@ -21,4 +21,8 @@ void fitUprightSlider(QtOrvSpinBox *spinBox);
 /// Makes the window large enough for all that stands in its scroll area, as far as its screen goes.
 void growToFit(QWidget *window, const QScrollArea *area);
 
+/// Has a window scroll what its screen has no room for. The layout of the window then is that of
+/// another widget, which is in a scroll area. To be called before each time that it is shown.
+void fitToScreen(QWidget *window);
+
 } // namespace FormFit

@@ -8,6 +8,7 @@
 #include "devicewatch.h"
 #include "featurereader.h"
 #include "featuretooltip.h"
+#include "formfit.h"
 #include "framenumbers.h"
 #include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
@@ -211,6 +212,7 @@ void OrvCamConfigPrivate::buildStatusBar()
     statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // names may be long
     statusIcon = new QLabel(q);
     statusIcon->setObjectName(QStringLiteral("lblStatusIcon"));
+    statusIcon->setScaledContents(true); // from the largest size: sharp at any pixel ratio
     ui.statusbar->addWidget(statusText, 1);
     ui.statusbar->addWidget(statusIcon);
 }
@@ -219,6 +221,7 @@ void OrvCamConfigPrivate::connectMenus()
 {
     QObject::connect(ui.actionQuit, &QAction::triggered, &receiver, [this] { q->close(); });
     QObject::connect(ui.actionAbout, &QAction::triggered, &receiver, [this] {
+        FormFit::fitToScreen(information->dialog());
         information->dialog()->show();
         information->dialog()->raise();
     });
@@ -468,8 +471,9 @@ void OrvCamConfigPrivate::layOut()
     const auto limitWidth = [this](QLineEdit *edit) {
         const QSize text =
             edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
-        edit->setMinimumWidth(isFrameABSupported ? text.width() : 0);
         edit->setMaximumWidth(isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
+        edit->setMinimumWidth(
+            isFrameABSupported ? qMin(edit->sizeHint().width(), edit->maximumWidth()) : 0);
     };
     const int columns = isFrameABSupported ? 1 : 2;
     ui.gridLayout->setColumnStretch(4, isFrameABSupported ? 1 : 0); // takes what those may not
@@ -748,7 +752,8 @@ void OrvCamConfigPrivate::updateStatus()
     statusText->setText(text);
     statusText->setToolTip(array ? literally(text) : QString());
     const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
-    statusIcon->setPixmap(QIcon(icon).pixmap(extent));
+    statusIcon->setFixedSize(extent, extent);
+    statusIcon->setPixmap(QPixmap(icon));
 }
 
 void OrvCamConfigPrivate::readSelectedFrame()

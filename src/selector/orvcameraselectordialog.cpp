@@ -2,6 +2,7 @@
 #include "orvcameraselectordialog.h"
 
 #include "base/cameratext.h"
+#include "base/screenroom.h"
 #include "cameratreemodel.h"
 #include "forceipcommand.h"
 #include "infopane.h"
@@ -38,6 +39,10 @@ namespace {
 using AddressText = QString (*)(int64_t);
 
 const int buttonTextMargin = 10;
+
+// Of the dialog, in lines of text.
+const int linesOfWidth = 24;
+const int linesOfHeight = 38;
 
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
 const int64_t lastByteWithNeighbourAbove = 128;
@@ -157,6 +162,7 @@ public:
     OrvCameraSelectorDialogPrivate(OrvCameraSelectorDialog *dialog, OrvCam::System *system);
 
     void connectSignals();
+    void growWithFont();
     void divide();
     void expandAll();
     void rescan();
@@ -214,8 +220,10 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     okButton->setEnabled(false);
 
     const QString setIpText = ui->setIpBtn->text();
-    ui->setIpBtn->setMinimumWidth(ui->setIpBtn->fontMetrics().size(0, setIpText).width() +
-                                  buttonTextMargin);
+    const int textWidth = ui->setIpBtn->fontMetrics().size(0, setIpText).width();
+    ui->setIpBtn->setMinimumWidth(
+        qMax(textWidth + buttonTextMargin, ui->setIpBtn->sizeHint().width()));
+    growWithFont();
     ui->cameraTreeView->setModel(model);
     connectSignals();
     expandAll();
@@ -243,6 +251,14 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
                      [this](const QPoint &position) { showContextMenu(position); });
     QObject::connect(ui->cameraTreeView, &QTreeView::collapsed, model, &CameraTreeModel::collapsed);
     QObject::connect(model, &DeviceTreeModel::modelReset, &life, [this] { expandAll(); });
+}
+
+/// The form's size is for a font of the ordinary size.
+void OrvCameraSelectorDialogPrivate::growWithFont()
+{
+    const int line = q->fontMetrics().height();
+    const QSize wanted = q->size().expandedTo(QSize(linesOfWidth, linesOfHeight) * line);
+    q->resize(wanted.boundedTo(roomFor(q).size()));
 }
 
 /// Shows the device pane whole and some rows of the tree, then as much as fits of the interface
