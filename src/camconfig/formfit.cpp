@@ -41,6 +41,8 @@ QScrollArea *makeScrollable(QWidget *window)
 {
     auto *contents = new QWidget(window);
     contents->setLayout(window->layout()); // takes the widgets along
+    window->setMinimumSize(QSize(0, 0)); // which a layout of fixed size has set
+    window->setMaximumSize(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     auto *area = new QScrollArea(window);
     area->setObjectName(QLatin1String(scrollAreaName));
     area->setFrameShape(QFrame::NoFrame);
@@ -94,4 +96,5 @@ void FormFit::fitToScreen(QWidget *window)
         area = makeScrollable(window);
     if (area)
         growToFit(window, area);
+    window->resize(window->size().boundedTo(roomFor(window).size()));
 }
