@@ -33,8 +33,7 @@ QString placeKey(const QString &name)
 
 QSize wantedSize(const QWidget *window)
 {
-    return window->testAttribute(Qt::WA_Resized) ? window->size()
-                                                 : window->sizeHint().expandedTo(window->size());
+    return window->testAttribute(Qt::WA_Resized) ? window->size() : window->sizeHint();
 }
 
 void put(QWidget *window, const QPoint &place, const QSize &size)
@@ -66,20 +65,22 @@ QSize Placing::treeSize(const QWidget *tree)
 
 void Placing::center(QWidget *window)
 {
-    centerWith(window, 0);
+    const QRect room = OrvGui::roomFor(window);
+    const QSize size = wantedSize(window).boundedTo(room.size());
+    put(window, room.center() - QRect(QPoint(), size).center(), size);
 }
 
 void Placing::centerWith(QWidget *window, int otherWidth)
 {
     const QRect room = OrvGui::roomFor(window);
     const QSize size = wantedSize(window).boundedTo(room.size());
-    int width = size.width();
-    if (width + leastWidth(otherWidth) <= room.width())
-        width = qMin(width + otherWidth, room.width());
+    int width = room.width(); // from the edge on, if there is no room for both
+    if (size.width() + leastWidth(otherWidth) <= room.width())
+        width = qMin(size.width() + otherWidth, room.width());
     const int left = QGuiApplication::isRightToLeft()
                          ? room.left() + (room.width() + width) / 2 - size.width()
                          : room.left() + (room.width() - width) / 2;
-    put(window, QPoint(left, room.top() + (room.height() - size.height()) / 2), size);
+    put(window, QPoint(left, room.center().y() - size.height() / 2), size);
 }
 
 void Placing::beside(QWidget *window, const QWidget *other)
@@ -87,22 +88,23 @@ void Placing::beside(QWidget *window, const QWidget *other)
     const QScreen *screen = OrvGui::screenOf(other);
     const QRect room = OrvGui::roomFor(window, screen);
     const int frames = screen->availableGeometry().width() - room.width();
-    const int afterOther = other->geometry().right() + 1 + frames;
-    const int roomOnRight = room.right() + 1 - afterOther;
-    const int roomOnLeft = other->geometry().left() - frames - room.left();
+    const QRect place = other->geometry();
+    const int roomOnRight = room.right() - frames - place.right();
+    const int roomOnLeft = place.left() - frames - room.left();
 
-    QSize size = wantedSize(window).boundedTo(room.size());
+    const QSize size = wantedSize(window).boundedTo(room.size());
     const int least = leastWidth(size.width());
     const bool isRightToLeft = QGuiApplication::isRightToLeft();
-    int left = isRightToLeft ? room.left() : room.right() + 1 - size.width();
-    if (roomOnRight >= least && (!isRightToLeft || roomOnLeft < least)) {
-        size.setWidth(qMin(size.width(), roomOnRight));
-        left = afterOther;
-    } else if (roomOnLeft >= least) {
-        size.setWidth(qMin(size.width(), roomOnLeft));
-        left = other->geometry().left() - frames - size.width();
-    }
-    put(window, QPoint(left, other->geometry().top()), size);
+    const bool isOnRight = roomOnRight >= least && (!isRightToLeft || roomOnLeft < least);
+    const bool isOnLeft = !isOnRight && roomOnLeft >= least;
+    const int width = isOnRight  ? qMin(size.width(), roomOnRight)
+                      : isOnLeft ? qMin(size.width(), roomOnLeft)
+                                 : least;
+    const int left = isOnRight       ? place.right() + 1 + frames
+                     : isOnLeft      ? place.left() - frames - width
+                     : isRightToLeft ? room.left()
+                                     : room.right() + 1 - width;
+    put(window, QPoint(left, place.center().y() - size.height() / 2), QSize(width, size.height()));
 }
 
 void Placing::save(const QWidget *window, QSettings *settings, const QString &name)

@@ -16,12 +16,13 @@ QSize treeSize(const QWidget *tree);
 /// In the middle of the screen.
 void center(QWidget *window);
 
-/// In such a way that a window of that width beside it is in the middle together with it, if the
-/// screen has room for both.
+/// In such a way that a window of that width beside it is in the middle together with it; at the
+/// edge of a screen that has no room for both.
 void centerWith(QWidget *window, int otherWidth);
 
-/// Beside a window, where lines go on from it; or on its other side; or, where no side has room,
-/// over it at the edge of the screen.
+/// Beside a window, if there is room for two thirds of the width: on the right, or else on the left
+/// (in languages that are written from the right, the other way round). Otherwise at the edge of
+/// the screen, partly over the other window.
 void beside(QWidget *window, const QWidget *other);
 
 /// Keeps the place of a window under that name.
