@@ -112,6 +112,7 @@ private:
     void layOut();
     void layOutFrameButton();
     void layOutButtons();
+    QSize iconSize() const;
     void explainFields();
     void dimOldNumbers();
     void clearFields();
@@ -509,11 +510,19 @@ void OrvCamConfigPrivate::layOutButtons()
     for (QPushButton *button : {ui.pushBtnFrameAB, ui.pushBtnTrigger, ui.pushBtnPulse,
                                 ui.pushBtnStrobe, ui.pushBtnDataOut, ui.pushBtnColor}) {
         ui.gridLayoutButtons->removeWidget(button);
+        button->setIconSize(iconSize());
         if (button->isHidden())
             continue;
         ui.gridLayoutButtons->addWidget(button, place / 3, place % 3);
         ++place;
     }
+}
+
+/// As the style has it, or as high as a line of a large font.
+QSize OrvCamConfigPrivate::iconSize() const
+{
+    const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
+    return QSize(1, 1) * qMax(extent, q->fontMetrics().height());
 }
 
 void OrvCamConfigPrivate::explainFields()
@@ -751,8 +760,7 @@ void OrvCamConfigPrivate::updateStatus()
     }
     statusText->setText(text);
     statusText->setToolTip(array ? literally(text) : QString());
-    const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
-    statusIcon->setFixedSize(extent, extent);
+    statusIcon->setFixedSize(iconSize());
     statusIcon->setPixmap(QPixmap(icon));
 }
 
