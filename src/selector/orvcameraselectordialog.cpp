@@ -43,6 +43,7 @@ const int buttonTextMargin = 10;
 // Of the dialog, in lines of text.
 const int linesOfWidth = 24;
 const int linesOfHeight = 38;
+const int tightLines = 25;
 
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
 const int64_t lastByteWithNeighbourAbove = 128;
@@ -271,7 +272,8 @@ void OrvCameraSelectorDialogPrivate::divide()
     ui->cameraTreeView->setMinimumHeight((leastTreeRows + 1) * rowHeight); // and the header
     ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
     // Not more on account of a large font: the dialog has to fit on the screen.
-    ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / 2));
+    const bool isTight = q->height() < tightLines * rowHeight;
+    ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / (isTight ? 3 : 2)));
     const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
                        3 * ui->verticalLayout_2->spacing();
     ui->splitter->setStretchFactor(0, 1);
