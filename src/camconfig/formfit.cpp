@@ -41,7 +41,7 @@ QScrollArea *makeScrollable(QWidget *window)
 {
     auto *contents = new QWidget(window);
     contents->setLayout(window->layout()); // takes the widgets along
-    window->setMinimumSize(QSize(0, 0)); // which a layout of fixed size has set
+    window->setMinimumSize(QSize(0, 0));   // which a layout of fixed size has set
     window->setMaximumSize(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     auto *area = new QScrollArea(window);
     area->setObjectName(QLatin1String(scrollAreaName));
@@ -64,6 +64,12 @@ void FormFit::align(const QList<QLabel *> &labels)
         width = qMax(width, label->sizeHint().width());
     for (QLabel *label : labels)
         label->setMinimumWidth(width);
+}
+
+void FormFit::limitWidth(QWidget *widget, int width)
+{
+    const bool isPadded = widget->style()->inherits("QStyleSheetStyle");
+    widget->setMaximumWidth(isPadded ? qMax(width, widget->sizeHint().width()) : width);
 }
 
 void FormFit::fitUprightSlider(QtOrvSpinBox *spinBox)

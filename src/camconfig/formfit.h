@@ -14,6 +14,9 @@ namespace FormFit {
 /// Makes labels that stand below each other, in rows of their own, equally wide.
 void align(const QList<QLabel *> &labels);
 
+/// Limits the width of a button or line edit; a style sheet's padding comes on top of it.
+void limitWidth(QWidget *widget, int width);
+
 /// Gives the slider that pops up upright the height of the spin box as its width, and as its height
 /// the width of the spin box without its caption.
 void fitUprightSlider(QtOrvSpinBox *spinBox);

@@ -472,7 +472,7 @@ void OrvCamConfigPrivate::layOut()
     const auto limitWidth = [this](QLineEdit *edit) {
         const QSize text =
             edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
-        edit->setMaximumWidth(isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
+        FormFit::limitWidth(edit, isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
         edit->setMinimumWidth(
             isFrameABSupported ? qMin(edit->sizeHint().width(), edit->maximumWidth()) : 0);
     };
