@@ -56,7 +56,7 @@ const StrobePicture *strobePicture(const QString &name)
 
 QColor transparent(QColor color, qreal alpha)
 {
-    color.setAlphaF(color.alphaF() * alpha);
+    color.setAlpha(qRound(color.alpha() * alpha));
     return color;
 }
 
