@@ -42,7 +42,7 @@ const int buttonTextMargin = 10;
 
 // Of the dialog, in lines of text.
 const int linesOfWidth = 24;
-const int linesOfHeight = 38;
+const int linesOfHeight = 34;
 const int tightLines = 25;
 
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
