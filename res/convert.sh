@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 # Makes the icons and pictures of the library out of the SVG drawings beside this script. Run it
 # after a change of a drawing and commit what it makes: building needs no converter.
+# The pictures are for hosts: the dialogs draw them anew (src/camconfig/diagramdrawing.cpp).
 # Takes the Debian packages librsvg2-bin, icoutils, netpbm and fonts-dejavu-core.
 set -eu
 

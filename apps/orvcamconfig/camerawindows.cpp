@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "camerawindows.h"
 
+#include "placing.h"
+
 #include <Base/GCException.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
@@ -19,9 +21,9 @@
 
 namespace {
 
-const char configurationPlace[] = "configuration/geometry";
+const char configurationName[] = "configuration";
 const char hiddenButtons[] = "configuration/hiddenButtons";
-const char treePlace[] = "tree/geometry";
+const char treeName[] = "tree";
 const char treeIsOpen[] = "tree/open";
 const char treeState[] = "tree/state";
 
@@ -39,7 +41,7 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     : m_device(std::move(device)), m_settings(settings), m_configuration(m_device.get())
 {
     m_tree.setWindowIcon(m_configuration.windowIcon());
-    m_tree.resize(640, 800);
+    m_tree.resize(Placing::treeSize(&m_tree));
     m_tree.installEventFilter(this);
     m_configuration.installEventFilter(this);
     m_titles.insert(&m_configuration, m_configuration.windowTitle());
@@ -56,7 +58,7 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     m_treeAction = view->addAction(tr("Feature Tree"));
     m_treeAction->setObjectName(QStringLiteral("actionFeatureTree"));
     m_treeAction->setCheckable(true);
-    connect(m_treeAction, &QAction::toggled, &m_tree, &QWidget::setVisible);
+    connect(m_treeAction, &QAction::toggled, this, &CameraWindows::showTree);
 
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceChanged, this, &CameraWindows::follow);
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceGivenUp, this,
@@ -74,9 +76,19 @@ CameraWindows::~CameraWindows()
 
 void CameraWindows::show()
 {
+    if (!m_isConfigurationPlaced)
+        Placing::centerWith(&m_configuration, m_tree.width());
     m_configuration.show();
     const bool isOpen = !m_settings || m_settings->value(key(treeIsOpen), true).toBool();
     m_treeAction->setChecked(isOpen);
+}
+
+void CameraWindows::showTree(bool isShown)
+{
+    if (isShown && !m_isTreePlaced)
+        Placing::beside(&m_tree, &m_configuration);
+    m_isTreePlaced |= isShown;
+    m_tree.setVisible(isShown);
 }
 
 QWidget *CameraWindows::openDialog(const QString &name, QString *error)
@@ -179,8 +191,9 @@ void CameraWindows::restore()
 {
     if (!m_settings)
         return;
-    m_configuration.restoreGeometry(m_settings->value(key(configurationPlace)).toByteArray());
-    m_tree.restoreGeometry(m_settings->value(key(treePlace)).toByteArray());
+    m_isConfigurationPlaced =
+        Placing::restore(&m_configuration, m_settings, key(configurationName));
+    m_isTreePlaced = Placing::restore(&m_tree, m_settings, key(treeName));
     m_treeState = m_settings->value(key(treeState)).toByteArray();
     for (const QString &name : m_settings->value(key(hiddenButtons)).toStringList()) {
         if (auto *action = m_configuration.findChild<QAction *>(name))
@@ -215,9 +228,10 @@ void CameraWindows::save()
             hidden << action->objectName();
     }
     rememberTree();
-    m_settings->setValue(key(configurationPlace), m_configuration.saveGeometry());
+    Placing::save(&m_configuration, m_settings, key(configurationName));
     m_settings->setValue(key(hiddenButtons), hidden);
-    m_settings->setValue(key(treePlace), m_tree.saveGeometry());
+    if (m_isTreePlaced)
+        Placing::save(&m_tree, m_settings, key(treeName));
     m_settings->setValue(key(treeIsOpen), m_treeAction->isChecked());
     m_settings->setValue(key(treeState), m_treeState);
 }

@@ -24,7 +24,8 @@ class QSettings;
 /// camera's name in their titles.
 ///
 /// The places of the windows, which of them are open and what is unfolded in the tree are kept in
-/// the settings from one run to the next.
+/// the settings from one run to the next. Without a place, or with one that is on no screen any
+/// more, the windows open beside each other.
 class CameraWindows : public QObject
 {
     Q_OBJECT
@@ -50,6 +51,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showTree(bool isShown);
     void follow(OrvCam::Device *device);
     void nameWindows();
     void rememberTree();
@@ -66,5 +68,7 @@ private:
     QString m_camera;
     std::unique_ptr<OpenCameras> m_openCameras; ///< null without settings
     QAction *m_treeAction;
+    bool m_isConfigurationPlaced = false;
+    bool m_isTreePlaced = false;
     QByteArray m_treeState; ///< of the tree while it shows nothing
 };

@@ -4,6 +4,7 @@
 #include "featurelist.h"
 #include "featuresource.h"
 #include "options.h"
+#include "placing.h"
 #include "released.h"
 #include "translation.h"
 #include "windowsystem.h"
@@ -93,7 +94,8 @@ int showFeatures(const FeatureSource &source, const Options &options)
     }
 
     view.setWindowTitle(source.title());
-    view.resize(640, 800);
+    view.resize(Placing::treeSize(&view));
+    Placing::center(&view);
     view.treeView()->expandToDepth(0);
     if (!options.screenshot.isEmpty())
         return takePicture(view, options.screenshot);

@@ -72,6 +72,9 @@ WindowSystem::WindowSystem(int &argc, char **argv, Need need, const QString &com
 
     Attempt thisAttempt = {argv, need == Need::Picture, complaint, {}};
     attempt = &thisAttempt;
+#if QT_VERSION < 0x060000
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // as Qt 6 always does
+#endif
     const QtMessageHandler earlier = qInstallMessageHandler(holdMessage);
     m_application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(isOffscreen() ? dropMessagesOfOffscreen : earlier);

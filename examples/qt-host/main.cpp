@@ -54,6 +54,9 @@ OrvGenParam::Array *parametersOf(const DevicePtr &device)
 
 int main(int argc, char **argv)
 {
+#if QT_VERSION < 0x060000
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // as Qt 6 always does
+#endif
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("OrvCameraGuiApi"));
     QApplication::setApplicationName(QStringLiteral("qt-host"));

@@ -8,7 +8,7 @@
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>
 
-#include <QIcon>
+#include <QPixmap>
 
 namespace OrvGui {
 
@@ -19,6 +19,8 @@ struct Row
     QLabel *Ui_OrvCamConfigAboutDialog::*label;
     const char *feature;
 };
+
+const int iconExtent = 48;
 
 using Ui = Ui_OrvCamConfigAboutDialog;
 
@@ -65,7 +67,9 @@ CameraInformation::CameraInformation(QWidget *parent)
     : m_dialog(new QDialog(parent)), m_ui(new Ui_OrvCamConfigAboutDialog)
 {
     m_ui->setupUi(m_dialog);
-    m_ui->label->setPixmap(m_dialog->windowIcon().pixmap(48));
+    m_ui->label->setScaledContents(true); // from the largest size: sharp at any pixel ratio
+    m_ui->label->setFixedSize(iconExtent, iconExtent);
+    m_ui->label->setPixmap(QPixmap(QStringLiteral(":/icons/res/orvicon.ico")));
     m_ui->lblAppName->setText(tr("OrvCameraConfiguration"));
     m_ui->lblAppVersion->setText(tr("1.3.0 (build 2230) "));
     m_ui->lblCopyright->setText(

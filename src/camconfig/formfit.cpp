@@ -1,27 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "formfit.h"
 
+#include "base/screenroom.h"
 #include "qtorvspinbox.h"
 
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
-#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
-#include <QWindow>
+#include <QVBoxLayout>
+
+using namespace OrvGui;
 
 namespace {
 
-/// Without what a window manager puts around a window.
-QSize roomFor(const QWidget *window)
-{
-    const QWindow *handle = window->windowHandle();
-    const QScreen *screen = handle ? handle->screen() : QGuiApplication::primaryScreen();
-    const int frame = window->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
-    const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    return screen->availableSize() - QSize(2 * frame, 2 * frame + title);
-}
+const char scrollAreaName[] = "screenScrollArea";
 
 /// Has the size hint know of all changes. Layouts of hidden widgets do not tell their parents.
 void activateLayouts(QWidget *widget)
@@ -32,6 +25,34 @@ void activateLayouts(QWidget *widget)
     }
     if (widget->layout())
         widget->layout()->activate();
+}
+
+bool isTooLarge(QWidget *window)
+{
+    activateLayouts(window);
+    const QLayout *layout = window->layout();
+    const bool isFixed = layout->sizeConstraint() == QLayout::SetFixedSize;
+    const QSize least = isFixed ? layout->totalSizeHint() : layout->totalMinimumSize();
+    const QSize room = roomFor(window).size();
+    return least.width() > room.width() || least.height() > room.height();
+}
+
+QScrollArea *makeScrollable(QWidget *window)
+{
+    auto *contents = new QWidget(window);
+    contents->setLayout(window->layout()); // takes the widgets along
+    window->setMinimumSize(QSize(0, 0));   // which a layout of fixed size has set
+    window->setMaximumSize(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    auto *area = new QScrollArea(window);
+    area->setObjectName(QLatin1String(scrollAreaName));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(contents);
+    auto *layout = new QVBoxLayout(window);
+    layout->setContentsMargins(QMargins());
+    layout->addWidget(area);
+    return area;
 }
 
 } // namespace
@@ -45,6 +66,12 @@ void FormFit::align(const QList<QLabel *> &labels)
         label->setMinimumWidth(width);
 }
 
+void FormFit::limitWidth(QWidget *widget, int width)
+{
+    const bool isPadded = widget->style()->inherits("QStyleSheetStyle");
+    widget->setMaximumWidth(isPadded ? qMax(width, widget->sizeHint().width()) : width);
+}
+
 void FormFit::fitUprightSlider(QtOrvSpinBox *spinBox)
 {
     const QLabel *label = spinBox->leftLabel();
@@ -54,11 +81,26 @@ void FormFit::fitUprightSlider(QtOrvSpinBox *spinBox)
 void FormFit::growToFit(QWidget *window, const QScrollArea *area)
 {
     activateLayouts(area->widget());
-    const QSize room = roomFor(window);
+    const QSize room = roomFor(window).size();
     QSize wanted = area->widget()->sizeHint();
     const int bar = area->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const bool isTooHigh = wanted.height() > room.height();
     const bool isTooWide = wanted.width() > room.width();
     wanted += QSize(isTooHigh ? bar : 0, isTooWide ? bar : 0);
     window->resize(window->size().expandedTo(wanted.boundedTo(room)));
+    if (window->isVisible())
+        keepInRoom(window);
+}
+
+void FormFit::fitToScreen(QWidget *window)
+{
+    if (!window->isWindow())
+        return;
+    auto *area =
+        window->findChild<QScrollArea *>(QLatin1String(scrollAreaName), Qt::FindDirectChildrenOnly);
+    if (!area && isTooLarge(window))
+        area = makeScrollable(window);
+    if (area)
+        growToFit(window, area);
+    window->resize(window->size().boundedTo(roomFor(window).size()));
 }

@@ -14,11 +14,18 @@ namespace FormFit {
 /// Makes labels that stand below each other, in rows of their own, equally wide.
 void align(const QList<QLabel *> &labels);
 
+/// Limits the width of a button or line edit; a style sheet's padding comes on top of it.
+void limitWidth(QWidget *widget, int width);
+
 /// Gives the slider that pops up upright the height of the spin box as its width, and as its height
 /// the width of the spin box without its caption.
 void fitUprightSlider(QtOrvSpinBox *spinBox);
 
 /// Makes the window large enough for all that stands in its scroll area, as far as its screen goes.
 void growToFit(QWidget *window, const QScrollArea *area);
+
+/// Has a window scroll what its screen has no room for. The layout of the window then is that of
+/// another widget, which is in a scroll area. To be called before each time that it is shown.
+void fitToScreen(QWidget *window);
 
 } // namespace FormFit

@@ -8,6 +8,7 @@
 #include "devicewatch.h"
 #include "featurereader.h"
 #include "featuretooltip.h"
+#include "formfit.h"
 #include "framenumbers.h"
 #include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
@@ -111,6 +112,7 @@ private:
     void layOut();
     void layOutFrameButton();
     void layOutButtons();
+    QSize iconSize() const;
     void explainFields();
     void dimOldNumbers();
     void clearFields();
@@ -211,6 +213,7 @@ void OrvCamConfigPrivate::buildStatusBar()
     statusText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // names may be long
     statusIcon = new QLabel(q);
     statusIcon->setObjectName(QStringLiteral("lblStatusIcon"));
+    statusIcon->setScaledContents(true); // from the largest size: sharp at any pixel ratio
     ui.statusbar->addWidget(statusText, 1);
     ui.statusbar->addWidget(statusIcon);
 }
@@ -219,6 +222,7 @@ void OrvCamConfigPrivate::connectMenus()
 {
     QObject::connect(ui.actionQuit, &QAction::triggered, &receiver, [this] { q->close(); });
     QObject::connect(ui.actionAbout, &QAction::triggered, &receiver, [this] {
+        FormFit::fitToScreen(information->dialog());
         information->dialog()->show();
         information->dialog()->raise();
     });
@@ -468,8 +472,9 @@ void OrvCamConfigPrivate::layOut()
     const auto limitWidth = [this](QLineEdit *edit) {
         const QSize text =
             edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
-        edit->setMinimumWidth(isFrameABSupported ? text.width() : 0);
-        edit->setMaximumWidth(isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
+        FormFit::limitWidth(edit, isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
+        edit->setMinimumWidth(
+            isFrameABSupported ? qMin(edit->sizeHint().width(), edit->maximumWidth()) : 0);
     };
     const int columns = isFrameABSupported ? 1 : 2;
     ui.gridLayout->setColumnStretch(4, isFrameABSupported ? 1 : 0); // takes what those may not
@@ -505,11 +510,19 @@ void OrvCamConfigPrivate::layOutButtons()
     for (QPushButton *button : {ui.pushBtnFrameAB, ui.pushBtnTrigger, ui.pushBtnPulse,
                                 ui.pushBtnStrobe, ui.pushBtnDataOut, ui.pushBtnColor}) {
         ui.gridLayoutButtons->removeWidget(button);
+        button->setIconSize(iconSize());
         if (button->isHidden())
             continue;
         ui.gridLayoutButtons->addWidget(button, place / 3, place % 3);
         ++place;
     }
+}
+
+/// As the style has it, or as high as a line of a large font.
+QSize OrvCamConfigPrivate::iconSize() const
+{
+    const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
+    return QSize(1, 1) * qMax(extent, q->fontMetrics().height());
 }
 
 void OrvCamConfigPrivate::explainFields()
@@ -747,8 +760,8 @@ void OrvCamConfigPrivate::updateStatus()
     }
     statusText->setText(text);
     statusText->setToolTip(array ? literally(text) : QString());
-    const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
-    statusIcon->setPixmap(QIcon(icon).pixmap(extent));
+    statusIcon->setFixedSize(iconSize());
+    statusIcon->setPixmap(QPixmap(icon));
 }
 
 void OrvCamConfigPrivate::readSelectedFrame()

@@ -96,8 +96,8 @@ void OrvCamConfigColorDialogPrivate::bind()
 void OrvCamConfigColorDialogPrivate::bindCoefficient(Coefficient &coefficient)
 {
     QPushButton *unity = coefficient.unity;
-    unity->setMaximumWidth(textWidth(unity, unity->text()) +
-                           2 * textWidth(unity, QStringLiteral("_")));
+    FormFit::limitWidth(unity, textWidth(unity, unity->text()) +
+                                   2 * textWidth(unity, QStringLiteral("_")));
     QtOrvSpinBox *spinBox = coefficient.spinBox;
     if (bindInt(coefficient.feature, spinBox, coefficient.dependents)) {
         coefficient.bound = watched(array->GetInt(coefficient.feature), this);

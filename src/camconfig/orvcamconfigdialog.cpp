@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "base/screenroom.h"
+#include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 
 #include <OrvCam/Device.h>
 
 #include <QComboBox>
 #include <QPointer>
+#include <QShowEvent>
 
 #include <utility>
 
@@ -133,12 +136,16 @@ void OrvCamConfigDialog::reject()
 
 void OrvCamConfigDialog::showEvent(QShowEvent *event)
 {
+    if (!event->spontaneous())
+        FormFit::fitToScreen(this);
     d->prepareToShow();
     // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes
     // it.
     if (!focusWidget())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);
+    if (!event->spontaneous())
+        keepInRoom(this);
 }
 
 void OrvCamConfigDialog::closeEvent(QCloseEvent *event)

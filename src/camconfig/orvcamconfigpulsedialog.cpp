@@ -2,6 +2,7 @@
 #include "orvcamconfigpulsedialog.h"
 
 #include "boundfeatures.h"
+#include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 #include "qtorvslider.h"
 #include "ui_orvcamconfigpulsedialog.h"
@@ -63,8 +64,8 @@ void OrvCamConfigPulseDialogPrivate::buildForm()
     modeButtons->addButton(ui.radioBtnSend);
 
     const int width = textWidth(ui.lineEditFreq, QStringLiteral("1000000000.00000000"));
-    ui.lineEditDelay->setMaximumWidth(width);
-    ui.lineEditFreq->setMaximumWidth(width);
+    FormFit::limitWidth(ui.lineEditDelay, width);
+    FormFit::limitWidth(ui.lineEditFreq, width);
 }
 
 void OrvCamConfigPulseDialogPrivate::bind()

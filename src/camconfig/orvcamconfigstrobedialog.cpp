@@ -83,7 +83,7 @@ void OrvCamConfigStrobeDialogPrivate::setImageState()
     };
     const char *picture =
         pictures[isExposureStart(ui.cmBoxStrobe1Ref)][isExposureStart(ui.cmBoxStrobe2Ref)];
-    ui.lblStrobeImage->setPixmap(QPixmap(QString::fromLatin1(picture)));
+    ui.lblStrobeImage->setPicture(QString::fromLatin1(picture));
 }
 
 OrvCamConfigStrobeDialog::OrvCamConfigStrobeDialog(OrvCam::Device *device, QWidget *parent)

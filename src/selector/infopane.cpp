@@ -18,7 +18,16 @@ const int valueColumn = 1;
 
 InfoPane::InfoPane(QTreeView *view) : m_view(view)
 {
-    new TreeViewResizer(view);
+    auto *resizer = new TreeViewResizer(view);
+    QObject::connect(resizer, &TreeViewResizer::showed, &m_life, [this] { viewShown(); });
+}
+
+/// Before, the column of the values was not as wide as it is.
+void InfoPane::viewShown()
+{
+    if (m_view->model() && m_view->columnWidth(labelColumn) == m_unshownWidth)
+        halveColumns();
+    m_unshownWidth = 0;
 }
 
 int InfoPane::heightOf(int rows) const
@@ -40,7 +49,7 @@ void InfoPane::clear()
     if (!facts)
         return;
     const int width = m_view->columnWidth(labelColumn);
-    if (width != 0)
+    if (width != 0 && width != m_unshownWidth)
         m_width = width;
     setModel(nullptr);
     facts->deleteLater();
@@ -61,8 +70,18 @@ void InfoPane::show(QStandardItemModel *facts)
     clear();
     facts->setParent(m_view);
     setModel(facts);
+    if (m_width != 0)
+        m_view->setColumnWidth(labelColumn, m_width);
+    else
+        halveColumns();
+    m_unshownWidth = m_view->isVisible() ? 0 : m_view->columnWidth(labelColumn);
+}
+
+void InfoPane::halveColumns()
+{
+    m_view->header()->setStretchLastSection(true); // stretches it at once
     const int mean = (m_view->columnWidth(labelColumn) + m_view->columnWidth(valueColumn)) / 2;
-    m_view->setColumnWidth(labelColumn, m_width != 0 ? m_width : mean);
+    m_view->setColumnWidth(labelColumn, mean);
 }
 
 QStandardItemModel *InfoPane::makeFacts()

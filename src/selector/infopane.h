@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
 #include <QString>
 
 class QAbstractItemModel;
@@ -32,7 +33,11 @@ public:
 
 private:
     void setModel(QAbstractItemModel *facts) const;
+    void halveColumns();
+    void viewShown();
 
     QTreeView *m_view;
-    int m_width = 0; ///< of the labels' column, when something was shown last
+    int m_width = 0;        ///< of the labels' column, when something was shown last
+    int m_unshownWidth = 0; ///< of the same, set while the view had no size yet
+    const QObject m_life;   ///< of the pane; what is connected ends with it
 };

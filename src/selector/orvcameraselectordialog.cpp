@@ -2,6 +2,7 @@
 #include "orvcameraselectordialog.h"
 
 #include "base/cameratext.h"
+#include "base/screenroom.h"
 #include "cameratreemodel.h"
 #include "forceipcommand.h"
 #include "infopane.h"
@@ -38,6 +39,11 @@ namespace {
 using AddressText = QString (*)(int64_t);
 
 const int buttonTextMargin = 10;
+
+// Of the dialog, in lines of text.
+const int linesOfWidth = 24;
+const int linesOfHeight = 34;
+const int tightLines = 25;
 
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
 const int64_t lastByteWithNeighbourAbove = 128;
@@ -157,6 +163,7 @@ public:
     OrvCameraSelectorDialogPrivate(OrvCameraSelectorDialog *dialog, OrvCam::System *system);
 
     void connectSignals();
+    void growWithFont();
     void divide();
     void expandAll();
     void rescan();
@@ -214,8 +221,10 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     okButton->setEnabled(false);
 
     const QString setIpText = ui->setIpBtn->text();
-    ui->setIpBtn->setMinimumWidth(ui->setIpBtn->fontMetrics().size(0, setIpText).width() +
-                                  buttonTextMargin);
+    const int textWidth = ui->setIpBtn->fontMetrics().size(0, setIpText).width();
+    ui->setIpBtn->setMinimumWidth(
+        qMax(textWidth + buttonTextMargin, ui->setIpBtn->sizeHint().width()));
+    growWithFont();
     ui->cameraTreeView->setModel(model);
     connectSignals();
     expandAll();
@@ -245,6 +254,14 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
     QObject::connect(model, &DeviceTreeModel::modelReset, &life, [this] { expandAll(); });
 }
 
+/// The form's size is for a font of the ordinary size.
+void OrvCameraSelectorDialogPrivate::growWithFont()
+{
+    const int line = q->fontMetrics().height();
+    const QSize wanted = q->size().expandedTo(QSize(linesOfWidth, linesOfHeight) * line);
+    q->resize(wanted.boundedTo(roomFor(q).size()));
+}
+
 /// Shows the device pane whole and some rows of the tree, then as much as fits of the interface
 /// pane; the tree has the rest.
 void OrvCameraSelectorDialogPrivate::divide()
@@ -255,7 +272,8 @@ void OrvCameraSelectorDialogPrivate::divide()
     ui->cameraTreeView->setMinimumHeight((leastTreeRows + 1) * rowHeight); // and the header
     ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
     // Not more on account of a large font: the dialog has to fit on the screen.
-    ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / 2));
+    const bool isTight = q->height() < tightLines * rowHeight;
+    ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / (isTight ? 3 : 2)));
     const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
                        3 * ui->verticalLayout_2->spacing();
     ui->splitter->setStretchFactor(0, 1);

@@ -8,7 +8,6 @@
 namespace {
 
 const unsigned int LowestAddress = 0x01000000;
-const int TextMargin = 20; // pixels around the text of a line edit, its frame included
 
 /// Its text can still be selected and copied.
 void makeLookDisabled(QLineEdit *edit)
@@ -22,7 +21,10 @@ void makeLookDisabled(QLineEdit *edit)
 void widen(QLineEdit *edit)
 {
     const QString widest = macAddressText(0xDDDDDDDDDDDD);
-    edit->setMinimumWidth(edit->fontMetrics().size(0, widest).width() + TextMargin);
+    const QFontMetrics metrics = edit->fontMetrics();
+    // What the style puts around a text; the smallest line edit is for the widest letter.
+    const int around = edit->minimumSizeHint().width() - metrics.maxWidth();
+    edit->setMinimumWidth(metrics.size(0, widest).width() + metrics.averageCharWidth() + around);
 }
 
 unsigned int addressIn(const QLineEdit *edit)

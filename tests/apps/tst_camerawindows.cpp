@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "camerawindows.h"
 #include "featuresource.h"
+#include "placing.h"
 #include "treecells.h"
 
 #include <OrvCam.h>
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QTreeView>
 #include <QtTest>
@@ -23,6 +25,12 @@ QAction &action(CameraWindows &windows, const char *name)
     if (!found)
         qFatal("There is no %s", name);
     return *found;
+}
+
+/// Where windows may be.
+QRect screenArea()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
 /// An opened camera that has vanished since.
@@ -56,6 +64,11 @@ private slots:
     void namedWhileSeveralAreOpen();
     void rememberedFromRunToRun();
     void damagedSettings();
+    void openOnTheScreen();
+    void treeBesideMainWindow_data();
+    void treeBesideMainWindow();
+    void placeThatIsGone_data();
+    void placeThatIsGone();
     void vanishedCamera();
 
 private:
@@ -212,6 +225,94 @@ void TestCameraWindows::damagedSettings()
         for (int row = 0; row < 5; ++row)
             QVERIFY(view->isExpanded(view->model()->index(row, 0))); // as without any
     }
+}
+
+void TestCameraWindows::openOnTheScreen()
+{
+    const QFont before = QApplication::font();
+    for (const int points : {before.pointSize(), before.pointSize() * 3 / 2}) {
+        QFont font = before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        CameraWindows windows(open(), nullptr);
+        windows.show();
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->isVisible())
+                QVERIFY2(screenArea().contains(window->geometry()),
+                         qPrintable(window->objectName()));
+        }
+        QVERIFY(windows.tree().y() > 0); // room for a title
+    }
+    QApplication::setFont(before);
+}
+
+void TestCameraWindows::treeBesideMainWindow_data()
+{
+    QTest::addColumn<QRect>("main");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isRightToLeft");
+    QTest::addColumn<int>("side"); // 1 right, -1 left, 0 over it
+    const int all = screenArea().width();
+    const QRect middle(all / 2 - 100, 100, 200, 100);
+    QTest::newRow("room on both sides") << middle << all / 4 << false << 1;
+    QTest::newRow("right to left") << middle << all / 4 << true << -1;
+    QTest::newRow("a bit narrower") << middle << all / 2 - 120 << false << 1;
+    QTest::newRow("at the right") << QRect(all - 210, 100, 200, 100) << all / 2 << false << -1;
+    QTest::newRow("at the left") << QRect(10, 100, 200, 100) << all / 2 << true << 1;
+    QTest::newRow("no room") << middle << all << false << 0;
+}
+
+void TestCameraWindows::treeBesideMainWindow()
+{
+    QFETCH(QRect, main);
+    QFETCH(int, width);
+    QFETCH(bool, isRightToLeft);
+    QFETCH(int, side);
+    QApplication::setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    QWidget window;
+    window.setGeometry(main);
+    window.show();
+    QWidget tree;
+    tree.resize(width, 2 * screenArea().height());
+    Placing::beside(&tree, &window);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+
+    const QRect place = tree.geometry();
+    QVERIFY(screenArea().contains(place));
+    QVERIFY(place.width() <= width && place.width() >= width * 2 / 3 - 20);
+    QCOMPARE(place.left() > main.right() ? 1 : place.right() < main.left() ? -1 : 0, side);
+}
+
+void TestCameraWindows::placeThatIsGone_data()
+{
+    QTest::addColumn<QRect>("place");
+    QTest::addColumn<bool>("isThere");
+    const QRect screen = screenArea();
+    QTest::newRow("there") << QRect(100, 100, 300, 200) << true;
+    QTest::newRow("screen that is gone") << QRect(screen.right() + 100, 100, 300, 200) << false;
+    QTest::newRow("hardly there") << QRect(screen.right() - 100, 100, 300, 200) << false;
+    QTest::newRow("partly outside") << QRect(screen.right() - 200, 100, 300, 200) << true;
+    QTest::newRow("larger screen") << screen.adjusted(0, 0, 200, 200) << true;
+}
+
+void TestCameraWindows::placeThatIsGone()
+{
+    QFETCH(QRect, place);
+    QFETCH(bool, isThere);
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    QWidget before;
+    before.setGeometry(place);
+    Placing::save(&before, &settings, "window");
+    settings.sync();
+    QWidget after;
+    QCOMPARE(Placing::restore(&after, &settings, "window"), isThere);
+    if (!isThere)
+        return;
+    QVERIFY(screenArea().contains(after.geometry()));
+    QCOMPARE(after.size(), place.size().boundedTo(after.size()));
+    if (screenArea().adjusted(20, 40, -20, -20).contains(place))
+        QCOMPARE(after.geometry(), place);
 }
 
 void TestCameraWindows::vanishedCamera()

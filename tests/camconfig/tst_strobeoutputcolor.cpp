@@ -12,6 +12,9 @@
 #include <qtorvspinbox.h>
 #include <qtorvspinboxval.h>
 
+#include <QScreen>
+#include <QWindow>
+
 using namespace OrvGui;
 using OrvSimulation::SimulatedCamera;
 
@@ -158,6 +161,17 @@ void edit(QWidget *widget)
     }
 }
 
+/// A control near the end of the dialog.
+const char *lastOf(Which which)
+{
+    const char *name = nullptr;
+    for (const Control &control : controls) {
+        if (control.dialog == which)
+            name = control.name;
+    }
+    return which == Pulse ? "radioBtnContinious" : name;
+}
+
 QImage pictureOf(const std::unique_ptr<OrvCamConfigDialog> &dialog)
 {
     return part<QLabel>(*dialog, "lblStrobeImage")->property("pixmap").value<QPixmap>().toImage();
@@ -190,6 +204,8 @@ private slots:
     void tabOrder();
 
     void strobePicture();
+    void pictureFollowsTheForm();
+    void smallScreen();
     void strobeDrag();
 
     void outputDependencies();
@@ -396,6 +412,68 @@ void TestStrobeOutputColor::strobePicture()
     camera.set("Strobe2Reference", "ExposureStart");
     camera.set("Strobe2Reference", "ReadoutStart");
     QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
+}
+
+void TestStrobeOutputColor::pictureFollowsTheForm()
+{
+    Camera camera;
+    const auto dialog = open(Strobe, &camera.device);
+    auto *label = part<QLabel>(*dialog, "lblStrobeImage");
+    const QImage light = label->grab().toImage();
+    const QSize size = label->sizeHint();
+    camera.set("Strobe1Reference", "ReadoutStart");
+    QVERIFY(label->grab().toImage() != light);
+
+    const QColor ground(53, 53, 53);
+    QPalette dark(ground);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dialog->setPalette(dark);
+    const QImage image = label->grab().toImage();
+    int groundPixels = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            groundPixels += image.pixelColor(x, y) == ground ? 1 : 0;
+    }
+    const int pixels = image.width() * image.height();
+    QVERIFY(2 * groundPixels > pixels && groundPixels < pixels * 95 / 100);
+
+    QFont large = label->font();
+    large.setPointSize(2 * large.pointSize());
+    label->setFont(large);
+    QVERIFY(label->sizeHint().width() > size.width() && label->sizeHint().height() > size.height());
+    QVERIFY(label->width() >= label->sizeHint().width() ||
+            QTest::qWaitFor([&] { return label->width() >= label->sizeHint().width(); }));
+
+    QPixmap other(7, 5); // of a host that knows better
+    other.fill(Qt::red);
+    label->setScaledContents(false);
+    label->setPixmap(other);
+    QCOMPARE(label->sizeHint(), other.size());
+    QCOMPARE(label->grab().toImage().pixelColor(3, label->height() / 2), QColor(Qt::red));
+}
+
+void TestStrobeOutputColor::smallScreen()
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(5 * before.pointSize());
+    QApplication::setFont(large);
+    Camera camera;
+    for (const Which which : all) {
+        const auto dialog = open(which, &camera.device);
+        const QRect screen = dialog->windowHandle()->screen()->availableGeometry();
+        QVERIFY2(screen.contains(dialog->geometry()), qPrintable(dialog->objectName()));
+        // The Tab key brings the last control into view.
+        QWidget *last = part(*dialog, lastOf(which));
+        last->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Backtab);
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        QVERIFY2(!last->visibleRegion().isEmpty(), lastOf(which));
+        dialog->close();
+        dialog->show(); // for the second time
+        QVERIFY(screen.contains(dialog->geometry()));
+    }
+    QApplication::setFont(before);
 }
 
 void TestStrobeOutputColor::strobeDrag()

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -31,6 +32,7 @@ private slots:
     void accessStates();
     void interfaceKinds();
     void panes();
+    void namesAreWhole();
     void unreadableRows();
     void rescan();
     void listsThatLie();
@@ -339,6 +341,34 @@ void TestCameraSelectorDialog::panes()
         QVERIFY(pane->findChildren<QAbstractItemModel *>("", Qt::FindDirectChildrenOnly).isEmpty());
         QVERIFY(pane->findChildren<QItemSelectionModel *>().size() <= 1);
     }
+}
+
+void TestCameraSelectorDialog::namesAreWhole()
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(18);
+    for (const QFont &font : {before, large}) {
+        QApplication::setFont(font);
+        for (const bool isFilledFirst : {true, false}) {
+            m_dialog.reset(new OrvGui::OrvCameraSelectorDialog(m_system.get(), nullptr));
+            if (isFilledFirst)
+                tree()->setCurrentIndex(networkCamera(1));
+            m_dialog->show();
+            QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+            tree()->setCurrentIndex(networkCamera(0));
+            for (QTreeView *pane : {interfacePane(), devicePane()}) {
+                for (int row = 0; row < pane->model()->rowCount(); ++row) {
+                    const QModelIndex name = pane->model()->index(row, 0);
+                    QVERIFY2(pane->columnWidth(0) >= pane->sizeHintForIndex(name).width(),
+                             qPrintable(name.data().toString()));
+                }
+            }
+            QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(
+                m_dialog->geometry()));
+        }
+    }
+    QApplication::setFont(before);
 }
 
 void TestCameraSelectorDialog::unreadableRows()

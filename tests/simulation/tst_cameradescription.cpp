@@ -261,9 +261,19 @@ void TestCameraDescription::changesByTheCameraReachTheHost()
 // Whatever looks like a name in the sources of the dialogs is one that the camera has.
 void TestCameraDescription::dialogsFindTheirFeatures()
 {
-    QSet<QString> known{
-        "Disconnected", "OpeningProgress", "OrvCameraConfiguration", "Start", "Stop",
-        "Temperature",  "Unknown"};
+    QSet<QString> known{"Delay",
+                        "Disconnected",
+                        "Exposure",
+                        "Frame",
+                        "OpeningProgress",
+                        "OrvCameraConfiguration",
+                        "Period",
+                        "QStyleSheetStyle",
+                        "Readout",
+                        "Start",
+                        "Stop",
+                        "Temperature",
+                        "Unknown"};
     known += QSet<QString>(m_features.begin(), m_features.end());
     for (const Node &node : qAsConst(m_nodes)) {
         if (node.element == "EnumEntry")
