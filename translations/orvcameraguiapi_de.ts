@@ -200,6 +200,14 @@
         <source>Guru</source>
         <translation>Guru</translation>
     </message>
+    <message>
+        <source>Features</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
 </context>
 <context>
     <name>InfoPane</name>
@@ -457,6 +465,18 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
         <source>Blue</source>
         <translation>Blau</translation>
     </message>
+    <message>
+        <source>Red unity</source>
+        <translation>Rot auf 1</translation>
+    </message>
+    <message>
+        <source>Green unity</source>
+        <translation>Grün auf 1</translation>
+    </message>
+    <message>
+        <source>Blue unity</source>
+        <translation>Blau auf 1</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigFrameABDialog</name>
@@ -639,6 +659,10 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
     <message>
         <source>E3:</source>
         <translation>E3:</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Bilder</translation>
     </message>
 </context>
 <context>
@@ -854,6 +878,14 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
         <source>Test Pattern:</source>
         <translation>Testbild:</translation>
     </message>
+    <message>
+        <source>DPC dynamic threshold</source>
+        <translation>DPC, dynamische Schwelle</translation>
+    </message>
+    <message>
+        <source>HPC dynamic threshold</source>
+        <translation>HPC, dynamische Schwelle</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -996,6 +1028,18 @@ Trigger</translation>
         <source>Set IP Address</source>
         <translation>IP-Adresse setzen</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Interface info</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Device info</source>
+        <translation>Gerät</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::CameraInformation</name>
@@ -1014,6 +1058,49 @@ Trigger</translation>
     <message>
         <source>N/A</source>
         <translation>n. v.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::DiagramDrawing</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Periode</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation>Strobe 1</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation>Strobe 2</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>Belichtung</translation>
+    </message>
+    <message>
+        <source>Readout</source>
+        <translation>Auslesen</translation>
+    </message>
+    <message>
+        <source>P%1</source>
+        <translation>P%1</translation>
+    </message>
+    <message>
+        <source>E%1</source>
+        <translation>E%1</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1334,10 @@ Fehlercode: %2</translation>
     <message>
         <source>Width [%1s]:</source>
         <translation>Breite [%1s]:</translation>
+    </message>
+    <message>
+        <source>Source of output %1</source>
+        <translation>Quelle des Ausgangs %1</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>Guru</source>
         <translation>グル</translation>
     </message>
+    <message>
+        <source>Features</source>
+        <translation>パラメーター</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
 </context>
 <context>
     <name>InfoPane</name>
@@ -457,6 +465,18 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
         <source>Blue</source>
         <translation>青</translation>
     </message>
+    <message>
+        <source>Red unity</source>
+        <translation>赤を等倍</translation>
+    </message>
+    <message>
+        <source>Green unity</source>
+        <translation>緑を等倍</translation>
+    </message>
+    <message>
+        <source>Blue unity</source>
+        <translation>青を等倍</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigFrameABDialog</name>
@@ -639,6 +659,10 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
     <message>
         <source>E3:</source>
         <translation>E3:</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>フレーム</translation>
     </message>
 </context>
 <context>
@@ -854,6 +878,14 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
         <source>Test Pattern:</source>
         <translation>テストパターン:</translation>
     </message>
+    <message>
+        <source>DPC dynamic threshold</source>
+        <translation>DPC の動的閾値</translation>
+    </message>
+    <message>
+        <source>HPC dynamic threshold</source>
+        <translation>HPC の動的閾値</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -996,6 +1028,18 @@ Trigger</source>
         <source>Set IP Address</source>
         <translation>IP アドレスの設定</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Interface info</source>
+        <translation>インターフェイス情報</translation>
+    </message>
+    <message>
+        <source>Device info</source>
+        <translation>デバイス情報</translation>
+    </message>
 </context>
 <context>
     <name>OrvGui::CameraInformation</name>
@@ -1014,6 +1058,49 @@ Trigger</source>
     <message>
         <source>N/A</source>
         <translation>該当なし</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::DiagramDrawing</name>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>周期</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation>ストロボ 1</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation>ストロボ 2</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>露光</translation>
+    </message>
+    <message>
+        <source>Readout</source>
+        <translation>読み出し</translation>
+    </message>
+    <message>
+        <source>P%1</source>
+        <translation>P%1</translation>
+    </message>
+    <message>
+        <source>E%1</source>
+        <translation>E%1</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1334,10 @@ Error Code: %2</source>
     <message>
         <source>Width [%1s]:</source>
         <translation>幅 [%1s]:</translation>
+    </message>
+    <message>
+        <source>Source of output %1</source>
+        <translation>出力 %1 のソース</translation>
     </message>
 </context>
 <context>

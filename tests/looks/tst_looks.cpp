@@ -172,15 +172,6 @@ QStringList toStrings(const QVector<Looks::Fault> &faults)
 /// What is known, and to be mended elsewhere; null for other faults.
 const char *reasonFor(const QString &window, const QString &fault)
 {
-    const bool isFact = fault.contains("InfoTreeView");
-    if (window == "picker" && isFact && (fault.startsWith("cut")))
-        return "the columns of the panes do not follow the font";
-    if (window == "picker" && fault.startsWith("cut: setIpBtn"))
-        return "the button's width is its text's, without the padding of a style sheet";
-    if (window == "color" && fault.startsWith("cut: pushBtn"))
-        return "the button's width is its text's, without the padding of a style sheet";
-    if (window == "about" && fault.startsWith("off the screen"))
-        return "the window is higher than a small screen";
     if (window == "frames" && fault.startsWith("cut: grBoxVideoAmplifier"))
         return "Qt gives a title no room for the blank edge of its first character";
     return nullptr;
