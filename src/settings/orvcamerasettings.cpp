@@ -107,6 +107,8 @@ Result OrvCameraSettings::save(GenApi::INodeMap &map, const QString &fileName, P
     SettingsReader reader(map, std::move(progress));
     const SettingsReader::Result read = reader.readAll();
     Result result = resultOf(read);
+    if (read.settings.isEmpty() && result.error.isEmpty() && !result.isCancelled)
+        result.error = SettingsReader::tr("The camera has no values that are meant to be saved.");
     if (!result.error.isEmpty() || result.isCancelled)
         return result;
     SettingsFile file;
@@ -154,13 +156,12 @@ Result OrvCameraSettings::compare(GenApi::INodeMap &map, const QString &fileName
     }
     SettingsReader reader(map, std::move(progress));
     const SettingsReader::Result read = reader.readAll();
-    const bool isWithoutStreamable = read.settings.isEmpty() && !read.isCancelled;
     Result result = resultOf(read);
+    result.problems.clear(); // what the camera does not tell differs if the file has it
+    addNotPutBack(read.notPutBack, &result);
     Settings ofFile = resolvedSettings(file.lines, map);
     Settings ofCamera = resolvedSettings(read.settings, map);
     takeMissing(map, &ofFile, &result.missing);
-    if (isWithoutStreamable)
-        result.error.clear();
     if (!result.error.isEmpty() || result.isCancelled)
         return result;
     const SettingsReader::Result more = reader.read(others(ofFile, ofCamera));

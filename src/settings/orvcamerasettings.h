@@ -5,6 +5,7 @@
 
 #include <GenApi/INodeMap.h>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -26,6 +27,8 @@ namespace OrvGui {
 /// No function throws. Texts for the user are in the language of the application.
 class ORVCAMERAGUIAPI_EXPORT OrvCameraSettings
 {
+    Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCameraSettings)
+
 public:
     /// Told how much has been done, on the calling thread, between two features. Answers false to
     /// cancel. May be empty.

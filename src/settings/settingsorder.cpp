@@ -74,11 +74,17 @@ Settings resolvedSettings(const Settings &lines)
     QStringList selectors;
     QHash<QString, QVector<QHash<QString, QString>>> occurrences;
     Settings settings;
-    for (const Setting &line : lines) {
+    QHash<QString, int> lastLine;
+    for (int i = 0; i < lines.size(); ++i)
+        lastLine[lines[i].name] = i;
+    for (int i = 0; i < lines.size(); ++i) {
+        const Setting &line = lines[i];
         if (isCalledSelector(line.name)) {
             positions[line.name] = line.value;
             if (!selectors.contains(line.name))
                 selectors << line.name;
+            if (lastLine.value(line.name) == i)
+                settings.append(line); // not all that are called so select anything
             continue;
         }
         occurrences[line.name].append(positions);
@@ -87,7 +93,7 @@ Settings resolvedSettings(const Settings &lines)
 
     QHash<QString, int> seen;
     for (Setting &setting : settings) {
-        if (!setting.selection.isEmpty())
+        if (!setting.selection.isEmpty() || isCalledSelector(setting.name))
             continue;
         const auto &all = occurrences[setting.name];
         const auto &at = all[seen[setting.name]++];

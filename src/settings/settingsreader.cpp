@@ -141,8 +141,6 @@ SettingsReader::Result SettingsReader::readAll()
             readSelected(selectors, 0, group);
         m_done += int(group.size());
     }
-    if (features.empty())
-        m_result.error = tr("The camera's description names no feature as one to be saved.");
     return m_result;
 }
 
@@ -153,6 +151,9 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     QString original;
     QStringList positions;
     try {
+        // One that is not there now selects nothing.
+        if (!GenApi::IsReadable(selector->GetAccessMode()))
+            return readAt(selectors, depth + 1, features);
         original = FeatureValue::text(selector);
         positions = positionsOf(selector);
     } catch (const GenICam::GenericException &exception) {

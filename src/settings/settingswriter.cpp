@@ -91,22 +91,31 @@ QString SettingsWriter::attempt(const Setting &setting)
 
 QString SettingsWriter::attempt(GenApi::IValue *feature, const QString &value)
 {
+    QString reason;
     try {
-        const QString obstacle = FeatureValue::obstacle(feature);
-        if (obstacle.isEmpty())
+        reason = FeatureValue::obstacle(feature);
+        if (reason.isEmpty())
             FeatureValue::write(feature, value);
         m_timeouts = 0;
-        const bool isThere = obstacle.isEmpty() ||
-                             (GenApi::IsReadable(feature->GetAccessMode()) &&
-                              FeatureValue::areSame(feature, FeatureValue::text(feature), value));
-        return isThere ? QString() : obstacle;
     } catch (const GenICam::TimeoutException &exception) {
-        const QString reason = FeatureValue::reason(feature, exception);
+        reason = FeatureValue::reason(feature, exception);
         if (++m_timeouts >= mostTimeouts)
             m_result.error = reason;
         return reason;
     } catch (const GenICam::GenericException &exception) {
-        return FeatureValue::reason(feature, exception);
+        reason = FeatureValue::reason(feature, exception);
+    }
+    return reason.isEmpty() || isThere(feature, value) ? QString() : reason;
+}
+
+/// What cannot be written, but has the value, needs no writing.
+bool SettingsWriter::isThere(GenApi::IValue *feature, const QString &value)
+{
+    try {
+        return GenApi::IsReadable(feature->GetAccessMode()) &&
+               FeatureValue::areSame(feature, FeatureValue::text(feature), value);
+    } catch (const GenICam::GenericException &) {
+        return false;
     }
 }
 

@@ -38,6 +38,7 @@ private:
     SettingProblems pass(const Settings &settings);
     QString attempt(const Setting &setting);
     QString attempt(GenApi::IValue *feature, const QString &value);
+    static bool isThere(GenApi::IValue *feature, const QString &value);
     void check(const Settings &settings);
     SettingProblems differing(const Settings &settings);
 
