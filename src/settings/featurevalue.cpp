@@ -130,7 +130,7 @@ bool areSameNumbers(const QString &left, const QString &right)
     bool areNumbers[2] = {};
     const double a = left.trimmed().toDouble(&areNumbers[0]);
     const double b = right.trimmed().toDouble(&areNumbers[1]);
-    return areNumbers[0] && areNumbers[1] &&
+    return areNumbers[0] && areNumbers[1] && std::isfinite(a) && std::isfinite(b) &&
            std::fabs(a - b) <= equalShare * std::fmax(std::fabs(a), std::fabs(b));
 }
 
@@ -138,6 +138,12 @@ bool areSameIntegers(const QString &left, const QString &right)
 {
     qint64 values[2] = {};
     return integerOf(left, &values[0]) && integerOf(right, &values[1]) && values[0] == values[1];
+}
+
+QString bareDigits(const QString &bytes)
+{
+    const QString digits = bytes.trimmed().toLower();
+    return digits.startsWith(QLatin1String("0x")) ? digits.mid(2) : digits;
 }
 
 template<typename Number>
@@ -263,7 +269,7 @@ bool FeatureValue::areSame(GenApi::IValue *feature, const QString &left, const Q
     case GenApi::intfIBoolean:
         return (isTrue(left) && isTrue(right)) || (isFalse(left) && isFalse(right));
     case GenApi::intfIRegister:
-        return left.compare(right, Qt::CaseInsensitive) == 0;
+        return bareDigits(left) == bareDigits(right);
     default:
         return false;
     }

@@ -141,6 +141,7 @@ SettingsReader::Result SettingsReader::readAll()
             readSelected(selectors, 0, group);
         m_done += int(group.size());
     }
+    goesOn(); // the last one may have taken long
     return m_result;
 }
 

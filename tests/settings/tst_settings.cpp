@@ -210,7 +210,7 @@ void TestSettings::oddValues_data()
     row("Integer", "-9223372036854775808", "-9223372036854775808");
     row("Integer", "0xFFFFFFFFFFFFFFFF", "-1");
     row("Integer", "192.168.1.2", "3232235778");
-    row("Integer", "00:1B:2C:3D:4E:5F", "116713082463");
+    row("Integer", "00:1B:2C:3D:4E:5F", "116706332255");
     for (const char *value : {"", "x", "1.5", "1e3", "0x", "9223372036854775808", "1,000", "1.2.3",
                               "256.1.1.1", "0:1:2:3:4:5:6", "--1", "1 2"})
         row("Integer", value, refused);
@@ -310,6 +310,8 @@ void TestSettings::selectors()
     QVERIFY(camera.isPutBack());
 
     // Put back also when the camera fails in between.
+    camera.gains = {{}};
+    camera.gain->changed();
     int writes = 0;
     camera.gain->onWrite([&] {
         if (++writes == 2)
@@ -380,8 +382,10 @@ void TestSettings::otherModels()
 
 void TestSettings::simulatedCamera()
 {
-    OrvSimulation::SimulatedCamera first;
-    OrvSimulation::SimulatedCamera second;
+    OrvSimulation::CameraIdentity identity;
+    const OrvSimulation::SimulatedCamera first(identity);
+    identity.serial = "SIM-0002";
+    const OrvSimulation::SimulatedCamera second(identity);
     const auto map = openNodeMap(first);
     const auto other = openNodeMap(second);
     QString error;
@@ -435,7 +439,7 @@ void TestSettings::cancelled()
         int left = steps;
         const auto progress = [&left](int done, int total) { return done <= total && left-- > 0; };
         Result result = OrvCameraSettings::save(camera, path("a.pfs"), progress);
-        QVERIFY(result.isCancelled || steps > 6);
+        QVERIFY(result.isCancelled || steps > 4);
         QVERIFY(!result.isCancelled || read(path("a.pfs")) == before);
         QVERIFY(camera.isPutBack());
         left = steps;
@@ -565,13 +569,16 @@ void TestSettings::menu()
 
     // The camera goes in the middle.
     std::atomic<bool> isReading{false};
-    camera.text->onRead([&] {
+    std::atomic<bool> isGoing{false};
+    camera.gain->onRead([&] {
         isReading = true;
-        QThread::msleep(50);
+        while (!isGoing)
+            QThread::yieldCurrentThread();
     });
-    camera.text->changed();
+    camera.gain->changed();
     menu.save(path("gone.pfs"));
     QTRY_VERIFY(isReading);
+    isGoing = true;
     menu.setNodeMap(nullptr);
     QVERIFY(camera.isPutBack() && !QFile::exists(path("gone.pfs")));
     QVERIFY(shown<QMessageBox>() && !menu.actions().first()->isEnabled());
@@ -647,7 +654,6 @@ void TestSettings::overTheWire()
                                  .arg(saved.count)
                                  .arg(packets.size())
                                  .arg(time);
-    qInfo("%s", qPrintable(measured));
     QVERIFY2(packets.size() < 120, qPrintable(measured));
 
     const Result loaded = OrvCameraSettings::load(map, path("wire.pfs"));
