@@ -246,7 +246,7 @@ void OrvSettingsMenuPrivate::showSaved(const QString &fileName,
     if (result.isCancelled)
         return;
     const QString text =
-        tr("%n settings are saved in %1.", nullptr, result.count).arg(baseName(fileName));
+        tr("Settings saved in %1: %2.").arg(baseName(fileName), QString::number(result.count));
     if (result.problems.isEmpty())
         return say(QMessageBox::Information, text);
     SettingsTable::Rows rows;
@@ -305,12 +305,11 @@ void OrvSettingsMenuPrivate::showPreview(const std::shared_ptr<Preview> &preview
         (isMissing ? missing : changes).append({one.feature, one.left, one.right});
     }
     const QString name = baseName(preview->fileName);
-    QString text = changes.isEmpty()
-                       ? tr("The camera has all values of %1 already.").arg(name)
-                       : tr("%1 changes %n values:", nullptr, int(changes.size())).arg(name);
+    QString text = changes.isEmpty() ? tr("The camera has all values of %1 already.").arg(name)
+                                     : tr("This is what %1 changes:").arg(name);
     if (!missing.isEmpty())
-        text += QLatin1Char(' ') + tr("(%n more are of features that the camera does not have.)",
-                                      nullptr, int(missing.size()));
+        text +=
+            QLatin1Char(' ') + tr("(The last rows are of features that the camera does not have.)");
     auto *dialog = newDialog(tr("Load Settings"), "SettingsPreview");
     if (!changes.isEmpty())
         dialog->addAcceptButton(tr("Load"));
@@ -346,7 +345,7 @@ void OrvSettingsMenuPrivate::showWritten(const SettingsWriter::Result &result, b
     QString text = result.isCancelled ? tr("Cancelled.") + QLatin1Char(' ') : QString();
     if (!result.error.isEmpty())
         text += result.error + QLatin1Char(' ');
-    text += tr("%n settings are in the camera now.", nullptr, result.written);
+    text += tr("Settings that the camera has now: %1.").arg(result.written);
     SettingsTable::Rows rows;
     for (const SettingProblem &problem : result.refused)
         rows.append(problemRow(problem));
@@ -409,11 +408,10 @@ void OrvSettingsMenuPrivate::showComparison(const QString &fileName,
     });
     dialog->addCloseButton();
     const QString name = baseName(fileName);
-    dialog->setContents(
-        rows.isEmpty()
-            ? tr("The camera has all values of %1.").arg(name)
-            : tr("%1 and the camera have %n differences:", nullptr, int(rows.size())).arg(name),
-        {tr("Feature"), name, tr("Camera")}, rows);
+    dialog->setContents(rows.isEmpty()
+                            ? tr("The camera has all values of %1.").arg(name)
+                            : tr("This is not the same in %1 and in the camera:").arg(name),
+                        {tr("Feature"), name, tr("Camera")}, rows);
     show(dialog);
 }
 
@@ -426,11 +424,9 @@ void OrvSettingsMenuPrivate::compareFiles(SettingsTableDialog *dialog, const QSt
     const SettingsTable::Rows rows = rowsOf(result);
     const QString leftName = baseName(left);
     const QString rightName = baseName(right);
-    dialog->setContents(rows.isEmpty()
-                            ? tr("%1 and %2 have the same values.").arg(leftName, rightName)
-                            : tr("%1 and %2 have %n differences:", nullptr, int(rows.size()))
-                                  .arg(leftName, rightName),
-                        {tr("Feature"), leftName, rightName}, rows);
+    const QString text = rows.isEmpty() ? tr("%1 and %2 have the same values.")
+                                        : tr("This is not the same in %1 and in %2:");
+    dialog->setContents(text.arg(leftName, rightName), {tr("Feature"), leftName, rightName}, rows);
 }
 
 void OrvSettingsMenuPrivate::fillUserSets()

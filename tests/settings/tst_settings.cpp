@@ -20,6 +20,7 @@
 #include <array>
 #include <atomic>
 #include <set>
+#include <thread>
 
 using namespace OrvGenApi;
 using OrvGui::OrvCameraSettings;
@@ -212,7 +213,7 @@ void TestSettings::oddValues_data()
     row("Integer", "192.168.1.2", "3232235778");
     row("Integer", "00:1B:2C:3D:4E:5F", "116706332255");
     for (const char *value : {"", "x", "1.5", "1e3", "0x", "9223372036854775808", "1,000", "1.2.3",
-                              "256.1.1.1", "0:1:2:3:4:5:6", "--1", "1 2"})
+                              "256.1.1.1", "0:1:2:3:4:5:6", "--1", "1 2", "1_000", "0b1"})
         row("Integer", value, refused);
     row("Float", "0.1", "0.1");
     row("Float", "1e-7", "1e-07");
@@ -578,8 +579,12 @@ void TestSettings::menu()
     camera.gain->changed();
     menu.save(path("gone.pfs"));
     QTRY_VERIFY(isReading);
-    isGoing = true;
+    std::thread answer([&] { // while the end of the work is waited for
+        QThread::msleep(20);
+        isGoing = true;
+    });
     menu.setNodeMap(nullptr);
+    answer.join();
     QVERIFY(camera.isPutBack() && !QFile::exists(path("gone.pfs")));
     QVERIFY(shown<QMessageBox>() && !menu.actions().first()->isEnabled());
 }
