@@ -17,7 +17,7 @@ namespace OrvGui {
 
 namespace {
 
-const int widestColumn = 40; // characters, as long as nobody drags it
+const int widestColumn = 60; // characters, as long as nobody drags it
 const int mostRows = 18;     // as long as nobody makes the dialog larger
 
 } // namespace
@@ -39,6 +39,7 @@ SettingsTableDialog::SettingsTableDialog(const QString &title, QWidget *parent)
     m_view->setModel(m_table);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
+    m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->setAlternatingRowColors(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -73,7 +74,7 @@ void SettingsTableDialog::setContents(const QString &text, const QStringList &he
         width += fit;
     }
     const int count = std::min(int(rows.size()) + 3, mostRows);
-    m_view->setMinimumSize(std::min(width, 60 * character), 5 * fontMetrics().height());
+    m_view->setMinimumSize(std::min(width, 70 * character), 5 * fontMetrics().height());
     resize(QSize(width, 0) +
            QSize(0, rows.isEmpty() ? 0 : int(count * 1.4 * fontMetrics().height()) + 90));
     resize(size().expandedTo(sizeHint().boundedTo(QSize(width, sizeHint().height()))));
