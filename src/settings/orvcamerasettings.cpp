@@ -71,11 +71,14 @@ Settings others(const Settings &ofFile, const Settings &ofCamera)
 void takeMissing(GenApi::INodeMap &map, Settings *settings, QStringList *missing)
 {
     Settings found;
+    QSet<QString> seen;
     for (const Setting &setting : qAsConst(*settings)) {
-        if (settingOf(map, setting.name))
+        if (settingOf(map, setting.name)) {
             found.append(setting);
-        else if (!missing->contains(setting.name))
+        } else if (!seen.contains(setting.name)) {
+            seen.insert(setting.name);
             *missing << setting.name;
+        }
     }
     *settings = found;
 }
