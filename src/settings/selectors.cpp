@@ -56,10 +56,11 @@ QStringList positionsOfInteger(GenApi::IInteger *selector)
     return positions;
 }
 
-bool isWritten(GenApi::IValue *selector, const QString &value)
+/// A position may be of no use any more, and still be the one that was found.
+bool isPutBack(GenApi::IValue *selector, const QString &value, bool verify)
 {
     try {
-        FeatureValue::write(selector, value);
+        selector->FromString(toUtf8(value), verify);
         return true;
     } catch (const GenICam::GenericException &) {
         return false;
@@ -156,6 +157,22 @@ QString SelectorMoves::select(const Setting::Selection &selection)
     return QString();
 }
 
+QString SelectorMoves::original(GenApi::IValue *selector) const
+{
+    for (const Moved &moved : m_moved) {
+        if (moved.selector == selector)
+            return moved.original;
+    }
+    return QString();
+}
+
+void SelectorMoves::keep(GenApi::IValue *selector)
+{
+    m_moved.erase(std::remove_if(m_moved.begin(), m_moved.end(),
+                                 [=](const Moved &one) { return one.selector == selector; }),
+                  m_moved.end());
+}
+
 QStringList SelectorMoves::putBack()
 {
     QStringList away;
@@ -163,8 +180,8 @@ QStringList SelectorMoves::putBack()
         if (!moved.isAway)
             continue;
         // A write that was not answered may have arrived, and the answer got lost.
-        if (!isWritten(moved.selector, moved.original) &&
-            !isWritten(moved.selector, moved.original))
+        if (!isPutBack(moved.selector, moved.original, true) &&
+            !isPutBack(moved.selector, moved.original, false))
             away << fromUtf8(moved.selector->GetNode()->GetName());
     }
     m_moved.clear();

@@ -41,6 +41,12 @@ public:
     /// The same for all of the selection. Null when all is selected, otherwise why it is not.
     QString select(const Setting::Selection &selection);
 
+    /// Where the selector was; null for one that nothing was asked of.
+    QString original(GenApi::IValue *selector) const;
+
+    /// Leaves the selector where it is now.
+    void keep(GenApi::IValue *selector);
+
     /// Names those that the camera has not taken back.
     QStringList putBack();
 

@@ -268,7 +268,9 @@ SettingsReader::Result SettingsReader::read(const Settings &wanted)
         found.value = QString();
         QString why = reason;
         GenApi::IValue *feature = settingOf(m_map, setting.name);
-        if (feature && why.isEmpty())
+        if (feature)
+            found.value = moves.original(feature); // it may be away
+        if (feature && found.value.isNull() && why.isEmpty())
             found.value = textOf(feature, &why);
         if (!why.isEmpty())
             m_result.omitted.append({setting, why});

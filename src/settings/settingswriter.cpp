@@ -60,7 +60,7 @@ SettingsWriter::Result SettingsWriter::write(const Settings &settings)
     m_result.refused = refused;
     if (goesOn())
         check(known);
-    m_result.notPutBack = m_moves.putBack();
+    noteAway(m_moves.putBack());
     return m_result;
 }
 
@@ -78,15 +78,21 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
             refused.append({setting, reason});
     }
     // What says nothing of a selection is meant for that which was there.
-    m_result.notPutBack = m_moves.putBack();
+    noteAway(m_moves.putBack());
     return refused;
 }
 
 /// Empty when it is done.
 QString SettingsWriter::attempt(const Setting &setting)
 {
-    const QString reason = m_moves.select(setting.selection);
-    return reason.isEmpty() ? attempt(settingOf(m_map, setting.name), setting.value) : reason;
+    const QString obstacle = m_moves.select(setting.selection);
+    if (!obstacle.isEmpty())
+        return obstacle;
+    GenApi::IValue *feature = settingOf(m_map, setting.name);
+    const QString reason = attempt(feature, setting.value);
+    if (reason.isEmpty() && isSelector(feature))
+        m_moves.keep(feature); // its place is a setting itself
+    return reason;
 }
 
 QString SettingsWriter::attempt(GenApi::IValue *feature, const QString &value)
@@ -119,6 +125,12 @@ bool SettingsWriter::isThere(GenApi::IValue *feature, const QString &value)
     }
 }
 
+void SettingsWriter::noteAway(const QStringList &selectors)
+{
+    m_result.notPutBack << selectors;
+    m_result.notPutBack.removeDuplicates();
+}
+
 void SettingsWriter::check(const Settings &settings)
 {
     std::set<int> refused;
@@ -146,6 +158,7 @@ SettingProblems SettingsWriter::differing(const Settings &settings)
                                      : SettingsProgress());
     const SettingsReader::Result found = reader.read(settings);
     m_result.isCancelled |= found.isCancelled;
+    noteAway(found.notPutBack);
     if (!found.error.isEmpty())
         return problems;
     for (int i = 0; i < found.settings.size(); ++i) {

@@ -39,6 +39,7 @@ private:
     QString attempt(const Setting &setting);
     QString attempt(GenApi::IValue *feature, const QString &value);
     static bool isThere(GenApi::IValue *feature, const QString &value);
+    void noteAway(const QStringList &selectors);
     void check(const Settings &settings);
     SettingProblems differing(const Settings &settings);
 

@@ -310,6 +310,20 @@ void TestSettings::selectors()
     QCOMPARE(camera.gains[1], 9.0);
     QVERIFY(camera.isPutBack());
 
+    // A selector that is a setting itself ends as the file says.
+    camera.phase->properties().streamable = true;
+    QVERIFY(OrvCameraSettings::load(camera, write(head + "PhaseIndex\t2\nGain\t5\nPhaseIndex\t1\n"))
+                .isComplete());
+    QCOMPARE(camera.phase->GetValue(), int64_t(1));
+    camera.phase->properties().streamable = false;
+    camera.phase->change(2);
+    // It goes back to a position that the camera does not offer any more.
+    camera.selector->entry("Blue").setAccessMode(GenApi::NA);
+    QVERIFY(
+        OrvCameraSettings::load(camera, write(head + "GainSelector\tRed\nGain\t5\n")).isComplete());
+    QVERIFY(camera.isPutBack());
+    camera.selector->entry("Blue").setAccessMode(GenApi::RW);
+
     // Put back also when the camera fails in between.
     camera.gains = {{}};
     camera.gain->changed();
@@ -552,6 +566,23 @@ void TestSettings::menu()
     QVERIFY(finished.wait());
     QCOMPARE(camera.width->GetValue(), int64_t(60));
     shown<QDialog>("SettingsResult")->reject();
+
+    // A selector that is a setting itself is put back as well.
+    camera.phase->properties().streamable = true;
+    menu.load(write(head + "PhaseIndex\t1\nGain\t8\nPhaseIndex\t2\nGain\t9\nPhaseIndex\t1\n"));
+    QVERIFY(finished.wait());
+    dialog = shown<QDialog>("SettingsPreview");
+    QCOMPARE(tableText(dialog).section('\n', -1), QString("PhaseIndex|2|1"));
+    dialog->accept();
+    QVERIFY(finished.wait());
+    QCOMPARE(camera.phase->GetValue(), int64_t(1));
+    shown<QDialog>("SettingsResult")->reject();
+    menu.putBack();
+    QVERIFY(finished.wait());
+    QVERIFY(camera.isPutBack());
+    QCOMPARE(camera.gains[3], 1e-7);
+    shown<QDialog>("SettingsResult")->reject();
+    camera.phase->properties().streamable = false;
 
     // Of another model after a question only; a damaged file not at all.
     menu.load(write(head + "# Device = Other::Camera\nWidth\t40\n"));
