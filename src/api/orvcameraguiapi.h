@@ -5,9 +5,9 @@
 /*
  * The C functions of libOrvCameraGuiApi: ready-made windows for programs in any language.
  *
- * Each function makes a Qt application when the process has none; a host that has one of its own
- * must have made a QApplication. All of them are called from one and the same thread, that of the
- * application.
+ * Each function that shows a window makes a Qt application when the process has none; a host that
+ * has one of its own must have made a QApplication. All of them are called from one and the same
+ * thread, that of the application. Those for settings files need none, and can be called on any.
  *
  * Nothing here but SelectCamera runs an event loop. A host that is not a Qt program has to let Qt's
  * events run, otherwise a window is neither painted nor heard: on Linux Qt waits on the default
