@@ -38,7 +38,10 @@ QString key(const char *name)
 
 CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
                              std::optional<OrvGui::Visibility> level)
-    : m_device(std::move(device)), m_settings(settings), m_configuration(m_device.get())
+    : m_device(std::move(device))
+    , m_settings(settings)
+    , m_configuration(m_device.get())
+    , m_settingsMenu(new OrvGui::OrvSettingsMenu(&m_configuration))
 {
     m_tree.setWindowIcon(m_configuration.windowIcon());
     m_tree.resize(Placing::treeSize(&m_tree));
@@ -60,6 +63,8 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     m_treeAction->setCheckable(true);
     connect(m_treeAction, &QAction::toggled, this, &CameraWindows::showTree);
 
+    addSettingsMenu();
+
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceChanged, this, &CameraWindows::follow);
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceGivenUp, this,
             [this] { m_device.reset(); });
@@ -71,7 +76,23 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
 CameraWindows::~CameraWindows()
 {
     m_configuration.disconnect(this);
+    m_settingsMenu->setNodeMap(nullptr);
     m_tree.clearParams(); // the device may be the configuration window's own
+}
+
+/// Behind "Connect" and "Disconnect".
+void CameraWindows::addSettingsMenu()
+{
+    auto *menu = m_configuration.findChild<QMenu *>(QStringLiteral("menuMenu"));
+    const QList<QAction *> entries = menu->actions();
+    QAction *last = m_configuration.findChild<QAction *>(QStringLiteral("actionDisconnect"));
+    QAction *before = entries.value(int(entries.indexOf(last)) + 1);
+    menu->insertSeparator(before);
+    m_settingsMenu->addTo(menu, before);
+    if (before && !before->isSeparator())
+        menu->insertSeparator(before);
+    connect(m_settingsMenu, &OrvGui::OrvSettingsMenu::valuesReplaced, &m_tree,
+            [this] { m_tree.treeView()->viewport()->update(); });
 }
 
 void CameraWindows::show()
@@ -128,6 +149,7 @@ QWidget *CameraWindows::openDialog(const QString &name, QString *error)
 void CameraWindows::follow(OrvCam::Device *device)
 {
     rememberTree();
+    m_settingsMenu->setNodeMap(device ? device->GetParamArray()->GetNodeMap() : nullptr);
     if (!device) {
         m_tree.clearParams();
         m_tree.setWindowTitle(tr("Features"));

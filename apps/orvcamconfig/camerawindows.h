@@ -6,6 +6,7 @@
 
 #include <orvcamconfig.h>
 #include <orvgenparamtreeview.h>
+#include <orvsettingsmenu.h>
 
 #include <QByteArray>
 #include <QHash>
@@ -22,6 +23,9 @@ class QSettings;
 ///
 /// While the user has several cameras open, each in a program of its own, all windows have the
 /// camera's name in their titles.
+///
+/// Below "Connect" in the configuration window's menu are the entries for settings files and user
+/// sets.
 ///
 /// The places of the windows, which of them are open and what is unfolded in the tree are kept in
 /// the settings from one run to the next. Without a place, or with one that is on no screen any
@@ -46,6 +50,7 @@ public:
 
     OrvGui::OrvCamConfig &configuration() { return m_configuration; }
     OrvGui::OrvGenParamTreeView &tree() { return m_tree; }
+    OrvGui::OrvSettingsMenu &settingsMenu() { return *m_settingsMenu; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -53,6 +58,7 @@ protected:
 private:
     void showTree(bool isShown);
     void follow(OrvCam::Device *device);
+    void addSettingsMenu();
     void nameWindows();
     void rememberTree();
     void unfoldTree();
@@ -64,7 +70,8 @@ private:
     QSettings *const m_settings;
     OrvGui::OrvGenParamTreeView m_tree;
     OrvGui::OrvCamConfig m_configuration;
-    QHash<QWidget *, QString> m_titles; ///< of the configuration's windows, without a camera
+    OrvGui::OrvSettingsMenu *m_settingsMenu; ///< a child of that
+    QHash<QWidget *, QString> m_titles;      ///< of the configuration's windows, without a camera
     QString m_camera;
     std::unique_ptr<OpenCameras> m_openCameras; ///< null without settings
     QAction *m_treeAction;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "actions.h"
 #include "cameras.h"
 #include "camerawindows.h"
 #include "featurelist.h"
@@ -46,7 +47,7 @@ Options readOptions(int argc, char **argv, QString *error, QString *complaint)
 
 WindowSystem::Need displayFor(const Options &options)
 {
-    if (options.listFeatures || options.listCameras)
+    if (options.listFeatures || options.listCameras || !options.actions.isEmpty())
         return WindowSystem::Need::Text;
     return options.screenshot.isEmpty() ? WindowSystem::Need::Windows : WindowSystem::Need::Picture;
 }
@@ -80,8 +81,29 @@ int takePicture(QWidget &window, const QString &fileName)
                  : fail(Failure, QObject::tr("The picture '%1' cannot be written.").arg(fileName));
 }
 
+int carryOut(const FeatureSource &source, const Options &options)
+{
+    QTextStream errors(stderr);
+    if (!source.warning().isEmpty())
+        errors << "orvcamconfig: " << source.warning() << '\n';
+    ActionRunner runner(*source.nodeMap(),
+                        options.anyModel ? ActionRunner::AnyModel : ActionRunner::SameModel);
+    const bool isGood = runner.run(options.actions);
+    for (const QString &complaint : runner.complaints())
+        errors << "orvcamconfig: " << complaint << '\n';
+    const int printed = printText([&](QTextStream &out) {
+        if (options.json)
+            out << QString::fromUtf8(runner.json(source.title()));
+        else
+            out << runner.text();
+    });
+    return isGood ? printed : Failure;
+}
+
 int showFeatures(const FeatureSource &source, const Options &options)
 {
+    if (!options.actions.isEmpty())
+        return carryOut(source, options);
     OrvGui::OrvGenParamTreeView view;
     view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
     view.setParams(source.nodeMap());
@@ -147,8 +169,8 @@ int showCamera(OrvCam::System &system, const Options &options)
 {
     QString error;
     OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
-    const auto open =
-        options.listFeatures ? &FeatureSource::openCameraForText : &FeatureSource::openCamera;
+    const bool isText = options.listFeatures || !options.actions.isEmpty();
+    const auto open = isText ? &FeatureSource::openCameraForText : &FeatureSource::openCamera;
     const auto source = camera ? open(*camera, &error) : nullptr;
     if (source)
         return showFeatures(*source, options);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "action.h"
+
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
@@ -20,9 +22,12 @@ public:
     bool listFeatures = false;
     QString
         camera; ///< identifier, serial number or name; in the tree, empty for the first usable one
-    QString description; ///< file name; empty for a camera
-    QString screenshot;  ///< file name; empty for none
-    int visibility = 0;  ///< 0 Basic, 1 Expert, 2 Guru
+    QString description;   ///< file name; empty for a camera
+    QString screenshot;    ///< file name; empty for none
+    Actions actions;       ///< to be carried out without a window
+    bool json = false;     ///< what the actions have to tell
+    bool anyModel = false; ///< for settings files
+    int visibility = 0;    ///< 0 Basic, 1 Expert, 2 Guru
     bool isVisibilityGiven = false;
 
     /// Reads the arguments, the program's name first. Answers "--help" and "--version" and ends

@@ -5,9 +5,9 @@
 /*
  * The C functions of libOrvCameraGuiApi: ready-made windows for programs in any language.
  *
- * Each function makes a Qt application when the process has none; a host that has one of its own
- * must have made a QApplication. All of them are called from one and the same thread, that of the
- * application.
+ * Each function that shows a window makes a Qt application when the process has none; a host that
+ * has one of its own must have made a QApplication. All of them are called from one and the same
+ * thread, that of the application. Those for settings files need none, and can be called on any.
  *
  * Nothing here but SelectCamera runs an event loop. A host that is not a Qt program has to let Qt's
  * events run, otherwise a window is neither painted nor heard: on Linux Qt waits on the default
@@ -93,6 +93,42 @@ ORVCAMERAGUIAPI_EXPORT void ShowOutputDialog(OrvCamDevice *device, unsigned long
 ORVCAMERAGUIAPI_EXPORT void ShowPulseDialog(OrvCamDevice *device, unsigned long parent);
 ORVCAMERAGUIAPI_EXPORT void ShowStrobeDialog(OrvCamDevice *device, unsigned long parent);
 ORVCAMERAGUIAPI_EXPORT void ShowTriggerDialog(OrvCamDevice *device, unsigned long parent);
+
+/*
+ * Settings files: text as GenApi's feature persistence has it, with all features that the camera's
+ * description calls streamable, for each position of their selectors.
+ *
+ * These make no application and need no display, and may be called on any thread. They wait for the
+ * camera; while one runs, nothing else should write to it. Selectors that are moved are put back.
+ * File names are UTF-8.
+ *
+ * They return an OrvSettingsResult. `report`, which may be null, gets a text of at most
+ * `reportSize` bytes in UTF-8, with a zero at its end: one line for each problem ("feature:
+ * reason") or difference ("feature", the value in the first file, the value in the camera or in the
+ * second file, with tabs between them), after a failure a line that says why; empty without any.
+ */
+enum OrvSettingsResult {
+    OrvSettings_Done = 0,
+    OrvSettings_Partly = 1,    /* something was refused, is missing, or differs */
+    OrvSettings_Failed = 2,    /* nothing, or not all, was done */
+    OrvSettings_OtherModel = 3 /* the file is of another model, and nothing was written */
+};
+
+/* Replaces the file as a whole, or not at all. What the camera does not tell is left out. */
+ORVCAMERAGUIAPI_EXPORT int SaveCameraSettings(OrvGenApiNodeMap *nodeMap, const char *fileName,
+                                              char *report, size_t reportSize);
+
+/*
+ * Writes the values in the order of the file, and what the camera refuses again as long as it takes
+ * anything more. A file of another model is loaded when `anyModel` is not 0.
+ */
+ORVCAMERAGUIAPI_EXPORT int LoadCameraSettings(OrvGenApiNodeMap *nodeMap, const char *fileName,
+                                              int anyModel, char *report, size_t reportSize);
+
+/* Compares a file with a camera, or, without one, with a second file; the other one may be null. */
+ORVCAMERAGUIAPI_EXPORT int CompareCameraSettings(const char *fileName, OrvGenApiNodeMap *nodeMap,
+                                                 const char *secondFile, char *report,
+                                                 size_t reportSize);
 
 #ifdef __cplusplus
 }

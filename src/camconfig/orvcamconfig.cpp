@@ -21,6 +21,7 @@
 #include "orvcameraselectordialog.h"
 #include "otherframe.h"
 #include "selectordetour.h"
+#include "selectorsinuse.h"
 #include "ui_orvcamconfigmainwindow.h"
 
 #include <OrvCam.h>
@@ -627,7 +628,7 @@ void OrvCamConfigPrivate::restore()
 
 void OrvCamConfigPrivate::refreshFrames()
 {
-    if (!array)
+    if (!array || SelectorsInUse::isOf(array->GetNodeMap()))
         return;
     if (!isFrameABSupported) {
         reader.whenKnown(this, &ui, shownParams(), [this] { updateFrame(FrameA); });

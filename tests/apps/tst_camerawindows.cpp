@@ -61,6 +61,7 @@ private slots:
     void initTestCase();
     void showTheSameCamera();
     void followTheConfiguration();
+    void settingsMenu();
     void namedWhileSeveralAreOpen();
     void rememberedFromRunToRun();
     void damagedSettings();
@@ -137,6 +138,27 @@ void TestCameraWindows::followTheConfiguration()
         windows.configuration().SetDevice(nullptr);
     }
     QCOMPARE(windows.tree().windowTitle(), QString("Features"));
+}
+
+void TestCameraWindows::settingsMenu()
+{
+    CameraWindows windows(open(), nullptr);
+    const auto *menu = windows.configuration().findChild<QMenu *>("menuMenu");
+    QStringList names;
+    for (const QAction *entry : menu->actions())
+        names << (entry->isSeparator() ? QString("-") : entry->objectName());
+    QCOMPARE(names, QStringList({"actionConnect", "actionDisconnect", "-", "actionSaveSettings",
+                                 "actionLoadSettings", "actionPutSettingsBack",
+                                 "actionCompareSettings", "actionUserSets", "-", "actionQuit"}));
+    QVERIFY(action(windows, "actionSaveSettings").isEnabled());
+    QTemporaryDir folder;
+    QSignalSpy finished(&windows.settingsMenu(), &OrvGui::OrvSettingsMenu::finished);
+    windows.settingsMenu().save(folder.filePath("a.pfs"));
+    QVERIFY(finished.wait());
+    QVERIFY(QFile::exists(folder.filePath("a.pfs")));
+    action(windows, "actionDisconnect").trigger();
+    QVERIFY(!action(windows, "actionSaveSettings").isEnabled());
+    QVERIFY(!action(windows, "actionUserSets").isVisible());
 }
 
 void TestCameraWindows::namedWhileSeveralAreOpen()

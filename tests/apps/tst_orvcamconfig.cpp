@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QtTest>
 
 namespace {
@@ -47,6 +50,8 @@ private slots:
     void failures_data();
     void failures();
     void savesPictures();
+    void carriesOut();
+    void settingsFiles();
 
 private:
     QTemporaryDir m_folder;
@@ -146,6 +151,15 @@ void TestOrvCamConfig::failures_data()
     row("--list-features --xml /dev/null", 1, "null: the description is empty");
     row("--simulate --camera Nobody", 1, nobody);
     row("--simulate --screenshot /nonexistent/folder/a.png", 1, "cannot be written");
+    row("--get Hex", 2, "--simulate");
+    row("--xml a.xml --get ", 2, "needs a value");
+    row("--xml a.xml --set Hex", 2, "NAME=VALUE");
+    row("--xml a.xml --set =1", 2, "NAME=VALUE");
+    row("--xml a.xml --get Hex --screenshot a.png", 2, "--screenshot");
+    row("--xml a.xml --get Hex --list-features", 2, "lists");
+    row("--simulate --window main --save a", 2, "--window");
+    row("--xml a.xml --json", 2, "--json");
+    row("--xml a.xml --get Hex --any-model", 2, "--load");
     row("--simulate -platform nonsense", 1, "No window can be shown: ");
 }
 
@@ -186,6 +200,64 @@ void TestOrvCamConfig::savesPictures()
         QVERIFY(!pictures.contains(picture));
         pictures << picture;
     }
+}
+
+void TestOrvCamConfig::carriesOut()
+{
+    const QStringList start = {"--xml", ORV_SAMPLE};
+    Result result = run(start + QStringList({"--get", "Hex", "Flag", "--set", "Hex=1F", "Flag=0",
+                                             "--get=Hex", "Flag", "Text", "Detail"}));
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.out, QString("Hex\tFF\nFlag\ttrue\nHex\t1F\nFlag\tfalse\n"
+                                 "Text\t\u00c4hre \u03b2\nDetail\t1.5\n"));
+    QCOMPARE(result.status, 0);
+
+    // What only reads goes on after a failure; a change that was refused is the end.
+    result = run(start + QStringList({"--get", "None", "Nowhere", "Hex", "--set", "Flag=maybe",
+                                      "--get", "Flag"}));
+    QCOMPARE(result.out, QString("Hex\tFF\n"));
+    QCOMPARE(result.err.count('\n'), 3);
+    QCOMPARE(result.status, 1);
+
+    result = run(start + QStringList({"--json", "--get", "Hex", "Flag", "Text", "--execute", "Hex",
+                                      "--get", "Flag"}));
+    QCOMPARE(result.status, 1);
+    const QJsonObject document = QJsonDocument::fromJson(result.out.toUtf8()).object();
+    const QJsonArray results = document["results"].toArray();
+    QCOMPARE(document["ok"], QJsonValue(false));
+    QCOMPARE(results.size(), 4);
+    QCOMPARE(results[0].toObject()["value"], QJsonValue(255));
+    QCOMPARE(results[0].toObject()["text"], QJsonValue("FF"));
+    QCOMPARE(results[1].toObject()["value"], QJsonValue(true));
+    QCOMPARE(results[3].toObject()["action"], QJsonValue("execute"));
+    QVERIFY(!results[3].toObject()["error"].toString().isEmpty());
+}
+
+void TestOrvCamConfig::settingsFiles()
+{
+    const QStringList start = {"--simulate", "--camera", "SIM-0001"};
+    const QString file = m_folder.filePath("a.pfs");
+    Result result = run(start + QStringList({"--set", "TriggerMode=On", "--save", file, "--set",
+                                             "TriggerMode=Off", "--compare", file}));
+    QCOMPARE(result.out, QString("TriggerMode\tOn\tOff\n"));
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.status, 1);
+    result = run(start + QStringList({"--load", file, "--compare", file, "--get", "TriggerMode",
+                                      "--execute", "UserSetLoad", "--get", "TriggerMode"}));
+    QCOMPARE(result.out, QString("TriggerMode\tOn\nTriggerMode\tOff\n"));
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.status, 0);
+
+    const QStringList other = {"--xml", ORV_SAMPLE, "--load", file};
+    result = run(other);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains("--any-model"), qPrintable(result.err));
+    result = run(other + QStringList("--any-model"));
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains("TriggerMode: "), qPrintable(result.err));
+    result = run(start + QStringList({"--json", "--load", m_folder.filePath("none.pfs")}));
+    QCOMPARE(result.status, 1);
+    QVERIFY(!QJsonDocument::fromJson(result.out.toUtf8()).isNull());
 }
 
 QTEST_GUILESS_MAIN(TestOrvCamConfig)

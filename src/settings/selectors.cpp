@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "selectors.h"
+
+#include "featurevalue.h"
+#include "genparamtree/genicamstring.h"
+#include "genparamtree/selectordetour.h"
+
+#include <algorithm>
+#include <set>
+
+namespace OrvGui {
+
+namespace {
+
+/// More positions than cameras have entries in a look-up table.
+const int64_t mostPositions = 65536;
+
+void collect(GenApi::IValue *feature, std::set<GenApi::IValue *> *seen,
+             std::vector<GenApi::IValue *> *selectors)
+{
+    const auto *node = dynamic_cast<GenApi::ISelector *>(feature);
+    GenApi::FeatureList_t selecting;
+    if (node)
+        node->GetSelectingFeatures(selecting);
+    for (size_t i = 0; i < selecting.size(); ++i) {
+        GenApi::IValue *selector = selecting[i];
+        if (!seen->insert(selector).second)
+            continue;
+        collect(selector, seen, selectors);
+        selectors->push_back(selector);
+    }
+}
+
+QStringList positionsOfInteger(GenApi::IInteger *selector)
+{
+    QStringList positions;
+    if (selector->GetIncMode() == GenApi::listIncrement) {
+        const GenApi::int64_autovector_t values = selector->GetListOfValidValues(true);
+        for (size_t i = 0; i < values.size(); ++i)
+            positions << QString::number(static_cast<qlonglong>(values[i]));
+        return positions;
+    }
+    const int64_t min = selector->GetMin();
+    const int64_t max = selector->GetMax();
+    const int64_t step = std::max<int64_t>(selector->GetInc(), 1);
+    if (max < min)
+        return positions;
+    const uint64_t count =
+        (static_cast<uint64_t>(max) - static_cast<uint64_t>(min)) / static_cast<uint64_t>(step);
+    if (count >= static_cast<uint64_t>(mostPositions))
+        throw GenICam::OutOfRangeException(
+            FeatureValue::tr("Its selector has too many values.").toUtf8().constData(), __FILE__,
+            __LINE__);
+    for (uint64_t i = 0; i <= count; ++i)
+        positions << QString::number(static_cast<qlonglong>(min + static_cast<int64_t>(i) * step));
+    return positions;
+}
+
+/// A position may be of no use any more, and still be the one that was found.
+bool isPutBack(GenApi::IValue *selector, const QString &value, bool verify)
+{
+    try {
+        selector->FromString(toUtf8(value), verify);
+        return true;
+    } catch (const GenICam::GenericException &) {
+        return false;
+    }
+}
+
+} // namespace
+
+std::vector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature)
+{
+    std::vector<GenApi::IValue *> selectors;
+    std::set<GenApi::IValue *> seen = {feature};
+    collect(feature, &seen, &selectors);
+    return selectors;
+}
+
+bool isSelector(GenApi::IValue *feature)
+{
+    const auto *node = dynamic_cast<GenApi::ISelector *>(feature);
+    return node && node->IsSelector();
+}
+
+QStringList positionsOf(GenApi::IValue *selector)
+{
+    QStringList positions;
+    if (auto *enumeration = dynamic_cast<GenApi::IEnumeration *>(selector)) {
+        GenApi::StringList_t symbolics;
+        enumeration->GetSymbolics(symbolics);
+        for (size_t i = 0; i < symbolics.size(); ++i)
+            positions << fromUtf8(symbolics[i]);
+    } else if (auto *integer = dynamic_cast<GenApi::IInteger *>(selector)) {
+        positions = positionsOfInteger(integer);
+    } else if (dynamic_cast<GenApi::IBoolean *>(selector)) {
+        positions << QStringLiteral("0") << QStringLiteral("1");
+    } else {
+        positions << FeatureValue::text(selector);
+    }
+    return positions;
+}
+
+GenApi::IValue *settingOf(GenApi::INodeMap &map, const QString &name)
+{
+    auto *feature = dynamic_cast<GenApi::IValue *>(map.GetNode(toUtf8(name)));
+    return feature && FeatureValue::exists(feature) ? feature : nullptr;
+}
+
+SelectorMoves::~SelectorMoves()
+{
+    putBack();
+}
+
+SelectorMoves::Moved &SelectorMoves::remembered(GenApi::IValue *selector)
+{
+    const auto known = std::find_if(m_moved.begin(), m_moved.end(),
+                                    [=](const Moved &one) { return one.selector == selector; });
+    if (known != m_moved.end())
+        return *known;
+    m_moved.push_back({selector, FeatureValue::text(selector), false});
+    return m_moved.back();
+}
+
+void SelectorMoves::move(GenApi::IValue *selector, const QString &value)
+{
+    Moved &moved = remembered(selector);
+    if (FeatureValue::areSame(selector, FeatureValue::text(selector), value))
+        return;
+    const SelectorDetour detour;
+    moved.isAway = true; // also after a write that was not answered
+    FeatureValue::write(selector, value);
+}
+
+QString SelectorMoves::select(const Setting::Selection &selection)
+{
+    // In the order in which they are put back.
+    std::vector<GenApi::IValue *> selectors;
+    for (const auto &position : selection) {
+        selectors.push_back(settingOf(m_map, position.first));
+        if (!selectors.back())
+            return FeatureValue::tr("The camera has no '%1'.").arg(position.first);
+    }
+    for (size_t i = 0; i < selectors.size(); ++i) {
+        const auto &position = selection[int(i)];
+        try {
+            if (i == 0)
+                std::for_each(selectors.begin(), selectors.end(),
+                              [this](GenApi::IValue *selector) { remembered(selector); });
+            move(selectors[i], position.second);
+        } catch (const GenICam::GenericException &exception) {
+            return QStringLiteral("%1 = %2: %3")
+                .arg(position.first, position.second,
+                     FeatureValue::reason(selectors[i], exception));
+        }
+    }
+    return QString();
+}
+
+QString SelectorMoves::original(GenApi::IValue *selector) const
+{
+    for (const Moved &moved : m_moved) {
+        if (moved.selector == selector)
+            return moved.original;
+    }
+    return QString();
+}
+
+void SelectorMoves::keep(GenApi::IValue *selector)
+{
+    m_moved.erase(std::remove_if(m_moved.begin(), m_moved.end(),
+                                 [=](const Moved &one) { return one.selector == selector; }),
+                  m_moved.end());
+}
+
+QStringList SelectorMoves::putBack()
+{
+    QStringList away;
+    for (Moved &moved : m_moved) {
+        if (!moved.isAway)
+            continue;
+        // A write that was not answered may have arrived, and the answer got lost.
+        if (!isPutBack(moved.selector, moved.original, true) &&
+            !isPutBack(moved.selector, moved.original, false))
+            away << fromUtf8(moved.selector->GetNode()->GetName());
+    }
+    m_moved.clear();
+    return away;
+}
+
+} // namespace OrvGui

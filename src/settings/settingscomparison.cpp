@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "settingscomparison.h"
+
+#include "featurevalue.h"
+#include "selectors.h"
+
+#include <QHash>
+#include <QSet>
+
+namespace OrvGui {
+
+namespace {
+
+/// By label; of several lines for the same the last counts.
+QHash<QString, const Setting *> byLabel(const Settings &settings)
+{
+    QHash<QString, const Setting *> found;
+    for (const Setting &setting : settings)
+        found[setting.label()] = &setting;
+    return found;
+}
+
+} // namespace
+
+SettingDifferences differencesOf(const Settings &left, const Settings &right, GenApi::INodeMap *map)
+{
+    const auto ofLeft = byLabel(left);
+    const auto ofRight = byLabel(right);
+    SettingDifferences differences;
+    QSet<QString> seen;
+    for (const Settings *settings : {&left, &right}) {
+        for (const Setting &setting : *settings) {
+            const QString label = setting.label();
+            if (seen.contains(label))
+                continue;
+            seen.insert(label);
+            const Setting *const l = ofLeft.value(label);
+            const Setting *const r = ofRight.value(label);
+            const QString leftValue = l ? l->value : QString();
+            const QString rightValue = r ? r->value : QString();
+            GenApi::IValue *feature = map ? settingOf(*map, setting.name) : nullptr;
+            if (leftValue.isNull() != rightValue.isNull() ||
+                !FeatureValue::areSame(feature, leftValue, rightValue))
+                differences.append({label, leftValue, rightValue});
+        }
+    }
+    return differences;
+}
+
+} // namespace OrvGui

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "setting.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace OrvGui {
+
+/// The text format of GenApi's feature persistence: two lines that name it, comments, and a line
+/// with a name, a tab and a value for each feature. A line with the value of a selector stands
+/// before the lines that it selects.
+class SettingsFile
+{
+    Q_DECLARE_TR_FUNCTIONS(OrvGui::SettingsFile)
+
+public:
+    /// In bytes. Cameras have some hundred features, and look-up tables of some 100 kB.
+    static constexpr qint64 largestSize = 32 * 1024 * 1024;
+
+    QString device; ///< "Vendor::Model" of the camera that the settings are of; may be empty
+    QStringList comments;
+    Settings lines;
+
+    /// Reads UTF-8, with or without a byte order mark; lines end with \n or \r\n. What is wrong is
+    /// told with the number of the line; the result is empty then.
+    static SettingsFile fromBytes(const QByteArray &bytes, QString *error);
+    static SettingsFile read(const QString &fileName, QString *error);
+
+    /// False for a text that would not come back from a file as it is.
+    static bool isStorable(const QString &value);
+
+    QByteArray toBytes() const;
+
+    /// Replaces the file as a whole, or not at all.
+    bool write(const QString &fileName, QString *error) const;
+
+private:
+    QString addLine(const QByteArray &bytes, int number);
+    void addComment(const QString &text);
+};
+
+} // namespace OrvGui

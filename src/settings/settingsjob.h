@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "setting.h"
+
+#include <QDialog>
+#include <QPointer>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+class QProgressBar;
+
+namespace OrvGui {
+
+/// Does something with a camera on a thread of its own, so that windows stay alive. When it takes
+/// longer, a dialog shows how far it is and lets the user cancel; no other window of the program
+/// can be used, since selectors may be away.
+///
+/// Destroying the object cancels, and waits until the work has ended: at most for one answer of the
+/// camera and for putting selectors back.
+class SettingsJob : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Work = std::function<void(const SettingsProgress &)>;
+
+    /// Starts at once. The dialog says `text` in front of the window.
+    SettingsJob(const QString &text, Work work, QWidget *window);
+    ~SettingsJob() override;
+
+    void cancel() { m_isCancelled = true; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The work is done, or was cancelled, and its dialog is closed.
+    void finished();
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void show();
+
+    const QString m_text;
+    const QPointer<QWidget> m_window;
+    QPointer<QDialog> m_dialog;
+    std::atomic<bool> m_isCancelled{false};
+    std::atomic<int> m_done{0};
+    std::atomic<int> m_total{0};
+    std::thread m_thread;
+};
+
+} // namespace OrvGui

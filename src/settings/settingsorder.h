@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "setting.h"
+
+#include <GenApi/GenApi.h>
+
+namespace OrvGui {
+
+// What the lines of a settings file mean: of each value, what was selected before it.
+
+/// The settings in the order of the lines. Lines of selectors go into the selections of others;
+/// one is left, the last, of a selector that is a setting itself. What the camera lacks stays.
+Settings resolvedSettings(const Settings &lines, GenApi::INodeMap &map);
+
+/// The same without a camera. Which lines are those of selectors is told by their names, and by
+/// what is there several times.
+Settings resolvedSettings(const Settings &lines);
+
+} // namespace OrvGui
