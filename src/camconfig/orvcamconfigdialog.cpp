@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "orvcamconfigdialog_p.h"
 
+#include "journal/undoactions.h"
+
 #include <OrvCam/Device.h>
 
 #include <QPointer>
@@ -49,6 +51,8 @@ void OrvCamConfigDialogPrivate::target()
 {
     if (!m_isFormBuilt) {
         buildForm();
+        m_undoActions = new UndoActions(q);
+        q->setContextMenuPolicy(Qt::ActionsContextMenu);
         m_isFormBuilt = true;
     }
     ++m_tenures;
@@ -59,6 +63,7 @@ void OrvCamConfigDialogPrivate::target()
 
     array = device ? paramsOf(device) : nullptr;
     mapper.setArray(array);
+    m_undoActions->setJournal(mapper.journal());
     q->setEnabled(array);
     if (!array)
         return;
@@ -117,7 +122,8 @@ void OrvCamConfigDialog::reject()
 void OrvCamConfigDialog::showEvent(QShowEvent *event)
 {
     d->prepareToShow();
-    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes it.
+    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes
+    // it.
     if (!focusWidget())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);
