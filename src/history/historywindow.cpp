@@ -58,7 +58,7 @@ HistoryWindow::HistoryWindow(const QString &name, const QString &unit, int decim
     m_marked->setObjectName(QStringLiteral("marked"));
 
     auto *copying = new QAction(tr("Copy as CSV"), this);
-    copying->setShortcut(QKeySequence::Copy);
+    copying->setShortcuts(QKeySequence::Copy);
     connect(copying, &QAction::triggered, this, [this] { copy(); });
     addAction(copying);
     setContextMenuPolicy(Qt::ActionsContextMenu);
