@@ -65,6 +65,7 @@ HistoryCaption::HistoryCaption(QWidget *parent) : QLabel(parent)
 {
     static const Factory factory;
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover); // which repaints it
     setCursor(Qt::PointingHandCursor);
     setAccessibleDescription(tr("Click for the last ten minutes"));
 }
@@ -91,9 +92,15 @@ bool HistoryCaption::event(QEvent *event)
 void HistoryCaption::paintEvent(QPaintEvent *event)
 {
     QLabel::paintEvent(event);
+    QStylePainter painter(this);
+    if (underMouse() && isEnabled()) {
+        const QRect area =
+            style()->itemTextRect(fontMetrics(), contentsRect(), int(alignment()), true, text());
+        painter.setPen(palette().color(foregroundRole()));
+        painter.drawLine(area.bottomLeft(), area.bottomRight());
+    }
     if (!hasFocus())
         return;
-    QStylePainter painter(this);
     QStyleOptionFocusRect option;
     option.initFrom(this);
     option.backgroundColor = palette().color(QPalette::Window);

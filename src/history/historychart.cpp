@@ -24,7 +24,7 @@ namespace {
 
 const qint64 minute = 60 * 1000; // ms
 const int margin = 6;
-const double mostLines = 6;
+const double mostLines = 6; // of the grid, across
 
 /// The next one of 1, 2, 5, 10, …
 double roundStep(double step)
@@ -66,9 +66,9 @@ void HistoryChart::setEnd(qint64 time)
     update();
 }
 
-QString HistoryChart::text(double value) const
+QString HistoryChart::text(double value, int moreDecimals) const
 {
-    const QString number = NumberText::of(value, m_decimals, locale());
+    const QString number = NumberText::of(value, m_decimals + moreDecimals, locale());
     return m_unit.isEmpty() ? number : number + QLatin1Char(' ') + m_unit;
 }
 
@@ -101,7 +101,8 @@ HistoryChart::Axis HistoryChart::axis() const
     const double middle = (low + high) / 2;
     const double extent = std::max({high - low, std::abs(middle) * 0.02, 4 * smallest});
     Axis axis;
-    axis.step = std::max(roundStep(extent / mostLines), smallest);
+    const double lines = qBound(2.0, height() / (2.5 * fontMetrics().height()) - 1, mostLines);
+    axis.step = std::max(roundStep(extent / lines), smallest);
     axis.low = std::floor((middle - extent * 0.55) / axis.step) * axis.step;
     axis.high = std::ceil((middle + extent * 0.55) / axis.step) * axis.step;
     if (low >= 0 && axis.low < 0)
@@ -120,8 +121,8 @@ QRect HistoryChart::plot(const Axis &axis) const
         widest = qMax(widest, metrics.size(Qt::TextSingleLine, label).width());
     }
     const int half = metrics.size(Qt::TextSingleLine, clock(m_end, false)).width() / 2;
-    return rect().adjusted(widest + 2 * margin, metrics.height() + 2 * margin, -half - margin,
-                           -metrics.height() - 2 * margin);
+    return rect().adjusted(widest + 2 * margin, metrics.height() * 3 / 2 + 2 * margin,
+                           -half - margin, -metrics.height() - 2 * margin);
 }
 
 qreal HistoryChart::xOf(qint64 time, const QRect &plot) const
@@ -322,7 +323,7 @@ void HistoryChart::drawSeries(QPainter &painter, int series, const QRect &plot,
         // A single sample has no line to be seen by.
         const bool endsHere = isLast || ring.isAfterGap(i + 1) || std::isnan(ring.at(i + 1).value);
         if (ring.isAfterGap(i) && endsHere)
-            painter.fillRect(QRectF(point - QPointF(1.5, 1.5), QSizeF(3, 3)), pen.color());
+            painter.fillRect(QRectF(point - QPointF(2, 2), QSizeF(4, 4)), pen.color());
     }
     painter.setPen(pen);
     painter.drawPath(path);

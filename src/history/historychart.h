@@ -33,7 +33,7 @@ public:
     void setEnd(qint64 time);
 
     /// The number with its unit.
-    QString text(double value) const;
+    QString text(double value, int moreDecimals = 0) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

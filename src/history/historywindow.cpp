@@ -29,6 +29,12 @@ QString field(QString text)
                          QLatin1Char('"');
 }
 
+/// Of the height of a line.
+QString noText()
+{
+    return QString(QChar::Nbsp);
+}
+
 QString timeOf(qint64 time)
 {
     const QDateTime local = QDateTime::fromMSecsSinceEpoch(time);
@@ -45,7 +51,7 @@ HistoryWindow::HistoryWindow(const QString &name, const QString &unit, int decim
     , m_decimals(decimals)
     , m_chart(new HistoryChart(this))
     , m_summary(new QLabel(this))
-    , m_marked(new QLabel(this))
+    , m_marked(new QLabel(noText(), this))
 {
     setWindowTitle(tr("%1, last ten minutes").arg(name));
     m_chart->setUnit(unit, decimals);
@@ -76,7 +82,7 @@ HistoryWindow::HistoryWindow(const QString &name, const QString &unit, int decim
     layout->addWidget(buttons);
 
     connect(m_chart, &HistoryChart::marked, this, [this](const QString &text) {
-        m_marked->setText(text);
+        m_marked->setText(text.isEmpty() ? noText() : text);
         m_chart->setAccessibleDescription(text);
         QAccessibleEvent event(m_chart, QAccessible::DescriptionChanged);
         QAccessible::updateAccessibility(&event);
@@ -116,7 +122,7 @@ QString HistoryWindow::summaryOf(const HistoryChart::Series &series) const
         return tr("%1: no values").arg(name);
     return tr("%1: min %2, max %3, mean %4")
         .arg(name, m_chart->text(summary.min), m_chart->text(summary.max),
-             m_chart->text(summary.mean));
+             m_chart->text(summary.mean, m_decimals == 0 ? 1 : 0));
 }
 
 QString HistoryWindow::csv() const

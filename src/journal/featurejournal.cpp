@@ -156,7 +156,7 @@ QString nameOf(const QString &feature, const QVector<FeatureJournal::Setting> &s
 class FeatureJournal::Life : public CNodeCallback
 {
 public:
-    Life(INode *node, std::shared_ptr<bool> isAlive)
+    Life(INode *node, std::shared_ptr<std::atomic<bool>> isAlive)
         : CNodeCallback(node, cbPostOutsideLock), m_isAlive(std::move(isAlive))
     {
     }
@@ -168,7 +168,7 @@ public:
     }
 
 private:
-    const std::shared_ptr<bool> m_isAlive;
+    const std::shared_ptr<std::atomic<bool>> m_isAlive;
 };
 
 /// Moves selectors away and back.
@@ -256,7 +256,7 @@ FeatureJournal::Pointer FeatureJournal::of(INodeMap *nodeMap)
 }
 
 FeatureJournal::FeatureJournal(INodeMap *nodeMap)
-    : m_nodeMap(nodeMap), m_isAlive(std::make_shared<bool>(true))
+    : m_nodeMap(nodeMap), m_isAlive(std::make_shared<std::atomic<bool>>(true))
 {
     InputGesture::current(); // which sees the gestures from now on
     NodeList_t nodes;
@@ -439,7 +439,7 @@ QString FeatureJournal::text(const QVector<Step> &steps, const QString &plain,
         text += QStringLiteral(" %1 \u2192 %2")
                     .arg(textOf(changes.first().before.value), textOf(changes.last().after));
     else
-        text = tr("%1 and %n more", nullptr, int(names.size()) - 1).arg(text);
+        text = tr("%1 and %2 more").arg(text, QString::number(names.size() - 1));
     return full.arg(text);
 }
 

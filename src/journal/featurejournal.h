@@ -9,6 +9,7 @@
 #include <QVariant>
 #include <QVector>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -128,7 +129,7 @@ private:
     void applyAll(const QVector<Change> &changes, bool isBack, int &done);
 
     GenApi::INodeMap *const m_nodeMap;
-    const std::shared_ptr<bool> m_isAlive;
+    const std::shared_ptr<std::atomic<bool>> m_isAlive;
     GenApi::CallbackHandleType m_life = 0;
     QVector<Step> m_done;   ///< the last one last
     QVector<Step> m_undone; ///< the same

@@ -492,6 +492,15 @@ void TestFeatureJournal::window()
     undo->trigger();
     QCOMPARE(camera.get("RedCoefficient"), first);
 
+    const auto readsOfATurn = [&] {
+        settle();
+        const auto reads = camera.map->transactions().reads;
+        QMetaObject::invokeMethod(part<QTimer>(window, "refreshTimer"), "timeout");
+        settle();
+        return camera.map->transactions().reads - reads;
+    };
+    readsOfATurn(); // of both frames
+    const auto readsWithout = readsOfATurn();
     struct Caption
     {
         const char *label;
@@ -523,6 +532,7 @@ void TestFeatureJournal::window()
         QVERIFY2(!value.isEmpty() && csv.contains(',' + value), qPrintable(csv));
         QCOMPARE(camera.map->transactions().reads, reads);
     }
+    QCOMPARE(readsOfATurn(), readsWithout);
     window.close();
     for (const HistoryWindow *history : window.findChildren<HistoryWindow *>())
         QVERIFY(!history->isVisible());
