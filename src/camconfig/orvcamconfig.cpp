@@ -10,6 +10,9 @@
 #include "featuretooltip.h"
 #include "formfit.h"
 #include "framenumbers.h"
+#include "history/camerahistory.h"
+#include "history/historycaption.h"
+#include "journal/undoactions.h"
 #include "numbertext.h"
 #include "orvcamconfigcolordialog.h"
 #include "orvcamconfigframeabdialog.h"
@@ -92,6 +95,8 @@ private:
 
     void build();
     void buildStatusBar();
+    void buildUndo();
+    void buildHistory();
     void connectMenus();
     template<class Dialog>
     void addDialog(Dialog *dialog, QPushButton *button, QAction *action);
@@ -129,6 +134,7 @@ private:
     Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
     void showFrame(Frame frame, const FrameNumbers &numbers);
+    void keep(CameraHistory::Frame frame, const FrameNumbers &numbers);
     bool updateBoth();
     bool readBoth();
     bool select(const char *frame);
@@ -148,6 +154,8 @@ private:
     DeviceWatch watch;                            ///< keeps the device that is unplugged, too
     Ui_OrvCamConfigMainWindow ui;
     std::unique_ptr<CameraInformation> information;
+    UndoActions *undoActions = nullptr;
+    CameraHistory history;
     QVector<OrvCamConfigDialog *> dialogs; ///< children of the window
     QLabel *statusText = nullptr;
     QLabel *statusIcon = nullptr;
@@ -169,7 +177,8 @@ private:
     OrvGenParam::Int *height = nullptr;
 };
 
-OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window), timer(window)
+OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window)
+    : q(window), history(window), timer(window)
 {
     timer.setObjectName(QStringLiteral("refreshTimer"));
 }
@@ -202,6 +211,8 @@ void OrvCamConfigPrivate::build()
     ui.lblTemperature->setText(tr("%1C").arg(QChar(0xB0)));
     information.reset(new CameraInformation(q));
     buildStatusBar();
+    buildUndo();
+    buildHistory();
     connectMenus();
     QObject::connect(&timer, &QTimer::timeout, &receiver, [this] { refresh(); });
 }
@@ -217,6 +228,21 @@ void OrvCamConfigPrivate::buildStatusBar()
     statusIcon->setScaledContents(true); // from the largest size: sharp at any pixel ratio
     ui.statusbar->addWidget(statusText, 1);
     ui.statusbar->addWidget(statusIcon);
+}
+
+void OrvCamConfigPrivate::buildUndo()
+{
+    undoActions = new UndoActions(q);
+    ui.menuMenu->insertActions(ui.actionQuit, {undoActions->undo(), undoActions->redo()});
+    ui.menuMenu->insertSeparator(ui.actionQuit);
+}
+
+void OrvCamConfigPrivate::buildHistory()
+{
+    history.open(ui.lblFps, CameraHistory::FrameRate, ui.lblFpsUnit->text());
+    history.open(ui.lblFtm, CameraHistory::FrameTime, ui.lblFrameTime->text());
+    history.open(ui.lblExp, CameraHistory::Exposure, ui.lblExposure->text());
+    history.open(ui.lblTmp, CameraHistory::Temperature, ui.lblTemperature->text());
 }
 
 void OrvCamConfigPrivate::connectMenus()
@@ -382,6 +408,8 @@ void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created
     delete opening;
     OrvCam::Device *const former = watch.device();
     const bool isOwn = std::exchange(ownDevice, created) == former;
+    if (former != newDevice)
+        history.clear();
     init(newDevice);
     handOver();
     const QPointer<OrvCamConfig> window(q);
@@ -411,6 +439,8 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     reader.setArray(array);
     if (array)
         getNeededParams();
+    int32_t ignored = OrvCam::Success;
+    undoActions->setJournal(FeatureJournal::of(array ? array->GetNodeMap(&ignored) : nullptr));
     q->setEnabled(true);
     timer.start(RefreshPeriod);
     layOut();
@@ -457,6 +487,7 @@ void OrvCamConfigPrivate::forgetParams()
         frameModeParam->UnregisterEventSink(this);
     array = nullptr;
     reader.setArray(nullptr);
+    undoActions->setJournal(nullptr);
     frameSelector = nullptr;
     frameModeParam = nullptr;
     temperature = nullptr;
@@ -469,6 +500,10 @@ void OrvCamConfigPrivate::forgetParams()
 void OrvCamConfigPrivate::layOut()
 {
     ui.lblFrameB->setVisible(isFrameABSupported);
+    if (isFrameABSupported)
+        history.setFrames(ui.lblFrameA->text(), ui.lblFrameB->text());
+    else if (array)
+        history.setFrames(QString(), QString());
     layOutFrameButton();
     const auto limitWidth = [this](QLineEdit *edit) {
         const QSize text =
@@ -663,7 +698,9 @@ void OrvCamConfigPrivate::showTemperature()
     if (!temperature)
         return;
     reader.whenKnown(this, temperature, {temperature}, [this] {
-        ui.lineEditTemperature->setText(FrameNumbers::text(reader, temperature, hasTimedOut));
+        const QString degrees = FrameNumbers::text(reader, temperature, hasTimedOut);
+        ui.lineEditTemperature->setText(degrees);
+        history.add(CameraHistory::Temperature, CameraHistory::FrameA, degrees);
     });
 }
 
@@ -704,6 +741,15 @@ void OrvCamConfigPrivate::showFrame(Frame frame, const FrameNumbers &numbers)
     column.fps->setText(frameRate(numbers.frameTime, q->locale()));
     column.frameTime->setText(numbers.frameTime);
     column.exposure->setText(numbers.exposure);
+    if (array)
+        keep(frame == FrameA ? CameraHistory::FrameA : CameraHistory::FrameB, numbers);
+}
+
+void OrvCamConfigPrivate::keep(CameraHistory::Frame frame, const FrameNumbers &numbers)
+{
+    history.add(CameraHistory::FrameRate, frame, frameRate(numbers.frameTime, QLocale::c()));
+    history.add(CameraHistory::FrameTime, frame, numbers.frameTime);
+    history.add(CameraHistory::Exposure, frame, numbers.exposure);
 }
 
 /// False when the camera stays with the other frame, of which only this window knows then. What the
@@ -802,6 +848,7 @@ void OrvCamConfigPrivate::closeDialogs()
     for (OrvCamConfigDialog *dialog : dialogs)
         dialog->close();
     information->dialog()->close();
+    history.closeWindows();
 }
 
 OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)

@@ -3,6 +3,8 @@
 #include "formfit.h"
 #include "orvcamconfigdialog_p.h"
 
+#include "journal/undoactions.h"
+
 #include <OrvCam/Device.h>
 
 #include <QComboBox>
@@ -67,6 +69,8 @@ void OrvCamConfigDialogPrivate::target()
         // Unlike others, lists measure themselves without asking for what a style sheet adds.
         for (QComboBox *list : q->findChildren<QComboBox *>())
             list->ensurePolished();
+        m_undoActions = new UndoActions(q);
+        q->setContextMenuPolicy(Qt::ActionsContextMenu);
         m_isFormBuilt = true;
     }
     ++m_tenures;
@@ -77,6 +81,7 @@ void OrvCamConfigDialogPrivate::target()
 
     array = device ? paramsOf(device) : nullptr;
     mapper.setArray(array);
+    m_undoActions->setJournal(mapper.journal());
     q->setEnabled(array);
     if (!array)
         return;

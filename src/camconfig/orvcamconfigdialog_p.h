@@ -17,6 +17,8 @@
 
 namespace OrvGui {
 
+class UndoActions;
+
 /// The private part of a feature dialog: builds the form once, and binds it to a device as often as
 /// another one is set.
 ///
@@ -130,6 +132,7 @@ private:
     std::unique_ptr<QObject> m_handlers;     ///< the receiver of the dialog's own handlers
     OrvCam::Device *m_boundDevice = nullptr; ///< that `array` is of
     QVector<Watched> m_watched;
+    UndoActions *m_undoActions = nullptr; ///< of the dialog
     unsigned m_tenures = 0;
     bool m_isFormBuilt = false;
     bool m_isBinding = false;

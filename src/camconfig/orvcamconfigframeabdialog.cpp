@@ -7,6 +7,7 @@
 #include "formfit.h"
 #include "heldinput.h"
 #include "iorvcamconfigintconverter.h"
+#include "journal/featurejournal.h"
 #include "orvcamconfigdialog_p.h"
 #include "qtorvdoubleslider.h"
 #include "qtorvdoublespinboxval.h"
@@ -208,6 +209,7 @@ private:
     void readDigitalGain();
     void showDigitalGain();
     void setDigitalGain(double factor);
+    void setGainPart(Int *param, qint64 former, qint64 value);
     Gain gainOf(double factor) const;
 
     void whenFrameModeIsKnown(const std::function<void()> &call);
@@ -277,7 +279,8 @@ private:
 class OrvCamConfigFrameABDialogPrivate::Writing
 {
 public:
-    explicit Writing(OrvCamConfigFrameABDialogPrivate *part) : m_part(part), m_tenure(part)
+    explicit Writing(OrvCamConfigFrameABDialogPrivate *part)
+        : m_part(part), m_tenure(part), m_step(part->mapper.journal())
     {
         m_part->isWriting = true;
     }
@@ -293,6 +296,7 @@ public:
 private:
     OrvCamConfigFrameABDialogPrivate *const m_part;
     const Tenure m_tenure;
+    const FeatureJournal::Group m_step;
 };
 
 void OrvCamConfigFrameABDialogPrivate::buildForm()
@@ -776,20 +780,26 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
 {
     if (isShowingGain)
         return;
-    gain = gainOf(factor);
+    const Gain former = std::exchange(gain, gainOf(factor));
     const Gain wanted = gain;
     {
         const Writing writing(this);
-        if (coarseGain)
-            coarseGain->SetValue(wanted.coarse);
+        setGainPart(coarseGain, former.coarse, wanted.coarse);
         if (writing.isOver())
             return;
-        if (fineGain)
-            fineGain->SetValue(wanted.fine);
+        setGainPart(fineGain, former.fine, wanted.fine);
         if (writing.isOver())
             return;
     }
     catchUp();
+}
+
+void OrvCamConfigFrameABDialogPrivate::setGainPart(Int *param, qint64 former, qint64 value)
+{
+    if (!param)
+        return;
+    FeatureJournal::write(mapper.journal(), QString::fromUtf8(param->GetName()), former, value,
+                          [=] { return param->SetValue(value) == OrvCam::Success; });
 }
 
 /// The box rounds its ends, which stand for those of the camera.

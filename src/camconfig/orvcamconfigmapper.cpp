@@ -6,6 +6,7 @@
 #include "featuretooltip.h"
 #include "heldinput.h"
 #include "iorvcamconfigintconverter.h"
+#include "journal/featurejournal.h"
 #include "qtorvslider.h"
 #include "qtorvsliderspinbox.h"
 #include "qtorvspinbox.h"
@@ -221,8 +222,10 @@ struct OrvCamConfigMapper::State
     QVector<Showing *> showing;
     QHash<Param *, QByteArray> registered; ///< with their names: they may be gone
     QHash<QTabWidget *, QVector<QPointer<QWidget>>> removedPages; ///< the last one first
+    QHash<const Param *, QVariant> shown;                         ///< their values, for the journal
     WheelGuard wheelGuard;
     FeatureReader reader;
+    FeatureJournal::Pointer journal;
 };
 
 OrvCamConfigMapper::Showing::Showing(OrvCamConfigMapper &mapper, QObject *control)
@@ -268,7 +271,20 @@ QObject *OrvCamConfigMapper::context() const
 
 void OrvCamConfigMapper::setArray(const OrvGenParam::Array *array)
 {
+    int32_t error = OrvCam::Success;
     m_state->reader.setArray(array);
+    m_state->journal = FeatureJournal::of(array ? array->GetNodeMap(&error) : nullptr);
+    m_state->shown.clear();
+}
+
+std::shared_ptr<FeatureJournal> OrvCamConfigMapper::journal() const
+{
+    return m_state->journal;
+}
+
+void OrvCamConfigMapper::note(const Param *param, const QVariant &value) const
+{
+    m_state->shown.insert(param, value);
 }
 
 FeatureReader &OrvCamConfigMapper::reader() const
@@ -413,6 +429,7 @@ void OrvCamConfigMapper::unmapAll()
     for (const QString &name : m_bindings.keys())
         unmapParam(name);
     m_state->registered.clear();
+    m_state->shown.clear();
 }
 
 void OrvCamConfigMapper::leave(const OrvGenParam::Array &array)
@@ -427,23 +444,31 @@ void OrvCamConfigMapper::leave(const OrvGenParam::Array &array)
 }
 
 void OrvCamConfigMapper::write(QObject *control, const QString &format, const Param *param,
-                               const Write &call)
+                               const QVariant &value, const Write &call)
 {
     if (m_state->isShownIn(control))
         return;
     // The write notifies, and whoever listens may destroy the mapper, the widget or the camera.
+    const std::shared_ptr<State> state = m_state;
     const QString name = nameOf(param);
     const QPointer<QObject> widget(control);
-    const qint32 code = call();
-    if (code != OrvCam::Success)
+    qint32 code = OrvCam::Success;
+    const bool isTaken =
+        FeatureJournal::write(state->journal, name, state->shown.value(param), value, [&] {
+            code = call();
+            return code == OrvCam::Success;
+        });
+    if (isTaken)
+        state->shown.insert(param, value);
+    else
         report(widget, format.arg(name, QString::number(code)));
 }
 
 void OrvCamConfigMapper::writeInt(QObject *control, Int *param, int shown,
                                   IOrvCamConfigIntConverter *converter)
 {
-    write(control, intError(), param,
-          [=] { return param->SetValue(converter ? converter->ToDevice(shown, param) : shown); });
+    const qint64 value = converter ? converter->ToDevice(shown, param) : shown;
+    write(control, intError(), param, value, [=] { return param->SetValue(value); });
 }
 
 void OrvCamConfigMapper::mapEnumParam(Enum *param, QComboBox *comboBox)
@@ -462,10 +487,9 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QComboBox *comboBox)
                      context(), [=](int index) {
                          if (index < 0)
                              return;
-                         write(comboBox, enumError(), param, [=] {
-                             return param->SetSymbolicValue(
-                                 comboBox->itemData(index).toString().toUtf8().constData());
-                         });
+                         const QString entry = comboBox->itemData(index).toString();
+                         write(comboBox, enumError(), param, entry,
+                               [=] { return param->SetSymbolicValue(entry.toUtf8().constData()); });
                      });
     finish(param);
 }
@@ -477,6 +501,8 @@ void OrvCamConfigMapper::updateComboBox(Enum *param, QComboBox *comboBox)
     int32_t error = OrvCam::Success;
     const QString current =
         read([&] { return QString::fromUtf8(param->GetSymbolicValue(&error)); });
+    if (error == OrvCam::Success)
+        note(param, current);
     const Showing showing(*this, comboBox);
     if (auto *items = qobject_cast<QStandardItemModel *>(comboBox->model())) {
         for (int i = 0; i < comboBox->count(); ++i) {
@@ -496,7 +522,8 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QCheckBox *checkBox)
         return;
     show(record, param);
     QObject::connect(checkBox, &QCheckBox::clicked, context(), [=](bool checked) {
-        write(checkBox, enumError(), param, [=] { return param->SetIntValue(checked ? 1 : 0); });
+        const qint64 value = checked ? 1 : 0;
+        write(checkBox, enumError(), param, value, [=] { return param->SetIntValue(value); });
     });
     finish(param);
 }
@@ -525,7 +552,7 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QButtonGroup *buttons)
             if (!checked)
                 return;
             const qint64 value = valueOf(buttons, button);
-            write(buttons, enumError(), param, [=] { return param->SetIntValue(value); });
+            write(buttons, enumError(), param, value, [=] { return param->SetIntValue(value); });
         });
     finish(param);
 }
@@ -538,6 +565,7 @@ bool OrvCamConfigMapper::checkCurrentButton(Enum *param, QButtonGroup *buttons)
     QAbstractButton *button = buttonOf(buttons, value);
     if (error != OrvCam::Success || !button)
         return true;
+    note(param, value);
     const Showing showing(*this, buttons);
     const QPointer<QButtonGroup> group(buttons);
     button->setChecked(true);
@@ -575,8 +603,9 @@ void OrvCamConfigMapper::mapEnumParam(Enum *param, QTabWidget *tabs)
     QObject::connect(tabs, &QTabWidget::currentChanged, context(), [=](int index) {
         if (index < 0)
             return;
-        write(tabs, enumError(), param,
-              [=] { return param->SetSymbolicValue(tabs->tabText(index).toUtf8().constData()); });
+        const QString entry = tabs->tabText(index);
+        write(tabs, enumError(), param, entry,
+              [=] { return param->SetSymbolicValue(entry.toUtf8().constData()); });
     });
     finish(param);
 }
@@ -623,7 +652,7 @@ void OrvCamConfigMapper::mapCommandParam(Command *param, QPushButton *button, QT
         const QString error = tr("Error while executing the %1 command!\r\nError Code: %2");
         const QPointer<QTimer> guardedTimer(timer);
         const QPointer<QPushButton> guardedButton(button);
-        write(button, error, param, [=] {
+        write(button, error, param, QVariant(), [=] {
             const qint32 code = param->Execute(); // may notify, and whoever listens do anything
             if (guardedTimer && guardedButton) {
                 guardedButton->setEnabled(false);
@@ -643,7 +672,7 @@ void OrvCamConfigMapper::mapBooleanParam(Boolean *param, QAbstractButton *button
     show(record, param);
     QObject::connect(button, &QAbstractButton::clicked, context(), [=](bool checked) {
         const QString error = tr("Error while setting the %1 boolean value!\r\nError Code: %2");
-        write(button, error, param, [=] { return param->SetValue(checked); });
+        write(button, error, param, checked, [=] { return param->SetValue(checked); });
     });
     finish(param);
 }
@@ -682,6 +711,8 @@ void OrvCamConfigMapper::showText(Int *param, QLineEdit *lineEdit)
         FeatureToolTip::set(lineEdit, FeatureToolTip::text(param, {bottom, top, step}, true));
     }
     const qint64 value = ask(&Int::GetValue);
+    if (error == OrvCam::Success)
+        note(param, value);
     const bool isTyping = lineEdit->hasFocus() && lineEdit->isModified();
     if (error == OrvCam::Success && !isTyping)
         lineEdit->setText(QString::number(qMin(value, m_valueCap)));
@@ -801,15 +832,18 @@ bool OrvCamConfigMapper::showNumber(Int *param, Widget *widget,
     int32_t incError = OrvCam::Success;
     int32_t valueError = OrvCam::Success;
     const auto ask = [=](int64_t (Int::*get)(int32_t *) const, int32_t &error) {
-        return shown(read([=, &error] { return (param->*get)(&error); }));
+        return read([=, &error] { return (param->*get)(&error); });
     };
-    const int min = ValueGrid::toInt(qint64(ask(&Int::GetMin, limitsError)));
-    const int max = capped(ask(&Int::GetMax, maxError));
-    const int step = ValueGrid::toInt(qint64(ask(&Int::GetInc, incError)));
+    const int min = ValueGrid::toInt(qint64(shown(ask(&Int::GetMin, limitsError))));
+    const int max = capped(shown(ask(&Int::GetMax, maxError)));
+    const int step = ValueGrid::toInt(qint64(shown(ask(&Int::GetInc, incError))));
     const bool isKept = what == LimitsAroundValue;
-    const int value = isKept ? widget->value() : capped(ask(&Int::GetValue, valueError));
+    const qint64 held = isKept ? 0 : ask(&Int::GetValue, valueError);
+    const int value = isKept ? widget->value() : capped(shown(held));
     if (isKept && (value < min || value > max))
         return true;
+    if (!isKept && valueError == OrvCam::Success)
+        note(param, held);
 
     const Showing showing(*this, widget);
     if (limitsError == OrvCam::Success && maxError == OrvCam::Success) {
@@ -862,9 +896,11 @@ void OrvCamConfigMapper::show(const OrvCamConfigMapData &record, Param *param)
     case MapEnumCheckBox:
         return with<Enum, QCheckBox>(param, control, [this](auto *p, auto *widget) {
             int32_t error = OrvCam::Success;
-            const bool on = this->read([&] { return p->GetIntValue(&error) != 0; });
-            if (error == OrvCam::Success)
-                widget->setChecked(on);
+            const qint64 value = this->read([&] { return p->GetIntValue(&error); });
+            if (error != OrvCam::Success)
+                return;
+            this->note(p, value);
+            widget->setChecked(value != 0);
         });
     case MapEnumButtons:
         return with<Enum, QButtonGroup>(param, groupOf(record), [=](auto *p, auto *buttons) {
@@ -877,8 +913,10 @@ void OrvCamConfigMapper::show(const OrvCamConfigMapData &record, Param *param)
         return with<Boolean, QAbstractButton>(param, control, [this](auto *p, auto *widget) {
             int32_t error = OrvCam::Success;
             const bool on = this->read([&] { return p->GetValue(&error); });
-            if (error == OrvCam::Success)
-                widget->setChecked(on);
+            if (error != OrvCam::Success)
+                return;
+            this->note(p, on);
+            widget->setChecked(on);
         });
     case MapIntLineEdit:
         return with<Int, QLineEdit>(param, control,

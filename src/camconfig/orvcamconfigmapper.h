@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QPointer>
 #include <QString>
+#include <QVariant>
 #include <QVector>
 
 #include <functional>
@@ -39,6 +40,7 @@ class Int;
 
 namespace OrvGui {
 
+class FeatureJournal;
 class FeatureReader;
 class IOrvCamConfigIntConverter;
 
@@ -58,7 +60,8 @@ class IOrvCamConfigIntConverter;
 ///
 /// A write that the camera refuses is reported in a message box, one for each refused write, and
 /// ends what the user was holding down at that moment; the widget keeps the user's value until the
-/// camera's next notification. A drag of a slider is one write, at its end. Showing a value of the
+/// camera's next notification. What the camera takes is recorded in the journal of its node map. A
+/// drag of a slider is one write, at its end. Showing a value of the
 /// camera never writes one back, yet the widget's signals tell of it as of any change.
 ///
 /// A bound widget and its labels, those of which it is the buddy, get a tool tip with what the
@@ -84,6 +87,9 @@ public:
 
     /// What reads the parameters of that array.
     FeatureReader &reader() const;
+
+    /// Where what the user writes to those parameters is recorded; null without an array.
+    std::shared_ptr<FeatureJournal> journal() const;
 
     /// Shows the parameter in the widgets that are bound to it, and enables or disables them; once
     /// its value is known, where that has to be read first.
@@ -187,7 +193,8 @@ private:
     void onDragged(Slider *slider, const std::function<int()> &value,
                    const std::function<void()> &changed, const std::function<bool(What)> &show);
     void write(QObject *control, const QString &format, const OrvGenParam::Param *param,
-               const Write &call);
+               const QVariant &value, const Write &call);
+    void note(const OrvGenParam::Param *param, const QVariant &value) const;
     void writeInt(QObject *control, OrvGenParam::Int *param, int shown,
                   IOrvCamConfigIntConverter *converter);
     QObject *context() const;

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTimer>
 #include <QTreeView>
@@ -115,6 +116,7 @@ private slots:
     void changesOfMind();
     void connects();
     void fewCommands();
+    void undoIsAWrite();
     void neverWaits();
     void silence();
 
@@ -358,6 +360,34 @@ void TestOpening::fewCommands()
     const unsigned boundAgain = m_camera->takeCounters().transfers();
     qInfo("%u commands for all windows, %u once more", bound, boundAgain);
     QVERIFY(bound <= 12 && boundAgain <= 12);
+    window.SetDevice(nullptr);
+}
+
+/// Undoing takes the write, and no more for being undone.
+void TestOpening::undoIsAWrite()
+{
+    const DevicePtr device(open().device);
+    QVERIFY(device);
+    OrvCamConfig window(device.get());
+    auto *box = window.findChild<QWidget *>("spBoxRed")->findChild<QSpinBox *>();
+    const int first = box->value();
+    const auto costOf = [&](const std::function<void()> &change) {
+        QTest::qWait(50); // what is under way
+        m_camera->takeCounters();
+        change();
+        const TestCameraCounters now = m_camera->takeCounters();
+        return qMakePair(now.writeRegister + now.writeMemory, now.transfers());
+    };
+    auto *undo = window.findChild<QAction *>("actionUndo");
+    QVERIFY(!undo->isEnabled());
+    const auto written = costOf([=] { box->setValue(first + 1); });
+    QVERIFY(undo->isEnabled());
+    const auto undone = costOf([=] { undo->trigger(); });
+    qInfo("%u commands for a write, %u for undoing it", written.second, undone.second);
+    QCOMPARE(written.first, 1u);
+    QCOMPARE(undone, written);
+    QTRY_COMPARE(box->value(), first);
+    QVERIFY(!undo->isEnabled());
     window.SetDevice(nullptr);
 }
 

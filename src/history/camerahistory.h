@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "samplering.h"
+
+#include <QPointer>
+#include <QString>
+
+class QWidget;
+
+namespace OrvGui {
+
+class HistoryCaption;
+class HistoryWindow;
+
+/// The history of the numbers that a window shows of its camera, and the windows that show it.
+///
+/// Give it each number when it has been read; it reads nothing itself.
+class CameraHistory
+{
+public:
+    enum Quantity { FrameRate, FrameTime, Exposure, Temperature, QuantityCount };
+    enum Frame { FrameA, FrameB, FrameCount };
+
+    /// The windows belong to `parent`.
+    explicit CameraHistory(QWidget *parent);
+
+    /// A click on the caption opens the history. `unit` is what stands beside the number.
+    void open(HistoryCaption *caption, Quantity quantity, const QString &unit);
+
+    /// The names of two frames; null ones for a camera without frames.
+    void setFrames(const QString &a, const QString &b);
+
+    /// What the window shows now; no number where the text is empty.
+    void add(Quantity quantity, Frame frame, const QString &number);
+    void clear();
+    void closeWindows();
+
+private:
+    void show(Quantity quantity, const QString &name, const QString &unit);
+    void setSeries(Quantity quantity);
+
+    QWidget *const m_parent;
+    QString m_frames[FrameCount];
+    SampleRing m_rings[QuantityCount][FrameCount];
+    QPointer<HistoryWindow> m_windows[QuantityCount];
+};
+
+} // namespace OrvGui

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "inputgesture.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTimer>
+
+namespace OrvGui {
+
+namespace {
+
+/// Between two notches of a wheel that is turned in one go.
+const int wheelPause = 500; // ms
+
+const QKeyEvent *keyEvent(const QEvent *event)
+{
+    return static_cast<const QKeyEvent *>(event);
+}
+
+ulong timeOf(const QEvent *event)
+{
+    return static_cast<ulong>(static_cast<const QInputEvent *>(event)->timestamp());
+}
+
+} // namespace
+
+InputGesture::InputGesture(QObject *parent) : QObject(parent)
+{
+    parent->installEventFilter(this);
+}
+
+quint64 InputGesture::current()
+{
+    static QPointer<InputGesture> only;
+    if (!QCoreApplication::instance())
+        return 0;
+    if (!only)
+        only = new InputGesture(QCoreApplication::instance());
+    const bool isOver =
+        only->m_input == None || (only->m_input == Wheel && only->m_wheel.elapsed() > wheelPause);
+    return isOver ? 0 : only->m_number;
+}
+
+bool InputGesture::eventFilter(QObject *receiver, QEvent *event)
+{
+    if (!receiver->isWidgetType())
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        begin(Mouse, 0, timeOf(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        end(Mouse);
+        break;
+    case QEvent::KeyPress:
+        if (!keyEvent(event)->isAutoRepeat())
+            begin(Key, keyEvent(event)->key(), timeOf(event));
+        break;
+    case QEvent::KeyRelease:
+        if (!keyEvent(event)->isAutoRepeat())
+            end(Key, keyEvent(event)->key());
+        break;
+    case QEvent::Wheel:
+        if (m_input != Wheel || m_wheel.elapsed() > wheelPause)
+            begin(Wheel, 0, timeOf(event));
+        m_wheel.start();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void InputGesture::begin(Input input, int code, ulong time)
+{
+    // An event comes here again from each widget that it goes on to.
+    if (m_input == input && m_code == code && m_time == time && !m_isEnding && input != Wheel)
+        return;
+    ++m_number;
+    m_input = input;
+    m_code = code;
+    m_time = time;
+    m_isEnding = false;
+}
+
+// What a release leads to belongs to the gesture.
+void InputGesture::end(Input input, int code)
+{
+    if (m_input != input || m_code != code)
+        return;
+    m_isEnding = true;
+    const quint64 number = m_number;
+    QTimer::singleShot(0, this, [=] {
+        if (m_number == number)
+            m_input = None;
+    });
+}
+
+} // namespace OrvGui

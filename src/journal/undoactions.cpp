@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "undoactions.h"
+
+#include "base/cameratext.h"
+
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QDoubleSpinBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSpinBox>
+#include <QWidget>
+
+namespace OrvGui {
+
+namespace {
+
+/// A key of the platform and the one that is written down.
+QList<QKeySequence> keysOf(QKeySequence::StandardKey key, const char *always)
+{
+    QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+    const auto written = QKeySequence::fromString(QLatin1String(always));
+    keys.removeAll(written);
+    keys.prepend(written);
+    return keys;
+}
+
+/// Whether the user has typed what does not count yet.
+bool isPending(const QObject *editor)
+{
+    if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
+        return real->cleanText() != real->textFromValue(real->value());
+    if (const auto *number = qobject_cast<const QSpinBox *>(editor)) {
+        bool isNumber = false;
+        const int typed = number->locale().toInt(number->cleanText(), &isNumber);
+        return !isNumber || typed != number->value();
+    }
+    const auto *text = qobject_cast<const QLineEdit *>(editor);
+    return text && text->isModified() && (text->isUndoAvailable() || text->isRedoAvailable());
+}
+
+/// As an entry of a menu, in which an ampersand marks a key.
+QString asEntry(const QString &text)
+{
+    return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+UndoActions::UndoActions(QWidget *window)
+    : QObject(window)
+    , m_window(window)
+    , m_undo(add(QStringLiteral("actionUndo"), keysOf(QKeySequence::Undo, "Ctrl+Z"),
+                 &FeatureJournal::undo))
+    , m_redo(add(QStringLiteral("actionRedo"), keysOf(QKeySequence::Redo, "Ctrl+Shift+Z"),
+                 &FeatureJournal::redo))
+{
+    for (QAbstractSpinBox *spinBox : window->findChildren<QAbstractSpinBox *>())
+        spinBox->installEventFilter(this);
+    for (QLineEdit *lineEdit : window->findChildren<QLineEdit *>()) {
+        if (!qobject_cast<QAbstractSpinBox *>(lineEdit->parent()))
+            lineEdit->installEventFilter(this);
+    }
+    show();
+}
+
+QAction *UndoActions::add(const QString &name, const QList<QKeySequence> &keys, Replay replay)
+{
+    auto *action = new QAction(m_window);
+    action->setObjectName(name);
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, [=] { run(replay); });
+    m_window->addAction(action);
+    return action;
+}
+
+void UndoActions::setJournal(const FeatureJournal::Pointer &journal)
+{
+    if (m_journal)
+        disconnect(m_journal.get(), nullptr, this, nullptr);
+    m_journal = journal;
+    if (m_journal)
+        connect(m_journal.get(), &FeatureJournal::changed, this, [this] { show(); });
+    show();
+}
+
+void UndoActions::show()
+{
+    m_undo->setText(m_journal ? asEntry(m_journal->undoText()) : tr("Undo"));
+    m_redo->setText(m_journal ? asEntry(m_journal->redoText()) : tr("Redo"));
+    m_undo->setEnabled(m_journal && m_journal->canUndo());
+    m_redo->setEnabled(m_journal && m_journal->canRedo());
+}
+
+void UndoActions::run(Replay replay)
+{
+    const FeatureJournal::Pointer kept = m_journal; // what is notified may set another one
+    if (!kept)
+        return;
+    const QString step =
+        replay == static_cast<Replay>(&FeatureJournal::undo) ? kept->undoText() : kept->redoText();
+    const QPointer<QWidget> window(m_window);
+    QString reason;
+    if ((kept.get()->*replay)(&reason) || !window)
+        return;
+    auto *box = new QMessageBox(QMessageBox::Warning, QString(),
+                                tr("The camera refuses this step: %1").arg(step) +
+                                    QStringLiteral("\n\n") + reason,
+                                QMessageBox::Ok, window);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+// Line edits claim these keys even if there is nothing that they could undo.
+bool UndoActions::eventFilter(QObject *editor, QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    const bool isOurs = key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+    if (!isOurs || !m_journal || isPending(editor))
+        return false;
+    event->ignore();
+    return true;
+}
+
+} // namespace OrvGui
