@@ -66,6 +66,10 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orient
     inner->addWidget(button, 0);
     row->addLayout(inner, 1);
 
+    // Before the slider becomes a window: Qt 6 puts a widget that gets a focus proxy in front of its
+    // first child in the tab order, which must not be that of another window.
+    q->setFocusProxy(spinBox);
+
     // Window managers don't give the focus to a tool tip; it has to be taken past them.
     slider->setWindowFlags(Qt::ToolTip | Qt::BypassWindowManagerHint);
     slider->setAttribute(Qt::WA_WindowPropagation);
@@ -178,7 +182,6 @@ QtOrvSpinBox::QtOrvSpinBox(Qt::Orientation sliderOrientation, QWidget *parent)
     : QWidget(parent), d(new QtOrvSpinBoxPrivate(this, sliderOrientation))
 {
     ValueAccessibility::install();
-    setFocusProxy(d->spinBox);
 }
 
 QtOrvSpinBox::~QtOrvSpinBox() = default;
