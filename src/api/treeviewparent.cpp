@@ -107,9 +107,11 @@ void TreeViewParent::wrap(unsigned long nativeId)
         const ContainerInterceptor interceptor(window, m_outerWindow);
         container = QWidget::createWindowContainer(window);
     }
-    // As if the window had left: the container no longer makes it as large as itself.
+    // As if the window had left: the container no longer makes it as large as itself. With Qt 5 the
+    // container expects that news itself, with Qt 6 by way of its hidden window.
     QChildEvent departure(QEvent::ChildRemoved, window);
     QCoreApplication::sendEvent(container, &departure);
+    QCoreApplication::sendEvent(window->parent(), &departure);
 }
 
 } // namespace OrvGui
