@@ -256,6 +256,8 @@ void OrvCameraSelectorDialogPrivate::divide()
     ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
     // Not more on account of a large font: the dialog has to fit on the screen.
     ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / 2));
+    // With a small font its size hint would take rows from the interface pane.
+    ui->deviceInfoTreeView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
                        3 * ui->verticalLayout_2->spacing();
     ui->splitter->setStretchFactor(0, 1);
