@@ -1,17 +1,53 @@
 // SPDX-License-Identifier: MIT
 #include "applicationbootstrap.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QTimer>
 
 namespace OrvGui {
+
+namespace {
+
+const char platformVariable[] = "QT_QPA_PLATFORM";
+
+/// The ids of windows that hosts hand over are those of X, which most Wayland sessions speak, too.
+bool isXPreferable()
+{
+    return !qEnvironmentVariableIsSet(platformVariable) &&
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+           !qEnvironmentVariableIsEmpty("DISPLAY");
+}
+
+/// Qt sends a Wayland compositor what it has for it when its own event loop is about to wait, which
+/// that of a host never lets it do.
+void keepTalkingToCompositor(QApplication *application)
+{
+    const int intervalMs = 20;
+    auto *timer = new QTimer(application);
+    QObject::connect(timer, &QTimer::timeout, application, [] {
+        if (auto *dispatcher = QAbstractEventDispatcher::instance())
+            emit dispatcher->aboutToBlock();
+    });
+    timer->start(intervalMs);
+}
+
+} // namespace
 
 void ensureApplication()
 {
     if (QCoreApplication::instance())
         return;
+    const bool prefersX = isXPreferable();
+    if (prefersX)
+        qputenv(platformVariable, "xcb;wayland");
     static int argumentCount = 0; // the application keeps a reference to it
     static char *arguments[] = {nullptr};
-    new QApplication(argumentCount, arguments);
+    auto *application = new QApplication(argumentCount, arguments);
+    if (prefersX)
+        qunsetenv(platformVariable); // the host's own programs choose for themselves
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        keepTalkingToCompositor(application);
 }
 
 } // namespace OrvGui

@@ -5,7 +5,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QChildEvent>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include <xcb/xcb.h>
@@ -96,8 +96,13 @@ void TreeViewParent::wrap(unsigned long nativeId)
 {
     delete window;
     window = QWindow::fromWinId(static_cast<WId>(nativeId));
-    if (!window)
+    if (!window) {
+        qWarning(
+            "OrvCameraGuiApi: the platform \"%s\" cannot show a window inside or above another "
+            "program's; it is opened as a window of its own. X11 can: QT_QPA_PLATFORM=xcb",
+            qPrintable(QGuiApplication::platformName()));
         return;
+    }
     m_outerWindow = QWindow::fromWinId(static_cast<WId>(nativeId));
     hostWindow = new HostWindow(nativeId, this);
 
