@@ -11,12 +11,15 @@ namespace {
 
 const char platformVariable[] = "QT_QPA_PLATFORM";
 
-/// The ids of windows that hosts hand over are those of X, which most Wayland sessions speak, too.
-bool isXPreferable()
+/// What Qt is to try in a Wayland session, or nothing for what it tries by itself. The ids of
+/// windows that hosts hand over are those of X, which most such sessions speak, too. Without X, Qt
+/// 5 would not look for Wayland in every session.
+QByteArray platformInWayland()
 {
-    return !qEnvironmentVariableIsSet(platformVariable) &&
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
-           !qEnvironmentVariableIsEmpty("DISPLAY");
+    if (qEnvironmentVariableIsSet(platformVariable) ||
+        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return QByteArray();
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
 }
 
 /// Qt sends a Wayland compositor what it has for it when its own event loop is about to wait, which
@@ -38,13 +41,13 @@ void ensureApplication()
 {
     if (QCoreApplication::instance())
         return;
-    const bool prefersX = isXPreferable();
-    if (prefersX)
-        qputenv(platformVariable, "xcb;wayland");
+    const QByteArray platform = platformInWayland();
+    if (!platform.isEmpty())
+        qputenv(platformVariable, platform);
     static int argumentCount = 0; // the application keeps a reference to it
     static char *arguments[] = {nullptr};
     auto *application = new QApplication(argumentCount, arguments);
-    if (prefersX)
+    if (!platform.isEmpty())
         qunsetenv(platformVariable); // the host's own programs choose for themselves
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
         keepTalkingToCompositor(application);

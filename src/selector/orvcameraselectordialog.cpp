@@ -256,14 +256,14 @@ void OrvCameraSelectorDialogPrivate::divide()
     ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
     // Not more on account of a large font: the dialog has to fit on the screen.
     ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / 2));
-    // With a small font its size hint would take rows from the interface pane.
-    ui->deviceInfoTreeView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
                        3 * ui->verticalLayout_2->spacing();
+    // With a small font the device pane asks for more than its rows, at the interface pane's cost.
+    const int panes = qMax(labels + interfaceHeight + deviceHeight,
+                           ui->verticalLayoutWidget->sizeHint().height());
     ui->splitter->setStretchFactor(0, 1);
     ui->splitter->setStretchFactor(1, 0);
-    ui->splitter->setSizes(
-        {ui->cameraTreeView->minimumHeight(), labels + interfaceHeight + deviceHeight});
+    ui->splitter->setSizes({ui->cameraTreeView->minimumHeight(), panes});
 }
 
 void OrvCameraSelectorDialogPrivate::expandAll()
