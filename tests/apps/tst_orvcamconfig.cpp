@@ -47,6 +47,7 @@ private slots:
     void failures_data();
     void failures();
     void savesPictures();
+    void waylandAlone();
 
 private:
     QTemporaryDir m_folder;
@@ -186,6 +187,25 @@ void TestOrvCamConfig::savesPictures()
         QVERIFY(!pictures.contains(picture));
         pictures << picture;
     }
+}
+
+// A compositor that is named but not there: the complaint is that of Wayland, not that of X.
+void TestOrvCamConfig::waylandAlone()
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove("DISPLAY");
+    environment.remove("QT_QPA_PLATFORM");
+    environment.insert("WAYLAND_DISPLAY", "wayland-that-is-not-there");
+    environment.insert("XDG_RUNTIME_DIR", m_folder.path());
+    program.setProcessEnvironment(environment);
+    program.start(ORV_PROGRAM, {"--simulate"});
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(program.exitCode(), 1);
+    const QByteArray complaint = program.readAllStandardError();
+    QVERIFY2(complaint.startsWith("orvcamconfig: No window can be shown: "), complaint);
+    QVERIFY2(complaint.contains("ayland") || complaint.contains("wl_display"), complaint);
+    QCOMPARE(complaint.count('\n'), 1);
 }
 
 QTEST_GUILESS_MAIN(TestOrvCamConfig)
