@@ -10,6 +10,9 @@ build=$root/build/demo
 die() { echo "demo.sh: $*" >&2; exit 1; }
 
 "$root/packaging/setup-debian.sh"
+if [ -z "${DISPLAY:-}" ] && [ -n "${WAYLAND_DISPLAY:-}" ]; then
+    "$root/packaging/setup-debian.sh" wayland-packages.txt
+fi
 
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT

@@ -61,12 +61,22 @@ void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const Q
         std::abort();
 }
 
+/// Qt looks for an X server unless the session says what it is; not every compositor makes it do
+/// so.
+bool isWaylandAlone()
+{
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+           qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet(platformVariable);
+}
+
 } // namespace
 
 WindowSystem::WindowSystem(int &argc, char **argv, Need need, const QString &complaint)
 {
     if (need == Need::Text && !qEnvironmentVariableIsSet(platformVariable))
         qputenv(platformVariable, "offscreen");
+    if (isWaylandAlone())
+        qputenv(platformVariable, "wayland");
     if (isOffscreen())
         goOffscreen();
 

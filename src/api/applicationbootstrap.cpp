@@ -1,9 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include "applicationbootstrap.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QTimer>
 
 namespace OrvGui {
+
+namespace {
+
+const char platformVariable[] = "QT_QPA_PLATFORM";
+
+/// What Qt is to try in a Wayland session, or nothing for what it tries by itself. The ids of
+/// windows that hosts hand over are those of X, which most such sessions speak, too. Without X, Qt
+/// 5 would not look for Wayland in every session.
+QByteArray platformInWayland()
+{
+    if (qEnvironmentVariableIsSet(platformVariable) ||
+        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return QByteArray();
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
+}
+
+/// Qt sends a Wayland compositor what it has for it when its own event loop is about to wait, which
+/// that of a host never lets it do.
+void keepTalkingToCompositor(QApplication *application)
+{
+    const int intervalMs = 20;
+    auto *timer = new QTimer(application);
+    QObject::connect(timer, &QTimer::timeout, application, [] {
+        if (auto *dispatcher = QAbstractEventDispatcher::instance())
+            emit dispatcher->aboutToBlock();
+    });
+    timer->start(intervalMs);
+}
+
+} // namespace
 
 void ensureApplication()
 {
@@ -12,9 +44,16 @@ void ensureApplication()
 #if QT_VERSION < 0x060000
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // as Qt 6 always does
 #endif
+    const QByteArray platform = platformInWayland();
+    if (!platform.isEmpty())
+        qputenv(platformVariable, platform);
     static int argumentCount = 0; // the application keeps a reference to it
     static char *arguments[] = {nullptr};
-    new QApplication(argumentCount, arguments);
+    auto *application = new QApplication(argumentCount, arguments);
+    if (!platform.isEmpty())
+        qunsetenv(platformVariable); // the host's own programs choose for themselves
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        keepTalkingToCompositor(application);
 }
 
 } // namespace OrvGui

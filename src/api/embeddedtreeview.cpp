@@ -4,6 +4,8 @@
 #include "hostwindow.h"
 #include "treeviewparent.h"
 
+#include <QTimer>
+
 namespace OrvGui {
 
 EmbeddedTreeView::EmbeddedTreeView(const TreeViewParent &holder)
@@ -29,7 +31,29 @@ void EmbeddedTreeView::fill(const QSize &devicePixels)
     if (!devicePixels.isValid())
         return;
     const qreal ratio = windowHandle()->devicePixelRatio();
-    setGeometry(0, 0, qRound(devicePixels.width() / ratio), qRound(devicePixels.height() / ratio));
+    m_place =
+        QRect(0, 0, qRound(devicePixels.width() / ratio), qRound(devicePixels.height() / ratio));
+    setGeometry(m_place);
+}
+
+void EmbeddedTreeView::moveEvent(QMoveEvent *event)
+{
+    OrvGenParamTreeView::moveEvent(event);
+    stay();
+}
+
+void EmbeddedTreeView::resizeEvent(QResizeEvent *event)
+{
+    OrvGenParamTreeView::resizeEvent(event);
+    stay();
+}
+
+/// For a moment our window was one of the screen, and a window manager may place it only when it
+/// has become part of the host's.
+void EmbeddedTreeView::stay()
+{
+    if (m_place.isValid() && geometry() != m_place)
+        QTimer::singleShot(0, this, [this] { setGeometry(m_place); });
 }
 
 } // namespace OrvGui

@@ -3,6 +3,8 @@
 
 #include "orvgenparamtreeview.h"
 
+#include <QRect>
+
 class QWindow;
 
 namespace OrvGui {
@@ -23,8 +25,15 @@ public:
     explicit EmbeddedTreeView(const TreeViewParent &holder);
     ~EmbeddedTreeView() override;
 
+protected:
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void fill(const QSize &devicePixels);
+    void stay();
+
+    QRect m_place; ///< in the host's window
 };
 
 } // namespace OrvGui

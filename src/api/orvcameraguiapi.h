@@ -40,7 +40,8 @@ typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
  * throws (std::bad_alloc). The title may be null.
  *
  * With a parent the tree fills that window and is resized with it. The window must exist on the
- * default display, and until the tree is destroyed. Without one, the tree is a window of its own.
+ * default display, and until the tree is destroyed. Without one, the tree is a window of its own;
+ * so it is, with a warning by Qt's message handler, on a platform without foreign windows (Wayland).
  *
  * The caller owns the tree and ends it with DestroyGenParamTreeView. The node map, and the array
  * that it comes from, must live until then, or until the tree is given other parameters or none;
@@ -67,7 +68,8 @@ ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
  * Vision camera a working address there. A null system has no cameras. The title may be null.
  *
  * With a parent the dialog stands above that window, which must exist on the default display. It
- * is up to the host to keep its own windows from being used in the meantime.
+ * is up to the host to keep its own windows from being used in the meantime. On a platform without
+ * foreign windows (Wayland) the parent is ignored, with a warning by Qt's message handler.
  *
  * The camera belongs to the system; it is not to be released and stays valid as long as the system.
  */

@@ -40,7 +40,8 @@ OrvCam::DeviceInfo *SelectCamera(OrvCam::System *system, const QString &title,
     if (parentWindow) {
         host.wrap(parentWindow);
         // A second one: that in the container is no window of its own any more.
-        hostWindow.reset(QWindow::fromWinId(static_cast<WId>(parentWindow)));
+        if (host.container)
+            hostWindow.reset(QWindow::fromWinId(static_cast<WId>(parentWindow)));
     }
 
     OrvCameraSelectorDialog dialog(system, host.container);

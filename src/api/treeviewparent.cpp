@@ -5,7 +5,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QChildEvent>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include <xcb/xcb.h>
@@ -96,8 +96,13 @@ void TreeViewParent::wrap(unsigned long nativeId)
 {
     delete window;
     window = QWindow::fromWinId(static_cast<WId>(nativeId));
-    if (!window)
+    if (!window) {
+        qWarning(
+            "OrvCameraGuiApi: the platform \"%s\" cannot show a window inside or above another "
+            "program's; it is opened as a window of its own. X11 can: QT_QPA_PLATFORM=xcb",
+            qPrintable(QGuiApplication::platformName()));
         return;
+    }
     m_outerWindow = QWindow::fromWinId(static_cast<WId>(nativeId));
     hostWindow = new HostWindow(nativeId, this);
 
@@ -107,9 +112,11 @@ void TreeViewParent::wrap(unsigned long nativeId)
         const ContainerInterceptor interceptor(window, m_outerWindow);
         container = QWidget::createWindowContainer(window);
     }
-    // As if the window had left: the container no longer makes it as large as itself.
+    // As if the window had left: the container no longer makes it as large as itself. With Qt 5 the
+    // container expects that news itself, with Qt 6 by way of its hidden window.
     QChildEvent departure(QEvent::ChildRemoved, window);
     QCoreApplication::sendEvent(container, &departure);
+    QCoreApplication::sendEvent(window->parent(), &departure);
 }
 
 } // namespace OrvGui

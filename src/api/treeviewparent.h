@@ -21,7 +21,7 @@ public:
     ~TreeViewParent() override;
 
     /// Wraps the window of that native id, which stays what and where it is. Everything remains
-    /// null on a platform that knows no foreign windows.
+    /// null on a platform that knows no foreign windows, such as Wayland, and a warning says so.
     void wrap(unsigned long nativeId);
 
     // Deleting the container deletes the window, too; hence the guarded pointers.

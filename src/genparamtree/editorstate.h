@@ -43,6 +43,10 @@ public:
     /// Null for an editor without a state.
     static EditorState *of(const QWidget *editor);
 
+    /// Whether the tree shows it, which it is told.
+    bool isOpen() const { return m_isOpen; }
+    void setOpen(bool on) { m_isOpen = on; }
+
     /// True once the user has typed or stepped; such an editor is no longer filled.
     bool isTouched() const { return m_isTouched; }
 
@@ -77,6 +81,7 @@ private:
     QLineEdit *const m_lineEdit; ///< the editor, or in it; null when nothing can be typed
     QVariant m_known;            ///< what the camera's value filled in
     QVariant m_latest;           ///< after the last step or valid typing
+    bool m_isOpen = false;
     bool m_isBeingFilled = false;
     bool m_isTouched = false;
     bool m_isTyped = false;

@@ -2,6 +2,7 @@
 #include "featuretree.h"
 
 #include "base/cameratext.h"
+#include "editorstate.h"
 #include "featurecell.h"
 #include "genparamtreemodel.h"
 #include "parameterdescription.h"
@@ -22,6 +23,14 @@ const int valueColumn = 1;
 GenApi::IValue *featureOf(const QModelIndex &index)
 {
     return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+/// An editor has something to say already while it is filled for the first time, and may still have
+/// when it has been closed. Qt does not know it then, and Qt 6 complains.
+bool isOpen(const QWidget *editor)
+{
+    const EditorState *state = EditorState::of(editor);
+    return !state || state->isOpen();
 }
 
 } // namespace
@@ -48,9 +57,19 @@ bool FeatureTree::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
 {
     const bool isWanted = trigger == AllEditTriggers || (editTriggers() & trigger);
     if (!isWanted || isReadyForEditing(index))
-        return QTreeView::edit(index, trigger, event);
+        return openEditor(index, trigger, event);
     m_waitingEdit = {index, trigger, m_hint, isFocused()};
     return true;
+}
+
+bool FeatureTree::openEditor(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const QPersistentModelIndex cell(index);
+    const bool isOpened = QTreeView::edit(index, trigger, event);
+    const QWidget *editor = cell.isValid() ? indexWidget(cell) : nullptr;
+    if (EditorState *state = editor ? EditorState::of(editor) : nullptr)
+        state->setOpen(true);
+    return isOpened;
 }
 
 bool FeatureTree::isReadyForEditing(const QModelIndex &index) const
@@ -75,7 +94,7 @@ void FeatureTree::showArrived()
         return;
     const bool isEditable = index.flags() & Qt::ItemIsEditable;
     if (isEditable)
-        QTreeView::edit(index, edit.trigger, nullptr);
+        openEditor(index, edit.trigger, nullptr);
     else if (edit.hint != QAbstractItemDelegate::NoHint)
         closeEditor(nullptr, edit.hint); // goes on to the next one
 }
@@ -175,8 +194,18 @@ QModelIndex FeatureTree::moveCursor(CursorAction action, Qt::KeyboardModifiers m
     return value;
 }
 
+void FeatureTree::commitData(QWidget *editor)
+{
+    if (editor && isOpen(editor))
+        QTreeView::commitData(editor);
+}
+
 void FeatureTree::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    if (editor && !isOpen(editor))
+        return;
+    if (EditorState *state = editor ? EditorState::of(editor) : nullptr)
+        state->setOpen(false);
     const bool isCurrent = editor && indexWidget(currentIndex()) == editor;
     m_hint = hint;
     QTreeView::closeEditor(editor, hint);

@@ -45,6 +45,7 @@ protected:
                  const QModelIndex &index) const override;
 
 protected slots:
+    void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
@@ -58,6 +59,7 @@ private:
     };
 
     bool isReadyForEditing(const QModelIndex &index) const;
+    bool openEditor(const QModelIndex &index, EditTrigger trigger, QEvent *event);
     void showArrived();
     bool isFocused() const;
     bool isEditorFocused() const;

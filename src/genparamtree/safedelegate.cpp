@@ -160,6 +160,14 @@ void SafeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         state->setWritten();
 }
 
+/// Also of an editor whose row has gone.
+void SafeDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+{
+    if (EditorState *state = EditorState::of(editor))
+        state->setOpen(false);
+    GenParamDelegate::destroyEditor(editor, index);
+}
+
 bool SafeDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     auto *editor = qobject_cast<QWidget *>(watched);

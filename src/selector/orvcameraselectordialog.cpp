@@ -276,10 +276,12 @@ void OrvCameraSelectorDialogPrivate::divide()
     ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / (isTight ? 3 : 2)));
     const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
                        3 * ui->verticalLayout_2->spacing();
+    // With a small font the device pane asks for more than its rows, at the interface pane's cost.
+    const int panes = qMax(labels + interfaceHeight + deviceHeight,
+                           ui->verticalLayoutWidget->sizeHint().height());
     ui->splitter->setStretchFactor(0, 1);
     ui->splitter->setStretchFactor(1, 0);
-    ui->splitter->setSizes(
-        {ui->cameraTreeView->minimumHeight(), labels + interfaceHeight + deviceHeight});
+    ui->splitter->setSizes({ui->cameraTreeView->minimumHeight(), panes});
 }
 
 void OrvCameraSelectorDialogPrivate::expandAll()

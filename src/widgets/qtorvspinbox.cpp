@@ -27,6 +27,20 @@ QRect screenAt(const QPoint &point)
     return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
+/// Window managers don't give the focus to a tool tip; it has to be taken past them. A Wayland
+/// compositor gives it to nothing but a popup, and lets nobody take it.
+Qt::WindowFlags sliderWindowFlags()
+{
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return Qt::Popup;
+    return Qt::ToolTip | Qt::BypassWindowManagerHint;
+}
+
+bool canBeActivated(const QWidget &slider)
+{
+    return slider.windowType() != Qt::Popup;
+}
+
 } // namespace
 
 class QtOrvSpinBoxPrivate : public ValuePair<QtOrvSpinBox, QtOrvSpinBoxVal, QtOrvSlider, int>
@@ -66,8 +80,11 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orient
     inner->addWidget(button, 0);
     row->addLayout(inner, 1);
 
-    // Window managers don't give the focus to a tool tip; it has to be taken past them.
-    slider->setWindowFlags(Qt::ToolTip | Qt::BypassWindowManagerHint);
+    // Before the slider becomes a window: Qt 6 puts a widget that gets a focus proxy in front of
+    // its first child in the tab order, which must not be that of another window.
+    q->setFocusProxy(spinBox);
+
+    slider->setWindowFlags(sliderWindowFlags());
     slider->setAttribute(Qt::WA_WindowPropagation);
     slider->setFrameStyle(int(QFrame::Panel) | QFrame::Raised);
     slider->setLineWidth(2);
@@ -97,9 +114,11 @@ void QtOrvSpinBoxPrivate::openSlider()
     slider->setLayoutDirection(button->layoutDirection());
     if (!sliderSized)
         slider->resize(suitableSliderSize());
+    slider->move(sliderCorner()); // where a compositor looks only once
     slider->show();
-    slider->move(sliderCorner());
-    slider->activateWindow();
+    slider->move(sliderCorner()); // as large as it really is
+    if (canBeActivated(*slider))
+        slider->activateWindow();
     slider->setFocus(Qt::PopupFocusReason);
 }
 
@@ -107,7 +126,8 @@ void QtOrvSpinBoxPrivate::closeSlider()
 {
     slider->hide();
     sinceFocusOut.invalidate();
-    button->activateWindow();
+    if (canBeActivated(*slider))
+        button->activateWindow();
     button->setFocus(Qt::PopupFocusReason);
 }
 
@@ -178,7 +198,6 @@ QtOrvSpinBox::QtOrvSpinBox(Qt::Orientation sliderOrientation, QWidget *parent)
     : QWidget(parent), d(new QtOrvSpinBoxPrivate(this, sliderOrientation))
 {
     ValueAccessibility::install();
-    setFocusProxy(d->spinBox);
 }
 
 QtOrvSpinBox::~QtOrvSpinBox() = default;

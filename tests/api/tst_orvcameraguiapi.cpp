@@ -211,6 +211,12 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     QTRY_VERIFY(shows(panel, view));
     QCOMPARE(widget(view).size(), QSize(600, 400));
 
+    // A window manager that is late has its own idea of the size.
+    m_screen.resize(static_cast<xcb_window_t>(widget(view).winId()), QSize(320, 240));
+    QCOMPARE(m_screen.picture(panel).pixel(599, 399), panelColour);
+    QTRY_VERIFY(shows(panel, view));
+    QCOMPARE(widget(view).size(), QSize(600, 400));
+
     // Another one comes and goes.
     const xcb_window_t other =
         m_screen.makeWindow(m_screen.screen().root, QRect(710, 0, 350, 500), panelColour);

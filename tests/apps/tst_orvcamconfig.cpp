@@ -52,6 +52,7 @@ private slots:
     void savesPictures();
     void carriesOut();
     void settingsFiles();
+    void waylandAlone();
 
 private:
     QTemporaryDir m_folder;
@@ -258,6 +259,25 @@ void TestOrvCamConfig::settingsFiles()
     result = run(start + QStringList({"--json", "--load", m_folder.filePath("none.pfs")}));
     QCOMPARE(result.status, 1);
     QVERIFY(!QJsonDocument::fromJson(result.out.toUtf8()).isNull());
+}
+
+// A compositor that is named but not there: the complaint is that of Wayland, not that of X.
+void TestOrvCamConfig::waylandAlone()
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove("DISPLAY");
+    environment.remove("QT_QPA_PLATFORM");
+    environment.insert("WAYLAND_DISPLAY", "wayland-that-is-not-there");
+    environment.insert("XDG_RUNTIME_DIR", m_folder.path());
+    program.setProcessEnvironment(environment);
+    program.start(ORV_PROGRAM, {"--simulate"});
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(program.exitCode(), 1);
+    const QByteArray complaint = program.readAllStandardError();
+    QVERIFY2(complaint.startsWith("orvcamconfig: No window can be shown: "), complaint);
+    QVERIFY2(complaint.contains("ayland") || complaint.contains("wl_display"), complaint);
+    QCOMPARE(complaint.count('\n'), 1);
 }
 
 QTEST_GUILESS_MAIN(TestOrvCamConfig)
