@@ -696,6 +696,8 @@ void OrvCamConfigPrivate::showFrame(Frame frame, const FrameNumbers &numbers)
 /// camera has left unanswered is tried again at the next turn.
 bool OrvCamConfigPrivate::updateBoth()
 {
+    if (SelectorDetour::isUnderWay())
+        return true; // a selector is elsewhere already
     hasTimedOut = false;
     const bool isBack = readBoth();
     isFrameModeChanged |= hasTimedOut;
