@@ -4,6 +4,7 @@
 #include "browsermodel.h"
 #include "browserstate.h"
 #include "foundnamedelegate.h"
+#include "genparamtree/featuretree.h"
 #include "genparamtree/orvgenparamtreeview_p.h"
 #include "orvfeaturebrowser.h"
 #include "selectortable.h"
@@ -42,7 +43,7 @@ public:
     void rememberTree();
     void restoreTree();
 
-    FeatureTree &tree() const { return *OrvGenParamTreeViewPrivate::of(*view).ui->treeView; }
+    FeatureTree &tree() const { return static_cast<FeatureTree &>(*view->treeView()); }
     GenParamTreeModel *features() const;
 
     void narrow();

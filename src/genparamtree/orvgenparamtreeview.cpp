@@ -4,6 +4,7 @@
 #include "featurenamedelegate.h"
 #include "genparamtreemodel.h"
 #include "treeviewresizer.h"
+#include "ui_genparamtreeview.h"
 
 #include <GenApi/GenApi.h>
 #include <OrvGenParam/Array.h>
@@ -76,6 +77,10 @@ bool numberAfter(const std::string &text, const std::string &mark, int *number)
 } // namespace
 
 // OrvGenParamTreeViewPrivate
+
+OrvGenParamTreeViewPrivate::OrvGenParamTreeViewPrivate() : ui(new Ui::GenParamTreeView) {}
+
+OrvGenParamTreeViewPrivate::~OrvGenParamTreeViewPrivate() = default;
 
 template<typename Source>
 void OrvGenParamTreeViewPrivate::Init(OrvGenParamTreeView *view, Source *source)

@@ -5,7 +5,6 @@
 #include "orvgenparamtreeview.h"
 #include "safedelegate.h"
 #include "treelookahead.h"
-#include "ui_genparamtreeview.h"
 
 #include <QPointer>
 
@@ -13,6 +12,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+
+namespace Ui {
+class GenParamTreeView;
+}
 
 namespace OrvGui {
 
@@ -24,6 +27,9 @@ const int OwnRowRole = Qt::UserRole + 1;
 class OrvGenParamTreeViewPrivate
 {
 public:
+    OrvGenParamTreeViewPrivate();
+    ~OrvGenParamTreeViewPrivate();
+
     static OrvGenParamTreeViewPrivate &of(OrvGenParamTreeView &view) { return *view.d; }
 
     template<typename Source>
@@ -49,7 +55,7 @@ public:
     void loadState(const QModelIndex &parent, const std::string &parentPath);
 
     OrvGenParamTreeView *q = nullptr;
-    const std::unique_ptr<Ui::GenParamTreeView> ui{new Ui::GenParamTreeView};
+    const std::unique_ptr<Ui::GenParamTreeView> ui;
     SafeDelegate *valueDelegate = nullptr;
     QPointer<TreeLookAhead> lookAhead; ///< of the model
 
