@@ -46,7 +46,7 @@ BrowserModel::BrowserModel(KnownValuesModel *source, GenApi::IValue *root, QObje
     , m_values(source)
     , m_rootFeature(root)
     , m_marks(new FeatureMarks(*qobject_cast<GenParamTreeModel *>(source->sourceModel()), this))
-    , m_search(*source->sourceModel())
+    , m_search(root)
 {
     source->setParent(this);
     setSourceModel(source);
@@ -202,14 +202,15 @@ void BrowserModel::setFavourites(const QVector<GenApi::IValue *> &favourites)
     rebuild();
 }
 
-void BrowserModel::narrow(const std::optional<Features> &features)
+bool BrowserModel::narrow(const std::optional<Features> &features)
 {
     if (features == m_narrowed)
-        return;
+        return false;
     changeLayout([&] {
         m_narrowed = features;
         show(m_root.get());
     });
+    return true;
 }
 
 void BrowserModel::show(Row *category)
@@ -355,12 +356,17 @@ QModelIndexList BrowserModel::categories() const
     return categories;
 }
 
-QModelIndexList BrowserModel::foundCategories() const
+QModelIndexList BrowserModel::foundCategories(int maxRows) const
 {
     QModelIndexList found;
     for (const QModelIndex &category : categories()) {
-        if (rowOf(category)->isFound)
-            found << category;
+        const Row *row = rowOf(category);
+        if (!row->isFound)
+            continue;
+        maxRows -= int(row->shownRows.size());
+        if (maxRows < 0)
+            break;
+        found << category;
     }
     return found;
 }
@@ -452,7 +458,8 @@ Qt::ItemFlags BrowserModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    if (rowOf(index) == m_favouritesRow)
+    // A view asks this of each row that it lays out; the way to the source is long.
+    if (index.column() == nameColumn || rowOf(index) == m_favouritesRow)
         return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     return QAbstractProxyModel::flags(index);
 }

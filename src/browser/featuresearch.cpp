@@ -2,11 +2,8 @@
 #include "featuresearch.h"
 
 #include "genparamtree/genicamstring.h"
-#include "genparamtree/genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>
-
-#include <QHash>
 
 #include <algorithm>
 #include <numeric>
@@ -87,38 +84,43 @@ bool FeatureSearch::matches(const Entry &entry, const QStringList &words) const
 
 void FeatureSearch::build()
 {
-    collect(QModelIndex(), GenApi::Beginner);
-    // A feature of several categories is one that is found.
-    QHash<const GenApi::IValue *, std::size_t> places;
-    std::vector<Entry> entries;
-    for (Entry &entry : m_entries) {
-        const auto known = places.constFind(entry.feature);
-        if (known != places.constEnd()) {
-            entries[*known].level = std::min(entries[*known].level, entry.level);
-            continue;
-        }
-        places.insert(entry.feature, entries.size());
-        entries.push_back(std::move(entry));
-    }
-    m_entries = std::move(entries);
+    if (m_root)
+        collect(m_root, GenApi::Beginner);
 }
 
-void FeatureSearch::collect(const QModelIndex &parent, int level)
+void FeatureSearch::collect(GenApi::IValue *category, int level)
 {
-    const int rows = m_model.rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = m_model.index(row, 0, parent);
-        auto *feature = index.data(Qt::UserRole).value<GenApi::IValue *>();
-        if (!feature)
-            continue;
-        try {
-            GenApi::INode *node = feature->GetNode();
-            const int own = std::max(level, static_cast<int>(node->GetVisibility()));
+    auto *node = dynamic_cast<GenApi::ICategory *>(category);
+    if (!node)
+        return;
+    GenApi::FeatureList_t features;
+    try {
+        node->GetFeatures(features);
+    } catch (const GenICam::GenericException &) {
+        return;
+    }
+    for (std::size_t i = 0; i < features.size(); ++i)
+        add(features[i], level);
+}
+
+void FeatureSearch::add(GenApi::IValue *feature, int level)
+{
+    try {
+        GenApi::INode *node = feature->GetNode();
+        const int own = std::max(level, static_cast<int>(node->GetVisibility()));
+        const auto place = m_places.emplace(feature, m_entries.size());
+        if (place.second) {
             m_entries.push_back({feature, own, namesOf(node), textsOf(node)});
-            collect(index, own);
-        } catch (const GenICam::GenericException &) {
-            // A node that cannot tell its texts is not found.
+        } else {
+            // In several categories, or in a circle of them, which ends here.
+            Entry &known = m_entries[place.first->second];
+            if (known.level <= own)
+                return;
+            known.level = own;
         }
+        collect(feature, own);
+    } catch (const GenICam::GenericException &) {
+        // A node that cannot tell its texts is not found.
     }
 }
 

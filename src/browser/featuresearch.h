@@ -7,10 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <unordered_map>
 #include <vector>
-
-class QAbstractItemModel;
-class QModelIndex;
 
 namespace OrvGui {
 
@@ -29,8 +27,8 @@ public:
         std::vector<int> counts{0, 0, 0}; ///< of the features that appear at each level
     };
 
-    /// The tree of all features, whatever their level; it must outlive the search.
-    explicit FeatureSearch(const QAbstractItemModel &features) : m_model(features) {}
+    /// The root of all features, whatever their level; it must outlive the search. Null for none.
+    explicit FeatureSearch(GenApi::IValue *root) : m_root(root) {}
 
     /// Whether tool tips and descriptions are searched, not names alone.
     void setWithDescriptions(bool withDescriptions);
@@ -53,12 +51,14 @@ private:
     };
 
     void build();
-    void collect(const QModelIndex &parent, int level);
+    void collect(GenApi::IValue *category, int level);
+    void add(GenApi::IValue *feature, int level);
     bool matches(const Entry &entry, const QStringList &words) const;
 
-    const QAbstractItemModel &m_model;
+    GenApi::IValue *const m_root;
     std::vector<Entry> m_entries; ///< empty until the first search
-    std::vector<int> m_found;     ///< by the last search; entries
+    std::unordered_map<const GenApi::IValue *, std::size_t> m_places;
+    std::vector<int> m_found; ///< by the last search; entries
     QString m_text;
     Result m_result;
     bool m_hasResult = false;

@@ -31,6 +31,9 @@ namespace {
 
 const int nameColumn = 0;
 
+/// More rows are not unfolded by a search.
+const int maxUnfolded = 1000;
+
 // As around the tree.
 const int margin = 11;
 const int spacing = 6;
@@ -89,6 +92,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     const auto followLevel = [this] {
         if (shown)
             spanCategories();
+        isUnfoldingOutdated = true;
         narrow();
     };
     QObject::connect(levels, levelChanged, q, followLevel, Qt::QueuedConnection);
@@ -279,19 +283,22 @@ void OrvFeatureBrowserPrivate::narrow()
         wanted =
             onlyChangedAction->isChecked() ? wanted.intersect(result.features) : result.features;
     }
-    shown->narrow(wanted);
-    showNarrowed();
+    const bool isOther = shown->narrow(wanted);
+    if (isOther || isUnfoldingOutdated)
+        showNarrowed();
+    tree().viewport()->update(); // other marks in the names
 }
 
-/// Unfolds what was found.
+/// Unfolds what was found, as much as somebody would look at: the layout of thousands of rows takes
+/// longer than a key may.
 void OrvFeatureBrowserPrivate::showNarrowed()
 {
     tree().collapseAll();
     tree().scheduleDelayedItemsLayout();
-    for (const QModelIndex &category : shown->foundCategories())
+    for (const QModelIndex &category : shown->foundCategories(maxUnfolded))
         tree().expand(category);
     spanCategories();
-    tree().viewport()->update();
+    isUnfoldingOutdated = false;
     OrvGenParamTreeViewPrivate::of(*view).describeCurrent(); // the current row may have gone
 }
 
@@ -307,6 +314,7 @@ void OrvFeatureBrowserPrivate::remember()
     look.isCurrentFavourite = shown->isBelowFavourites(tree().currentIndex());
     look.scrollPosition = tree().verticalScrollBar()->value();
     before = std::move(look);
+    isUnfoldingOutdated = true;
 }
 
 void OrvFeatureBrowserPrivate::giveBack()
@@ -375,6 +383,7 @@ void OrvFeatureBrowserPrivate::showCounts(const FeatureSearch::Result *result)
 void OrvFeatureBrowserPrivate::showHigherLevel()
 {
     view->setVisibility(static_cast<Visibility>(higherLevel));
+    isUnfoldingOutdated = true;
     narrow();
 }
 

@@ -103,6 +103,7 @@ public:
         int scrollPosition = 0;
     };
     std::optional<Look> before; ///< while it is narrowed
+    bool isUnfoldingOutdated = false;
 };
 
 } // namespace OrvGui
