@@ -5,9 +5,8 @@
 #include "released.h"
 
 #include <orvcamconfig.h>
-#include <orvgenparamtreeview.h>
+#include <orvfeaturebrowser.h>
 
-#include <QByteArray>
 #include <QHash>
 #include <QObject>
 
@@ -17,7 +16,7 @@
 class QAction;
 class QSettings;
 
-/// The windows of one camera: the configuration window and the tree of all its features, which
+/// The windows of one camera: the configuration window and the browser of all its features, which
 /// always shows the camera that the other has, and is opened from its "View" menu.
 ///
 /// While the user has several cameras open, each in a program of its own, all windows have the
@@ -44,7 +43,7 @@ public:
     QWidget *openDialog(const QString &name, QString *error);
 
     OrvGui::OrvCamConfig &configuration() { return m_configuration; }
-    OrvGui::OrvGenParamTreeView &tree() { return m_tree; }
+    OrvGui::OrvFeatureBrowser &tree() { return m_tree; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -52,19 +51,16 @@ protected:
 private:
     void follow(OrvCam::Device *device);
     void nameWindows();
-    void rememberTree();
-    void unfoldTree();
     void restore();
-    void setLevel(std::optional<OrvGui::Visibility> level);
     void save();
 
     Released<OrvCam::Device> m_device; ///< outlives the windows; null when they no longer use it
     QSettings *const m_settings;
-    OrvGui::OrvGenParamTreeView m_tree;
+    OrvGui::OrvFeatureBrowser m_tree;
     OrvGui::OrvCamConfig m_configuration;
     QHash<QWidget *, QString> m_titles; ///< of the configuration's windows, without a camera
     QString m_camera;
     std::unique_ptr<OpenCameras> m_openCameras; ///< null without settings
     QAction *m_treeAction;
-    QByteArray m_treeState; ///< of the tree while it shows nothing
+    bool m_isTreeRemembered = false; ///< it looks as it was left
 };

@@ -11,6 +11,7 @@
 #include <base/cameratext.h>
 #include <orvcameraguiapi_version.h>
 #include <orvcameraselectordialog.h>
+#include <orvfeaturebrowser.h>
 #include <orvgenparamtreeview.h>
 
 #include <QApplication>
@@ -79,19 +80,25 @@ int takePicture(QWidget &window, const QString &fileName)
                  : fail(Failure, QObject::tr("The picture '%1' cannot be written.").arg(fileName));
 }
 
-int showFeatures(const FeatureSource &source, const Options &options)
+int listFeatures(const FeatureSource &source, const Options &options)
 {
     OrvGui::OrvGenParamTreeView view;
     view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
     view.setParams(source.nodeMap());
-    if (options.listFeatures && !source.warning().isEmpty())
+    if (!source.warning().isEmpty())
         QTextStream(stderr) << "orvcamconfig: " << source.warning() << '\n';
-    if (options.listFeatures) {
-        const QAbstractItemModel &model = *view.treeView()->model();
-        fetchFeatures(model, source.nodeMap());
-        return printText([&](QTextStream &out) { printFeatures(model, out); });
-    }
+    const QAbstractItemModel &model = *view.treeView()->model();
+    fetchFeatures(model, source.nodeMap());
+    return printText([&](QTextStream &out) { printFeatures(model, out); });
+}
 
+int showFeatures(const FeatureSource &source, const Options &options)
+{
+    if (options.listFeatures)
+        return listFeatures(source, options);
+    OrvGui::OrvFeatureBrowser view;
+    view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
+    view.setParams(source.nodeMap());
     view.setWindowTitle(source.title());
     view.resize(640, 800);
     view.treeView()->expandToDepth(0);

@@ -47,8 +47,7 @@ QStringList FeatureSearch::wordsOf(const QString &text)
 
 const FeatureSearch::Result &FeatureSearch::find(const QString &text)
 {
-    if (m_entries.empty())
-        build();
+    prepare();
     const QString wanted = folded(text);
     std::vector<int> candidates;
     if (m_hasResult && wanted.startsWith(m_text)) {
@@ -82,9 +81,9 @@ bool FeatureSearch::matches(const Entry &entry, const QStringList &words) const
     });
 }
 
-void FeatureSearch::build()
+void FeatureSearch::prepare()
 {
-    if (m_root)
+    if (m_root && m_entries.empty())
         collect(m_root, GenApi::Beginner);
 }
 

@@ -33,6 +33,9 @@ public:
     /// Whether tool tips and descriptions are searched, not names alone.
     void setWithDescriptions(bool withDescriptions);
 
+    /// Collects the texts, so that the first search need not.
+    void prepare();
+
     /// All words of the text, in any order and case. An empty text finds everything.
     const Result &find(const QString &text);
 
@@ -50,7 +53,6 @@ private:
         QString texts;
     };
 
-    void build();
     void collect(GenApi::IValue *category, int level);
     void add(GenApi::IValue *feature, int level);
     bool matches(const Entry &entry, const QStringList &words) const;

@@ -650,6 +650,8 @@ void OrvFeatureBrowser::search(const QString &text)
 
 bool OrvFeatureBrowser::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::FocusIn && watched == d->searchLine && d->shown)
+        d->shown->search().prepare();
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent *>(event)->key();
