@@ -150,16 +150,14 @@ void FeatureMenu::addWay(QMenu *menu, const QString &text, GenApi::IValue *featu
 
 void FeatureMenu::addMarks(bool isFavourite)
 {
-    QAction *star = addAction(BrowserModel::star(), tr("Favourite"));
+    const QString text = isFavourite ? tr("Remove from Favourites") : tr("Add to Favourites");
+    QAction *star = addAction(BrowserModel::star(), text, this, [this, isFavourite] {
+        emit favouriteWanted(m_feature, !isFavourite);
+    });
     star->setObjectName(QStringLiteral("favourite"));
-    star->setCheckable(true);
-    star->setChecked(isFavourite);
-    connect(star, &QAction::toggled, this,
-            [this](bool isOn) { emit favouriteWanted(m_feature, isOn); });
     QAction *putBack = addAction(tr("Put Back"), this, [this] { emit putBackWanted(m_feature); });
     putBack->setObjectName(QStringLiteral("putBack"));
     putBack->setEnabled(m_shown.marks().wasChanged(m_feature));
-    putBack->setToolTip(m_shown.marks().earlierText(m_feature));
     addSeparator();
 }
 

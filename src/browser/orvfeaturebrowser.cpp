@@ -114,7 +114,7 @@ void OrvFeatureBrowserPrivate::buildWindow()
     countLabel->setObjectName(QStringLiteral("countLabel"));
     countLabel->hide();
     higherButton->setObjectName(QStringLiteral("higherButton"));
-    higherButton->setAutoRaise(true);
+    higherButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
     higherButton->hide();
     menuButton->setObjectName(QStringLiteral("menuButton"));
     menuButton->setPopupMode(QToolButton::InstantPopup);
@@ -364,7 +364,7 @@ void OrvFeatureBrowserPrivate::showCounts(const FeatureSearch::Result *result)
     const auto level = static_cast<std::size_t>(qBound(0, int(view->visibility()), 2));
     const int count = result->counts[level];
     countLabel->setText(count == 0 ? OrvFeatureBrowser::tr("Nothing found")
-                                   : OrvFeatureBrowser::tr("%n found", nullptr, count));
+                                   : OrvFeatureBrowser::tr("%1 found").arg(count));
     const int more = result->counts.back() - count;
     if (more == 0)
         return;
@@ -374,8 +374,8 @@ void OrvFeatureBrowserPrivate::showCounts(const FeatureSearch::Result *result)
             higherLevel = candidate;
     }
     const auto *levels = view->findChild<QComboBox *>(QStringLiteral("cbVisibility"));
-    higherButton->setText(OrvFeatureBrowser::tr("%n more at level %1", nullptr, more)
-                              .arg(levels->itemText(higherLevel)));
+    higherButton->setText(
+        OrvFeatureBrowser::tr("%1 more at level %2").arg(more).arg(levels->itemText(higherLevel)));
     higherButton->setToolTip(OrvFeatureBrowser::tr("Shows them"));
     higherButton->show();
 }
@@ -499,8 +499,9 @@ void OrvFeatureBrowserPrivate::openTable(GenApi::IValue *selector,
                                          const QVector<GenApi::IValue *> &columns)
 {
     OrvGenParamTreeViewPrivate::of(*view).endEditing();
-    if (!shown || table)
+    if (!shown)
         return;
+    delete table;
     table = new SelectorTable(nodeMap, *features(), *shown, selector, columns, q);
     table->setAttribute(Qt::WA_DeleteOnClose);
     table->show();
@@ -666,13 +667,6 @@ bool OrvFeatureBrowser::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void OrvFeatureBrowser::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        d->setTexts();
-    QWidget::changeEvent(event);
 }
 
 } // namespace OrvGui

@@ -68,7 +68,6 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     friend class OrvFeatureBrowserPrivate;
