@@ -210,7 +210,19 @@ QAbstractItemModel *OrvFeatureBrowserPrivate::wrap(KnownValuesModel *values)
     shown = model;
     model->search().setWithDescriptions(remembered.searchesTexts);
     QObject::connect(&model->marks(), &FeatureMarks::changed, q, [this] { marksChanged(); });
+    QObject::connect(features(), &GenParamTreeModel::written, q,
+                     [this](GenApi::IValue *feature, const QString &earlier, const QString &after) {
+                         if (observer)
+                             observer(feature, earlier, after);
+                     });
     return model;
+}
+
+void OrvFeatureBrowserPrivate::noteWrite(GenApi::IValue *feature, const QString &earlier,
+                                         const QString &after)
+{
+    if (shown)
+        shown->marks().noteWrite(feature, earlier, after);
 }
 
 GenParamTreeModel *OrvFeatureBrowserPrivate::features() const

@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -66,6 +67,10 @@ public:
     void openTable(GenApi::IValue *selector, const QVector<GenApi::IValue *> &columns);
     void expand(const QPersistentModelIndex &row, bool isExpanded);
     void marksChanged();
+
+    /// For a write to the same camera that went past the browser, so that it shows what was
+    /// changed.
+    void noteWrite(GenApi::IValue *feature, const QString &earlier, const QString &after);
     void putBack(const GenApi::IValue *feature);
 
     QByteArray saveTree() const;
@@ -83,6 +88,12 @@ public:
     QAction *onlyChangedAction;
     QAction *putBackAction;
     FoundNameDelegate *nameDelegate;
+
+    /// Called after each write of the browser, putting back and tables included, with GenICam's
+    /// texts before and after it; null for one that cannot be read. The selectors of the feature
+    /// are where they were for the write, and may be elsewhere afterwards.
+    std::function<void(GenApi::IValue *, const QString &, const QString &)> observer;
+
     QTimer renarrow; ///< when what was changed is another set than before
     QPointer<SelectorTable> table;
 
