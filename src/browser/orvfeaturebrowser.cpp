@@ -124,13 +124,18 @@ void OrvFeatureBrowserPrivate::buildWindow()
     line->setSpacing(spacing);
     line->setContentsMargins(margin, margin, margin, 0);
     line->addWidget(searchLine, 1);
-    line->addWidget(countLabel);
-    line->addWidget(higherButton);
     line->addWidget(menuButton);
+    auto *counts = new QHBoxLayout; // as high as what is shown in it
+    counts->setSpacing(spacing);
+    counts->setContentsMargins(margin, 0, margin, 0);
+    counts->addWidget(countLabel);
+    counts->addWidget(higherButton);
+    counts->addStretch(1);
     auto *layout = new QVBoxLayout(q);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(line);
+    layout->addLayout(counts);
     layout->addWidget(view, 1);
     QLayout *treeLayout = view->layout();
     treeLayout->setContentsMargins(margin, spacing, margin, margin);
