@@ -3,7 +3,6 @@
 
 #include "placing.h"
 
-#include <Base/GCException.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 #include <base/cameratext.h>
@@ -17,7 +16,7 @@
 #include <QSettings>
 #include <QTreeView>
 
-#include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -26,8 +25,6 @@ const char hiddenButtons[] = "configuration/hiddenButtons";
 const char treeName[] = "tree";
 const char treeIsOpen[] = "tree/open";
 const char treeState[] = "tree/state";
-
-const char levelMark[] = "&amp;V"; ///< before the level, at the end of a tree's state
 
 QString key(const char *name)
 {
@@ -69,7 +66,8 @@ CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *setting
     connect(&m_configuration, &OrvGui::OrvCamConfig::deviceGivenUp, this,
             [this] { m_device.reset(); });
     restore();
-    setLevel(level);
+    if (level)
+        m_tree.setVisibility(*level);
     follow(m_configuration.device());
 }
 
@@ -148,7 +146,6 @@ QWidget *CameraWindows::openDialog(const QString &name, QString *error)
 
 void CameraWindows::follow(OrvCam::Device *device)
 {
-    rememberTree();
     m_settingsMenu->setNodeMap(device ? device->GetParamArray()->GetNodeMap() : nullptr);
     if (!device) {
         m_tree.clearParams();
@@ -158,7 +155,8 @@ void CameraWindows::follow(OrvCam::Device *device)
         return;
     }
     m_tree.setParams(device->GetParamArray());
-    unfoldTree();
+    if (!std::exchange(m_isTreeRemembered, true))
+        m_tree.treeView()->expandToDepth(0);
     m_camera = OrvGui::cameraText(device->GetDeviceInfo()->GetDisplayName());
     m_tree.setWindowTitle(m_camera);
     nameWindows();
@@ -172,30 +170,6 @@ void CameraWindows::nameWindows()
     const QString prefix = isNamed ? m_camera + QStringLiteral(" - ") : QString();
     for (auto it = m_titles.begin(); it != m_titles.end(); ++it)
         it.key()->setWindowTitle(prefix + it.value());
-}
-
-void CameraWindows::rememberTree()
-{
-    if (!m_tree.treeView()->model())
-        return;
-    try {
-        m_treeState = m_tree.saveState();
-    } catch (const GenICam::GenericException &) {
-        m_treeState.clear(); // a category has fewer features now
-    }
-}
-
-void CameraWindows::unfoldTree()
-{
-    try {
-        m_tree.loadState(m_treeState.constData());
-    } catch (const GenICam::GenericException &) {
-        m_treeState.clear();
-    } catch (const std::logic_error &) {
-        m_treeState.clear(); // the settings are damaged
-    }
-    if (m_treeState.isEmpty())
-        m_tree.treeView()->expandToDepth(0);
 }
 
 bool CameraWindows::eventFilter(QObject *watched, QEvent *event)
@@ -216,27 +190,12 @@ void CameraWindows::restore()
     m_isConfigurationPlaced =
         Placing::restore(&m_configuration, m_settings, key(configurationName));
     m_isTreePlaced = Placing::restore(&m_tree, m_settings, key(treeName));
-    m_treeState = m_settings->value(key(treeState)).toByteArray();
+    m_isTreeRemembered =
+        m_tree.restoreState(m_settings->value(key(treeState)).toByteArray().constData());
     for (const QString &name : m_settings->value(key(hiddenButtons)).toStringList()) {
         if (auto *action = m_configuration.findChild<QAction *>(name))
             action->setChecked(false);
     }
-}
-
-/// To be called before the tree has features: then it is made at that level once.
-void CameraWindows::setLevel(std::optional<OrvGui::Visibility> level)
-{
-    const int mark = int(m_treeState.lastIndexOf(levelMark));
-    if (level) {
-        m_tree.setVisibility(*level);
-        if (mark >= 0)
-            m_treeState.truncate(mark);
-        return;
-    }
-    bool isNumber = false;
-    const int saved = m_treeState.mid(mark + int(sizeof levelMark) - 1).toInt(&isNumber);
-    if (mark >= 0 && isNumber && saved >= OrvGui::Basic && saved <= OrvGui::Guru)
-        m_tree.setVisibility(static_cast<OrvGui::Visibility>(saved));
 }
 
 void CameraWindows::save()
@@ -249,11 +208,10 @@ void CameraWindows::save()
         if (action->isCheckable() && action != m_treeAction && !action->isChecked())
             hidden << action->objectName();
     }
-    rememberTree();
     Placing::save(&m_configuration, m_settings, key(configurationName));
     m_settings->setValue(key(hiddenButtons), hidden);
     if (m_isTreePlaced)
         Placing::save(&m_tree, m_settings, key(treeName));
     m_settings->setValue(key(treeIsOpen), m_treeAction->isChecked());
-    m_settings->setValue(key(treeState), m_treeState);
+    m_settings->setValue(key(treeState), QByteArray(m_tree.saveState()));
 }

@@ -5,10 +5,9 @@
 #include "released.h"
 
 #include <orvcamconfig.h>
-#include <orvgenparamtreeview.h>
+#include <orvfeaturebrowser.h>
 #include <orvsettingsmenu.h>
 
-#include <QByteArray>
 #include <QHash>
 #include <QObject>
 
@@ -18,7 +17,7 @@
 class QAction;
 class QSettings;
 
-/// The windows of one camera: the configuration window and the tree of all its features, which
+/// The windows of one camera: the configuration window and the browser of all its features, which
 /// always shows the camera that the other has, and is opened from its "View" menu.
 ///
 /// While the user has several cameras open, each in a program of its own, all windows have the
@@ -49,7 +48,7 @@ public:
     QWidget *openDialog(const QString &name, QString *error);
 
     OrvGui::OrvCamConfig &configuration() { return m_configuration; }
-    OrvGui::OrvGenParamTreeView &tree() { return m_tree; }
+    OrvGui::OrvFeatureBrowser &tree() { return m_tree; }
     OrvGui::OrvSettingsMenu &settingsMenu() { return *m_settingsMenu; }
 
 protected:
@@ -60,15 +59,12 @@ private:
     void follow(OrvCam::Device *device);
     void addSettingsMenu();
     void nameWindows();
-    void rememberTree();
-    void unfoldTree();
     void restore();
-    void setLevel(std::optional<OrvGui::Visibility> level);
     void save();
 
     Released<OrvCam::Device> m_device; ///< outlives the windows; null when they no longer use it
     QSettings *const m_settings;
-    OrvGui::OrvGenParamTreeView m_tree;
+    OrvGui::OrvFeatureBrowser m_tree;
     OrvGui::OrvCamConfig m_configuration;
     OrvGui::OrvSettingsMenu *m_settingsMenu; ///< a child of that
     QHash<QWidget *, QString> m_titles;      ///< of the configuration's windows, without a camera
@@ -77,5 +73,5 @@ private:
     QAction *m_treeAction;
     bool m_isConfigurationPlaced = false;
     bool m_isTreePlaced = false;
-    QByteArray m_treeState; ///< of the tree while it shows nothing
+    bool m_isTreeRemembered = false; ///< it looks as it was left
 };

@@ -13,6 +13,7 @@
 #include <base/cameratext.h>
 #include <orvcameraguiapi_version.h>
 #include <orvcameraselectordialog.h>
+#include <orvfeaturebrowser.h>
 #include <orvgenparamtreeview.h>
 
 #include <QApplication>
@@ -100,21 +101,27 @@ int carryOut(const FeatureSource &source, const Options &options)
     return isGood ? printed : Failure;
 }
 
+int listFeatures(const FeatureSource &source, const Options &options)
+{
+    OrvGui::OrvGenParamTreeView view;
+    view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
+    view.setParams(source.nodeMap());
+    if (!source.warning().isEmpty())
+        QTextStream(stderr) << "orvcamconfig: " << source.warning() << '\n';
+    const QAbstractItemModel &model = *view.treeView()->model();
+    fetchFeatures(model, source.nodeMap());
+    return printText([&](QTextStream &out) { printFeatures(model, out); });
+}
+
 int showFeatures(const FeatureSource &source, const Options &options)
 {
     if (!options.actions.isEmpty())
         return carryOut(source, options);
-    OrvGui::OrvGenParamTreeView view;
+    if (options.listFeatures)
+        return listFeatures(source, options);
+    OrvGui::OrvFeatureBrowser view;
     view.setVisibility(static_cast<OrvGui::Visibility>(options.visibility));
     view.setParams(source.nodeMap());
-    if (options.listFeatures && !source.warning().isEmpty())
-        QTextStream(stderr) << "orvcamconfig: " << source.warning() << '\n';
-    if (options.listFeatures) {
-        const QAbstractItemModel &model = *view.treeView()->model();
-        fetchFeatures(model, source.nodeMap());
-        return printText([&](QTextStream &out) { printFeatures(model, out); });
-    }
-
     view.setWindowTitle(source.title());
     view.resize(Placing::treeSize(&view));
     Placing::center(&view);

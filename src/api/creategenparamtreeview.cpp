@@ -2,8 +2,9 @@
 #include "creategenparamtreeview.h"
 
 #include "applicationbootstrap.h"
-#include "embeddedtreeview.h"
-#include "treeviewparent.h"
+#include "embedded.h"
+#include "orvfeaturebrowser.h"
+#include "orvgenparamtreeview.h"
 
 #include <Base/GCException.h>
 
@@ -13,18 +14,16 @@ namespace OrvGui {
 
 namespace {
 
-std::unique_ptr<OrvGenParamTreeView> makeView(const TreeViewParent &holder)
+template<class View>
+std::unique_ptr<View> makeView(const TreeViewParent &holder)
 {
     if (holder.container)
-        return std::unique_ptr<OrvGenParamTreeView>(new EmbeddedTreeView(holder));
-    return std::unique_ptr<OrvGenParamTreeView>(new OrvGenParamTreeView);
+        return std::unique_ptr<View>(new Embedded<View>(holder));
+    return std::unique_ptr<View>(new View);
 }
 
-} // namespace
-
-template<typename Source>
-IOrvGenParamTreeView *CreateGenParamTreeView(Source *params, const QString &title,
-                                             unsigned long parent)
+template<class View, typename Source>
+View *create(Source *params, const QString &title, unsigned long parent)
 {
     ensureApplication();
     std::unique_ptr<TreeViewParent> holder(new TreeViewParent);
@@ -32,7 +31,7 @@ IOrvGenParamTreeView *CreateGenParamTreeView(Source *params, const QString &titl
         holder->wrap(parent);
 
     // Declared after the holder, so that it goes first when something throws.
-    std::unique_ptr<OrvGenParamTreeView> view = makeView(*holder);
+    std::unique_ptr<View> view = makeView<View>(*holder);
     try {
         view->setParams(params);
     } catch (const GenICam::GenericException &) {
@@ -44,9 +43,29 @@ IOrvGenParamTreeView *CreateGenParamTreeView(Source *params, const QString &titl
     return view.release();
 }
 
+} // namespace
+
+template<typename Source>
+IOrvGenParamTreeView *CreateGenParamTreeView(Source *params, const QString &title,
+                                             unsigned long parent)
+{
+    return create<OrvGenParamTreeView>(params, title, parent);
+}
+
+template<typename Source>
+IOrvGenParamTreeView *CreateFeatureBrowser(Source *params, const QString &title,
+                                           unsigned long parent)
+{
+    return create<OrvFeatureBrowser>(params, title, parent);
+}
+
 template IOrvGenParamTreeView *
 CreateGenParamTreeView<GenApi::INodeMap>(GenApi::INodeMap *, const QString &, unsigned long);
 template IOrvGenParamTreeView *
 CreateGenParamTreeView<OrvGenParam::Array>(OrvGenParam::Array *, const QString &, unsigned long);
+template IOrvGenParamTreeView *
+CreateFeatureBrowser<GenApi::INodeMap>(GenApi::INodeMap *, const QString &, unsigned long);
+template IOrvGenParamTreeView *
+CreateFeatureBrowser<OrvGenParam::Array>(OrvGenParam::Array *, const QString &, unsigned long);
 
 } // namespace OrvGui

@@ -15,9 +15,18 @@ template<typename Source>
 IOrvGenParamTreeView *CreateGenParamTreeView(Source *params, const QString &title,
                                              unsigned long parent);
 
+/// The same with a browser around the tree.
+template<typename Source>
+IOrvGenParamTreeView *CreateFeatureBrowser(Source *params, const QString &title,
+                                           unsigned long parent);
+
 extern template IOrvGenParamTreeView *
 CreateGenParamTreeView<GenApi::INodeMap>(GenApi::INodeMap *, const QString &, unsigned long);
 extern template IOrvGenParamTreeView *
 CreateGenParamTreeView<OrvGenParam::Array>(OrvGenParam::Array *, const QString &, unsigned long);
+extern template IOrvGenParamTreeView *
+CreateFeatureBrowser<GenApi::INodeMap>(GenApi::INodeMap *, const QString &, unsigned long);
+extern template IOrvGenParamTreeView *
+CreateFeatureBrowser<OrvGenParam::Array>(OrvGenParam::Array *, const QString &, unsigned long);
 
 } // namespace OrvGui

@@ -9,6 +9,7 @@
 #include "orvcamconfigpulsedialog.h"
 #include "orvcamconfigstrobedialog.h"
 #include "orvcamconfigtriggerdialog.h"
+#include "orvfeaturebrowser.h"
 #include "selectcamera.h"
 
 #include <QApplication>
@@ -37,6 +38,17 @@ public:
     {
     }
 };
+
+void destroyWindow(OrvGui::IOrvGenParamTreeView *view)
+{
+    if (!view)
+        return;
+    delete view;
+    // Without an event loop nothing else sends the window system what Qt has asked of it, and the
+    // tree would stay on the screen. A question makes Qt send it.
+    if (qApp)
+        QCursor::pos();
+}
 
 /// The dialog is destroyed on return.
 template<class Dialog>
@@ -75,13 +87,47 @@ OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvGenParamArray *array, co
 
 void DestroyGenParamTreeView(OrvGuiParamTreeView *view)
 {
-    if (!view)
-        return;
-    delete view;
-    // Without an event loop nothing else sends the window system what Qt has asked of it, and the
-    // tree would stay on the screen. A question makes Qt send it.
-    if (qApp)
-        QCursor::pos();
+    destroyWindow(view);
+}
+
+OrvGuiFeatureBrowser *CreateFeatureBrowserForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title,
+                                                      unsigned long parent)
+{
+    return OrvGui::CreateFeatureBrowser(nodeMap, fromNarrow(title), parent);
+}
+
+OrvGuiFeatureBrowser *CreateFeatureBrowserForNodemapW(OrvGenApiNodeMap *nodeMap,
+                                                      const wchar_t *title, unsigned long parent)
+{
+    return OrvGui::CreateFeatureBrowser(nodeMap, fromWide(title), parent);
+}
+
+OrvGuiFeatureBrowser *CreateFeatureBrowserForArrayA(OrvGenParamArray *array, const char *title,
+                                                    unsigned long parent)
+{
+    return OrvGui::CreateFeatureBrowser(array, fromNarrow(title), parent);
+}
+
+OrvGuiFeatureBrowser *CreateFeatureBrowserForArrayW(OrvGenParamArray *array, const wchar_t *title,
+                                                    unsigned long parent)
+{
+    return OrvGui::CreateFeatureBrowser(array, fromWide(title), parent);
+}
+
+void DestroyFeatureBrowser(OrvGuiFeatureBrowser *browser)
+{
+    destroyWindow(browser);
+}
+
+const char *SaveFeatureBrowserState(OrvGuiFeatureBrowser *browser)
+{
+    return browser ? browser->saveState() : nullptr;
+}
+
+int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser, const char *state)
+{
+    auto *widget = dynamic_cast<OrvGui::OrvFeatureBrowser *>(browser);
+    return widget && widget->restoreState(state) ? 1 : 0;
 }
 
 OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title, unsigned long parent)

@@ -29,9 +29,11 @@
 #ifdef __cplusplus
 #include "iorvgenparamtreeview.h"
 typedef OrvGui::IOrvGenParamTreeView OrvGuiParamTreeView;
+typedef OrvGui::IOrvGenParamTreeView OrvGuiFeatureBrowser;
 extern "C" {
 #else
 typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
+typedef struct OrvGuiFeatureBrowser OrvGuiFeatureBrowser;
 #endif
 
 /*
@@ -61,6 +63,39 @@ ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvG
 
 /* Null is ignored. Not from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
+
+/*
+ * Opens a browser of the features: the tree, with a search, favourites, marks on what was changed
+ * or refused, and a table of what a selector selects. All else is as with a tree.
+ *
+ * The caller owns the browser and ends it with DestroyFeatureBrowser.
+ */
+ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
+CreateFeatureBrowserForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
+CreateFeatureBrowserForNodemapW(OrvGenApiNodeMap *nodeMap, const wchar_t *title,
+                                unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
+CreateFeatureBrowserForArrayA(OrvGenParamArray *array, const char *title, unsigned long parent);
+ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
+CreateFeatureBrowserForArrayW(OrvGenParamArray *array, const wchar_t *title, unsigned long parent);
+
+/* Null is ignored. Not from inside a callback of a node that the browser shows. */
+ORVCAMERAGUIAPI_EXPORT void DestroyFeatureBrowser(OrvGuiFeatureBrowser *browser);
+
+/*
+ * What is unfolded, the width of the names, the level, the favourites of each camera model and the
+ * options of the search, as one UTF-8 text for LoadFeatureBrowserState. The pointer stays valid
+ * until the next call of either function for this browser, or its end. Null for no browser.
+ */
+ORVCAMERAGUIAPI_EXPORT const char *SaveFeatureBrowserState(OrvGuiFeatureBrowser *browser);
+
+/*
+ * Restores what SaveFeatureBrowserState, or a tree, has saved: 1. Any other text changes nothing:
+ * 0.
+ */
+ORVCAMERAGUIAPI_EXPORT int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser,
+                                                   const char *state);
 
 /*
  * Lets the user pick one of the system's cameras, in a dialog of that title, and returns when he is

@@ -756,6 +756,8 @@ void OrvCamConfigPrivate::keep(CameraHistory::Frame frame, const FrameNumbers &n
 /// camera has left unanswered is tried again at the next turn.
 bool OrvCamConfigPrivate::updateBoth()
 {
+    if (SelectorDetour::isUnderWay())
+        return true; // a selector is elsewhere already
     hasTimedOut = false;
     const bool isBack = readBoth();
     isFrameModeChanged |= hasTimedOut;

@@ -9,8 +9,10 @@
 #include "selectordetour.h"
 
 #include <OrvGenParam/Array.h>
+#include <OrvGenParam/LookAhead.h>
 
 #include <QBrush>
+#include <QMetaMethod>
 #include <QPalette>
 #include <QPointer>
 #include <QStringList>
@@ -247,6 +249,62 @@ bool GenParamTreeModelPrivate::write(GenApi::IValue *value, const QVariant &data
     }
 }
 
+QString GenParamTreeModelPrivate::text(GenApi::IValue *feature, bool mayWait) const
+{
+    QString text;
+    const auto read = [&] {
+        if (isReadable(feature->GetAccessMode()) && !dynamic_cast<GenApi::ICommand *>(feature))
+            text = fromUtf8(feature->ToString(false, false));
+    };
+    try {
+        const auto *lookAhead = dynamic_cast<const OrvGenParam::LookAhead *>(nodeMap);
+        const bool isKnown = lookAhead && lookAhead->look(read);
+        if (!isKnown && (mayWait || !lookAhead))
+            read();
+    } catch (const GenICam::GenericException &) {
+        return QString();
+    }
+    return text;
+}
+
+bool GenParamTreeModelPrivate::isObserved() const
+{
+    static const QMetaMethod writtenSignal = QMetaMethod::fromSignal(&GenParamTreeModel::written);
+    static const QMetaMethod refusedSignal = QMetaMethod::fromSignal(&GenParamTreeModel::refused);
+    return q->isSignalConnected(writtenSignal) || q->isSignalConnected(refusedSignal);
+}
+
+GenParamTreeModelPrivate::Outcome
+GenParamTreeModelPrivate::carryOut(GenApi::IValue *feature, const std::function<bool()> &write,
+                                   QString *reason)
+{
+    GenParamTreeModel *const model = q;
+    const QPointer<GenParamTreeModel> alive(model); // a write may end the model, and so this object
+    const bool isReported = isObserved();
+    const QString before = isReported ? model->text(feature) : QString();
+    Outcome outcome = Refused;
+    QString refusal;
+    try {
+        if (!isWritable(feature->GetAccessMode()))
+            refusal = GenParamTreeModel::tr("The feature cannot be written at the moment.");
+        else
+            outcome = write() ? Written : NotWritable;
+    } catch (const GenICam::GenericException &exception) {
+        refusal = fromUtf8(GenICam::gcstring(exception.GetDescription()));
+    } catch (...) {
+        refusal = GenParamTreeModel::tr("The camera has refused the value.");
+    }
+    if (reason)
+        *reason = refusal;
+    if (!alive || !isReported)
+        return outcome;
+    if (outcome == Written)
+        emit model->written(feature, before, model->text(feature));
+    else if (outcome == Refused)
+        emit model->refused(feature, refusal);
+    return outcome;
+}
+
 // GenParamTreeModel
 
 GenParamTreeModel::GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent)
@@ -360,14 +418,41 @@ bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value,
     const QPointer<GenParamTreeModel> alive(this);
     try {
         GenApi::IValue *feature = GenParamTreeModelPrivate::valueFromIndex(index);
-        if (!feature || !isWritable(feature->GetAccessMode()))
+        if (!feature)
             return false;
-        if (!GenParamTreeModelPrivate::write(feature, value))
-            return false;
-        if (alive)
-            emit dataChanged(index, index, {Qt::EditRole});
-        return true;
+        const auto write = [&] {
+            if (!GenParamTreeModelPrivate::write(feature, value))
+                return false;
+            if (alive)
+                emit dataChanged(index, index, {Qt::EditRole});
+            return true;
+        };
+        return d->carryOut(feature, write) == GenParamTreeModelPrivate::Written;
     } catch (...) {
         return false;
     }
+}
+
+QString GenParamTreeModel::writeText(GenApi::IValue *feature, const QString &text)
+{
+    const auto write = [&] {
+        if (auto *command = dynamic_cast<GenApi::ICommand *>(feature))
+            command->Execute(true);
+        else
+            feature->FromString(toUtf8(text), true);
+        return true;
+    };
+    QString reason;
+    d->carryOut(feature, write, &reason);
+    return reason;
+}
+
+QString GenParamTreeModel::text(GenApi::IValue *feature) const
+{
+    return d->text(feature, true);
+}
+
+QString GenParamTreeModel::knownText(GenApi::IValue *feature) const
+{
+    return d->text(feature, false);
 }

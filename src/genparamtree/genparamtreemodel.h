@@ -57,6 +57,26 @@ public:
     /// written or the camera refuses; the feature then keeps its value.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
+    /// Writes a value as GenICam's text, or executes a command, and reports it as `setData` does.
+    /// Empty on success, otherwise the reason for the refusal. Cells are not told: the feature
+    /// tells them.
+    QString writeText(GenApi::IValue *feature, const QString &text);
+
+    /// The value as GenICam's text; null when it cannot be read, and for a command. Waits for the
+    /// camera only when the value is not known.
+    QString text(GenApi::IValue *feature) const;
+
+    /// The same without waiting; null also for a value that is not known.
+    QString knownText(GenApi::IValue *feature) const;
+
+signals:
+    /// A write of this model has succeeded; the texts are those of `text`, before it and after it.
+    /// Whoever connects here has the value read around each write when it is not known.
+    void written(GenApi::IValue *feature, const QString &before, const QString &after);
+
+    /// A write of this model was refused.
+    void refused(GenApi::IValue *feature, const QString &reason);
+
 private:
     friend class GenParamTreeModelPrivate;
 

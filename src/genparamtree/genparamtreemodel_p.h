@@ -6,6 +6,7 @@
 
 #include <GenApi/GenApi.h>
 
+#include <functional>
 #include <vector>
 
 /// Private part of `GenParamTreeModel`, and the client of its node callbacks.
@@ -37,6 +38,15 @@ public:
 
     /// False for a kind of feature that cannot be written.
     static bool write(GenApi::IValue *value, const QVariant &data);
+
+    enum Outcome { Written, Refused, NotWritable };
+
+    /// Runs a write, whose result is false for what cannot be written at all. An observed one is
+    /// reported, with the texts or the reason.
+    Outcome carryOut(GenApi::IValue *feature, const std::function<bool()> &write,
+                     QString *reason = nullptr);
+    bool isObserved() const;
+    QString text(GenApi::IValue *feature, bool mayWait) const;
 
     GenParamTreeModel *q = nullptr;
     GenApi::INodeMap *nodeMap = nullptr;

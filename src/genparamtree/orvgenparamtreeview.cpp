@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "orvgenparamtreeview.h"
+#include "orvgenparamtreeview_p.h"
 
 #include "featurenamedelegate.h"
 #include "genparamtreemodel.h"
-#include "knownvaluesmodel.h"
-#include "safedelegate.h"
-#include "treelookahead.h"
 #include "treeviewresizer.h"
 #include "ui_genparamtreeview.h"
 
@@ -14,12 +11,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
-#include <QPointer>
 #include <QSplitter>
-
-#include <cstddef>
-#include <memory>
-#include <string>
 
 namespace OrvGui {
 
@@ -84,40 +76,11 @@ bool numberAfter(const std::string &text, const std::string &mark, int *number)
 
 } // namespace
 
-class OrvGenParamTreeViewPrivate
-{
-public:
-    template<typename Source>
-    void Init(OrvGenParamTreeView *view, Source *source);
-    void buildSplitter();
-    void watchFirstShow();
-    void halveColumns();
-
-    template<typename Source>
-    void setModel(Source *source);
-    void setModel(std::nullptr_t);
-    void installModel(QAbstractItemModel *model);
-    void setLookAhead(TreeLookAhead *lookAhead);
-    void setSpanForChildren(const QModelIndex &parent);
-    void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
-    void endEditing();
-    void leaveRowsThatGo(int level);
-    void describeCurrent();
-
-    void saveState();
-    std::string saveState(const QModelIndex &parent, const std::string &parentPath) const;
-    void loadState(const char *text);
-    void loadState(const QModelIndex &parent, const std::string &parentPath);
-
-    OrvGenParamTreeView *q = nullptr;
-    const std::unique_ptr<Ui::GenParamTreeView> ui{new Ui::GenParamTreeView};
-    SafeDelegate *valueDelegate = nullptr;
-    QPointer<TreeLookAhead> lookAhead; ///< of the model
-    std::string state;
-    bool columnWidthRestored = false;
-};
-
 // OrvGenParamTreeViewPrivate
+
+OrvGenParamTreeViewPrivate::OrvGenParamTreeViewPrivate() : ui(new Ui::GenParamTreeView) {}
+
+OrvGenParamTreeViewPrivate::~OrvGenParamTreeViewPrivate() = default;
 
 template<typename Source>
 void OrvGenParamTreeViewPrivate::Init(OrvGenParamTreeView *view, Source *source)
@@ -200,10 +163,11 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     const auto shown = [this] { return ui->treeView->shownFeatures(); };
     proxy->setLookAhead(TreeLookAhead::create(nodeMapOf(source), shown, proxy));
     setLookAhead(proxy->lookAhead());
-    installModel(proxy);
+    QAbstractItemModel *model = wrap ? wrap(proxy) : proxy;
+    installModel(model);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
-    QObject::connect(proxy, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {
+    QObject::connect(model, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {
         if (featureOf(cell) == featureOf(ui->treeView->currentIndex()))
             describeCurrent();
     });
@@ -294,7 +258,9 @@ void OrvGenParamTreeViewPrivate::leaveRowsThatGo(int level)
 
 void OrvGenParamTreeViewPrivate::describeCurrent()
 {
-    ui->whatsThisLabel->describe(featureOf(ui->treeView->currentIndex()), lookAhead);
+    const QModelIndex current = ui->treeView->currentIndex();
+    const bool isOfCamera = !current.data(OwnRowRole).toBool();
+    ui->whatsThisLabel->describe(isOfCamera ? featureOf(current) : nullptr, lookAhead);
 }
 
 void OrvGenParamTreeViewPrivate::saveState()

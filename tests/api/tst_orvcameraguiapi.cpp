@@ -217,14 +217,14 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     QTRY_VERIFY(shows(panel, view));
     QCOMPARE(widget(view).size(), QSize(600, 400));
 
-    // Another one comes and goes.
+    // A browser comes and goes.
     const xcb_window_t other =
         m_screen.makeWindow(m_screen.screen().root, QRect(710, 0, 350, 500), panelColour);
     Features otherMap;
-    IOrvGenParamTreeView *otherView = CreateGenParamTreeViewForNodemapA(&otherMap, "", other);
+    OrvGuiFeatureBrowser *otherView = CreateFeatureBrowserForNodemapA(&otherMap, "", other);
     otherView->setVisibility(OrvGui::Guru);
     QTRY_VERIFY(shows(other, otherView));
-    DestroyGenParamTreeView(otherView);
+    DestroyFeatureBrowser(otherView);
     m_screen.destroy(other);
     for (const QSize &size : {QSize(660, 460), QSize(500, 300)}) {
         m_screen.resize(panel, size);

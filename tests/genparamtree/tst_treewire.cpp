@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "browser/orvfeaturebrowser_p.h"
 #include "treecells.h"
 
 #include "../cameraapi/cameratestsupport.h"
@@ -11,6 +12,7 @@
 #include <QComboBox>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QTextBrowser>
 #include <QTreeView>
 #include <QtTest>
@@ -113,6 +115,7 @@ private slots:
     void nothingWaits();
     void writing();
     void selection();
+    void selectorTable();
 
 private:
     template<typename Editor>
@@ -346,6 +349,30 @@ void TestTreeWire::selection()
     m_view->clearParams();
     QTest::qWait(2 * delay);
     QVERIFY(!tree().model());
+}
+
+/// Reading through a selector leaves the thread of the windows alone, and the selector where it
+/// was.
+void TestTreeWire::selectorTable()
+{
+    OrvGui::OrvFeatureBrowser browser(m_device->GetParamArray(), nullptr);
+    GenApi::INodeMap *map = m_device->GetParamArray()->GetNodeMap();
+    auto *selector = dynamic_cast<GenApi::IValue *>(map->GetNode("FrameAB_Selector"));
+    auto *level = dynamic_cast<GenApi::IValue *>(map->GetNode("Frame_BlackLevel"));
+    LongestWait wait;
+    QElapsedTimer timer;
+    timer.start();
+    OrvGui::OrvFeatureBrowserPrivate::of(browser).openTable(selector, {level});
+    auto *window = browser.findChild<OrvGui::SelectorTable *>();
+    QVERIFY(window->isReading());
+    QTRY_VERIFY(!window->isReading());
+    const qint64 longest = wait.take();
+    qInfo("%-14s %4lld ms, longest wait %3lld ms", "table", timer.elapsed(), longest);
+    QVERIFY(longest < longestAllowed);
+    const auto &table = *window->findChild<QTableWidget *>();
+    QCOMPARE(table.item(0, 0)->text(), QString("50 DN"));
+    QCOMPARE(table.item(1, 0)->text(), QString("51 DN"));
+    QCOMPARE(selector->ToString(), GenICam::gcstring("FrameA"));
 }
 
 QTEST_MAIN(TestTreeWire)

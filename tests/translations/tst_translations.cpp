@@ -13,9 +13,11 @@
 #include <orvcamconfigstrobedialog.h>
 #include <orvcamconfigtriggerdialog.h>
 #include <orvcameraselectordialog.h>
+#include <orvfeaturebrowser.h>
 #include <orvgenparamtreeview.h>
 #include <setipdialog.h>
 
+#include <QMenu>
 #include <QtTest>
 #include <QtWidgets>
 
@@ -334,6 +336,19 @@ void TestTranslations::everyTextIsTranslated()
             check(*view.findChild<QTextEdit *>());
         }
         check(view);
+    }
+    {
+        OrvGui::OrvFeatureBrowser browser(m_device->GetParamArray(&code), nullptr);
+        browser.show();
+        browser.search(QStringLiteral("1"));
+        check(browser);
+        check(*browser.menu());
+        QTreeView &tree = *browser.treeView();
+        emit tree.customContextMenuRequested(tree.visualRect(tree.model()->index(0, 0)).center());
+        auto *menu = browser.findChild<QMenu *>(QStringLiteral("FeatureMenu"));
+        QVERIFY(menu);
+        check(*menu);
+        menu->close();
     }
     {
         OrvGui::OrvCameraSelectorDialog dialog(m_system);

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostwindow.h"
+#include "treeviewparent.h"
+
+#include <QRect>
+#include <QTimer>
+
+namespace OrvGui {
+
+/// A widget that fills a native window of its host, and follows its size.
+///
+/// Its parent widget is the container that the holder has put around the host's window. Qt's
+/// containers show a foreign window inside a window of ours; a host wants the opposite. So the
+/// container stays hidden, and the widget gets a native window that is a child of the host's.
+template<class View>
+class Embedded : public View
+{
+public:
+    /// The holder must have wrapped a window.
+    explicit Embedded(const TreeViewParent &holder) : View(holder.container)
+    {
+        this->setWindowFlags(Qt::Window);
+        this->winId(); // makes the native window
+        this->windowHandle()->setParent(holder.window);
+        fill(holder.hostWindow->size());
+        QObject::connect(holder.hostWindow, &HostWindow::resized, this, &Embedded::fill);
+    }
+
+    ~Embedded() override
+    {
+        // The holder, our child, is about to delete both of our parents: the container and the
+        // host's QWindow. They must not take us with them.
+        this->destroy();
+        this->setParent(nullptr);
+    }
+
+protected:
+    void moveEvent(QMoveEvent *event) override
+    {
+        View::moveEvent(event);
+        stay();
+    }
+    void resizeEvent(QResizeEvent *event) override
+    {
+        View::resizeEvent(event);
+        stay();
+    }
+
+private:
+    void fill(const QSize &devicePixels)
+    {
+        if (!devicePixels.isValid())
+            return;
+        const qreal ratio = this->windowHandle()->devicePixelRatio();
+        m_place = QRect(0, 0, qRound(devicePixels.width() / ratio),
+                        qRound(devicePixels.height() / ratio));
+        this->setGeometry(m_place);
+    }
+
+    /// For a moment our window was one of the screen, and a window manager may place it only when
+    /// it has become part of the host's.
+    void stay()
+    {
+        if (m_place.isValid() && this->geometry() != m_place)
+            QTimer::singleShot(0, this, [this] { this->setGeometry(m_place); });
+    }
+
+    QRect m_place; ///< in the host's window
+};
+
+} // namespace OrvGui

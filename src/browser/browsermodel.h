@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "featuremarks.h"
+#include "featuresearch.h"
+
+#include <GenApi/IValue.h>
+
+#include <QAbstractProxyModel>
+#include <QHash>
+#include <QIcon>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace OrvGui {
+
+class KnownValuesModel;
+
+/// The feature tree as the browser shows it: with the favourites in a category of their own on top,
+/// narrowed to some features, and with marks on those that were changed or have refused a write.
+///
+/// It keeps the rows that the tree has at its level. The category of the favourites stands for no
+/// feature of the camera; it holds the root of the tree, whose category it is.
+class BrowserModel : public QAbstractProxyModel
+{
+    Q_OBJECT
+
+public:
+    using Features = FeatureSearch::Features;
+
+    /// Takes over the tree of the values, which has its source model.
+    BrowserModel(KnownValuesModel *source, GenApi::IValue *root, QObject *parent);
+    ~BrowserModel() override;
+
+    /// The icon of the favourites.
+    static QIcon star();
+
+    FeatureMarks &marks() { return *m_marks; }
+    FeatureSearch &search() { return m_search; }
+
+    /// Features that the tree does not show have no row among the favourites.
+    void setFavourites(const QVector<GenApi::IValue *> &favourites);
+
+    /// Shows those features alone, with their categories; a category of them that has none of them
+    /// below it keeps all its rows. Nothing for all features. False when the rows stay as they are.
+    bool narrow(const std::optional<Features> &features);
+
+    /// The name cells of the first categories in which a search has found something, so that there
+    /// are not more rows than that in them.
+    QModelIndexList foundCategories(int maxRows) const;
+
+    /// The name cell of the first feature that was found, favourites left out of account.
+    QModelIndex firstFound() const;
+
+    /// The name cells of all shown categories.
+    QModelIndexList categories() const;
+
+    bool isFavourites(const QModelIndex &index) const;
+    bool isBelowFavourites(const QModelIndex &index) const;
+
+    /// The name cell of the first row of the feature, favourites left out of account; invalid when
+    /// it is not shown.
+    QModelIndex place(const GenApi::IValue *feature) const;
+
+    /// While features are frozen their cells show the values that they had before.
+    void freeze(const QVector<GenApi::IValue *> &features);
+    void thaw();
+
+    /// Has all rows of the feature looked at anew.
+    void refresh(const GenApi::IValue *feature);
+
+    QModelIndex index(int row, int column,
+                      const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    using QObject::parent;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex mapToSource(const QModelIndex &index) const override;
+    QModelIndex mapFromSource(const QModelIndex &sourceIndex) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+private:
+    struct Row
+    {
+        GenApi::IValue *feature = nullptr;
+        Row *category = nullptr;
+        const Row *original = nullptr; ///< of a favourite: the row among the other features
+        int sourceRow = -1;
+        bool isCategory = false;
+        bool isFound = false; ///< of a category: something below it was found
+        int shownRow = -1;    ///< -1 for one that is not shown
+        std::vector<std::unique_ptr<Row>> rows;
+        std::vector<Row *> shownRows;
+    };
+
+    void follow();
+    std::unique_ptr<Row> read() const;
+    void readRows(const QModelIndex &sourceParent, Row *category) const;
+    void addFavourites(Row *root) const;
+    void rebuild();
+    void adopt(std::unique_ptr<Row> root);
+    void noteRows(Row *row);
+    void changeLayout(const std::function<void()> &change);
+    const Row *counterpart(const Row *former) const;
+
+    void show(Row *category);
+    bool keepFound(Row *category);
+    void showAll(Row *category);
+
+    const Row *rowOf(const QModelIndex &index) const;
+    QModelIndex indexOf(const Row *row, int column) const;
+    QModelIndex sourceOf(const Row *row, int column) const;
+    QVariant favouritesData(int column, int role) const;
+    QVariant nameToolTip(const QModelIndex &index, const GenApi::IValue *feature) const;
+    QVariant valueToolTip(const GenApi::IValue *feature) const;
+    void forwardChange(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                       const QVector<int> &roles);
+
+    KnownValuesModel *const m_values;
+    GenApi::IValue *const m_rootFeature;
+    FeatureMarks *m_marks;
+    FeatureSearch m_search;
+    QVector<GenApi::IValue *> m_favourites;
+    std::optional<Features> m_narrowed;
+    std::unique_ptr<Row> m_root;
+    std::unique_ptr<Row> m_former; ///< while persistent indexes are moved from it
+    Row *m_favouritesRow = nullptr;
+    QHash<const GenApi::IValue *, QVector<Row *>> m_rowsOf;
+    QHash<const GenApi::IValue *, QVariant> m_frozen;
+};
+
+} // namespace OrvGui

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <GenApi/IValue.h>
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <unordered_map>
+#include <vector>
+
+namespace OrvGui {
+
+/// Finds features by words in their names, tool tips and descriptions.
+///
+/// The texts are collected once, at the first search; nothing is read from the camera. A search
+/// that only narrows the last one looks at what that one found.
+class FeatureSearch
+{
+public:
+    using Features = QSet<const GenApi::IValue *>;
+
+    struct Result
+    {
+        Features features;
+        std::vector<int> counts{0, 0, 0}; ///< of the features that appear at each level
+    };
+
+    /// The root of all features, whatever their level; it must outlive the search. Null for none.
+    explicit FeatureSearch(GenApi::IValue *root) : m_root(root) {}
+
+    /// Whether tool tips and descriptions are searched, not names alone.
+    void setWithDescriptions(bool withDescriptions);
+
+    /// Collects the texts, so that the first search need not.
+    void prepare();
+
+    /// All words of the text, in any order and case. An empty text finds everything.
+    const Result &find(const QString &text);
+
+    static QStringList wordsOf(const QString &text);
+
+    /// How many features the last search has looked at.
+    int looks() const { return m_looks; }
+
+private:
+    struct Entry
+    {
+        const GenApi::IValue *feature = nullptr;
+        int level = 0; ///< the lowest at which a row of it is shown
+        QString names;
+        QString texts;
+    };
+
+    void collect(GenApi::IValue *category, int level);
+    void add(GenApi::IValue *feature, int level);
+    bool matches(const Entry &entry, const QStringList &words) const;
+
+    GenApi::IValue *const m_root;
+    std::vector<Entry> m_entries; ///< empty until the first search
+    std::unordered_map<const GenApi::IValue *, std::size_t> m_places;
+    std::vector<int> m_found; ///< by the last search; entries
+    QString m_text;
+    Result m_result;
+    bool m_hasResult = false;
+    bool m_withDescriptions = true;
+    int m_looks = 0;
+};
+
+} // namespace OrvGui

@@ -1,0 +1,689 @@
+// SPDX-License-Identifier: MIT
+#include "orvfeaturebrowser_p.h"
+
+#include "base/cameratext.h"
+#include "featuremenu.h"
+#include "genparamtree/genicamstring.h"
+#include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/knownvaluesmodel.h"
+
+#include <GenApi/GenApi.h>
+#include <OrvGenParam/Array.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace OrvGui {
+
+namespace {
+
+const int nameColumn = 0;
+
+/// More rows are not unfolded by a search.
+const int maxUnfolded = 1000;
+
+// As around the tree.
+const int margin = 11;
+const int spacing = 6;
+
+GenApi::IValue *featureOf(const QModelIndex &index)
+{
+    return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *array)
+{
+    int32_t error = 0;
+    return array ? array->GetNodeMap(&error) : nullptr;
+}
+
+GenApi::IValue *valueOf(GenApi::INodeMap *nodeMap, const QString &name)
+{
+    return dynamic_cast<GenApi::IValue *>(nodeMap->GetNode(toUtf8(name)));
+}
+
+} // namespace
+
+// OrvFeatureBrowserPrivate
+
+OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
+    : q(browser)
+    , view(new OrvGenParamTreeView(browser))
+    , searchLine(new QLineEdit(browser))
+    , countLabel(new QLabel(browser))
+    , higherButton(new QToolButton(browser))
+    , menuButton(new QToolButton(browser))
+    , menu(new QMenu(menuButton))
+    , searchTextsAction(new QAction(browser))
+    , onlyChangedAction(new QAction(browser))
+    , putBackAction(new QAction(browser))
+    , nameDelegate(new FoundNameDelegate(browser))
+{
+    buildWindow();
+    buildMenu();
+    setTexts();
+    OrvGenParamTreeViewPrivate::of(*view).wrap = [this](KnownValuesModel *values) {
+        return wrap(values);
+    };
+    tree().setItemDelegateForColumn(nameColumn, nameDelegate);
+    tree().setContextMenuPolicy(Qt::CustomContextMenu);
+    tree().installEventFilter(q);
+    searchLine->installEventFilter(q);
+    QObject::connect(&tree(), &QWidget::customContextMenuRequested, q,
+                     [this](const QPoint &position) { openMenu(position); });
+    QObject::connect(searchLine, &QLineEdit::textChanged, q, [this] { narrow(); });
+    QObject::connect(higherButton, &QToolButton::clicked, q, [this] { showHigherLevel(); });
+    auto *levels = view->findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+    const auto levelChanged =
+        static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
+    // Behind the tree's own, which comes with each model.
+    const auto followLevel = [this] {
+        if (shown)
+            spanCategories();
+        isUnfoldingOutdated = true;
+        narrow();
+    };
+    QObject::connect(levels, levelChanged, q, followLevel, Qt::QueuedConnection);
+    renarrow.setSingleShot(true);
+    renarrow.setInterval(0);
+    QObject::connect(&renarrow, &QTimer::timeout, q, [this] { narrow(); });
+    auto *find = new QShortcut(QKeySequence::Find, q);
+    find->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(find, &QShortcut::activated, q, [this] {
+        searchLine->setFocus(Qt::ShortcutFocusReason);
+        searchLine->selectAll();
+    });
+}
+
+void OrvFeatureBrowserPrivate::buildWindow()
+{
+    searchLine->setObjectName(QStringLiteral("searchLine"));
+    searchLine->setClearButtonEnabled(true);
+    countLabel->setObjectName(QStringLiteral("countLabel"));
+    countLabel->hide();
+    higherButton->setObjectName(QStringLiteral("higherButton"));
+    higherButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    higherButton->hide();
+    menuButton->setObjectName(QStringLiteral("menuButton"));
+    menuButton->setPopupMode(QToolButton::InstantPopup);
+    menuButton->setMenu(menu);
+
+    auto *line = new QHBoxLayout;
+    line->setSpacing(spacing);
+    line->setContentsMargins(margin, margin, margin, 0);
+    line->addWidget(searchLine, 1);
+    line->addWidget(menuButton);
+    auto *counts = new QHBoxLayout; // as high as what is shown in it
+    counts->setSpacing(spacing);
+    counts->setContentsMargins(margin, 0, margin, 0);
+    counts->addWidget(countLabel);
+    counts->addWidget(higherButton);
+    counts->addStretch(1);
+    auto *layout = new QVBoxLayout(q);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(line);
+    layout->addLayout(counts);
+    layout->addWidget(view, 1);
+    QLayout *treeLayout = view->layout();
+    treeLayout->setContentsMargins(margin, spacing, margin, margin);
+    q->resize(view->size() + QSize(0, line->sizeHint().height()));
+}
+
+void OrvFeatureBrowserPrivate::buildMenu()
+{
+    menu->setObjectName(QStringLiteral("browserMenu"));
+    onlyChangedAction->setObjectName(QStringLiteral("onlyChanged"));
+    onlyChangedAction->setCheckable(true);
+    putBackAction->setObjectName(QStringLiteral("putBackAll"));
+    putBackAction->setEnabled(false);
+    searchTextsAction->setObjectName(QStringLiteral("searchTexts"));
+    searchTextsAction->setCheckable(true);
+    searchTextsAction->setChecked(true);
+    menu->addAction(onlyChangedAction);
+    menu->addAction(putBackAction);
+    menu->addSeparator();
+    menu->addAction(searchTextsAction);
+    QObject::connect(onlyChangedAction, &QAction::toggled, q, [this] { narrow(); });
+    QObject::connect(putBackAction, &QAction::triggered, q, [this] { putBack(nullptr); });
+    QObject::connect(searchTextsAction, &QAction::toggled, q, [this](bool isOn) {
+        remembered.searchesTexts = isOn;
+        if (shown)
+            shown->search().setWithDescriptions(isOn);
+        narrow();
+    });
+}
+
+void OrvFeatureBrowserPrivate::setTexts()
+{
+    searchLine->setPlaceholderText(OrvFeatureBrowser::tr("Search (Ctrl+F)"));
+    searchLine->setAccessibleName(OrvFeatureBrowser::tr("Search"));
+    menuButton->setText(OrvFeatureBrowser::tr("Menu"));
+    onlyChangedAction->setText(OrvFeatureBrowser::tr("Show Only Changed"));
+    putBackAction->setText(OrvFeatureBrowser::tr("Put Back All"));
+    searchTextsAction->setText(OrvFeatureBrowser::tr("Search in Descriptions"));
+}
+
+// Features
+
+template<typename Source>
+void OrvFeatureBrowserPrivate::setParams(Source *source, GenApi::INodeMap *newNodeMap)
+{
+    clearParams();
+    nodeMap = newNodeMap;
+    try {
+        view->setParams(source);
+    } catch (...) {
+        nodeMap = nullptr;
+        view->clearParams();
+        throw;
+    }
+    if (!shown)
+        return;
+    showFavourites();
+    restoreTree();
+    narrow();
+}
+
+void OrvFeatureBrowserPrivate::clearParams()
+{
+    delete table;
+    rememberTree();
+    before.reset();
+    view->clearParams();
+    nodeMap = nullptr;
+    marksChanged();
+    narrow();
+}
+
+QAbstractItemModel *OrvFeatureBrowserPrivate::wrap(KnownValuesModel *values)
+{
+    auto *root = nodeMap ? dynamic_cast<GenApi::IValue *>(nodeMap->GetNode("Root")) : nullptr;
+    auto *model = new BrowserModel(values, root, view);
+    shown = model;
+    model->search().setWithDescriptions(remembered.searchesTexts);
+    QObject::connect(&model->marks(), &FeatureMarks::changed, q, [this] { marksChanged(); });
+    QObject::connect(features(), &GenParamTreeModel::written, q,
+                     [this](GenApi::IValue *feature, const QString &earlier, const QString &after) {
+                         if (observer)
+                             observer(feature, earlier, after);
+                     });
+    return model;
+}
+
+void OrvFeatureBrowserPrivate::noteWrite(GenApi::IValue *feature, const QString &earlier,
+                                         const QString &after)
+{
+    if (shown)
+        shown->marks().noteWrite(feature, earlier, after);
+}
+
+GenParamTreeModel *OrvFeatureBrowserPrivate::features() const
+{
+    auto *values = shown ? qobject_cast<KnownValuesModel *>(shown->sourceModel()) : nullptr;
+    return values ? qobject_cast<GenParamTreeModel *>(values->sourceModel()) : nullptr;
+}
+
+QByteArray OrvFeatureBrowserPrivate::saveTree() const
+{
+    try {
+        return view->saveState();
+    } catch (const GenICam::GenericException &) {
+        return QByteArray(); // a category has fewer features now
+    }
+}
+
+void OrvFeatureBrowserPrivate::rememberTree()
+{
+    if (!shown)
+        return;
+    const QByteArray now = saveTree();
+    const QByteArray look = before ? before->text : now;
+    if (look.isEmpty() || now.isEmpty())
+        return;
+    // The width and the level are those of now.
+    const char mark[] = "&amp;W";
+    remembered.tree = look.left(int(look.indexOf(mark))) + now.mid(int(now.indexOf(mark)));
+}
+
+void OrvFeatureBrowserPrivate::restoreTree()
+{
+    const QByteArray tree = BrowserState::withLevel(remembered.tree, {});
+    if (tree.isEmpty())
+        return;
+    try {
+        view->loadState(tree.constData());
+    } catch (const GenICam::GenericException &) {
+        // A category has fewer features now.
+    }
+    spanCategories();
+}
+
+// Search
+
+void OrvFeatureBrowserPrivate::narrow()
+{
+    renarrow.stop();
+    const QStringList words = FeatureSearch::wordsOf(searchLine->text());
+    const bool isNarrowed = shown && (!words.isEmpty() || onlyChangedAction->isChecked());
+    nameDelegate->setWords(words);
+    if (!isNarrowed) {
+        showCounts(nullptr);
+        if (shown && before)
+            giveBack();
+        return;
+    }
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (!shown) // a host has replaced the tree in reaction to what was written
+        return;
+    if (!before)
+        remember();
+
+    FeatureSearch::Features wanted = shown->marks().changedFeatures();
+    if (words.isEmpty()) {
+        showCounts(nullptr);
+    } else {
+        const FeatureSearch::Result &result = shown->search().find(searchLine->text());
+        showCounts(&result);
+        wanted =
+            onlyChangedAction->isChecked() ? wanted.intersect(result.features) : result.features;
+    }
+    const bool isOther = shown->narrow(wanted);
+    if (isOther || isUnfoldingOutdated)
+        showNarrowed();
+    tree().viewport()->update(); // other marks in the names
+}
+
+/// Unfolds what was found, as much as somebody would look at: the layout of thousands of rows takes
+/// longer than a key may.
+void OrvFeatureBrowserPrivate::showNarrowed()
+{
+    tree().collapseAll();
+    tree().scheduleDelayedItemsLayout();
+    for (const QModelIndex &category : shown->foundCategories(maxUnfolded))
+        tree().expand(category);
+    spanCategories();
+    isUnfoldingOutdated = false;
+    OrvGenParamTreeViewPrivate::of(*view).describeCurrent(); // the current row may have gone
+}
+
+void OrvFeatureBrowserPrivate::remember()
+{
+    Look look;
+    look.text = saveTree();
+    for (const QModelIndex &category : shown->categories()) {
+        if (tree().isExpanded(category))
+            look.expanded.emplace_back(featureOf(category), featureOf(category.parent()));
+    }
+    look.current = featureOf(tree().currentIndex());
+    look.isCurrentFavourite = shown->isBelowFavourites(tree().currentIndex());
+    look.scrollPosition = tree().verticalScrollBar()->value();
+    before = std::move(look);
+    isUnfoldingOutdated = true;
+}
+
+void OrvFeatureBrowserPrivate::giveBack()
+{
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (!shown || !before)
+        return;
+    const Look look = *std::exchange(before, {});
+    shown->narrow({});
+    tree().collapseAll();
+    tree().scheduleDelayedItemsLayout();
+    QModelIndex current = look.isCurrentFavourite ? QModelIndex() : shown->place(look.current);
+    for (const QModelIndex &category : shown->categories()) {
+        const auto entry = std::make_pair(featureOf(category), featureOf(category.parent()));
+        if (std::find(look.expanded.begin(), look.expanded.end(), entry) != look.expanded.end())
+            tree().expand(category);
+        if (look.isCurrentFavourite && shown->isFavourites(category)) {
+            for (int row = 0; row < shown->rowCount(category); ++row) {
+                if (featureOf(shown->index(row, nameColumn, category)) == look.current)
+                    current = shown->index(row, nameColumn, category);
+            }
+        }
+    }
+    spanCategories();
+    tree().setCurrentIndex(current);
+    tree().visualRect(shown->index(0, nameColumn)); // does the layout, and with it the scroll bar
+    tree().verticalScrollBar()->setValue(look.scrollPosition);
+    OrvGenParamTreeViewPrivate::of(*view).describeCurrent();
+}
+
+// What was hidden in between is no longer spanned.
+void OrvFeatureBrowserPrivate::spanCategories()
+{
+    for (const QModelIndex &category : shown->categories()) {
+        if (!tree().isFirstColumnSpanned(category.row(), category.parent()))
+            tree().setFirstColumnSpanned(category.row(), category.parent(), true);
+    }
+}
+
+/// Null without a search.
+void OrvFeatureBrowserPrivate::showCounts(const FeatureSearch::Result *result)
+{
+    countLabel->setVisible(result);
+    higherButton->hide();
+    if (!result)
+        return;
+    const auto level = static_cast<std::size_t>(qBound(0, int(view->visibility()), 2));
+    const int count = result->counts[level];
+    countLabel->setText(count == 0 ? OrvFeatureBrowser::tr("Nothing found")
+                                   : OrvFeatureBrowser::tr("%1 found").arg(count));
+    const int more = result->counts.back() - count;
+    if (more == 0)
+        return;
+    higherLevel = OrvGui::Guru;
+    for (int candidate = OrvGui::Guru; candidate > int(level); --candidate) {
+        if (result->counts[static_cast<std::size_t>(candidate)] == result->counts.back())
+            higherLevel = candidate;
+    }
+    const auto *levels = view->findChild<QComboBox *>(QStringLiteral("cbVisibility"));
+    higherButton->setText(
+        OrvFeatureBrowser::tr("%1 more at level %2").arg(more).arg(levels->itemText(higherLevel)));
+    higherButton->setToolTip(OrvFeatureBrowser::tr("Shows them"));
+    higherButton->show();
+}
+
+void OrvFeatureBrowserPrivate::showHigherLevel()
+{
+    view->setVisibility(static_cast<Visibility>(higherLevel));
+    isUnfoldingOutdated = true;
+    narrow();
+}
+
+void OrvFeatureBrowserPrivate::endSearch()
+{
+    searchLine->clear();
+    onlyChangedAction->setChecked(false);
+    tree().setFocus(Qt::OtherFocusReason);
+}
+
+void OrvFeatureBrowserPrivate::goToFirstFound()
+{
+    tree().setFocus(Qt::OtherFocusReason);
+    const QModelIndex first = shown && before ? shown->firstFound() : QModelIndex();
+    if (first.isValid())
+        tree().setCurrentIndex(first);
+}
+
+/// In its category, at a level at which it is shown.
+void OrvFeatureBrowserPrivate::goTo(GenApi::IValue *feature)
+{
+    if (!shown->place(feature).isValid()) {
+        searchLine->clear();
+        onlyChangedAction->setChecked(false);
+    }
+    for (int level = view->visibility() + 1;
+         shown && !shown->place(feature).isValid() && level <= OrvGui::Guru; ++level)
+        view->setVisibility(static_cast<Visibility>(level));
+    if (!shown)
+        return;
+    const QModelIndex place = shown->place(feature);
+    if (!place.isValid())
+        return;
+    tree().setCurrentIndex(place);
+    tree().scrollTo(place);
+    tree().setFocus(Qt::OtherFocusReason);
+}
+
+// Favourites
+
+QString OrvFeatureBrowserPrivate::model() const
+{
+    return nodeMap ? fromUtf8(nodeMap->GetDeviceName()) : QString();
+}
+
+bool OrvFeatureBrowserPrivate::isFavourite(GenApi::IValue *feature) const
+{
+    return remembered.favourites.value(model()).contains(
+        fromUtf8(feature->GetNode()->GetName(false)));
+}
+
+void OrvFeatureBrowserPrivate::setFavourite(GenApi::IValue *feature, bool isOn)
+{
+    QStringList &names = remembered.favourites[model()];
+    const QString name = fromUtf8(feature->GetNode()->GetName(false));
+    names.removeAll(name);
+    if (isOn)
+        names.append(name);
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (shown)
+        showFavourites();
+}
+
+void OrvFeatureBrowserPrivate::showFavourites()
+{
+    QVector<GenApi::IValue *> features;
+    for (const QString &name : remembered.favourites.value(model())) {
+        GenApi::IValue *feature = valueOf(nodeMap, name);
+        if (feature && !features.contains(feature))
+            features.append(feature);
+    }
+    const auto group = [this] {
+        const QModelIndex first = shown->index(0, nameColumn);
+        return shown->isFavourites(first) ? first : QModelIndex();
+    };
+    const bool hadGroup = group().isValid();
+    shown->setFavourites(features);
+    spanCategories();
+    if (!hadGroup && group().isValid())
+        tree().expand(group());
+}
+
+// The context menu
+
+void OrvFeatureBrowserPrivate::openMenu(const QPoint &position)
+{
+    const QModelIndex row = tree().indexAt(position);
+    if (!shown || !row.isValid() || !features())
+        return;
+    GenApi::IValue *feature = featureOf(row);
+    const bool isStarred = feature && !shown->isFavourites(row) && isFavourite(feature);
+    auto *context = new FeatureMenu(row, *shown, *features(), isStarred, q);
+    context->setAttribute(Qt::WA_DeleteOnClose);
+    // The menu must not be open for a tree that is gone.
+    QObject::connect(shown.data(), &QObject::destroyed, context, &QWidget::close);
+    QObject::connect(context, &FeatureMenu::featureWanted, q,
+                     [this](GenApi::IValue *wanted) { goTo(wanted); });
+    QObject::connect(context, &FeatureMenu::favouriteWanted, q,
+                     [this](GenApi::IValue *wanted, bool isOn) { setFavourite(wanted, isOn); });
+    QObject::connect(context, &FeatureMenu::putBackWanted, q,
+                     [this](GenApi::IValue *wanted) { putBack(wanted); });
+    QObject::connect(context, &FeatureMenu::tableWanted, q,
+                     [this](GenApi::IValue *selector, const QVector<GenApi::IValue *> &columns) {
+                         openTable(selector, columns);
+                     });
+    QObject::connect(
+        context, &FeatureMenu::expansionWanted, q,
+        [this](const QPersistentModelIndex &wanted, bool isOn) { expand(wanted, isOn); });
+    context->popup(tree().viewport()->mapToGlobal(position));
+}
+
+void OrvFeatureBrowserPrivate::openTable(GenApi::IValue *selector,
+                                         const QVector<GenApi::IValue *> &columns)
+{
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (!shown)
+        return;
+    delete table;
+    table = new SelectorTable(nodeMap, *features(), *shown, selector, columns, q);
+    table->setAttribute(Qt::WA_DeleteOnClose);
+    table->show();
+}
+
+void OrvFeatureBrowserPrivate::expand(const QPersistentModelIndex &row, bool isExpanded)
+{
+    if (!row.isValid())
+        return;
+    tree().scheduleDelayedItemsLayout();
+    tree().setExpanded(row, isExpanded);
+    const int rows = shown->rowCount(row);
+    for (int child = 0; child < rows; ++child) {
+        const QModelIndex below = shown->index(child, nameColumn, row);
+        if (shown->hasChildren(below))
+            expand(below, isExpanded);
+    }
+}
+
+void OrvFeatureBrowserPrivate::marksChanged()
+{
+    putBackAction->setEnabled(shown && shown->marks().isChanged());
+    if (onlyChangedAction->isChecked())
+        renarrow.start(); // an editor may be writing
+}
+
+void OrvFeatureBrowserPrivate::putBack(const GenApi::IValue *feature)
+{
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (shown)
+        shown->marks().putBack(feature);
+}
+
+// State
+
+void OrvFeatureBrowserPrivate::saveState()
+{
+    rememberTree();
+    if (!shown && !remembered.tree.isEmpty())
+        remembered.tree = BrowserState::withLevel(remembered.tree, view->visibility());
+    text = remembered.toText();
+}
+
+bool OrvFeatureBrowserPrivate::restoreState(const QByteArray &saved)
+{
+    auto state = BrowserState::fromText(saved);
+    if (!state)
+        return false;
+    const bool isOfBrowser = saved.contains("&amp;B");
+    if (isOfBrowser) {
+        remembered = *state;
+        searchTextsAction->setChecked(remembered.searchesTexts);
+    }
+    remembered.tree = state->tree;
+    const std::optional<int> level = state->level();
+    if (level && *level >= OrvGui::Basic && *level <= OrvGui::Guru)
+        view->setVisibility(static_cast<Visibility>(*level));
+    if (!shown)
+        return true;
+    searchLine->clear();
+    onlyChangedAction->setChecked(false);
+    showFavourites();
+    restoreTree();
+    return true;
+}
+
+// OrvFeatureBrowser
+
+OrvFeatureBrowser::OrvFeatureBrowser(QWidget *parent)
+    : QWidget(parent), d(new OrvFeatureBrowserPrivate(this))
+{
+}
+
+OrvFeatureBrowser::OrvFeatureBrowser(GenApi::INodeMap *nodeMap, QWidget *parent)
+    : OrvFeatureBrowser(parent)
+{
+    d->setParams(nodeMap, nodeMap);
+}
+
+OrvFeatureBrowser::OrvFeatureBrowser(OrvGenParam::Array *array, QWidget *parent)
+    : OrvFeatureBrowser(parent)
+{
+    d->setParams(array, nodeMapOf(array));
+}
+
+OrvFeatureBrowser::~OrvFeatureBrowser()
+{
+    delete d->table;
+    d->view->clearParams(); // while what it tells of can still listen
+}
+
+void OrvFeatureBrowser::setParams(OrvGenParam::Array *array)
+{
+    d->setParams(array, nodeMapOf(array));
+}
+
+void OrvFeatureBrowser::setParams(GenApi::INodeMap *nodeMap)
+{
+    d->setParams(nodeMap, nodeMap);
+}
+
+void OrvFeatureBrowser::clearParams()
+{
+    d->clearParams();
+}
+
+Visibility OrvFeatureBrowser::visibility() const
+{
+    return d->view->visibility();
+}
+
+void OrvFeatureBrowser::setVisibility(OrvGui::Visibility visibility)
+{
+    d->view->setVisibility(visibility);
+}
+
+const char *OrvFeatureBrowser::saveState() const
+{
+    d->saveState();
+    return d->text.constData();
+}
+
+void OrvFeatureBrowser::loadState(const char *state)
+{
+    restoreState(state);
+}
+
+bool OrvFeatureBrowser::restoreState(const char *state)
+{
+    return d->restoreState(QByteArray(state)); // a copy: the text may be our own
+}
+
+QTreeView *OrvFeatureBrowser::treeView() const
+{
+    return d->view->treeView();
+}
+
+QMenu *OrvFeatureBrowser::menu() const
+{
+    return d->menu;
+}
+
+void OrvFeatureBrowser::search(const QString &text)
+{
+    d->searchLine->setText(text);
+}
+
+bool OrvFeatureBrowser::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn && watched == d->searchLine && d->shown)
+        d->shown->search().prepare();
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    const bool isOfLine = watched == d->searchLine;
+    const bool isOfTree = watched == treeView() && treeView()->hasFocus();
+    if (key == Qt::Key_Escape && (isOfLine || (isOfTree && d->before))) {
+        d->endSearch();
+        return true;
+    }
+    if (isOfLine && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down)) {
+        d->goToFirstFound();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace OrvGui

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "browsermodel.h"
+#include "browserstate.h"
+#include "foundnamedelegate.h"
+#include "genparamtree/featuretree.h"
+#include "genparamtree/orvgenparamtreeview_p.h"
+#include "orvfeaturebrowser.h"
+#include "selectortable.h"
+
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QToolButton;
+
+namespace OrvGui {
+
+/// Private part of `OrvFeatureBrowser`.
+class OrvFeatureBrowserPrivate
+{
+public:
+    static OrvFeatureBrowserPrivate &of(OrvFeatureBrowser &browser) { return *browser.d; }
+
+    explicit OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser);
+    void buildWindow();
+    void buildMenu();
+    void setTexts();
+
+    template<typename Source>
+    void setParams(Source *source, GenApi::INodeMap *newNodeMap);
+    void clearParams();
+    QAbstractItemModel *wrap(KnownValuesModel *values);
+    void rememberTree();
+    void restoreTree();
+
+    FeatureTree &tree() const { return static_cast<FeatureTree &>(*view->treeView()); }
+    GenParamTreeModel *features() const;
+
+    void narrow();
+    void showNarrowed();
+    void remember();
+    void giveBack();
+    void spanCategories();
+    void showCounts(const FeatureSearch::Result *result);
+    void showHigherLevel();
+    void endSearch();
+    void goToFirstFound();
+    void goTo(GenApi::IValue *feature);
+
+    QString model() const;
+    bool isFavourite(GenApi::IValue *feature) const;
+    void setFavourite(GenApi::IValue *feature, bool isOn);
+    void showFavourites();
+
+    void openMenu(const QPoint &position);
+    void openTable(GenApi::IValue *selector, const QVector<GenApi::IValue *> &columns);
+    void expand(const QPersistentModelIndex &row, bool isExpanded);
+    void marksChanged();
+
+    /// For a write to the same camera that went past the browser, so that it shows what was
+    /// changed.
+    void noteWrite(GenApi::IValue *feature, const QString &earlier, const QString &after);
+    void putBack(const GenApi::IValue *feature);
+
+    QByteArray saveTree() const;
+    void saveState();
+    bool restoreState(const QByteArray &text);
+
+    OrvFeatureBrowser *const q;
+    OrvGenParamTreeView *view;
+    QLineEdit *searchLine;
+    QLabel *countLabel;
+    QToolButton *higherButton;
+    QToolButton *menuButton;
+    QMenu *menu;
+    QAction *searchTextsAction;
+    QAction *onlyChangedAction;
+    QAction *putBackAction;
+    FoundNameDelegate *nameDelegate;
+
+    /// Called after each write of the browser, putting back and tables included, with GenICam's
+    /// texts before and after it; null for one that cannot be read. The selectors of the feature
+    /// are where they were for the write, and may be elsewhere afterwards.
+    std::function<void(GenApi::IValue *, const QString &, const QString &)> observer;
+
+    QTimer renarrow; ///< when what was changed is another set than before
+    QPointer<SelectorTable> table;
+
+    GenApi::INodeMap *nodeMap = nullptr;
+    QPointer<BrowserModel> shown; ///< null without features
+    BrowserState remembered;      ///< but for the tree's part while there are features
+    QByteArray text;              ///< handed out by `saveState`
+    int higherLevel = 0;          ///< at which all is shown that was found
+
+    /// What the tree looked like before it was narrowed.
+    struct Look
+    {
+        QByteArray text;
+        /// Categories, each with the one that it is in.
+        std::vector<std::pair<GenApi::IValue *, GenApi::IValue *>> expanded;
+        GenApi::IValue *current = nullptr;
+        bool isCurrentFavourite = false;
+        int scrollPosition = 0;
+    };
+    std::optional<Look> before; ///< while it is narrowed
+    bool isUnfoldingOutdated = false;
+};
+
+} // namespace OrvGui

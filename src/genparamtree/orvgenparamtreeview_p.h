@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "knownvaluesmodel.h"
+#include "orvgenparamtreeview.h"
+#include "safedelegate.h"
+#include "treelookahead.h"
+
+#include <QPointer>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace Ui {
+class GenParamTreeView;
+}
+
+namespace OrvGui {
+
+/// A role of rows that stand for no feature of the camera, though they hold one.
+const int OwnRowRole = Qt::UserRole + 1;
+
+/// Private part of `OrvGenParamTreeView`. What stands around a tree reaches through it what a host
+/// has no business with.
+class OrvGenParamTreeViewPrivate
+{
+public:
+    OrvGenParamTreeViewPrivate();
+    ~OrvGenParamTreeViewPrivate();
+
+    static OrvGenParamTreeViewPrivate &of(OrvGenParamTreeView &view) { return *view.d; }
+
+    template<typename Source>
+    void Init(OrvGenParamTreeView *view, Source *source);
+    void buildSplitter();
+    void watchFirstShow();
+    void halveColumns();
+
+    template<typename Source>
+    void setModel(Source *source);
+    void setModel(std::nullptr_t);
+    void installModel(QAbstractItemModel *model);
+    void setLookAhead(TreeLookAhead *lookAhead);
+    void setSpanForChildren(const QModelIndex &parent);
+    void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
+    void endEditing();
+    void leaveRowsThatGo(int level);
+    void describeCurrent();
+
+    void saveState();
+    std::string saveState(const QModelIndex &parent, const std::string &parentPath) const;
+    void loadState(const char *text);
+    void loadState(const QModelIndex &parent, const std::string &parentPath);
+
+    OrvGenParamTreeView *q = nullptr;
+    const std::unique_ptr<Ui::GenParamTreeView> ui;
+    SafeDelegate *valueDelegate = nullptr;
+    QPointer<TreeLookAhead> lookAhead; ///< of the model
+
+    /// Makes the model that the tree shows in place of this one; it takes this one over. Asked for
+    /// each node map.
+    std::function<QAbstractItemModel *(KnownValuesModel *)> wrap;
+
+    std::string state;
+    bool columnWidthRestored = false;
+};
+
+} // namespace OrvGui
