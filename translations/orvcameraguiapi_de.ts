@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ActionRunner</name>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Use --any-model to load it nevertheless.</source>
+        <translation>Mit --any-model wird sie trotzdem geladen.</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>Die Kamera hat ihn nicht.</translation>
+    </message>
+</context>
+<context>
     <name>CameraTreeDelegate</name>
     <message>
         <source>This camera cannot be opened: it is in use, or access to it is denied.</source>
@@ -177,6 +192,14 @@
         <source>&lt;i&gt;Streamable:&lt;/i&gt; %1</source>
         <translation>&lt;i&gt;Streamfähig:&lt;/i&gt; %1</translation>
     </message>
+    <message>
+        <source>The feature cannot be written at the moment.</source>
+        <translation>Der Parameter kann im Augenblick nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The camera has refused the value.</source>
+        <translation>Die Kamera hat den Wert abgelehnt.</translation>
+    </message>
 </context>
 <context>
     <name>GenParamTreeView</name>
@@ -266,12 +289,6 @@
         <translation>Je Zeile eine Kamera ausgeben und beenden: die Kennung (MAC-Adresse oder Hersteller und Seriennummer), der Name, die IPv4-Adresse, falls vorhanden, und der Zugriff (read-write, read-only, no-access, subnet-mismatch oder unknown), durch Tabulatoren getrennt.</translation>
     </message>
     <message>
-        <source>Shows and changes the features of a camera, which is picked first.
-Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
-        <translation>Zeigt und ändert die Parameter einer Kamera, die zuerst ausgewählt wird.
-Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 falscher Aufruf.</translation>
-    </message>
-    <message>
         <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
         <translation>Es werden alle Kameras aufgelistet: --list-cameras steht allein oder mit --simulate.</translation>
     </message>
@@ -310,6 +327,64 @@ Rückgabewert: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler, 2 f
     <message>
         <source>There is no window &apos;%1&apos;; use one of: %2.</source>
         <translation>Es gibt kein Fenster „%1“; möglich sind: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; sets nothing: use --set NAME=VALUE.</source>
+        <translation>„%1“ setzt nichts: bitte --set NAME=WERT verwenden.</translation>
+    </message>
+    <message>
+        <source>Print the values of these features as the tree shows them, one a line: the name, a tab, the value. This and the following options are carried out in the order given, without a window.</source>
+        <translation>Die Werte dieser Parameter so ausgeben, wie der Baum sie zeigt, je Zeile einen: der Name, ein Tabulator, der Wert. Diese und die folgenden Optionen werden in der angegebenen Reihenfolge ausgeführt, ohne Fenster.</translation>
+    </message>
+    <message>
+        <source>Set features to such values.</source>
+        <translation>Parameter auf solche Werte setzen.</translation>
+    </message>
+    <message>
+        <source>Execute a command, and wait until it is done.</source>
+        <translation>Ein Kommando ausführen und warten, bis es erledigt ist.</translation>
+    </message>
+    <message>
+        <source>Save the settings of the camera in a file.</source>
+        <translation>Die Einstellungen der Kamera in einer Datei speichern.</translation>
+    </message>
+    <message>
+        <source>Write the settings in a file to the camera, and tell what it refuses.</source>
+        <translation>Die Einstellungen in einer Datei in die Kamera schreiben und melden, was sie ablehnt.</translation>
+    </message>
+    <message>
+        <source>Print what is not the same, one a line: the feature, the value in the file, the value in the camera, with tabs between them.</source>
+        <translation>Ausgeben, was nicht gleich ist, je Zeile eines: der Parameter, der Wert in der Datei, der Wert in der Kamera, durch Tabulatoren getrennt.</translation>
+    </message>
+    <message>
+        <source>Print what these options have to tell as one JSON document.</source>
+        <translation>Was diese Optionen zu melden haben, als ein JSON-Dokument ausgeben.</translation>
+    </message>
+    <message>
+        <source>Load settings of another model, too.</source>
+        <translation>Auch Einstellungen eines anderen Modells laden.</translation>
+    </message>
+    <message>
+        <source>Shows and changes the features of a camera, which is picked first.
+Exit status: 0 success (also when no camera is picked), 1 failure (also when a camera refuses something, or is not as a file), 2 wrong usage.</source>
+        <translation>Zeigt und ändert die Parameter einer Kamera, die zuerst ausgewählt wird.
+Exit-Status: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler (auch wenn eine Kamera etwas ablehnt oder nicht wie eine Datei ist), 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>Features are read and written without a window: use --get, --set, --execute, --save, --load and --compare without --window, --screenshot and the lists.</source>
+        <translation>Parameter werden ohne Fenster gelesen und geschrieben: bitte --get, --set, --execute, --save, --load und --compare ohne --window, --screenshot und die Listen verwenden.</translation>
+    </message>
+    <message>
+        <source>Say whose features these are: --simulate, --camera ID or --xml FILE.</source>
+        <translation>Bitte angeben, wessen Parameter das sind: --simulate, --camera ID oder --xml FILE.</translation>
+    </message>
+    <message>
+        <source>There is nothing for --json to print: use it with --get, --set, --execute, --save, --load or --compare.</source>
+        <translation>Für --json gibt es nichts auszugeben: bitte mit --get, --set, --execute, --save, --load oder --compare verwenden.</translation>
+    </message>
+    <message>
+        <source>No settings are loaded: use --any-model with --load.</source>
+        <translation>Es werden keine Einstellungen geladen: bitte --any-model mit --load verwenden.</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1117,28 @@ Trigger</translation>
     </message>
 </context>
 <context>
+    <name>OrvCameraSettings</name>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>Die Kamera hat ihn nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::BrowserModel</name>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>The features that you have marked with a star</source>
+        <translation>Die Parameter, die Sie mit einem Stern markiert haben</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>Abgelehnt: %1</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::CameraInformation</name>
     <message>
         <source>OrvCameraConfiguration</source>
@@ -1104,6 +1201,103 @@ Trigger</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::FeatureJournal</name>
+    <message>
+        <source>There is no %1.</source>
+        <translation>%1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederherstellen: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::FeatureMarks</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1</source>
+        <translation>Früherer Wert: %1</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1 (%2)</source>
+        <translation>Früherer Wert: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::FeatureMenu</name>
+    <message>
+        <source>Copy Name</source>
+        <translation>Namen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &quot;Name = Value&quot;</source>
+        <translation>„Name = Wert“ kopieren</translation>
+    </message>
+    <message>
+        <source>Go to %1</source>
+        <translation>Gehe zu %1</translation>
+    </message>
+    <message>
+        <source>Go to Selected Feature</source>
+        <translation>Gehe zu ausgewähltem Parameter</translation>
+    </message>
+    <message>
+        <source>Show in Its Category</source>
+        <translation>In seiner Kategorie zeigen</translation>
+    </message>
+    <message>
+        <source>Values by %1…</source>
+        <translation>Werte nach %1 …</translation>
+    </message>
+    <message>
+        <source>Remove from Favourites</source>
+        <translation>Aus den Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add to Favourites</source>
+        <translation>Zu den Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation>Zurückstellen</translation>
+    </message>
+    <message>
+        <source>Expand All Below</source>
+        <translation>Alles darunter aufklappen</translation>
+    </message>
+    <message>
+        <source>Collapse All Below</source>
+        <translation>Alles darunter zuklappen</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation>Neu lesen</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::FeatureToolTip</name>
     <message>
         <source>Range: %1 to %2</source>
@@ -1120,6 +1314,118 @@ Trigger</translation>
     <message>
         <source>Feature: %1</source>
         <translation>Parameter: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::FeatureValue</name>
+    <message>
+        <source>The text is not in UTF-8.</source>
+        <translation>Der Text ist nicht in UTF-8.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no integer.</source>
+        <translation>„%1“ ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>„%1“ ist weder wahr noch falsch.</translation>
+    </message>
+    <message>
+        <source>There is no entry &apos;%1&apos;.</source>
+        <translation>Es gibt keinen Eintrag „%1“.</translation>
+    </message>
+    <message>
+        <source>The camera takes values from %1 to %2.</source>
+        <translation>Die Kamera nimmt Werte von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>Die Kamera hat ihn nicht.</translation>
+    </message>
+    <message>
+        <source>It is not available now.</source>
+        <translation>Er ist jetzt nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>It cannot be changed now.</source>
+        <translation>Er kann jetzt nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>It cannot be read.</source>
+        <translation>Er kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The step is %1.</source>
+        <translation>Die Schrittweite ist %1.</translation>
+    </message>
+    <message>
+        <source>It has no value.</source>
+        <translation>Er hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer.</source>
+        <translation>Die Kamera antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>It could not be put back.</source>
+        <translation>Er konnte nicht zurückgestellt werden.</translation>
+    </message>
+    <message>
+        <source>The camera has no &apos;%1&apos;.</source>
+        <translation>Die Kamera hat kein „%1“.</translation>
+    </message>
+    <message>
+        <source>It is no command.</source>
+        <translation>Es ist kein Kommando.</translation>
+    </message>
+    <message>
+        <source>The camera is not done with it yet.</source>
+        <translation>Die Kamera ist damit noch nicht fertig.</translation>
+    </message>
+    <message>
+        <source>Its selector has too many values.</source>
+        <translation>Sein Selektor hat zu viele Werte.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::HistoryCaption</name>
+    <message>
+        <source>Click for the last ten minutes</source>
+        <translation>Klicken für die letzten zehn Minuten</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::HistoryChart</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::HistoryWindow</name>
+    <message>
+        <source>%1, last ten minutes</source>
+        <translation>%1, letzte zehn Minuten</translation>
+    </message>
+    <message>
+        <source>Copy as CSV</source>
+        <translation>Als CSV kopieren</translation>
+    </message>
+    <message>
+        <source>%1: no values</source>
+        <translation>%1: keine Werte</translation>
+    </message>
+    <message>
+        <source>%1: min %2, max %3, mean %4</source>
+        <translation>%1: Min. %2, Max. %3, Mittel %4</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
     </message>
 </context>
 <context>
@@ -1470,10 +1776,367 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     </message>
 </context>
 <context>
+    <name>OrvGui::OrvCameraSettings</name>
+    <message>
+        <source>There is no camera.</source>
+        <translation>Es gibt keine Kamera.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvFeatureBrowser</name>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Suchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Show Only Changed</source>
+        <translation>Nur Geändertes zeigen</translation>
+    </message>
+    <message>
+        <source>Put Back All</source>
+        <translation>Alles zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Search in Descriptions</source>
+        <translation>In Beschreibungen suchen</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>%1 more at level %2</source>
+        <translation>%1 weitere auf Stufe %2</translation>
+    </message>
+    <message>
+        <source>Shows them</source>
+        <translation>Zeigt sie</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvSettingsMenu</name>
+    <message>
+        <source>Save Settings...</source>
+        <translation>Einstellungen speichern …</translation>
+    </message>
+    <message>
+        <source>Load Settings...</source>
+        <translation>Einstellungen laden …</translation>
+    </message>
+    <message>
+        <source>Put Settings Back</source>
+        <translation>Einstellungen zurückstellen</translation>
+    </message>
+    <message>
+        <source>Compare with File...</source>
+        <translation>Mit Datei vergleichen …</translation>
+    </message>
+    <message>
+        <source>User Sets</source>
+        <translation>Benutzersätze</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Load Settings</source>
+        <translation>Einstellungen laden</translation>
+    </message>
+    <message>
+        <source>Compare with File</source>
+        <translation>Mit Datei vergleichen</translation>
+    </message>
+    <message>
+        <source>The camera is gone. Not everything that was begun has been done.</source>
+        <translation>Die Kamera ist weg. Nicht alles Begonnene ist erledigt.</translation>
+    </message>
+    <message>
+        <source>Camera settings (*.pfs)</source>
+        <translation>Kameraeinstellungen (*.pfs)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reading the settings of the camera...</source>
+        <translation>Die Einstellungen der Kamera werden gelesen …</translation>
+    </message>
+    <message>
+        <source>The settings are not saved. %1</source>
+        <translation>Die Einstellungen sind nicht gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1: %2.</source>
+        <translation>In %1 gespeicherte Einstellungen: %2.</translation>
+    </message>
+    <message>
+        <source>These are not:</source>
+        <translation>Diese nicht:</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>The file has the settings of another model: %1. Much of it may not fit. Do you want to see what would change?</source>
+        <translation>Die Datei hat die Einstellungen eines anderen Modells: %1. Vieles davon passt vielleicht nicht. Möchten Sie sehen, was sich ändern würde?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>The camera has all values of %1 already.</source>
+        <translation>Die Kamera hat alle Werte von %1 bereits.</translation>
+    </message>
+    <message>
+        <source>This is what %1 changes:</source>
+        <translation>Das ändert %1:</translation>
+    </message>
+    <message>
+        <source>(The last rows are of features that the camera does not have.)</source>
+        <translation>(Die letzten Zeilen sind von Parametern, die die Kamera nicht hat.)</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Writing the settings to the camera...</source>
+        <translation>Die Einstellungen werden in die Kamera geschrieben …</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Settings that the camera has now: %1.</source>
+        <translation>Einstellungen, die die Kamera jetzt hat: %1.</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>Die Kamera hat ihn nicht.</translation>
+    </message>
+    <message>
+        <source>It could not be put back.</source>
+        <translation>Er konnte nicht zurückgestellt werden.</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation>Zurückstellen</translation>
+    </message>
+    <message>
+        <source>Gives the camera the values that it had before</source>
+        <translation>Gibt der Kamera die Werte, die sie vorher hatte</translation>
+    </message>
+    <message>
+        <source>Putting the settings back...</source>
+        <translation>Die Einstellungen werden zurückgestellt …</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>Einstellungen vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare with Another File...</source>
+        <translation>Mit anderer Datei vergleichen …</translation>
+    </message>
+    <message>
+        <source>Compare with Another File</source>
+        <translation>Mit anderer Datei vergleichen</translation>
+    </message>
+    <message>
+        <source>The camera has all values of %1.</source>
+        <translation>Die Kamera hat alle Werte von %1.</translation>
+    </message>
+    <message>
+        <source>This is not the same in %1 and in the camera:</source>
+        <translation>Das ist in %1 und in der Kamera nicht gleich:</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have the same values.</source>
+        <translation>%1 und %2 haben die gleichen Werte.</translation>
+    </message>
+    <message>
+        <source>This is not the same in %1 and in %2:</source>
+        <translation>Das ist in %1 und in %2 nicht gleich:</translation>
+    </message>
+    <message>
+        <source>Load %1? The present settings of the camera are lost.</source>
+        <translation>%1 laden? Die jetzigen Einstellungen der Kamera gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save the present settings of the camera in %1? What is there is lost.</source>
+        <translation>Die jetzigen Einstellungen der Kamera in %1 speichern? Was dort ist, geht verloren.</translation>
+    </message>
+    <message>
+        <source>Start with</source>
+        <translation>Starten mit</translation>
+    </message>
+    <message>
+        <source>The camera is busy with its user sets...</source>
+        <translation>Die Kamera arbeitet an ihren Benutzersätzen …</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::SafeDelegate</name>
     <message>
         <source>%1 (no entry is available)</source>
         <translation>%1 (kein Eintrag ist verfügbar)</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SelectorTable</name>
+    <message>
+        <source>Values by %1</source>
+        <translation>Werte nach %1</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation>Neu lesen</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>A value that you enter is written at once.</source>
+        <translation>Ein eingegebener Wert wird sofort geschrieben.</translation>
+    </message>
+    <message>
+        <source>The camera cannot be read: %1</source>
+        <translation>Die Kamera kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>Abgelehnt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsFile</name>
+    <message>
+        <source>The file &apos;%1&apos; is of another model: %2.</source>
+        <translation>Die Datei „%1“ ist von einem anderen Modell: %2.</translation>
+    </message>
+    <message>
+        <source>The file is too large for settings of a camera.</source>
+        <translation>Die Datei ist zu groß für Einstellungen einer Kamera.</translation>
+    </message>
+    <message>
+        <source>The file is cut off: its last line has no end.</source>
+        <translation>Die Datei ist abgeschnitten: Ihre letzte Zeile hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Line 1: This is no file of camera settings.</source>
+        <translation>Zeile 1: Das ist keine Datei mit Kameraeinstellungen.</translation>
+    </message>
+    <message>
+        <source>This is no text in UTF-8.</source>
+        <translation>Das ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no name of a feature.</source>
+        <translation>„%1“ ist kein Name eines Parameters.</translation>
+    </message>
+    <message>
+        <source>There is no value for &apos;%1&apos;.</source>
+        <translation>Es gibt keinen Wert für „%1“.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be read. %2</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be written. %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden. %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsJob</name>
+    <message>
+        <source>Camera Settings</source>
+        <translation>Kameraeinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsReader</name>
+    <message>
+        <source>The camera has no values that are meant to be saved.</source>
+        <translation>Die Kamera hat keine Werte, die gespeichert werden sollen.</translation>
+    </message>
+    <message>
+        <source>The text has control characters.</source>
+        <translation>Der Text hat Steuerzeichen.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsTable</name>
+    <message>
+        <source>(none)</source>
+        <translation>(nicht vorhanden)</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsTableDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsWriter</name>
+    <message>
+        <source>The camera has made it %1.</source>
+        <translation>Die Kamera hat daraus %1 gemacht.</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::UndoActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The camera refuses this step: %1</source>
+        <translation>Die Kamera lehnt diesen Schritt ab: %1</translation>
     </message>
 </context>
 <context>

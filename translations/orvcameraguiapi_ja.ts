@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ActionRunner</name>
+    <message>
+        <source>Cancelled.</source>
+        <translation>キャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Use --any-model to load it nevertheless.</source>
+        <translation>それでも読み込むには --any-model を指定してください。</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>カメラにありません。</translation>
+    </message>
+</context>
+<context>
     <name>CameraTreeDelegate</name>
     <message>
         <source>This camera cannot be opened: it is in use, or access to it is denied.</source>
@@ -177,6 +192,14 @@
         <source>&lt;i&gt;Streamable:&lt;/i&gt; %1</source>
         <translation>&lt;i&gt;ストリーム可能:&lt;/i&gt; %1</translation>
     </message>
+    <message>
+        <source>The feature cannot be written at the moment.</source>
+        <translation>このパラメーターは現在書き込めません。</translation>
+    </message>
+    <message>
+        <source>The camera has refused the value.</source>
+        <translation>カメラが値を拒否しました。</translation>
+    </message>
 </context>
 <context>
     <name>GenParamTreeView</name>
@@ -266,12 +289,6 @@
         <translation>カメラを 1 行に 1 台ずつ出力して終了します。識別子 (MAC アドレス、またはベンダーとシリアル番号)、名前、IPv4 アドレス (ある場合)、アクセス状態 (read-write、read-only、no-access、subnet-mismatch または unknown) をタブで区切ります。</translation>
     </message>
     <message>
-        <source>Shows and changes the features of a camera, which is picked first.
-Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage.</source>
-        <translation>最初に選択したカメラのパラメーターを表示および変更します。
-終了ステータス: 0 成功 (カメラを選択しなかった場合を含む)、1 失敗、2 使用方法の誤り。</translation>
-    </message>
-    <message>
         <source>All cameras are listed: use --list-cameras alone or with --simulate.</source>
         <translation>すべてのカメラが一覧表示されます。--list-cameras は単独で、または --simulate と共に指定してください。</translation>
     </message>
@@ -310,6 +327,64 @@ Exit status: 0 success (also when no camera is picked), 1 failure, 2 wrong usage
     <message>
         <source>There is no window &apos;%1&apos;; use one of: %2.</source>
         <translation>ウィンドウ「%1」はありません。次のいずれかを指定してください: %2。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; sets nothing: use --set NAME=VALUE.</source>
+        <translation>&apos;%1&apos; では何も設定されません。--set 名前=値 の形で指定してください。</translation>
+    </message>
+    <message>
+        <source>Print the values of these features as the tree shows them, one a line: the name, a tab, the value. This and the following options are carried out in the order given, without a window.</source>
+        <translation>これらのパラメーターの値をツリーの表示どおりに 1 行に 1 つずつ出力します。名前、タブ、値の順です。これ以降のオプションは、ウィンドウを表示せずに指定された順に実行されます。</translation>
+    </message>
+    <message>
+        <source>Set features to such values.</source>
+        <translation>パラメーターをこの形の値に設定します。</translation>
+    </message>
+    <message>
+        <source>Execute a command, and wait until it is done.</source>
+        <translation>コマンドを実行し、完了するまで待ちます。</translation>
+    </message>
+    <message>
+        <source>Save the settings of the camera in a file.</source>
+        <translation>カメラの設定をファイルに保存します。</translation>
+    </message>
+    <message>
+        <source>Write the settings in a file to the camera, and tell what it refuses.</source>
+        <translation>ファイルの設定をカメラに書き込み、拒否されたものを知らせます。</translation>
+    </message>
+    <message>
+        <source>Print what is not the same, one a line: the feature, the value in the file, the value in the camera, with tabs between them.</source>
+        <translation>異なるものを 1 行に 1 つずつ出力します。パラメーター、ファイルの値、カメラの値の順で、タブで区切ります。</translation>
+    </message>
+    <message>
+        <source>Print what these options have to tell as one JSON document.</source>
+        <translation>これらのオプションの結果を 1 つの JSON 文書として出力します。</translation>
+    </message>
+    <message>
+        <source>Load settings of another model, too.</source>
+        <translation>別の機種の設定も読み込みます。</translation>
+    </message>
+    <message>
+        <source>Shows and changes the features of a camera, which is picked first.
+Exit status: 0 success (also when no camera is picked), 1 failure (also when a camera refuses something, or is not as a file), 2 wrong usage.</source>
+        <translation>最初に選択したカメラのパラメーターを表示および変更します。
+終了ステータス: 0 成功 (カメラを選択しなかった場合を含む)、1 失敗 (カメラが拒否した場合やファイルと異なる場合を含む)、2 使い方の誤り。</translation>
+    </message>
+    <message>
+        <source>Features are read and written without a window: use --get, --set, --execute, --save, --load and --compare without --window, --screenshot and the lists.</source>
+        <translation>パラメーターの読み書きではウィンドウを表示しません。--get、--set、--execute、--save、--load、--compare は --window、--screenshot および一覧のオプションなしで使用してください。</translation>
+    </message>
+    <message>
+        <source>Say whose features these are: --simulate, --camera ID or --xml FILE.</source>
+        <translation>どのカメラのパラメーターかを指定してください: --simulate、--camera ID または --xml FILE。</translation>
+    </message>
+    <message>
+        <source>There is nothing for --json to print: use it with --get, --set, --execute, --save, --load or --compare.</source>
+        <translation>--json で出力するものがありません。--get、--set、--execute、--save、--load または --compare と一緒に使用してください。</translation>
+    </message>
+    <message>
+        <source>No settings are loaded: use --any-model with --load.</source>
+        <translation>設定を読み込みません。--any-model は --load と一緒に使用してください。</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1117,28 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvCameraSettings</name>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>カメラにありません。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::BrowserModel</name>
+    <message>
+        <source>Favourites</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>The features that you have marked with a star</source>
+        <translation>星印を付けたパラメーター</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>拒否されました: %1</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::CameraInformation</name>
     <message>
         <source>OrvCameraConfiguration</source>
@@ -1104,6 +1201,103 @@ Trigger</source>
     </message>
 </context>
 <context>
+    <name>OrvGui::FeatureJournal</name>
+    <message>
+        <source>There is no %1.</source>
+        <translation>%1 がありません。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>やり直す: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::FeatureMarks</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1</source>
+        <translation>以前の値: %1</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1 (%2)</source>
+        <translation>以前の値: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::FeatureMenu</name>
+    <message>
+        <source>Copy Name</source>
+        <translation>名前をコピー</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>値をコピー</translation>
+    </message>
+    <message>
+        <source>Copy &quot;Name = Value&quot;</source>
+        <translation>「名前 = 値」をコピー</translation>
+    </message>
+    <message>
+        <source>Go to %1</source>
+        <translation>%1 へ移動</translation>
+    </message>
+    <message>
+        <source>Go to Selected Feature</source>
+        <translation>選択対象のパラメーターへ移動</translation>
+    </message>
+    <message>
+        <source>Show in Its Category</source>
+        <translation>カテゴリー内で表示</translation>
+    </message>
+    <message>
+        <source>Values by %1…</source>
+        <translation>%1 ごとの値…</translation>
+    </message>
+    <message>
+        <source>Remove from Favourites</source>
+        <translation>お気に入りから削除</translation>
+    </message>
+    <message>
+        <source>Add to Favourites</source>
+        <translation>お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Expand All Below</source>
+        <translation>下をすべて展開</translation>
+    </message>
+    <message>
+        <source>Collapse All Below</source>
+        <translation>下をすべて折りたたむ</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation>再読み込み</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::FeatureToolTip</name>
     <message>
         <source>Range: %1 to %2</source>
@@ -1120,6 +1314,118 @@ Trigger</source>
     <message>
         <source>Feature: %1</source>
         <translation>パラメーター: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::FeatureValue</name>
+    <message>
+        <source>The text is not in UTF-8.</source>
+        <translation>テキストが UTF-8 ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number.</source>
+        <translation>&apos;%1&apos; は数値ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no integer.</source>
+        <translation>&apos;%1&apos; は整数ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; は真でも偽でもありません。</translation>
+    </message>
+    <message>
+        <source>There is no entry &apos;%1&apos;.</source>
+        <translation>項目 &apos;%1&apos; はありません。</translation>
+    </message>
+    <message>
+        <source>The camera takes values from %1 to %2.</source>
+        <translation>カメラが受け付ける値は %1 から %2 までです。</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>カメラにありません。</translation>
+    </message>
+    <message>
+        <source>It is not available now.</source>
+        <translation>現在は利用できません。</translation>
+    </message>
+    <message>
+        <source>It cannot be changed now.</source>
+        <translation>現在は変更できません。</translation>
+    </message>
+    <message>
+        <source>It cannot be read.</source>
+        <translation>読み取れません。</translation>
+    </message>
+    <message>
+        <source>The step is %1.</source>
+        <translation>増分は %1 です。</translation>
+    </message>
+    <message>
+        <source>It has no value.</source>
+        <translation>値がありません。</translation>
+    </message>
+    <message>
+        <source>The camera does not answer.</source>
+        <translation>カメラが応答しません。</translation>
+    </message>
+    <message>
+        <source>It could not be put back.</source>
+        <translation>元に戻せませんでした。</translation>
+    </message>
+    <message>
+        <source>The camera has no &apos;%1&apos;.</source>
+        <translation>カメラに &apos;%1&apos; はありません。</translation>
+    </message>
+    <message>
+        <source>It is no command.</source>
+        <translation>コマンドではありません。</translation>
+    </message>
+    <message>
+        <source>The camera is not done with it yet.</source>
+        <translation>カメラの処理がまだ終わっていません。</translation>
+    </message>
+    <message>
+        <source>Its selector has too many values.</source>
+        <translation>セレクターの値が多すぎます。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::HistoryCaption</name>
+    <message>
+        <source>Click for the last ten minutes</source>
+        <translation>クリックすると直近10分間を表示</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::HistoryChart</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::HistoryWindow</name>
+    <message>
+        <source>%1, last ten minutes</source>
+        <translation>%1、直近10分間</translation>
+    </message>
+    <message>
+        <source>Copy as CSV</source>
+        <translation>CSV としてコピー</translation>
+    </message>
+    <message>
+        <source>%1: no values</source>
+        <translation>%1: 値なし</translation>
+    </message>
+    <message>
+        <source>%1: min %2, max %3, mean %4</source>
+        <translation>%1: 最小 %2、最大 %3、平均 %4</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
     </message>
 </context>
 <context>
@@ -1470,10 +1776,367 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     </message>
 </context>
 <context>
+    <name>OrvGui::OrvCameraSettings</name>
+    <message>
+        <source>There is no camera.</source>
+        <translation>カメラがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvFeatureBrowser</name>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>検索 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Show Only Changed</source>
+        <translation>変更されたものだけを表示</translation>
+    </message>
+    <message>
+        <source>Put Back All</source>
+        <translation>すべて元に戻す</translation>
+    </message>
+    <message>
+        <source>Search in Descriptions</source>
+        <translation>説明も検索</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 more at level %2</source>
+        <translation>レベル %2 でさらに %1 件</translation>
+    </message>
+    <message>
+        <source>Shows them</source>
+        <translation>それらを表示します</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::OrvSettingsMenu</name>
+    <message>
+        <source>Save Settings...</source>
+        <translation>設定を保存...</translation>
+    </message>
+    <message>
+        <source>Load Settings...</source>
+        <translation>設定を読み込む...</translation>
+    </message>
+    <message>
+        <source>Put Settings Back</source>
+        <translation>設定を元に戻す</translation>
+    </message>
+    <message>
+        <source>Compare with File...</source>
+        <translation>ファイルと比較...</translation>
+    </message>
+    <message>
+        <source>User Sets</source>
+        <translation>ユーザーセット</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>設定を保存</translation>
+    </message>
+    <message>
+        <source>Load Settings</source>
+        <translation>設定を読み込む</translation>
+    </message>
+    <message>
+        <source>Compare with File</source>
+        <translation>ファイルと比較</translation>
+    </message>
+    <message>
+        <source>The camera is gone. Not everything that was begun has been done.</source>
+        <translation>カメラが見つかりません。開始した処理は完了していません。</translation>
+    </message>
+    <message>
+        <source>Camera settings (*.pfs)</source>
+        <translation>カメラの設定 (*.pfs)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Reading the settings of the camera...</source>
+        <translation>カメラの設定を読み取っています...</translation>
+    </message>
+    <message>
+        <source>The settings are not saved. %1</source>
+        <translation>設定は保存されていません。%1</translation>
+    </message>
+    <message>
+        <source>Settings saved in %1: %2.</source>
+        <translation>%1 に保存した設定の数: %2</translation>
+    </message>
+    <message>
+        <source>These are not:</source>
+        <translation>含まれないもの:</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>パラメーター</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>The file has the settings of another model: %1. Much of it may not fit. Do you want to see what would change?</source>
+        <translation>ファイルは別の機種の設定です: %1。適合しないものが多い可能性があります。変更される内容を表示しますか?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>The camera has all values of %1 already.</source>
+        <translation>カメラの値はすでに %1 のとおりです。</translation>
+    </message>
+    <message>
+        <source>This is what %1 changes:</source>
+        <translation>%1 によって変更される内容:</translation>
+    </message>
+    <message>
+        <source>(The last rows are of features that the camera does not have.)</source>
+        <translation>(最後の行は、カメラにないパラメーターです。)</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>読み込む</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Writing the settings to the camera...</source>
+        <translation>設定をカメラに書き込んでいます...</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>キャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Settings that the camera has now: %1.</source>
+        <translation>カメラに反映された設定の数: %1</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation>カメラにありません。</translation>
+    </message>
+    <message>
+        <source>It could not be put back.</source>
+        <translation>元に戻せませんでした。</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Gives the camera the values that it had before</source>
+        <translation>カメラの値を以前のものに戻します</translation>
+    </message>
+    <message>
+        <source>Putting the settings back...</source>
+        <translation>設定を元に戻しています...</translation>
+    </message>
+    <message>
+        <source>Compare Settings</source>
+        <translation>設定の比較</translation>
+    </message>
+    <message>
+        <source>Compare with Another File...</source>
+        <translation>別のファイルと比較...</translation>
+    </message>
+    <message>
+        <source>Compare with Another File</source>
+        <translation>別のファイルと比較</translation>
+    </message>
+    <message>
+        <source>The camera has all values of %1.</source>
+        <translation>カメラの値は %1 のとおりです。</translation>
+    </message>
+    <message>
+        <source>This is not the same in %1 and in the camera:</source>
+        <translation>%1 とカメラで異なる内容:</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have the same values.</source>
+        <translation>%1 と %2 の値は同じです。</translation>
+    </message>
+    <message>
+        <source>This is not the same in %1 and in %2:</source>
+        <translation>%1 と %2 で異なる内容:</translation>
+    </message>
+    <message>
+        <source>Load %1? The present settings of the camera are lost.</source>
+        <translation>%1 を読み込みますか? カメラの現在の設定は失われます。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save the present settings of the camera in %1? What is there is lost.</source>
+        <translation>カメラの現在の設定を %1 に保存しますか? 以前の内容は失われます。</translation>
+    </message>
+    <message>
+        <source>Start with</source>
+        <translation>起動時に使用</translation>
+    </message>
+    <message>
+        <source>The camera is busy with its user sets...</source>
+        <translation>カメラがユーザーセットを処理しています...</translation>
+    </message>
+</context>
+<context>
     <name>OrvGui::SafeDelegate</name>
     <message>
         <source>%1 (no entry is available)</source>
         <translation>%1 (選択できる項目がありません)</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SelectorTable</name>
+    <message>
+        <source>Values by %1</source>
+        <translation>%1 ごとの値</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>A value that you enter is written at once.</source>
+        <translation>入力した値はすぐに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>The camera cannot be read: %1</source>
+        <translation>カメラを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>拒否されました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsFile</name>
+    <message>
+        <source>The file &apos;%1&apos; is of another model: %2.</source>
+        <translation>ファイル &apos;%1&apos; は別の機種のものです: %2。</translation>
+    </message>
+    <message>
+        <source>The file is too large for settings of a camera.</source>
+        <translation>カメラの設定としてはファイルが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The file is cut off: its last line has no end.</source>
+        <translation>ファイルが途中で切れています。最後の行に改行がありません。</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>Line 1: This is no file of camera settings.</source>
+        <translation>1 行目: カメラの設定のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>This is no text in UTF-8.</source>
+        <translation>UTF-8 のテキストではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no name of a feature.</source>
+        <translation>&apos;%1&apos; はパラメーターの名前ではありません。</translation>
+    </message>
+    <message>
+        <source>There is no value for &apos;%1&apos;.</source>
+        <translation>&apos;%1&apos; の値がありません。</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be read. %2</source>
+        <translation>ファイル &apos;%1&apos; を読み取れません。%2</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be written. %2</source>
+        <translation>ファイル &apos;%1&apos; に書き込めません。%2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsJob</name>
+    <message>
+        <source>Camera Settings</source>
+        <translation>カメラの設定</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsReader</name>
+    <message>
+        <source>The camera has no values that are meant to be saved.</source>
+        <translation>保存の対象となる値がカメラにありません。</translation>
+    </message>
+    <message>
+        <source>The text has control characters.</source>
+        <translation>テキストに制御文字が含まれています。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsTable</name>
+    <message>
+        <source>(none)</source>
+        <translation>(なし)</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsTableDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::SettingsWriter</name>
+    <message>
+        <source>The camera has made it %1.</source>
+        <translation>カメラが %1 に変更しました。</translation>
+    </message>
+</context>
+<context>
+    <name>OrvGui::UndoActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>The camera refuses this step: %1</source>
+        <translation>カメラがこの操作を拒否しました: %1</translation>
     </message>
 </context>
 <context>
