@@ -13,10 +13,16 @@ here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
 
 command -v dpkg-query >/dev/null 2>&1 || die "this is not a Debian system: dpkg-query is missing"
 
+# By itself, or as a part of another one: a later Debian may have put the two together.
+is_installed() {
+    status=$(dpkg-query -W -f '${Status}' "$1" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] && return 0
+    dpkg-query -W -f '${Status}, ${Provides},\n' | grep -q "^install ok installed,.* $1[ ,]"
+}
+
 missing=
 for package in $(grep -v '^#' "$here/$list"); do
-    status=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
-    [ "$status" = "install ok installed" ] || missing="$missing $package"
+    is_installed "$package" || missing="$missing $package"
 done
 [ -n "$missing" ] || exit 0
 
