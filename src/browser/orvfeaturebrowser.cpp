@@ -285,12 +285,8 @@ void OrvFeatureBrowserPrivate::narrow()
             giveBack();
         return;
     }
-    OrvGenParamTreeViewPrivate::of(*view).endEditing();
-    if (!shown) // a host has replaced the tree in reaction to what was written
-        return;
     if (!before)
         remember();
-
     FeatureSearch::Features wanted = shown->marks().changedFeatures();
     if (words.isEmpty()) {
         showCounts(nullptr);
@@ -300,16 +296,19 @@ void OrvFeatureBrowserPrivate::narrow()
         wanted =
             onlyChangedAction->isChecked() ? wanted.intersect(result.features) : result.features;
     }
-    const bool isOther = shown->narrow(wanted);
-    if (isOther || isUnfoldingOutdated)
-        showNarrowed();
+    if (isUnfoldingOutdated || !shown->isNarrowedTo(wanted))
+        showNarrowed(wanted);
     tree().viewport()->update(); // other marks in the names
 }
 
 /// Unfolds what was found, as much as somebody would look at: the layout of thousands of rows takes
 /// longer than a key may.
-void OrvFeatureBrowserPrivate::showNarrowed()
+void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wanted)
 {
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (!shown) // a host has replaced the tree in reaction to what was written
+        return;
+    shown->narrow(wanted);
     tree().collapseAll();
     tree().scheduleDelayedItemsLayout();
     for (const QModelIndex &category : shown->foundCategories(maxUnfolded))

@@ -48,7 +48,7 @@ public:
     GenParamTreeModel *features() const;
 
     void narrow();
-    void showNarrowed();
+    void showNarrowed(const FeatureSearch::Features &wanted);
     void remember();
     void giveBack();
     void spanCategories();
