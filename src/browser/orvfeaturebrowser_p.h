@@ -106,7 +106,7 @@ public:
     /// What the tree looked like before it was narrowed.
     struct Look
     {
-        QByteArray text;
+        QByteArray paths; ///< of the expanded categories, as in the state text
         /// Categories, each with the one that it is in.
         std::vector<std::pair<GenApi::IValue *, GenApi::IValue *>> expanded;
         GenApi::IValue *current = nullptr;
