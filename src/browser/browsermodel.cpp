@@ -202,15 +202,19 @@ void BrowserModel::setFavourites(const QVector<GenApi::IValue *> &favourites)
     rebuild();
 }
 
-bool BrowserModel::narrow(const std::optional<Features> &features)
+bool BrowserModel::isNarrowedTo(const std::optional<Features> &features) const
 {
-    if (features == m_narrowed)
-        return false;
+    return features == m_narrowed;
+}
+
+void BrowserModel::narrow(const std::optional<Features> &features)
+{
+    if (isNarrowedTo(features))
+        return;
     changeLayout([&] {
         m_narrowed = features;
         show(m_root.get());
     });
-    return true;
 }
 
 void BrowserModel::show(Row *category)

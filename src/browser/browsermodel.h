@@ -46,8 +46,9 @@ public:
     void setFavourites(const QVector<GenApi::IValue *> &favourites);
 
     /// Shows those features alone, with their categories; a category of them that has none of them
-    /// below it keeps all its rows. Nothing for all features. False when the rows stay as they are.
-    bool narrow(const std::optional<Features> &features);
+    /// below it keeps all its rows. Nothing for all features.
+    void narrow(const std::optional<Features> &features);
+    bool isNarrowedTo(const std::optional<Features> &features) const;
 
     /// The name cells of the first categories in which a search has found something, so that there
     /// are not more rows than that in them.

@@ -34,6 +34,10 @@ const int nameColumn = 0;
 /// More rows are not unfolded by a search.
 const int maxUnfolded = 1000;
 
+// In the tree's state text.
+const char pathEnd[] = "&lt;";
+const char widthMark[] = "&amp;W";
+
 // As around the tree.
 const int margin = 11;
 const int spacing = 6;
@@ -41,6 +45,13 @@ const int spacing = 6;
 GenApi::IValue *featureOf(const QModelIndex &index)
 {
     return index.data(Qt::UserRole).value<GenApi::IValue *>();
+}
+
+QByteArray pathOf(const QModelIndex &category)
+{
+    const QByteArray name = category.data().toString().toUtf8();
+    const QModelIndex parent = category.parent();
+    return parent.isValid() ? pathOf(parent) + '/' + name : name;
 }
 
 GenApi::INodeMap *nodeMapOf(OrvGenParam::Array *array)
@@ -250,12 +261,10 @@ void OrvFeatureBrowserPrivate::rememberTree()
     if (!shown)
         return;
     const QByteArray now = saveTree();
-    const QByteArray look = before ? before->text : now;
-    if (look.isEmpty() || now.isEmpty())
+    if (now.isEmpty())
         return;
     // The width and the level are those of now.
-    const char mark[] = "&amp;W";
-    remembered.tree = look.left(int(look.indexOf(mark))) + now.mid(int(now.indexOf(mark)));
+    remembered.tree = before ? before->paths + now.mid(int(now.indexOf(widthMark))) : now;
 }
 
 void OrvFeatureBrowserPrivate::restoreTree()
@@ -285,12 +294,8 @@ void OrvFeatureBrowserPrivate::narrow()
             giveBack();
         return;
     }
-    OrvGenParamTreeViewPrivate::of(*view).endEditing();
-    if (!shown) // a host has replaced the tree in reaction to what was written
-        return;
     if (!before)
         remember();
-
     FeatureSearch::Features wanted = shown->marks().changedFeatures();
     if (words.isEmpty()) {
         showCounts(nullptr);
@@ -300,16 +305,19 @@ void OrvFeatureBrowserPrivate::narrow()
         wanted =
             onlyChangedAction->isChecked() ? wanted.intersect(result.features) : result.features;
     }
-    const bool isOther = shown->narrow(wanted);
-    if (isOther || isUnfoldingOutdated)
-        showNarrowed();
+    if (isUnfoldingOutdated || !shown->isNarrowedTo(wanted))
+        showNarrowed(wanted);
     tree().viewport()->update(); // other marks in the names
 }
 
-/// Unfolds what was found, as much as somebody would look at: the layout of thousands of rows takes
+/// Unfolds what was found, as much as a user would look at: the layout of thousands of rows takes
 /// longer than a key may.
-void OrvFeatureBrowserPrivate::showNarrowed()
+void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wanted)
 {
+    OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    if (!shown) // a host has replaced the tree in reaction to what was written
+        return;
+    shown->narrow(wanted);
     tree().collapseAll();
     tree().scheduleDelayedItemsLayout();
     for (const QModelIndex &category : shown->foundCategories(maxUnfolded))
@@ -321,11 +329,13 @@ void OrvFeatureBrowserPrivate::showNarrowed()
 
 void OrvFeatureBrowserPrivate::remember()
 {
+    // The tree's own way to its state looks at all rows, which takes longer than a key may.
     Look look;
-    look.text = saveTree();
     for (const QModelIndex &category : shown->categories()) {
-        if (tree().isExpanded(category))
-            look.expanded.emplace_back(featureOf(category), featureOf(category.parent()));
+        if (!tree().isExpanded(category))
+            continue;
+        look.expanded.emplace_back(featureOf(category), featureOf(category.parent()));
+        look.paths += pathOf(category) + pathEnd;
     }
     look.current = featureOf(tree().currentIndex());
     look.isCurrentFavourite = shown->isBelowFavourites(tree().currentIndex());

@@ -48,7 +48,7 @@ public:
     GenParamTreeModel *features() const;
 
     void narrow();
-    void showNarrowed();
+    void showNarrowed(const FeatureSearch::Features &wanted);
     void remember();
     void giveBack();
     void spanCategories();
@@ -106,7 +106,7 @@ public:
     /// What the tree looked like before it was narrowed.
     struct Look
     {
-        QByteArray text;
+        QByteArray paths; ///< of the expanded categories, as in the state text
         /// Categories, each with the one that it is in.
         std::vector<std::pair<GenApi::IValue *, GenApi::IValue *>> expanded;
         GenApi::IValue *current = nullptr;

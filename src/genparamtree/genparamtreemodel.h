@@ -71,7 +71,7 @@ public:
 
 signals:
     /// A write of this model has succeeded; the texts are those of `text`, before it and after it.
-    /// Whoever connects here has the value read around each write when it is not known.
+    /// A connection has the value read around each write when it is not known.
     void written(GenApi::IValue *feature, const QString &before, const QString &after);
 
     /// A write of this model was refused.
