@@ -2,6 +2,7 @@
 #include "featuremenu.h"
 
 #include "base/cameratext.h"
+#include "base/selectors.h"
 #include "browsermodel.h"
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -98,13 +99,20 @@ void FeatureMenu::addCopying()
 
 void FeatureMenu::addSelection()
 {
-    const QVector<GenApi::IValue *> selectors = selectorsOf(m_feature);
+    std::vector<GenApi::IValue *> selectors;
+    std::vector<GenApi::IValue *> others;
+    try {
+        selectors = selectorsOf(m_feature);
+        others = selectedBy(m_feature);
+    } catch (const GenICam::GenericException &) {
+        return; // the description is wrong there
+    }
     for (GenApi::IValue *selector : selectors) {
         if (isForPeople(selector))
             addWay(this, tr("Go to %1").arg(titleOf(selector)), selector);
     }
     QVector<GenApi::IValue *> selected;
-    for (GenApi::IValue *feature : selectedBy(m_feature)) {
+    for (GenApi::IValue *feature : others) {
         if (isForPeople(feature))
             selected.append(feature);
     }

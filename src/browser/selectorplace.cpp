@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "selectorplace.h"
 
+#include "base/selectors.h"
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamtreemodel.h"
 
@@ -11,25 +12,6 @@
 namespace OrvGui {
 
 namespace {
-
-void addSelectors(GenApi::IValue *feature, QVector<GenApi::IValue *> *selectors)
-{
-    auto *selected = dynamic_cast<GenApi::ISelector *>(feature);
-    if (!selected)
-        return;
-    GenApi::FeatureList_t list;
-    selected->GetSelectingFeatures(list);
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        GenApi::IValue *selector = list[i];
-        if (!selector || selector == feature || selectors->contains(selector))
-            continue;
-        // Before its own selectors are visited: a description may make them select each other.
-        selectors->append(selector);
-        const int place = int(selectors->size()) - 1;
-        addSelectors(selector, selectors);
-        selectors->append(selectors->takeAt(place));
-    }
-}
 
 /// A write that was not answered may have arrived.
 void write(const SelectorPlace &place)
@@ -44,42 +26,16 @@ void write(const SelectorPlace &place)
 
 } // namespace
 
-QVector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature)
-{
-    QVector<GenApi::IValue *> selectors;
-    try {
-        addSelectors(feature, &selectors);
-    } catch (const GenICam::GenericException &) {
-        return {};
-    }
-    selectors.removeAll(feature);
-    return selectors;
-}
-
 SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model)
 {
     SelectorPlaces places;
-    for (GenApi::IValue *selector : selectorsOf(feature))
-        places.append({selector, model.text(selector)});
-    return places;
-}
-
-QVector<GenApi::IValue *> selectedBy(GenApi::IValue *selector)
-{
-    QVector<GenApi::IValue *> features;
     try {
-        auto *selecting = dynamic_cast<GenApi::ISelector *>(selector);
-        if (!selecting)
-            return features;
-        GenApi::FeatureList_t list;
-        selecting->GetSelectedFeatures(list);
-        for (std::size_t i = 0; i < list.size(); ++i) {
-            if (list[i] && list[i] != selector)
-                features.append(list[i]);
-        }
+        for (GenApi::IValue *selector : selectorsOf(feature))
+            places.append({selector, model.text(selector)});
     } catch (const GenICam::GenericException &) {
+        return {}; // the description is wrong there
     }
-    return features;
+    return places;
 }
 
 SelectorMove::SelectorMove(const SelectorPlaces &places)

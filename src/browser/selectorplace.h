@@ -29,14 +29,8 @@ struct SelectorPlace
 /// Those that a feature depends on; selectors of selectors come before these.
 using SelectorPlaces = QVector<SelectorPlace>;
 
-/// The selectors of a feature, in that order; none is asked for its value.
-QVector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature);
-
 /// Where the selectors of a feature are now. Waits for the camera when that is not known.
 SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model);
-
-/// The features that a selector selects.
-QVector<GenApi::IValue *> selectedBy(GenApi::IValue *selector);
 
 /// Moves selectors and, at its end, back to where they were. Nothing on this thread is told of what
 /// changes in between; a selector that is in its place already does not move.

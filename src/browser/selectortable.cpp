@@ -2,6 +2,7 @@
 #include "selectortable.h"
 
 #include "base/cameratext.h"
+#include "base/selectors.h"
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamdelegate.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -162,8 +163,9 @@ void SelectorTable::readAgain()
     m_readAgain->setEnabled(false);
     m_table->setEnabled(false);
     m_note->setText(tr("Reading…"));
-    QVector<GenApi::IValue *> moving = selectedBy(m_selector);
-    moving.prepend(m_selector);
+    QVector<GenApi::IValue *> moving = {m_selector};
+    for (GenApi::IValue *feature : selectedBy(m_selector))
+        moving.append(feature);
     m_shown.freeze(moving);
     m_detour.emplace();
     m_reader = std::make_unique<SelectorReader>(m_nodeMap, m_selector, m_columns);

@@ -6,7 +6,6 @@
 #include "genparamtree/selectordetour.h"
 
 #include <algorithm>
-#include <set>
 
 namespace OrvGui {
 
@@ -14,22 +13,6 @@ namespace {
 
 /// More positions than cameras have entries in a look-up table.
 const int64_t mostPositions = 65536;
-
-void collect(GenApi::IValue *feature, std::set<GenApi::IValue *> *seen,
-             std::vector<GenApi::IValue *> *selectors)
-{
-    const auto *node = dynamic_cast<GenApi::ISelector *>(feature);
-    GenApi::FeatureList_t selecting;
-    if (node)
-        node->GetSelectingFeatures(selecting);
-    for (size_t i = 0; i < selecting.size(); ++i) {
-        GenApi::IValue *selector = selecting[i];
-        if (!seen->insert(selector).second)
-            continue;
-        collect(selector, seen, selectors);
-        selectors->push_back(selector);
-    }
-}
 
 QStringList positionsOfInteger(GenApi::IInteger *selector)
 {
@@ -68,20 +51,6 @@ bool isPutBack(GenApi::IValue *selector, const QString &value, bool verify)
 }
 
 } // namespace
-
-std::vector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature)
-{
-    std::vector<GenApi::IValue *> selectors;
-    std::set<GenApi::IValue *> seen = {feature};
-    collect(feature, &seen, &selectors);
-    return selectors;
-}
-
-bool isSelector(GenApi::IValue *feature)
-{
-    const auto *node = dynamic_cast<GenApi::ISelector *>(feature);
-    return node && node->IsSelector();
-}
 
 QStringList positionsOf(GenApi::IValue *selector)
 {

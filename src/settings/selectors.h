@@ -3,6 +3,8 @@
 
 #include "setting.h"
 
+#include "base/selectors.h"
+
 #include <GenApi/GenApi.h>
 
 #include <QStringList>
@@ -10,12 +12,6 @@
 #include <vector>
 
 namespace OrvGui {
-
-/// The selectors that decide which value the feature stands for, also those of selectors among
-/// them; the outermost first.
-std::vector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature);
-
-bool isSelector(GenApi::IValue *feature);
 
 /// All values of a selector that the camera offers now. Throws the exceptions of GenICam.
 QStringList positionsOf(GenApi::IValue *selector);
