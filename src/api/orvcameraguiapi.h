@@ -5,18 +5,16 @@
 /*
  * The C functions of libOrvCameraGuiApi: ready-made windows for programs in any language.
  *
- * Each function makes a Qt application when the process has none; a host that has one of its own
- * must have made a QApplication. All of them are called from one and the same thread, that of the
- * application.
+ * Each function creates a Qt application when the process has none. The application of a Qt host
+ * must be a QApplication. Call all functions on one thread, that of the application.
  *
- * Nothing here but SelectCamera runs an event loop. A host that is not a Qt program has to let Qt's
- * events run, otherwise a window is neither painted nor heard: on Linux Qt waits on the default
- * GLib main context, so it is enough to run that, for instance with
- * g_main_context_iteration(NULL, FALSE) from the host's own loop. examples/c-host shows how.
+ * Only SelectCamera runs an event loop. A host without Qt must dispatch Qt's events; otherwise
+ * windows are not painted and get no input. On Linux Qt uses the default GLib main context, so it
+ * is enough to run that context, for instance with g_main_context_iteration(NULL, FALSE) from the
+ * host's own loop. examples/c-host is an example.
  *
- * Texts come in two kinds: functions whose name ends in A take UTF-8, those that end in W take
- * 32-bit wide characters. Both end with a zero. Parent windows are native window ids (on X11 a
- * Window), 0 for none.
+ * Functions whose name ends in A take UTF-8 texts, those that end in W take 32-bit wide characters.
+ * Both are zero-terminated. Parent windows are native window ids (on X11 a Window), 0 for none.
  */
 
 #include "orvcameraguiapi_export.h"
@@ -35,16 +33,16 @@ typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
 #endif
 
 /*
- * Opens a tree of all features of a node map or parameter array, in which the user reads and
- * changes them. A null source gives an empty tree. Never returns null; only running out of memory
- * throws (std::bad_alloc). The title may be null.
+ * Opens an editable tree of all features of a node map or parameter array. A null source gives an
+ * empty tree. Never returns null; only running out of memory throws (std::bad_alloc). The title may
+ * be null.
  *
  * With a parent the tree fills that window and is resized with it. The window must exist on the
- * default display, and until the tree is destroyed. Without one, the tree is a window of its own.
+ * default display until the tree is destroyed. Without a parent the tree is a top-level window.
  *
- * The caller owns the tree and ends it with DestroyGenParamTreeView. The node map, and the array
- * that it comes from, must live until then, or until the tree is given other parameters or none;
- * see IOrvGenParamTreeView.
+ * The caller owns the tree and destroys it with DestroyGenParamTreeView. The node map, and the
+ * array that it comes from, must live until then, or until the tree is given other parameters or
+ * none; see IOrvGenParamTreeView.
  */
 ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
 CreateGenParamTreeViewForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title,
@@ -58,18 +56,18 @@ ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvG
                                                                             const wchar_t *title,
                                                                             unsigned long parent);
 
-/* Null is ignored. Not from inside a callback of a node that the tree shows. */
+/* Null is ignored. Must not be called from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
 
 /*
- * Lets the user pick one of the system's cameras, in a dialog of that title, and returns when he is
- * done: the camera, which is not opened yet, or null when he cancels. He can also give a GigE
- * Vision camera a working address there. A null system has no cameras. The title may be null.
+ * Runs a dialog of that title in which the user picks one of the system's cameras. Returns the
+ * record of the camera, which is not open yet, or null when the user cancels. The dialog can also
+ * give a GigE Vision camera a working address. A null system has no cameras. The title may be null.
  *
- * With a parent the dialog stands above that window, which must exist on the default display. It
- * is up to the host to keep its own windows from being used in the meantime.
+ * With a parent the dialog stays above that window, which must exist on the default display. The
+ * host disables its own windows while the dialog is open, if it wants that.
  *
- * The camera belongs to the system; it is not to be released and stays valid as long as the system.
+ * The record belongs to the system, must not be released, and stays valid as long as the system.
  */
 ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title,
                                                        unsigned long parent);
@@ -77,12 +75,13 @@ ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, con
                                                        unsigned long parent);
 
 /*
- * Each of these shows a dialog for a device and destroys it again before it returns. It blocks for
- * no longer than that, opens no further window, and leaves nothing behind: no window, and nothing
- * that is registered with the device. A dialog that is to stay open is made from its class in C++.
+ * Each of these functions shows a dialog for a device and destroys it before it returns. It does
+ * not block beyond that, opens no further window, and leaves no window and no registration at the
+ * device. For a dialog that stays open, use its C++ class.
  *
- * A null device gives a disabled dialog. The device stays the caller's. The parent is the native id
- * of a Qt widget of this process, which the dialog then belongs to; any other id counts as none.
+ * A null device gives a disabled dialog. The caller keeps ownership of the device. The parent is
+ * the native id of a Qt widget of this process, which becomes the parent of the dialog; any other
+ * id counts as none.
  *
  * ShowFrameABDialog shows the colour dialog, as ShowColorDialog does.
  */
