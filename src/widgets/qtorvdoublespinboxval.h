@@ -45,8 +45,7 @@ public:
     /** Shows \a text in place of the value, unchecked; the value does not change. */
     void setLineEditText(const QString &text);
 
-    /** Changes the value by \a steps single steps; also called for arrow keys, wheel and buttons.
-     */
+    /** Changes the value by \a steps single steps; also called for keys, wheel and buttons. */
     void stepBy(int steps) override;
 
     /** The result of QDoubleSpinBox, but at most "intermediate" with typing validation off. */
