@@ -23,8 +23,8 @@ struct GENAPI_DECL INodeMap
     virtual void InvalidateNodes() const = 0;
     virtual GenICam::gcstring GetDeviceName() = 0;
 
-    /// Advances the polling time by `ElapsedTime` milliseconds: nodes whose polling time has expired
-    /// are invalidated and their callbacks called.
+    /// Advances the polling time by `ElapsedTime` milliseconds: nodes whose polling time has
+    /// expired are invalidated and their callbacks called.
     virtual void Poll(int64_t ElapsedTime) = 0;
     virtual CLock &GetLock() const = 0;
     virtual uint64_t GetNumNodes() const = 0;
