@@ -11,20 +11,20 @@ class Array;
 
 namespace OrvGui {
 
-/// How advanced the features are that a tree shows; the values are those of GenApi's visibility
-/// levels Beginner, Expert and Guru.
+/// The visibility level of a tree; the values are those of GenApi's levels Beginner, Expert and
+/// Guru.
 enum Visibility : int { Basic = 0, Expert = 1, Guru = 2 };
 
-/// A parameter tree, as programs see it that know nothing of Qt.
+/// The interface of a parameter tree for programs without Qt.
 ///
-/// Made by the `CreateGenParamTreeViewFor…` functions and ended with `DestroyGenParamTreeView`.
+/// Created by the `CreateGenParamTreeViewFor…` functions and destroyed with
+/// `DestroyGenParamTreeView`.
 ///
-/// What the tree shows stays the caller's: a node map, and the array that it comes from, must live
-/// until the tree shows something else (`setParams`), nothing (`clearParams`) or is gone. It does
-/// not matter whether the user is editing a value at that moment: the editor is closed, and what it
-/// held is not written. Call from the thread of the Qt application. A tree may be given other
-/// parameters, but must not be destroyed, from inside a node callback that one of its own writes
-/// caused.
+/// The caller keeps ownership of the node map, and of the array that it comes from. Both must live
+/// until the tree is given other parameters (`setParams`), is cleared (`clearParams`) or is
+/// destroyed. A value that the user is editing at that moment is not written; its editor is closed.
+/// Call all functions on the thread of the Qt application. Inside a node callback that a write of
+/// the tree caused, the tree may be given other parameters, but must not be destroyed.
 class ORVCAMERAGUIAPI_EXPORT IOrvGenParamTreeView
 {
 public:
@@ -42,18 +42,17 @@ public:
     virtual OrvGui::Visibility visibility() const = 0;
     virtual void setVisibility(OrvGui::Visibility visibility) = 0;
 
-    /// Which categories are expanded, the width of the name column and the visibility level, as one
-    /// UTF-8 text for `loadState`; empty when nothing is shown. The pointer stays valid until the
-    /// next `saveState` or `loadState` of this tree, or its end.
+    /// Returns the expanded categories, the width of the name column and the visibility level as
+    /// one UTF-8 text for `loadState`; empty when nothing is shown. The pointer is valid until the
+    /// next `saveState` or `loadState` of this tree, or until the tree is destroyed.
     virtual const char *saveState() const = 0;
 
-    /// Restores what `saveState` saved of a tree with the same features. The categories are those
-    /// visible at the level that is set when this is called. Null and the empty text change
-    /// nothing, nor does any text while nothing is shown.
+    /// Restores the state that `saveState` returned for a tree with the same features. Categories
+    /// are expanded and collapsed at the level set at the time of the call. Null and the empty text
+    /// change nothing, nor does any text while nothing is shown.
     ///
-    /// A text in which the width or the level is no number makes this throw
-    /// `std::invalid_argument`, one in which it is too large `std::out_of_range`; the expansion is
-    /// changed by then.
+    /// Throws `std::invalid_argument` when the width or the level in the text is not a number, and
+    /// `std::out_of_range` when it is too large. The expansion has been restored by then.
     virtual void loadState(const char *state) = 0;
 };
 

@@ -5,18 +5,17 @@
 /*
  * The C functions of libOrvCameraGuiApi: ready-made windows for programs in any language.
  *
- * Each function that shows a window makes a Qt application when the process has none; a host that
- * has one of its own must have made a QApplication. All of them are called from one and the same
- * thread, that of the application. Those for settings files need none, and can be called on any.
+ * Each function that shows a window creates a Qt application when the process has none. The
+ * application of a Qt host must be a QApplication. Call these functions on one thread, that of the
+ * application. The functions for settings files need no application; call them on any thread.
  *
- * Nothing here but SelectCamera runs an event loop. A host that is not a Qt program has to let Qt's
- * events run, otherwise a window is neither painted nor heard: on Linux Qt waits on the default
- * GLib main context, so it is enough to run that, for instance with
- * g_main_context_iteration(NULL, FALSE) from the host's own loop. examples/c-host shows how.
+ * Only SelectCamera runs an event loop. A host without Qt must dispatch Qt's events; otherwise
+ * windows are not painted and get no input. On Linux Qt uses the default GLib main context, so it
+ * is enough to run that context, for instance with g_main_context_iteration(NULL, FALSE) from the
+ * host's own loop. examples/c-host is an example.
  *
- * Texts come in two kinds: functions whose name ends in A take UTF-8, those that end in W take
- * 32-bit wide characters. Both end with a zero. Parent windows are native window ids (on X11 a
- * Window), 0 for none.
+ * Functions whose name ends in A take UTF-8 texts, those that end in W take 32-bit wide characters.
+ * Both are zero-terminated. Parent windows are native window ids (on X11 a Window), 0 for none.
  */
 
 #include "orvcameraguiapi_export.h"
@@ -37,17 +36,18 @@ typedef struct OrvGuiFeatureBrowser OrvGuiFeatureBrowser;
 #endif
 
 /*
- * Opens a tree of all features of a node map or parameter array, in which the user reads and
- * changes them. A null source gives an empty tree. Never returns null; only running out of memory
- * throws (std::bad_alloc). The title may be null.
+ * Opens an editable tree of all features of a node map or parameter array. A null source gives an
+ * empty tree. Never returns null; only running out of memory throws (std::bad_alloc). The title may
+ * be null.
  *
  * With a parent the tree fills that window and is resized with it. The window must exist on the
- * default display, and until the tree is destroyed. Without one, the tree is a window of its own;
- * so it is, with a warning by Qt's message handler, on a platform without foreign windows (Wayland).
+ * default display until the tree is destroyed. Without a parent the tree is a top-level window. On
+ * a platform without foreign windows (Wayland) it is always one, and Qt's message handler gets a
+ * warning if there is a parent.
  *
- * The caller owns the tree and ends it with DestroyGenParamTreeView. The node map, and the array
- * that it comes from, must live until then, or until the tree is given other parameters or none;
- * see IOrvGenParamTreeView.
+ * The caller owns the tree and destroys it with DestroyGenParamTreeView. The node map, and the
+ * array that it comes from, must live until then, or until the tree is given other parameters or
+ * none; see IOrvGenParamTreeView.
  */
 ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *
 CreateGenParamTreeViewForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title,
@@ -61,14 +61,15 @@ ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvG
                                                                             const wchar_t *title,
                                                                             unsigned long parent);
 
-/* Null is ignored. Not from inside a callback of a node that the tree shows. */
+/* Null is ignored. Must not be called from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
 
 /*
- * Opens a browser of the features: the tree, with a search, favourites, marks on what was changed
- * or refused, and a table of what a selector selects. All else is as with a tree.
+ * Opens a feature browser: the tree with a search, favourites, marks on changed and refused
+ * features, and a table of the features that a selector selects. Parameters, parent and lifetimes
+ * are those of a tree.
  *
- * The caller owns the browser and ends it with DestroyFeatureBrowser.
+ * The caller owns the browser and destroys it with DestroyFeatureBrowser.
  */
 ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
 CreateFeatureBrowserForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title, unsigned long parent);
@@ -80,33 +81,34 @@ CreateFeatureBrowserForArrayA(OrvGenParamArray *array, const char *title, unsign
 ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
 CreateFeatureBrowserForArrayW(OrvGenParamArray *array, const wchar_t *title, unsigned long parent);
 
-/* Null is ignored. Not from inside a callback of a node that the browser shows. */
+/* Null is ignored. Must not be called from inside a callback of a node that the browser shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyFeatureBrowser(OrvGuiFeatureBrowser *browser);
 
 /*
- * What is unfolded, the width of the names, the level, the favourites of each camera model and the
- * options of the search, as one UTF-8 text for LoadFeatureBrowserState. The pointer stays valid
- * until the next call of either function for this browser, or its end. Null for no browser.
+ * Returns the expanded categories, the width of the name column, the visibility level, the
+ * favourites of each camera model and the options of the search as one UTF-8 text for
+ * LoadFeatureBrowserState. The pointer is valid until the next call of either function for this
+ * browser, or until the browser is destroyed. Returns null for a null browser.
  */
 ORVCAMERAGUIAPI_EXPORT const char *SaveFeatureBrowserState(OrvGuiFeatureBrowser *browser);
 
 /*
- * Restores what SaveFeatureBrowserState, or a tree, has saved: 1. Any other text changes nothing:
- * 0.
+ * Restores the state that SaveFeatureBrowserState, or a tree, returned. Returns 1 on success. Any
+ * other text changes nothing and returns 0.
  */
 ORVCAMERAGUIAPI_EXPORT int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser,
                                                    const char *state);
 
 /*
- * Lets the user pick one of the system's cameras, in a dialog of that title, and returns when he is
- * done: the camera, which is not opened yet, or null when he cancels. He can also give a GigE
- * Vision camera a working address there. A null system has no cameras. The title may be null.
+ * Runs a dialog of that title in which the user picks one of the system's cameras. Returns the
+ * record of the camera, which is not open yet, or null when the user cancels. The dialog can also
+ * give a GigE Vision camera a working address. A null system has no cameras. The title may be null.
  *
- * With a parent the dialog stands above that window, which must exist on the default display. It
- * is up to the host to keep its own windows from being used in the meantime. On a platform without
- * foreign windows (Wayland) the parent is ignored, with a warning by Qt's message handler.
+ * With a parent the dialog stays above that window, which must exist on the default display. The
+ * host disables its own windows while the dialog is open, if it wants that. On a platform without
+ * foreign windows (Wayland) the parent is ignored, and Qt's message handler gets a warning.
  *
- * The camera belongs to the system; it is not to be released and stays valid as long as the system.
+ * The record belongs to the system, must not be released, and stays valid as long as the system.
  */
 ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title,
                                                        unsigned long parent);
@@ -114,12 +116,13 @@ ORVCAMERAGUIAPI_EXPORT OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, con
                                                        unsigned long parent);
 
 /*
- * Each of these shows a dialog for a device and destroys it again before it returns. It blocks for
- * no longer than that, opens no further window, and leaves nothing behind: no window, and nothing
- * that is registered with the device. A dialog that is to stay open is made from its class in C++.
+ * Each of these functions shows a dialog for a device and destroys it before it returns. It does
+ * not block beyond that, opens no further window, and leaves no window and no registration at the
+ * device. For a dialog that stays open, use its C++ class.
  *
- * A null device gives a disabled dialog. The device stays the caller's. The parent is the native id
- * of a Qt widget of this process, which the dialog then belongs to; any other id counts as none.
+ * A null device gives a disabled dialog. The caller keeps ownership of the device. The parent is
+ * the native id of a Qt widget of this process, which becomes the parent of the dialog; any other
+ * id counts as none.
  *
  * ShowFrameABDialog shows the colour dialog, as ShowColorDialog does.
  */
@@ -132,37 +135,41 @@ ORVCAMERAGUIAPI_EXPORT void ShowStrobeDialog(OrvCamDevice *device, unsigned long
 ORVCAMERAGUIAPI_EXPORT void ShowTriggerDialog(OrvCamDevice *device, unsigned long parent);
 
 /*
- * Settings files: text as GenApi's feature persistence has it, with all features that the camera's
- * description calls streamable, for each position of their selectors.
+ * Settings files are texts in the format of GenApi's feature persistence. They contain all features
+ * that the camera's description marks as streamable, for each value of their selectors.
  *
- * These make no application and need no display, and may be called on any thread. They wait for the
- * camera; while one runs, nothing else should write to it. Selectors that are moved are put back.
- * File names are UTF-8.
+ * These functions create no application, need no display, and may be called on any thread. They
+ * block while they access the camera. Do not write to the camera from another place during a call.
+ * Selectors that a call moves are restored. File names are UTF-8.
  *
- * They return an OrvSettingsResult. `report`, which may be null, gets a text of at most
- * `reportSize` bytes in UTF-8, with a zero at its end: one line for each problem ("feature:
+ * All return an OrvSettingsResult. `report`, which may be null, receives a zero-terminated UTF-8
+ * text of at most `reportSize` bytes, including the zero. It has one line per problem ("feature:
  * reason") or difference ("feature", the value in the first file, the value in the camera or in the
- * second file, with tabs between them), after a failure a line that says why; empty without any.
+ * second file, separated by tabs). After a failure a line gives the reason. The text is empty when
+ * there is nothing to report.
  */
 enum OrvSettingsResult {
     OrvSettings_Done = 0,
-    OrvSettings_Partly = 1,    /* something was refused, is missing, or differs */
-    OrvSettings_Failed = 2,    /* nothing, or not all, was done */
-    OrvSettings_OtherModel = 3 /* the file is of another model, and nothing was written */
+    OrvSettings_Partly = 1,    /* a value was refused, is missing, or differs */
+    OrvSettings_Failed = 2,    /* the operation was not done, or not completed */
+    OrvSettings_OtherModel = 3 /* the file is of another model; nothing was written */
 };
 
-/* Replaces the file as a whole, or not at all. What the camera does not tell is left out. */
+/* Replaces the file as a whole, or not at all. Values that cannot be read are left out. */
 ORVCAMERAGUIAPI_EXPORT int SaveCameraSettings(OrvGenApiNodeMap *nodeMap, const char *fileName,
                                               char *report, size_t reportSize);
 
 /*
- * Writes the values in the order of the file, and what the camera refuses again as long as it takes
- * anything more. A file of another model is loaded when `anyModel` is not 0.
+ * Writes the values in the order of the file. Refused values are written again as long as the
+ * camera accepts further ones. A file of another model is loaded only when `anyModel` is not 0.
  */
 ORVCAMERAGUIAPI_EXPORT int LoadCameraSettings(OrvGenApiNodeMap *nodeMap, const char *fileName,
                                               int anyModel, char *report, size_t reportSize);
 
-/* Compares a file with a camera, or, without one, with a second file; the other one may be null. */
+/*
+ * Compares a file with a camera or, when `nodeMap` is null, with a second file. The unused one of
+ * the two may be null.
+ */
 ORVCAMERAGUIAPI_EXPORT int CompareCameraSettings(const char *fileName, OrvGenApiNodeMap *nodeMap,
                                                  const char *secondFile, char *report,
                                                  size_t reportSize);

@@ -2,7 +2,7 @@
 #ifndef ORVCAMERAGUIAPI_EXPORT_H
 #define ORVCAMERAGUIAPI_EXPORT_H
 
-/* Marks what libOrvCameraGuiApi exports; everything else is hidden. */
+/* Marks the symbols that libOrvCameraGuiApi exports; all others are hidden. */
 #define ORVCAMERAGUIAPI_EXPORT __attribute__((visibility("default")))
 
 #endif

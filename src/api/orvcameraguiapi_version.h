@@ -7,7 +7,7 @@
 #include <stdint.h>
 
 /*
- * The version that a program is compiled against. docs/versions.md says what a version promises.
+ * The version that a program is compiled against. docs/versions.md describes its guarantees.
  *
  *     #if ORVCAMERAGUIAPI_VERSION >= ORVCAMERAGUIAPI_VERSION_NUMBER(1, 4, 0)
  */
@@ -24,10 +24,10 @@
 extern "C" {
 #endif
 
-/* The version of the library that the program runs with: a number like ORVCAMERAGUIAPI_VERSION. */
+/* The version of the library at run time, in the format of ORVCAMERAGUIAPI_VERSION. */
 ORVCAMERAGUIAPI_EXPORT uint32_t OrvCameraGuiApi_GetVersion(void);
 
-/* The same as a text like ORVCAMERAGUIAPI_VERSION_TEXT; never null. */
+/* The same as a text, in the format of ORVCAMERAGUIAPI_VERSION_TEXT; never null. */
 ORVCAMERAGUIAPI_EXPORT const char *OrvCameraGuiApi_GetVersionText(void);
 
 #ifdef __cplusplus

@@ -12,14 +12,14 @@ class System;
 
 namespace OrvGui {
 
-/// Lets the user pick a camera of the system, in a modal `OrvCameraSelectorDialog` of that title
-/// above the window of that native id, 0 for none. Makes the application when there is none.
+/// Lets the user pick a camera of the system in a modal `OrvCameraSelectorDialog` of that title,
+/// above the window with that native id (0 for none). Creates the application when there is none.
 ///
-/// Returns the camera, which belongs to the system and is not opened yet, or null when the user
-/// cancels.
+/// Returns the record of the camera, which belongs to the system and is not open yet, or null when
+/// the user cancels.
 ///
-/// To be called on the GUI thread: that of the application or, without one, the thread that makes
-/// all calls. Blocks until the user has decided, with an event loop of its own.
+/// Must be called on the GUI thread: that of the application or, without one, the thread that makes
+/// all calls. Blocks until the user has decided, and runs an event loop for that time.
 ORVCAMERAGUIAPI_EXPORT OrvCam::DeviceInfo *
 SelectCamera(OrvCam::System *system, const QString &title, unsigned long parentWindow);
 

@@ -13,20 +13,21 @@ namespace OrvGui {
 
 class OrvFeatureBrowserPrivate;
 
-/// The tree of the features of a camera, as `OrvGenParamTreeView`, with what helps to find features
-/// among many, and to see and undo what was changed.
+/// Shows the features of a camera as `OrvGenParamTreeView` does, with functions to find features,
+/// and to see and undo changes.
 ///
-/// - A search line (Ctrl+F): the tree is narrowed to what it finds. Escape gives it back as it was.
-/// - A category of favourites on top, which the user fills from the context menu of a feature. They
-///   are kept for each camera model, as the node map names it.
-/// - What was changed in this browser is bold, with the earlier value in its tool tip, and can be
-///   put back. What the camera has refused is marked, with the reason, until it is written again.
-/// - A table of a feature's values for all values of its selector.
+/// - A search line (Ctrl+F) limits the tree to the features that it finds. Escape restores the
+///   tree.
+/// - A category of favourites on top, to which the user adds features from their context menu. The
+///   favourites are kept per camera model, by the model name of the node map.
+/// - A feature that was changed in this browser is bold. Its tool tip shows the earlier value,
+///   which can be put back. A refused feature is marked, with the reason, until it is written
+///   again.
+/// - A table shows a feature's values for all values of its selector.
 ///
-/// A widget like any other for Qt programs, which can take the place of a tree; see
-/// `IOrvGenParamTreeView` for what the host must keep alive and for the meaning of the operations.
-/// Other than a tree, a browser keeps what it looks like when it is given other parameters, also
-/// over a time without any.
+/// An ordinary widget for Qt programs, which can replace a tree; see `IOrvGenParamTreeView` for
+/// lifetimes and for the functions. Unlike a tree, a browser keeps its state when it is given other
+/// parameters, even if it had none in between.
 class ORVCAMERAGUIAPI_EXPORT OrvFeatureBrowser : public QWidget, public IOrvGenParamTreeView
 {
     Q_OBJECT
@@ -44,26 +45,26 @@ public:
     OrvGui::Visibility visibility() const override;
     void setVisibility(OrvGui::Visibility visibility) override;
 
-    /// What the tree's state text has, as it is without a search, and the favourites of all camera
-    /// models and the options of the search. Never empty. A tree can load it, too.
+    /// Returns the state text of the tree without the effects of a search, the favourites of all
+    /// camera models and the options of the search. Never empty. A tree can load it, too.
     const char *saveState() const override;
 
-    /// As `restoreState`, without an answer. Throws nothing.
+    /// The same as `restoreState`, without a result. Throws nothing.
     void loadState(const char *state) override;
 
-    /// Restores what `saveState` of a browser or of a tree has saved; the favourites stay when it
-    /// was a tree. At any time: what is unfolded is restored when there are features. False, and
-    /// nothing is changed, for a text that is none.
+    /// Restores the state that `saveState` of a browser or of a tree returned. The state of a tree
+    /// leaves the favourites unchanged. May be called at any time: the expanded categories are
+    /// restored when there are features. Returns false and changes nothing for any other text.
     bool restoreState(const char *state);
 
-    /// The tree itself, to adapt its looks. Its model, delegate and selection model are the
-    /// widget's business.
+    /// The inner tree view, for adapting its appearance. Do not replace its model, delegate or
+    /// selection model.
     QTreeView *treeView() const;
 
     /// The menu of the button beside the search line. The host may add to it.
     QMenu *menu() const;
 
-    /// Searches as if the user had typed the text; an empty one ends the search.
+    /// Searches as if the user had typed the text. An empty text ends the search.
     void search(const QString &text);
 
 protected:

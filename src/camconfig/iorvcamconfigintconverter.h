@@ -9,22 +9,22 @@ class Int;
 
 namespace OrvGui {
 
-/// Translates between an integer of the camera and the number that a widget shows for it, for
+/// Converts between an integer of the camera and the number that a widget shows for it, for
 /// instance between lines and microseconds.
 ///
-/// Implement it where a binding of `OrvCamConfigMapper` needs another unit than the camera's. The
-/// mapper does not own it; it must outlive the binding. Called on the GUI thread, whenever the
-/// widget is refreshed or edited. Neither operation may throw.
+/// Implement it where a binding of `OrvCamConfigMapper` needs a unit other than the camera's. The
+/// mapper does not own the converter, which must outlive the binding. Called on the GUI thread
+/// whenever the widget is refreshed or edited. Neither function may throw.
 class ORVCAMERAGUIAPI_EXPORT IOrvCamConfigIntConverter
 {
 public:
-    /// What the widget shows for a value, a limit or the increment of the parameter.
+    /// The number in the widget for a value, a limit or the increment of the parameter.
     virtual long ToControl(long value, OrvGenParam::Int *param) = 0;
 
-    /// What is written to the camera for a number of the widget.
+    /// The value to write to the camera for a number in the widget.
     virtual long ToDevice(long value, OrvGenParam::Int *param) = 0;
 
-    // After the two, whose places in the table of operations hosts count on.
+    // Last, because hosts depend on the vtable slots of the other two.
     virtual ~IOrvCamConfigIntConverter() = default;
 };
 

@@ -5,10 +5,10 @@
 
 namespace OrvGui {
 
-/// Sets up the white balance of a camera: the automatic one, and the coefficients by hand.
+/// Sets up the automatic white balance of a camera and its manual coefficients.
 ///
-/// The coefficients that the camera uses at the moment are shown apart, so that they can be
-/// followed while one of them is being edited. See `OrvCamConfigDialog` for the rest.
+/// The coefficients that the camera uses at present are shown separately, so that they stay visible
+/// while one of them is being edited. See `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigColorDialog : public OrvCamConfigDialog
 {
     Q_OBJECT

@@ -14,15 +14,15 @@ namespace OrvGui {
 
 class OrvCamConfigDialogPrivate;
 
-/// What the dialogs that configure one subject of a camera have in common: a form whose controls
-/// are bound to features of a device.
+/// The base class of the configuration dialogs: a form whose controls are bound to features of a
+/// device.
 ///
-/// Each control writes its feature at once, and shows it whenever the camera changes it. Without a
-/// device that can be used (none, or one that has no parameters to offer) the whole dialog is
-/// disabled. The device belongs to the caller; hand over another one, or null, before it is
-/// released. A dialog may be destroyed at any time, before or after its device.
+/// Each control writes its feature at once and follows its changes. The whole dialog is disabled
+/// while it has no device, or a device without parameters. The device belongs to the caller; set
+/// another one, or null, before releasing it. A dialog may be destroyed at any time, before or
+/// after its device.
 ///
-/// Use it on the GUI thread only, which is also the one that the device was created on.
+/// Use it on the GUI thread only, which must also be the thread that created the device.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigDialog : public QDialog
 {
     Q_OBJECT
@@ -30,14 +30,14 @@ class ORVCAMERAGUIAPI_EXPORT OrvCamConfigDialog : public QDialog
 public:
     ~OrvCamConfigDialog() override;
 
-    /// Binds the controls to another device; to none if it is null. To be called again with the
-    /// same device after it has been disconnected and is back.
+    /// Binds the controls to another device, or to none if it is null. Call it again with the same
+    /// device after a reconnect.
     ///
-    /// A call that comes from a read of the device that is just being bound counts when that one is
-    /// bound; that device must live so long.
+    /// A call from inside a read during the binding of another device takes effect when that
+    /// binding is complete; that device must live until then.
     void SetDevice(OrvCam::Device *device);
 
-    /// Closes the dialog; the Escape key comes here, too.
+    /// Closes the dialog; also called for the Escape key.
     void reject() override;
 
 Q_SIGNALS:
@@ -45,7 +45,8 @@ Q_SIGNALS:
     void closing();
 
 protected:
-    /// Takes over the private part, builds the form and binds it to the device, which may be null.
+    /// Takes ownership of the private part, builds the form and binds it to the device, which may
+    /// be null.
     OrvCamConfigDialog(OrvCamConfigDialogPrivate *part, OrvCam::Device *device, QWidget *parent);
 
     void showEvent(QShowEvent *event) override;

@@ -8,10 +8,10 @@ namespace OrvGui {
 /// Edits the two frame set-ups of a camera: output mode, exposure, line time, area of interest,
 /// gain and wide dynamic range of frame A and frame B.
 ///
-/// The tabs select the frame that the camera's features address. While the camera puts out one
-/// frame only, that frame is selected: a program that selects the other one may look at it until it
-/// returns to the event loop. What is typed but not entered, or still dragged, when another frame
-/// is selected counts for neither. See `OrvCamConfigDialog` for the rest.
+/// The tabs select the frame that the camera's features address. While the camera outputs one frame
+/// only, the dialog keeps that frame selected: when a program selects the other one, the dialog
+/// restores the selection from the event loop. Input that is not entered, or a slider still being
+/// dragged, when the selection changes is discarded. See `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigFrameABDialog : public OrvCamConfigDialog
 {
     Q_OBJECT

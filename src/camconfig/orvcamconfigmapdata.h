@@ -6,7 +6,7 @@
 
 namespace OrvGui {
 
-/// What sort of parameter is bound to what sort of widget.
+/// The type of parameter and widget in a binding.
 enum OrvCamConfigMapKind : qint32 {
     MapDependent = -1,    ///< a widget that is only enabled and disabled with a `MapIntOrvSpinBox`
     MapEnumComboBox = 0,  ///< a `QComboBox` with an item for each entry
@@ -18,8 +18,8 @@ enum OrvCamConfigMapKind : qint32 {
     MapIntLineEdit = 6,   ///< a `QLineEdit`, with a `QIntValidator` for the limits
     MapIntSpinBox = 7,    ///< a `QSpinBox`
     MapIntOrvSpinBox = 8, ///< a `QtOrvSpinBox`
-    MapIntSlider = 9,     ///< a `QSlider`, perhaps with a converter
-    MapIntOrvSliderSpinBox = 10 ///< a `QtOrvSliderSpinBox`, perhaps with a converter
+    MapIntSlider = 9,     ///< a `QSlider`, optionally with a converter
+    MapIntOrvSliderSpinBox = 10 ///< a `QtOrvSliderSpinBox`, optionally with a converter
 };
 
 /// One binding of a parameter to a widget; see `OrvCamConfigMapper`.
@@ -27,12 +27,11 @@ struct OrvCamConfigMapData
 {
     qint32 type; ///< an `OrvCamConfigMapKind`
 
-    /// The widget, which belongs to somebody else; null for a button group, and after the widget's
-    /// end.
+    /// The widget, not owned; null for a button group, and once the widget is destroyed.
     QPointer<QWidget> control;
 
-    /// The `QButtonGroup` of `MapEnumButtons`, the `IOrvCamConfigIntConverter` (or null) of the
-    /// kinds that may have one; else null. Belongs to somebody else.
+    /// The `QButtonGroup` of `MapEnumButtons`, or the optional `IOrvCamConfigIntConverter` of the
+    /// types that may have one; otherwise null. Not owned.
     void *extra;
 };
 

@@ -44,82 +44,83 @@ class FeatureJournal;
 class FeatureReader;
 class IOrvCamConfigIntConverter;
 
-/// Binds parameters of a camera to widgets, in both directions: what the user changes is written to
-/// the camera at once, what the camera changes is shown, and a widget is enabled while its
-/// parameter can be written.
+/// Binds parameters of a camera to widgets in both directions: a change by the user is written to
+/// the camera at once, a change by the camera is shown, and a widget is enabled while its parameter
+/// is writable.
 ///
-/// Embed one in each dialog and describe the form by map calls. A map call takes the widget over:
-/// whatever was connected to its signals is disconnected, so connect handlers of your own after it.
-/// A null parameter, one that the camera lacks, disables the widget and binds nothing. One name has
-/// one binding; mapping it again replaces that and disables the earlier widget, also when it is the
-/// same one (the next notification settles its state). A parameter that is available but read-only
-/// leaves the widget's state as it is until the next notification.
+/// Use one per dialog, and describe the form by map calls. A map call disconnects all receivers of
+/// the widget's signals; connect handlers of your own after it. A null parameter, which the camera
+/// lacks, disables the widget and binds nothing. A name has one binding. Mapping it again replaces
+/// the binding and disables the previous widget, even when it is the same one; the next
+/// notification restores its state. A parameter that is available but read-only leaves the widget's
+/// state unchanged until the next notification.
 ///
-/// Integers that go into a widget are at most the value cap; see the constructor. A value that
-/// cannot be read leaves what the widget shows.
+/// Integers in a widget are limited to the value cap; see the constructor. A failed read leaves the
+/// widget's content unchanged.
 ///
-/// A write that the camera refuses is reported in a message box, one for each refused write, and
-/// ends what the user was holding down at that moment; the widget keeps the user's value until the
-/// camera's next notification. What the camera takes is recorded in the journal of its node map. A
-/// drag of a slider is one write, at its end. Showing a value of the
-/// camera never writes one back, yet the widget's signals tell of it as of any change.
+/// Each refused write is reported in a message box and releases the key, button or slider that the
+/// user is holding; the widget keeps the user's value until the camera's next notification. An
+/// accepted write is recorded in the journal of the node map. A drag of a slider is one write, at
+/// its end. Showing a value of the camera never writes it back, but the widget's signals are
+/// emitted as for any change.
 ///
-/// A bound widget and its labels, those of which it is the buddy, get a tool tip with what the
-/// camera says of the feature and with the range, unless they have one of their own. Combo boxes,
-/// spin boxes, sliders and tab bars leave the wheel to what they stand in while they have no focus.
+/// A bound widget, and the labels of which it is the buddy, get a tool tip with the camera's
+/// description of the feature and the range, unless they have a tool tip already. Combo boxes, spin
+/// boxes, sliders and tab bars without focus pass wheel events to their parent.
 ///
-/// A binding lives until its name is mapped again, it is unmapped, its widget is destroyed or the
-/// mapper is. Parameters must live as long as their widgets can be used; call `unmapAll` before
-/// they go, or have the camera say that they are no longer available. Converters and timers must
-/// outlive the bindings. Use it on the GUI thread only; notifications have to arrive there.
+/// A binding ends when its name is mapped again, when it is unmapped, or when the widget or the
+/// mapper is destroyed. Parameters must live as long as their widgets can be used: call `unmapAll`
+/// before they are destroyed, or let the camera report them as not available. Converters and timers
+/// must outlive the bindings. Use it on the GUI thread only; notifications must arrive there.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigMapper : public OrvGenParam::ParamEventSink
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCamConfigMapper)
 
 public:
-    /// `valueCap` is the largest number that a widget is given as maximum or value.
+    /// `valueCap` is the largest maximum or value that a widget gets.
     explicit OrvCamConfigMapper(qint64 valueCap = std::numeric_limits<int>::max());
     ~OrvCamConfigMapper() override;
 
-    /// The array of which parameters are going to be mapped; null for none. Without it, every
-    /// value is asked of the camera when it is shown, and waited for.
+    /// Sets the array of the parameters that will be mapped; null for none. Without it, each value
+    /// is read from the camera when it is shown, and the read blocks.
     void setArray(const OrvGenParam::Array *array);
 
-    /// What reads the parameters of that array.
+    /// The reader of the parameters of that array.
     FeatureReader &reader() const;
 
-    /// Where what the user writes to those parameters is recorded; null without an array.
+    /// The journal that records the user's writes to those parameters; null without an array.
     std::shared_ptr<FeatureJournal> journal() const;
 
-    /// Shows the parameter in the widgets that are bound to it, and enables or disables them; once
-    /// its value is known, where that has to be read first.
+    /// Shows the parameter in the widgets bound to it, and enables or disables them. When the value
+    /// is not cached, this happens after it has been read.
     void OnParameterUpdate(OrvGenParam::Param *param) override;
 
-    /// One item for each entry; those that are not available cannot be chosen.
+    /// One item per entry; entries that are not available cannot be chosen.
     void mapEnumParam(OrvGenParam::Enum *param, QComboBox *comboBox);
 
-    /// Checked shows any value but 0; writes 1 and 0.
+    /// Checked for any value but 0; writes 1 and 0.
     void mapEnumParam(OrvGenParam::Enum *param, QCheckBox *checkBox);
 
-    /// The buttons take the texts and values of the entries, in this order; those without an entry
-    /// are hidden. The values become their ids, unless they are -1 or do not fit in an int.
+    /// The buttons get the texts and values of the entries, in their order; buttons without an
+    /// entry are hidden. The values become the ids, unless they are -1 or do not fit in an int.
     void mapEnumParam(OrvGenParam::Enum *param, QButtonGroup *buttons);
 
-    /// The tabs take the texts of the entries, in this order; those without an entry are removed
-    /// until an enumeration with more entries is mapped. A tab's text is what is written: leave it
-    /// as it is.
+    /// The tabs get the texts of the entries, in their order; tabs without an entry are removed
+    /// until an enumeration with more entries is mapped. The text of a tab is the value that is
+    /// written: do not change it.
     void mapEnumParam(OrvGenParam::Enum *param, QTabWidget *tabs);
 
-    /// With a timer, each click disables the button and starts the timer; whoever gave the timer
+    /// With a timer, each click disables the button and starts the timer; the owner of the timer
     /// enables the button again.
     void mapCommandParam(OrvGenParam::Command *param, QPushButton *button, QTimer *timer);
 
     void mapBooleanParam(OrvGenParam::Boolean *param, QAbstractButton *button);
 
-    /// A text counts when it is entered or the line edit left, if its validator accepts it.
+    /// Writes the text when it is entered or the line edit loses the focus, if its validator
+    /// accepts it.
     void mapIntParam(OrvGenParam::Int *param, QLineEdit *lineEdit);
 
-    /// A number counts when it is entered or the spin box left.
+    /// Writes the number when it is entered or the spin box loses the focus.
     void mapIntParam(OrvGenParam::Int *param, QSpinBox *spinBox);
     void mapIntParam(OrvGenParam::Int *param, QSlider *slider,
                      IOrvCamConfigIntConverter *converter);
@@ -127,26 +128,26 @@ public:
     void mapIntParam(OrvGenParam::Int *param, QtOrvSliderSpinBox *spinBox,
                      IOrvCamConfigIntConverter *converter);
 
-    /// As without `dependents`, which are enabled and disabled with the spin box; labels and
-    /// buttons that belong to it, for instance. False when the parameter is null.
+    /// The same with `dependents`: widgets that are enabled and disabled with the spin box, such as
+    /// its labels and buttons. False when the parameter is null.
     bool mapIntParam(OrvGenParam::Int *param, QtOrvSpinBox *spinBox,
                      QVector<QWidget *> &dependents);
 
-    /// Disables the widget and disconnects whatever is connected to its signals. The binding itself
-    /// stays in the tables.
+    /// Disables the widget and disconnects all receivers of its signals. The binding itself is
+    /// kept.
     void unmapControl(const OrvCamConfigMapData &record);
 
-    /// Unmaps every widget of that parameter and forgets the binding.
+    /// Unmaps all widgets of that parameter and removes the binding.
     void unmapParam(const QString &name);
 
-    /// The same for all parameters. Touches widgets only, no parameter.
+    /// The same for all parameters. Accesses widgets only, no parameter.
     void unmapAll();
 
-    /// Has no parameter of the array notify the mapper any more; what is bound stays bound. Call it
-    /// before `unmapAll`, which forgets the parameters.
+    /// Unregisters the mapper from all parameters of the array; bindings are kept. Call it before
+    /// `unmapAll`, which forgets the parameters.
     void leave(const OrvGenParam::Array &array);
 
-    /// Refresh a widget without a notification of the camera.
+    /// Refreshes a widget without a notification of the camera.
     void updateSpinBox(OrvGenParam::Int *param, QtOrvSpinBox *spinBox);
     void updateSliderSpinBox(OrvGenParam::Int *param, QtOrvSliderSpinBox *spinBox,
                              IOrvCamConfigIntConverter *converter);
@@ -155,7 +156,7 @@ public:
     void updateTabWidget(OrvGenParam::Enum *param, QTabWidget *tabs);
 
 private:
-    /// What a name is bound to, and what becomes null with a button group.
+    /// The record of a name, and a pointer that becomes null with the button group.
     struct Binding
     {
         OrvCamConfigMapData alive() const;
@@ -201,9 +202,9 @@ private:
 
     const qint64 m_valueCap;
     QHash<QString, Bindings> m_bindings;
-    QHash<QString, OrvGenParam::Param *> m_params; ///< whose notifications count, by name
+    QHash<QString, OrvGenParam::Param *> m_params; ///< bound parameters, by name
     QHash<QString, QHash<QString, int>> m_tabs;    ///< parameter, entry: index of its tab
-    const std::shared_ptr<State> m_state;          ///< may outlive the mapper for a moment
+    const std::shared_ptr<State> m_state;          ///< may outlive the mapper briefly
 };
 
 } // namespace OrvGui

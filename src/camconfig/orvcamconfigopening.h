@@ -22,11 +22,11 @@ namespace OrvGui {
 
 class OpeningProgress;
 
-/// Opens a camera on a thread of its own, so that windows stay alive meanwhile. When it takes
-/// longer, a dialog shows how far it has come and lets the user cancel.
+/// Opens a camera on a thread of its own, so that windows stay responsive. When the opening takes
+/// longer, a dialog shows its progress and lets the user cancel.
 ///
-/// Destroying the object cancels, at once: the camera is closed again as soon as it is open, and
-/// nobody is told. To be used on the GUI thread.
+/// Destroying the object cancels at once, without a notification: the camera is closed again as
+/// soon as it is open. Use it on the GUI thread only.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOpening : public QObject
 {
     Q_OBJECT
@@ -34,30 +34,30 @@ class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOpening : public QObject
 public:
     struct Result
     {
-        OrvCam::Device *device = nullptr; ///< to be released by the receiver
+        OrvCam::Device *device = nullptr; ///< released by the receiver
         bool isCancelled = false;
         qint32 error = 0; ///< an `OrvCam::ErrorCode`
-        QString reason;   ///< why it failed, for the user; plain text, may have several lines
+        QString reason;   ///< the reason of the failure for the user; plain text, maybe multi-line
     };
 
-    /// Opens nothing yet. The dialog is shown in front of the window, which may be null.
+    /// Does not open the camera yet. The dialog is shown in front of the window, which may be null.
     OrvCamConfigOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWidget *window = nullptr);
     ~OrvCamConfigOpening() override;
 
-    /// Is called with the open device before anybody else gets it, on the thread that opens it.
+    /// Sets a function that is called with the open device first, on the thread that opens it.
     void setPreparation(std::function<void(OrvCam::Device &)> prepare);
 
-    /// Who gets the device as soon as it is open, also while a dialog that was opened later is
-    /// still waited for.
+    /// Sets a function that gets the device as soon as it is open, even while `exec` cannot return
+    /// because of a nested event loop.
     void setReceiver(std::function<void(OrvCam::Device *)> receiver);
 
-    /// Is told again and again in place of the dialog, for a program without windows, which share
-    /// of the description has come: in per cent, -1 as long as there is none. Answers false to
-    /// cancel.
+    /// Sets a function that is called repeatedly in place of the dialog, for a program without
+    /// windows. It gets the downloaded share of the description in per cent, -1 before the
+    /// download. Returning false cancels.
     void setProgress(std::function<bool(int percent)> progress);
 
-    /// Opens the camera and handles events until that is over. What a receiver has got is not in
-    /// the result. The object may be destroyed meanwhile.
+    /// Opens the camera and processes events until that is done. A device that a receiver got is
+    /// not in the result. The object may be destroyed during the call.
     Result exec();
 
 protected:
@@ -81,7 +81,7 @@ private:
     const QString m_name;
     const std::shared_ptr<Job> m_job;
     std::function<void(OrvCam::Device *)> m_receiver;
-    std::function<bool(int)> m_report; ///< in place of the dialog
+    std::function<bool(int)> m_report; ///< replaces the dialog
     QPointer<OpeningProgress> m_progress;
 };
 

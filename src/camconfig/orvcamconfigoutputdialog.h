@@ -5,9 +5,8 @@
 
 namespace OrvGui {
 
-/// Sets up the image data of a camera: its format, what the camera does to the pixels, and the test
-/// pattern.
-/// See `OrvCamConfigDialog` for the rest.
+/// Sets up the image data of a camera: format, processing of the pixels, and test pattern. See
+/// `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOutputDialog : public OrvCamConfigDialog
 {
     Q_OBJECT

@@ -5,10 +5,9 @@
 
 namespace OrvGui {
 
-/// Sets up the two strobes of a camera and what its two output lines put out.
+/// Sets up the two strobes of a camera, and the source and polarity of its two output lines.
 ///
-/// A picture shows for each strobe whether its delay counts from the start of the exposure or from
-/// that of the read-out.
+/// A picture shows for each strobe whether its delay starts with the exposure or with the readout.
 /// See `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigStrobeDialog : public OrvCamConfigDialog
 {

@@ -12,17 +12,16 @@ namespace OrvGui {
 
 class OrvGenParamTreeViewPrivate;
 
-/// Shows the features of a camera, or of anything else with a node map, as an editable tree: a
-/// choice of the visibility level on top, the tree in the middle, and below it a description of the
-/// current feature.
+/// Shows the features of a camera, or of any other node map, as an editable tree: the visibility
+/// level on top, the tree in the middle, and the description of the current feature at the bottom.
 ///
-/// A widget like any other for Qt programs; see `IOrvGenParamTreeView` for what the host must keep
-/// alive and for the meaning of the operations. Values are edited in place and written at once;
-/// what the camera refuses silently falls back to the camera's value.
+/// An ordinary widget for Qt programs; see `IOrvGenParamTreeView` for lifetimes and for the
+/// functions. Values are edited in place and written at once. A refused value silently reverts to
+/// the camera's value.
 ///
 /// With a node map that is an `OrvGenParam::LookAhead`, only a write waits for the camera. Values
-/// appear as they come, and an editor opens when its value and limits have come. The model of
-/// `treeView()` then tells what is known; a `GenParamTreeModel` of the host's own waits.
+/// appear as they arrive, and an editor opens when its value and limits have arrived. The model of
+/// `treeView()` then returns cached values only; a `GenParamTreeModel` of the host blocks instead.
 class ORVCAMERAGUIAPI_EXPORT OrvGenParamTreeView : public QWidget, public IOrvGenParamTreeView
 {
     Q_OBJECT
@@ -42,8 +41,8 @@ public:
     const char *saveState() const override;
     void loadState(const char *state) override;
 
-    /// The tree itself, to adapt its looks. Its model, delegate and selection model are the
-    /// widget's business.
+    /// The inner tree view, for adapting its appearance. Do not replace its model, delegate or
+    /// selection model.
     QTreeView *treeView() const;
 
 private:

@@ -15,13 +15,13 @@ namespace OrvGui {
 
 class OrvCameraSelectorDialogPrivate;
 
-/// Lets the user pick one of all cameras that a camera system can reach, and give a GigE Vision
+/// Lets the user pick one of the cameras that a camera system can reach, and give a GigE Vision
 /// camera a working address.
 ///
-/// Construct it, run it with `exec`, and when it was accepted read `selectedCamera`; or use
-/// `SelectCamera`, which does all that. Only cameras that can be opened are accepted, but none is
-/// opened. Looking for cameras blocks the constructor, and "Rescan", for up to 200 ms per
-/// interface; libOrvCameraApi takes that once for all network adapters.
+/// Construct it, run it with `exec`, and read `selectedCamera` when it was accepted; or use
+/// `SelectCamera`, which does all three. The dialog accepts only a camera that can be opened, and
+/// does not open it. The search for cameras blocks the constructor, and "Rescan", for up to 200 ms
+/// per interface; libOrvCameraApi needs that time once for all network adapters.
 ///
 /// The system must outlive the dialog; a null system has no cameras. Use it on the GUI thread only.
 class ORVCAMERAGUIAPI_EXPORT OrvCameraSelectorDialog : public QDialog
@@ -35,7 +35,7 @@ public:
     /// The current camera, which belongs to the system; null when there is none.
     OrvCam::DeviceInfo *selectedCamera() const;
 
-    /// Does nothing: a camera cannot be selected beforehand.
+    /// Has no effect: a camera cannot be preselected.
     void setSelectedCamera(OrvCam::DeviceInfo *camera);
 
 private:

@@ -17,25 +17,26 @@ namespace OrvGui {
 /// Saves the settings of a camera to files, loads and compares them, and reads and writes single
 /// features as text.
 ///
-/// A settings file is text as GenApi's feature persistence has it, which other tools read and
-/// write. It has all features that the camera's description calls streamable, for each position
-/// of their selectors.
+/// A settings file is a text in the format of GenApi's feature persistence, which other tools read
+/// and write. It contains all features that the camera's description marks as streamable, for each
+/// value of their selectors.
 ///
-/// Everything waits for the camera and may be called on any thread, also on one beside that of the
-/// windows; none of it needs an application object or a display. While a call moves selectors,
-/// nothing else should write to the camera. It puts them back, also when it fails or is cancelled.
-/// No function throws. Texts for the user are in the language of the application.
+/// All functions block while they access the camera. They may be called on any thread, also while
+/// another thread runs the windows, and need no application object and no display. While a call
+/// moves selectors, do not write to the camera from another place. The call restores the selectors,
+/// also when it fails or is cancelled. No function throws. Texts for the user are in the language
+/// of the application.
 class ORVCAMERAGUIAPI_EXPORT OrvCameraSettings
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCameraSettings)
 
 public:
-    /// Told how much has been done, on the calling thread, between two features. Answers false to
-    /// cancel. May be empty.
+    /// Called between two features, on the calling thread, with the number of features done and
+    /// their total. Returns false to cancel. May be empty.
     using Progress = std::function<bool(int done, int total)>;
 
-    /// What was not done, and why. For a selected feature with the selection, such as
-    /// "Gain [GainSelector=Red]".
+    /// A value that was not saved or written, and the reason. The name of a feature with a selector
+    /// includes the selection, such as "Gain [GainSelector=Red]".
     struct Problem
     {
         QString feature;
@@ -43,27 +44,28 @@ public:
         QString reason;
     };
 
-    /// What is not the same. A value is null where there is none.
+    /// A difference between two sides. A missing value is null.
     struct Difference
     {
         QString feature;
-        QString left;  ///< in the (first) file
-        QString right; ///< in the camera, or the second file
+        QString left;  ///< value in the first or only file
+        QString right; ///< value in the camera, or in the second file
     };
 
     struct Result
     {
-        /// Why nothing, or not all, was done, as text for the user; empty when it was.
+        /// The reason why the operation was not done or not completed, as text for the user; empty
+        /// on success.
         QString error;
         bool isCancelled = false;
         bool isOfOtherModel = false; ///< the error is that the file is of another model
 
-        int count = 0;             ///< of values that were saved, or that the camera has now
-        QVector<Problem> problems; ///< what the camera did not tell, or has refused
-        QStringList missing;       ///< what the file has and the camera has not
+        int count = 0;             ///< number of values saved, or present in the camera now
+        QVector<Problem> problems; ///< values that could not be read, or were refused
+        QStringList missing;       ///< features in the file that the camera lacks
         QVector<Difference> differences;
 
-        /// Whether all that was to be done is done. Differences are no failure.
+        /// Whether the operation is complete. Differences do not count as a failure.
         bool isComplete() const
         {
             return error.isEmpty() && !isCancelled && problems.isEmpty() && missing.isEmpty();
@@ -75,28 +77,31 @@ public:
         AnyModel
     };
 
-    /// Writes the file at the end, as a whole or not at all.
+    /// Saves the settings. The file is written at the end, as a whole or not at all.
     static Result save(GenApi::INodeMap &map, const QString &fileName, Progress progress = {});
 
-    /// Writes the values in the order of the file to the camera; what is refused, again as long as
-    /// the camera takes anything more.
+    /// Writes the values to the camera in the order of the file. Refused values are written again
+    /// as long as the camera accepts further ones.
     static Result load(GenApi::INodeMap &map, const QString &fileName, Models models = SameModel,
                        Progress progress = {});
 
-    /// Compares a file with a camera. What the camera lacks is `missing`.
+    /// Compares a file with a camera. Features that the camera lacks are in `missing`.
     static Result compare(GenApi::INodeMap &map, const QString &fileName, Progress progress = {});
 
     /// Compares two files.
     static Result compare(const QString &leftFile, const QString &rightFile);
 
-    /// The value of a feature as the feature tree shows it. Null, and a reason, without one.
+    /// Returns the value of a feature as the feature tree shows it; null, and the reason in
+    /// `error`, when it has none.
     static QString value(GenApi::INodeMap &map, const QString &feature, QString *error);
 
-    /// Sets it to such a value. False, and a reason, when that is refused.
+    /// Sets a feature to a value in the same format. Returns false, and the reason in `error`, when
+    /// the value is refused.
     static bool setValue(GenApi::INodeMap &map, const QString &feature, const QString &value,
                          QString *error);
 
-    /// Executes a command, and waits until it is done, for ten seconds at most.
+    /// Executes a command and waits for its completion, for ten seconds at most. Returns false, and
+    /// the reason in `error`, on failure.
     static bool execute(GenApi::INodeMap &map, const QString &feature, QString *error);
 };
 

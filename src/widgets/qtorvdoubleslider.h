@@ -12,14 +12,14 @@ class QSlider;
 class QtOrvDoubleSliderPrivate;
 
 /**
- * A floating-point slider with its two ends written beside it.
+ * A floating-point slider with labels for its two ends.
  *
  * Use it for gains and other real numbers. A position of its inner QSlider is one single step,
- * counted from the minimum; the last position is the maximum, also where that is no whole number
- * of steps away. value() after setValue() is therefore the value of the nearest step.
+ * counted from the minimum; the last position is the maximum, even where that is not a whole number
+ * of steps away. value() after setValue() is therefore the value of the nearest position.
  *
- * Any number is a legal argument. With a minimum above the maximum the slider can't be moved, and a
- * step of 0 leaves it only its two ends. Use it on the GUI thread only.
+ * Any number is a legal argument. With a minimum above the maximum the slider cannot be moved, and
+ * with a step of 0 it has only its two ends. Use it on the GUI thread only.
  */
 class ORVCAMERAGUIAPI_EXPORT QtOrvDoubleSlider : public QFrame
 {
@@ -53,15 +53,15 @@ public:
     /** The value of the current position, snapped while validation is on. */
     double value() const;
 
-    /** The value of one position and the step of the grid; 1.0 at first. Keeps the value. */
+    /** The value of one position and the step of the grid; 1.0 by default. Keeps the value. */
     void setSingleStep(double step);
     double singleStep() const;
 
-    /** Digits after the point, 3 at first; the labels show them from the next setRange() on. */
+    /** Decimal places, 3 by default; the labels use a change from the next setRange() on. */
     void setDecimals(int decimals);
     int decimals() const;
 
-    /** Whether values snap to the grid. Off at first; counts from the next change of value on. */
+    /** Whether values snap to the grid, from the next change on; off by default. */
     void setValidate(bool on);
     bool validate() const;
 
@@ -69,18 +69,18 @@ public:
     void setMaxLabelVisiable(bool visible);
     void setMinLabelVisiable(bool visible);
 
-    /** Whether the label can be seen just now: false until the slider itself is shown. */
+    /** Whether the label is visible at present: false until the slider itself is shown. */
     bool isMaxLabelVisiable() const;
     bool isMinLabelVisiable() const;
 
     void setOrientation(Qt::Orientation orientation);
     Qt::Orientation orientation() const;
 
-    /** Whether the value follows while the slider is dragged (as at first) or on release. */
+    /** Whether the value changes while the slider is dragged (the default) or on its release. */
     void setTracking(bool on);
     bool hasTracking() const;
 
-    /** The parts, to style them; the slider owns them. */
+    /** The inner widgets, for styling; owned by the slider. */
     QLabel *maxLabel() const;
     QLabel *minLabel() const;
     QSlider *slider() const;
@@ -88,10 +88,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
-    /** Sets both ends and keeps the value, as far as it lies between them. */
+    /** Sets both ends; the value is kept, limited to them. */
     void setRange(double min, double max);
 
-    /** Moves the slider to the position next to \a value. */
+    /** Moves the slider to the position nearest to \a value. */
     void setValue(double value);
 
 Q_SIGNALS:
@@ -103,12 +103,12 @@ Q_SIGNALS:
 
     void sliderPressed();
 
-    /** The user drags the slider; \a position is that of the inner slider, not a value. */
+    /** The user is dragging the slider; \a position is that of the inner slider, not a value. */
     void sliderMoved(int position);
 
     void sliderReleased();
 
-    /** The range is another one; emitted before the value is put back. */
+    /** The range has changed; emitted before the value is restored. */
     void rangeChanged(double min, double max);
 
 private:

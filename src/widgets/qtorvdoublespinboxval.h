@@ -9,12 +9,12 @@
 /**
  * A QDoubleSpinBox for numbers that must lie on a grid of single steps from the minimum.
  *
- * Use it for an exposure time in steps of the sensor's line time, for instance. Two independent
- * switches shape it: with validation on, every value set is snapped to the grid (its two ends are
- * always allowed); with typing validation off, what is typed counts only on Return or Enter or
- * when the focus leaves, so that a camera does not see the numbers in between. Escape takes it
- * back. A decimal point is accepted beside the locale's sign. With a single step of 0 Return and
- * Enter are left to QDoubleSpinBox.
+ * Use it for an exposure time in steps of the sensor's line time, for instance. It has two
+ * independent options. With validation on, every value set is snapped to the grid (its two ends are
+ * always allowed). With typing validation off, typed text takes effect only on Return or Enter or
+ * on loss of focus, so that a camera does not get the numbers in between. Escape restores the
+ * value. A decimal point is accepted in every locale. With a single step of 0, QDoubleSpinBox
+ * handles Return and Enter.
  *
  * Use it on the GUI thread only.
  */
@@ -31,25 +31,24 @@ class ORVCAMERAGUIAPI_EXPORT QtOrvDoubleSpinBoxVal : public QDoubleSpinBox
 public:
     explicit QtOrvDoubleSpinBoxVal(QWidget *parent = nullptr);
 
-    /** Whether values are snapped to the grid; off at first. The current value stays as it is. */
+    /** Whether values are snapped to the grid; off by default. The current value stays as it is. */
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
+    /** Whether typed text takes effect at once (on, the default) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 
-    /** The grid value next to \a value, at most the maximum; whatever validate() says. */
+    /** The grid value nearest to \a value, at most the maximum; independent of validate(). */
     double doValidation(double value) const;
 
-    /** Shows \a text in place of the value, without looking at it; the value stays. */
+    /** Shows \a text in place of the value, unchecked; the value does not change. */
     void setLineEditText(const QString &text);
 
-    /** Goes \a steps single steps up or down; arrow keys, wheel and buttons come here too. */
+    /** Changes the value by \a steps single steps; also called for keys, wheel and buttons. */
     void stepBy(int steps) override;
 
-    /** The verdict of QDoubleSpinBox, but never more than "intermediate" with typing validation
-     * off. */
+    /** The result of QDoubleSpinBox, but at most "intermediate" with typing validation off. */
     QValidator::State validate(QString &input, int &pos) const override;
 
 public Q_SLOTS:

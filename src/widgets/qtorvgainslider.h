@@ -13,12 +13,11 @@ class QtOrvGainSliderPrivate;
 class QtOrvDoubleSpinBoxVal;
 
 /**
- * A floating-point spin box with a slider beside it and, if wanted, a caption to the left or above.
+ * A floating-point spin box with a slider beside it and an optional caption to the left or above.
  *
- * Use it for gains and other real numbers that are found by moving them. Spin box and slider stay
- * in step: the spin box holds the exact value, the slider stands at the step next to it. While the
- * user drags the slider the spin box follows, but the value counts as changed only by what comes
- * after the release.
+ * Use it for gains and other real numbers that are adjusted interactively. Spin box and slider show
+ * the same value: the spin box holds the exact value, the slider is at the nearest step. While
+ * the user drags the slider the spin box follows, but the change takes effect only on release.
  *
  * Use it on the GUI thread only.
  */
@@ -52,33 +51,32 @@ public:
     double minimum() const;
     double maximum() const;
 
-    /** The step of spin box and slider, and of the grid that both snap to; 1.0 at first. */
+    /** The step of spin box and slider, and of the grid of both; 1.0 by default. */
     void setSingleStep(double step);
     double singleStep() const;
 
     /**
-     * Digits after the point, 3 at first, that the spin box shows and keeps; the labels of the
-     * slider show them from the next setRange() on.
+     * Decimal places that the spin box shows and keeps, 3 by default; the labels of the slider use
+     * a change from the next setRange() on.
      */
     void setDecimals(int decimals);
     int decimals() const;
 
-    /** Whether values snap to the grid of steps from the minimum; off at first. */
+    /** Whether values snap to the grid of steps from the minimum; off by default. */
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
+    /** Whether typed text takes effect at once (on, the default) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 
-    /** The captions, which are also the widget's name for assistive technology; empty hides them.
-     */
+    /** The captions, also the name for assistive technology; an empty one is hidden. */
     void setLeftLabelText(const QString &text);
     void setTopLabelText(const QString &text);
     QString leftLabelText() const;
     QString topLabelText() const;
 
-    /** The parts, owned by the widget; a label is null until it has been given a text. */
+    /** The inner widgets, owned by this one; a label is null until its first text is set. */
     QLabel *leftLabel() const;
     QLabel *topLabel() const;
     QtOrvDoubleSpinBoxVal *spinBox() const;
@@ -91,10 +89,10 @@ public Q_SLOTS:
     void setRange(double min, double max);
 
 Q_SIGNALS:
-    /** The value is another one; not emitted while the slider is dragged. */
+    /** The value has changed; not emitted while the slider is dragged. */
     void valueChanged(double value);
 
-    /** The same, as the spin box shows it, with prefix and suffix. */
+    /** The same with the text of the spin box, including prefix and suffix. */
     void valueChanged(const QString &text);
 
     void rangeChanged(double min, double max);

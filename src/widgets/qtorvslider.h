@@ -12,18 +12,18 @@ class QSlider;
 class QtOrvSliderPrivate;
 
 /**
- * An integer slider for values with a wide useful range, with its two ends written beside it.
+ * An integer slider for values with a wide useful range, with labels for its two ends.
  *
- * Use it where the small values matter as much as the large ones (exposure times, delays, periods):
- * its scale is linear, logarithmic or a square root, so that small values get more travel. With
+ * Use it where small values matter as much as large ones (exposure times, delays, periods): a
+ * logarithmic or square-root scale gives small values more travel than the linear one. With
  * validation on, values snap to a grid of single steps that starts at the minimum.
  *
- * The widget speaks in values, its inner QSlider in positions. They are the same in the linear
- * scale; in the others several values may share a position, so that value() after setValue() is
- * the value of the nearest position. An arrow or page key always moves a logarithmic or
- * square-root slider by at least one single step, as long as there is room for it.
+ * The widget uses values, its inner QSlider positions. In the linear scale both are equal; in the
+ * others several values may share a position, so that value() after setValue() is the value of the
+ * nearest position. An arrow or page key moves a logarithmic or square-root slider by at least one
+ * single step, unless it is at its end.
  *
- * Any int is a legal argument. With a minimum above the maximum the slider can't be moved. Use it
+ * Any int is a legal argument. With a minimum above the maximum the slider cannot be moved. Use it
  * on the GUI thread only.
  */
 class ORVCAMERAGUIAPI_EXPORT QtOrvSlider : public QFrame
@@ -45,7 +45,7 @@ class ORVCAMERAGUIAPI_EXPORT QtOrvSlider : public QFrame
     Q_PROPERTY(bool minLabelVisiable READ isMinLabelVisiable WRITE setMinLabelVisiable)
 
 public:
-    /** How values are spread over the travel of the slider. */
+    /** The distribution of the values over the travel of the slider. */
     enum ScaleType {
         ScaleLinear = 0, ///< Evenly.
         ScaleLog10 = 1,  ///< By the decimal logarithm of the distance from the minimum.
@@ -68,21 +68,21 @@ public:
     int value() const;
 
     /**
-     * The step of the grid; in the linear scale also the step of the arrow keys. 1 at first. The
-     * value is kept, as far as the new grid has it.
+     * The step of the grid; in the linear scale also the step of the arrow keys. 1 by default. The
+     * value is kept where the new grid contains it.
      */
     void setSingleStep(int step);
     int singleStep() const;
 
-    /** Changes the scale and keeps the value, as far as the new scale has a position for it. */
+    /** Changes the scale; the value is kept where the new scale has a position for it. */
     void setScaleType(ScaleType type);
     ScaleType scaleType() const;
 
-    /** Positions per decade in the logarithmic scale; more are finer. 100 at first. */
+    /** Positions per decade in the logarithmic scale; more are finer. 100 by default. */
     void setLog10Coef(double positions);
     double log10Coef() const;
 
-    /** Whether values snap to the grid. Off at first; counts from the next change of value on. */
+    /** Whether values snap to the grid, from the next change on; off by default. */
     void setValidate(bool on);
     bool validate() const;
 
@@ -90,18 +90,18 @@ public:
     void setMaxLabelVisiable(bool visible);
     void setMinLabelVisiable(bool visible);
 
-    /** Whether the label can be seen just now: false until the slider itself is shown. */
+    /** Whether the label is visible at present: false until the slider itself is shown. */
     bool isMaxLabelVisiable() const;
     bool isMinLabelVisiable() const;
 
     void setOrientation(Qt::Orientation orientation);
     Qt::Orientation orientation() const;
 
-    /** Whether the value follows while the slider is dragged (as at first) or on release. */
+    /** Whether the value changes while the slider is dragged (the default) or on its release. */
     void setTracking(bool on);
     bool hasTracking() const;
 
-    /** The parts, to style them; the slider owns them. */
+    /** The inner widgets, for styling; owned by the slider. */
     QLabel *maxLabel() const;
     QLabel *minLabel() const;
     QSlider *slider() const;
@@ -109,10 +109,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
-    /** Sets both ends and keeps the value, as far as it lies between them. */
+    /** Sets both ends; the value is kept, limited to them. */
     void setRange(int min, int max);
 
-    /** Moves the slider to the position of \a value, or to the end next to it. */
+    /** Moves the slider to the position of \a value, or to the nearer end. */
     void setValue(int value);
 
 Q_SIGNALS:
@@ -120,19 +120,19 @@ Q_SIGNALS:
     void focusOut();
 
     /**
-     * The slider has moved to another value. In the linear scale it is the position itself, also
-     * where validation makes value() the grid value next to it.
+     * The slider has moved to another value. In the linear scale \a value is the position itself,
+     * even where value() returns the nearest grid value because of validation.
      */
     void valueChanged(int value);
 
     void sliderPressed();
 
-    /** The user drags the slider; \a position is that of the inner slider, not a value. */
+    /** The user is dragging the slider; \a position is that of the inner slider, not a value. */
     void sliderMoved(int position);
 
     void sliderReleased();
 
-    /** The range is another one; emitted before the value is put back. */
+    /** The range has changed; emitted before the value is restored. */
     void rangeChanged(int min, int max);
 
 private:

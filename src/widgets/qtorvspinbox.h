@@ -14,17 +14,17 @@ class QtOrvSpinBoxPrivate;
 class QtOrvSpinBoxVal;
 
 /**
- * An integer spin box with a small button that pops up a scaled slider and, if wanted, a caption to
+ * An integer spin box with a small button for a pop-up scaled slider, and an optional caption to
  * the left or above.
  *
- * Use it where there is no room for a slider of its own. Spin box and slider stay in step. While
- * the user drags the slider the spin box follows, but the value counts as changed only by what
- * comes after the release. Where the scale of the slider is not linear the spin box holds the exact
- * value and the slider stands at the position next to it.
+ * Use it where there is no room for a permanent slider. Spin box and slider show the same value.
+ * While the user drags the slider the spin box follows, but the change takes effect only on
+ * release. Where the scale of the slider is not linear the spin box holds the exact value and the
+ * slider is at the nearest position.
  *
- * The slider opens above the button when it is vertical and beside it when it is horizontal, below
- * it where the screen has no room for that. It closes when it loses the focus, with Escape, Return
- * or Tab, and with a second click on the button.
+ * A vertical slider opens above the button, a horizontal one beside it, and either below it where
+ * the screen has no room for that. It closes on loss of focus, with Escape, Return or Tab, and with
+ * a second click on the button.
  *
  * Use it on the GUI thread only.
  */
@@ -56,7 +56,7 @@ public:
     /** The value of the spin box. */
     int value() const;
 
-    /** The scale of the slider, linear at first. A new one keeps the value. */
+    /** The scale of the slider, linear by default. Changing it keeps the value. */
     void setScaleType(QtOrvSlider::ScaleType type);
     QtOrvSlider::ScaleType scaleType() const;
 
@@ -66,41 +66,40 @@ public:
     int minimum() const;
     int maximum() const;
 
-    /** The step of spin box and slider, and of the grid that both snap to; 1 at first. */
+    /** The step of spin box and slider, and of the grid of both; 1 by default. */
     void setSingleStep(int step);
     int singleStep() const;
 
-    /** Whether values snap to the grid of steps from the minimum; off at first. */
+    /** Whether values snap to the grid of steps from the minimum; off by default. */
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
+    /** Whether typed text takes effect at once (on, the default) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 
-    /** Whether the button that opens the slider is there (as at first). */
+    /** Whether the button that opens the slider is shown; on by default. */
     void setSliderButtonVisible(bool visible);
     bool isSliderButtonVisible() const;
 
-    /** The size of the slider that pops up, in pixels; without it, one that suits the font. */
+    /** The size of the pop-up slider in pixels; by default it follows the font. */
     void resizeSlider(int w, int h);
     void resizeSlider(const QSize &size);
 
     void setSliderOrientation(Qt::Orientation orientation);
     Qt::Orientation sliderOrientation() const;
 
-    /** Read-only, the value can't be edited and the button is hidden; editable, it is shown. */
+    /** Read-only: the value cannot be edited and the button is hidden. Otherwise it is shown. */
     void setReadOnly(bool readOnly);
     bool isReadOnly() const;
 
-    /** The captions, which are also the widget's name for assistive technology; empty hides them.
-     */
+    /** The captions, also the name for assistive technology; an empty one is hidden. */
     void setLeftLabelText(const QString &text);
     void setTopLabelText(const QString &text);
     QString leftLabelText() const;
     QString topLabelText() const;
 
-    /** The parts, owned by the widget; a label is null until it has been given a text. */
+    /** The inner widgets, owned by this one; a label is null until its first text is set. */
     QLabel *leftLabel() const;
     QLabel *topLabel() const;
     QtOrvSpinBoxVal *spinBox() const;
@@ -114,10 +113,10 @@ public Q_SLOTS:
     void setRange(int min, int max);
 
 Q_SIGNALS:
-    /** The value is another one; not emitted while the slider is dragged. */
+    /** The value has changed; not emitted while the slider is dragged. */
     void valueChanged(int value);
 
-    /** The same, as the spin box shows it, with prefix and suffix. */
+    /** The same with the text of the spin box, including prefix and suffix. */
     void valueChanged(const QString &text);
 
     void rangeChanged(int min, int max);

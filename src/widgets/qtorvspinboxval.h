@@ -9,11 +9,11 @@
 /**
  * A QSpinBox for integers that must lie on a grid of single steps from the minimum.
  *
- * Use it for a width that has to be a multiple of 8 from its minimum, for instance. Two independent
- * switches shape it: with validation on, every value set is snapped to the grid (its two ends are
- * always allowed); with typing validation off, what is typed counts only on Return or Enter or
- * when the focus leaves, so that a camera does not see the numbers in between. Escape takes it
- * back.
+ * Use it for a width that has to be a multiple of 8 from its minimum, for instance. It has two
+ * independent options. With validation on, every value set is snapped to the grid (its two ends are
+ * always allowed). With typing validation off, typed text takes effect only on Return or Enter or
+ * on loss of focus, so that a camera does not get the numbers in between. Escape restores the
+ * value.
  *
  * Use it on the GUI thread only.
  */
@@ -30,24 +30,24 @@ class ORVCAMERAGUIAPI_EXPORT QtOrvSpinBoxVal : public QSpinBox
 public:
     explicit QtOrvSpinBoxVal(QWidget *parent = nullptr);
 
-    /** Whether values are snapped to the grid; off at first. The current value stays as it is. */
+    /** Whether values are snapped to the grid; off by default. The current value stays as it is. */
     void setValidate(bool on);
     bool validate() const;
 
-    /** Whether a text counts while it is typed (on, as at first) or only when it is finished. */
+    /** Whether typed text takes effect at once (on, the default) or only when it is finished. */
     void setValidateTyping(bool on);
     bool validateTyping() const;
 
-    /** The grid value next to \a value, at most the maximum; whatever validate() says. */
+    /** The grid value nearest to \a value, at most the maximum; independent of validate(). */
     int doValidation(int value) const;
 
-    /** Shows \a text in place of the value, without looking at it; the value stays. */
+    /** Shows \a text in place of the value, unchecked; the value does not change. */
     void setLineEditText(const QString &text);
 
-    /** Goes \a steps single steps up or down; arrow keys, wheel and buttons come here too. */
+    /** Changes the value by \a steps single steps; also called for keys, wheel and buttons. */
     void stepBy(int steps) override;
 
-    /** The verdict of QSpinBox, but never more than "intermediate" with typing validation off. */
+    /** The result of QSpinBox, but at most "intermediate" with typing validation off. */
     QValidator::State validate(QString &input, int &pos) const override;
 
 public Q_SLOTS:

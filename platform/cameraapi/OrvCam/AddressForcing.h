@@ -5,13 +5,13 @@
 
 namespace OrvCam {
 
-/// What an interface can do when the execution of "GevDeviceForceIP", one of its parameters, can be
-/// given up. Ask an `Interface` for it with `dynamic_cast`.
+/// Implemented by interfaces that can abort the execution of their parameter "GevDeviceForceIP".
+/// Query an `Interface` for it with `dynamic_cast`.
 class ORVCAMERAAPI_EXPORT AddressForcing
 {
 public:
-    /// Has the execution that is under way on another thread fail within 0.2 s, whatever becomes of
-    /// the camera; without one it does nothing. May be called on any thread.
+    /// Makes the execution that is running on another thread fail within 0.2 s; the camera may
+    /// still take the address. Does nothing when none is running. May be called on any thread.
     virtual void giveUp() = 0;
 
 protected:

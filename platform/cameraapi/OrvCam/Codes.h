@@ -5,14 +5,14 @@
 
 namespace OrvCam {
 
-/// What every operation that can fail answers, as a result or through an `int32_t *` argument
-/// (which may always be null).
+/// Result of every operation that can fail, either returned or stored through an `int32_t *`
+/// argument, which may always be null.
 enum ErrorCode : int32_t {
     Success = 0,
-    ErrorFailed = -1,          ///< for no reason that has a code of its own
-    ErrorInvalidArgument = -2, ///< a null or senseless argument
-    ErrorNotFound = -3,        ///< no such parameter, or not of that kind
-    ErrorNotAvailable = -4,    ///< the parameter exists but cannot be used at this moment
+    ErrorFailed = -1,          ///< any failure without a code of its own
+    ErrorInvalidArgument = -2, ///< an argument is null or invalid
+    ErrorNotFound = -3,        ///< no parameter of that name and type
+    ErrorNotAvailable = -4,    ///< the parameter exists but cannot be used at present
     ErrorAccessDenied = -5,    ///< read-only, write-only, locked, or refused by the camera
     ErrorOutOfRange = -6,      ///< outside the limits or off the increment
     ErrorTimeout = -7,         ///< no answer in time
@@ -31,7 +31,7 @@ enum AccessState : int32_t {
     AccessSubnetMismatch = 1001
 };
 
-/// `OrvCam_CreateDevice`: what the caller wants to do with the camera.
+/// `OrvCam_CreateDevice`: the access that the caller requests.
 enum AccessMode : int32_t {
     AccessMonitor = 1, ///< read only; other programs may have control
     AccessControl = 2  ///< read and write; refused while another program has control
@@ -47,7 +47,7 @@ enum TransportKind : int32_t {
     TransportHdSdi = 5
 };
 
-/// `System::GetInterfaceSet`: which kinds of interface are wanted; bits may be combined.
+/// `System::GetInterfaceSet`: the requested interface types; bits may be combined.
 enum InterfaceType : uint32_t {
     InterfaceUsb3Vision = 1u << 0,
     InterfaceGigEVision = 1u << 1,

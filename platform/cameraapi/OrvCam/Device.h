@@ -12,39 +12,39 @@ namespace OrvCam {
 
 class DeviceInfo;
 
-/// Called when something happened to a device, with the `context` given at the registration. May
-/// run on a thread of the library: do no more than note the event.
+/// Called for an event of a device, with the `context` given at the registration. May run on a
+/// thread of the library: only record the event.
 using DeviceEventCallback = void (*)(int32_t eventCode, void *context);
 
-/// An opened camera. Belongs to whoever created it with `OrvCam_CreateDevice`. Everything but
-/// `Release` may be called on any thread.
+/// An opened camera. Belongs to the caller of `OrvCam_CreateDevice`. All functions except `Release`
+/// may be called on any thread.
 class ORVCAMERAAPI_EXPORT Device
 {
 public:
-    /// The camera's parameters; null with an error while the camera is disconnected. Belongs to
-    /// the device and is the same one after a reconnect: parameters, node map and sinks can be
-    /// kept, and fail with `ErrorGone` for as long as the camera is away.
+    /// The camera's parameters; null with an error while the camera is disconnected. The array
+    /// belongs to the device and is the same one after a reconnect: parameters, node map and sinks
+    /// can be kept. The parameters fail with `ErrorGone` while the camera is disconnected.
     virtual OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) = 0;
 
     virtual bool IsConnected() const = 0;
 
-    /// The record that the device was opened by.
+    /// The record from which the device was opened.
     virtual DeviceInfo *GetDeviceInfo() const = 0;
 
-    /// Asks for one event (an `EventCode`). The same callback and context may be registered once
-    /// per code; a second registration is `ErrorInvalidArgument`.
+    /// Registers a callback for one event (an `EventCode`). The same callback and context may be
+    /// registered once per code; a second registration fails with `ErrorInvalidArgument`.
     virtual int32_t RegisterEvent(int32_t eventCode, DeviceEventCallback callback,
                                   void *context) = 0;
 
-    /// Takes a registration back; one that does not exist is `ErrorNotFound`. When it returns, the
+    /// Removes a registration; fails with `ErrorNotFound` when there is none. When it returns, the
     /// callback is not running on another thread and will not be called again.
     virtual int32_t UnregisterEvent(int32_t eventCode, DeviceEventCallback callback,
                                     void *context) = 0;
 
     /// Closes the camera and destroys the device. Event sinks of its parameters are notified once
     /// more, with parameters that are not available; after that nothing of the device may be used.
-    /// To be called on the thread that opened the device, and neither from a `DeviceEventCallback`
-    /// nor from a notification of one of its parameters.
+    /// Must be called on the thread that opened the device, and neither from a
+    /// `DeviceEventCallback` nor from a notification of one of its parameters.
     virtual void Release() = 0;
 
 protected:

@@ -13,8 +13,8 @@ namespace OrvCam {
 
 class Device;
 
-/// What a camera record can do when its camera can be opened beside the thread that uses the
-/// system. Ask a `DeviceInfo` for it with `dynamic_cast`; for one that lacks it there is
+/// Implemented by camera records whose camera can be opened on a thread other than the one that
+/// uses the system. Query a `DeviceInfo` for it with `dynamic_cast`; where it is missing, use
 /// `OrvCam_CreateDevice`.
 class ORVCAMERAAPI_EXPORT DeviceOpener
 {
@@ -23,29 +23,30 @@ public:
     {
         int32_t accessMode = AccessControl;
 
-        /// The thread that runs the default GLib main context, and is going to use the device.
+        /// The thread that runs the default GLib main context and will use the device.
         std::thread::id homeThread = std::this_thread::get_id();
 
-        /// Told how much of the camera's description has come; not at all when it is known already.
-        /// May be empty.
+        /// Receives the progress of downloading the camera's description. Not called when the
+        /// description is already cached. May be empty.
         std::function<void(int percent)> report;
 
-        /// Asked again and again; opening ends soon when it answers true. May be empty.
+        /// Polled while the camera is being opened; true cancels. May be empty.
         std::function<bool()> isCancelled;
     };
 
     struct Result
     {
-        Device *device = nullptr; ///< the caller's, to be released; null on failure
+        Device *device = nullptr; ///< owned by the caller, which releases it; null on failure
         int32_t error = Success;
-        std::string reason; ///< why it failed, in English, plain text; may be empty
+        std::string reason; ///< the reason of the failure, plain English text; may be empty
     };
 
-    /// Opens the camera and waits for it; throws nothing. May be called on any thread, the
-    /// functions of the request are called on that one. Keeps alive what it needs of the system.
+    /// Opens the camera and blocks until that is done; throws nothing. May be called on any thread;
+    /// it calls the functions of the request on the same thread. Keeps alive the parts of the
+    /// system that it needs.
     using Open = std::function<Result(const Request &)>;
 
-    /// To be called on the thread that uses the system. Never empty.
+    /// Never empty. Must be called on the thread that uses the system.
     virtual Open opener() = 0;
 
 protected:

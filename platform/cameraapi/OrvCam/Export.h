@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
 #pragma once
 
-/* Marks what libOrvCameraApi exports. */
+/* Marks the symbols that libOrvCameraApi exports. */
 #define ORVCAMERAAPI_EXPORT __attribute__((visibility("default")))

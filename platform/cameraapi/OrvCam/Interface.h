@@ -9,24 +9,26 @@ class Array;
 
 namespace OrvCam {
 
-/// Something that cameras are connected to: a network adapter, the USB host, a simulated one.
-/// Belongs to the system.
+/// An interface through which cameras are connected: a network adapter, the USB host, or a
+/// simulated interface. Belongs to the system.
 class ORVCAMERAAPI_EXPORT Interface
 {
 public:
     virtual ~Interface() = default;
 
-    /// Looks for cameras, for at most `timeoutMs` milliseconds, and blocks so long. `changed`, when
-    /// not null, tells whether anything differs from before. Records handed out earlier stay valid.
+    /// Searches for cameras. Blocks for at most `timeoutMs` milliseconds. `changed`, when not null,
+    /// reports whether anything has changed since the previous search. Records handed out earlier
+    /// stay valid.
     ///
-    /// Network adapters are searched all at once: after the first one's turn, each of the others
-    /// answers its next call at once from what came then, if that call follows within half a second
-    /// and gives no longer time. An adapter without carrier is not waited for. Cameras beyond the
-    /// first 256 are not listed; the description gives their number.
+    /// All network adapters are searched at the same time. After the search of the first adapter,
+    /// the next call on each of the others returns the results of that search at once, provided
+    /// that it follows within half a second and with no longer time-out. An adapter without
+    /// carrier adds no delay. Cameras beyond the first 256 are not listed; the description states
+    /// their number.
     ///
-    /// The positions of the cameras may change, so do not look for cameras while a window is open
-    /// that shows them, such as a camera picker. Returns an `ErrorCode`, `ErrorBusy` while another
-    /// thread executes "GevDeviceForceIP" of this interface.
+    /// The positions of the cameras may change. Do not search while a window that shows them, such
+    /// as a camera picker, is open. Returns an `ErrorCode`: `ErrorBusy` while another thread
+    /// executes "GevDeviceForceIP" of this interface.
     virtual int32_t RefreshDevices(bool *changed, uint32_t timeoutMs) = 0;
 
     /// The cameras found by the last `RefreshDevices`, always in the same order; the position is
@@ -36,7 +38,7 @@ public:
     /// UTF-8, never null, valid until the next `RefreshDevices` or `System::GetInterfaceSet`.
     virtual const char *GetDescription() const = 0;
 
-    /// A `TransportKind`; other values are custom kinds.
+    /// A `TransportKind`; any other value is a custom kind.
     virtual int32_t GetTransportKind() const = 0;
 
     /// UTF-8, may be null.

@@ -9,16 +9,17 @@ namespace OrvCam {
 
 class Interface;
 
-/// A list of interfaces. Belongs to the caller, who releases it; the entries belong to the system.
+/// A list of interfaces. Belongs to the caller, which releases it; the entries belong to the
+/// system.
 class ORVCAMERAAPI_EXPORT InterfaceList
 {
 public:
     virtual uint32_t GetCount() const = 0;
 
-    /// Starts a walk; null when the list is empty.
+    /// Starts an iteration; null when the list is empty.
     virtual Interface *GetFirst() = 0;
 
-    /// The entry after the last one handed out; null after the last.
+    /// The next entry of the iteration; null after the last.
     virtual Interface *GetNext() = 0;
 
     /// Frees the list. The entries stay valid.

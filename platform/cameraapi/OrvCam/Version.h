@@ -6,7 +6,7 @@
 #include <stdint.h>
 
 /*
- * The version that a program is compiled against. docs/versions.md says what a version promises.
+ * The version that a program is compiled against. docs/versions.md describes its guarantees.
  *
  *     #if ORVCAMERAAPI_VERSION >= ORVCAMERAAPI_VERSION_NUMBER(1, 4, 0)
  */
@@ -23,10 +23,10 @@
 extern "C" {
 #endif
 
-/* The version of the library that the program runs with: a number like ORVCAMERAAPI_VERSION. */
+/* The version of the library at run time, in the format of ORVCAMERAAPI_VERSION. */
 ORVCAMERAAPI_EXPORT uint32_t OrvCameraApi_GetVersion(void);
 
-/* The same as a text like ORVCAMERAAPI_VERSION_TEXT; never null. */
+/* The same as a text, in the format of ORVCAMERAAPI_VERSION_TEXT; never null. */
 ORVCAMERAAPI_EXPORT const char *OrvCameraApi_GetVersionText(void);
 
 #ifdef __cplusplus

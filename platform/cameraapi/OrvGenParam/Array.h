@@ -13,7 +13,7 @@
 namespace OrvGenParam {
 
 /// All parameters of a camera or of an interface, found by feature name. The list never changes.
-/// May be called on the same threads as its parameters, see `Param`.
+/// May be called on the same threads as its parameters; see `Param`.
 class ORVCAMERAAPI_EXPORT Array
 {
 public:
@@ -24,8 +24,8 @@ public:
     /// In the order of the description; null for an index that is not below `GetCount()`.
     virtual Param *GetParam(uint32_t index) const = 0;
 
-    /// Null when there is no such feature, the name is null, or it is of another kind. The pointer
-    /// stays valid as long as the array.
+    /// Null when there is no such feature, the name is null, or the feature is of another type. The
+    /// pointer stays valid as long as the array.
     virtual Param *GetParam(const char *name) const = 0;
     virtual Int *GetInt(const char *name) const = 0;
     virtual Float *GetFloat(const char *name) const = 0;
@@ -34,15 +34,14 @@ public:
     virtual Command *GetCommand(const char *name) const = 0;
     virtual String *GetString(const char *name) const = 0;
 
-    /// Shortcuts for those who need a parameter only once. They fail as the parameter does, and
-    /// with `ErrorNotFound` when there is no such feature, or it is of another kind; the value is 0
-    /// then.
+    /// Shortcuts for a parameter that is needed only once. They fail as the parameter does, and
+    /// with `ErrorNotFound` when there is no feature of that name and type. A failed read gives 0.
     virtual int64_t GetIntegerValue(const char *name, int32_t *error = nullptr) const = 0;
     virtual int32_t SetIntegerValue(const char *name, int64_t value) = 0;
     virtual int32_t ExecuteCommand(const char *name) = 0;
 
-    /// The node map that the parameters come from; it lives as long as the array. Null with
-    /// `ErrorGone` when the camera is gone.
+    /// The node map of the parameters; it lives as long as the array. Null with `ErrorGone` while
+    /// the camera is disconnected.
     virtual GenApi::INodeMap *GetNodeMap(int32_t *error = nullptr) const = 0;
 };
 

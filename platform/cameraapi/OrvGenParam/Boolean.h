@@ -5,7 +5,7 @@
 
 namespace OrvGenParam {
 
-/// A switch. A read that fails answers false and sets `*error`.
+/// A Boolean feature. A failed read returns false and sets `*error`.
 class ORVCAMERAAPI_EXPORT Boolean : public Param
 {
 public:

@@ -6,7 +6,7 @@
 
 namespace OrvGenParam {
 
-/// A choice between named entries.
+/// An enumeration feature: a choice of named entries.
 class ORVCAMERAAPI_EXPORT Enum : public Param
 {
 public:

@@ -7,8 +7,8 @@
 
 namespace OrvGenParam {
 
-/// One entry of an enumeration. Belongs to it, and its texts, which are UTF-8 and never null, to
-/// the entry; they stay as they are. May be called on the same threads as its parameter.
+/// One entry of an enumeration, which owns it. Its texts are UTF-8, never null and constant, and
+/// belong to the entry. May be called on the same threads as its parameter.
 class ORVCAMERAAPI_EXPORT EnumEntry
 {
 public:
@@ -16,13 +16,13 @@ public:
 
     virtual int64_t GetValue() const = 0;
 
-    /// The name by which `Enum::SetSymbolicValue` knows it.
+    /// The name for `Enum::SetSymbolicValue`.
     virtual const char *GetSymbolic() const = 0;
 
-    /// The name to show a user; the symbolic name when the description gives none.
+    /// The name to display; the symbolic name when the description gives none.
     virtual const char *GetDisplayName() const = 0;
 
-    /// False when the entry cannot be chosen at this moment.
+    /// False when the entry cannot be chosen at present.
     virtual bool IsAvailable() const = 0;
 };
 

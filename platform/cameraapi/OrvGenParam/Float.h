@@ -5,7 +5,7 @@
 
 namespace OrvGenParam {
 
-/// A floating-point number. A read that fails answers 0 and sets `*error`.
+/// A floating-point feature. A failed read returns 0 and sets `*error`.
 class ORVCAMERAAPI_EXPORT Float : public Param
 {
 public:

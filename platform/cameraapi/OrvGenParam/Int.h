@@ -5,7 +5,7 @@
 
 namespace OrvGenParam {
 
-/// A 64-bit integer. A read that fails answers 0 and sets `*error`.
+/// A 64-bit integer feature. A failed read returns 0 and sets `*error`.
 class ORVCAMERAAPI_EXPORT Int : public Param
 {
 public:

@@ -9,39 +9,39 @@
 
 namespace OrvGenParam {
 
-/// What a node map can do when it knows which of its values are known without asking the camera.
-/// Ask a node map for it with `dynamic_cast`; one that lacks it answers every question at once or
-/// makes the caller wait.
+/// Implemented by node maps that can tell cached values from values that need a transfer. Query a
+/// node map for it with `dynamic_cast`. A node map without it returns every value at once or blocks
+/// the caller.
 ///
-/// What is asked is said by functions that call nodes of the map, any of them, in any way that only
-/// reads. Within `look` and `fetch` such a call takes no transfer; when something is not known, the
-/// function is left by an exception that derives from no class and that it must let pass
-/// (`catch (...)` would break it). It may be run several times.
+/// A read is described by a function that calls nodes of the map. It may call any node, but must
+/// only read. Within `look` and `fetch` such a call causes no transfer. When a value is not cached,
+/// the call throws an exception that derives from no class. The function must let it pass
+/// (`catch (...)` would break it). The function may be run several times.
 class ORVCAMERAAPI_EXPORT LookAhead
 {
 public:
     using Ask = std::function<void()>;
 
-    /// A fetch that is under way; destroying it ends it.
+    /// A running fetch; destroying the object cancels it.
     class Request
     {
     public:
         virtual ~Request() = default;
     };
 
-    /// Runs the function; true when everything that it asked for was known, false when it was left
-    /// before its end. Exceptions of GenICam pass. Values that the camera changes by itself count
-    /// as known when they are at most a second old, or were read by a fetch that has ended within
+    /// Runs the function. True when all values that it reads were cached, false when it was left
+    /// before its end. GenICam exceptions pass through. A value that the camera changes by itself
+    /// counts as cached when it is at most a second old, or was read by a fetch that ended within
     /// the last second.
     virtual bool look(const Ask &ask) const = 0;
 
-    /// Reads in the background what the functions find missing, in as few transfers as possible,
-    /// until nothing is missing. They run on the calling thread, which must be the one that runs
-    /// the default GLib main context, and `done` is called from that context: never from within
-    /// this call, not at all when the request was destroyed before.
+    /// Reads the values that the functions need in the background, in as few transfers as possible,
+    /// until all of them are cached. The functions run on the calling thread, which must be the one
+    /// that runs the default GLib main context. `done` is called from that context, never within
+    /// this call. It is not called when the request was destroyed before.
     virtual std::unique_ptr<Request> fetch(std::vector<Ask> asks, std::function<void()> done) = 0;
 
-    /// The same, waiting.
+    /// The same, but blocks until all values are cached.
     virtual void fetchNow(const std::vector<Ask> &asks) = 0;
 
 protected:

@@ -12,22 +12,21 @@ class Param;
 class ParamEventSink;
 class SinkRegistrations;
 
-/// The one thing that a sink and the parameters it is registered at share; for those who implement
-/// `Param`. A caller of the sink holds the lock while it calls; one who wants no call to be under
-/// way takes it.
+/// State shared by a sink and the parameters at which it is registered; for implementations of
+/// `Param`. Hold the lock while calling the sink. Taking the lock waits for a running call to end.
 struct SinkLink
 {
     std::recursive_mutex calling;
-    ParamEventSink *sink = nullptr; ///< null after the sink's end; guarded by the lock
+    ParamEventSink *sink = nullptr; ///< null once the sink is destroyed; guarded by the lock
 };
 
-/// To be told about changes of parameters; see `Param::RegisterEventSink`. Complete in this header:
-/// a program that implements parameters itself links nothing for it.
+/// Receives notifications of parameter changes; see `Param::RegisterEventSink`. Header-only: a
+/// program that implements parameters itself links no library for it.
 class ORVCAMERAAPI_EXPORT ParamEventSink
 {
 public:
-    /// Ends every registration of this sink. When notifications may run on another thread at that
-    /// moment, unregister first: what a derived class holds is gone before this destructor runs.
+    /// Ends all registrations of this sink. When a notification may be running on another thread,
+    /// unregister first: the members of a derived class are destroyed before this destructor runs.
     virtual ~ParamEventSink()
     {
         const std::lock_guard<std::recursive_mutex> lock(m_link->calling);
@@ -43,8 +42,8 @@ protected:
     ParamEventSink &operator=(const ParamEventSink &) = delete;
 
 private:
-    friend class SinkRegistrations; ///< of the library whose parameters they are
-    std::shared_ptr<SinkLink> m_link; ///< what the registrations hold; outlives the sink
+    friend class SinkRegistrations;   ///< of the library that implements the parameters
+    std::shared_ptr<SinkLink> m_link; ///< held by the registrations, too; outlives the sink
 };
 
 } // namespace OrvGenParam

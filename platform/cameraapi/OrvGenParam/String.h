@@ -5,11 +5,11 @@
 
 namespace OrvGenParam {
 
-/// A text, UTF-8.
+/// A string feature; UTF-8.
 class ORVCAMERAAPI_EXPORT String : public Param
 {
 public:
-    /// Empty when reading fails. Valid until the next call of this operation on the same parameter.
+    /// Empty when reading fails. Valid until the next call of this function on the same parameter.
     virtual const char *GetValue(int32_t *error = nullptr) const = 0;
     virtual int32_t SetValue(const char *value) = 0;
 

@@ -7,8 +7,8 @@
 
 namespace GenICam_3_0 {
 
-/// Root of everything that a node or node map throws. It deliberately has nothing to do with
-/// `std::exception`: code that must survive the failure of a node catches this class by name.
+/// The base class of all exceptions of nodes and node maps. It deliberately does not derive from
+/// `std::exception`: code that handles the failure of a node catches this class by name.
 class GENAPI_DECL GenericException
 {
 public:
@@ -48,21 +48,21 @@ private:
 
 /// Memory ran out.
 ORV_DECLARE_GENICAM_EXCEPTION(BadAllocException)
-/// An argument makes no sense, whatever the state of the camera.
+/// An argument is invalid in every state of the camera.
 ORV_DECLARE_GENICAM_EXCEPTION(InvalidArgumentException)
 /// A value lies outside its limits or off its increment.
 ORV_DECLARE_GENICAM_EXCEPTION(OutOfRangeException)
 /// A property of a node is missing or wrong.
 ORV_DECLARE_GENICAM_EXCEPTION(PropertyException)
-/// Something failed that only running shows: a formula, a transfer, a description.
+/// A failure at run time: of a formula, a transfer or a description.
 ORV_DECLARE_GENICAM_EXCEPTION(RuntimeException)
-/// The caller broke the rules of the interface.
+/// The call violates the rules of the interface.
 ORV_DECLARE_GENICAM_EXCEPTION(LogicalErrorException)
 /// The node's access mode forbids the call, or the camera refused it.
 ORV_DECLARE_GENICAM_EXCEPTION(AccessException)
 /// The camera did not answer in time.
 ORV_DECLARE_GENICAM_EXCEPTION(TimeoutException)
-/// A node is not of the interface that the call needs.
+/// A node does not have the interface that the call needs.
 ORV_DECLARE_GENICAM_EXCEPTION(DynamicCastException)
 
 #undef ORV_DECLARE_GENICAM_EXCEPTION

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Symbols of the GenICam base and GenApi layers that live in libOrvCameraApi.
+// Symbols of the GenICam base and GenApi layers in libOrvCameraApi.
 #ifndef GENAPI_DECL
 #define GENAPI_DECL __attribute__((visibility("default")))
 #endif

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Everything a client of a node map needs.
+// All interfaces for a client of a node map.
 #include <GenApi/Autovector.h>
 #include <GenApi/Container.h>
 #include <GenApi/IBase.h>

@@ -5,12 +5,12 @@
 
 namespace GenApi_3_0 {
 
-/// Root of every node interface. Nodes may be deleted through it.
+/// The base class of all node interfaces. Nodes may be deleted through it.
 struct GENAPI_DECL IBase
 {
     virtual ~IBase() = default;
 
-    /// How the node can be accessed now. May need camera transactions (availability, locks).
+    /// The present access mode. May need camera transactions (availability, locks).
     virtual EAccessMode GetAccessMode() const = 0;
 };
 

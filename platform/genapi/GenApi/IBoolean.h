@@ -5,7 +5,7 @@
 
 namespace GenApi_3_0 {
 
-/// A switch. Its text is "1" or "0"; "true" and "false" are understood too.
+/// A Boolean. Its text is "1" or "0"; "true" and "false" are accepted, too.
 struct GENAPI_DECL IBoolean : virtual public IValue
 {
     virtual void SetValue(bool Value, bool Verify = true) = 0;

@@ -9,7 +9,7 @@ namespace GenApi_3_0 {
 /// A group of features.
 struct GENAPI_DECL ICategory : virtual public IValue
 {
-    /// The features in the order of the description. Replaces what `Features` holds.
+    /// The features in the order of the description. Replaces the content of `Features`.
     virtual void GetFeatures(FeatureList_t &Features) const = 0;
 };
 

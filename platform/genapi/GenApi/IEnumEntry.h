@@ -11,7 +11,7 @@ struct GENAPI_DECL IEnumEntry : virtual public IValue
     virtual int64_t GetValue() = 0;
     virtual GenICam::gcstring GetSymbolic() const = 0;
 
-    /// The number that the entry stands for; the integer value when the description gives none.
+    /// The numeric value of the entry; the integer value when the description gives none.
     virtual double GetNumericValue() = 0;
 
     /// True for an entry that the camera leaves by itself.

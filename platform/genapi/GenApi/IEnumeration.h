@@ -7,7 +7,7 @@
 
 namespace GenApi_3_0 {
 
-/// A choice between entries. Its text is the symbolic name of the current entry.
+/// A choice of entries. Its text is the symbolic name of the current entry.
 struct GENAPI_DECL IEnumeration : virtual public IValue
 {
     /// The symbolic names of the available entries.

@@ -21,7 +21,7 @@ struct GENAPI_DECL IInteger : virtual public IValue
     /// 1 when there is no increment.
     virtual int64_t GetInc() = 0;
 
-    /// The values of a list increment in the order of the description; `bounded` leaves out those
+    /// The values of a list increment in the order of the description; `bounded` omits those
     /// outside the limits. Empty for the other increment modes.
     virtual int64_autovector_t GetListOfValidValues(bool bounded = true) = 0;
     virtual ERepresentation GetRepresentation() = 0;

@@ -9,7 +9,7 @@ namespace GenApi_3_0 {
 struct INodeMap;
 class CNodeCallback;
 
-/// What all nodes have in common. A client reaches the value interface by `dynamic_cast`.
+/// The common interface of all nodes. A client gets the value interface by `dynamic_cast`.
 struct GENAPI_DECL INode : virtual public IBase
 {
     /// The name by which the node map finds the node; `FullQualified` puts the name space
@@ -18,8 +18,8 @@ struct GENAPI_DECL INode : virtual public IBase
     virtual ENameSpace GetNameSpace() const = 0;
     virtual EVisibility GetVisibility() const = 0;
 
-    /// Forgets everything cached of the node, of the registers it reads and of every node that
-    /// depends on them. Calls no callback.
+    /// Clears the caches of the node, of the registers that it reads and of all nodes that depend
+    /// on them. Calls no callback.
     virtual void InvalidateNode() = 0;
     virtual bool IsCachable() const = 0;
     virtual ECachingMode GetCachingMode() const = 0;
@@ -29,7 +29,7 @@ struct GENAPI_DECL INode : virtual public IBase
     virtual GenICam::gcstring GetToolTip() const = 0;
     virtual GenICam::gcstring GetDescription() const = 0;
 
-    /// The name to show; empty when the description gives none.
+    /// The name to display; empty when the description gives none.
     virtual GenICam::gcstring GetDisplayName() const = 0;
     virtual GenICam::gcstring GetDeviceName() const = 0;
     virtual void GetChildren(NodeList_t &Children,

@@ -19,12 +19,12 @@ struct GENAPI_DECL INodeMap
     /// The node of that name ("Name", "Std::Name" or "Cust::Name"), or null.
     virtual INode *GetNode(const GenICam::gcstring &Name) const = 0;
 
-    /// Forgets everything cached of all nodes. Calls no callback.
+    /// Clears the caches of all nodes. Calls no callback.
     virtual void InvalidateNodes() const = 0;
     virtual GenICam::gcstring GetDeviceName() = 0;
 
-    /// Tells the map that `ElapsedTime` milliseconds have passed: nodes whose polling time is up
-    /// are invalidated and their callbacks called.
+    /// Advances the polling time by `ElapsedTime` milliseconds: nodes whose polling time has
+    /// expired are invalidated and their callbacks called.
     virtual void Poll(int64_t ElapsedTime) = 0;
     virtual CLock &GetLock() const = 0;
     virtual uint64_t GetNumNodes() const = 0;

@@ -5,7 +5,7 @@
 
 namespace GenApi_3_0 {
 
-/// Raw bytes in the camera. Its text is "0x" and two hexadecimal digits a byte.
+/// Raw bytes in the camera. Its text is "0x" and two hexadecimal digits per byte.
 struct GENAPI_DECL IRegister : virtual public IValue
 {
     virtual void Set(const uint8_t *pBuffer, int64_t Length, bool Verify = true) = 0;

@@ -12,10 +12,10 @@ struct GENAPI_DECL IValue : virtual public IBase
 {
     virtual INode *GetNode() = 0;
 
-    /// The value as text. `Verify` checks access and range; `IgnoreCache` asks the camera.
+    /// The value as text. `Verify` checks access and range; `IgnoreCache` reads from the camera.
     virtual GenICam::gcstring ToString(bool Verify = false, bool IgnoreCache = false) = 0;
 
-    /// Sets the value from text as `ToString` writes it.
+    /// Sets the value from a text in the format of `ToString`.
     virtual void FromString(const GenICam::gcstring &ValueStr, bool Verify = true) = 0;
 
     /// True when reading the value costs no camera transaction.

@@ -5,8 +5,8 @@
 
 namespace GenApi_3_0 {
 
-/// Something to be called when a node changed. The node calls it twice per change, once for each
-/// callback type; it acts only on its own.
+/// A callback for changes of a node. The node calls it twice per change, once for each callback
+/// type; it acts only on its own type.
 class GENAPI_DECL CNodeCallback
 {
 public:
@@ -94,7 +94,7 @@ CallbackHandleType Register(INode *node, Client &client, Member member,
     return node->RegisterCallback(make_NodeCallback(node, client, member, type));
 }
 
-/// Ends a registration, whichever node it was made at. The node must still exist; 0 is ignored.
+/// Ends a registration at any node. The node must still exist; 0 is ignored.
 GENAPI_DECL void Deregister(CallbackHandleType handle);
 
 } // namespace GenApi_3_0

@@ -7,7 +7,7 @@
 
 namespace GenApi_3_0 {
 
-/// How a node can be accessed at this moment.
+/// The present access mode of a node.
 typedef enum _EAccessMode {
     NI,                   ///< not implemented
     NA,                   ///< not available
@@ -27,7 +27,7 @@ typedef enum _EVisibility {
     _UndefinedVisibility = 99
 } EVisibility;
 
-/// How a number should be presented.
+/// The recommended presentation of a number.
 typedef enum _ERepresentation {
     Linear,
     Logarithmic,
@@ -39,7 +39,7 @@ typedef enum _ERepresentation {
     _UndefinedRepresentation
 } ERepresentation;
 
-/// How the valid values of a number lie between its limits.
+/// The distribution of the valid values of a number between its limits.
 typedef enum _EIncMode {
     noIncrement,    ///< every value
     fixedIncrement, ///< minimum plus a multiple of the increment
@@ -68,7 +68,7 @@ typedef enum _ECallbackType {
     cbPostOutsideLock = 2 ///< after the change, lock released
 } ECallbackType;
 
-/// What a write does to the cached value of a register.
+/// The effect of a write on the cached value of a register.
 typedef enum _ECachingMode {
     NoCache,      ///< the register is read every time
     WriteThrough, ///< a write also sets the cached value
@@ -76,12 +76,12 @@ typedef enum _ECachingMode {
     _UndefinedCachingMode
 } ECachingMode;
 
-/// Where a node's name is defined.
+/// The origin of a node's name.
 typedef enum _ENameSpace { Custom, Standard, _UndefinedNameSpace } ENameSpace;
 
 typedef enum _EYesNo { No = 0, Yes = 1, _UndefinedYesNo = 2 } EYesNo;
 
-/// How a floating-point number should be written.
+/// The recommended notation of a floating-point number.
 typedef enum _EDisplayNotation {
     fnAutomatic,
     fnFixed,
@@ -89,7 +89,7 @@ typedef enum _EDisplayNotation {
     _UndefinedEDisplayNotation
 } EDisplayNotation;
 
-/// Which neighbours of a node are asked for.
+/// The requested neighbours of a node.
 typedef enum _ELinkType {
     ctParentNodes,          ///< nodes that refer to this one
     ctReadingChildren,      ///< nodes read when this one is read
@@ -100,7 +100,7 @@ typedef enum _ELinkType {
     ctValueChangingChildren ///< nodes whose change can change this one's value
 } ELinkType;
 
-/// Names one registration of a callback at a node.
+/// Identifies one registration of a callback at a node.
 typedef intptr_t CallbackHandleType;
 
 } // namespace GenApi_3_0
