@@ -3,7 +3,7 @@
 # Installs what is missing, builds and runs every test: first as developers build; a short set for
 # Qt 6; then with clang's address and undefined-behaviour sanitizers, where the fuzzers have a short
 # turn, too.
-# Arguments go to ctest.
+# Two tests run at a time, but those that measure waits. Arguments go to ctest.
 #   ORV_PRESET=dev ./test.sh    tests one preset only
 set -eu
 
@@ -25,5 +25,5 @@ for preset in $presets; do
     echo "test.sh: preset $preset"
     cmake --preset "$preset" -DORV_PRECOMPILE_HEADERS=ON >"$log" 2>&1 || { cat "$log" >&2; echo "test.sh: cmake failed" >&2; exit 1; }
     cmake --build --preset "$preset" || { echo "test.sh: the build failed" >&2; exit 1; }
-    ctest --preset "$preset" "$@"
+    ctest --preset "$preset" --parallel 2 "$@"
 done
