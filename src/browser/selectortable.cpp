@@ -132,6 +132,7 @@ SelectorTable::~SelectorTable()
 
 void SelectorTable::buildWindow()
 {
+    m_table->setAccessibleName(windowTitle());
     m_table->setItemDelegate(new SelectorTableDelegate(this));
     m_table->setColumnCount(int(m_columns.size()));
     QStringList names;

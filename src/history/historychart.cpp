@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "historychart.h"
 
+#include "genparamtree/readablecolors.h"
 #include "numbertext.h"
 
 #include <QAccessible>
@@ -173,8 +174,8 @@ QString HistoryChart::textAt(qint64 time) const
 QPen HistoryChart::penOf(int series) const
 {
     const QPalette::ColorRole role = series == 0 ? QPalette::Highlight : QPalette::Text;
-    return QPen(palette().color(role), 1.8, series == 0 ? Qt::SolidLine : Qt::DashLine, Qt::FlatCap,
-                Qt::RoundJoin);
+    const QColor color = readableOn(palette().color(QPalette::Base), palette().color(role));
+    return QPen(color, 1.8, series == 0 ? Qt::SolidLine : Qt::DashLine, Qt::FlatCap, Qt::RoundJoin);
 }
 
 void HistoryChart::mark(qint64 time)
