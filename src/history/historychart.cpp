@@ -254,6 +254,7 @@ void HistoryChart::keyPressEvent(QKeyEvent *event)
 void HistoryChart::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.setLayoutDirection(Qt::LeftToRight); // time goes there in any language
     const Axis numbers = axis();
     const QRect area = plot(numbers);
     painter.fillRect(area, palette().base());
