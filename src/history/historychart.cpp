@@ -25,7 +25,8 @@ namespace {
 
 const qint64 minute = 60 * 1000; // ms
 const int margin = 6;
-const double mostLines = 6; // of the grid, across
+const double longestNumber = 1e12; // what is larger is shown with an exponent
+const double mostLines = 6;        // of the grid, across
 
 /// The next one of 1, 2, 5, 10, …
 double roundStep(double step)
@@ -69,8 +70,14 @@ void HistoryChart::setEnd(qint64 time)
 
 QString HistoryChart::text(double value, int moreDecimals) const
 {
-    const QString number = NumberText::of(value, m_decimals + moreDecimals, locale());
+    const QString number = numberText(value, m_decimals + moreDecimals);
     return m_unit.isEmpty() ? number : number + QLatin1Char(' ') + m_unit;
+}
+
+QString HistoryChart::numberText(double value, int decimals) const
+{
+    return std::abs(value) < longestNumber ? NumberText::of(value, decimals, locale())
+                                           : locale().toString(value, 'g', 6);
 }
 
 QSize HistoryChart::sizeHint() const
@@ -118,7 +125,7 @@ QRect HistoryChart::plot(const Axis &axis) const
     const QFontMetrics metrics = fontMetrics();
     int widest = 0;
     for (double value = axis.low; value <= axis.high + axis.step / 2; value += axis.step) {
-        const QString label = NumberText::of(value, axis.decimals, locale());
+        const QString label = numberText(value, axis.decimals);
         widest = qMax(widest, metrics.size(Qt::TextSingleLine, label).width());
     }
     const int half = metrics.size(Qt::TextSingleLine, clock(m_end, false)).width() / 2;
@@ -287,8 +294,7 @@ void HistoryChart::drawAxes(QPainter &painter, const QRect &plot, const Axis &ax
         painter.drawLine(plot.left(), y, plot.right(), y);
         painter.setPen(ink);
         painter.drawText(QRect(0, y - metrics.height() / 2, plot.left() - margin, metrics.height()),
-                         Qt::AlignRight | Qt::AlignVCenter,
-                         NumberText::of(value, axis.decimals, locale()));
+                         Qt::AlignRight | Qt::AlignVCenter, numberText(value, axis.decimals));
     }
     const qint64 apart = plot.width() < 5 * 2 * metrics.height() ? 5 * minute : 2 * minute;
     for (qint64 time = (m_end / apart) * apart; time >= m_end - SampleRing::span; time -= apart) {
