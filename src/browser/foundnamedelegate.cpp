@@ -57,6 +57,9 @@ void FoundNameDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     cell.text.clear();
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     QTextLayout layout(text, cell.font, painter->device());
+    QTextOption direction;
+    direction.setTextDirection(cell.direction);
+    layout.setTextOption(direction);
     layout.setFormats(marks);
     layout.beginLayout();
     QTextLine line = layout.createLine();
@@ -67,8 +70,10 @@ void FoundNameDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->setClipRect(area);
     painter->setPen(
         cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
-    layout.draw(painter,
-                QPointF(area.left() + margin, area.top() + (area.height() - line.height()) / 2));
+    const qreal left = cell.direction == Qt::RightToLeft
+                           ? area.right() + 1 - margin - line.naturalTextWidth()
+                           : area.left() + margin;
+    layout.draw(painter, QPointF(left, area.top() + (area.height() - line.height()) / 2));
     painter->restore();
 }
 

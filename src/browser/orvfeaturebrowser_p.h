@@ -78,11 +78,12 @@ public:
     bool restoreState(const QByteArray &text);
 
     OrvFeatureBrowser *const q;
-    OrvGenParamTreeView *view;
+    // In the order of the tab key.
     QLineEdit *searchLine;
+    QToolButton *menuButton;
     QLabel *countLabel;
     QToolButton *higherButton;
-    QToolButton *menuButton;
+    OrvGenParamTreeView *view;
     QMenu *menu;
     QAction *searchTextsAction;
     QAction *onlyChangedAction;

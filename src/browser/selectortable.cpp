@@ -2,6 +2,7 @@
 #include "selectortable.h"
 
 #include "base/cameratext.h"
+#include "base/screenroom.h"
 #include "base/selectors.h"
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamdelegate.h"
@@ -26,6 +27,10 @@
 namespace OrvGui {
 
 namespace {
+
+// Of the window, in lines of text.
+const int linesOfWidth = 32;
+const int linesOfHeight = 21;
 
 const int TextRole = Qt::UserRole; ///< of a cell: GenICam's text
 
@@ -132,6 +137,7 @@ SelectorTable::~SelectorTable()
 
 void SelectorTable::buildWindow()
 {
+    m_table->setAccessibleName(windowTitle());
     m_table->setItemDelegate(new SelectorTableDelegate(this));
     m_table->setColumnCount(int(m_columns.size()));
     QStringList names;
@@ -153,7 +159,8 @@ void SelectorTable::buildWindow()
     layout->addWidget(m_note);
     layout->addWidget(m_table);
     layout->addWidget(buttons);
-    resize(480, 320);
+    const int line = fontMetrics().height();
+    resize(QSize(linesOfWidth * line, linesOfHeight * line).boundedTo(roomFor(this).size()));
 }
 
 void SelectorTable::readAgain()
@@ -212,6 +219,7 @@ void SelectorTable::showRows()
     m_table->setVerticalHeaderLabels(names);
     m_table->resizeColumnsToContents();
     m_table->setEnabled(true);
+    m_table->setFocus(); // which it has lost while it was disabled
     m_readAgain->setEnabled(true);
     const QString failure = m_reader->failure();
     m_note->setText(failure.isNull()

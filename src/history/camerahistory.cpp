@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 
+#include <cmath>
 #include <limits>
 
 namespace OrvGui {
@@ -30,8 +31,9 @@ void CameraHistory::add(Quantity quantity, Frame frame, const QString &number)
 {
     bool isNumber = false;
     const double value = number.toDouble(&isNumber);
+    const bool canBeDrawn = isNumber && std::isfinite(value);
     m_rings[quantity][frame].add(QDateTime::currentMSecsSinceEpoch(),
-                                 isNumber ? value : std::numeric_limits<double>::quiet_NaN());
+                                 canBeDrawn ? value : std::numeric_limits<double>::quiet_NaN());
     if (m_windows[quantity])
         m_windows[quantity]->refresh();
 }

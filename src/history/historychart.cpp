@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "historychart.h"
 
+#include "genparamtree/readablecolors.h"
 #include "numbertext.h"
 
 #include <QAccessible>
@@ -24,7 +25,8 @@ namespace {
 
 const qint64 minute = 60 * 1000; // ms
 const int margin = 6;
-const double mostLines = 6; // of the grid, across
+const double longestNumber = 1e12; // what is larger is shown with an exponent
+const double mostLines = 6;        // of the grid, across
 
 /// The next one of 1, 2, 5, 10, …
 double roundStep(double step)
@@ -68,8 +70,14 @@ void HistoryChart::setEnd(qint64 time)
 
 QString HistoryChart::text(double value, int moreDecimals) const
 {
-    const QString number = NumberText::of(value, m_decimals + moreDecimals, locale());
+    const QString number = numberText(value, m_decimals + moreDecimals);
     return m_unit.isEmpty() ? number : number + QLatin1Char(' ') + m_unit;
+}
+
+QString HistoryChart::numberText(double value, int decimals) const
+{
+    return std::abs(value) < longestNumber ? NumberText::of(value, decimals, locale())
+                                           : locale().toString(value, 'g', 6);
 }
 
 QSize HistoryChart::sizeHint() const
@@ -117,7 +125,7 @@ QRect HistoryChart::plot(const Axis &axis) const
     const QFontMetrics metrics = fontMetrics();
     int widest = 0;
     for (double value = axis.low; value <= axis.high + axis.step / 2; value += axis.step) {
-        const QString label = NumberText::of(value, axis.decimals, locale());
+        const QString label = numberText(value, axis.decimals);
         widest = qMax(widest, metrics.size(Qt::TextSingleLine, label).width());
     }
     const int half = metrics.size(Qt::TextSingleLine, clock(m_end, false)).width() / 2;
@@ -173,8 +181,8 @@ QString HistoryChart::textAt(qint64 time) const
 QPen HistoryChart::penOf(int series) const
 {
     const QPalette::ColorRole role = series == 0 ? QPalette::Highlight : QPalette::Text;
-    return QPen(palette().color(role), 1.8, series == 0 ? Qt::SolidLine : Qt::DashLine, Qt::FlatCap,
-                Qt::RoundJoin);
+    const QColor color = readableOn(palette().color(QPalette::Base), palette().color(role));
+    return QPen(color, 1.8, series == 0 ? Qt::SolidLine : Qt::DashLine, Qt::FlatCap, Qt::RoundJoin);
 }
 
 void HistoryChart::mark(qint64 time)
@@ -253,6 +261,7 @@ void HistoryChart::keyPressEvent(QKeyEvent *event)
 void HistoryChart::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.setLayoutDirection(Qt::LeftToRight); // time goes there in any language
     const Axis numbers = axis();
     const QRect area = plot(numbers);
     painter.fillRect(area, palette().base());
@@ -285,8 +294,7 @@ void HistoryChart::drawAxes(QPainter &painter, const QRect &plot, const Axis &ax
         painter.drawLine(plot.left(), y, plot.right(), y);
         painter.setPen(ink);
         painter.drawText(QRect(0, y - metrics.height() / 2, plot.left() - margin, metrics.height()),
-                         Qt::AlignRight | Qt::AlignVCenter,
-                         NumberText::of(value, axis.decimals, locale()));
+                         Qt::AlignRight | Qt::AlignVCenter, numberText(value, axis.decimals));
     }
     const qint64 apart = plot.width() < 5 * 2 * metrics.height() ? 5 * minute : 2 * minute;
     for (qint64 time = (m_end / apart) * apart; time >= m_end - SampleRing::span; time -= apart) {

@@ -58,6 +58,7 @@ private:
         int decimals = 0;
     };
 
+    QString numberText(double value, int decimals) const;
     Axis axis() const;
     QRect plot(const Axis &axis) const;
     qreal xOf(qint64 time, const QRect &plot) const;

@@ -56,10 +56,9 @@ HistoryWindow::HistoryWindow(const QString &name, const QString &unit, int decim
     setWindowTitle(tr("%1, last ten minutes").arg(name));
     m_chart->setUnit(unit, decimals);
     m_chart->setAccessibleName(windowTitle());
-    for (QLabel *label : {m_summary, m_marked}) {
+    for (QLabel *label : {m_summary, m_marked})
         label->setTextFormat(Qt::PlainText);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    }
+    m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_summary->setObjectName(QStringLiteral("summary"));
     m_marked->setObjectName(QStringLiteral("marked"));
 

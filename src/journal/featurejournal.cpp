@@ -473,6 +473,25 @@ bool FeatureJournal::replay(QVector<Step> &from, QVector<Step> &to, bool isBack,
     return true;
 }
 
+void FeatureJournal::skipUndo()
+{
+    skip(m_done);
+}
+
+void FeatureJournal::skipRedo()
+{
+    skip(m_undone);
+}
+
+void FeatureJournal::skip(QVector<Step> &steps)
+{
+    if (!isAlive() || steps.isEmpty() || m_isReplaying)
+        return;
+    m_isGroupOpen = false;
+    steps.removeLast();
+    emit changed();
+}
+
 void FeatureJournal::apply(const Step &step, bool isBack)
 {
     int done = 0;

@@ -98,6 +98,10 @@ public:
     bool undo(QString *reason = nullptr);
     bool redo(QString *reason = nullptr);
 
+    /// Forgets the step that would be next, for one that the camera never takes.
+    void skipUndo();
+    void skipRedo();
+
 Q_SIGNALS:
     /// What can be undone or redone next has changed.
     void changed();
@@ -125,6 +129,7 @@ private:
     static void add(const Change &change, Step &step);
     QString text(const QVector<Step> &steps, const QString &plain, const QString &full) const;
     bool replay(QVector<Step> &from, QVector<Step> &to, bool isBack, QString *reason);
+    void skip(QVector<Step> &steps);
     void apply(const Step &step, bool isBack);
     void applyAll(const QVector<Change> &changes, bool isBack, int &done);
 

@@ -2,6 +2,7 @@
 #include "inputgesture.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTimer>
@@ -55,7 +56,8 @@ bool InputGesture::eventFilter(QObject *receiver, QEvent *event)
         end(Mouse);
         break;
     case QEvent::KeyPress:
-        if (!keyEvent(event)->isAutoRepeat())
+        // A modifier may be pressed in the middle of a drag.
+        if (!keyEvent(event)->isAutoRepeat() && !isDragging())
             begin(Key, keyEvent(event)->key(), timeOf(event));
         break;
     case QEvent::KeyRelease:
@@ -71,6 +73,12 @@ bool InputGesture::eventFilter(QObject *receiver, QEvent *event)
         break;
     }
     return false;
+}
+
+/// The release may have gone to no widget.
+bool InputGesture::isDragging() const
+{
+    return m_input == Mouse && !m_isEnding && QGuiApplication::mouseButtons() != Qt::NoButton;
 }
 
 void InputGesture::begin(Input input, int code, ulong time)

@@ -26,6 +26,7 @@ private:
     enum Input { None, Mouse, Key, Wheel };
 
     explicit InputGesture(QObject *parent);
+    bool isDragging() const;
     void begin(Input input, int code, ulong time);
     void end(Input input, int code = 0);
 

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QWidget>
 
@@ -99,18 +100,32 @@ void UndoActions::run(Replay replay)
     const FeatureJournal::Pointer kept = m_journal; // what is notified may set another one
     if (!kept)
         return;
-    const QString step =
-        replay == static_cast<Replay>(&FeatureJournal::undo) ? kept->undoText() : kept->redoText();
     const QPointer<QWidget> window(m_window);
     QString reason;
-    if ((kept.get()->*replay)(&reason) || !window)
+    if ((kept.get()->*replay)(&reason) || !window || m_journal != kept)
         return;
+    report(replay == static_cast<Replay>(&FeatureJournal::undo), reason);
+}
+
+/// The step can be tried again, or skipped for those behind it.
+void UndoActions::report(bool isUndo, const QString &reason)
+{
+    const QString step = isUndo ? m_journal->undoText() : m_journal->redoText();
     auto *box = new QMessageBox(QMessageBox::Warning, QString(),
                                 tr("The camera refuses this step: %1").arg(step) +
                                     QStringLiteral("\n\n") + reason,
-                                QMessageBox::Ok, window);
+                                QMessageBox::Ok, m_window);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    auto *skipping = box->addButton(tr("Skip This Step"), QMessageBox::DestructiveRole);
+    box->setDefaultButton(QMessageBox::Ok);
+    box->setEscapeButton(QMessageBox::Ok);
+    const FeatureJournal *journal = m_journal.get();
+    connect(journal, &FeatureJournal::changed, box, &QWidget::close); // another step is next
+    connect(skipping, &QPushButton::clicked, this, [=] {
+        if (m_journal.get() == journal)
+            isUndo ? m_journal->skipUndo() : m_journal->skipRedo();
+    });
     box->open();
 }
 

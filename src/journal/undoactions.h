@@ -17,7 +17,7 @@ namespace OrvGui {
 /// The actions are named "actionUndo" and "actionRedo". They are added to the window, whose context
 /// menu you may have show them; put them into a menu, too, if there is one. A text that the user
 /// has typed in a spin box or a line edit and that does not count yet takes the keys first. A step
-/// that the camera refuses is reported in a message box of the window.
+/// that the camera refuses is reported in a message box of the window, in which it can be skipped.
 class UndoActions : public QObject
 {
     Q_OBJECT
@@ -41,6 +41,7 @@ private:
 
     QAction *add(const QString &name, const QList<QKeySequence> &keys, Replay replay);
     void run(Replay replay);
+    void report(bool isUndo, const QString &reason);
     void show();
 
     QWidget *const m_window;

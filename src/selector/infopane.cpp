@@ -25,15 +25,17 @@ InfoPane::InfoPane(QTreeView *view) : m_view(view)
 /// Before, the column of the values was not as wide as it is.
 void InfoPane::viewShown()
 {
-    if (m_view->model() && m_view->columnWidth(labelColumn) == m_unshownWidth)
+    if (m_isUnshown && m_view->model() && hasOwnWidth()) {
         halveColumns();
-    m_unshownWidth = 0;
+        showTextsWhole();
+    }
+    m_isUnshown = false;
 }
 
 int InfoPane::heightOf(int rows) const
 {
     QStandardItemModel *sample = makeFacts();
-    add(sample, QString(), QString());
+    add(sample, sample->headerData(labelColumn, Qt::Horizontal).toString(), QString());
     setModel(sample);
     const QHeaderView *header = m_view->header();
     const int headerHeight = header->isHidden() ? 0 : header->sizeHint().height();
@@ -49,7 +51,8 @@ void InfoPane::clear()
     if (!facts)
         return;
     const int width = m_view->columnWidth(labelColumn);
-    if (width != 0 && width != m_unshownWidth)
+    const bool isPreliminary = m_isUnshown && hasOwnWidth();
+    if (width != 0 && !isPreliminary)
         m_width = width;
     setModel(nullptr);
     facts->deleteLater();
@@ -74,7 +77,15 @@ void InfoPane::show(QStandardItemModel *facts)
         m_view->setColumnWidth(labelColumn, m_width);
     else
         halveColumns();
-    m_unshownWidth = m_view->isVisible() ? 0 : m_view->columnWidth(labelColumn);
+    if (m_width == 0 || hasOwnWidth())
+        showTextsWhole();
+    m_isUnshown = !m_view->isVisible();
+}
+
+/// Not one that the user has chosen.
+bool InfoPane::hasOwnWidth() const
+{
+    return m_view->columnWidth(labelColumn) == m_ownWidth;
 }
 
 void InfoPane::halveColumns()
@@ -82,6 +93,27 @@ void InfoPane::halveColumns()
     m_view->header()->setStretchLastSection(true); // stretches it at once
     const int mean = (m_view->columnWidth(labelColumn) + m_view->columnWidth(valueColumn)) / 2;
     m_view->setColumnWidth(labelColumn, mean);
+}
+
+/// Gives the values what the labels can spare, or the labels what they need.
+void InfoPane::showTextsWhole()
+{
+    m_view->visualRect(m_view->model()->index(0, labelColumn)); // has it show its scroll bar
+    const int labels = m_view->columnWidth(labelColumn);
+    const int room = labels + m_view->columnWidth(valueColumn);
+    m_ownWidth =
+        qMax(qMin(labels, room - widestText(valueColumn)), qMin(widestText(labelColumn), room));
+    m_view->setColumnWidth(labelColumn, m_ownWidth);
+}
+
+int InfoPane::widestText(int column) const
+{
+    const QAbstractItemModel *facts = m_view->model();
+    const QHeaderView *header = m_view->header();
+    int widest = header->isHidden() ? 0 : header->sectionSizeHint(column);
+    for (int row = 0; row < facts->rowCount(); ++row)
+        widest = qMax(widest, m_view->sizeHintForIndex(facts->index(row, column)).width());
+    return widest;
 }
 
 QStandardItemModel *InfoPane::makeFacts()

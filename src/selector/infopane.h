@@ -34,10 +34,14 @@ public:
 private:
     void setModel(QAbstractItemModel *facts) const;
     void halveColumns();
+    void showTextsWhole();
+    bool hasOwnWidth() const;
+    int widestText(int column) const;
     void viewShown();
 
     QTreeView *m_view;
-    int m_width = 0;        ///< of the labels' column, when something was shown last
-    int m_unshownWidth = 0; ///< of the same, set while the view had no size yet
-    const QObject m_life;   ///< of the pane; what is connected ends with it
+    int m_width = 0;          ///< of the labels' column, when something was shown last
+    int m_ownWidth = 0;       ///< of the same, as the pane has set it
+    bool m_isUnshown = false; ///< what is shown came while the view had no size yet
+    const QObject m_life;     ///< of the pane; what is connected ends with it
 };

@@ -3,7 +3,7 @@
 
 #include "base/cameratext.h"
 
-#include <QPalette>
+#include <QFont>
 
 namespace OrvGui {
 
@@ -52,8 +52,11 @@ QVariant SettingsTable::data(const QModelIndex &index, int role) const
         return cell.isNull() ? tr("(none)") : cameraText(cell);
     case Qt::ToolTipRole:
         return literally(cameraText(cell));
-    case Qt::ForegroundRole:
-        return cell.isNull() ? QPalette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
+    case Qt::FontRole: {
+        QFont font; // not paler: that would be hard to read
+        font.setItalic(true);
+        return cell.isNull() ? QVariant(font) : QVariant();
+    }
     default:
         return QVariant();
     }

@@ -36,11 +36,11 @@ SettingsTableDialog::SettingsTableDialog(const QString &title, QWidget *parent)
     m_text->setWordWrap(true);
     m_text->setObjectName(QStringLiteral("lblText"));
     m_view->setObjectName(QStringLiteral("tableView"));
+    m_view->setAccessibleName(title);
     m_view->setModel(m_table);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setTextElideMode(Qt::ElideMiddle);
-    m_view->setAlternatingRowColors(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 

@@ -258,6 +258,26 @@ void TestFeatureJournal::refusals()
     map.gain.onWrite({});
     QVERIFY(journal->undo());
     QCOMPARE(map.gains[0], 1);
+
+    // One that is refused for good does not keep the others back.
+    QWidget window;
+    UndoActions actions(&window);
+    actions.setJournal(journal);
+    map.write(journal, "Mode", "On");
+    map.write(journal, "ExposureTime", 6000);
+    map.exposure.onWrite(throwRefusal);
+    show(window);
+    actions.undo()->trigger();
+    const QPointer<QMessageBox> box(window.findChild<QMessageBox *>());
+    QVERIFY(box && journal->undoText().contains("ExposureTime"));
+    for (QAbstractButton *button : box->buttons()) {
+        if (box->buttonRole(button) == QMessageBox::DestructiveRole)
+            button->click();
+    }
+    QTRY_VERIFY(!box);
+    actions.undo()->trigger();
+    QCOMPARE(map.get("Mode"), QString("Off"));
+    QVERIFY(!journal->canUndo());
 }
 
 void TestFeatureJournal::nodeMapGoes()

@@ -5,6 +5,8 @@
 #include <GenApi/GenApi.h>
 #include <OrvCam.h>
 #include <OrvGenParam.h>
+#include <history/historycaption.h>
+#include <history/historywindow.h>
 #include <openingprogress.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigcolordialog.h>
@@ -14,10 +16,12 @@
 #include <orvcamconfigstrobedialog.h>
 #include <orvcamconfigtriggerdialog.h>
 #include <orvcameraselectordialog.h>
+#include <orvfeaturebrowser.h>
 #include <orvgenparamtreeview.h>
 #include <qtorvslider.h>
 #include <qtorvspinbox.h>
 #include <setipdialog.h>
+#include <settings/settingstabledialog.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -123,6 +127,8 @@ private:
     void translate(const QString &language);
     Window make(const QString &name);
     Window makeTree();
+    Window makeBrowser();
+    static Window makeDifferences();
     Window makePicker();
     static Window makeAddresses(unsigned camera);
     template<class Dialog>
@@ -186,6 +192,26 @@ void switchOn(const QWidget &window)
     }
 }
 
+/// The table of the first feature that has a selector.
+QWidget *openedTable(QWidget &window)
+{
+    QTreeView &tree = *static_cast<OrvGui::OrvFeatureBrowser &>(window).treeView();
+    QDialog *table = nullptr;
+    for (QModelIndex row = tree.model()->index(0, 0); row.isValid(); row = tree.indexBelow(row)) {
+        emit tree.customContextMenuRequested(tree.visualRect(row).center());
+        auto *menu = window.findChild<QMenu *>("FeatureMenu");
+        if (auto *action = menu->findChild<QAction *>("table"))
+            action->trigger();
+        delete menu;
+        table = window.findChild<QDialog *>("SelectorTable");
+        if (table)
+            break;
+    }
+    return table && QTest::qWaitFor([&] { return table->findChild<QTableWidget *>()->isEnabled(); })
+               ? table
+               : nullptr;
+}
+
 /// What is to be looked at: the window, or what is opened from it.
 QWidget *opened(QWidget &window, const QString &name)
 {
@@ -198,6 +224,12 @@ QWidget *opened(QWidget &window, const QString &name)
         box->toolButton()->click();
         return box->slider();
     }
+    if (name == "history") {
+        window.findChild<OrvGui::HistoryCaption *>()->click();
+        return window.findChild<OrvGui::HistoryWindow *>();
+    }
+    if (name == "values")
+        return openedTable(window);
     return &window;
 }
 
@@ -300,6 +332,10 @@ Window TestLooks::make(const QString &name)
         {"wrong address", [] { return makeAddresses(0x0a000001); }},
         {"opening", [] { return std::make_unique<OrvGui::OpeningProgress>("Camera"); }},
         {"tree", [this] { return makeTree(); }},
+        {"browser", [this] { return makeBrowser(); }},
+        {"values", [this] { return makeBrowser(); }},
+        {"differences", [] { return makeDifferences(); }},
+        {"history", [this] { return std::make_unique<OrvGui::OrvCamConfig>(m_device); }},
         {"main", [this] { return std::make_unique<OrvGui::OrvCamConfig>(m_device); }},
         {"about", [this] { return std::make_unique<OrvGui::OrvCamConfig>(m_device); }},
         {"slider", [this] { return makeDialog<OrvGui::OrvCamConfigPulseDialog>(); }},
@@ -351,6 +387,29 @@ Window TestLooks::makeTree()
     return view;
 }
 
+/// In search of something that not all levels show.
+Window TestLooks::makeBrowser()
+{
+    int32_t code = OrvCam::Success;
+    auto browser =
+        std::make_unique<OrvGui::OrvFeatureBrowser>(m_device->GetParamArray(&code), nullptr);
+    browser->search("gain");
+    return browser;
+}
+
+Window TestLooks::makeDifferences()
+{
+    auto dialog = std::make_unique<OrvGui::SettingsTableDialog>("Settings", nullptr);
+    dialog->setAttribute(Qt::WA_DeleteOnClose, false);
+    dialog->setContents("This sentence says of a file with a long name what is not in it: " +
+                            QString(60, 'x') + ".xml",
+                        {"Feature", "In the file", "In the camera"},
+                        {{"Gain [GainSelector=Red]", "1.5", "2"}, {"Width", "640", {}}});
+    dialog->addAcceptButton("Load");
+    dialog->addCloseButton(true);
+    return dialog;
+}
+
 void TestLooks::windows_data()
 {
     QTest::addColumn<int>("condition");
@@ -360,9 +419,9 @@ void TestLooks::windows_data()
     for (int i = 0; i < count; ++i) {
         if (isFine && !conditions[i].isForFineScreens)
             continue;
-        for (const char *name :
-             {"picker", "address", "wrong address", "opening", "tree", "main", "about", "trigger",
-              "pulse", "slider", "strobe", "output", "color", "frames"})
+        for (const char *name : {"picker", "address", "wrong address", "opening", "tree", "browser",
+                                 "values", "differences", "history", "main", "about", "trigger",
+                                 "pulse", "slider", "strobe", "output", "color", "frames"})
             QTest::addRow("%s: %s", conditions[i].name, name) << i << QString(name);
     }
 }
@@ -379,6 +438,7 @@ void TestLooks::windows()
 
     QStringList faults;
     QWidget *shown = opened(*window, name);
+    QVERIFY(shown);
     faults << faultsOf(*shown, QTest::currentDataTag());
     if (name == "main")
         faults << menuFaultsOf(*window);
