@@ -187,7 +187,9 @@ bool SettingsFile::write(const QString &fileName, QString *error) const
         return false;
     }
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    // Only flush() tells when the disk is full.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+        file.commit())
         return true;
     *error = tr("The file '%1' cannot be written. %2").arg(fileName, file.errorString());
     return false;
