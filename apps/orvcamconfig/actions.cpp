@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 
 #include <csignal>
-#include <cstdlib>
 
 using OrvGui::OrvCameraSettings;
 
@@ -18,9 +17,11 @@ const int64_t largestExact = int64_t(1) << 53; ///< of the integers that JSON's 
 
 volatile std::sig_atomic_t isInterrupted = 0;
 
-void noteInterrupt(int)
+/// The first one ends in good order, the second at once.
+void noteInterrupt(int number)
 {
     isInterrupted = 1;
+    std::signal(number, SIG_DFL);
 }
 
 bool goesOn(int, int)
@@ -161,7 +162,7 @@ QJsonValue ActionRunner::typed(const QString &feature, const QString &text) cons
         switch (node->GetPrincipalInterfaceType()) {
         case GenApi::intfIInteger: {
             const int64_t value = GenApi::CIntegerPtr(node)->GetValue();
-            if (std::llabs(value) <= largestExact)
+            if (value >= -largestExact && value <= largestExact)
                 return static_cast<double>(value);
             return QString::number(static_cast<qlonglong>(value));
         }

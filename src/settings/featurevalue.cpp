@@ -51,14 +51,16 @@ QString stringText(GenApi::IString *feature)
 
 bool isTrue(const QString &text)
 {
-    return text == QLatin1String("1") ||
-           text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+    const QString word = text.trimmed();
+    return word == QLatin1String("1") ||
+           word.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
 }
 
 bool isFalse(const QString &text)
 {
-    return text == QLatin1String("0") ||
-           text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0;
+    const QString word = text.trimmed();
+    return word == QLatin1String("0") ||
+           word.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0;
 }
 
 /// Groups of a byte each.
@@ -117,12 +119,21 @@ void writeBoolean(GenApi::IBoolean *feature, const QString &text)
     feature->SetValue(isTrue(text), true);
 }
 
+/// By its name; some tools write its number.
+GenApi::IEnumEntry *entryOf(GenApi::IEnumeration *feature, const QString &text)
+{
+    if (GenApi::IEnumEntry *entry = feature->GetEntryByName(toUtf8(text.trimmed())))
+        return entry;
+    qint64 number = 0;
+    return integerOf(text, &number) ? feature->GetEntry(number) : nullptr;
+}
+
 void writeEnumeration(GenApi::IEnumeration *feature, const QString &text)
 {
-    const GenICam::gcstring name = toUtf8(text);
-    if (!feature->GetEntryByName(name))
+    const GenApi::IEnumEntry *entry = entryOf(feature, text);
+    if (!entry)
         refuse(FeatureValue::tr("There is no entry '%1'.").arg(cameraText(text, LongestName)));
-    feature->FromString(name, true);
+    feature->FromString(entry->GetSymbolic(), true);
 }
 
 bool areSameNumbers(const QString &left, const QString &right)
@@ -138,6 +149,16 @@ bool areSameIntegers(const QString &left, const QString &right)
 {
     qint64 values[2] = {};
     return integerOf(left, &values[0]) && integerOf(right, &values[1]) && values[0] == values[1];
+}
+
+bool areSameEntries(GenApi::IEnumeration *feature, const QString &left, const QString &right)
+{
+    try {
+        const GenApi::IEnumEntry *entry = entryOf(feature, left);
+        return entry && entry == entryOf(feature, right);
+    } catch (const GenICam::GenericException &) {
+        return false;
+    }
 }
 
 QString bareDigits(const QString &bytes)
@@ -248,11 +269,12 @@ QString FeatureValue::shownText(GenApi::IValue *feature)
 void FeatureValue::writeShown(GenApi::IValue *feature, const QString &text)
 {
     auto *integer = dynamic_cast<GenApi::IInteger *>(feature);
-    const bool isMarked = text.trimmed().startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
-    if (typeOf(feature) == GenApi::intfIInteger && !isMarked &&
-        FixIntegerRepresentation(integer) == GenApi::HexNumber)
-        return write(feature, QLatin1String("0x") + text.trimmed());
-    write(feature, text);
+    const QString marked = QLatin1String("0x") + text.trimmed();
+    qint64 number = 0;
+    const bool isHex = typeOf(feature) == GenApi::intfIInteger &&
+                       FixIntegerRepresentation(integer) == GenApi::HexNumber &&
+                       integerOf(marked, &number);
+    write(feature, isHex ? marked : text);
 }
 
 bool FeatureValue::areSame(GenApi::IValue *feature, const QString &left, const QString &right)
@@ -268,6 +290,8 @@ bool FeatureValue::areSame(GenApi::IValue *feature, const QString &left, const Q
         return areSameNumbers(left, right);
     case GenApi::intfIBoolean:
         return (isTrue(left) && isTrue(right)) || (isFalse(left) && isFalse(right));
+    case GenApi::intfIEnumeration:
+        return areSameEntries(GenApi::CEnumerationPtr(feature), left, right);
     case GenApi::intfIRegister:
         return bareDigits(left) == bareDigits(right);
     default:

@@ -40,6 +40,16 @@ QStringList positionsOfInteger(GenApi::IInteger *selector)
 }
 
 /// A position may be of no use any more, and still be the one that was found.
+/// One that could not be moved is where it was.
+bool isAt(GenApi::IValue *selector, const QString &value)
+{
+    try {
+        return FeatureValue::text(selector) == value;
+    } catch (const GenICam::GenericException &) {
+        return false;
+    }
+}
+
 bool isPutBack(GenApi::IValue *selector, const QString &value, bool verify)
 {
     try {
@@ -103,6 +113,7 @@ void SelectorMoves::move(GenApi::IValue *selector, const QString &value)
 
 QString SelectorMoves::select(const Setting::Selection &selection)
 {
+    m_isUnanswered = false;
     // In the order in which they are put back.
     std::vector<GenApi::IValue *> selectors;
     for (const auto &position : selection) {
@@ -118,6 +129,7 @@ QString SelectorMoves::select(const Setting::Selection &selection)
                               [this](GenApi::IValue *selector) { remembered(selector); });
             move(selectors[i], position.second);
         } catch (const GenICam::GenericException &exception) {
+            m_isUnanswered = dynamic_cast<const GenICam::TimeoutException *>(&exception);
             return QStringLiteral("%1 = %2: %3")
                 .arg(position.first, position.second,
                      FeatureValue::reason(selectors[i], exception));
@@ -150,7 +162,8 @@ QStringList SelectorMoves::putBack()
             continue;
         // A write that was not answered may have arrived, and the answer got lost.
         if (!isPutBack(moved.selector, moved.original, true) &&
-            !isPutBack(moved.selector, moved.original, false))
+            !isPutBack(moved.selector, moved.original, false) &&
+            !isAt(moved.selector, moved.original))
             away << fromUtf8(moved.selector->GetNode()->GetName());
     }
     m_moved.clear();

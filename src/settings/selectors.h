@@ -37,6 +37,9 @@ public:
     /// The same for all of the selection. Null when all is selected, otherwise why it is not.
     QString select(const Setting::Selection &selection);
 
+    /// Whether the camera has not answered during the last `select`.
+    bool isUnanswered() const { return m_isUnanswered; }
+
     /// Where the selector was; null for one that nothing was asked of.
     QString original(GenApi::IValue *selector) const;
 
@@ -58,6 +61,7 @@ private:
 
     GenApi::INodeMap &m_map;
     std::vector<Moved> m_moved;
+    bool m_isUnanswered = false;
 };
 
 } // namespace OrvGui

@@ -4,6 +4,7 @@
 #include "base/cameratext.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace OrvGui {
@@ -175,8 +176,20 @@ QByteArray SettingsFile::toBytes() const
 bool SettingsFile::write(const QString &fileName, QString *error) const
 {
     const QByteArray bytes = toBytes();
+    const QFileInfo existing(fileName);
+    if (existing.exists() && !existing.isFile() && !existing.isDir()) {
+        // A device or a pipe: a file must not take its place.
+        QFile target(fileName);
+        if (target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size() &&
+            target.flush())
+            return true;
+        *error = tr("The file '%1' cannot be written. %2").arg(fileName, target.errorString());
+        return false;
+    }
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    // Only flush() tells when the disk is full.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+        file.commit())
         return true;
     *error = tr("The file '%1' cannot be written. %2").arg(fileName, file.errorString());
     return false;

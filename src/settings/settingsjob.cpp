@@ -18,6 +18,14 @@ namespace {
 const int patience = 300;      // ms until the dialog is shown
 const int progressPeriod = 50; // ms
 
+/// Stays until the work has ended: after "Cancel", too, selectors may be away.
+class ProgressDialog : public QDialog
+{
+public:
+    using QDialog::QDialog;
+    void reject() override { emit rejected(); }
+};
+
 } // namespace
 
 SettingsJob::SettingsJob(const QString &text, Work work, QWidget *window)
@@ -60,7 +68,7 @@ bool SettingsJob::eventFilter(QObject *watched, QEvent *event)
 
 void SettingsJob::show()
 {
-    m_dialog = new QDialog(m_window);
+    m_dialog = new ProgressDialog(m_window);
     m_dialog->setObjectName(QStringLiteral("SettingsProgress"));
     m_dialog->setWindowTitle(tr("Camera Settings"));
     m_dialog->setWindowModality(Qt::ApplicationModal);
@@ -84,6 +92,7 @@ void SettingsJob::show()
     connect(timer, &QTimer::timeout, bar, showProgress);
     connect(buttons, &QDialogButtonBox::rejected, m_dialog, &QDialog::reject);
     connect(m_dialog, &QDialog::rejected, this, &SettingsJob::cancel);
+    connect(m_dialog, &QDialog::rejected, buttons, [=] { buttons->setEnabled(false); });
     timer->start(progressPeriod);
     showProgress();
     m_dialog->show();

@@ -91,13 +91,16 @@ Settings resolvedSettings(const Settings &lines)
         settings.append(line);
     }
 
+    QHash<QString, QStringList> varyingOf;
+    for (auto it = occurrences.cbegin(); it != occurrences.cend(); ++it)
+        varyingOf[it.key()] = varying(it.value(), selectors);
+
     QHash<QString, int> seen;
     for (Setting &setting : settings) {
         if (!setting.selection.isEmpty() || isCalledSelector(setting.name))
             continue;
-        const auto &all = occurrences[setting.name];
-        const auto &at = all[seen[setting.name]++];
-        for (const QString &selector : varying(all, selectors)) {
+        const auto &at = occurrences[setting.name][seen[setting.name]++];
+        for (const QString &selector : qAsConst(varyingOf[setting.name])) {
             if (at.contains(selector))
                 setting.selection.append({selector, at.value(selector)});
         }

@@ -6,7 +6,6 @@
 #include "genparamtree/acyclicfeatures.h"
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/selectordetour.h"
-#include "selectors.h"
 
 #include <OrvGenParam/LookAhead.h>
 
@@ -157,6 +156,9 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
             return readAt(selectors, depth + 1, features);
         original = FeatureValue::text(selector);
         positions = positionsOf(selector);
+    } catch (const GenICam::TimeoutException &exception) {
+        m_result.error = FeatureValue::reason(selector, exception);
+        return;
     } catch (const GenICam::GenericException &exception) {
         const QString reason = FeatureValue::reason(selector, exception);
         for (GenApi::IValue *feature : features)
@@ -173,7 +175,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
         Setting line;
         line.name = name;
         line.value = position;
-        const QString reason = moves.select({{name, position}});
+        const QString reason = select({{name, position}}, &moves);
         if (!reason.isEmpty()) {
             m_result.omitted.append({line, reason});
             continue;
@@ -192,6 +194,17 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     last.name = name;
     last.value = original;
     m_result.settings.append(last);
+}
+
+/// Null when all is selected, otherwise why it is not. One answer may get lost.
+QString SettingsReader::select(const Setting::Selection &selection, SelectorMoves *moves)
+{
+    QString reason = moves->select(selection);
+    if (moves->isUnanswered())
+        reason = moves->select(selection);
+    if (moves->isUnanswered())
+        m_result.error = reason;
+    return reason;
 }
 
 void SettingsReader::readAt(const Features &selectors, size_t depth, const Features &features)
@@ -255,7 +268,7 @@ SettingsReader::Result SettingsReader::read(const Settings &wanted)
     for (int i = 0; i < wanted.size() && goesOn(); ++i, ++m_done) {
         const Setting &setting = wanted[i];
         if (i == 0 || setting.selection != wanted[i - 1].selection) {
-            reason = moves.select(setting.selection);
+            reason = select(setting.selection, &moves);
             Features features;
             for (int k = i; k < wanted.size() && wanted[k].selection == setting.selection; ++k) {
                 if (GenApi::IValue *feature = settingOf(m_map, wanted[k].name))

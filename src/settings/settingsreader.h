@@ -2,6 +2,7 @@
 #pragma once
 
 #include "genparamtree/selectorsinuse.h"
+#include "selectors.h"
 #include "settingsfile.h"
 
 #include <GenApi/GenApi.h>
@@ -52,6 +53,7 @@ private:
     bool goesOn();
     void fetch(const Features &features) const;
     void readSelected(const Features &selectors, size_t depth, const Features &features);
+    QString select(const Setting::Selection &selection, SelectorMoves *moves);
     void readAt(const Features &selectors, size_t depth, const Features &features);
     void readOne(GenApi::IValue *feature, Setting setting);
     QString textOf(GenApi::IValue *feature, QString *reason);

@@ -86,6 +86,8 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
 QString SettingsWriter::attempt(const Setting &setting)
 {
     const QString obstacle = m_moves.select(setting.selection);
+    if (m_moves.isUnanswered() && ++m_timeouts >= mostTimeouts)
+        m_result.error = obstacle;
     if (!obstacle.isEmpty())
         return obstacle;
     GenApi::IValue *feature = settingOf(m_map, setting.name);
@@ -160,7 +162,7 @@ SettingProblems SettingsWriter::differing(const Settings &settings)
     m_result.isCancelled |= found.isCancelled;
     noteAway(found.notPutBack);
     if (!found.error.isEmpty())
-        return problems;
+        m_result.error = found.error;
     for (int i = 0; i < found.settings.size(); ++i) {
         const Setting &setting = settings[i];
         const QString &value = found.settings[i].value;
