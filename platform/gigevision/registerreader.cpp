@@ -42,7 +42,8 @@ bool RegisterReader::lookAtCamera()
         return isAnswer(reply.status);
 
     const auto bytes = bytesOf(m_capability);
-    if (bytes != reversed(bytes) && orderOf(Gvcp::Capability, bytes, true) == Order::Reversed)
+    const bool isSymmetric = std::equal(bytes.begin(), bytes.end(), bytes.rbegin());
+    if (!isSymmetric && orderOf(Gvcp::Capability, bytes, true) == Order::Reversed)
         setWordNumber();
     return true;
 }
