@@ -57,13 +57,22 @@ UndoActions::UndoActions(QWidget *window)
     , m_redo(add(QStringLiteral("actionRedo"), keysOf(QKeySequence::Redo, "Ctrl+Shift+Z"),
                  &FeatureJournal::redo))
 {
-    for (QAbstractSpinBox *spinBox : window->findChildren<QAbstractSpinBox *>())
-        spinBox->installEventFilter(this);
-    for (QLineEdit *lineEdit : window->findChildren<QLineEdit *>()) {
-        if (!qobject_cast<QAbstractSpinBox *>(lineEdit->parent()))
-            lineEdit->installEventFilter(this);
-    }
+    for (QWidget *widget : window->findChildren<QWidget *>())
+        watch(widget);
     show();
+}
+
+void UndoActions::watch(QWidget *editor)
+{
+    const bool isLine =
+        qobject_cast<QLineEdit *>(editor) && !qobject_cast<QAbstractSpinBox *>(editor->parent());
+    if (isLine || qobject_cast<QAbstractSpinBox *>(editor))
+        editor->installEventFilter(this);
+}
+
+void UndoActions::watchEditorsIn(QWidget *parent)
+{
+    parent->installEventFilter(this);
 }
 
 QAction *UndoActions::add(const QString &name, const QList<QKeySequence> &keys, Replay replay)
@@ -96,6 +105,10 @@ void UndoActions::show()
 
 void UndoActions::run(Replay replay)
 {
+    const QPointer<UndoActions> alive(this);
+    emit triggered();
+    if (!alive)
+        return;
     const FeatureJournal::Pointer kept = m_journal; // what is notified may set another one
     if (!kept)
         return;
@@ -117,6 +130,12 @@ void UndoActions::run(Replay replay)
 // Line edits claim these keys even if there is nothing that they could undo.
 bool UndoActions::eventFilter(QObject *editor, QEvent *event)
 {
+    if (event->type() == QEvent::ChildPolished) {
+        auto *child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child());
+        if (child)
+            watch(child);
+        return false;
+    }
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
     const auto *key = static_cast<const QKeyEvent *>(event);

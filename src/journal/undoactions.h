@@ -30,8 +30,15 @@ public:
     void setJournal(const FeatureJournal::Pointer &journal);
     FeatureJournal::Pointer journal() const { return m_journal; }
 
+    /// Editors that come later, as children of this one, such as those of a delegate.
+    void watchEditorsIn(QWidget *parent);
+
     QAction *undo() const { return m_undo; }
     QAction *redo() const { return m_redo; }
+
+Q_SIGNALS:
+    /// The user undoes or redoes something now; what is being edited can be written before that.
+    void triggered();
 
 protected:
     bool eventFilter(QObject *editor, QEvent *event) override;
@@ -40,6 +47,7 @@ private:
     using Replay = bool (FeatureJournal::*)(QString *);
 
     QAction *add(const QString &name, const QList<QKeySequence> &keys, Replay replay);
+    void watch(QWidget *editor);
     void run(Replay replay);
     void show();
 
