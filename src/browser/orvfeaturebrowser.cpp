@@ -111,7 +111,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     renarrow.setSingleShot(true);
     renarrow.setInterval(0);
     QObject::connect(&renarrow, &QTimer::timeout, q, [this] { narrow(); });
-    undoActions->watchEditorsIn(tree().viewport());
+    undoActions->watchEditorsOf(&tree());
     // What is being typed is a write of its own, and no editor may keep what is outdated then.
     QObject::connect(undoActions, &UndoActions::triggered, q,
                      [this] { OrvGenParamTreeViewPrivate::of(*view).endEditing(); });

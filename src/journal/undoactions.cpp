@@ -3,13 +3,13 @@
 
 #include "base/cameratext.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QDoubleSpinBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QSpinBox>
 #include <QWidget>
 
@@ -27,8 +27,13 @@ QList<QKeySequence> keysOf(QKeySequence::StandardKey key, const char *always)
     return keys;
 }
 
-/// Whether the user has typed what does not count yet.
-bool isPending(const QObject *editor)
+bool isModified(const QLineEdit *line)
+{
+    return line && line->isModified() && (line->isUndoAvailable() || line->isRedoAvailable());
+}
+
+/// Whether the user has typed what is not the value yet.
+bool isTyping(const QObject *editor)
 {
     if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
         return real->cleanText() != real->textFromValue(real->value());
@@ -37,8 +42,7 @@ bool isPending(const QObject *editor)
         const int typed = number->locale().toInt(number->cleanText(), &isNumber);
         return !isNumber || typed != number->value();
     }
-    const auto *text = qobject_cast<const QLineEdit *>(editor);
-    return text && text->isModified() && (text->isUndoAvailable() || text->isRedoAvailable());
+    return isModified(qobject_cast<const QLineEdit *>(editor));
 }
 
 /// As an entry of a menu, in which an ampersand marks a key.
@@ -70,9 +74,19 @@ void UndoActions::watch(QWidget *editor)
         editor->installEventFilter(this);
 }
 
-void UndoActions::watchEditorsIn(QWidget *parent)
+void UndoActions::watchEditorsOf(const QAbstractItemView *view)
 {
-    parent->installEventFilter(this);
+    m_viewport = view->viewport();
+    m_viewport->installEventFilter(this);
+}
+
+/// Whether the user has typed what does not count yet.
+bool UndoActions::isPending(const QObject *editor) const
+{
+    const bool isOfSpinBox = qobject_cast<const QAbstractSpinBox *>(editor);
+    if (m_viewport && editor->parent() == m_viewport && isOfSpinBox)
+        return isModified(editor->findChild<QLineEdit *>());
+    return isTyping(editor);
 }
 
 QAction *UndoActions::add(const QString &name, const QList<QKeySequence> &keys, Replay replay)

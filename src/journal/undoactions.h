@@ -4,8 +4,9 @@
 #include "featurejournal.h"
 
 #include <QObject>
+#include <QPointer>
 
-class QAbstractSpinBox;
+class QAbstractItemView;
 class QAction;
 class QLineEdit;
 class QWidget;
@@ -30,8 +31,9 @@ public:
     void setJournal(const FeatureJournal::Pointer &journal);
     FeatureJournal::Pointer journal() const { return m_journal; }
 
-    /// Editors that come later, as children of this one, such as those of a delegate.
-    void watchEditorsIn(QWidget *parent);
+    /// For the editors of an item view, which come and go: what is typed in them counts when they
+    /// close.
+    void watchEditorsOf(const QAbstractItemView *view);
 
     QAction *undo() const { return m_undo; }
     QAction *redo() const { return m_redo; }
@@ -48,12 +50,14 @@ private:
 
     QAction *add(const QString &name, const QList<QKeySequence> &keys, Replay replay);
     void watch(QWidget *editor);
+    bool isPending(const QObject *editor) const;
     void run(Replay replay);
     void show();
 
     QWidget *const m_window;
     QAction *const m_undo;
     QAction *const m_redo;
+    QPointer<QWidget> m_viewport; ///< whose children are editors of a view
     FeatureJournal::Pointer m_journal;
 };
 

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QTableWidget>
 #include <QTextBrowser>
 #include <QToolButton>
@@ -472,7 +473,7 @@ void TestOrvFeatureBrowser::undoWhileTyping()
         return editor;
     };
     QTest::keyClick(edit("640"), Qt::Key_Return);
-    QCOMPARE(map.integer("Width").GetValue(), int64_t(640));
+    QTRY_COMPARE(map.integer("Width").GetValue(), int64_t(640));
     QPointer<QSpinBox> editor = edit("320");
     keys(editor);
     QVERIFY(editor && editor->text() != "320");
@@ -481,7 +482,7 @@ void TestOrvFeatureBrowser::undoWhileTyping()
         keys(editor);
     QVERIFY(editor && editor->text() == "640");
     keys(editor); // nothing is pending any more
-    QCOMPARE(map.integer("Width").GetValue(), int64_t(1280));
+    QTRY_COMPARE(map.integer("Width").GetValue(), int64_t(1280));
     QVERIFY(!shown.isChanged("Width"));
 }
 

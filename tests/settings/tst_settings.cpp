@@ -554,7 +554,7 @@ void TestSettings::menu()
 
     // What would change; then what was refused; then all as it was.
     const auto journal = FeatureJournal::of(&camera);
-    FeatureJournal::write(journal, "Width", 61, 60, [] { return true; });
+    FeatureJournal::write(journal, "Width", 60, 61, [] { return true; });
     QVERIFY(journal->canUndo());
     QStringList told;
     connect(journal.get(), &FeatureJournal::written, this, [&](const FeatureJournal::Write &one) {
