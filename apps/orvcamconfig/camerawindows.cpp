@@ -89,6 +89,8 @@ void CameraWindows::addSettingsMenu()
     m_settingsMenu->addTo(menu, before);
     if (before && !before->isSeparator())
         menu->insertSeparator(before);
+    m_tree.menu()->addSeparator();
+    m_settingsMenu->addTo(m_tree.menu());
     connect(m_settingsMenu, &OrvGui::OrvSettingsMenu::valuesReplaced, &m_tree,
             [this] { m_tree.treeView()->viewport()->update(); });
 }

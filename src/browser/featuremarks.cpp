@@ -3,6 +3,7 @@
 
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamtreemodel.h"
+#include "settings/featurevalue.h"
 
 #include <GenApi/GenApi.h>
 
@@ -50,7 +51,10 @@ QString textOf(const SelectorPlaces &places)
 FeatureMarks::FeatureMarks(GenParamTreeModel &model, QObject *parent)
     : QObject(parent), m_model(model)
 {
-    connect(&model, &GenParamTreeModel::written, this, &FeatureMarks::noteWrite);
+    connect(&model, &GenParamTreeModel::written, this,
+            [this](GenApi::IValue *feature, const QString &before, const QString &after) {
+                noteWrite(feature, before, after);
+            });
     connect(&model, &GenParamTreeModel::refused, this, &FeatureMarks::noteRefusal);
 }
 
@@ -91,15 +95,30 @@ QString FeatureMarks::earlierText(const GenApi::IValue *feature) const
 
 void FeatureMarks::noteWrite(GenApi::IValue *feature, const QString &before, const QString &after)
 {
+    noteWrite(feature, placesOf(feature, m_model), before, after,
+              [&](const QString &earlier) { return earlier == after; });
+}
+
+void FeatureMarks::noteForeignWrite(GenApi::IValue *feature, const SelectorPlaces &places,
+                                    const QString &before, const QString &after)
+{
+    noteWrite(feature, places, before, after, [&](const QString &earlier) {
+        return FeatureValue::areSame(feature, earlier, after);
+    });
+}
+
+void FeatureMarks::noteWrite(GenApi::IValue *feature, const SelectorPlaces &places,
+                             const QString &before, const QString &after,
+                             const std::function<bool(const QString &)> &isBackAt)
+{
     m_refusals.remove(feature);
-    const SelectorPlaces places = placesOf(feature, m_model);
     QVector<Change> &changes = m_changes[feature];
     const auto known = std::find_if(changes.begin(), changes.end(),
                                     [&](const Change &change) { return change.places == places; });
     if (known == changes.end()) {
         if (!before.isNull() && before != after)
             changes.append({feature, places, before});
-    } else if (known->before == after) {
+    } else if (isBackAt(known->before)) {
         changes.erase(known);
     }
     m_order.removeAll(feature);
@@ -136,7 +155,8 @@ void FeatureMarks::putBack(const Change &change)
     const QPointer<FeatureMarks> alive(this);
     QString reason;
     try {
-        const SelectorMove move(change.places);
+        SelectorMove move;
+        moveTo(change.places, &move);
         m_model.writeText(change.feature, change.before);
     } catch (const GenICam::GenericException &exception) {
         reason = fromUtf8(GenICam::gcstring(exception.GetDescription()));

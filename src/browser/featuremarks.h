@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QObject>
 
+#include <functional>
+
 class GenParamTreeModel;
 
 namespace OrvGui {
@@ -49,9 +51,9 @@ public:
     /// refused is marked, and stays changed.
     void putBack(const GenApi::IValue *feature = nullptr);
 
-public slots:
-    /// For writes that go past the model.
-    void noteWrite(GenApi::IValue *feature, const QString &before, const QString &after);
+    /// For a write that went past the model. The texts may be written otherwise than the model's.
+    void noteForeignWrite(GenApi::IValue *feature, const SelectorPlaces &places,
+                          const QString &before, const QString &after);
     void noteRefusal(GenApi::IValue *feature, const QString &reason);
 
 signals:
@@ -59,6 +61,9 @@ signals:
     void changed(GenApi::IValue *feature);
 
 private:
+    void noteWrite(GenApi::IValue *feature, const QString &before, const QString &after);
+    void noteWrite(GenApi::IValue *feature, const SelectorPlaces &places, const QString &before,
+                   const QString &after, const std::function<bool(const QString &)> &isBackAt);
     void putBack(const Change &change);
 
     GenParamTreeModel &m_model;

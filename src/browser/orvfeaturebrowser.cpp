@@ -81,6 +81,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     , onlyChangedAction(new QAction(browser))
     , putBackAction(new QAction(browser))
     , nameDelegate(new FoundNameDelegate(browser))
+    , undoActions(new UndoActions(browser))
 {
     buildWindow();
     buildMenu();
@@ -110,6 +111,10 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     renarrow.setSingleShot(true);
     renarrow.setInterval(0);
     QObject::connect(&renarrow, &QTimer::timeout, q, [this] { narrow(); });
+    undoActions->watchEditorsOf(&tree());
+    // What is being typed is a write of its own, and no editor may keep what is outdated then.
+    QObject::connect(undoActions, &UndoActions::triggered, q,
+                     [this] { OrvGenParamTreeViewPrivate::of(*view).endEditing(); });
     auto *find = new QShortcut(QKeySequence::Find, q);
     find->setContext(Qt::WidgetWithChildrenShortcut);
     QObject::connect(find, &QShortcut::activated, q, [this] {
@@ -156,6 +161,11 @@ void OrvFeatureBrowserPrivate::buildWindow()
 void OrvFeatureBrowserPrivate::buildMenu()
 {
     menu->setObjectName(QStringLiteral("browserMenu"));
+    for (QAction *action : {undoActions->undo(), undoActions->redo()}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut); // the host may have its own
+        menu->addAction(action);
+    }
+    menu->addSeparator();
     onlyChangedAction->setObjectName(QStringLiteral("onlyChanged"));
     onlyChangedAction->setCheckable(true);
     putBackAction->setObjectName(QStringLiteral("putBackAll"));
@@ -201,6 +211,7 @@ void OrvFeatureBrowserPrivate::setParams(Source *source, GenApi::INodeMap *newNo
         view->clearParams();
         throw;
     }
+    setJournal(FeatureJournal::of(nodeMap));
     if (!shown)
         return;
     showFavourites();
@@ -214,6 +225,7 @@ void OrvFeatureBrowserPrivate::clearParams()
     rememberTree();
     before.reset();
     view->clearParams();
+    setJournal(nullptr);
     nodeMap = nullptr;
     marksChanged();
     narrow();
@@ -226,19 +238,70 @@ QAbstractItemModel *OrvFeatureBrowserPrivate::wrap(KnownValuesModel *values)
     shown = model;
     model->search().setWithDescriptions(remembered.searchesTexts);
     QObject::connect(&model->marks(), &FeatureMarks::changed, q, [this] { marksChanged(); });
+    QObject::connect(features(), &GenParamTreeModel::aboutToWrite, q,
+                     [this](GenApi::IValue *feature) {
+                         if (journal)
+                             writing.insert(feature, journal->known(feature->GetNode()));
+                     });
+    QObject::connect(features(), &GenParamTreeModel::refused, q,
+                     [this](GenApi::IValue *feature) { writing.remove(feature); });
+    // Behind the marks, which have the selectors read.
     QObject::connect(features(), &GenParamTreeModel::written, q,
                      [this](GenApi::IValue *feature, const QString &earlier, const QString &after) {
-                         if (observer)
-                             observer(feature, earlier, after);
+                         record(feature, earlier, after);
                      });
     return model;
 }
 
-void OrvFeatureBrowserPrivate::noteWrite(GenApi::IValue *feature, const QString &earlier,
-                                         const QString &after)
+void OrvFeatureBrowserPrivate::setJournal(const FeatureJournal::Pointer &newJournal)
 {
-    if (shown)
-        shown->marks().noteWrite(feature, earlier, after);
+    if (journal)
+        QObject::disconnect(journal.get(), nullptr, q, nullptr);
+    writing.clear();
+    journal = newJournal;
+    undoActions->setJournal(journal);
+    if (journal)
+        QObject::connect(journal.get(), &FeatureJournal::written, q,
+                         [this](const FeatureJournal::Write &write) { noteWrite(write); });
+}
+
+/// The texts serve where the values are not known.
+void OrvFeatureBrowserPrivate::record(GenApi::IValue *feature, const QString &earlier,
+                                      const QString &after)
+{
+    const FeatureJournal::Pointer kept = journal; // who is told may close the camera
+    if (!kept)
+        return;
+    GenApi::INode *node = feature->GetNode();
+    const FeatureJournal::State now = kept->known(node);
+    FeatureJournal::State former = writing.take(feature);
+    // The write has told where they are, if that was not known.
+    former.selectors = now.selectors;
+    former.areSelectorsKnown = now.areSelectorsKnown;
+    if (!former.value.isValid() && !earlier.isNull())
+        former.value = earlier;
+    const QVariant value = now.value.isValid() || after.isNull() ? now.value : QVariant(after);
+    const QPointer<OrvFeatureBrowser> alive(q);
+    isRecording = true;
+    kept->record(node, former, value);
+    if (alive)
+        isRecording = false;
+}
+
+void OrvFeatureBrowserPrivate::noteWrite(const FeatureJournal::Write &write)
+{
+    auto *feature = dynamic_cast<GenApi::IValue *>(write.node);
+    if (!shown || !feature || isRecording)
+        return;
+    SelectorPlaces places = placesOf(feature, *features());
+    for (SelectorPlace &place : places) {
+        const QString name = fromUtf8(place.selector->GetNode()->GetName());
+        for (const FeatureJournal::Setting &selector : write.selectors) {
+            if (selector.feature == name && !selector.text.isNull())
+                place.value = selector.text;
+        }
+    }
+    shown->marks().noteForeignWrite(feature, places, write.before, write.after);
 }
 
 GenParamTreeModel *OrvFeatureBrowserPrivate::features() const
@@ -558,6 +621,7 @@ void OrvFeatureBrowserPrivate::marksChanged()
 void OrvFeatureBrowserPrivate::putBack(const GenApi::IValue *feature)
 {
     OrvGenParamTreeViewPrivate::of(*view).endEditing();
+    const FeatureJournal::Group step(journal);
     if (shown)
         shown->marks().putBack(feature);
 }

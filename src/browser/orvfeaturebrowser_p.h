@@ -6,14 +6,16 @@
 #include "foundnamedelegate.h"
 #include "genparamtree/featuretree.h"
 #include "genparamtree/orvgenparamtreeview_p.h"
+#include "journal/featurejournal.h"
+#include "journal/undoactions.h"
 #include "orvfeaturebrowser.h"
 #include "selectortable.h"
 
+#include <QHash>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTimer>
 
-#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -68,9 +70,12 @@ public:
     void expand(const QPersistentModelIndex &row, bool isExpanded);
     void marksChanged();
 
+    void setJournal(const FeatureJournal::Pointer &newJournal);
+    void record(GenApi::IValue *feature, const QString &earlier, const QString &after);
+
     /// For a write to the same camera that went past the browser, so that it shows what was
     /// changed.
-    void noteWrite(GenApi::IValue *feature, const QString &earlier, const QString &after);
+    void noteWrite(const FeatureJournal::Write &write);
     void putBack(const GenApi::IValue *feature);
 
     QByteArray saveTree() const;
@@ -90,10 +95,10 @@ public:
     QAction *putBackAction;
     FoundNameDelegate *nameDelegate;
 
-    /// Called after each write of the browser, putting back and tables included, with GenICam's
-    /// texts before and after it; null for one that cannot be read. The selectors of the feature
-    /// are where they were for the write, and may be elsewhere afterwards.
-    std::function<void(GenApi::IValue *, const QString &, const QString &)> observer;
+    UndoActions *undoActions;
+    FeatureJournal::Pointer journal; ///< of the node map; null without one
+    QHash<const GenApi::IValue *, FeatureJournal::State> writing; ///< what is written, before that
+    bool isRecording = false;
 
     QTimer renarrow; ///< when what was changed is another set than before
     QPointer<SelectorTable> table;

@@ -7,24 +7,7 @@
 
 #include <GenApi/GenApi.h>
 
-#include <utility>
-
 namespace OrvGui {
-
-namespace {
-
-/// A write that was not answered may have arrived.
-void write(const SelectorPlace &place)
-{
-    const auto set = [&] { place.selector->FromString(toUtf8(place.value), true); };
-    try {
-        set();
-    } catch (const GenICam::GenericException &) {
-        set();
-    }
-}
-
-} // namespace
 
 SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model)
 {
@@ -38,39 +21,10 @@ SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model)
     return places;
 }
 
-SelectorMove::SelectorMove(const SelectorPlaces &places)
+void moveTo(const SelectorPlaces &places, SelectorMove *move)
 {
-    try {
-        for (const SelectorPlace &place : places) {
-            const QString former = fromUtf8(place.selector->ToString(false, false));
-            if (former == place.value)
-                continue;
-            if (!m_detour)
-                m_detour.emplace();
-            m_former.prepend({place.selector, former});
-            place.selector->FromString(toUtf8(place.value), true);
-        }
-    } catch (...) {
-        moveBack();
-        throw;
-    }
-}
-
-SelectorMove::~SelectorMove()
-{
-    moveBack();
-}
-
-void SelectorMove::moveBack()
-{
-    for (const SelectorPlace &place : std::as_const(m_former)) {
-        try {
-            write(place);
-        } catch (const GenICam::GenericException &) {
-            // The camera is gone, or keeps the selector where it is; the tree shows where.
-        }
-    }
-    m_former.clear();
+    for (const SelectorPlace &place : places)
+        move->moveTo(place.selector, place.value);
 }
 
 } // namespace OrvGui

@@ -7,6 +7,7 @@
 #include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamdelegate.h"
 #include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/selectormove.h"
 
 #include <GenApi/GenApi.h>
 
@@ -56,6 +57,19 @@ QVector<std::pair<QString, QString>> choicesOf(GenApi::IValue *feature)
         choices.append({GenParamDelegate::tr("True"), QStringLiteral("1")});
     }
     return choices;
+}
+
+/// The selector and what it selects.
+QVector<GenApi::IValue *> movingWith(GenApi::IValue *selector)
+{
+    QVector<GenApi::IValue *> moving = {selector};
+    try {
+        for (GenApi::IValue *feature : selectedBy(selector))
+            moving.append(feature);
+    } catch (const GenICam::GenericException &) {
+        // The description is wrong there.
+    }
+    return moving;
 }
 
 } // namespace
@@ -170,11 +184,9 @@ void SelectorTable::readAgain()
     m_readAgain->setEnabled(false);
     m_table->setEnabled(false);
     m_note->setText(tr("Reading…"));
-    QVector<GenApi::IValue *> moving = {m_selector};
-    for (GenApi::IValue *feature : selectedBy(m_selector))
-        moving.append(feature);
-    m_shown.freeze(moving);
+    m_shown.freeze(movingWith(m_selector));
     m_detour.emplace();
+    m_inUse.emplace(m_nodeMap);
     m_reader = std::make_unique<SelectorReader>(m_nodeMap, m_selector, m_columns);
     connect(m_reader.get(), &QThread::finished, this, &SelectorTable::showRows);
     m_reader->start();
@@ -193,6 +205,7 @@ void SelectorTable::reject()
 
 void SelectorTable::endReading()
 {
+    m_inUse.reset();
     m_detour.reset();
     m_shown.thaw();
 }
@@ -260,7 +273,8 @@ void SelectorTable::enter(int row, int column, const QString &text)
     QString reason;
     SelectorReader::Cell cell;
     try {
-        const SelectorMove move({{m_selector, m_entries.at(row)}});
+        SelectorMove move;
+        move.moveTo(m_selector, m_entries.at(row));
         reason = m_features.writeText(feature, value);
         cell = SelectorReader::read(feature);
     } catch (const GenICam::GenericException &exception) {

@@ -3,6 +3,7 @@
 
 #include "browsermodel.h"
 #include "genparamtree/selectordetour.h"
+#include "genparamtree/selectorsinuse.h"
 #include "selectorreader.h"
 
 #include <QDialog>
@@ -60,7 +61,9 @@ private:
     QPushButton *m_readAgain;
     QStringList m_entries;
     bool m_isToBeClosed = false;
-    std::optional<SelectorDetour> m_detour; ///< while it is being read
+    // While it is being read.
+    std::optional<SelectorDetour> m_detour;
+    std::optional<SelectorsInUse> m_inUse;
     std::unique_ptr<SelectorReader> m_reader;
 };
 

@@ -282,6 +282,8 @@ GenParamTreeModelPrivate::carryOut(GenApi::IValue *feature, const std::function<
     const QPointer<GenParamTreeModel> alive(model); // a write may end the model, and so this object
     const bool isReported = isObserved();
     const QString before = isReported ? model->text(feature) : QString();
+    if (isReported)
+        emit model->aboutToWrite(feature);
     Outcome outcome = Refused;
     QString refusal;
     try {

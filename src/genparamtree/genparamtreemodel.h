@@ -70,6 +70,9 @@ public:
     QString knownText(GenApi::IValue *feature) const;
 
 signals:
+    /// A write of this model begins. The value is known by now, if it can be read at all.
+    void aboutToWrite(GenApi::IValue *feature);
+
     /// A write of this model has succeeded; the texts are those of `text`, before it and after it.
     /// A connection has the value read around each write when it is not known.
     void written(GenApi::IValue *feature, const QString &before, const QString &after);

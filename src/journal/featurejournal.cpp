@@ -2,8 +2,10 @@
 #include "featurejournal.h"
 
 #include "base/cameratext.h"
+#include "base/selectors.h"
 #include "genparamtree/genicamstring.h"
-#include "genparamtree/selectordetour.h"
+#include "genparamtree/selectormove.h"
+#include "genparamtree/selectorsinuse.h"
 #include "inputgesture.h"
 
 #include <GenApi/GenApi.h>
@@ -11,7 +13,6 @@
 
 #include <QHash>
 #include <QLocale>
-#include <QPair>
 #include <QScopedValueRollback>
 #include <QStringList>
 
@@ -61,23 +62,28 @@ QVariant valueOf(INode *node)
     return QVariant();
 }
 
-/// The same for a value that has come from a widget.
+/// The same for a value that has come from a widget, or for GenICam's text, which stays a text
+/// where it is no plain number.
 QVariant asValueOf(INode *node, const QVariant &value)
 {
     if (!value.isValid())
         return value;
+    bool isNumber = false;
     if (auto *choice = dynamic_cast<IEnumeration *>(node)) {
-        bool isNumber = false;
         const qlonglong number = value.toLongLong(&isNumber);
         const bool isName = choice->GetEntryByName(toUtf8(value.toString()));
         return isName || !isNumber ? value.toString() : entryOf(choice->GetEntry(number));
     }
     if (dynamic_cast<IBoolean *>(node))
         return value.toBool();
-    if (dynamic_cast<IInteger *>(node))
-        return value.toLongLong();
-    if (dynamic_cast<IFloat *>(node))
-        return value.toDouble();
+    if (dynamic_cast<IInteger *>(node)) {
+        const qlonglong number = value.toLongLong(&isNumber);
+        return isNumber ? QVariant(number) : value;
+    }
+    if (dynamic_cast<IFloat *>(node)) {
+        const double number = value.toDouble(&isNumber);
+        return isNumber ? QVariant(number) : value;
+    }
     return dynamic_cast<IString *>(node) ? QVariant(value.toString()) : QVariant();
 }
 
@@ -87,12 +93,23 @@ void setValue(INode *node, const QVariant &value)
         choice->FromString(toUtf8(value.toString()));
     else if (auto *flag = dynamic_cast<IBoolean *>(node))
         flag->SetValue(value.toBool());
+    else if (auto *any = dynamic_cast<IValue *>(node);
+             any && value.userType() == QMetaType::QString)
+        any->FromString(toUtf8(value.toString()));
     else if (auto *number = dynamic_cast<IInteger *>(node))
         number->SetValue(value.toLongLong());
     else if (auto *real = dynamic_cast<IFloat *>(node))
         real->SetValue(value.toDouble());
-    else if (auto *text = dynamic_cast<IString *>(node))
-        text->SetValue(toUtf8(value.toString()));
+}
+
+/// Where the node cannot be asked for it.
+QString plainText(const QVariant &value)
+{
+    if (value.userType() == QMetaType::Bool)
+        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    if (value.userType() == QMetaType::Double)
+        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+    return value.toString();
 }
 
 /// False when the camera refuses it.
@@ -104,31 +121,6 @@ bool attempt(Function function)
         return true;
     } catch (const GenICam::GenericException &) {
         return false;
-    }
-}
-
-/// A selector only says what other features are of.
-bool isSelector(INode *node)
-{
-    const auto *selector = dynamic_cast<ISelector *>(node);
-    return selector && selector->IsSelector();
-}
-
-/// Appends those that the node depends on, the outermost first.
-void addSelectors(INode *node, QVector<INode *> &seen, QVector<INode *> &selectors)
-{
-    seen.append(node);
-    const auto *selected = dynamic_cast<ISelector *>(node);
-    if (!selected)
-        return;
-    FeatureList_t selecting;
-    selected->GetSelectingFeatures(selecting);
-    for (IValue *value : selecting) {
-        INode *const selector = value ? value->GetNode() : nullptr;
-        if (!selector || seen.contains(selector))
-            continue;
-        addSelectors(selector, seen, selectors);
-        selectors.append(selector);
     }
 }
 
@@ -171,7 +163,7 @@ private:
     const std::shared_ptr<std::atomic<bool>> m_isAlive;
 };
 
-/// Moves selectors away and back.
+/// Moves selectors away and back, and has those told afterwards who could not be in between.
 class FeatureJournal::Detour
 {
 public:
@@ -185,47 +177,30 @@ public:
 private:
     void end();
     const FeatureJournal &m_journal;
-    std::unique_ptr<SelectorDetour> m_detour;
-    QVector<QPair<INode *, QVariant>> m_moved; ///< where they were
-    QVector<INode *> m_unheard;                ///< whose notification nobody has heeded
+    SelectorMove m_move;
+    QVector<INode *> m_unheard; ///< whose notification nobody has heeded
 };
 
 void FeatureJournal::Detour::goTo(const QVector<Setting> &selectors)
 {
     for (const Setting &selector : selectors) {
-        INode *const node = m_journal.find(selector.feature);
-        const QVariant current = valueOf(node);
-        if (current == selector.value)
-            continue;
-        if (!m_detour)
-            m_detour.reset(new SelectorDetour);
-        setValue(node, selector.value);
-        const bool isKnown = std::any_of(m_moved.begin(), m_moved.end(),
-                                         [=](const auto &one) { return one.first == node; });
-        if (!isKnown)
-            m_moved.append({node, current});
+        if (auto *value = dynamic_cast<IValue *>(m_journal.find(selector.feature)))
+            m_move.moveTo(value, selector.text);
     }
 }
 
 void FeatureJournal::Detour::wrote(INode *node)
 {
-    if (m_detour)
+    if (m_move.isAway())
         m_unheard.append(node);
 }
 
 void FeatureJournal::Detour::end()
 {
-    if (!m_detour || !m_journal.isAlive())
-        return;
-    const auto put = [](INode *node, const QVariant &value) {
-        return attempt([&] { setValue(node, value); });
-    };
-    while (!m_moved.isEmpty()) {
-        const auto selector = m_moved.takeLast();
-        if (!put(selector.first, selector.second) && !put(selector.first, selector.second))
-            m_unheard.append(selector.first);
-    }
-    m_detour.reset();
+    if (!m_journal.isAlive())
+        return m_move.abandon();
+    for (IValue *selector : m_move.putBack())
+        m_unheard.append(selector->GetNode());
     // What depends on them without being selected has changed for those who look now.
     for (INode *node : std::as_const(m_unheard))
         attempt([=] { node->InvalidateNode(); });
@@ -302,30 +277,34 @@ bool FeatureJournal::look(const std::function<void()> &ask) const
            isKnown;
 }
 
+/// Without a value where that is not known.
+FeatureJournal::Setting FeatureJournal::known(INode *node, bool looksAhead) const
+{
+    Setting setting{nameOf(node), QVariant(), QString()};
+    const bool isKnown = look([&, node] {
+        auto *value = dynamic_cast<IValue *>(node);
+        if (!value || (!looksAhead && !value->IsValueCacheValid()))
+            return;
+        setting.value = valueOf(node);
+        if (setting.value.isValid())
+            setting.text = fromUtf8(value->ToString());
+    });
+    return isKnown ? setting : Setting{setting.feature, QVariant(), QString()};
+}
+
 FeatureJournal::State FeatureJournal::known(INode *node) const
 {
     State state;
     if (!isAlive() || !node)
         return state;
     const bool looksAhead = dynamic_cast<OrvGenParam::LookAhead *>(m_nodeMap);
-    const auto knownOf = [=](INode *one) {
-        QVariant value;
-        const bool isKnown = look([&, one] {
-            const auto *cached = dynamic_cast<IValue *>(one);
-            if (looksAhead || (cached && cached->IsValueCacheValid()))
-                value = valueOf(one);
-        });
-        return isKnown ? value : QVariant();
-    };
-    state.value = knownOf(node);
-    QVector<INode *> selectors;
-    state.areSelectorsKnown = look([&] {
-        selectors.clear();
-        QVector<INode *> seen;
-        addSelectors(node, seen, selectors);
-    });
-    for (INode *selector : std::as_const(selectors)) {
-        const Setting setting{nameOf(selector), knownOf(selector)};
+    const Setting now = known(node, looksAhead);
+    state.value = now.value;
+    state.text = now.text;
+    std::vector<IValue *> selectors;
+    state.areSelectorsKnown = look([&] { selectors = selectorsOf(dynamic_cast<IValue *>(node)); });
+    for (IValue *selector : selectors) {
+        const Setting setting = known(selector->GetNode(), looksAhead);
         state.areSelectorsKnown = state.areSelectorsKnown && setting.value.isValid();
         state.selectors.append(setting);
     }
@@ -351,17 +330,32 @@ bool FeatureJournal::write(const Pointer &journal, const QString &feature, const
 
 void FeatureJournal::record(INode *node, const State &before, const QVariant &after)
 {
-    if (!isAlive() || !node || m_isReplaying || !before.areSelectorsKnown)
+    if (!isAlive() || !node || m_isReplaying)
         return;
     Change change;
     const bool isKnown = look([&] {
-        change = {{nameOf(node), asValueOf(node, before.value)},
-                  asValueOf(node, after),
+        const QVariant former = asValueOf(node, before.value);
+        change = {{nameOf(node), former, before.text},
+                  {nameOf(node), asValueOf(node, after), QString()},
                   before.selectors};
     });
-    if (!isKnown || isSelector(node) || !change.before.value.isValid() || !change.after.isValid() ||
-        change.before.value == change.after)
+    if (!isKnown || !change.after.value.isValid())
         return;
+    if (change.before.text.isNull() && change.before.value.isValid())
+        change.before.text = plainText(change.before.value);
+    change.after.text = known(node, dynamic_cast<OrvGenParam::LookAhead *>(m_nodeMap)).text;
+    if (change.after.text.isNull())
+        change.after.text = plainText(change.after.value);
+    auto *feature = dynamic_cast<IValue *>(node);
+    const bool isStep = before.areSelectorsKnown && !isSelector(feature) &&
+                        change.before.value.isValid() && change.before.value != change.after.value;
+    if (isStep)
+        keep(change);
+    tell({{node, change.before.text, change.after.text, change.selectors}});
+}
+
+void FeatureJournal::keep(const Change &change)
+{
     const quint64 gesture = InputGesture::current();
     if (!isOpen(gesture))
         m_done.append({{}, gesture});
@@ -375,6 +369,37 @@ void FeatureJournal::record(INode *node, const State &before, const QVariant &af
         m_done.removeFirst();
     m_undone.clear();
     emit changed();
+}
+
+void FeatureJournal::startAnew(const QVector<Write> &writes)
+{
+    m_done.clear();
+    m_undone.clear();
+    m_isGroupOpen = false;
+    emit changed();
+    tell(writes);
+}
+
+/// Who is told may end the node map.
+void FeatureJournal::tell(const QVector<Write> &writes)
+{
+    for (const Write &write : writes) {
+        if (isAlive())
+            emit written(write);
+    }
+}
+
+QVector<FeatureJournal::Write> FeatureJournal::writesOf(const Step &step, bool isBack) const
+{
+    QVector<Write> writes;
+    for (const Change &change : step.changes) {
+        const Setting &former = isBack ? change.after : change.before;
+        const Setting &latter = isBack ? change.before : change.after;
+        writes.append({find(change.before.feature), former.text, latter.text, change.selectors});
+    }
+    if (isBack)
+        std::reverse(writes.begin(), writes.end());
+    return writes;
 }
 
 bool FeatureJournal::isOpen(quint64 gesture) const
@@ -392,7 +417,7 @@ void FeatureJournal::add(const Change &change, Step &step)
         if (former.before.feature == change.before.feature &&
             former.selectors == change.selectors) {
             former.after = change.after;
-            if (former.after == former.before.value)
+            if (former.after.value == former.before.value)
                 changes.removeAt(i);
             return;
         }
@@ -437,7 +462,7 @@ QString FeatureJournal::text(const QVector<Step> &steps, const QString &plain,
     QString text = names.first();
     if (names.size() == 1)
         text += QStringLiteral(" %1 \u2192 %2")
-                    .arg(textOf(changes.first().before.value), textOf(changes.last().after));
+                    .arg(textOf(changes.first().before.value), textOf(changes.last().after.value));
     else
         text = tr("%1 and %2 more").arg(text, QString::number(names.size() - 1));
     return full.arg(text);
@@ -455,11 +480,13 @@ bool FeatureJournal::redo(QString *reason)
 
 bool FeatureJournal::replay(QVector<Step> &from, QVector<Step> &to, bool isBack, QString *reason)
 {
-    if (!isAlive() || from.isEmpty() || m_isReplaying)
+    if (!isAlive() || from.isEmpty() || m_isReplaying || SelectorsInUse::isOf(m_nodeMap))
         return true;
     const Step step{from.last().changes, 0};
+    QVector<Write> writes;
     try {
         const QScopedValueRollback<bool> replaying(m_isReplaying, true);
+        writes = writesOf(step, isBack);
         apply(step, isBack);
     } catch (const GenICam::GenericException &e) {
         if (reason)
@@ -470,6 +497,7 @@ bool FeatureJournal::replay(QVector<Step> &from, QVector<Step> &to, bool isBack,
     from.removeLast();
     to.append(step);
     emit changed();
+    tell(writes);
     return true;
 }
 
@@ -514,7 +542,7 @@ void FeatureJournal::applyAll(const QVector<Change> &changes, bool isBack, int &
         const Change &change = changes.at(isBack ? count - 1 - done : done);
         INode *const node = find(change.before.feature);
         detour.goTo(change.selectors);
-        setValue(node, isBack ? change.before.value : change.after);
+        setValue(node, isBack ? change.before.value : change.after.value);
         detour.wrote(node);
     }
 }

@@ -43,6 +43,7 @@ public:
     {
         QString feature;
         QVariant value;
+        QString text; ///< the same as GenICam's text; null when it is not known
 
         bool operator==(const Setting &other) const
         {
@@ -50,10 +51,20 @@ public:
         }
     };
 
+    /// A write that has been carried out, with GenICam's texts.
+    struct Write
+    {
+        GenApi::INode *node = nullptr;
+        QString before; ///< null when it is not known
+        QString after;
+        QVector<Setting> selectors; ///< where the value belongs; those missing are where they are
+    };
+
     /// What a write is going to change. Invalid without what is needed to put it back.
     struct State
     {
         QVariant value;
+        QString text;
         QVector<Setting> selectors; ///< those of the feature, the outermost first
         bool areSelectorsKnown = false;
     };
@@ -86,6 +97,10 @@ public:
     State known(GenApi::INode *node) const;
     void record(GenApi::INode *node, const State &before, const QVariant &after);
 
+    /// For values that were replaced past the journal, in the order in which they were written: no
+    /// step may put back what was there before that. Without writes, which values is not known.
+    void startAnew(const QVector<Write> &writes = {});
+
     bool canUndo() const;
     bool canRedo() const;
 
@@ -106,11 +121,15 @@ Q_SIGNALS:
     /// What can be undone or redone next has changed.
     void changed();
 
+    /// The value of a feature was written, undone or redone, also where that is no step. Selectors
+    /// are where they were before, and may be used.
+    void written(const OrvGui::FeatureJournal::Write &write);
+
 private:
     struct Change
     {
         Setting before;
-        QVariant after;
+        Setting after;
         QVector<Setting> selectors;
     };
     struct Step
@@ -125,6 +144,10 @@ private:
     bool isAlive() const;
     GenApi::INode *find(const QString &feature) const;
     bool look(const std::function<void()> &ask) const;
+    Setting known(GenApi::INode *node, bool looksAhead) const;
+    void keep(const Change &change);
+    void tell(const QVector<Write> &writes);
+    QVector<Write> writesOf(const Step &step, bool isBack) const;
     bool isOpen(quint64 gesture) const;
     static void add(const Change &change, Step &step);
     QString text(const QVector<Step> &steps, const QString &plain, const QString &full) const;

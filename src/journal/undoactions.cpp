@@ -3,6 +3,7 @@
 
 #include "base/cameratext.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QDoubleSpinBox>
@@ -28,8 +29,13 @@ QList<QKeySequence> keysOf(QKeySequence::StandardKey key, const char *always)
     return keys;
 }
 
-/// Whether the user has typed what does not count yet.
-bool isPending(const QObject *editor)
+bool isModified(const QLineEdit *line)
+{
+    return line && line->isModified() && (line->isUndoAvailable() || line->isRedoAvailable());
+}
+
+/// Whether the user has typed what is not the value yet.
+bool isTyping(const QObject *editor)
 {
     if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
         return real->cleanText() != real->textFromValue(real->value());
@@ -38,8 +44,7 @@ bool isPending(const QObject *editor)
         const int typed = number->locale().toInt(number->cleanText(), &isNumber);
         return !isNumber || typed != number->value();
     }
-    const auto *text = qobject_cast<const QLineEdit *>(editor);
-    return text && text->isModified() && (text->isUndoAvailable() || text->isRedoAvailable());
+    return isModified(qobject_cast<const QLineEdit *>(editor));
 }
 
 /// As an entry of a menu, in which an ampersand marks a key.
@@ -58,13 +63,32 @@ UndoActions::UndoActions(QWidget *window)
     , m_redo(add(QStringLiteral("actionRedo"), keysOf(QKeySequence::Redo, "Ctrl+Shift+Z"),
                  &FeatureJournal::redo))
 {
-    for (QAbstractSpinBox *spinBox : window->findChildren<QAbstractSpinBox *>())
-        spinBox->installEventFilter(this);
-    for (QLineEdit *lineEdit : window->findChildren<QLineEdit *>()) {
-        if (!qobject_cast<QAbstractSpinBox *>(lineEdit->parent()))
-            lineEdit->installEventFilter(this);
-    }
+    for (QWidget *widget : window->findChildren<QWidget *>())
+        watch(widget);
     show();
+}
+
+void UndoActions::watch(QWidget *editor)
+{
+    const bool isLine =
+        qobject_cast<QLineEdit *>(editor) && !qobject_cast<QAbstractSpinBox *>(editor->parent());
+    if (isLine || qobject_cast<QAbstractSpinBox *>(editor))
+        editor->installEventFilter(this);
+}
+
+void UndoActions::watchEditorsOf(const QAbstractItemView *view)
+{
+    m_viewport = view->viewport();
+    m_viewport->installEventFilter(this);
+}
+
+/// Whether the user has typed what does not count yet.
+bool UndoActions::isPending(const QObject *editor) const
+{
+    const bool isOfSpinBox = qobject_cast<const QAbstractSpinBox *>(editor);
+    if (m_viewport && editor->parent() == m_viewport && isOfSpinBox)
+        return isModified(editor->findChild<QLineEdit *>());
+    return isTyping(editor);
 }
 
 QAction *UndoActions::add(const QString &name, const QList<QKeySequence> &keys, Replay replay)
@@ -97,6 +121,10 @@ void UndoActions::show()
 
 void UndoActions::run(Replay replay)
 {
+    const QPointer<UndoActions> alive(this);
+    emit triggered();
+    if (!alive)
+        return;
     const FeatureJournal::Pointer kept = m_journal; // what is notified may set another one
     if (!kept)
         return;
@@ -132,6 +160,12 @@ void UndoActions::report(bool isUndo, const QString &reason)
 // Line edits claim these keys even if there is nothing that they could undo.
 bool UndoActions::eventFilter(QObject *editor, QEvent *event)
 {
+    if (event->type() == QEvent::ChildPolished) {
+        auto *child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child());
+        if (child)
+            watch(child);
+        return false;
+    }
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
     const auto *key = static_cast<const QKeyEvent *>(event);

@@ -4,8 +4,9 @@
 #include "featurejournal.h"
 
 #include <QObject>
+#include <QPointer>
 
-class QAbstractSpinBox;
+class QAbstractItemView;
 class QAction;
 class QLineEdit;
 class QWidget;
@@ -30,8 +31,16 @@ public:
     void setJournal(const FeatureJournal::Pointer &journal);
     FeatureJournal::Pointer journal() const { return m_journal; }
 
+    /// For the editors of an item view, which come and go: what is typed in them counts when they
+    /// close.
+    void watchEditorsOf(const QAbstractItemView *view);
+
     QAction *undo() const { return m_undo; }
     QAction *redo() const { return m_redo; }
+
+Q_SIGNALS:
+    /// The user undoes or redoes something now; what is being edited can be written before that.
+    void triggered();
 
 protected:
     bool eventFilter(QObject *editor, QEvent *event) override;
@@ -40,6 +49,8 @@ private:
     using Replay = bool (FeatureJournal::*)(QString *);
 
     QAction *add(const QString &name, const QList<QKeySequence> &keys, Replay replay);
+    void watch(QWidget *editor);
+    bool isPending(const QObject *editor) const;
     void run(Replay replay);
     void report(bool isUndo, const QString &reason);
     void show();
@@ -47,6 +58,7 @@ private:
     QWidget *const m_window;
     QAction *const m_undo;
     QAction *const m_redo;
+    QPointer<QWidget> m_viewport; ///< whose children are editors of a view
     FeatureJournal::Pointer m_journal;
 };
 

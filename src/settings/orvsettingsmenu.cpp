@@ -2,6 +2,8 @@
 #include "orvsettingsmenu.h"
 
 #include "base/cameratext.h"
+#include "featurevalue.h"
+#include "journal/featurejournal.h"
 #include "orvcamerasettings.h"
 #include "settingscomparison.h"
 #include "settingsjob.h"
@@ -15,6 +17,7 @@
 #include <QActionGroup>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHash>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -71,6 +74,7 @@ private:
     void previewLoad(const std::shared_ptr<Preview> &preview);
     void showPreview(const std::shared_ptr<Preview> &preview);
     void write(const QString &text, const Settings &settings, bool isPuttingBack);
+    void journalWritten(const SettingsWriter::Result &result, bool isPuttingBack);
     void showWritten(const SettingsWriter::Result &result, bool isPuttingBack);
     void showComparison(const QString &fileName, const OrvCameraSettings::Result &result);
     void compareFiles(SettingsTableDialog *dialog, const QString &left, const QString &right);
@@ -336,7 +340,35 @@ void OrvSettingsMenuPrivate::write(const QString &text, const Settings &settings
             SettingsWriter writer(*camera, progress);
             *result = writer.write(settings);
         },
-        [=] { showWritten(*result, isPuttingBack); });
+        [=] {
+            journalWritten(*result, isPuttingBack);
+            showWritten(*result, isPuttingBack);
+        });
+}
+
+/// No step of the journal, which has no way to write again what is refused at first: "Put Back" is
+/// that.
+void OrvSettingsMenuPrivate::journalWritten(const SettingsWriter::Result &result,
+                                            bool isPuttingBack)
+{
+    QHash<QString, QString> former;
+    for (const Setting &setting : std::as_const(m_before))
+        former.insert(setting.label(), setting.value);
+    QVector<FeatureJournal::Write> writes;
+    for (const Setting &setting : result.taken) {
+        GenApi::IValue *feature = settingOf(*map, setting.name);
+        if (!feature)
+            continue;
+        const QString before = former.value(setting.label());
+        FeatureJournal::Write write{feature->GetNode(), QString(), setting.value, {}};
+        if (!isPuttingBack && !FeatureValue::areSame(feature, before, setting.value))
+            write.before = before;
+        for (const auto &position : setting.selection)
+            write.selectors.append({position.first, position.second, position.second});
+        writes.append(write);
+    }
+    if (!writes.isEmpty())
+        FeatureJournal::of(map)->startAnew(writes);
 }
 
 void OrvSettingsMenuPrivate::showWritten(const SettingsWriter::Result &result, bool isPuttingBack)
@@ -474,8 +506,10 @@ void OrvSettingsMenuPrivate::addUserSets(const QString &title, const QStringList
                 [=] {
                     if (!error->isEmpty())
                         say(QMessageBox::Critical, *error);
-                    if (act == &UserSets::load)
-                        emit q->valuesReplaced();
+                    if (act != &UserSets::load)
+                        return;
+                    FeatureJournal::of(map)->startAnew();
+                    emit q->valuesReplaced();
                 });
         };
         QObject::connect(action, &QAction::triggered, q, [=] {

@@ -72,10 +72,12 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
         if (!goesOn())
             break;
         const QString reason = attempt(setting);
-        if (reason.isEmpty())
+        if (reason.isEmpty()) {
             ++m_done;
-        else
+            m_result.taken.append(setting);
+        } else {
             refused.append({setting, reason});
+        }
     }
     // What says nothing of a selection is meant for that which was there.
     noteAway(m_moves.putBack());

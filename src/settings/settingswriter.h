@@ -21,6 +21,7 @@ public:
     struct Result
     {
         int written = 0; ///< settings that the camera has now
+        Settings taken;  ///< in the order in which the camera has taken them
         SettingProblems refused;
         Settings missing;       ///< of features that the camera does not have
         QStringList notPutBack; ///< selectors that are not where they were

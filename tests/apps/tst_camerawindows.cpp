@@ -113,6 +113,17 @@ void TestCameraWindows::showTheSameCamera()
     QVERIFY(model->setData(valueCell(*model, "TriggerMode"), 0));
     QVERIFY(!box->isChecked());
 
+    // What was changed in one can be undone in the other.
+    const auto isBold = [&](const char *feature) {
+        const QModelIndex cell = valueCell(*model, feature);
+        return cell.siblingAtColumn(0).data(Qt::FontRole).value<QFont>().bold();
+    };
+    QVERIFY(!isBold("TriggerMode"));
+    action(windows, "actionUndo").trigger(); // of the configuration window
+    QVERIFY(box->isChecked() && isBold("TriggerMode"));
+    windows.tree().findChild<QAction *>("actionUndo")->trigger();
+    QVERIFY(!box->isChecked() && !isBold("TriggerMode"));
+
     windows.configuration().close();
     QVERIFY(!windows.tree().isVisible());
 }
@@ -147,9 +158,12 @@ void TestCameraWindows::settingsMenu()
     QStringList names;
     for (const QAction *entry : menu->actions())
         names << (entry->isSeparator() ? QString("-") : entry->objectName());
-    QCOMPARE(names, QStringList({"actionConnect", "actionDisconnect", "-", "actionSaveSettings",
-                                 "actionLoadSettings", "actionPutSettingsBack",
-                                 "actionCompareSettings", "actionUserSets", "-", "actionQuit"}));
+    QCOMPARE(names,
+             QStringList({"actionConnect", "actionDisconnect", "-", "actionSaveSettings",
+                          "actionLoadSettings", "actionPutSettingsBack", "actionCompareSettings",
+                          "actionUserSets", "-", "actionUndo", "actionRedo", "-", "actionQuit"}));
+    const QList<QAction *> entries = windows.tree().menu()->actions();
+    QVERIFY(entries.contains(windows.settingsMenu().actions().first()));
     QVERIFY(action(windows, "actionSaveSettings").isEnabled());
     QTemporaryDir folder;
     QSignalSpy finished(&windows.settingsMenu(), &OrvGui::OrvSettingsMenu::finished);

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QTableWidget>
 #include <QTextBrowser>
 #include <QToolButton>
@@ -140,6 +141,9 @@ private slots:
     void state();
     void changes();
     void changesBelowSelectors();
+    void undo();
+    void undoWhileTyping();
+    void changesOfOthers();
     void refusals();
     void contextMenu();
     void selectorTable();
@@ -388,12 +392,12 @@ void TestOrvFeatureBrowser::changesBelowSelectors()
     QVERIFY(shown.isChanged("Gain"));
 
     QStringList observed;
-    OrvFeatureBrowserPrivate::of(shown.browser).observer =
-        [&](GenApi::IValue *feature, const QString &before, const QString &after) {
-            observed << QString("%1@%2: %3 > %4")
-                            .arg(feature->GetNode()->GetName().c_str(), selector.ToString().c_str(),
-                                 before, after);
-        };
+    connect(OrvFeatureBrowserPrivate::of(shown.browser).features(), &GenParamTreeModel::written,
+            this, [&](GenApi::IValue *feature, const QString &before, const QString &after) {
+                observed << QString("%1@%2: %3 > %4")
+                                .arg(feature->GetNode()->GetName().c_str(),
+                                     selector.ToString().c_str(), before, after);
+            });
     shown.choose(shown.cell("Gain", 0), "putBack");
     QCOMPARE(observed, QStringList({"Gain@Red: 12 > 3", "Gain@All: 6 > 1.5"}));
     QCOMPARE(gains[0], 1.5);
@@ -401,6 +405,118 @@ void TestOrvFeatureBrowser::changesBelowSelectors()
     QCOMPARE(selector.GetIntValue(), int64_t(1)); // where it was
     QVERIFY(!shown.isChanged("Gain") && shown.isChanged("GainSelector"));
     QCOMPARE(shown.cell("Gain").data().toDouble(), 3.0);
+}
+
+/// Each value where it was written, and as one step what the browser writes in one go.
+void TestOrvFeatureBrowser::undo()
+{
+    SampleNodeMap map;
+    double gains[] = {1.5, 3};
+    auto &selector = map.enumeration("GainSelector");
+    map.number("Gain").bind([&] { return gains[selector.GetIntValue()]; },
+                            [&](double gain) { gains[selector.GetIntValue()] = gain; });
+    Shown shown(map);
+    const auto set = [&](const char *feature, const QVariant &value) {
+        QVERIFY(shown.model().setData(shown.cell(feature), value));
+    };
+    QVERIFY(!shown.action("actionUndo").isEnabled());
+    QVERIFY(shown.browser.menu()->actions().contains(&shown.action("actionRedo")));
+    set("ExposureTime", 1.0 / 3 + 100); // more digits than its text has
+    set("Gain", 6.0);
+    set("GainSelector", 1);
+    set("DeviceReset", true);
+    set("ExposureTime", 500.0);
+    shown.action("putBackAll").trigger();
+    QCOMPARE(gains[0], 1.5);
+    QVERIFY(!shown.isChanged("ExposureTime"));
+
+    shown.action("actionUndo").trigger(); // of putting back, the selector's place apart
+    QCOMPARE(gains[0], 6.0);
+    QCOMPARE(map.number("ExposureTime").GetValue(), 500.0);
+    QVERIFY(shown.isChanged("ExposureTime"));
+    shown.action("actionRedo").trigger();
+    QCOMPARE(gains[0], 1.5);
+    QVERIFY(!shown.isChanged("ExposureTime") && !shown.isChanged("Gain"));
+    shown.action("actionUndo").trigger();
+
+    set("GainSelector", 1);
+    shown.action("actionUndo").trigger();
+    QCOMPARE(map.number("ExposureTime").GetValue(), 1.0 / 3 + 100);
+    shown.action("actionUndo").trigger();
+    QCOMPARE(gains[0], 1.5);
+    QCOMPARE(gains[1], 3.0);
+    QCOMPARE(selector.GetIntValue(), int64_t(1)); // where it was
+    QVERIFY(shown.toolTip("Gain").isEmpty() || !shown.toolTip("Gain").contains("Earlier"));
+    shown.action("actionUndo").trigger();
+    QCOMPARE(map.number("ExposureTime").GetValue(), 10000.0);
+    QVERIFY(!shown.isChanged("ExposureTime") && !shown.action("actionUndo").isEnabled());
+}
+
+void TestOrvFeatureBrowser::undoWhileTyping()
+{
+    SampleNodeMap map;
+    Shown shown(map);
+    QVERIFY(QTest::qWaitForWindowActive(&shown.browser));
+    shown.tree.expandAll();
+    const auto keys = [](QWidget *editor) {
+        QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+    };
+    const auto edit = [&](const QString &text) {
+        shown.tree.setCurrentIndex(shown.cell("Width"));
+        shown.tree.edit(shown.cell("Width"));
+        auto *editor = qobject_cast<QSpinBox *>(shown.tree.indexWidget(shown.cell("Width")));
+        if (!editor)
+            qFatal("No editor");
+        editor->setFocus();
+        editor->selectAll();
+        QTest::keyClicks(editor, text);
+        return editor;
+    };
+    QTest::keyClick(edit("640"), Qt::Key_Return);
+    QTRY_COMPARE(map.integer("Width").GetValue(), int64_t(640));
+    QPointer<QSpinBox> editor = edit("320");
+    keys(editor);
+    QVERIFY(editor && editor->text() != "320");
+    QCOMPARE(map.integer("Width").GetValue(), int64_t(640));
+    for (int i = 0; i < 5 && editor && editor->text() != "640"; ++i)
+        keys(editor);
+    QVERIFY(editor && editor->text() == "640");
+    keys(editor); // nothing is pending any more
+    QTRY_COMPARE(map.integer("Width").GetValue(), int64_t(1280));
+    QVERIFY(!shown.isChanged("Width"));
+    QCoreApplication::processEvents(); // what belongs to the key
+}
+
+/// What others write to the same camera counts as changed, too.
+void TestOrvFeatureBrowser::changesOfOthers()
+{
+    SampleNodeMap map;
+    Shown shown(map);
+    Shown second(map);
+    const auto journal = OrvGui::FeatureJournal::of(&map);
+    map.integer("Width").GetValue();
+    OrvGui::FeatureJournal::write(journal, "Width", 1280, 640, [&] {
+        map.integer("Width").SetValue(640);
+        return true;
+    });
+    QVERIFY(shown.isChanged("Width") && second.isChanged("Width"));
+    QCOMPARE(shown.toolTip("Width"), QString("Earlier value: 1280"));
+    QVERIFY(shown.model().setData(shown.cell("ExposureTime"), 500.0));
+    QVERIFY(second.isChanged("ExposureTime"));
+    second.action("actionUndo").trigger();
+    second.action("actionUndo").trigger();
+    QVERIFY(!shown.isChanged("Width") && !shown.isChanged("ExposureTime"));
+    QVERIFY(!shown.action("putBackAll").isEnabled());
+
+    // What replaces values in a way that cannot be undone leaves no step.
+    shown.action("actionRedo").trigger();
+    QVERIFY(shown.action("actionRedo").isEnabled());
+    journal->startAnew({{map.GetNode("Gain"), "3", "6", {{"GainSelector", "Red", "Red"}}}});
+    QVERIFY(!shown.action("actionUndo").isEnabled() && !shown.action("actionRedo").isEnabled());
+    QVERIFY(!shown.isChanged("Gain") && shown.isChanged("Width"));
+    QCOMPARE(shown.toolTip("Gain"), QString("Earlier value: 3 dB (Gain Selector: Red)"));
+    journal->startAnew({{map.GetNode("Gain"), QString(), "3.0", {{"GainSelector", "Red", "Red"}}}});
+    QVERIFY(!shown.toolTip("Gain").contains("Earlier"));
 }
 
 void TestOrvFeatureBrowser::refusals()

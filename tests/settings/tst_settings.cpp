@@ -2,6 +2,7 @@
 #include "../cameraapi/cameratestsupport.h"
 
 #include <cameranetwork.h>
+#include <journal/featurejournal.h>
 #include <memorynodemap.h>
 #include <orvcameraguiapi.h>
 #include <orvcamerasettings.h>
@@ -14,6 +15,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTreeView>
 #include <QtTest>
 
@@ -26,6 +28,7 @@
 #include <thread>
 
 using namespace OrvGenApi;
+using OrvGui::FeatureJournal;
 using OrvGui::OrvCameraSettings;
 using OrvGui::OrvSettingsMenu;
 using OrvGui::SettingsFile;
@@ -566,6 +569,16 @@ void TestSettings::menu()
     dialog->reject();
 
     // What would change; then what was refused; then all as it was.
+    const auto journal = FeatureJournal::of(&camera);
+    FeatureJournal::write(journal, "Width", 60, 61, [] { return true; });
+    QVERIFY(journal->canUndo());
+    QStringList told;
+    connect(journal.get(), &FeatureJournal::written, this, [&](const FeatureJournal::Write &one) {
+        QStringList words{one.node->GetName().c_str(), one.before, one.after};
+        for (const auto &selector : one.selectors)
+            words << selector.feature + selector.text;
+        told << words.join('|');
+    });
     camera.offset->setAccessMode(GenApi::RO);
     menu.load(write(head + "Width\t50\nOffsetX\t9\nNew\t1\n"));
     QVERIFY(finished.wait());
@@ -578,9 +591,12 @@ void TestSettings::menu()
     QCOMPARE(tableText(dialog), QString("OffsetX|9|It cannot be changed now.\n"
                                         "New|1|The camera does not have it."));
     QCOMPARE(camera.width->GetValue(), int64_t(50));
+    QCOMPARE(told, QStringList("Width|60|50"));
+    QVERIFY(!journal->canUndo()); // would put back what was there before the load
     dialog->findChild<QPushButton *>("putBackButton")->click();
     QVERIFY(finished.wait());
     QCOMPARE(camera.width->GetValue(), int64_t(60));
+    QVERIFY2(told.contains("Width||60"), qPrintable(told.join('\n')));
     shown<QDialog>("SettingsResult")->reject();
 
     // A selector that is a setting itself is put back as well.
@@ -592,6 +608,8 @@ void TestSettings::menu()
     dialog->accept();
     QVERIFY(finished.wait());
     QCOMPARE(camera.phase->GetValue(), int64_t(1));
+    QVERIFY2(told.indexOf(QRegularExpression("Gain\\|.+\\|9\\|.*PhaseIndex2")) >= 0,
+             qPrintable(told.join('\n')));
     shown<QDialog>("SettingsResult")->reject();
     menu.putBack();
     QVERIFY(finished.wait());
