@@ -2138,6 +2138,10 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
         <source>The camera refuses this step: %1</source>
         <translation>Die Kamera lehnt diesen Schritt ab: %1</translation>
     </message>
+    <message>
+        <source>Skip This Step</source>
+        <translation>Diesen Schritt überspringen</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -2138,6 +2138,10 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
         <source>The camera refuses this step: %1</source>
         <translation>カメラがこの操作を拒否しました: %1</translation>
     </message>
+    <message>
+        <source>Skip This Step</source>
+        <translation>この操作をとばす</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
