@@ -12,7 +12,8 @@
  * Nothing here but SelectCamera runs an event loop. A host that is not a Qt program has to let Qt's
  * events run, otherwise a window is neither painted nor heard: on Linux Qt waits on the default
  * GLib main context, so it is enough to run that, for instance with
- * g_main_context_iteration(NULL, FALSE) from the host's own loop. examples/c-host shows how.
+ * g_main_context_iteration(NULL, FALSE) from the host's own loop, as examples/c-host shows, or to
+ * call OrvCameraGuiApi_ProcessEvents.
  *
  * Texts come in two kinds: functions whose name ends in A take UTF-8, those that end in W take
  * 32-bit wide characters. Both end with a zero. Parent windows are native window ids (on X11 a
@@ -28,10 +29,15 @@
 
 #ifdef __cplusplus
 #include "iorvgenparamtreeview.h"
+namespace OrvGui {
+class OrvCamConfig;
+}
+typedef OrvGui::OrvCamConfig OrvGuiCamConfig;
 typedef OrvGui::IOrvGenParamTreeView OrvGuiParamTreeView;
 typedef OrvGui::IOrvGenParamTreeView OrvGuiFeatureBrowser;
 extern "C" {
 #else
+typedef struct OrvGuiCamConfig OrvGuiCamConfig;
 typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
 typedef struct OrvGuiFeatureBrowser OrvGuiFeatureBrowser;
 #endif
@@ -43,7 +49,8 @@ typedef struct OrvGuiFeatureBrowser OrvGuiFeatureBrowser;
  *
  * With a parent the tree fills that window and is resized with it. The window must exist on the
  * default display, and until the tree is destroyed. Without one, the tree is a window of its own;
- * so it is, with a warning by Qt's message handler, on a platform without foreign windows (Wayland).
+ * so it is, with a warning by Qt's message handler, on a platform without foreign windows
+ * (Wayland).
  *
  * The caller owns the tree and ends it with DestroyGenParamTreeView. The node map, and the array
  * that it comes from, must live until then, or until the tree is given other parameters or none;
@@ -63,6 +70,27 @@ ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvG
 
 /* Null is ignored. Not from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
+
+/*
+ * Which categories are expanded, the width of the name column and the level of a tree, as one UTF-8
+ * text for LoadGenParamTreeViewState; empty when nothing is shown. The pointer stays valid until
+ * the next call of either function for this tree, or its end. Null for no tree.
+ */
+ORVCAMERAGUIAPI_EXPORT const char *SaveGenParamTreeViewState(OrvGuiParamTreeView *view);
+
+/*
+ * Restores what was saved of a tree with the same features: 1. Null, and a text with numbers that
+ * cannot be: 0; the expansion may be changed by then.
+ */
+ORVCAMERAGUIAPI_EXPORT int LoadGenParamTreeViewState(OrvGuiParamTreeView *view, const char *state);
+
+/*
+ * The level of the features that are shown: 0 basic, 1 expert, 2 guru. Setting any other number
+ * does nothing. 0 for no tree.
+ */
+ORVCAMERAGUIAPI_EXPORT int GetGenParamTreeViewVisibility(OrvGuiParamTreeView *view);
+ORVCAMERAGUIAPI_EXPORT void SetGenParamTreeViewVisibility(OrvGuiParamTreeView *view,
+                                                          int visibility);
 
 /*
  * Opens a browser of the features: the tree, with a search, favourites, marks on what was changed
@@ -96,6 +124,46 @@ ORVCAMERAGUIAPI_EXPORT const char *SaveFeatureBrowserState(OrvGuiFeatureBrowser 
  */
 ORVCAMERAGUIAPI_EXPORT int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser,
                                                    const char *state);
+
+/* As those of a tree. */
+ORVCAMERAGUIAPI_EXPORT int GetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser);
+ORVCAMERAGUIAPI_EXPORT void SetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser,
+                                                        int visibility);
+
+/*
+ * Opens the configuration window of a camera, a window of its own that stays open. A null device
+ * gives a window without a camera. The user can connect another camera in it, which the window
+ * opens and closes by itself.
+ *
+ * The caller owns the window and ends it with DestroyCamConfig, before the device is released. Null
+ * only when memory runs out.
+ */
+ORVCAMERAGUIAPI_EXPORT OrvGuiCamConfig *CreateCamConfig(OrvCamDevice *device);
+
+/* Null is ignored. Not from inside a callback of a parameter. */
+ORVCAMERAGUIAPI_EXPORT void DestroyCamConfig(OrvGuiCamConfig *window);
+
+/*
+ * Runs Qt's events, which are also those of the default GLib main context, for at most so many
+ * milliseconds (0 for what is waiting to be run), for hosts without an event loop. Makes the
+ * application when there is none. Returns how many windows are open; as soon as the user has closed
+ * the last one it returns 0 without waiting any longer. So
+ *
+ *     while (OrvCameraGuiApi_ProcessEvents(100) > 0)
+ *         ;
+ *
+ * runs until all windows are closed. A closed window has still to be destroyed.
+ */
+ORVCAMERAGUIAPI_EXPORT int OrvCameraGuiApi_ProcessEvents(int durationMs);
+
+/*
+ * Chooses the language of the windows that are opened from now on: "de", "ja", "en", also with a
+ * country ("de_AT"); null for that of the locale. Makes the application when there is none. Returns
+ * 1, or 0 for a language that there is no translation for, which changes nothing. Without a call,
+ * windows of a host that installs no translator of its own are English. Texts of a camera are shown
+ * as they are.
+ */
+ORVCAMERAGUIAPI_EXPORT int OrvCameraGuiApi_SetLanguage(const char *language);
 
 /*
  * Lets the user pick one of the system's cameras, in a dialog of that title, and returns when he is
