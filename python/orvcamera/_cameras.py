@@ -147,18 +147,21 @@ class Camera(NodeMap):
             cam.OrvCam_ReleaseDevice(device)
             _open_cameras.discard(self)
 
-    def show(self, window: str = "config", title: str = "", wait: bool = True) -> Any:
+    def show(self, window: str = "config", title: str = "", wait: bool = True,
+             parent: int = 0) -> Any:
         """Opens a window: "config" (the configuration window), "tree" (all features) or "browser"
         (the same with a search). See ``NodeMap.show``."""
-        return super().show(window, title or self.info.display_name, wait)
+        return super().show(window, title or self.info.display_name, wait, parent)
 
     def __repr__(self) -> str:
         return f"<orvcamera.Camera {self.info.display_name}>"
 
 
-def select_camera(title: str = "") -> Optional[CameraInfo]:
-    """Has the user pick a camera in a dialog; None when the dialog is cancelled."""
-    handle = _native.gui.SelectCameraA(_get_system(), _native.encode(title), 0)
+def select_camera(title: str = "", parent: int = 0) -> Optional[CameraInfo]:
+    """Has the user pick a camera in a dialog; None when the dialog is cancelled. ``parent`` is the
+    native id of a window that the dialog stands above."""
+    from . import _windows  # noqa: F401, there is an application from now on
+    handle = _native.gui.SelectCameraA(_get_system(), _native.encode(title), parent)
     return CameraInfo(handle) if handle else None
 
 

@@ -294,7 +294,7 @@ class NodeMap:
         """Ends it, with its windows and callbacks. A second call does nothing."""
         raise NotImplementedError
 
-    def __enter__(self) -> "Any":
+    def __enter__(self) -> Any:
         return self
 
     def __exit__(self, *_: Any) -> None:
@@ -353,14 +353,16 @@ class NodeMap:
             raise Error(Error.FAILED, text)
         return text.splitlines()
 
-    def show(self, window: str = "tree", title: str = "", wait: bool = True) -> "Any":
+    def show(self, window: str = "tree", title: str = "", wait: bool = True,
+             parent: int = 0) -> Any:
         """Opens a window: "tree", "browser" (the tree with a search), and for a camera "config".
 
         Waits until the user closes it, unless ``wait`` is False: then it returns a ``Window``, which
-        works while ``orvcamera.process_events`` runs.
+        works while ``orvcamera.process_events`` runs. ``parent`` is the native id of a window of
+        another toolkit that the tree or browser fills.
         """
         from ._windows import Window
-        opened = Window(self, window, title)
+        opened = Window(self, window, title, parent)
         self._windows = [kept for kept in self._windows if kept.is_open] + [opened]
         if not wait:
             return opened

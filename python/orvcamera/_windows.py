@@ -16,7 +16,7 @@ _KINDS = {
 class Window:
     """An open window of a camera. Ends with ``close``, a ``with`` block, or its camera."""
 
-    def __init__(self, owner: Any, kind: str, title: str) -> None:
+    def __init__(self, owner: Any, kind: str, title: str, parent: int) -> None:
         if kind not in _KINDS:
             raise ValueError(f"{kind!r} is none of {', '.join(_KINDS)}")
         create, self._destroy, self._state = _KINDS[kind]
@@ -27,7 +27,7 @@ class Window:
                 raise ValueError("the configuration window takes a camera")
             self._handle: Optional[int] = gui.CreateCamConfig(device)
         else:
-            self._handle = getattr(gui, create)(node_map, encode(title), 0)
+            self._handle = getattr(gui, create)(node_map, encode(title), parent)
 
     @property
     def is_open(self) -> bool:

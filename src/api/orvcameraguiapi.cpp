@@ -211,8 +211,15 @@ int OrvCameraGuiApi_ProcessEvents(int durationMs)
 {
     OrvGui::ensureApplication();
     QEventLoop loop;
-    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &loop, &QEventLoop::quit);
     QTimer::singleShot(qMax(durationMs, 0), &loop, &QEventLoop::quit);
+    QTimer watch; // Qt reports the last window only to programs that run its main loop
+    if (countOpenWindows() > 0) {
+        QObject::connect(&watch, &QTimer::timeout, &loop, [&loop] {
+            if (countOpenWindows() == 0)
+                loop.quit();
+        });
+        watch.start(20);
+    }
     loop.exec();
     return countOpenWindows();
 }
