@@ -24,3 +24,7 @@ from ._native import Error
 __all__ = ["Camera", "CameraInfo", "Description", "Entry", "Error", "Feature", "KINDS", "NodeMap",
            "Subscription", "cameras", "process_events", "select_camera", "set_language",
            "shut_down", "simulated"]
+
+for _name in __all__:  # as tracebacks and help() are to call them
+    if isinstance(globals()[_name], type):
+        globals()[_name].__module__ = __name__
