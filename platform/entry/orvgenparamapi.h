@@ -53,7 +53,7 @@ enum {
     OrvGenParam_KindCommand = 4,
     OrvGenParam_KindString = 5,
     OrvGenParam_KindCategory = 6,
-    OrvGenParam_KindRegister = 7, /* read and written as text, two hexadecimal digits a byte */
+    OrvGenParam_KindRegister = 7, /* as text: "0x" and two hexadecimal digits a byte */
     OrvGenParam_KindEntry = 8,    /* of an enumeration */
     OrvGenParam_KindOther = 9     /* without a value; treat further numbers likewise */
 };
