@@ -2,58 +2,18 @@
 # SPDX-License-Identifier: MIT
 """A program with a Tk window: lets the user pick a camera and shows its features in that window."""
 import argparse
-import ctypes
 import os
 import signal
 import sys
 import tkinter
-from ctypes import POINTER, c_char_p, c_int, c_int32, c_ulong, c_void_p, c_wchar_p
 
-ACCESS_CONTROL = 2
+import orvcamera
+
 EVENTS_MS = 10
 
 
-def function(library, name, result, *arguments):
-    """Without its types ctypes would take a function's pointers for ints of 32 bits."""
-    found = getattr(library, name)
-    found.restype = result
-    found.argtypes = arguments
-    return found
-
-
-def library_of_windows(folder):
-    """There is one for each Qt; to this program they are the same."""
-    try:
-        return ctypes.CDLL(os.path.join(folder, "libOrvCameraGuiApi.so.1"))
-    except OSError:
-        return ctypes.CDLL(os.path.join(folder, "libOrvCameraGuiApiQt6.so.1"))
-
-
-class Api:
-    """What this program needs of the libraries, in the given folder or where the system looks."""
-
-    def __init__(self, folder):
-        cam = ctypes.CDLL(os.path.join(folder, "libOrvCameraApi.so.1"))
-        gui = library_of_windows(folder)
-        glib = ctypes.CDLL("libglib-2.0.so.0")
-        self.get_system = function(cam, "OrvCam_GetSystem", c_void_p)
-        self.release_system = function(cam, "OrvCam_ReleaseSystem", None, c_void_p)
-        self.display_name = function(cam, "OrvCam_GetDisplayName", c_char_p, c_void_p)
-        self.open = function(cam, "OrvCam_CreateDevice", c_void_p, c_void_p, POINTER(c_int32),
-                             c_int32)
-        self.close = function(cam, "OrvCam_ReleaseDevice", None, c_void_p)
-        self.parameters = function(cam, "OrvCam_GetParamArray", c_void_p, c_void_p,
-                                   POINTER(c_int32))
-        self.select_camera = function(gui, "SelectCameraW", c_void_p, c_void_p, c_wchar_p, c_ulong)
-        self.create_tree = function(gui, "CreateGenParamTreeViewForArrayW", c_void_p, c_void_p,
-                                    c_wchar_p, c_ulong)
-        self.destroy_tree = function(gui, "DestroyGenParamTreeView", None, c_void_p)
-        self.run_events = function(glib, "g_main_context_iteration", c_int, c_void_p, c_int)
-
-
 class Host:
-    def __init__(self, api):
-        self.api = api
+    def __init__(self):
         self.window = tkinter.Tk()
         self.window.title("Python host")
         self.window.geometry("640x700")
@@ -68,41 +28,34 @@ class Host:
         for number in (signal.SIGINT, signal.SIGTERM):
             signal.signal(number, lambda *_: self.window.quit())
 
-    def pick(self, system):
-        return self.api.select_camera(system, "Pick a camera", self.window.winfo_id())
+    def pick(self):
+        return orvcamera.select_camera("Pick a camera", self.window.winfo_id())
 
-    def show(self, info, device):
+    def show(self, camera):
         """Shows the features until the window is closed."""
-        self.caption["text"] = self.api.display_name(info).decode()
-        tree = self.api.create_tree(self.api.parameters(device, None), "Features",
-                                    self.panel.winfo_id())
+        self.caption["text"] = camera.info.display_name
+        tree = camera.show("tree", "Features", wait=False, parent=self.panel.winfo_id())
         self.let_qt_work()
         self.window.mainloop()
-        self.api.destroy_tree(tree)  # before what it shows and where it lives
+        tree.close()  # before the frame where it lives
 
     def let_qt_work(self):
-        while self.api.run_events(None, False):
-            pass
+        orvcamera.process_events()
         self.window.after(EVENTS_MS, self.let_qt_work)
 
 
-def run(api):
-    host = Host(api)
-    system = api.get_system()
-    info = host.pick(system)
+def run():
+    host = Host()
+    info = host.pick()
     if not info:
-        api.release_system(system)
         return 0
-    error = c_int32(0)
-    device = api.open(info, ctypes.byref(error), ACCESS_CONTROL)
-    if device:
-        host.show(info, device)
-    else:
-        print(f"python-host: {api.display_name(info).decode()}: error {error.value}",
-              file=sys.stderr)
-    api.close(device)
-    api.release_system(system)
-    return 0 if device else 1
+    try:
+        with orvcamera.Camera(info) as camera:
+            host.show(camera)
+    except orvcamera.Error as error:
+        print(f"python-host: {info.display_name}: {error}", file=sys.stderr)
+        return 1
+    return 0
 
 
 def main():
@@ -113,8 +66,10 @@ def main():
     options = parser.parse_args()
     if options.simulate:
         os.environ["ORVCAM_SIMULATION"] = "1"
+    if options.libraries:
+        os.environ["ORVCAMERA_LIBRARIES"] = options.libraries
     os.environ["QT_QPA_PLATFORM"] = "xcb"  # as Tk, also in a Wayland session
-    return run(Api(options.libraries))
+    return run()
 
 
 if __name__ == "__main__":

@@ -6,6 +6,8 @@
 #include <cameraio/fetchahead.h>
 #include <description/nodemap.h>
 
+#include <atomic>
+
 namespace OrvCam {
 
 /// The node map of an open camera: it can be looked at without transfers.
@@ -14,12 +16,17 @@ class CameraNodeMap final : public OrvDescription::NodeMap, public OrvGenParam::
 public:
     using OrvDescription::NodeMap::NodeMap;
 
+    /// Whether the camera is lost. May be called on any thread.
+    bool isGone() const { return m_isGone; }
+    void setGone(bool isGone) { m_isGone = isGone; }
+
     bool look(const Ask &ask) const override { return m_fetchAhead.look(ask); }
     std::unique_ptr<Request> fetch(std::vector<Ask> asks, std::function<void()> done) override;
     void fetchNow(const std::vector<Ask> &asks) override { m_fetchAhead.fetchNow(asks); }
 
 private:
     OrvCameraIo::FetchAhead m_fetchAhead{*this, registers()};
+    std::atomic<bool> m_isGone{false};
 };
 
 } // namespace OrvCam

@@ -14,7 +14,34 @@ std::string firstNonEmpty(const GenICam::gcstring &text, const GenICam::gcstring
     return (text.empty() ? otherwise : text).c_str();
 }
 
+/// Never fails, since it is asked after a failure.
+bool isAvailable(const INode &node)
+{
+    try {
+        return GenApi::IsAvailable(node.GetAccessMode());
+    } catch (const GenICam::GenericException &) {
+        return true;
+    }
+}
+
 } // namespace
+
+int32_t codeOfException(const INode &node)
+{
+    try {
+        throw;
+    } catch (const GenICam::AccessException &) {
+        return isAvailable(node) ? OrvCam::ErrorAccessDenied : OrvCam::ErrorNotAvailable;
+    } catch (const GenICam::OutOfRangeException &) {
+        return OrvCam::ErrorOutOfRange;
+    } catch (const GenICam::InvalidArgumentException &) {
+        return OrvCam::ErrorInvalidArgument;
+    } catch (const GenICam::TimeoutException &) {
+        return OrvCam::ErrorTimeout;
+    } catch (...) {
+        return OrvCam::ErrorFailed;
+    }
+}
 
 NodeAccess::NodeAccess(ArrayState &array, INode &node, Param *param)
     : m_array(array)
@@ -41,33 +68,6 @@ EAccessMode NodeAccess::accessMode() const
     EAccessMode mode = NI;
     attempt([&] { mode = m_node.GetAccessMode(); });
     return mode;
-}
-
-/// Never fails, since it is asked after a failure.
-bool NodeAccess::isAvailable() const
-{
-    try {
-        return IsAvailable(m_node.GetAccessMode());
-    } catch (const GenICam::GenericException &) {
-        return true;
-    }
-}
-
-int32_t NodeAccess::codeOfException() const
-{
-    try {
-        throw;
-    } catch (const GenICam::AccessException &) {
-        return isAvailable() ? OrvCam::ErrorAccessDenied : OrvCam::ErrorNotAvailable;
-    } catch (const GenICam::OutOfRangeException &) {
-        return OrvCam::ErrorOutOfRange;
-    } catch (const GenICam::InvalidArgumentException &) {
-        return OrvCam::ErrorInvalidArgument;
-    } catch (const GenICam::TimeoutException &) {
-        return OrvCam::ErrorTimeout;
-    } catch (...) {
-        return OrvCam::ErrorFailed;
-    }
 }
 
 void NodeAccess::nodeChanged(INode *)

@@ -14,6 +14,9 @@
 
 namespace OrvGenParam {
 
+/// The `OrvCam::ErrorCode` of the exception that is being handled, which came from that node.
+int32_t codeOfException(const GenApi::INode &node);
+
 /// What the parameters of one array have in common.
 struct ArrayState
 {
@@ -55,7 +58,7 @@ public:
         } catch (const OrvGenApi::NotYetKnown &) {
             throw; // somebody only looks
         } catch (...) {
-            return codeOfException();
+            return codeOfException(m_node);
         }
     }
 
@@ -74,8 +77,6 @@ public:
     void notify();
 
 private:
-    int32_t codeOfException() const;
-    bool isAvailable() const;
     void nodeChanged(GenApi::INode *);
     void keepPolled();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "nodemaparray.h"
 
+#include "cameranodemap.h"
 #include "nodeparams.h"
 
 using namespace GenApi;
@@ -55,6 +56,8 @@ void NodeMapArray::addAs(INode &node)
 void NodeMapArray::detach(int32_t code)
 {
     m_state.gone = code;
+    if (auto *map = dynamic_cast<OrvCam::CameraNodeMap *>(&m_state.nodeMap))
+        map->setGone(code != OrvCam::Success);
     for (const Entry &entry : m_entries)
         entry.access->notify();
 }

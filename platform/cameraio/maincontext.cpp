@@ -58,6 +58,26 @@ void post(std::function<void()> call)
     g_source_unref(source);
 }
 
+void run(unsigned durationMs)
+{
+    if (!g_main_context_acquire(nullptr))
+        return;
+    bool isOver = false;
+    GSource *end = g_timeout_source_new(durationMs);
+    g_source_set_callback(
+        end,
+        [](void *over) -> gboolean {
+            *static_cast<bool *>(over) = true;
+            return G_SOURCE_REMOVE;
+        },
+        &isOver, nullptr);
+    g_source_attach(end, nullptr);
+    while (!isOver)
+        g_main_context_iteration(nullptr, TRUE);
+    g_source_unref(end);
+    g_main_context_release(nullptr);
+}
+
 struct Timer::State
 {
     std::recursive_mutex mutex; ///< recursive: a tick may end the timer

@@ -12,6 +12,10 @@ namespace OrvCameraIo::MainContext {
 /// Has `call` called once, soon.
 void post(std::function<void()> call);
 
+/// Runs the context for so many milliseconds, 0 for what is ready. Does nothing when another thread
+/// is running it.
+void run(unsigned durationMs);
+
 /// Calls `tick` every `periodMs` as long as the object lives. When the destructor returns, no call
 /// is under way on another thread and none will come; it may be called from inside `tick`.
 class Timer

@@ -3,6 +3,7 @@
 
 #include "applicationbootstrap.h"
 #include "creategenparamtreeview.h"
+#include "language.h"
 #include "orvcamconfig.h"
 #include "orvcamconfigcolordialog.h"
 #include "orvcamconfigoutputdialog.h"
@@ -14,8 +15,12 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <cstring>
+#include <new>
+#include <stdexcept>
 
 namespace {
 
@@ -39,15 +44,32 @@ public:
     }
 };
 
-void destroyWindow(OrvGui::IOrvGenParamTreeView *view)
+template<class Window>
+void destroyWindow(Window *window)
 {
-    if (!view)
+    if (!window)
         return;
-    delete view;
+    delete window;
     // Without an event loop nothing else sends the window system what Qt has asked of it, and the
     // tree would stay on the screen. A question makes Qt send it.
     if (qApp)
         QCursor::pos();
+}
+
+bool isLevel(int visibility)
+{
+    return visibility >= OrvGui::Basic && visibility <= OrvGui::Guru;
+}
+
+int countOpenWindows()
+{
+    int count = 0;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (const QWidget *widget : widgets) {
+        if (widget->isVisible())
+            ++count;
+    }
+    return count;
 }
 
 /// The dialog is destroyed on return.
@@ -90,6 +112,34 @@ void DestroyGenParamTreeView(OrvGuiParamTreeView *view)
     destroyWindow(view);
 }
 
+const char *SaveGenParamTreeViewState(OrvGuiParamTreeView *view)
+{
+    return view ? view->saveState() : nullptr;
+}
+
+int LoadGenParamTreeViewState(OrvGuiParamTreeView *view, const char *state)
+{
+    if (!view || !state)
+        return 0;
+    try {
+        view->loadState(state);
+        return 1;
+    } catch (const std::logic_error &) {
+        return 0;
+    }
+}
+
+int GetGenParamTreeViewVisibility(OrvGuiParamTreeView *view)
+{
+    return view ? view->visibility() : OrvGui::Basic;
+}
+
+void SetGenParamTreeViewVisibility(OrvGuiParamTreeView *view, int visibility)
+{
+    if (view && isLevel(visibility))
+        view->setVisibility(OrvGui::Visibility(visibility));
+}
+
 OrvGuiFeatureBrowser *CreateFeatureBrowserForNodemapA(OrvGenApiNodeMap *nodeMap, const char *title,
                                                       unsigned long parent)
 {
@@ -128,6 +178,56 @@ int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser, const char *state)
 {
     auto *widget = dynamic_cast<OrvGui::OrvFeatureBrowser *>(browser);
     return widget && widget->restoreState(state) ? 1 : 0;
+}
+
+int GetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser)
+{
+    return GetGenParamTreeViewVisibility(browser);
+}
+
+void SetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser, int visibility)
+{
+    SetGenParamTreeViewVisibility(browser, visibility);
+}
+
+OrvGuiCamConfig *CreateCamConfig(OrvCamDevice *device)
+{
+    try {
+        OrvGui::ensureApplication();
+        OrvGuiCamConfig *window = new SilentCamConfig(device, nullptr);
+        window->show();
+        return window;
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+}
+
+void DestroyCamConfig(OrvGuiCamConfig *window)
+{
+    destroyWindow(window);
+}
+
+int OrvCameraGuiApi_ProcessEvents(int durationMs)
+{
+    OrvGui::ensureApplication();
+    QEventLoop loop;
+    QTimer::singleShot(qMax(durationMs, 0), &loop, &QEventLoop::quit);
+    QTimer watch; // Qt reports the last window only to programs that run its main loop
+    if (countOpenWindows() > 0) {
+        QObject::connect(&watch, &QTimer::timeout, &loop, [&loop] {
+            if (countOpenWindows() == 0)
+                loop.quit();
+        });
+        watch.start(20);
+    }
+    loop.exec();
+    return countOpenWindows();
+}
+
+int OrvCameraGuiApi_SetLanguage(const char *language)
+{
+    OrvGui::ensureApplication();
+    return OrvGui::setLanguage(QString::fromUtf8(language)) ? 1 : 0;
 }
 
 OrvCamDeviceInfo *SelectCameraA(OrvCamSystem *system, const char *title, unsigned long parent)

@@ -12,7 +12,7 @@
  * Only SelectCamera runs an event loop. A host without Qt must dispatch Qt's events; otherwise
  * windows are not painted and get no input. On Linux Qt uses the default GLib main context, so it
  * is enough to run that context, for instance with g_main_context_iteration(NULL, FALSE) from the
- * host's own loop. examples/c-host is an example.
+ * host's own loop, or to call OrvCameraGuiApi_ProcessEvents. examples/c-host is an example.
  *
  * Functions whose name ends in A take UTF-8 texts, those that end in W take 32-bit wide characters.
  * Both are zero-terminated. Parent windows are native window ids (on X11 a Window), 0 for none.
@@ -27,10 +27,15 @@
 
 #ifdef __cplusplus
 #include "iorvgenparamtreeview.h"
+namespace OrvGui {
+class OrvCamConfig;
+}
+typedef OrvGui::OrvCamConfig OrvGuiCamConfig;
 typedef OrvGui::IOrvGenParamTreeView OrvGuiParamTreeView;
 typedef OrvGui::IOrvGenParamTreeView OrvGuiFeatureBrowser;
 extern "C" {
 #else
+typedef struct OrvGuiCamConfig OrvGuiCamConfig;
 typedef struct OrvGuiParamTreeView OrvGuiParamTreeView;
 typedef struct OrvGuiFeatureBrowser OrvGuiFeatureBrowser;
 #endif
@@ -63,6 +68,27 @@ ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvG
 
 /* Null is ignored. Must not be called from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
+
+/*
+ * Which categories are expanded, the width of the name column and the level of a tree, as one UTF-8
+ * text for LoadGenParamTreeViewState; empty when nothing is shown. The pointer stays valid until
+ * the next call of either function for this tree, or its end. Null for no tree.
+ */
+ORVCAMERAGUIAPI_EXPORT const char *SaveGenParamTreeViewState(OrvGuiParamTreeView *view);
+
+/*
+ * Restores what was saved of a tree with the same features: 1. Null, and a text with numbers that
+ * cannot be: 0; the expansion may be changed by then.
+ */
+ORVCAMERAGUIAPI_EXPORT int LoadGenParamTreeViewState(OrvGuiParamTreeView *view, const char *state);
+
+/*
+ * The level of the features that are shown: 0 basic, 1 expert, 2 guru. Setting any other number
+ * does nothing. 0 for no tree.
+ */
+ORVCAMERAGUIAPI_EXPORT int GetGenParamTreeViewVisibility(OrvGuiParamTreeView *view);
+ORVCAMERAGUIAPI_EXPORT void SetGenParamTreeViewVisibility(OrvGuiParamTreeView *view,
+                                                          int visibility);
 
 /*
  * Opens a feature browser: the tree with a search, favourites, marks on changed and refused
@@ -98,6 +124,46 @@ ORVCAMERAGUIAPI_EXPORT const char *SaveFeatureBrowserState(OrvGuiFeatureBrowser 
  */
 ORVCAMERAGUIAPI_EXPORT int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser,
                                                    const char *state);
+
+/* As those of a tree. */
+ORVCAMERAGUIAPI_EXPORT int GetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser);
+ORVCAMERAGUIAPI_EXPORT void SetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser,
+                                                        int visibility);
+
+/*
+ * Opens the configuration window of a camera, a window of its own that stays open. A null device
+ * gives a window without a camera. The user can connect another camera in it, which the window
+ * opens and closes by itself.
+ *
+ * The caller owns the window and ends it with DestroyCamConfig, before the device is released. Null
+ * only when memory runs out.
+ */
+ORVCAMERAGUIAPI_EXPORT OrvGuiCamConfig *CreateCamConfig(OrvCamDevice *device);
+
+/* Null is ignored. Not from inside a callback of a parameter. */
+ORVCAMERAGUIAPI_EXPORT void DestroyCamConfig(OrvGuiCamConfig *window);
+
+/*
+ * Runs Qt's events, which are also those of the default GLib main context, for at most so many
+ * milliseconds (0 for what is waiting to be run), for hosts without an event loop. Makes the
+ * application when there is none. Returns how many windows are open; as soon as the user has closed
+ * the last one it returns 0 without waiting any longer. So
+ *
+ *     while (OrvCameraGuiApi_ProcessEvents(100) > 0)
+ *         ;
+ *
+ * runs until all windows are closed. A closed window has still to be destroyed.
+ */
+ORVCAMERAGUIAPI_EXPORT int OrvCameraGuiApi_ProcessEvents(int durationMs);
+
+/*
+ * Chooses the language of the windows that are opened from now on: "de", "ja", "en", also with a
+ * country ("de_AT"); null for that of the locale. Makes the application when there is none. Returns
+ * 1, or 0 for a language that there is no translation for, which changes nothing. Without a call,
+ * windows of a host that installs no translator of its own are English. Texts of a camera are shown
+ * as they are.
+ */
+ORVCAMERAGUIAPI_EXPORT int OrvCameraGuiApi_SetLanguage(const char *language);
 
 /*
  * Runs a dialog of that title in which the user picks one of the system's cameras. Returns the

@@ -78,6 +78,8 @@ private slots:
     void titles_data();
     void titles();
     void operations();
+    void stateLevelAndLanguage();
+    void configurationWindow();
     void sourcesWithoutFeatures();
     void insideAnotherWindow();
     void windowThatIsNotThere();
@@ -192,6 +194,58 @@ void TestOrvCameraGuiApi::sourcesWithoutFeatures()
 }
 
 // The picture of the host's window is that of the tree, whatever size the host gives it.
+// For hosts that cannot call methods.
+void TestOrvCameraGuiApi::stateLevelAndLanguage()
+{
+    Features map;
+    IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "", 0);
+    SetGenParamTreeViewVisibility(view, 7);
+    QCOMPARE(GetGenParamTreeViewVisibility(view), 0);
+    SetGenParamTreeViewVisibility(view, 2);
+    const QByteArray state = SaveGenParamTreeViewState(view);
+    SetGenParamTreeViewVisibility(view, 1);
+    QCOMPARE(LoadGenParamTreeViewState(view, state), 1);
+    QCOMPARE(GetGenParamTreeViewVisibility(view), 2);
+    QCOMPARE(LoadGenParamTreeViewState(view, "&amp;Wx&amp;V1"), 0);
+    QCOMPARE(LoadGenParamTreeViewState(view, nullptr), 0);
+    QCOMPARE(LoadGenParamTreeViewState(nullptr, state), 0);
+    QVERIFY(!SaveGenParamTreeViewState(nullptr));
+    SetFeatureBrowserVisibility(nullptr, 1);
+    QCOMPARE(GetFeatureBrowserVisibility(nullptr), 0);
+    DestroyGenParamTreeView(view);
+
+    const auto captionIn = [&](const char *language) -> QString {
+        const int isKnown = OrvCameraGuiApi_SetLanguage(language);
+        IOrvGenParamTreeView *other = CreateGenParamTreeViewForNodemapA(&map, "", 0);
+        const QString text = tree(other).model()->headerData(1, Qt::Horizontal).toString();
+        DestroyGenParamTreeView(other);
+        return QString::number(isKnown) + text;
+    };
+    QCOMPARE(captionIn("de_AT"), QString("1Wert"));
+    QCOMPARE(captionIn("tlh"), QString("0Wert"));
+    QCOMPARE(captionIn("fr"), QString("0Wert"));
+    QCOMPARE(captionIn("en"), QString("1Value"));
+    QCOMPARE(captionIn(nullptr), QString("1Value"));
+}
+
+void TestOrvCameraGuiApi::configurationWindow()
+{
+    OrvGuiCamConfig *window = CreateCamConfig(nullptr);
+    QCOMPARE(OrvCameraGuiApi_ProcessEvents(0), 1);
+    QTimer::singleShot(10, QCoreApplication::instance(), [] {
+        for (QWidget *opened : QApplication::topLevelWidgets()) {
+            if (opened->isVisible())
+                opened->close();
+        }
+    });
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(OrvCameraGuiApi_ProcessEvents(60000), 0);
+    QVERIFY(timer.elapsed() < 30000);
+    DestroyCamConfig(window);
+    DestroyCamConfig(nullptr);
+}
+
 void TestOrvCameraGuiApi::insideAnotherWindow()
 {
     const quint32 hostColour = 0xff205080;

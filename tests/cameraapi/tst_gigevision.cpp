@@ -3,6 +3,7 @@
 
 #include <cameracrowd.h>
 #include <cameranetwork.h>
+#include <orvgenparamapi.h>
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -528,6 +529,7 @@ void TestGigEVision::unplugAndReplug()
     OrvGenParam::Array *array = device->GetParamArray();
     OrvGenParam::Int *width = array->GetInt("Width");
     QCOMPARE(width->SetValue(256), int32_t(Success));
+    OrvGenApiNode *node = OrvGenParam_FindNode(array->GetNodeMap(), "Width");
 
     camera.reset();
     QTRY_COMPARE_WITH_TIMEOUT(events.disconnected.load(), 1, patience);
@@ -537,12 +539,17 @@ void TestGigEVision::unplugAndReplug()
     timer.start();
     width->GetValue(&error);
     QCOMPARE(error, int32_t(ErrorGone));
+    int32_t access = 0;
+    QCOMPARE(OrvGenParam_GetAccess(node, &access), int32_t(ErrorGone));
+    QCOMPARE(access, int32_t(OrvGenParam_AccessNotAvailable));
+    QCOMPARE(OrvGenParam_SetInteger(node, 128), int32_t(ErrorGone));
     QVERIFY(timer.elapsed() < 100);
     QVERIFY(!device->GetParamArray());
 
     camera = m_first->startCamera("LIVELY");
     QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
     QVERIFY(device->IsConnected());
+    QCOMPARE(OrvGenParam_GetInteger(node, nullptr), int32_t(Success));
     OrvGenParam::Array *present = device->GetParamArray(&error);
     QCOMPARE(present, array);
     QVERIFY(width->GetValue() > 0);

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <orvgenparamapi.h>
+
+#include <cameraapi/sinkregistrations.h>
+
+#include <memory>
+#include <thread>
+
+/// A C function that is told of the changes of one node, on the thread that made the watch.
+struct OrvGenParamWatch final : public OrvGenParam::ParamEventSink
+{
+public:
+    OrvGenParamWatch(OrvGenApiNode &node, OrvGenParamChanged changed, void *userData);
+
+    /// May be run from inside the call.
+    ~OrvGenParamWatch() override;
+
+    void OnParameterUpdate(OrvGenParam::Param *) override;
+
+private:
+    class Callback;
+    struct State;
+
+    const std::shared_ptr<State> m_state; ///< shared with the node's callback
+    const OrvGenParamChanged m_changed;
+    void *const m_userData;
+};

@@ -1,0 +1,212 @@
+/* SPDX-License-Identifier: MIT */
+#ifndef ORVGENPARAMAPI_H
+#define ORVGENPARAMAPI_H
+
+/*
+ * The C functions for the parameters of a camera, or of a description without a camera.
+ *
+ *     OrvGenApiNodeMap *nodeMap = OrvGenParam_GetNodeMap(parameters, NULL);
+ *     OrvGenApiNode *exposure = OrvGenParam_FindNode(nodeMap, "ExposureTime");
+ *     double value;
+ *     if (OrvGenParam_SetFloat(exposure, 5000) == OrvCam_Success &&
+ *         OrvGenParam_GetFloat(exposure, &value) == OrvCam_Success)
+ *         printf("%f\n", value);
+ *
+ * A parameter is a node. It belongs to its node map, is not to be released, and stays valid as long
+ * as the node map, that of a camera as long as the device. While the camera is unplugged every
+ * function that needs it answers OrvCam_ErrorGone.
+ *
+ * Functions that can fail return OrvCam_Success or an error of orvcameraapi.h, and set what they
+ * were to answer to 0 or "" then: OrvCam_ErrorInvalidArgument for null in place of a node or of a
+ * text that is to be written, OrvCam_ErrorNotFound for a node of another kind. What they answer
+ * goes where their last arguments point; any of these may be null. No function throws.
+ *
+ * Texts are UTF-8. One that is answered is written to `text`, which has room for `size` bytes: cut
+ * in front of the first character that has no room, and always with a 0 at its end. Its whole
+ * length in bytes, without the 0, goes to *length. So a text that is cut has a length of `size` or
+ * more; to ask for the length alone, give null and 0.
+ *
+ * Lists of nodes are written to `nodes`, which has room for `capacity` of them, or is null with a
+ * capacity of 0. The result is how many there are, which can be more than there is room for.
+ *
+ * Reading waits for the camera when the value is not known, writing always does. All functions may
+ * be called on any thread, where they wait for those of other threads at the same camera; only what
+ * is said about watching is different.
+ */
+
+#include <orvcameraapi.h>
+
+#ifdef __cplusplus
+#include <GenApi/INode.h>
+typedef GenApi::INode OrvGenApiNode;
+extern "C" {
+#else
+typedef struct OrvGenApiNode OrvGenApiNode;
+#endif
+
+/* OrvGenParam_GetKind. The first six numbers are those of OrvGenParam::ParamType. */
+enum {
+    OrvGenParam_KindInteger = 0,
+    OrvGenParam_KindFloat = 1,
+    OrvGenParam_KindEnumeration = 2,
+    OrvGenParam_KindBoolean = 3,
+    OrvGenParam_KindCommand = 4,
+    OrvGenParam_KindString = 5,
+    OrvGenParam_KindCategory = 6,
+    OrvGenParam_KindRegister = 7, /* as text: "0x" and two hexadecimal digits a byte */
+    OrvGenParam_KindEntry = 8,    /* of an enumeration */
+    OrvGenParam_KindOther = 9     /* without a value; treat further numbers likewise */
+};
+
+/* OrvGenParam_GetVisibility: whom a parameter is meant for. */
+enum {
+    OrvGenParam_VisibilityBasic = 0,
+    OrvGenParam_VisibilityExpert = 1,
+    OrvGenParam_VisibilityGuru = 2,
+    OrvGenParam_VisibilityInvisible = 3
+};
+
+/* OrvGenParam_GetAccess: what can be done at this moment; from 2 on it is available. */
+enum {
+    OrvGenParam_AccessNotImplemented = 0,
+    OrvGenParam_AccessNotAvailable = 1,
+    OrvGenParam_AccessWriteOnly = 2,
+    OrvGenParam_AccessReadOnly = 3,
+    OrvGenParam_AccessReadWrite = 4
+};
+
+/* What a code means, in English, for an unknown one, too. Static: valid for ever, never null. */
+ORVCAMERAAPI_EXPORT const char *OrvCam_GetErrorText(int32_t error);
+
+/*
+ * Why the last function of this header that failed on the calling thread did so, in English, with
+ * the camera's reason and the names that matter; "" before the first. Valid until the next function
+ * of this header fails on the same thread. Functions that succeed leave it as it is.
+ */
+ORVCAMERAAPI_EXPORT const char *OrvCam_GetLastErrorMessage(void);
+
+/*
+ * Runs the default GLib main context for so many milliseconds, 0 for what is waiting to be run: for
+ * programs that neither do so themselves nor run the event loop of Qt. Changes that come from the
+ * camera are noticed only while it runs. On the thread that opened the camera.
+ */
+ORVCAMERAAPI_EXPORT void OrvCam_ProcessEvents(uint32_t durationMs);
+
+/* The node of that name ("Name", "Std::Name" or "Cust::Name"), or null. "Root" is a category. */
+ORVCAMERAAPI_EXPORT OrvGenApiNode *OrvGenParam_FindNode(OrvGenApiNodeMap *nodeMap,
+                                                        const char *name);
+
+/* All parameters that are in a category, in the order of the description; no categories. */
+ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetFeatures(OrvGenApiNodeMap *nodeMap, OrvGenApiNode **nodes,
+                                                   size_t capacity);
+
+/* What a category lists, parameters and categories, in that order; none for another kind. */
+ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetCategoryFeatures(OrvGenApiNode *category,
+                                                           OrvGenApiNode **nodes, size_t capacity);
+
+/*
+ * The entries of an enumeration, available or not, in the order of the description; none for
+ * another kind. An entry's symbolic name and number are read like those of an enumeration, its
+ * availability is its access.
+ */
+ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetEntries(OrvGenApiNode *enumeration, OrvGenApiNode **nodes,
+                                                  size_t capacity);
+
+/* -1 for null. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetKind(const OrvGenApiNode *node);
+
+/*
+ * What the description says; these texts never change. The display name is the name where the
+ * description gives none. The unit is "" for a number without one, and for other kinds.
+ */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetName(OrvGenApiNode *node, char *text, size_t size,
+                                                size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetDisplayName(OrvGenApiNode *node, char *text, size_t size,
+                                                       size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetToolTip(OrvGenApiNode *node, char *text, size_t size,
+                                                   size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetDescription(OrvGenApiNode *node, char *text, size_t size,
+                                                       size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetUnit(OrvGenApiNode *node, char *text, size_t size,
+                                                size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetVisibility(OrvGenApiNode *node, int32_t *visibility);
+
+/* May ask the camera. OrvCam_ErrorGone, and not available, while it is unplugged. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetAccess(OrvGenApiNode *node, int32_t *access);
+
+/* Integers, and enumerations by the number of an entry; also the number of an entry itself. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetInteger(OrvGenApiNode *node, int64_t *value);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetInteger(OrvGenApiNode *node, int64_t value);
+
+/* A valid value is *min plus a multiple of *increment, up to *max. The increment is 1 or more. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetIntegerLimits(OrvGenApiNode *node, int64_t *min,
+                                                         int64_t *max, int64_t *increment);
+
+/* In the unit of the parameter. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetFloat(OrvGenApiNode *node, double *value);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetFloat(OrvGenApiNode *node, double value);
+
+/* The increment is 0 when every value within the limits is valid. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetFloatLimits(OrvGenApiNode *node, double *min,
+                                                       double *max, double *increment);
+
+/* 0 and 1; every other number that is set counts as 1. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetBoolean(OrvGenApiNode *node, int32_t *value);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetBoolean(OrvGenApiNode *node, int32_t value);
+
+/*
+ * An enumeration by the symbolic name of an entry; "" when the camera's value belongs to none. Also
+ * the name of an entry itself.
+ */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetSymbolic(OrvGenApiNode *node, char *text, size_t size,
+                                                    size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetSymbolic(OrvGenApiNode *node, const char *symbolic);
+
+/* Text parameters. *maxLength is in bytes, without a 0. */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetString(OrvGenApiNode *node, char *text, size_t size,
+                                                  size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetString(OrvGenApiNode *node, const char *value);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetMaxLength(OrvGenApiNode *node, int64_t *maxLength);
+
+/*
+ * The value of any kind as text, as settings files have it: decimal numbers with a point, or "0x"
+ * and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names.
+ */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetValueText(OrvGenApiNode *node, char *text, size_t size,
+                                                     size_t *length);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetValueText(OrvGenApiNode *node, const char *value);
+
+/*
+ * Waits until the camera has taken a command, not until it has carried it out; *isDone is 1 when it
+ * has, else 0, and asks the camera.
+ */
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_Execute(OrvGenApiNode *node);
+ORVCAMERAAPI_EXPORT int32_t OrvGenParam_IsDone(OrvGenApiNode *node, int32_t *isDone);
+
+/*
+ * Has `changed` called after every change of a parameter's value, limits or access, whoever makes
+ * it. It is called on the thread that calls this function: at once, from inside the function that
+ * makes the change, for a change made there, and from the default GLib main context for a change
+ * made by another thread or the camera, several at a time as one. That thread must be the one that
+ * runs the context.
+ *
+ * `changed` may call any function, OrvGenParam_Unwatch for its own watch, too, but must not release
+ * the device or node map, nor throw.
+ *
+ * Null on failure, with the reason in *error unless error is null. The caller owns the watch and
+ * ends it with OrvGenParam_Unwatch on the same thread; that may be done after the end of the node
+ * map, with which the calls end.
+ */
+typedef struct OrvGenParamWatch OrvGenParamWatch;
+typedef void (*OrvGenParamChanged)(OrvGenApiNode *node, void *userData);
+ORVCAMERAAPI_EXPORT OrvGenParamWatch *
+OrvGenParam_Watch(OrvGenApiNode *node, OrvGenParamChanged changed, void *userData, int32_t *error);
+
+/* No call comes after this. Null is ignored. */
+ORVCAMERAAPI_EXPORT void OrvGenParam_Unwatch(OrvGenParamWatch *watch);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,79 @@
+# SPDX-License-Identifier: MIT
+"""The windows. Imported, and the library of windows loaded, only when one is asked for."""
+from typing import Any, Optional
+
+from . import _native
+from ._native import Error, decode, encode, gui
+
+#: Window: functions that open and close it, and what the names of its state functions contain.
+_KINDS = {
+    "tree": ("CreateGenParamTreeViewForNodemapA", "DestroyGenParamTreeView", "GenParamTreeView"),
+    "browser": ("CreateFeatureBrowserForNodemapA", "DestroyFeatureBrowser", "FeatureBrowser"),
+    "config": ("CreateCamConfig", "DestroyCamConfig", ""),
+}
+
+
+class Window:
+    """An open window of a camera. Ends with ``close``, a ``with`` block, or its camera."""
+
+    def __init__(self, owner: Any, kind: str, title: str, parent: int) -> None:
+        if kind not in _KINDS:
+            raise ValueError(f"{kind!r} is none of {', '.join(_KINDS)}")
+        create, self._destroy, self._state = _KINDS[kind]
+        node_map = owner._check_open()
+        if kind == "config":
+            device = getattr(owner, "_device", None)
+            if not device:
+                raise ValueError("the configuration window takes a camera")
+            self._handle: Optional[int] = gui.CreateCamConfig(device)
+        else:
+            self._handle = getattr(gui, create)(node_map, encode(title), parent)
+
+    @property
+    def is_open(self) -> bool:
+        """False after ``close``; a window that the user has closed still counts as open."""
+        return self._handle is not None
+
+    def wait(self) -> None:
+        """Runs until the user has closed all windows of this module."""
+        while gui.OrvCameraGuiApi_ProcessEvents(100) > 0:
+            pass  # between two calls Python sees Ctrl+C
+
+    def close(self) -> None:
+        handle, self._handle = self._handle, None
+        if handle:
+            getattr(gui, self._destroy)(handle)
+
+    def _open(self) -> int:
+        if not self._handle:
+            raise Error(Error.GONE, "The window has been closed")
+        if not self._state:
+            raise TypeError("the configuration window has no state and no visibility")
+        return self._handle
+
+    @property
+    def state(self) -> str:
+        """What is expanded and at which level, to be stored and set again."""
+        return decode(getattr(gui, f"Save{self._state}State")(self._open()))
+
+    @state.setter
+    def state(self, state: str) -> None:
+        if not getattr(gui, f"Load{self._state}State")(self._open(), encode(state)):
+            raise ValueError("this is no state of such a window")
+
+    @property
+    def visibility(self) -> int:
+        """The level of what is shown: 0 basic, 1 expert, 2 guru."""
+        return getattr(gui, f"Get{self._state}Visibility")(self._open())
+
+    @visibility.setter
+    def visibility(self, visibility: int) -> None:
+        if visibility not in (0, 1, 2):
+            raise ValueError("the visibility is 0, 1 or 2")
+        getattr(gui, f"Set{self._state}Visibility")(self._open(), visibility)
+
+    def __enter__(self) -> "Window":
+        return self
+
+    def __exit__(self, *_: Any) -> None:
+        self.close()
