@@ -15,11 +15,14 @@ function(orv_precompile_test target)
         file(WRITE "${CMAKE_BINARY_DIR}/orv_precompiled_test.c" "typedef int orv_precompiled_test;\n")
         add_executable(orv_precompiled_test EXCLUDE_FROM_ALL ${sources})
         orv_target_defaults(orv_precompiled_test)
+        target_compile_options(orv_precompiled_test PRIVATE -pthread)
         target_link_libraries(orv_precompiled_test PRIVATE ${ORV_QT}::Test ${ORV_QT}::Widgets)
         target_precompile_headers(orv_precompiled_test PRIVATE
             "$<$<COMPILE_LANGUAGE:CXX>:<QtWidgets$<ANGLE-R>>"
             "$<$<COMPILE_LANGUAGE:CXX>:<QtTest$<ANGLE-R>>"
             "$<$<COMPILE_LANGUAGE:C>:<stddef.h$<ANGLE-R>>")
     endif()
+    # Some tests have it from a library that they link; the flags must be the same for all.
+    target_compile_options(${target} PRIVATE -pthread)
     target_precompile_headers(${target} REUSE_FROM orv_precompiled_test)
 endfunction()
