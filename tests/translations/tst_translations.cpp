@@ -113,7 +113,12 @@ public:
         }
     }
 
-    bool contains(const QString &text) const { return m_texts.contains(text.simplified()); }
+    /// A step to undo has the feature's name and GenICam's notation of two values.
+    bool contains(const QString &text) const
+    {
+        const bool isStep = text.contains(QStringLiteral(" \u2192 "));
+        return m_texts.contains(isStep ? text.section(' ', 0, 0) : text.simplified());
+    }
 
 private:
     QSet<QString> m_texts;
