@@ -149,6 +149,7 @@ private slots:
     void selectorTable();
     void otherParameters();
     void functions();
+    void cleanupTestCase();
 };
 
 // What a key costs is what is looked at, read and laid out for it.
@@ -674,6 +675,12 @@ void TestOrvFeatureBrowser::functions()
     browser = CreateFeatureBrowserForArrayW(nullptr, L"Nothing", 0);
     QVERIFY(browser);
     DestroyFeatureBrowser(browser);
+}
+
+// The button that clears a line fades in; the animation of one that has gone ends by itself.
+void TestOrvFeatureBrowser::cleanupTestCase()
+{
+    QTest::qWait(250);
 }
 
 QTEST_MAIN(TestOrvFeatureBrowser)

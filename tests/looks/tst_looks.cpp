@@ -274,7 +274,6 @@ void TestLooks::initTestCase()
 {
     qputenv("ORVCAM_SIMULATION", "1");
     QApplication::setStyle("fusion");
-    QApplication::setCursorFlashTime(0); // a blink paints no more of a text than the cursor hides
     m_lightPalette = QApplication::style()->standardPalette();
     m_lightPalette.setColor(QPalette::Highlight, QColor(0x2a, 0x60, 0x9a)); // Qt's own is pale
     m_system = OrvCam_GetSystem();
