@@ -2,6 +2,7 @@
 #pragma once
 
 #include "featuresearch.h"
+#include "genparamtree/featuremetatype.h"
 #include "selectorplace.h"
 
 #include <QHash>

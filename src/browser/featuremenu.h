@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "genparamtree/featuremetatype.h"
+
 #include <GenApi/IValue.h>
 
 #include <QMenu>

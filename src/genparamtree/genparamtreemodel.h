@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "genparamtree/featuremetatype.h"
+
 #include <GenApi/INodeMap.h>
-#include <GenApi/IValue.h>
 
 #include <QAbstractItemModel>
 #include <QScopedPointer>
@@ -12,8 +13,6 @@ class Array;
 }
 
 class GenParamTreeModelPrivate;
-
-Q_DECLARE_METATYPE(GenApi::IValue *)
 
 /// Presents the feature tree of a node map: categories are branches, features are leaves, column 0
 /// is the feature's name and column 1 its value.
