@@ -53,7 +53,7 @@ done
 
 # The linker drops the mark of a whole file when the C library's part of it has none.
 objects=0
-for file in $(made COMPILER); do
+for file in $(made COMPILER | grep -vE '\.[gp]ch$'); do # no precompiled headers
     machine=$("$readelf" -hnW "$file")
     case $machine in
     *X86-64*IBT*SHSTK* | *AArch64*BTI*PAC*) ;;
