@@ -184,11 +184,10 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_Execute(OrvGenApiNode *node);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_IsDone(OrvGenApiNode *node, int32_t *isDone);
 
 /*
- * Has `changed` called after every change of a parameter's value, limits or access, whoever makes
- * it. It is called on the thread that calls this function: at once, from inside the function that
- * makes the change, for a change made there, and from the default GLib main context for a change
- * made by another thread or the camera, several at a time as one. That thread must be the one that
- * runs the context.
+ * Registers `changed` as a callback for changes of a parameter's value, limits or access. It runs on
+ * the thread that calls this function, which must be the one that runs the default GLib main
+ * context. A change made on that thread calls it at once, from inside the function that makes the
+ * change. Changes by the camera or by other threads are collected and reported from the context.
  *
  * `changed` may call any function, OrvGenParam_Unwatch for its own watch, too, but must not release
  * the device or node map, nor throw.

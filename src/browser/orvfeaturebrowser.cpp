@@ -269,7 +269,7 @@ void OrvFeatureBrowserPrivate::setJournal(const FeatureJournal::Pointer &newJour
 void OrvFeatureBrowserPrivate::record(GenApi::IValue *feature, const QString &earlier,
                                       const QString &after)
 {
-    const FeatureJournal::Pointer kept = journal; // who is told may close the camera
+    const FeatureJournal::Pointer kept = journal; // a receiver may close the camera
     if (!kept)
         return;
     GenApi::INode *node = feature->GetNode();
@@ -681,7 +681,7 @@ OrvFeatureBrowser::OrvFeatureBrowser(OrvGenParam::Array *array, QWidget *parent)
 OrvFeatureBrowser::~OrvFeatureBrowser()
 {
     delete d->table;
-    d->view->clearParams(); // while what it tells of can still listen
+    d->view->clearParams(); // while the receivers of its signals still exist
 }
 
 void OrvFeatureBrowser::setParams(OrvGenParam::Array *array)

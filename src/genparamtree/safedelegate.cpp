@@ -59,7 +59,7 @@ QWidget *SafeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     }
 }
 
-/// For those who hear it: by the feature. May be null.
+/// The name that a screen reader speaks: that of the feature. May be null.
 QWidget *SafeDelegate::named(QWidget *editor, const QModelIndex &index)
 {
     const QString name = cameraText(index.sibling(index.row(), 0).data().toString());

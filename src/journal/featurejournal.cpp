@@ -102,7 +102,7 @@ void setValue(INode *node, const QVariant &value)
         real->SetValue(value.toDouble());
 }
 
-/// Where the node cannot be asked for it.
+/// In GenICam's notation, also when the node does not answer.
 QString plainText(const QVariant &value)
 {
     if (value.userType() == QMetaType::Bool)
@@ -144,7 +144,7 @@ QString nameOf(const QString &feature, const QVector<FeatureJournal::Setting> &s
 
 } // namespace
 
-/// Tells the journal that the node map is no more.
+/// Reports the destruction of the node map to the journal.
 class FeatureJournal::Life : public CNodeCallback
 {
 public:
@@ -163,7 +163,7 @@ private:
     const std::shared_ptr<std::atomic<bool>> m_isAlive;
 };
 
-/// Moves selectors away and back, and has those told afterwards who could not be in between.
+/// Moves selectors away and back, then repeats the notifications that were ignored in between.
 class FeatureJournal::Detour
 {
 public:
@@ -178,7 +178,7 @@ private:
     void end();
     const FeatureJournal &m_journal;
     SelectorMove m_move;
-    QVector<INode *> m_unheard; ///< whose notification nobody has heeded
+    QVector<INode *> m_unnotified; ///< whose notification the windows have ignored
 };
 
 void FeatureJournal::Detour::goTo(const QVector<Setting> &selectors)
@@ -192,7 +192,7 @@ void FeatureJournal::Detour::goTo(const QVector<Setting> &selectors)
 void FeatureJournal::Detour::wrote(INode *node)
 {
     if (m_move.isAway())
-        m_unheard.append(node);
+        m_unnotified.append(node);
 }
 
 void FeatureJournal::Detour::end()
@@ -200,9 +200,9 @@ void FeatureJournal::Detour::end()
     if (!m_journal.isAlive())
         return m_move.abandon();
     for (IValue *selector : m_move.putBack())
-        m_unheard.append(selector->GetNode());
+        m_unnotified.append(selector->GetNode());
     // What depends on them without being selected has changed for those who look now.
-    for (INode *node : std::as_const(m_unheard))
+    for (INode *node : std::as_const(m_unnotified))
         attempt([=] { node->InvalidateNode(); });
 }
 
@@ -314,7 +314,7 @@ FeatureJournal::State FeatureJournal::known(INode *node) const
 bool FeatureJournal::write(const Pointer &journal, const QString &feature, const QVariant &shown,
                            const QVariant &after, const std::function<bool()> &call)
 {
-    const Pointer kept = journal; // the call may end whoever has it
+    const Pointer kept = journal; // the call may destroy the owner of the journal
     INode *const node =
         kept && kept->isAlive() ? kept->m_nodeMap->GetNode(toUtf8(feature)) : nullptr;
     if (!node)
@@ -380,7 +380,7 @@ void FeatureJournal::startAnew(const QVector<Write> &writes)
     tell(writes);
 }
 
-/// Who is told may end the node map.
+/// A receiver of the signal may destroy the node map.
 void FeatureJournal::tell(const QVector<Write> &writes)
 {
     for (const Write &write : writes) {

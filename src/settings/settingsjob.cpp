@@ -15,7 +15,7 @@ namespace OrvGui {
 
 namespace {
 
-const int patience = 300;      // ms until the dialog is shown
+const int delayOfDialog = 300; // ms until the dialog is shown
 const int progressPeriod = 50; // ms
 
 /// Stays until the work has ended: after "Cancel", too, selectors may be away.
@@ -33,7 +33,7 @@ SettingsJob::SettingsJob(const QString &text, Work work, QWidget *window)
 {
     // Until the dialog does it.
     QApplication::instance()->installEventFilter(this);
-    QTimer::singleShot(patience, this, [this] { show(); });
+    QTimer::singleShot(delayOfDialog, this, [this] { show(); });
     m_thread = std::thread([this, work = std::move(work)] {
         work([this](int done, int total) {
             m_done = done;

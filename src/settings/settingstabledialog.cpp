@@ -17,8 +17,8 @@ namespace OrvGui {
 
 namespace {
 
-const int widestColumn = 60; // characters, as long as nobody drags it
-const int mostRows = 18;     // as long as nobody makes the dialog larger
+const int widestColumn = 60; // characters; the user can widen it
+const int mostRows = 18;     // at first; the user can enlarge the dialog
 
 } // namespace
 

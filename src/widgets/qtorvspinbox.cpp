@@ -28,7 +28,7 @@ QRect screenAt(const QPoint &point)
 }
 
 /// Window managers don't give the focus to a tool tip; it has to be taken past them. A Wayland
-/// compositor gives it to nothing but a popup, and lets nobody take it.
+/// compositor gives it to popups only, and no window can grab it.
 Qt::WindowFlags sliderWindowFlags()
 {
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))

@@ -90,7 +90,7 @@ void settle()
 
 } // namespace
 
-/// What the user has written is put back, whoever has written it, and the last ten minutes are
+/// Writes of all windows are undone, and the last ten minutes are
 /// kept.
 class TestFeatureJournal : public QObject
 {
@@ -193,7 +193,7 @@ void TestFeatureJournal::selectors()
         }
     }
 
-    // Nobody is told of the detour, but of what it has changed.
+    // The detour itself sends no notification, its effect does.
     map.gain.GetValue();
     map.write(journal, "Gain", 9);
     map.write(journal, "GainSelector", "Red");
