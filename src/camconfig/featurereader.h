@@ -11,6 +11,7 @@
 
 namespace OrvGenParam {
 class Array;
+class Int;
 class Param;
 } // namespace OrvGenParam
 
@@ -51,13 +52,18 @@ public:
 
     /// What the function reads of parameters and nothing else: with values that are a second old at
     /// most, as long as all are known. May call the function several times.
-    template<class Get>
-    auto get(Get read) const -> decltype(read())
+    template<class Question>
+    auto get(Question question) const -> decltype(question())
     {
-        decltype(read()) value{};
-        const bool isKnown = look([&] { value = read(); });
-        return isKnown ? value : read();
+        decltype(question()) value{};
+        const bool isKnown = look([&] { value = question(); });
+        return isKnown ? value : question();
     }
+
+    /// Reads the value or a limit of a number. Changes the value only if the camera answers; false
+    /// if it does not, and for null.
+    bool read(const OrvGenParam::Int *param, int64_t (OrvGenParam::Int::*question)(int32_t *) const,
+              qint64 &value) const;
 
     /// Calls the function as soon as all is known that can be read of the parameters: at once if
     /// that is so now. A later call for the same two replaces one that is still to come.
