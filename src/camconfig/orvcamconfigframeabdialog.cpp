@@ -6,6 +6,7 @@
 #include "camconfig/areapresets.h"
 #include "camconfig/boundfeatures.h"
 #include "camconfig/digitalgain.h"
+#include "camconfig/dragwatcher.h"
 #include "camconfig/exposuretime.h"
 #include "camconfig/featuretooltip.h"
 #include "camconfig/frametabs.h"
@@ -409,27 +410,19 @@ void OrvCamConfigFrameABDialogPrivate::connectHandlers()
     connectDrags();
 }
 
-// The widgets say nothing about a drag of their slider. What they show need not be what the camera
-// holds: only a move of the user's is a change.
+// What the widgets show need not be what the camera holds: only what the user changes is written.
 void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
-    HeldInput::onDragEnd(
-        ui.spBoxExpTime->slider(), handlers(), [this] { return ui.spBoxExpTime->value(); },
-        [this](bool isChanged) {
-            if (isChanged)
-                setExposureTime(ui.spBoxExpTime->value());
-            else
-                updateExposureTime();
-        });
-    HeldInput::onDragEnd(
-        ui.spBoxDigitalGain->slider(), handlers(),
-        [this] { return gainOf(ui.spBoxDigitalGain->value()); },
-        [this](bool isChanged) {
-            if (isChanged)
-                setDigitalGain(ui.spBoxDigitalGain->value());
-            else
-                showDigitalGain();
-        });
+    auto *time = new DragWatcher(
+        ui.spBoxExpTime->slider(), [this] { return ui.spBoxExpTime->value(); }, handlers());
+    on(time, &DragWatcher::changed, [this] { setExposureTime(ui.spBoxExpTime->value()); });
+    on(time, &DragWatcher::unchanged, [this] { updateExposureTime(); });
+
+    auto *factor = new DragWatcher(
+        ui.spBoxDigitalGain->slider(),
+        [this] { return gainOf(ui.spBoxDigitalGain->value()).factor(); }, handlers());
+    on(factor, &DragWatcher::changed, [this] { setDigitalGain(ui.spBoxDigitalGain->value()); });
+    on(factor, &DragWatcher::unchanged, [this] { showDigitalGain(); });
 }
 
 void OrvCamConfigFrameABDialogPrivate::startSizeTimer()
