@@ -101,7 +101,7 @@ function(orv_add_test name)
     if(arg_XVFB)
         set(command "${PROJECT_SOURCE_DIR}/tests/support/with-xvfb.sh" ${command})
         # Qt's X plugin, which is unloaded at the end, leaves memory of libX11 behind. Only when
-        # libX11 stays can a sanitizer still tell whose it is.
+        # libX11 stays can a sanitizer name its functions.
         target_link_options(${name} PRIVATE LINKER:--no-as-needed)
         target_link_libraries(${name} PRIVATE X11)
     endif()
