@@ -45,7 +45,7 @@ public:
     /// Null for an editor without a state.
     static EditorState *of(const QWidget *editor);
 
-    /// Whether the tree shows it; set by the tree.
+    /// Whether the tree shows it; the tree sets this.
     bool isOpen() const { return m_isOpen; }
     void setOpen(bool on) { m_isOpen = on; }
 
