@@ -28,9 +28,10 @@ OrvGenParam::Int *lineTimeOf(const OrvGenParam::Array *array)
 } // namespace
 
 FrameTabs::FrameTabs(const Ui_OrvCamConfigFrameABDialog &ui, OrvCamConfigMapper &mapper,
-                     OrvGenParam::Array *array)
+                     FeatureReader &reader, OrvGenParam::Array *array)
     : m_ui(ui)
     , m_mapper(mapper)
+    , m_reader(reader)
     , m_array(array)
     , m_selector(array->GetEnum(selectorName))
     , m_selectedFrame(selectedFrame())
@@ -52,13 +53,13 @@ void FrameTabs::follow()
 /// What the output mode binds and unbinds must be known, too.
 void FrameTabs::applyModeWhenKnown(const std::function<void()> &applied)
 {
-    m_mapper.reader().whenKnown(this, &m_timer,
-                                {m_selector, lineTimeOf(m_array), m_array->GetInt(frameAsName),
-                                 m_array->GetInt(frameBsName)},
-                                [=] {
-                                    if (applyMode())
-                                        applied();
-                                });
+    m_reader.whenKnown(this, &m_timer,
+                       {m_selector, lineTimeOf(m_array), m_array->GetInt(frameAsName),
+                        m_array->GetInt(frameBsName)},
+                       [=] {
+                           if (applyMode())
+                               applied();
+                       });
 }
 
 bool FrameTabs::applyMode()
@@ -190,7 +191,7 @@ void FrameTabs::unbindFrameCounts()
 
 qint64 FrameTabs::selectedFrame() const
 {
-    return m_selector ? m_mapper.reader().get([this] { return m_selector->GetIntValue(); }) : 0;
+    return m_selector ? m_reader.get([this] { return m_selector->GetIntValue(); }) : 0;
 }
 
 } // namespace OrvGui

@@ -18,6 +18,7 @@ class Param;
 
 namespace OrvGui {
 
+class FeatureReader;
 class OrvCamConfigMapper;
 
 /// The tabs of the frame dialog, which select the frame that a camera's features address, and what
@@ -25,7 +26,7 @@ class OrvCamConfigMapper;
 /// selected and the numbers of frames are not bound.
 ///
 /// One object per device. Its end, which a write may lead to, ends everything that is under way.
-/// The array, the form and the mapper must outlive it.
+/// The arguments must outlive it.
 class FrameTabs : public QObject
 {
     Q_OBJECT
@@ -35,7 +36,7 @@ public:
 
     /// Writes nothing.
     FrameTabs(const Ui_OrvCamConfigFrameABDialog &ui, OrvCamConfigMapper &mapper,
-              OrvGenParam::Array *array);
+              FeatureReader &reader, OrvGenParam::Array *array);
 
     /// Null where the camera lacks it.
     OrvGenParam::Enum *selector() const { return m_selector; }
@@ -74,6 +75,7 @@ private:
 
     const Ui_OrvCamConfigFrameABDialog &m_ui;
     OrvCamConfigMapper &m_mapper;
+    FeatureReader &m_reader;
     OrvGenParam::Array *const m_array;
     OrvGenParam::Enum *const m_selector;
     QTimer m_timer; ///< leads back to the tab that the output mode allows

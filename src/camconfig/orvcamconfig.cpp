@@ -257,7 +257,7 @@ void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int 
     });
 }
 
-/// Null when the user picks none, and when the window goes meanwhile.
+/// Null when the user picks none, or when the window is destroyed.
 OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
 {
     if (!system)
@@ -270,7 +270,7 @@ OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
         return nullptr;
     }
 
-    // The window may be destroyed meanwhile, and this object and the picker with it.
+    // The window may be destroyed by then, and this object and the picker with it.
     const QPointer<OrvCameraSelectorDialog> picker(new OrvCameraSelectorDialog(system, q));
     picker->setWindowTitle(tr("Select a device"));
     const bool isAccepted = picker->exec() == QDialog::Accepted;
@@ -495,8 +495,8 @@ QSize OrvCamConfigPrivate::iconSize() const
     return QSize(1, 1) * qMax(extent, q->fontMetrics().height());
 }
 
-/// Each dialog gets the device that the window has by then: a dialog that reports an error waits
-/// for the user, and meanwhile a host may set another one.
+/// Each dialog gets the device that the window has by then: while a dialog reports an error, a host
+/// may set another one.
 void OrvCamConfigPrivate::handOver()
 {
     for (OrvCamConfigDialog *dialog : dialogs)
@@ -543,19 +543,19 @@ void OrvCamConfigPrivate::drop()
     emit q->deviceChanged(nullptr);
 }
 
-/// A camera that is back may be slow to tell all that the windows are going to show.
+/// The windows are restored when all their values have been read, which may take a while.
 void OrvCamConfigPrivate::awaitReturned()
 {
     if (device) {
         const QPointer<OrvCamConfig> window(q);
-        drop(); // that it was gone had not been noticed
+        drop(); // the disconnection has been missed
         if (!window || device || !watch.device())
             return;
     }
     int32_t error = OrvCam::Success;
     const OrvGenParam::Array *returned = watch.device()->GetParamArray(&error);
     if (!returned || error != OrvCam::Success)
-        return; // gone again, which is going to be told
+        return; // gone again, which is another event
     reader.setArray(returned);
     reader.whenKnown(this, this, FeatureReader::named(*returned, BoundFeatures::all()),
                      [this] { restore(); });
@@ -595,7 +595,7 @@ void OrvCamConfigPrivate::showBothFrames()
 
 void OrvCamConfigPrivate::refreshFrame()
 {
-    // What the camera tells is of the selected frame; the other column keeps what it shows.
+    // The camera's values are those of the selected frame; the other column keeps its numbers.
     const bool isWanted = frameMode == BothFrames ||
                           (frameMode == OnlyFrameA) == (selectedFrame == CameraHistory::FrameA);
     if (isWanted)

@@ -73,7 +73,7 @@ protected:
     FeatureReader::Names features() const override { return BoundFeatures::frameABDialog(); }
     void release() override;
     void bind() override;
-    void settle() override;
+    void afterBinding() override;
 
 private:
     class Writing;
@@ -151,7 +151,7 @@ class OrvCamConfigFrameABDialogPrivate::Writing
 {
 public:
     explicit Writing(OrvCamConfigFrameABDialogPrivate *part)
-        : m_part(part), m_tenure(part), m_step(part->mapper.journal())
+        : m_part(part), m_generation(part), m_step(part->mapper.journal())
     {
         m_part->isWriting = true;
     }
@@ -162,11 +162,11 @@ public:
     }
     Q_DISABLE_COPY(Writing)
 
-    bool isOver() const { return m_tenure.isOver(); }
+    bool isOver() const { return m_generation.isOver(); }
 
 private:
     OrvCamConfigFrameABDialogPrivate *const m_part;
-    const Tenure m_tenure;
+    const Generation m_generation;
     const FeatureJournal::Group m_step;
 };
 
@@ -267,7 +267,7 @@ void OrvCamConfigFrameABDialogPrivate::prepareToShow()
         frameTabs->prepareToShow();
 }
 
-void OrvCamConfigFrameABDialogPrivate::settle()
+void OrvCamConfigFrameABDialogPrivate::afterBinding()
 {
     isFitted = q->isVisible();
     if (isFitted)
@@ -283,7 +283,7 @@ void OrvCamConfigFrameABDialogPrivate::getNeededParams()
 {
     exposure = ExposureTime(array);
     gain = DigitalGain(array);
-    frameTabs = std::make_unique<FrameTabs>(ui, mapper, array);
+    frameTabs = std::make_unique<FrameTabs>(ui, mapper, reader(), array);
     watched(frameTabs->selector());
     for (const auto feature : {ExposureTime::PixelClock, ExposureTime::Lines, ExposureTime::Clocks,
                                ExposureTime::LineTime})
@@ -601,7 +601,7 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
     catchUp();
 }
 
-/// The box rounds its ends, which stand for those of the camera.
+/// The box rounds its ends, which are those of the camera.
 DigitalGain::Parts OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
 {
     const QtOrvDoubleSpinBoxVal *const box = ui.spBoxDigitalGain->spinBox();

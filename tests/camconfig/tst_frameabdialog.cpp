@@ -110,7 +110,7 @@ public:
     {
         QTest::mouseClick(tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
                           tabs()->tabBar()->tabRect(index).center());
-        settle();
+        processEvents();
     }
     void pick(const char *name, const QString &text)
     {
@@ -119,7 +119,7 @@ public:
         const int index = comboBox->findText(text);
         for (int i = 0; i < comboBox->count() && comboBox->currentIndex() != index; ++i)
             QTest::keyClick(comboBox, comboBox->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
-        settle();
+        processEvents();
     }
     void drag(const char *name, double part)
     {
@@ -127,9 +127,9 @@ public:
         const QPoint to(int(slider->width() * part), slider->height() / 2);
         dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
         QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
-        settle();
+        processEvents();
     }
-    static void settle()
+    static void processEvents()
     {
         for (int i = 0; i < 3; ++i)
             QCoreApplication::processEvents();
@@ -348,7 +348,7 @@ void TestFrameABDialog::withoutACamera()
     QVERIFY(!dialog.isEnabled());
     dialog.SetDevice(&camera.device);
     QVERIFY(dialog.isEnabled());
-    Dialog::settle();
+    Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
     QCOMPARE(camera.writes(), 0);
 
@@ -360,7 +360,7 @@ void TestFrameABDialog::withoutACamera()
     camera.device.error = OrvCam::Success;
     for (int i = 0; i < 2; ++i) // must not double anything
         dialog.SetDevice(&camera.device);
-    Dialog::settle();
+    Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
     const int writes = camera.writes();
     dialog.type("spBoxBlackLevel", 100);
@@ -378,11 +378,11 @@ void TestFrameABDialog::afterACameraWithOneFrame()
     dialog.clickTab(1); // the form stands there
     for (int i = 0; i < 2; ++i) {
         dialog.SetDevice(&single);
-        Dialog::settle();
+        Dialog::processEvents();
         QCOMPARE(dialog.tabs()->count(), 1);
         QVERIFY(dialog.get("grBoxWDR")->isVisible());
         dialog.SetDevice(&camera.device);
-        Dialog::settle();
+        Dialog::processEvents();
         QCOMPARE(dialog.tabs()->tabText(1), QString("FrameB"));
         VERIFY_SAME(dialog, camera);
     }
@@ -596,7 +596,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     QVERIFY(camera.value("Frame_ExposureLines") != 5);
     QVERIFY(camera.writes() <= writes + 3);
     box->slider()->hide();
-    Dialog::settle();
+    Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
 
     // A handle that is let go where it was taken writes nothing, although the time and the gain
@@ -631,7 +631,7 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
             both << camera.value("Frame_BlackLevel");
         }
         camera.choose("FrameAB_Selector", selected.toLatin1());
-        Dialog::settle();
+        Dialog::processEvents();
         return both;
     };
 
@@ -641,10 +641,10 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     QCOMPARE(dialog.shown("spBoxBlackLevel"), 80);
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
-    // Nor when somebody else does.
+    // Nor when another program does.
     dialog.type("spBoxBlackLevel", "300", false);
     camera.choose("FrameAB_Selector", "FrameA");
-    Dialog::settle();
+    Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
@@ -655,7 +655,7 @@ void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
     QVERIFY(dialog.shown("spBoxBlackLevel") > 400);
     camera.choose("FrameAB_Selector", "FrameB");
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
-    Dialog::settle();
+    Dialog::processEvents();
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
     VERIFY_SAME(dialog, camera);
 }
@@ -668,7 +668,7 @@ void TestFrameABDialog::otherProgramSelectsTheOtherFrame()
     // Who stays there is led back, once.
     const int writes = camera.writes();
     camera.choose("FrameAB_Selector", "FrameB");
-    Dialog::settle();
+    Dialog::processEvents();
     QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameA"));
     QCOMPARE(camera.writes(), writes + 2);
     VERIFY_SAME(dialog, camera);
@@ -676,9 +676,9 @@ void TestFrameABDialog::otherProgramSelectsTheOtherFrame()
     // Two dialogs do not quarrel.
     Dialog second(&camera.device);
     camera.choose("FrameMode", "FrameB");
-    Dialog::settle();
+    Dialog::processEvents();
     camera.choose("FrameAB_Selector", "FrameA");
-    Dialog::settle();
+    Dialog::processEvents();
     QVERIFY(camera.writes() <= writes + 2 + 6);
     VERIFY_SAME(dialog, camera);
     VERIFY_SAME(second, camera);
@@ -692,7 +692,7 @@ void TestFrameABDialog::unseenItLeavesTheFrameAlone()
     dialog.close();
     const auto select = [&](const char *frame) {
         QVERIFY(camera.choose("FrameAB_Selector", frame));
-        Dialog::settle();
+        Dialog::processEvents();
         QCOMPARE(camera.symbol("FrameAB_Selector"), QString(frame));
     };
     select("FrameB");
@@ -704,12 +704,12 @@ void TestFrameABDialog::unseenItLeavesTheFrameAlone()
     int writes = camera.writes();
     dialog.SetDevice(&camera.device);
     OrvCamConfigFrameABDialog unseen(&camera.device);
-    Dialog::settle();
+    Dialog::processEvents();
     QCOMPARE(camera.writes(), writes);
 
     // Shown, it puts that right.
     dialog.show();
-    Dialog::settle();
+    Dialog::processEvents();
     QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameA"));
     QCOMPARE(camera.writes(), writes + 1);
     VERIFY_SAME(dialog, camera);
@@ -923,7 +923,7 @@ void TestFrameABDialog::missingFeatures()
     camera.set("SensorClockDivider", 64);
     camera.choose("FrameAB_Selector", "FrameB");
     camera.choose("FrameMode", "FrameA");
-    Dialog::settle();
+    Dialog::processEvents();
     QCOMPARE(boxes.texts, none);
     if (widgets.isEmpty() && missing != "PixelClock")
         VERIFY_SAME(dialog, camera);
@@ -931,7 +931,7 @@ void TestFrameABDialog::missingFeatures()
     // A complete camera brings everything back.
     camera.device.part.missing.clear();
     dialog.SetDevice(&camera.device);
-    Dialog::settle();
+    Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
 }
 
@@ -960,7 +960,7 @@ void TestFrameABDialog::refusedWrites()
     // A frame that cannot be selected is tried once, not for ever.
     plain.selector.onWrite(throwRefusal);
     dialog.pick("cmBoxFrameMode", "FrameB");
-    Dialog::settle();
+    Dialog::processEvents();
     QCOMPARE(boxes.texts.size(), 2);
 
     // The output mode may become another one while the user reads that.
@@ -983,7 +983,7 @@ void TestFrameABDialog::otherCameraInTheMiddle()
         ErrorBoxes boxes;
         boxes.meanwhile = [&] { dialog.SetDevice(&camera.device); };
         dialog.type("spBoxExpTime", 1001);
-        Dialog::settle();
+        Dialog::processEvents();
         QCOMPARE(boxes.texts.size(), 1);
         QCOMPARE(camera.writes(), 0);
         VERIFY_SAME(dialog, camera);
@@ -1278,7 +1278,7 @@ void TestFrameABDialog::randomWalk()
     for (int i = 0; i < 2500; ++i) {
         const int before = camera.writes();
         const int allowed = walk.step();
-        Dialog::settle();
+        Dialog::processEvents();
         const int writes = camera.writes() - before - walk.ownWrites;
         const QString where = QString("step %1: %2").arg(i).arg(walk.what);
         QVERIFY2(boxes.texts.isEmpty(), qPrintable(where + ": " + boxes.texts.join(' ')));
