@@ -170,7 +170,8 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetMaxLength(OrvGenApiNode *node, int64_
 
 /*
  * The value of any kind as text, as settings files have it: decimal numbers with a point, or "0x"
- * and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names.
+ * and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names. Commands
+ * cannot be set.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetValueText(OrvGenApiNode *node, char *text, size_t size,
                                                      size_t *length);
