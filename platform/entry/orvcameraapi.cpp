@@ -65,7 +65,7 @@ void store(char *reason, std::size_t size, const char *text)
     OrvCam::copyUtf8(OrvCam::validUtf8(text), reason, size);
 }
 
-// Only systems and records of this library can do what is asked for here.
+// Only systems and records of this library have these functions.
 OrvCam::CameraSystem *ours(OrvCamSystem *system)
 {
     return dynamic_cast<OrvCam::CameraSystem *>(system);

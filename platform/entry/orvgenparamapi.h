@@ -185,8 +185,8 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_Execute(OrvGenApiNode *node);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_IsDone(OrvGenApiNode *node, int32_t *isDone);
 
 /*
- * Registers `changed` as a callback for changes of a parameter's value, limits or access. It runs on
- * the thread that calls this function, which must be the one that runs the default GLib main
+ * Registers `changed` as a callback for changes of a parameter's value, limits or access. It runs
+ * on the thread that calls this function, which must be the one that runs the default GLib main
  * context. A change made on that thread calls it at once, from inside the function that makes the
  * change. Changes by the camera or by other threads are collected and reported from the context.
  *

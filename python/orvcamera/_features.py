@@ -21,7 +21,7 @@ Value = Union[int, float, bool, str]
 
 
 class Entry(NamedTuple):
-    """An entry of an enumeration, as it was when it was asked for."""
+    """An entry of an enumeration, as it was when ``Feature.entries`` was read."""
 
     name: str  #: what ``Feature.value`` is when it is chosen
     display_name: str  #: to show a user
@@ -30,7 +30,7 @@ class Entry(NamedTuple):
 
 
 class Subscription:
-    """A callback that is told of changes until ``cancel`` or the end of a ``with`` block."""
+    """A callback for changes, which ends with ``cancel`` or a ``with`` block."""
 
     def __init__(self, feature: "Feature", callback: Callable[["Feature"], Any]) -> None:
         self._function = _native.CHANGED(lambda node, data: callback(feature))
@@ -56,8 +56,8 @@ class Subscription:
 class Feature:
     """A parameter, or a category of them. Made by ``camera["Name"]``; valid until it is closed.
 
-    What fails raises ``Error``. A value that is not known is asked for at the camera, which waits
-    for the answer; what is set is sent there.
+    What fails raises ``Error``. Reading a value that is not known, and every write, waits for the
+    camera.
     """
 
     def __init__(self, owner: "NodeMap", node: int) -> None:
@@ -187,7 +187,7 @@ class Feature:
 
     @property
     def text(self) -> str:
-        """The value of any kind as text, as settings files have it."""
+        """The value of any kind as text, as settings files have it. Commands cannot be set."""
         return ask_text("OrvGenParam_GetValueText", self._handle)
 
     @text.setter
@@ -262,7 +262,7 @@ class Feature:
         It is called on the thread that calls this, the one that opened the camera: at once for
         changes made on that thread, from ``orvcamera.process_events`` for all others, also those
         that the camera makes. What it raises goes to ``sys.unraisablehook``. It must not close the
-        camera.
+        camera or a window.
         """
         return self._owner._keep(Subscription(self, callback))
 
