@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "camconfig/featurereader.h"
 
+#include "camconfig/paramaccess.h"
+
 #include <OrvCam/Codes.h>
 #include <OrvGenParam.h>
+
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -119,6 +123,16 @@ FeatureReader::Params FeatureReader::named(const Array &array, const Names &feat
     return params;
 }
 
+bool FeatureReader::isReadable(const Param *param) const
+{
+    return get([=] { return OrvGui::isReadable(param); });
+}
+
+bool FeatureReader::isWritable(const Param *param) const
+{
+    return get([=] { return OrvGui::isWritable(param); });
+}
+
 bool FeatureReader::areKnown(const Params &params) const
 {
     return look([&] {
@@ -161,14 +175,14 @@ void FeatureReader::fetch()
 void FeatureReader::fetched()
 {
     m_request.reset();
-    const std::weak_ptr<bool> life = m_life;
+    const QPointer<QTimer> alive(&m_timer);
     while (!m_underWay.isEmpty()) {
         Waiting next = m_underWay.takeFirst();
         if (++next.rounds < maxRounds && lookAhead() && !areKnown(next.params))
             m_waiting.append(next);
         else
             next.call(); // which may set another array, or destroy this
-        if (life.expired())
+        if (!alive)
             return;
     }
     if (!m_waiting.isEmpty())

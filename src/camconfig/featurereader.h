@@ -59,6 +59,10 @@ public:
         return isKnown ? value : read();
     }
 
+    /// The access modes of a parameter; false for null.
+    bool isReadable(const OrvGenParam::Param *param) const;
+    bool isWritable(const OrvGenParam::Param *param) const;
+
     /// Calls the function as soon as all is known that can be read of the parameters: at once if
     /// that is so now. A later call for the same two replaces one that is still to come.
     void whenKnown(const void *owner, const void *subject, const Params &params,
@@ -85,7 +89,6 @@ private:
     QVector<Waiting> m_waiting;
     QVector<Waiting> m_underWay;
     std::unique_ptr<OrvGenParam::LookAhead::Request> m_request;
-    std::shared_ptr<bool> m_life = std::make_shared<bool>(true);
 };
 
 } // namespace OrvGui
