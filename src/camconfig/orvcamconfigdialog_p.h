@@ -2,9 +2,9 @@
 #pragma once
 
 #include "base/connections.h"
+#include "camconfig/dialogmapper.h"
 #include "camconfig/featurereader.h"
 #include "camconfig/orvcamconfigdialog.h"
-#include "camconfig/orvcamconfigmapper.h"
 
 #include <OrvGenParam/Array.h>
 
@@ -116,7 +116,7 @@ protected:
     OrvCamConfigDialog *q = nullptr;
     OrvCam::Device *device = nullptr;
     OrvGenParam::Array *array = nullptr; ///< the device's; null while the dialog is disabled
-    OrvCamConfigMapper mapper;
+    DialogMapper mapper;
 
 private:
     struct Watched
