@@ -19,7 +19,7 @@ namespace OrvGui {
 
 namespace {
 
-/// What changes faster than it can be read is shown as it comes.
+/// A value that changes faster than it can be read is shown after so many.
 const int maxRounds = 3;
 
 LookAhead *lookAheadOf(const Array *array)
@@ -46,7 +46,7 @@ void addEnum(const OrvGenParam::Enum *param, std::vector<LookAhead::Ask> &asks)
     }
 }
 
-/// One question each, so that one that must wait for an answer does not keep others back.
+/// One function for each value, so that one that waits for an answer does not delay others.
 void add(const Param *param, std::vector<LookAhead::Ask> &asks)
 {
     if (!param)
@@ -91,7 +91,7 @@ void FeatureReader::setArray(const Array *array)
     m_array = array;
 }
 
-/// Null as well while the camera is lost: nothing can be read, which takes no time.
+/// Null, too, while the camera is lost: then every read fails at once.
 LookAhead *FeatureReader::lookAhead() const
 {
     return lookAheadOf(m_array);
