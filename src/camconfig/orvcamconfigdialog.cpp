@@ -76,7 +76,7 @@ void OrvCamConfigDialogPrivate::rebind()
     ++m_generation;
     leaveParams();
     mapper.unmapAll();
-    m_handlers.reset(new QObject);
+    m_handlers.end();
     release();
 
     array = device ? paramsOf(device) : nullptr;

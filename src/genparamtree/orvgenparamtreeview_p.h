@@ -41,7 +41,6 @@ public:
     template<typename Source>
     void setModel(Source *source);
     void setModel(std::nullptr_t);
-    void installModel(QAbstractItemModel *model);
     void setLookAhead(TreeLookAhead *lookAhead);
     template<class Visit>
     void visitCategories(const QModelIndex &parent, const std::string &parentPath,
