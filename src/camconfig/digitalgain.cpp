@@ -26,11 +26,6 @@ const double fineSteps = 64.0;
 const double largestFactor = DigitalGain::step * std::numeric_limits<int>::max();
 const qint64 mostDoublings = 27;
 
-bool isWritable(const FeatureReader &reader, const Param *param)
-{
-    return param && reader.get([=] { return param->IsAvailable() && param->IsWritable(); });
-}
-
 /// The number of doublings stays where powers of two make sense.
 DigitalGain::Parts read(const FeatureReader &reader, int64_t (Int::*get)(int32_t *) const,
                         const Int *coarse, const Int *fine)
@@ -81,7 +76,7 @@ bool DigitalGain::isPart(const Param *param) const
 
 bool DigitalGain::isWritable(const FeatureReader &reader) const
 {
-    return OrvGui::isWritable(reader, m_coarse) || OrvGui::isWritable(reader, m_fine);
+    return reader.isWritable(m_coarse) || reader.isWritable(m_fine);
 }
 
 void DigitalGain::readValue(const FeatureReader &reader)

@@ -78,9 +78,8 @@ void FramesPanel::placeWide(QWidget *widget, int row, int columns)
 
 void FramesPanel::limitWidth(QLineEdit *field, bool isLimited)
 {
-    const QSize text =
-        field->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
-    FormFit::limitWidth(field, isLimited ? text.width() : QWIDGETSIZE_MAX);
+    const int width = FormFit::textWidth(field, QStringLiteral("xxxxxxxxxxxx"));
+    FormFit::limitWidth(field, isLimited ? width : QWIDGETSIZE_MAX);
     field->setMinimumWidth(isLimited ? qMin(field->sizeHint().width(), field->maximumWidth()) : 0);
 }
 
