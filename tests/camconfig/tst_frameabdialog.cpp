@@ -665,9 +665,10 @@ void TestFrameABDialog::otherProgramSelectsTheOtherFrame()
     Camera camera;
     Dialog dialog(&camera.device);
     const ErrorBoxes boxes;
-    // Who stays there is led back, once.
+    // It can read that frame; the selection is restored afterwards, once.
     const int writes = camera.writes();
     camera.choose("FrameAB_Selector", "FrameB");
+    QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
     Dialog::processEvents();
     QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameA"));
     QCOMPARE(camera.writes(), writes + 2);
