@@ -1006,6 +1006,20 @@ void TestOrvCamConfigMapper::dragEndsWithBinding()
     slider.setSliderDown(false);
     QCOMPARE(b.writes() + other.number.writes(), 0);
     QCOMPARE(boxes.texts.size(), 0);
+
+    // The first of the signals at the end of a drag destroys the mapper.
+    Bench compound(MapIntOrvSpinBox);
+    compound.bind();
+    connect(static_cast<QtOrvSpinBox *>(compound.widget),
+            static_cast<void (QtOrvSpinBox::*)(const QString &)>(&QtOrvSpinBox::valueChanged),
+            [&] { compound.mapper.reset(); });
+    auto *handle = compound.widget->findChild<QSlider *>();
+    handle->setSliderDown(true);
+    handle->setSliderPosition(7);
+    QVERIFY(compound.mapper);
+    handle->setSliderDown(false);
+    QVERIFY(!compound.mapper);
+    QCOMPARE(compound.writes(), 0);
 }
 
 void TestOrvCamConfigMapper::refusalReleasesHeldInput_data()
