@@ -14,7 +14,7 @@ cd "$root"
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 "$lupdate" -silent -locations none -no-obsolete -extensions cpp,ui \
-    -I src/api -I src/genparamtree -I src/browser -I src/widgets -I src/selector -I src/camconfig \
+    -I src \
     src apps -ts "$folder"/orvcameraguiapi_*.ts >"$log" 2>&1 </dev/null ||
     { cat "$log" >&2; exit 1; }
 # A text without its class would not be found when the program runs. What else lupdate says is about
