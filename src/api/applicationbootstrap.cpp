@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "applicationbootstrap.h"
+#include "api/applicationbootstrap.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>

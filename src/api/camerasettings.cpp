@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "orvcameraguiapi.h"
+#include "api/orvcameraguiapi.h"
 
-#include "orvcamerasettings.h"
+#include "settings/orvcamerasettings.h"
 
 #include <QStringList>
 

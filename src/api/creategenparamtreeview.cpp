@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "creategenparamtreeview.h"
+#include "api/creategenparamtreeview.h"
 
-#include "applicationbootstrap.h"
-#include "embedded.h"
-#include "orvfeaturebrowser.h"
-#include "orvgenparamtreeview.h"
+#include "api/applicationbootstrap.h"
+#include "api/embedded.h"
+#include "browser/orvfeaturebrowser.h"
+#include "genparamtree/orvgenparamtreeview.h"
 
 #include <Base/GCException.h>
 

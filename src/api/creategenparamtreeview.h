@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "iorvgenparamtreeview.h"
+#include "genparamtree/iorvgenparamtreeview.h"
 
 #include <QString>
 

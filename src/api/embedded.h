@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostwindow.h"
-#include "treeviewparent.h"
+#include "api/hostwindow.h"
+#include "api/treeviewparent.h"
 
 #include <QRect>
 #include <QTimer>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "hostwindow.h"
+#include "api/hostwindow.h"
 
 #include <QGuiApplication>
 #include <QSocketNotifier>

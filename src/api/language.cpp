@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "language.h"
+#include "api/language.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "orvcameraguiapi.h"
+#include "api/orvcameraguiapi.h"
 
-#include "applicationbootstrap.h"
-#include "creategenparamtreeview.h"
-#include "language.h"
-#include "orvcamconfig.h"
-#include "orvcamconfigcolordialog.h"
-#include "orvcamconfigoutputdialog.h"
-#include "orvcamconfigpulsedialog.h"
-#include "orvcamconfigstrobedialog.h"
-#include "orvcamconfigtriggerdialog.h"
-#include "orvfeaturebrowser.h"
-#include "selectcamera.h"
+#include "api/applicationbootstrap.h"
+#include "api/creategenparamtreeview.h"
+#include "api/language.h"
+#include "api/selectcamera.h"
+#include "browser/orvfeaturebrowser.h"
+#include "camconfig/orvcamconfig.h"
+#include "camconfig/orvcamconfigcolordialog.h"
+#include "camconfig/orvcamconfigoutputdialog.h"
+#include "camconfig/orvcamconfigpulsedialog.h"
+#include "camconfig/orvcamconfigstrobedialog.h"
+#include "camconfig/orvcamconfigtriggerdialog.h"
 
 #include <QApplication>
 #include <QCursor>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "selectcamera.h"
+#include "api/selectcamera.h"
 
-#include "applicationbootstrap.h"
-#include "hostwindow.h"
-#include "orvcameraselectordialog.h"
-#include "treeviewparent.h"
+#include "api/applicationbootstrap.h"
+#include "api/hostwindow.h"
+#include "api/treeviewparent.h"
+#include "selector/orvcameraselectordialog.h"
 
 #include <QScreen>
 

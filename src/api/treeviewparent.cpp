@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "treeviewparent.h"
+#include "api/treeviewparent.h"
 
-#include "hostwindow.h"
+#include "api/hostwindow.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QChildEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cameralibrary.h"
+#include "base/cameralibrary.h"
 
 #ifdef ORV_FIND_CAMERA_LIBRARY
 #include <dlfcn.h>

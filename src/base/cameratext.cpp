@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cameratext.h"
+#include "base/cameratext.h"
 
 namespace OrvGui {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "screenroom.h"
+#include "base/screenroom.h"
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "selectors.h"
+#include "base/selectors.h"
 
 #include <GenApi/GenApi.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "browsermodel.h"
+#include "browser/browsermodel.h"
 
 #include "genparamtree/genparamtreemodel.h"
 #include "genparamtree/knownvaluesmodel.h"

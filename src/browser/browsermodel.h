@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "featuremarks.h"
-#include "featuresearch.h"
+#include "browser/featuremarks.h"
+#include "browser/featuresearch.h"
 
 #include <GenApi/IValue.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "browserstate.h"
+#include "browser/browserstate.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "featuremarks.h"
+#include "browser/featuremarks.h"
 
-#include "genparamtree/genicamstring.h"
+#include "base/genicamstring.h"
 #include "genparamtree/genparamtreemodel.h"
 #include "settings/featurevalue.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "featuresearch.h"
-#include "genparamtree/featuremetatype.h"
-#include "selectorplace.h"
+#include "base/featuremetatype.h"
+#include "browser/featuresearch.h"
+#include "browser/selectorplace.h"
 
 #include <QHash>
 #include <QObject>

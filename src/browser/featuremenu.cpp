@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "featuremenu.h"
+#include "browser/featuremenu.h"
 
 #include "base/cameratext.h"
+#include "base/genicamstring.h"
 #include "base/selectors.h"
-#include "browsermodel.h"
-#include "genparamtree/genicamstring.h"
+#include "browser/browsermodel.h"
+#include "browser/selectorplace.h"
 #include "genparamtree/genparamtreemodel.h"
-#include "selectorplace.h"
 
 #include <GenApi/GenApi.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamtree/featuremetatype.h"
+#include "base/featuremetatype.h"
 
 #include <GenApi/IValue.h>
 

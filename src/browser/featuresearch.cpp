@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "featuresearch.h"
+#include "browser/featuresearch.h"
 
-#include "genparamtree/genicamstring.h"
+#include "base/genicamstring.h"
 
 #include <GenApi/GenApi.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "foundnamedelegate.h"
+#include "browser/foundnamedelegate.h"
 
-#include "genparamtree/readablecolors.h"
+#include "base/readablecolors.h"
 
 #include <QApplication>
 #include <QPainter>

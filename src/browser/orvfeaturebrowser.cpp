@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "orvfeaturebrowser_p.h"
+#include "browser/orvfeaturebrowser_p.h"
 
 #include "base/cameratext.h"
-#include "featuremenu.h"
-#include "genparamtree/genicamstring.h"
+#include "base/genicamstring.h"
+#include "browser/featuremenu.h"
 #include "genparamtree/genparamtreemodel.h"
 #include "genparamtree/knownvaluesmodel.h"
 

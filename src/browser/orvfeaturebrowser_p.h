@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "browsermodel.h"
-#include "browserstate.h"
-#include "foundnamedelegate.h"
+#include "browser/browsermodel.h"
+#include "browser/browserstate.h"
+#include "browser/foundnamedelegate.h"
+#include "browser/orvfeaturebrowser.h"
+#include "browser/selectortable.h"
 #include "genparamtree/featuretree.h"
 #include "genparamtree/orvgenparamtreeview_p.h"
 #include "journal/featurejournal.h"
 #include "journal/undoactions.h"
-#include "orvfeaturebrowser.h"
-#include "selectortable.h"
 
 #include <QHash>
 #include <QPersistentModelIndex>

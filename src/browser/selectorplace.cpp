@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "selectorplace.h"
+#include "browser/selectorplace.h"
 
+#include "base/genicamstring.h"
 #include "base/selectors.h"
-#include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamtree/selectormove.h"
+#include "base/selectormove.h"
 
 #include <GenApi/IValue.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "selectorreader.h"
+#include "browser/selectorreader.h"
 
+#include "base/genicamstring.h"
+#include "base/selectordetour.h"
 #include "genparamtree/featurecell.h"
-#include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamtreemodel_p.h"
-#include "genparamtree/selectordetour.h"
 
 #include <GenApi/GenApi.h>
 #include <OrvGenParam/LookAhead.h>

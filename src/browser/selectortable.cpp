@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "selectortable.h"
+#include "browser/selectortable.h"
 
 #include "base/cameratext.h"
+#include "base/genicamstring.h"
 #include "base/screenroom.h"
+#include "base/selectormove.h"
 #include "base/selectors.h"
-#include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamdelegate.h"
 #include "genparamtree/genparamtreemodel.h"
-#include "genparamtree/selectormove.h"
 
 #include <GenApi/GenApi.h>
 

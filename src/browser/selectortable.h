@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "browsermodel.h"
-#include "genparamtree/selectordetour.h"
-#include "genparamtree/selectorsinuse.h"
-#include "selectorreader.h"
+#include "base/selectordetour.h"
+#include "base/selectorsinuse.h"
+#include "browser/browsermodel.h"
+#include "browser/selectorreader.h"
 
 #include <QDialog>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "areapresets.h"
+#include "camconfig/areapresets.h"
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>

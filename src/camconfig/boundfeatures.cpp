@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "boundfeatures.h"
+#include "camconfig/boundfeatures.h"
 
 namespace OrvGui {
 

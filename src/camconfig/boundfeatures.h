@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "featurereader.h"
+#include "camconfig/featurereader.h"
 
 namespace OrvGui {
 

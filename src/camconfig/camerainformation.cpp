@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "camerainformation.h"
+#include "camconfig/camerainformation.h"
 
 #include "base/cameratext.h"
-#include "featurereader.h"
+#include "camconfig/featurereader.h"
 #include "ui_orvcamconfigaboutdialog.h"
 
 #include <OrvCam/Codes.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "devicewatch.h"
+#include "camconfig/devicewatch.h"
 
 #include <OrvCam/Device.h>
 

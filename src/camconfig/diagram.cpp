@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "diagram.h"
+#include "camconfig/diagram.h"
 
-#include "diagramdrawing.h"
+#include "camconfig/diagramdrawing.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "diagramdrawing.h"
+#include "camconfig/diagramdrawing.h"
 
 #include <QPainter>
 #include <QtMath>

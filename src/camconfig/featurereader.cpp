@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "featurereader.h"
+#include "camconfig/featurereader.h"
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "featuretooltip.h"
+#include "camconfig/featuretooltip.h"
 
 #include "base/cameratext.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "framenumbers.h"
+#include "camconfig/framenumbers.h"
 
-#include "featurereader.h"
+#include "camconfig/featurereader.h"
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "openingprogress.h"
+#include "camconfig/openingprogress.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigcolordialog.h"
+#include "camconfig/orvcamconfigcolordialog.h"
 
-#include "boundfeatures.h"
-#include "formfit.h"
-#include "orvcamconfigdialog_p.h"
+#include "base/formfit.h"
+#include "camconfig/boundfeatures.h"
+#include "camconfig/orvcamconfigdialog_p.h"
+#include "camconfig/uprightslider.h"
 #include "ui_orvcamconfigcolordialog.h"
 
 #include <OrvCam/Codes.h>
@@ -138,7 +139,7 @@ void OrvCamConfigColorDialogPrivate::showStatistics(const OrvGenParam::Param *pa
 void OrvCamConfigColorDialogPrivate::prepareToShow()
 {
     for (const Coefficient &coefficient : m_coefficients)
-        FormFit::fitUprightSlider(coefficient.spinBox);
+        fitUprightSlider(coefficient.spinBox);
 }
 
 OrvCamConfigColorDialog::OrvCamConfigColorDialog(OrvCam::Device *device, QWidget *parent)

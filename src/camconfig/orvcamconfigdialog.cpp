@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "base/formfit.h"
 #include "base/screenroom.h"
-#include "formfit.h"
-#include "orvcamconfigdialog_p.h"
+#include "camconfig/orvcamconfigdialog_p.h"
 
 #include "journal/undoactions.h"
 

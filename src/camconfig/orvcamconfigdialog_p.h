@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "featurereader.h"
-#include "orvcamconfigdialog.h"
-#include "orvcamconfigmapper.h"
+#include "camconfig/featurereader.h"
+#include "camconfig/orvcamconfigdialog.h"
+#include "camconfig/orvcamconfigmapper.h"
 
 #include <OrvGenParam/Array.h>
 

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigmapper.h"
+#include "camconfig/orvcamconfigmapper.h"
 
 #include "base/cameratext.h"
-#include "featurereader.h"
-#include "featuretooltip.h"
-#include "heldinput.h"
-#include "iorvcamconfigintconverter.h"
+#include "base/selectordetour.h"
+#include "camconfig/featurereader.h"
+#include "camconfig/featuretooltip.h"
+#include "camconfig/iorvcamconfigintconverter.h"
+#include "camconfig/wheelguard.h"
 #include "journal/featurejournal.h"
-#include "qtorvslider.h"
-#include "qtorvsliderspinbox.h"
-#include "qtorvspinbox.h"
-#include "qtorvspinboxval.h"
-#include "selectordetour.h"
-#include "valuegrid.h"
-#include "wheelguard.h"
+#include "widgets/heldinput.h"
+#include "widgets/qtorvslider.h"
+#include "widgets/qtorvsliderspinbox.h"
+#include "widgets/qtorvspinbox.h"
+#include "widgets/qtorvspinboxval.h"
+#include "widgets/valuegrid.h"
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigopening.h"
+#include "camconfig/orvcamconfigopening.h"
 
 #include "base/cameralibrary.h"
 #include "base/cameratext.h"
-#include "openingprogress.h"
+#include "camconfig/openingprogress.h"
 
 #include <OrvCam.h>
 

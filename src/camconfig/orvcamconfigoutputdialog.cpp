@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigoutputdialog.h"
+#include "camconfig/orvcamconfigoutputdialog.h"
 
-#include "boundfeatures.h"
-#include "formfit.h"
-#include "orvcamconfigdialog_p.h"
+#include "base/formfit.h"
+#include "camconfig/boundfeatures.h"
+#include "camconfig/orvcamconfigdialog_p.h"
+#include "camconfig/uprightslider.h"
 #include "ui_orvcamconfigoutputdialog.h"
-#include "valueaccessibility.h"
+#include "widgets/valueaccessibility.h"
 
 namespace OrvGui {
 
@@ -50,8 +51,8 @@ void OrvCamConfigOutputDialogPrivate::bind()
 
 void OrvCamConfigOutputDialogPrivate::prepareToShow()
 {
-    FormFit::fitUprightSlider(ui.spBoxDpcDynThres);
-    FormFit::fitUprightSlider(ui.spBoxHpcDynThres);
+    fitUprightSlider(ui.spBoxDpcDynThres);
+    fitUprightSlider(ui.spBoxHpcDynThres);
 }
 
 OrvCamConfigOutputDialog::OrvCamConfigOutputDialog(OrvCam::Device *device, QWidget *parent)

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigpulsedialog.h"
+#include "camconfig/orvcamconfigpulsedialog.h"
 
-#include "boundfeatures.h"
-#include "formfit.h"
-#include "orvcamconfigdialog_p.h"
-#include "qtorvslider.h"
+#include "base/formfit.h"
+#include "camconfig/boundfeatures.h"
+#include "camconfig/orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigpulsedialog.h"
+#include "widgets/qtorvslider.h"
 
 #include <QButtonGroup>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigstrobedialog.h"
+#include "camconfig/orvcamconfigstrobedialog.h"
 
-#include "boundfeatures.h"
-#include "formfit.h"
-#include "orvcamconfigdialog_p.h"
-#include "qtorvslider.h"
+#include "base/formfit.h"
+#include "camconfig/boundfeatures.h"
+#include "camconfig/orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigstrobedialog.h"
-#include "valueaccessibility.h"
+#include "widgets/qtorvslider.h"
+#include "widgets/valueaccessibility.h"
 
 namespace OrvGui {
 

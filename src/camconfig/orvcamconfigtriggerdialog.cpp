@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamconfigtriggerdialog.h"
+#include "camconfig/orvcamconfigtriggerdialog.h"
 
-#include "boundfeatures.h"
-#include "orvcamconfigdialog_p.h"
+#include "camconfig/boundfeatures.h"
+#include "camconfig/orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigtriggerdialog.h"
 
 namespace OrvGui {

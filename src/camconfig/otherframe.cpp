@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "otherframe.h"
+#include "camconfig/otherframe.h"
 
-#include "featurereader.h"
+#include "camconfig/featurereader.h"
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam.h>

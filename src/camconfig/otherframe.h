@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "framenumbers.h"
+#include "camconfig/framenumbers.h"
 
 #include <QByteArray>
 

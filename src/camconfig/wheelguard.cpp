@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wheelguard.h"
+#include "camconfig/wheelguard.h"
 
 #include <QAbstractSpinBox>
 #include <QComboBox>

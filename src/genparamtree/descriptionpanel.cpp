@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "descriptionpanel.h"
+#include "genparamtree/descriptionpanel.h"
 
-#include "genicamstring.h"
-#include "parameterdescription.h"
+#include "base/genicamstring.h"
+#include "genparamtree/parameterdescription.h"
 
 #include <Base/GCException.h>
 

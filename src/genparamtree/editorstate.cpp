@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "editorstate.h"
+#include "genparamtree/editorstate.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

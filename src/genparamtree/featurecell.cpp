@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "featurecell.h"
+#include "genparamtree/featurecell.h"
 
-#include "genicamstring.h"
-#include "genparamdelegate.h"
-#include "readablecolors.h"
+#include "base/genicamstring.h"
+#include "base/readablecolors.h"
+#include "genparamtree/genparamdelegate.h"
 
 #include <GenApi/GenApi.h>
 

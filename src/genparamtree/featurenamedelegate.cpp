@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "featurenamedelegate.h"
+#include "genparamtree/featurenamedelegate.h"
 
 #include "base/cameratext.h"
-#include "featurecell.h"
+#include "genparamtree/featurecell.h"
 
 namespace OrvGui {
 

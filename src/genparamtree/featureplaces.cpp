@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "featureplaces.h"
+#include "genparamtree/featureplaces.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "acyclicfeatures.h"
+#include "base/acyclicfeatures.h"
 
 #include <QObject>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "featuretree.h"
+#include "genparamtree/featuretree.h"
 
 #include "base/cameratext.h"
-#include "editorstate.h"
-#include "featurecell.h"
-#include "genparamtreemodel.h"
-#include "parameterdescription.h"
-#include "treelookahead.h"
+#include "genparamtree/editorstate.h"
+#include "genparamtree/featurecell.h"
+#include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/parameterdescription.h"
+#include "genparamtree/treelookahead.h"
 
 #include <QApplication>
 #include <QHelpEvent>

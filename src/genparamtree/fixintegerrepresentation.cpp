@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fixintegerrepresentation.h"
+#include "genparamtree/fixintegerrepresentation.h"
 
 #include <GenApi/INode.h>
 

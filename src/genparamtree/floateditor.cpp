@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "floateditor.h"
+#include "genparamtree/floateditor.h"
 
-#include "numbertext.h"
+#include "widgets/numbertext.h"
 
 namespace OrvGui {
 

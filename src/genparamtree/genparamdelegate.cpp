@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "genparamdelegate.h"
+#include "genparamtree/genparamdelegate.h"
 
 #include "base/cameratext.h"
-#include "fixintegerrepresentation.h"
-#include "floateditor.h"
-#include "genicamstring.h"
-#include "genparamtreemodel.h"
-#include "ip4validator.h"
+#include "base/genicamstring.h"
+#include "base/ip4validator.h"
+#include "genparamtree/fixintegerrepresentation.h"
+#include "genparamtree/floateditor.h"
+#include "genparamtree/genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>
 

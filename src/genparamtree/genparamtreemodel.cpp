@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "genparamtreemodel_p.h"
+#include "genparamtree/genparamtreemodel_p.h"
 
-#include "fixintegerrepresentation.h"
-#include "genicamstring.h"
-#include "ip4validator.h"
-#include "macaddress.h"
-#include "parameterdescription.h"
-#include "selectordetour.h"
+#include "base/genicamstring.h"
+#include "base/ip4validator.h"
+#include "base/macaddress.h"
+#include "base/selectordetour.h"
+#include "genparamtree/fixintegerrepresentation.h"
+#include "genparamtree/parameterdescription.h"
 
 #include <OrvGenParam/Array.h>
 #include <OrvGenParam/LookAhead.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "featureplaces.h"
-#include "genparamtreemodel.h"
+#include "genparamtree/featureplaces.h"
+#include "genparamtree/genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "genparamtreevisibilityfilterproxymodel.h"
+#include "genparamtree/genparamtreevisibilityfilterproxymodel.h"
 
-#include "genparamtreemodel.h"
+#include "genparamtree/genparamtreemodel.h"
 
 #include <Base/GCException.h>
 #include <GenApi/INode.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "knownvaluesmodel.h"
+#include "genparamtree/knownvaluesmodel.h"
 
-#include "genparamtreemodel.h"
-#include "treelookahead.h"
+#include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/treelookahead.h"
 
 #include <QHash>
 #include <QPalette>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamtreevisibilityfilterproxymodel.h"
+#include "genparamtree/genparamtreevisibilityfilterproxymodel.h"
 
 #include <GenApi/IValue.h>
 

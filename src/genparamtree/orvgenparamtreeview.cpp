@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "orvgenparamtreeview_p.h"
+#include "genparamtree/orvgenparamtreeview_p.h"
 
-#include "featurenamedelegate.h"
-#include "genparamtreemodel.h"
-#include "treeviewresizer.h"
+#include "base/treeviewresizer.h"
+#include "genparamtree/featurenamedelegate.h"
+#include "genparamtree/genparamtreemodel.h"
 #include "ui_genparamtreeview.h"
 
 #include <GenApi/GenApi.h>

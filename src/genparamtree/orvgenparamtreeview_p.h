@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "knownvaluesmodel.h"
-#include "orvgenparamtreeview.h"
-#include "safedelegate.h"
-#include "treelookahead.h"
+#include "genparamtree/knownvaluesmodel.h"
+#include "genparamtree/orvgenparamtreeview.h"
+#include "genparamtree/safedelegate.h"
+#include "genparamtree/treelookahead.h"
 
 #include <QPointer>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "parameterdescription.h"
+#include "genparamtree/parameterdescription.h"
 
 #include "base/cameratext.h"
-#include "genicamstring.h"
-#include "genparamtreemodel.h"
-#include "treelookahead.h"
+#include "base/genicamstring.h"
+#include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/treelookahead.h"
 
 #include <GenApi/GenApi.h>
 

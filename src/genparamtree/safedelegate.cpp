@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "safedelegate.h"
+#include "genparamtree/safedelegate.h"
 
 #include "base/cameratext.h"
-#include "editorstate.h"
-#include "featurecell.h"
-#include "genparamtreemodel.h"
-#include "treelookahead.h"
-#include "valueaccessibility.h"
+#include "genparamtree/editorstate.h"
+#include "genparamtree/featurecell.h"
+#include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/treelookahead.h"
+#include "widgets/valueaccessibility.h"
 
 #include <GenApi/GenApi.h>
 

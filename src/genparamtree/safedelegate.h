@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamdelegate.h"
+#include "genparamtree/genparamdelegate.h"
 
 #include <QModelIndex>
 #include <QPointer>

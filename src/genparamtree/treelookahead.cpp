@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "treelookahead.h"
+#include "genparamtree/treelookahead.h"
 
-#include "featurecell.h"
-#include "genparamtreemodel_p.h"
-#include "parameterdescription.h"
+#include "genparamtree/featurecell.h"
+#include "genparamtree/genparamtreemodel_p.h"
+#include "genparamtree/parameterdescription.h"
 
 #include <GenApi/GenApi.h>
 

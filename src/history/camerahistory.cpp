@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "camerahistory.h"
+#include "history/camerahistory.h"
 
-#include "historycaption.h"
-#include "historywindow.h"
+#include "history/historycaption.h"
+#include "history/historywindow.h"
 
 #include <QDateTime>
 

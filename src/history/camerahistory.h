@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "samplering.h"
+#include "history/samplering.h"
 
 #include <QPointer>
 #include <QString>

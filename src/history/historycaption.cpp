@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "historycaption.h"
+#include "history/historycaption.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

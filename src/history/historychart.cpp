@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "historychart.h"
+#include "history/historychart.h"
 
-#include "genparamtree/readablecolors.h"
-#include "numbertext.h"
+#include "base/readablecolors.h"
+#include "widgets/numbertext.h"
 
 #include <QAccessible>
 #include <QDateTime>

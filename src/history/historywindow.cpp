@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "historywindow.h"
+#include "history/historywindow.h"
 
 #include <QAccessible>
 #include <QAction>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "historychart.h"
+#include "history/historychart.h"
 
 #include <QDialog>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "samplering.h"
+#include "history/samplering.h"
 
 #include <cmath>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "featurejournal.h"
+#include "journal/featurejournal.h"
 
 #include "base/cameratext.h"
+#include "base/genicamstring.h"
+#include "base/selectormove.h"
 #include "base/selectors.h"
-#include "genparamtree/genicamstring.h"
-#include "genparamtree/selectormove.h"
-#include "genparamtree/selectorsinuse.h"
-#include "inputgesture.h"
+#include "base/selectorsinuse.h"
+#include "journal/inputgesture.h"
 
 #include <GenApi/GenApi.h>
 #include <OrvGenParam/LookAhead.h>

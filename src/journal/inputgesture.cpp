@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "inputgesture.h"
+#include "journal/inputgesture.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "undoactions.h"
+#include "journal/undoactions.h"
 
 #include "base/cameratext.h"
 

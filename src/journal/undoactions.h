@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "featurejournal.h"
+#include "journal/featurejournal.h"
 
 #include <QObject>
 #include <QPointer>

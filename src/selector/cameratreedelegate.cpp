@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "cameratreedelegate.h"
+#include "selector/cameratreedelegate.h"
 
 #include "base/cameratext.h"
-#include "devicetreenode.h"
+#include "selector/devicetreenode.h"
 
 #include <OrvCam.h>
 

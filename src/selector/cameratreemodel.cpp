@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cameratreemodel.h"
+#include "selector/cameratreemodel.h"
 
 CameraTreeModel::CameraTreeModel(OrvCam::System *system, QObject *parent)
     : DeviceTreeModel(system, parent)

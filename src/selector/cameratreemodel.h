@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "devicetreemodel.h"
+#include "selector/devicetreemodel.h"
 
 #include <QSet>
 

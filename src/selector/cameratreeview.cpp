@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "cameratreeview.h"
+#include "selector/cameratreeview.h"
 
-#include "cameratreedelegate.h"
-#include "waitcursor.h"
+#include "selector/cameratreedelegate.h"
+#include "selector/waitcursor.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

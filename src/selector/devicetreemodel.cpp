@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "devicetreemodel.h"
+#include "selector/devicetreemodel.h"
 
 DeviceTreeModel::DeviceTreeModel(OrvCam::System *system, QObject *parent)
     : QAbstractItemModel(parent)

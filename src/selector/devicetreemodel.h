@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "devicetreenode.h"
+#include "selector/devicetreenode.h"
 
 #include <QAbstractItemModel>
 

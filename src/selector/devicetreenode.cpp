@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "devicetreenode.h"
+#include "selector/devicetreenode.h"
 
-#include "devicetreemodel.h"
+#include "selector/devicetreemodel.h"
 
 #include <OrvCam.h>
 

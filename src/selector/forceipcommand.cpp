@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "forceipcommand.h"
+#include "selector/forceipcommand.h"
 
-#include "waitcursor.h"
+#include "selector/waitcursor.h"
 
 #include <OrvCam.h>
 #include <OrvGenParam.h>

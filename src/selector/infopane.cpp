@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "infopane.h"
+#include "selector/infopane.h"
 
 #include "base/cameratext.h"
-#include "treeviewresizer.h"
+#include "base/treeviewresizer.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "orvcameraselectordialog.h"
+#include "selector/orvcameraselectordialog.h"
 
 #include "base/cameratext.h"
+#include "base/ip4validator.h"
+#include "base/macaddress.h"
 #include "base/screenroom.h"
-#include "cameratreemodel.h"
-#include "forceipcommand.h"
-#include "infopane.h"
-#include "ip4validator.h"
-#include "macaddress.h"
-#include "setipdialog.h"
+#include "selector/cameratreemodel.h"
+#include "selector/forceipcommand.h"
+#include "selector/infopane.h"
+#include "selector/setipdialog.h"
+#include "selector/usedaddresses.h"
+#include "selector/waitcursor.h"
 #include "ui_orvcameraselectordialog.h"
-#include "usedaddresses.h"
-#include "waitcursor.h"
 
 #include <OrvCam.h>
 #include <OrvGenParam.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "readablelabel.h"
+#include "selector/readablelabel.h"
 
-#include "readablecolors.h"
+#include "base/readablecolors.h"
 
 #include <QPainter>
 #include <QStyle>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "setipdialog.h"
+#include "selector/setipdialog.h"
 
-#include "ip4validator.h"
-#include "macaddress.h"
+#include "base/ip4validator.h"
+#include "base/macaddress.h"
 #include "ui_setipdialog.h"
 
 namespace {

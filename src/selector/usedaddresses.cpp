@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "usedaddresses.h"
+#include "selector/usedaddresses.h"
 
-#include "ip4validator.h"
+#include "base/ip4validator.h"
 
 namespace {
 

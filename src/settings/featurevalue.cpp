@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "featurevalue.h"
+#include "settings/featurevalue.h"
 
 #include "base/cameratext.h"
+#include "base/genicamstring.h"
 #include "genparamtree/fixintegerrepresentation.h"
-#include "genparamtree/genicamstring.h"
 #include "genparamtree/genparamtreemodel_p.h"
 
 #include <QStringList>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "orvcamerasettings.h"
+#include "settings/orvcamerasettings.h"
 
-#include "featurevalue.h"
-#include "genparamtree/genicamstring.h"
-#include "selectors.h"
-#include "settingscomparison.h"
-#include "settingsorder.h"
-#include "settingsreader.h"
-#include "settingswriter.h"
+#include "base/genicamstring.h"
+#include "settings/featurevalue.h"
+#include "settings/selectors.h"
+#include "settings/settingscomparison.h"
+#include "settings/settingsorder.h"
+#include "settings/settingsreader.h"
+#include "settings/settingswriter.h"
 
-#include "orvcameraguiapi_version.h"
+#include "base/orvcameraguiapi_version.h"
 
 #include <QElapsedTimer>
 #include <QSet>

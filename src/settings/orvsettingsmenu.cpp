@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "orvsettingsmenu.h"
+#include "settings/orvsettingsmenu.h"
 
 #include "base/cameratext.h"
-#include "featurevalue.h"
 #include "journal/featurejournal.h"
-#include "orvcamerasettings.h"
-#include "settingscomparison.h"
-#include "settingsjob.h"
-#include "settingsorder.h"
-#include "settingsreader.h"
-#include "settingstabledialog.h"
-#include "settingswriter.h"
-#include "usersets.h"
+#include "settings/featurevalue.h"
+#include "settings/orvcamerasettings.h"
+#include "settings/settingscomparison.h"
+#include "settings/settingsjob.h"
+#include "settings/settingsorder.h"
+#include "settings/settingsreader.h"
+#include "settings/settingstabledialog.h"
+#include "settings/settingswriter.h"
+#include "settings/usersets.h"
 
 #include <QAction>
 #include <QActionGroup>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "selectors.h"
+#include "settings/selectors.h"
 
-#include "featurevalue.h"
-#include "genparamtree/genicamstring.h"
-#include "genparamtree/selectordetour.h"
+#include "base/genicamstring.h"
+#include "base/selectordetour.h"
+#include "settings/featurevalue.h"
 
 #include <algorithm>
 

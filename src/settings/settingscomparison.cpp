@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "settingscomparison.h"
+#include "settings/settingscomparison.h"
 
-#include "featurevalue.h"
-#include "selectors.h"
+#include "settings/featurevalue.h"
+#include "settings/selectors.h"
 
 #include <QHash>
 #include <QSet>

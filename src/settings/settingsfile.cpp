@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settingsfile.h"
+#include "settings/settingsfile.h"
 
 #include "base/cameratext.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "setting.h"
+#include "settings/setting.h"
 
 #include <QCoreApplication>
 #include <QStringList>

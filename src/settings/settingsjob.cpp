@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settingsjob.h"
+#include "settings/settingsjob.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "settingsorder.h"
+#include "settings/settingsorder.h"
 
-#include "genparamtree/genicamstring.h"
-#include "selectors.h"
+#include "base/genicamstring.h"
+#include "settings/selectors.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "settingsreader.h"
+#include "settings/settingsreader.h"
 
+#include "base/acyclicfeatures.h"
 #include "base/cameratext.h"
-#include "featurevalue.h"
-#include "genparamtree/acyclicfeatures.h"
-#include "genparamtree/genicamstring.h"
-#include "genparamtree/selectordetour.h"
+#include "base/genicamstring.h"
+#include "base/selectordetour.h"
+#include "settings/featurevalue.h"
 
 #include <OrvGenParam/LookAhead.h>
 

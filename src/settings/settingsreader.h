@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamtree/selectorsinuse.h"
-#include "selectors.h"
-#include "settingsfile.h"
+#include "base/selectorsinuse.h"
+#include "settings/selectors.h"
+#include "settings/settingsfile.h"
 
 #include <GenApi/GenApi.h>
 

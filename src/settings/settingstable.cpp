@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settingstable.h"
+#include "settings/settingstable.h"
 
 #include "base/cameratext.h"
 

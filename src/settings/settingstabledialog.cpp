@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settingstabledialog.h"
+#include "settings/settingstabledialog.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "settingstable.h"
+#include "settings/settingstable.h"
 
 #include <QDialog>
 

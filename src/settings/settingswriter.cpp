@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "settingswriter.h"
+#include "settings/settingswriter.h"
 
 #include "base/cameratext.h"
-#include "featurevalue.h"
-#include "settingsreader.h"
+#include "settings/featurevalue.h"
+#include "settings/settingsreader.h"
 
 #include <algorithm>
 #include <set>

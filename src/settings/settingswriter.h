@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamtree/selectorsinuse.h"
-#include "selectors.h"
+#include "base/selectorsinuse.h"
+#include "settings/selectors.h"
 
 #include <QCoreApplication>
 

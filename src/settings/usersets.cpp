@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "usersets.h"
+#include "settings/usersets.h"
 
-#include "featurevalue.h"
-#include "genparamtree/genicamstring.h"
-#include "genparamtree/selectorsinuse.h"
-#include "orvcamerasettings.h"
-#include "selectors.h"
+#include "base/genicamstring.h"
+#include "base/selectorsinuse.h"
+#include "settings/featurevalue.h"
+#include "settings/orvcamerasettings.h"
+#include "settings/selectors.h"
 
 #include <OrvGenParam/LookAhead.h>
 

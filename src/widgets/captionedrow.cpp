@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "captionedrow.h"
+#include "widgets/captionedrow.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "heldinput.h"
+#include "widgets/heldinput.h"
 
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "numbertext.h"
+#include "widgets/numbertext.h"
 
 #include <QDoubleSpinBox>
 #include <QSpinBox>

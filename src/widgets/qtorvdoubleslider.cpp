@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "qtorvdoubleslider.h"
+#include "widgets/qtorvdoubleslider.h"
 
-#include "numbertext.h"
-#include "sliderface.h"
-#include "valueaccessibility.h"
-#include "valuegrid.h"
+#include "widgets/numbertext.h"
+#include "widgets/sliderface.h"
+#include "widgets/valueaccessibility.h"
+#include "widgets/valuegrid.h"
 
 #include <QEvent>
 #include <QLabel>

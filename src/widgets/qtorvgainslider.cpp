@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "qtorvgainslider.h"
+#include "widgets/qtorvgainslider.h"
 
-#include "qtorvdoublespinboxval.h"
-#include "valueaccessibility.h"
-#include "valuepair.h"
+#include "widgets/qtorvdoublespinboxval.h"
+#include "widgets/valueaccessibility.h"
+#include "widgets/valuepair.h"
 
 #include <QBoxLayout>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "qtorvsliderspinbox.h"
+#include "widgets/qtorvsliderspinbox.h"
 
-#include "qtorvspinboxval.h"
-#include "valueaccessibility.h"
-#include "valuepair.h"
+#include "widgets/qtorvspinboxval.h"
+#include "widgets/valueaccessibility.h"
+#include "widgets/valuepair.h"
 
 #include <QBoxLayout>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "qtorvspinboxval.h"
+#include "widgets/qtorvspinboxval.h"
 
-#include "numbertext.h"
-#include "valueaccessibility.h"
-#include "valuegrid.h"
+#include "widgets/numbertext.h"
+#include "widgets/valueaccessibility.h"
+#include "widgets/valuegrid.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "sliderface.h"
+#include "widgets/sliderface.h"
 
-#include "heldinput.h"
+#include "widgets/heldinput.h"
 
 #include <QBoxLayout>
 #include <QEvent>

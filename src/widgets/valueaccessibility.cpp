@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "valueaccessibility.h"
+#include "widgets/valueaccessibility.h"
 
-#include "numbertext.h"
-#include "qtorvdoubleslider.h"
-#include "qtorvdoublespinboxval.h"
-#include "qtorvgainslider.h"
-#include "qtorvslider.h"
-#include "qtorvsliderspinbox.h"
-#include "qtorvspinbox.h"
-#include "qtorvspinboxval.h"
+#include "widgets/numbertext.h"
+#include "widgets/qtorvdoubleslider.h"
+#include "widgets/qtorvdoublespinboxval.h"
+#include "widgets/qtorvgainslider.h"
+#include "widgets/qtorvslider.h"
+#include "widgets/qtorvsliderspinbox.h"
+#include "widgets/qtorvspinbox.h"
+#include "widgets/qtorvspinboxval.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

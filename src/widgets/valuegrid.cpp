@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "valuegrid.h"
+#include "widgets/valuegrid.h"
 
 #include <cmath>
 #include <limits>

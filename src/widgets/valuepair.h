@@ -2,9 +2,9 @@
 #ifndef VALUEPAIR_H
 #define VALUEPAIR_H
 
-#include "captionedrow.h"
-#include "qtorvdoubleslider.h"
-#include "qtorvslider.h"
+#include "widgets/captionedrow.h"
+#include "widgets/qtorvdoubleslider.h"
+#include "widgets/qtorvslider.h"
 
 #include <QObject>
 #include <QScopedValueRollback>

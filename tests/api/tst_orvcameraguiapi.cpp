@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "api/hostwindow.h"
 #include "ccalls.h"
-#include "hostwindow.h"
 
 #include <Base/GCException.h>
 #include <memorynodemap.h>

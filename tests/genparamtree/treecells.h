@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "genparamtreemodel.h"
+#include "genparamtree/genparamtreemodel.h"
 
 #include <GenApi/GenApi.h>
 

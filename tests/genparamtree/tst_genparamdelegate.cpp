@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "genparamdelegate.h"
+#include "genparamtree/genparamdelegate.h"
 
-#include "genparamtreemodel.h"
-#include "genparamtreevisibilityfilterproxymodel.h"
+#include "genparamtree/genparamtreemodel.h"
+#include "genparamtree/genparamtreevisibilityfilterproxymodel.h"
 #include "samplenodemap.h"
 #include "treecells.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "genparamtreemodel.h"
+#include "genparamtree/genparamtreemodel.h"
 #include "samplenodemap.h"
 #include "treecells.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "orvgenparamtreeview.h"
 
-#include "featurecell.h"
-#include "readablecolors.h"
+#include "base/readablecolors.h"
+#include "base/treeviewresizer.h"
+#include "genparamtree/featurecell.h"
 #include "samplenodemap.h"
 #include "treedriver.h"
-#include "treeviewresizer.h"
 
 #include <simulatednodemap.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "devicetreemodel.h"
 #include "fakecameras.h"
+#include "selector/devicetreemodel.h"
 
 #include <QAbstractItemModelTester>
 #include <QtTest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "ip4validator.h"
-#include "setipdialog.h"
+#include "base/ip4validator.h"
+#include "selector/setipdialog.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "qtorvslider.h"
 #include "ui_valuewidgets.h"
+#include "qtorvslider.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "selectordetour.h"
+#include "base/selectordetour.h"
 
 namespace OrvGui {
 

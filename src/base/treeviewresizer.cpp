@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "treeviewresizer.h"
+#include "base/treeviewresizer.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "selectordetour.h"
+#include "base/selectordetour.h"
 
 #include <GenApi/IValue.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "acyclicfeatures.h"
+#include "base/acyclicfeatures.h"
 
 namespace {
 

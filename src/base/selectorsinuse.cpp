@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "selectorsinuse.h"
+#include "base/selectorsinuse.h"
 
 #include <mutex>
 #include <set>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "selectormove.h"
+#include "base/selectormove.h"
 
-#include "genicamstring.h"
+#include "base/genicamstring.h"
 
 #include <GenApi/GenApi.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "iorvgenparamtreeview.h"
+#include "genparamtree/iorvgenparamtreeview.h"
 
 namespace OrvGui {
 

@@ -5,7 +5,6 @@
 
 class QLabel;
 class QScrollArea;
-class QtOrvSpinBox;
 class QWidget;
 
 /// Sizes of parts of a form that depend on each other across its layouts.
@@ -16,10 +15,6 @@ void align(const QList<QLabel *> &labels);
 
 /// Limits the width of a button or line edit; a style sheet's padding comes on top of it.
 void limitWidth(QWidget *widget, int width);
-
-/// Gives the slider that pops up upright the height of the spin box as its width, and as its height
-/// the width of the spin box without its caption.
-void fitUprightSlider(QtOrvSpinBox *spinBox);
 
 /// Makes the window large enough for all that stands in its scroll area, as far as its screen goes.
 void growToFit(QWidget *window, const QScrollArea *area);

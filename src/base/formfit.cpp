@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "formfit.h"
+#include "base/formfit.h"
 
 #include "base/screenroom.h"
-#include "qtorvspinbox.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -70,12 +69,6 @@ void FormFit::limitWidth(QWidget *widget, int width)
 {
     const bool isPadded = widget->style()->inherits("QStyleSheetStyle");
     widget->setMaximumWidth(isPadded ? qMax(width, widget->sizeHint().width()) : width);
-}
-
-void FormFit::fitUprightSlider(QtOrvSpinBox *spinBox)
-{
-    const QLabel *label = spinBox->leftLabel();
-    spinBox->resizeSlider(spinBox->height(), spinBox->width() - (label ? label->width() : 0));
 }
 
 void FormFit::growToFit(QWidget *window, const QScrollArea *area)

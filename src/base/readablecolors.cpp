@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "readablecolors.h"
+#include "base/readablecolors.h"
 
 #include <algorithm>
 #include <cmath>

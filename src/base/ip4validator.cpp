@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ip4validator.h"
+#include "base/ip4validator.h"
 
 #include <QStringList>
 

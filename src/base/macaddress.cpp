@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "macaddress.h"
+#include "base/macaddress.h"
 
 #include <QStringList>
 
