@@ -9,8 +9,8 @@
 // of what it causes in the event loop, painting included. It is the GUI thread's processor time, so
 // that other programs do not count. The second figure is the time per feature, which should not
 // grow with their number, the third one the longest time for which the thread did not work and did
-// not get to its event loop either. The features are in 100 categories, or in as many as asked for,
-// or in categories of as many features as asked for.
+// not get to its event loop either. The features are in 100 categories, in a given number of
+// categories, or in categories of a given number of features.
 //
 // The node map is in memory, or that of a GigE Vision camera that answers after so many
 // milliseconds. What is read from the camera after a call is part of what the call causes. A write
@@ -43,7 +43,7 @@ namespace {
 
 const int notificationCount = 200;
 
-/// As many features of all types and levels as asked for, spread over the categories.
+/// A given number of features of all types and levels, spread over the categories.
 class LargeNodeMap : public OrvGenApi::MemoryNodeMap
 {
 public:

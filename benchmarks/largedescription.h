@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// A description of as many features of all types and levels as asked for, spread over categories.
+/// A description of a given number of features of all types and levels, spread over categories.
 /// Each is a register; a quarter of them, the integers, depend on the feature "Selector".
 class LargeDescription
 {

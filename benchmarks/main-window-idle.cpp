@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What does the main window cost while nobody touches it?
+// What does the main window cost while it is idle?
 //
 //   main-window-idle [SECONDS]
 //
@@ -87,7 +87,7 @@ int main(int argc, char **argv)
         return 1;
     }
     BlockMeter meter;
-    letPass(3); // the windows are painted, and have asked for what they show
+    letPass(3); // the windows are painted, and have requested what they show
     counter.take();
     meter.takeLongest();
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Hardening of everything that is built: what compiler and linker can do against the abuse of faults
-# in memory. Whatever they do not know is left out; tests/packaging reads the result from the files.
+# in memory. Options that they do not know are left out; tests/packaging reads the result from the files.
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 include(CheckPIESupported)

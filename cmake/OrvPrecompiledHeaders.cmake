@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Precompiled headers for the tests of windows, each of which includes all of Qt's widgets; they
-# take half as long to compile with them. Off unless asked for: ccache serves several build folders
-# only without them, and a file that lacks an include is found only without them.
+# Precompiled headers for the library and the tests of windows, which include most of Qt's widgets;
+# they take half as long to compile with them. Off by default: ccache serves several build folders only without
+# them, and only without them is a missing include found.
 
 # For a test that links Qt's widgets. The headers are compiled once for all of these.
 function(orv_precompile_test target)
@@ -25,4 +25,10 @@ function(orv_precompile_test target)
     # Some tests have it from a library that they link; the flags must be the same for all.
     target_compile_options(${target} PRIVATE -pthread)
     target_precompile_headers(${target} REUSE_FROM orv_precompiled_test)
+endfunction()
+
+function(orv_precompile_objects target)
+    if(ORV_PRECOMPILE_HEADERS)
+        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:<QtWidgets$<ANGLE-R>>")
+    endif()
 endfunction()

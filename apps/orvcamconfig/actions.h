@@ -23,14 +23,14 @@ class ActionRunner
 public:
     enum Models { SameModel, AnyModel };
 
-    /// `models` tells of which cameras files are loaded.
+    /// `models` says of which cameras files are loaded.
     ActionRunner(GenApi::INodeMap &map, Models models);
     ~ActionRunner();
 
     /// False when something was refused, or differs from a file.
     bool run(const Actions &actions);
 
-    /// What was asked for: names and values, differences; a tab between the columns.
+    /// The results: names and values, differences; a tab between the columns.
     QString text() const { return m_text; }
 
     /// What was refused and why, one a line.

@@ -42,8 +42,8 @@ public:
     static std::unique_ptr<FeatureSource> openCameraForText(OrvCam::DeviceInfo &camera,
                                                             QString *error);
 
-    /// Takes over an opened camera, whose system must outlive it. Null when it has vanished
-    /// meanwhile, with `error` one line.
+    /// Takes over an opened camera, whose system must outlive it. Null, with `error` one line,
+    /// when it has vanished since.
     static std::unique_ptr<FeatureSource> ofDevice(Released<OrvCam::Device> device, bool isReadOnly,
                                                    QString *error);
 

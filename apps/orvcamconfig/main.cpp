@@ -37,7 +37,7 @@ int fail(ExitStatus status, const QString &message)
     return status;
 }
 
-/// Ends the program for help and version. Needs no display, whatever is asked for.
+/// Ends the program for help and version. Needs no display.
 Options readOptions(int argc, char **argv, QString *error, QString *complaint)
 {
     QCoreApplication application(argc, argv);

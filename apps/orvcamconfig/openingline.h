@@ -5,8 +5,8 @@
 #include <QElapsedTimer>
 #include <QString>
 
-/// A line on the terminal that tells how far the opening of a camera has come, as long as the
-/// object lives; without a terminal there is none. Knows when an opening stands still.
+/// A line on the terminal that shows the progress of opening a camera, as long as the object
+/// lives; without a terminal there is none. Knows when an opening stands still.
 class OpeningLine
 {
     Q_DECLARE_TR_FUNCTIONS(OpeningLine)

@@ -53,7 +53,7 @@ int actionOf(const QString &argument)
     return -1;
 }
 
-/// "--get A B" as "--get A --get B", likewise for "--set": the parser does not tell where among the
+/// "--get A B" as "--get A --get B", likewise for "--set": the parser does not say where among the
 /// options other arguments were.
 QStringList withOneValueEach(const QStringList &arguments)
 {

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the user asked for on the command line.
+/// The options of the command line.
 struct Options
 {
     Q_DECLARE_TR_FUNCTIONS(Options)
@@ -25,7 +25,7 @@ public:
     QString description;   ///< file name; empty for a camera
     QString screenshot;    ///< file name; empty for none
     Actions actions;       ///< to be carried out without a window
-    bool json = false;     ///< what the actions have to tell
+    bool json = false;     ///< the results of the actions as JSON
     bool anyModel = false; ///< for settings files
     int visibility = 0;    ///< 0 Basic, 1 Expert, 2 Guru
     bool isVisibilityGiven = false;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A program that takes images with Aravis, and shows the features of the same camera meanwhile: in
-// a tree, or in the configuration window.
+// A program that takes images with Aravis and at the same time shows the features of that camera:
+// in a tree, or in the configuration window.
 //
 //   aravis-host [--main] [CAMERA]
 //

@@ -54,7 +54,7 @@ static int openWindow(Host *host)
     host->panel = createPanel(host, width, height);
     XMapWindow(host->display, host->panel);
     XMapWindow(host->display, host->window);
-    XSync(host->display, False); /* the panel must exist before anybody else hears of it */
+    XSync(host->display, False); /* the X server must know the panel before others use it */
     return 1;
 }
 

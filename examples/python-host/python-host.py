@@ -23,7 +23,7 @@ class Host:
         # A plain frame: one that is a container has ideas of its own about the size of its contents.
         self.panel = tkinter.Frame(self.window)
         self.panel.pack(fill="both", expand=True, padx=8, pady=(0, 8))
-        # The X server must know the windows before anybody else hears of them.
+        # The X server must know the windows before others use them.
         self.window.update()
         for number in (signal.SIGINT, signal.SIGTERM):
             signal.signal(number, lambda *_: self.window.quit())

@@ -43,7 +43,7 @@ void TwoTrees::restore(OrvGui::OrvGenParamTreeView &tree, const QString &key)
         tree.loadState(state.constData()); // the level first:
         tree.loadState(state.constData()); // what was expanded may not be shown at another one
     } catch (const std::logic_error &) {
-        // Somebody has edited the settings; the tree looks as it does without them.
+        // The stored state is not one of a tree; the tree opens without it.
     }
 }
 

@@ -36,7 +36,7 @@ class RegisterReader
 public:
     explicit RegisterReader(ArvDevice *device) : m_device(device) {}
 
-    /// UTF-8 whatever the camera sends.
+    /// Valid UTF-8 for all bytes that the camera can send.
     std::string text(const TextRegister &place)
     {
         std::string bytes(place.size, '\0');

@@ -10,8 +10,8 @@ typedef struct _ArvDevice ArvDevice;
 
 namespace OrvAravis {
 
-/// A device that somebody else has opened with Aravis, and goes on using. It keeps control and the
-/// stream; its registers are used, and a reference to it is held. May be used on any thread.
+/// A device that the host has opened with Aravis and continues to use. The host keeps control and
+/// the stream; its registers are used, and a reference to it is held. May be used on any thread.
 class AdoptedDevice
 {
 public:

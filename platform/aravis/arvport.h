@@ -14,8 +14,8 @@ namespace OrvAravis {
 class ArvPort final : public OrvCameraIo::Port
 {
 public:
-    /// For a lost device: the one that stands for the camera now, which may be the same; null when
-    /// the camera is not there.
+    /// For a lost device: the device that represents the camera now, which may be the same; null
+    /// when the camera is not there.
     using Reopen = std::function<std::shared_ptr<ArvDevice>()>;
 
     ArvPort(std::shared_ptr<ArvDevice> device, Reopen reopen);

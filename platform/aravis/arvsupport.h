@@ -16,7 +16,7 @@ namespace OrvAravis {
 /// else of Aravis, any number of times.
 void quieten();
 
-/// Frees the error; null stands for success.
+/// Frees the error; null means success.
 OrvCameraIo::Status takeStatus(GError *error);
 
 /// False when it is known that the device has no control of its camera, so that it can only read.

@@ -26,7 +26,7 @@ public:
     /// default main context.
     virtual void poll(int64_t elapsedMs) { nodeMap().Poll(elapsedMs); }
 
-    /// Who is told when the camera is lost and found; null for nobody. When this returns, no call
+    /// The listener to the camera being lost and found; null for none. When this returns, no call
     /// of the former listener is under way on another thread.
     virtual void setListener(OrvCameraIo::RegisterIoListener *listener) = 0;
 };

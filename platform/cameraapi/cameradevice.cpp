@@ -62,7 +62,7 @@ CameraDevice::~CameraDevice()
 {
     m_connection->setListener(nullptr);
     m_poller.reset();
-    // Whoever still shows the parameters learns that they are not available any more.
+    // Windows that still show the parameters are notified that these are not available any more.
     if (m_isConnected)
         m_array.detach(ErrorGone);
 }

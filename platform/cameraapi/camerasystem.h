@@ -17,8 +17,8 @@ class CameraSystem : public System, public std::enable_shared_from_this<CameraSy
 public:
     using Maker = std::shared_ptr<CameraSystem> (*)();
 
-    /// The system of this process, which `make` makes when nobody has it. Each call is paired with
-    /// one `Release`.
+    /// The system of this process, which `make` creates when there is none. Each call is paired
+    /// with one `Release`.
     static CameraSystem *acquire(Maker make);
 
     InterfaceList *GetInterfaceSet(uint32_t typeMask) override;

@@ -24,7 +24,7 @@ struct GevAddresses
     bool reaches(const GevAddresses &camera) const;
 };
 
-/// A GigE Vision interface, as far as its parameters show it.
+/// What the parameters of a GigE Vision interface show.
 class GevNetwork
 {
 public:

@@ -40,7 +40,7 @@ public:
     const std::string &description() const { return m_description; }
     SinkRegistrations &sinks() { return m_sinks; }
 
-    /// The sink is told of changes from now on, also when nobody reads the value.
+    /// The sink is notified of changes from now on, even when the value is never read.
     void addSink(ParamEventSink *sink);
 
     /// NI when it cannot be found out.
@@ -56,7 +56,7 @@ public:
             function();
             return OrvCam::Success;
         } catch (const OrvGenApi::NotYetKnown &) {
-            throw; // somebody only looks
+            throw; // the caller does not wait for the camera
         } catch (...) {
             return codeOfException(m_node);
         }

@@ -30,11 +30,12 @@ public:
                           std::thread::id homeThread = std::this_thread::get_id());
     ~NodeMapArray() override;
 
-    /// Has every call from now on answer `code`, without asking the node map, and tells the sinks.
-    /// For a camera that is no longer there. May be called on any thread.
+    /// Has every call from now on answer `code`, without asking the node map, and notifies the
+    /// sinks. For a camera that is no longer there. May be called on any thread.
     void detach(int32_t code);
 
-    /// Takes that back and tells the sinks: the camera is there again. May be called on any thread.
+    /// Takes that back and notifies the sinks: the camera is there again. May be called on any
+    /// thread.
     void attach() { detach(OrvCam::Success); }
 
     uint32_t GetCount() const override;

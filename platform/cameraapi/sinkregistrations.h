@@ -16,7 +16,7 @@ namespace OrvGenParam {
 class SinkRegistrations
 {
 public:
-    /// `param` is what the sinks are told; it need not outlive the registrations.
+    /// `param` is passed to the sinks; it need not outlive the registrations.
     explicit SinkRegistrations(Param *param);
     ~SinkRegistrations();
     SinkRegistrations(const SinkRegistrations &) = delete;

@@ -25,8 +25,8 @@ constexpr std::size_t archiveEntries = 100;
 constexpr std::size_t keptDescriptions = 100;
 constexpr uint64_t keptSize = 256u << 20;
 
-/// Nodes of a description, entries of enumerations included. Real ones have some thousand; this many
-/// take some 0.4 GB.
+/// Nodes of a description, entries of enumerations included. Real ones have some thousand; this
+/// many take some 0.4 GB.
 constexpr std::size_t nodeCount = 250000;
 
 /// Entries of one enumeration, which are all put into one list. Real ones have some hundred.
@@ -66,7 +66,7 @@ constexpr int64_t registerSize = 16 << 20;
 /// The bytes that are read of a text, however long its register is.
 constexpr int64_t textSize = 64 << 10;
 
-/// The bytes that are read for the text that stands for a raw register. A cell shows far fewer.
+/// The bytes that are read for the text of a raw register. A cell shows far fewer.
 constexpr int64_t shownBytes = 256;
 
 // Time on the cable
@@ -90,12 +90,12 @@ constexpr int lostAfterProbes = 4;
 /// A lost camera is looked for in the network so often.
 constexpr std::chrono::milliseconds reopeningPeriod{500};
 
-/// A register that the camera has refused is asked for again after so long, which doubles with each
+/// A register that the camera has refused is read again after so long, which doubles with each
 /// attempt up to the longer time.
 constexpr std::chrono::milliseconds refusalPause{2000};
 constexpr std::chrono::milliseconds longestRefusalPause{16000};
 
-/// What the camera is told to wait for before it gives a silent program's control to others.
+/// The heartbeat time-out that is set in the camera: a silent program loses control after it.
 constexpr std::chrono::milliseconds heartbeat{3000};
 
 // A network

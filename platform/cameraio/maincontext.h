@@ -6,8 +6,9 @@
 
 namespace OrvCameraIo::MainContext {
 
-// The default GLib main context, on which everything is told. Qt's event loop on Linux runs it, so
-// what is posted arrives on the thread that draws. All functions may be called on any thread.
+// The default GLib main context, on which all notifications arrive. Qt's event loop on Linux runs
+// it, so what is posted arrives on the thread that draws. All functions may be called on any
+// thread.
 
 /// Has `call` called once, soon.
 void post(std::function<void()> call);

@@ -100,13 +100,13 @@ public:
     /// is there. Called when nothing else is on the cable.
     virtual Presence probe() { return Presence::Answers; }
 
-    /// Has the call that is under way return soon, whatever becomes of it, and every later one at
+    /// Has the call that is under way return soon, with or without success, and every later one at
     /// once: the port is about to be destroyed. May be called on any thread.
     virtual void interrupt() {}
 
     /// For a camera that is lost: looks for it and connects anew. False when it is not there, is in
     /// use elsewhere, or has another description; `RegisterIo` tries again later. May take as long
-    /// as opening does; `isCancelled` becomes true when nobody wants it any more.
+    /// as opening does; `isCancelled` becomes true when the port is not needed any more.
     virtual bool reopen(const std::function<bool()> &isCancelled)
     {
         static_cast<void>(isCancelled);

@@ -17,7 +17,7 @@ using OrvGenApi::RegisterWrite;
 
 namespace {
 
-/// What somebody wants of the camera.
+/// A request to the camera.
 struct Job
 {
     std::vector<RegisterRange> reads;
@@ -64,14 +64,14 @@ public:
     void finish(const JobPtr &job);
     void failAll();
     void await(std::unique_lock<std::mutex> &lock, const JobPtr &job,
-               std::chrono::milliseconds patience);
+               std::chrono::milliseconds timeout);
 
     void attend(std::unique_lock<std::mutex> &lock);
     void answered(std::unique_lock<std::mutex> &lock);
     void unanswered(const std::vector<RegisterRange> &ranges);
     void probe(std::unique_lock<std::mutex> &lock);
     void lookForLost(std::unique_lock<std::mutex> &lock, Port::Presence presence);
-    void tell(std::unique_lock<std::mutex> &lock, void (RegisterIoListener::*event)());
+    void notify(std::unique_lock<std::mutex> &lock, void (RegisterIoListener::*event)());
 
     const std::unique_ptr<Port> port;
 
@@ -303,8 +303,8 @@ Status RegisterIo::Private::baseOf(std::unique_lock<std::mutex> &lock, const Reg
 
 // Silence
 
-void RegisterIo::Private::tell(std::unique_lock<std::mutex> &lock,
-                               void (RegisterIoListener::*event)())
+void RegisterIo::Private::notify(std::unique_lock<std::mutex> &lock,
+                                 void (RegisterIoListener::*event)())
 {
     lock.unlock();
     {
@@ -332,7 +332,7 @@ void RegisterIo::Private::answered(std::unique_lock<std::mutex> &lock)
     }
     sentInVain.clear();
     cache.forgetUnanswered(refused);
-    tell(lock, &RegisterIoListener::answersAgain);
+    notify(lock, &RegisterIoListener::answersAgain);
 }
 
 void RegisterIo::Private::unanswered(const std::vector<RegisterRange> &ranges)
@@ -365,7 +365,7 @@ void RegisterIo::Private::probe(std::unique_lock<std::mutex> &lock)
     isSilent = true;
     isLost = true;
     failAll();
-    tell(lock, &RegisterIoListener::lost);
+    notify(lock, &RegisterIoListener::lost);
     if (presence == Port::Presence::Forgotten && !isStopping)
         lookForLost(lock, presence);
 }
@@ -392,7 +392,7 @@ void RegisterIo::Private::lookForLost(std::unique_lock<std::mutex> &lock, Port::
     suspects.clear();
     lastAnswer = Clock::now();
     cache.clear();
-    tell(lock, &RegisterIoListener::found);
+    notify(lock, &RegisterIoListener::found);
 }
 
 // Those who ask
@@ -409,12 +409,12 @@ void RegisterIo::Private::storeUnanswered(const RegisterRange &range)
 }
 
 void RegisterIo::Private::await(std::unique_lock<std::mutex> &lock, const JobPtr &job,
-                                std::chrono::milliseconds patience)
+                                std::chrono::milliseconds timeout)
 {
     while (!job->isDone) {
         const unsigned before = job->progress;
         const bool hasMoved = progress.wait_for(
-            lock, patience, [&] { return job->isDone || job->progress != before; });
+            lock, timeout, [&] { return job->isDone || job->progress != before; });
         if (!hasMoved) {
             job->isDropped = true;
             return;

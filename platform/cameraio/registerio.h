@@ -44,7 +44,7 @@ public:
 /// The registers of an open camera: what is known of them, and the thread that transfers them.
 ///
 /// Looking never waits. Transfers run on the I/O thread (an immediate port's on the thread that
-/// asks), in the order of the requests, those that somebody waits for first. Results are known to
+/// asks), in the order of the requests, those with a waiting caller first. Results are known to
 /// all from the moment they arrive. All functions may be called on any thread.
 class RegisterIo
 {
@@ -79,7 +79,7 @@ public:
         std::vector<uint8_t> bytes;
     };
 
-    /// What was transferred at or after `since`, and within the last `maxAge`; zero stands for any
+    /// What was transferred at or after `since`, and within the last `maxAge`; zero means any
     /// age. Exactly the register that was transferred: part of a longer one may be another register
     /// to the camera.
     Known look(const RegisterRange &range, uint64_t since,

@@ -191,7 +191,7 @@ public:
     using DescribedNode::DescribedNode;
 };
 
-/// A node that has no value: a port, and what nobody here can make use of.
+/// A node that has no value: a port, and elements that the node map has no use for.
 class PlainNode : public DescribedNode<OrvGenApi::Node>
 {
 public:

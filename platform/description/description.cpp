@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t blockSize = 64 << 10;
 
-/// The descriptions that somebody has, by the hash of their text.
+/// The descriptions in use, by the hash of their text.
 class Registry
 {
 public:

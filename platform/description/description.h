@@ -69,7 +69,7 @@ public:
     Description(const Description &) = delete;
     Description &operator=(const Description &) = delete;
 
-    /// The one that somebody still has of the same text, otherwise a new one. Throws as above.
+    /// The one in use with the same text, otherwise a new one. Throws as above.
     static std::shared_ptr<const Description> shared(std::string_view xml,
                                                      const std::string &source);
 

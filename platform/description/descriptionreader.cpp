@@ -102,7 +102,7 @@ struct DescriptionReader::Callbacks
         handler.ignorableWhitespace = characters;
         handler.cdataBlock = characters;
         handler.internalSubset = documentType;
-        // Errors are asked for at the end; the library prints those that nobody takes.
+        // Errors are fetched at the end; without a handler the library prints them.
         handler.serror = [](void *, auto *) {};
         return handler;
     }
@@ -210,8 +210,8 @@ DescriptionReader::Kind DescriptionReader::kindOf(std::string_view tag, std::str
     case Kind::Entry:
         return Kind::Property;
     case Kind::Property:
-        // No property holds another one of its own kind; deeper nesting is an extension of some
-        // maker's that nobody here reads.
+        // No property holds another one of its own kind; deeper nesting is a vendor's
+        // extension and is not read.
         return parent.tag == "IntSwissKnife" ? Kind::Property : Kind::Ignored;
     case Kind::Ignored:
         break;

@@ -17,9 +17,9 @@ class FormulaNames;
 class Formula
 {
 public:
-    /// Looks up the number that one of `uses()` asks for. May throw `NotYetKnown`: the formula goes
-    /// on as far as it gets without the number. If there is no result, all other variables are
-    /// looked up as well, whatever comes of it, so that all that may be missing becomes known.
+    /// Looks up the number that one of `uses()` asks for. May throw `NotYetKnown`: the formula is
+    /// evaluated without the number where that is possible. If there is no result, all other
+    /// variables are looked up as well, so that all missing ones become known.
     using Look = std::function<FormulaNumber(const FormulaCode::Use &)>;
 
     /// `owner` is the name of the node, for messages.
@@ -35,8 +35,8 @@ public:
     bool canFail() const { return m_code.canFail; }
 
     /// The result, computed with integers, with floating-point numbers when functions are called.
-    /// Only the variables that count for the result can make it fail. Throws `RuntimeException` for a
-    /// division by 0, `NotYetKnown`, and what `look` throws.
+    /// Only the variables that count for the result can make it fail. Throws `RuntimeException` for
+    /// a division by 0, `NotYetKnown`, and what `look` throws.
     int64_t integer(const Look &look) const;
 
     /// The result, computed with floating-point numbers; what works on bits does so on integers.

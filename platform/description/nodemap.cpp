@@ -56,7 +56,7 @@ private:
     /// The map as long as it lives.
     struct Target
     {
-        std::recursive_mutex mutex; ///< recursive: who is told may destroy the map
+        std::recursive_mutex mutex; ///< recursive: a listener may destroy the map
         NodeMap *map = nullptr;
     };
 

@@ -19,7 +19,7 @@ struct NodeLinks;
 /// The node map of a device description.
 ///
 /// All nodes are made when the map is made and live as long as it; that reads nothing from the
-/// camera. Values, limits and access modes are read when they are asked for and kept until
+/// camera. Values, limits and access modes are read when they are queried and kept until
 /// something that they depend on changes.
 class NodeMap : public OrvGenApi::NodeMapBase
 {
@@ -42,7 +42,7 @@ public:
     /// Since the map was made.
     OrvCameraIo::Transactions transactions() const { return m_registers->transactions(); }
 
-    /// Who else wants to know what happens to the camera; null for nobody. When this returns, no
+    /// A further listener to the events of the camera; null for none. When this returns, no
     /// call of the former listener is under way.
     void setListener(OrvCameraIo::RegisterIoListener *listener);
 

@@ -198,7 +198,7 @@ NodeLinks *NodeMapBuilder::linksOf(std::string_view name) const
 void NodeMapBuilder::makeNode(const DescriptionNode &description)
 {
     if (NodeLinks *first = linksOf(description.name)) {
-        // Described twice: nobody can tell which description is meant.
+        // Described twice: it is not clear which description is meant.
         if (first->description->tag != "Category" && description.tag != "EnumEntry")
             first->isUnusable = true;
         return;

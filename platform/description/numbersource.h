@@ -158,7 +158,7 @@ private:
     bool m_isInteger;
 };
 
-/// A number that stands for another one, converted by a formula each way.
+/// A number that is another one converted, by a formula for each direction.
 class ConverterSource : public NumberSource
 {
 public:

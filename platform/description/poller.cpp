@@ -68,7 +68,7 @@ void Poller::poll(int64_t elapsedMs)
         startReading(due);
 }
 
-/// The registers that are to be read; those that nobody looks at are outdated.
+/// The registers that are to be read; those that are not looked at are outdated.
 std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
 {
     std::vector<NodeLinks *> due;

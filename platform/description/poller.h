@@ -13,12 +13,12 @@ namespace OrvDescription {
 struct NodeLinks;
 
 /// Polls the features of a node map that have a polling time: their registers are read in the
-/// background, all that are due in one batch. Only those whose bytes have changed are told and
+/// background, all that are due in one batch. Only those whose bytes have changed are notified and
 /// outdate what depends on them.
 ///
-/// A feature is polled as long as somebody looks at it, that is, as long as its value is asked for
-/// after each change, or somebody says that it is to be polled on (`Node::keepPolled`). One that
-/// nobody looks at is outdated when its time is up, so that the next question reaches the camera.
+/// A feature is polled as long as it is looked at, that is, as long as its value is queried after
+/// each change, or while it is kept polled (`Node::keepPolled`). Another one is outdated when its
+/// time is up, so that the next query reaches the camera.
 ///
 /// A register that the camera has refused is read again from time to time, whether it is polled or
 /// not: a camera that was busy, or in some other state, is not so for good.

@@ -7,9 +7,9 @@
 
 namespace OrvDescription {
 
-// The numbers that nodes are computed from: the value of another node, whatever its interface, read
-// or stored without any check of access or range and without telling anybody. The caller holds the
-// lock of the node map. A node that has no number throws `RuntimeException`.
+// The numbers that nodes are computed from: the value of another node of any interface, read or
+// stored without any check of access or range and without a notification. The caller holds the lock
+// of the node map. A node that has no number throws `RuntimeException`.
 
 int64_t rawInteger(OrvGenApi::Node &node);
 double rawReal(OrvGenApi::Node &node);

@@ -37,7 +37,7 @@ public:
     /// Whether the camera has refused the last read.
     bool wasRefused() const { return m_wasRefused; }
 
-    /// Whether somebody has asked for the value since this was set to false.
+    /// Whether the value has been queried since this was set to false.
     bool isLookedAt() const { return m_isLookedAt; }
     void setLookedAt(bool isLookedAt) { m_isLookedAt = isLookedAt; }
 

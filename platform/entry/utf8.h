@@ -5,7 +5,7 @@
 
 namespace OrvCam {
 
-/// UTF-8 whatever a camera has sent: each byte that is part of no character becomes U+FFFD.
+/// Valid UTF-8 of what a camera has sent: each byte that is part of no character becomes U+FFFD.
 std::string validUtf8(const std::string &bytes);
 
 } // namespace OrvCam

@@ -153,7 +153,7 @@ BatchRead::Result BatchRead::afterRefusal(const Kind &kind, const Items &items,
         command.limit = items.size() > 2 ? std::max<std::size_t>(done, 2) : 1;
         return readTogether(kind, rest);
     }
-    // The camera does not tell, so the rest is tried in halves, after a pair of registers when it
+    // The camera does not say, so the rest is tried in halves, after a pair of registers when it
     // may not take this command at all.
     const std::size_t half = (rest.size() + 1) / 2;
     const std::size_t first = command.worked > 1 ? half : std::min<std::size_t>(half, 2);

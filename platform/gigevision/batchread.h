@@ -13,7 +13,7 @@ struct BatchCommand
 {
     std::size_t limit = SIZE_MAX; ///< the number of registers up to which the camera takes it
     std::size_t worked = 0;       ///< as many registers were once read by one
-    bool tellsProgress = false;   ///< a refusal tells which register is refused
+    bool tellsProgress = false;   ///< a refusal says which register is refused
 };
 
 /// What is known of a camera that matters for reading its registers.

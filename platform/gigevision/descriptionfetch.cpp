@@ -94,7 +94,7 @@ public:
         m_result.mark.urlRegister = urlRegister;
     }
 
-    /// What tells it from others; false when there is none.
+    /// The mark of the description; false when there is none.
     bool readMark();
 
     FetchedDescription run(const Progress &progress);

@@ -10,7 +10,7 @@
 
 namespace OrvGigEVision {
 
-/// What tells a camera's description from another one, without all of its bytes.
+/// Identifies a camera's description without all of its bytes.
 struct DescriptionMark
 {
     std::string vendor;

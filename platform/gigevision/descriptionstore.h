@@ -26,7 +26,7 @@ public:
         uint32_t size = 0;
     };
 
-    /// An empty name stands for no folder, where nothing is kept.
+    /// With an empty name there is no folder, and nothing is kept.
     explicit DescriptionStore(std::string folder) : m_folder(std::move(folder)) {}
 
     /// The user's: in the folder that ORVCAM_DESCRIPTION_CACHE names, without that variable in

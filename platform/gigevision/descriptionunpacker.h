@@ -5,7 +5,7 @@
 
 namespace OrvGigEVision {
 
-/// The text of a description that is XML or a zip archive, which is told by its content.
+/// The text of a description that is XML or a zip archive, which is recognized by its content.
 struct UnpackedDescription
 {
     std::string text; ///< XML, at least it looks like it

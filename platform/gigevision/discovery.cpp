@@ -18,8 +18,8 @@ namespace {
 
 using Discoveries = std::vector<std::unique_ptr<Discovery>>;
 
-/// Everything is asked for several times, since packets get lost: cameras in every other of these
-/// rounds, who controls them in each of them.
+/// Everything is queried several times, since packets get lost: cameras in every other one of
+/// these rounds, their controllers in each.
 constexpr int rounds = 4;
 
 /// The answers of one adapter that are taken before it is the others' turn.

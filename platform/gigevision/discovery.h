@@ -24,8 +24,8 @@ struct AdapterCameras
     std::size_t unlisted = 0;
 };
 
-/// One search for cameras behind one adapter. It asks when it is told to, and is given the time to
-/// take answers; see `NetworkSearch`.
+/// One search for cameras behind one adapter. The caller decides when it sends and how long it
+/// takes answers; see `NetworkSearch`.
 class Discovery
 {
 public:
@@ -53,7 +53,7 @@ private:
     GvcpSocket m_socket;
     const uint16_t m_discoveryId;
     std::vector<GvCamera> m_cameras;
-    std::unordered_map<std::string, std::size_t> m_positions; ///< by what tells cameras apart
+    std::unordered_map<std::string, std::size_t> m_positions; ///< by identity
     std::unordered_set<std::size_t> m_unlisted;               ///< hashes of the same
     std::unordered_map<uint16_t, std::size_t> m_asked;        ///< camera by the id of the question
 };

@@ -25,7 +25,7 @@ struct GvCamera
     /// Another camera behind the same adapter has the same name.
     bool isNameShared = false;
 
-    /// MAC address, or manufacturer and serial number of a camera that does not tell its MAC
+    /// MAC address, or manufacturer and serial number of a camera without a MAC
     /// address.
     std::string name() const;
 

@@ -40,7 +40,7 @@ constexpr uint32_t canWriteMemory = 0x2;
 
 /// Values of `ControlPrivilege`.
 constexpr uint32_t controlPrivilege = 0x2;
-constexpr uint32_t controlPrivilegeMask = 0x3; ///< set while somebody has control
+constexpr uint32_t controlPrivilegeMask = 0x3; ///< set while a client has control
 
 using Packet = std::vector<uint8_t>;
 

@@ -42,7 +42,7 @@ public:
     /// Sends nothing to an address that the adapter does not reach.
     void send(const Gvcp::Packet &packet, uint32_t camera);
 
-    /// To every camera, whatever its address and the adapter's.
+    /// To every camera, also in other subnets than the adapter's.
     void broadcast(const Gvcp::Packet &packet);
 
     /// The next well-formed answer, valid until the next call; nothing when the time is up. What

@@ -40,8 +40,8 @@ struct OpenResult
 /// at all when a kept description is used.
 using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
-/// Waits until the camera is open or cannot be; it is looked for on the adapter's network, whatever
-/// its address. `adapterName` is a `NetworkAdapter::name`, `cameraId` a `GvCamera::id`. Both
+/// Waits until the camera is open or cannot be; it is looked for on the adapter's network, in any
+/// subnet. `adapterName` is a `NetworkAdapter::name`, `cameraId` a `GvCamera::id`. Both
 /// functions may be null; `isCancelled` is asked before each command.
 ///
 /// The port's control has to be kept alive from then on, by `probe`.

@@ -11,8 +11,8 @@
 namespace OrvGigEVision {
 
 enum class OpenMode {
-    Control, ///< reads and writes; nobody else can write as long as the port exists
-    Monitor  ///< reads; somebody else may have control
+    Control, ///< reads and writes; no other client can write as long as the port exists
+    Monitor  ///< reads; another client may have control
 };
 
 /// The registers of a GigE Vision camera. Made by `openCamera`.

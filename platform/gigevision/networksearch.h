@@ -13,16 +13,16 @@ namespace OrvGigEVision {
 class NetworkSearch
 {
 public:
-    /// What the last search has found behind that adapter, unless it was asked for this already, or
-    /// that search was shorter or ended a while ago: then there is a new one, which takes so long.
-    /// Empty when there is no such adapter any more.
+    /// What the last search has found behind that adapter, unless that has been returned already,
+    /// or that search was shorter or ended a while ago: then there is a new one, which takes so
+    /// long. Empty when there is no such adapter any more.
     AdapterCameras camerasOf(const std::string &adapterName, std::chrono::milliseconds time);
 
 private:
     void search(std::chrono::milliseconds time);
     bool isNew(std::chrono::milliseconds time) const;
 
-    std::map<std::string, AdapterCameras> m_found; ///< by the adapter's name, unless asked for
+    std::map<std::string, AdapterCameras> m_found; ///< by the adapter's name, until returned
     std::chrono::milliseconds m_time{0};
     Clock::time_point m_end;
 };

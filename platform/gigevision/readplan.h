@@ -9,7 +9,7 @@
 
 namespace OrvGigEVision {
 
-/// Memory that may be read although nobody asked for it: that of declared registers, without those
+/// Memory that may be read although it is not requested: that of declared registers, without those
 /// that the camera refuses.
 class ReadableMemory
 {

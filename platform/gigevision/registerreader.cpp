@@ -12,7 +12,7 @@ using OrvCameraIo::Status;
 
 namespace {
 
-/// A register that changes all the time tells nothing, so others are tried, too.
+/// A register that changes all the time proves nothing, so others are tried, too.
 constexpr int mostLooks = 4;
 
 /// A camera that does not concatenate may have to be asked for each register of a batch, and others

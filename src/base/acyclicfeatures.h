@@ -18,7 +18,7 @@ public:
     /// Looks for circles in all that can be reached from the category.
     void cutCircles(GenApi::ICategory &root);
 
-    /// The features in the order of the description. Empty when the category cannot tell.
+    /// The features in the order of the description. Empty when the category cannot be read.
     GenApi::FeatureList_t of(const GenApi::ICategory &category) const;
 
 private:

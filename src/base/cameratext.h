@@ -24,7 +24,7 @@ QString printable(const QString &text);
 /// As `cameraText` of UTF-8; empty for null.
 QString cameraText(const char *utf8, int longest = LongestText);
 
-/// Rich text that shows exactly this text, whatever markup it looks like; empty when that is empty.
+/// Rich text that shows exactly this text, its markup included; empty when that is empty.
 QString literally(const QString &text);
 
 } // namespace OrvGui

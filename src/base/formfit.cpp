@@ -15,7 +15,7 @@ namespace {
 
 const char scrollAreaName[] = "screenScrollArea";
 
-/// Has the size hint know of all changes. Layouts of hidden widgets do not tell their parents.
+/// Brings the size hint up to date. Layouts of hidden widgets do not notify their parents.
 void activateLayouts(QWidget *widget)
 {
     for (QObject *child : widget->children()) {

@@ -16,7 +16,7 @@ void align(const QList<QLabel *> &labels);
 /// Limits the width of a button or line edit; a style sheet's padding comes on top of it.
 void limitWidth(QWidget *widget, int width);
 
-/// Makes the window large enough for all that stands in its scroll area, as far as its screen goes.
+/// Makes the window large enough for the contents of its scroll area, within its screen.
 void growToFit(QWidget *window, const QScrollArea *area);
 
 /// Has a window scroll what its screen has no room for. The layout of the window then is that of

@@ -17,7 +17,7 @@ inline QString fromLatin1(const GenICam::gcstring &text)
     return QString::fromLatin1(text.c_str(), static_cast<int>(text.length()));
 }
 
-/// Descriptions are UTF-8, as XML is; some devices tell Latin-1 nevertheless.
+/// Descriptions are UTF-8, as XML is; some devices send Latin-1 nevertheless.
 inline QString fromUtf8OrLatin1(const GenICam::gcstring &text)
 {
     const QString decoded = fromUtf8(text);

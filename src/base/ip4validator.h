@@ -6,8 +6,8 @@
 /// Checks dotted-quad IPv4 text while it is typed, and converts between such text and a number.
 ///
 /// Addresses are held as unsigned 32-bit numbers whose most significant byte is the first group:
-/// 192.168.1.2 is 0xC0A80102. An empty text is acceptable, so that a field can be cleared; whoever
-/// needs an address has to ask for one.
+/// 192.168.1.2 is 0xC0A80102. An empty text is acceptable, so that a field can be cleared; a
+/// caller that needs an address has to check for it.
 class IP4Validator : public QValidator
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 #include <QColor>
 
 // Palettes and style sheets set some of their colours and leave others as they were, so text may
-// get a background that nobody has seen it on. These decide what can be read.
+// get a background that it was not designed for. These functions decide what can be read.
 
 namespace OrvGui {
 

@@ -13,7 +13,7 @@
 
 namespace OrvGui {
 
-/// Moves selectors and, at its end, back to where they were. Nothing on this thread is told of what
+/// Moves selectors and, at its end, back to where they were. Nothing on this thread is notified of
 /// changes in between; a selector that is in its place already does not move.
 class SelectorMove
 {

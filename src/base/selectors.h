@@ -7,7 +7,7 @@
 
 namespace OrvGui {
 
-/// The selectors that decide which value a feature stands for, those of selectors among them; the
+/// The selectors that decide which of its values a feature has, those of selectors among them; the
 /// outermost first. A description may make selectors select each other: each is listed once. No
 /// register is read. Throws the exceptions of GenICam.
 std::vector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature);

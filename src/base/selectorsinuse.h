@@ -8,7 +8,7 @@
 namespace OrvGui {
 
 /// While one exists, a thread moves the selectors of a node map, and lets others look at it in
-/// between. Whatever moves selectors on the GUI thread, or shows what depends on them, waits for
+/// between. Code that moves selectors on the GUI thread, or shows what depends on them, waits for
 /// the end.
 class SelectorsInUse
 {

@@ -130,7 +130,7 @@ bool EditorState::eventFilter(QObject *watched, QEvent *event)
 
 void EditorState::reportClosedList()
 {
-    emit dismissed(); // which an editor that a choice has closed no longer hears
+    emit dismissed(); // an editor that a choice has closed is no longer connected
 }
 
 void EditorState::noteTyping()

@@ -43,7 +43,7 @@ public:
     /// Null for an editor without a state.
     static EditorState *of(const QWidget *editor);
 
-    /// Whether the tree shows it, which it is told.
+    /// Whether the tree shows it; the tree sets this.
     bool isOpen() const { return m_isOpen; }
     void setOpen(bool on) { m_isOpen = on; }
 

@@ -17,8 +17,8 @@
 /// makes all hints void, because a feature may have got an earlier place; so does a feature that is
 /// not where its hint says. Then the tree is walked once, for all features.
 ///
-/// Lists are asked for anew each time. Only a list so long that this would cost the square of its
-/// length is kept, until the program is back in its event loop or the length is asked for.
+/// Lists are fetched each time. Only a list so long that this would cost the square of its
+/// length is kept, until the program is back in its event loop or the length is queried.
 ///
 /// `find` may be called on any thread, everything else belongs to the thread of the object.
 class FeaturePlaces : public QObject

@@ -5,7 +5,7 @@
 
 /// The representation to use for an integer: the declared one, except that the address features of
 /// GigE Vision are IPv4 addresses (subnet masks and gateways too) and "GevMACAddress" is a MAC
-/// address whatever the device description says of them.
+/// address; the representation in the device description is ignored.
 ///
 /// Everything that shows or edits integers asks here, so that a value and its editor agree.
 GenApi::ERepresentation FixIntegerRepresentation(GenApi::IInteger *node);

@@ -74,7 +74,7 @@ private:
     void captureMouseForEditor(QWidget *editor) const;
 };
 
-/// Ends editing when the user clicks anywhere outside the editor, in whatever window: watches all
+/// Ends editing when the user clicks anywhere outside the editor, in any window: watches all
 /// of the application's events for the first such press and takes the focus from the editor. Dies
 /// with the editor.
 class GenParamDelegate::MouseTracker : public QObject

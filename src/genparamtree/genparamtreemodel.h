@@ -29,7 +29,7 @@ class GenParamTreeModelPrivate;
 /// after the model was made are shown but not watched.
 ///
 /// The node map must outlive the model. The model belongs to the GUI thread; `dataChanged` is
-/// emitted on whatever thread changed the node.
+/// emitted on the thread that changed the node.
 class GenParamTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -57,8 +57,8 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
     /// Writes a value as GenICam's text, or executes a command, and reports it as `setData` does.
-    /// Empty on success, otherwise the reason for the refusal. Cells are not told: the feature
-    /// tells them.
+    /// Empty on success, otherwise the reason for the refusal. The notification of the feature
+    /// updates the cells.
     QString writeText(GenApi::IValue *feature, const QString &text);
 
     /// The value as GenICam's text; null when it cannot be read, and for a command. Waits for the

@@ -16,10 +16,10 @@ public:
     /// Registers a callback for every feature of the tree, once per place where it is listed.
     void Init(GenParamTreeModel *model);
 
-    /// Null when the index stands for no category.
+    /// Null when the index is not that of a category.
     GenApi::CCategoryPtr CategoryFromIndex(const QModelIndex &index) const;
 
-    /// Null when the index stands for no feature.
+    /// Null when the index is not that of a feature.
     static GenApi::IValue *valueFromIndex(const QModelIndex &index);
 
     void RegisterCallbackForChildren(const GenApi::CCategoryPtr &category);

@@ -22,7 +22,7 @@ namespace OrvGui {
 class TreeLookAhead;
 
 /// As `escapedDescription`, but of what the look-ahead knows. While something is missing the lines
-/// are left out that depend on values, and the result is false. Null stands for no look-ahead.
+/// are left out that depend on values, and the result is false. `lookAhead` may be null.
 bool knownDescription(GenApi::IValue *value, TreeLookAhead *lookAhead, QString *text);
 
 } // namespace OrvGui

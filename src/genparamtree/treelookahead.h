@@ -22,7 +22,8 @@ namespace OrvGui {
 ///
 /// What is missed until the program is back in its event loop is read together. Only one such read
 /// is under way at a time. What is missed in between comes after it; but when it takes long, or
-/// nothing of it is on the screen any more, it is replaced, and what is not on the screen is dropped.
+/// nothing of it is on the screen any more, it is replaced, and what is not on the screen is
+/// dropped.
 class TreeLookAhead : public QObject
 {
     Q_OBJECT
@@ -37,7 +38,7 @@ public:
         Everything ///< and what its description and its editor need
     };
 
-    /// Null for a node map that makes everybody wait. `shown` tells the features on the screen.
+    /// Null for a node map whose reads block. `shown` returns the features on the screen.
     static TreeLookAhead *create(GenApi::INodeMap *map, std::function<Features()> shown,
                                  QObject *parent);
 

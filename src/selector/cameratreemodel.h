@@ -9,7 +9,7 @@
 ///
 /// A tree view asks for more whenever it lays out an expanded row without children, several times
 /// over, also when only the font changes. Each time would block it. This model looks for cameras
-/// once per expansion; tell it when an interface is collapsed.
+/// once per expansion; the view reports when an interface is collapsed.
 class CameraTreeModel final : public DeviceTreeModel
 {
     Q_OBJECT

@@ -38,7 +38,7 @@ public:
     void fetchMore(const QModelIndex &parent) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Forgets the whole tree; what the view expands from now on is asked for afresh.
+    /// Forgets the whole tree; what the view expands from now on is queried again.
     void rescan();
 
 private:

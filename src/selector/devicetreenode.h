@@ -18,7 +18,7 @@ class DeviceTreeModel;
 Q_DECLARE_METATYPE(OrvCam::Interface *)
 Q_DECLARE_METATYPE(OrvCam::DeviceInfo *)
 
-/// A row of the device tree. It owns the rows below it and stands for an object of the camera
+/// A row of the device tree. It owns the rows below it and represents an object of the camera
 /// system, which it does not own.
 ///
 /// A node without children counts as not fetched yet, so that an interface on which no camera was

@@ -529,7 +529,7 @@ bool OrvCameraSelectorDialogPrivate::isWarningIgnored(const QString &reason)
                QMessageBox::Ok | QMessageBox::Ignore, reason) == QMessageBox::Ignore;
 }
 
-/// OK is for those who only want to get on. No button when the picker is destroyed meanwhile.
+/// OK is for those who only want to get on. No button when the picker is destroyed while it waits.
 QMessageBox::StandardButton
 OrvCameraSelectorDialogPrivate::ask(const QString &title, const QString &text,
                                     QMessageBox::StandardButtons buttons, const QString &reason)
@@ -557,7 +557,7 @@ bool OrvCameraSelectorDialogPrivate::setAddresses(const SetIpDialog &dialog,
            set("GevDeviceForceGateway", dialog.Gateway());
 }
 
-/// True also when the user gives up waiting, or the picker is destroyed meanwhile.
+/// True also when the user gives up waiting, or the picker is destroyed while it waits.
 bool OrvCameraSelectorDialogPrivate::force(OrvCam::Interface &interface,
                                            OrvGenParam::Array &parameters)
 {

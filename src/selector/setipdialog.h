@@ -8,8 +8,8 @@
 class QLineEdit;
 class Ui_SetIpDialog;
 
-/// Asks the user for the IPv4 configuration to force on a camera, and tells while he types whether
-/// it fits the network adapter.
+/// Asks the user for the IPv4 configuration to force on a camera, and shows during input whether it
+/// fits the network adapter.
 ///
 /// Fill it through the setters, those of the adapter first, run it modally, then read the addresses
 /// and the verdict. The user may accept any content, also what the verdict calls wrong. Addresses

@@ -34,7 +34,7 @@ void releaseMouse(QWidget *widget)
 {
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
-    // Nobody else is to hear of it; an event that is sent goes on to the parents if it is ignored.
+    // For this widget only: an event that is sent goes on to the parents if it is ignored.
     static_cast<QObject *>(widget)->event(&release);
 }
 

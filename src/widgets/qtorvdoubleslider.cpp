@@ -140,8 +140,8 @@ void QtOrvDoubleSlider::setRange(double min, double max)
     d->minimum = min;
     d->maximum = max;
     d->writeLabels();
-    // Whoever listens may set another range, which has been announced then. The ends don't tell:
-    // what is not a number equals nothing.
+    // A slot may set another range, which has been announced then. Comparing the ends does not show
+    // that: NaN equals nothing.
     const quint32 change = ++d->rangeChanges;
     d->setInnerRange();
     if (d->rangeChanges == change)

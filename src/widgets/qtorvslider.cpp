@@ -169,7 +169,7 @@ void QtOrvSliderPrivate::moveOneStep(int from, int sign)
         announce(value);
 }
 
-// Whoever listens may move the slider again, so that the value is noted down first.
+// A slot may move the slider again, so the value is stored first.
 void QtOrvSliderPrivate::announce(int value)
 {
     lastValue = value;
@@ -198,8 +198,8 @@ QtOrvSliderPrivate::KeyStep QtOrvSliderPrivate::keyStepOf(int key) const
 void QtOrvSliderPrivate::noteKey(int key)
 {
     pendingKeyStep = keyStepOf(key);
-    // A position that stands for several values stands for the one announced, unless a new range
-    // or scale has come in between.
+    // A position with several values means the one announced, unless a new range or scale has come
+    // in between.
     const bool isAnnounced = positionOf(lastValue) == slider->value();
     valueBeforeKey = isAnnounced ? snapped(lastValue) : currentValue();
 }
@@ -232,7 +232,7 @@ void QtOrvSlider::setRange(int min, int max)
     d->maximum = max;
     d->writeLabels();
     d->setInnerRange();
-    // Whoever listens may have set another range, which has been announced then.
+    // A slot may have set another range, which has been announced then.
     const auto isCurrent = [=] { return d->minimum == min && d->maximum == max; };
     if (isCurrent())
         emit rangeChanged(min, max);

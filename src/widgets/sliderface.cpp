@@ -64,8 +64,8 @@ void SliderFace::alignLabels()
 
 void SliderFace::endUnseenInput(const QEvent *event)
 {
-    // A groove starts to repeat only when its first step has been taken, and whoever listens to
-    // that may have hidden or disabled the slider.
+    // A groove starts to repeat only when its first step has been taken, and a slot may
+    // have hidden or disabled the slider by then.
     const bool repeats =
         event->type() == QEvent::Timer && !(slider->isVisible() && slider->isEnabled());
     // A slider that was disabled and is enabled again still follows the mouse that holds its

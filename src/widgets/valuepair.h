@@ -54,7 +54,7 @@ public:
     /** Sets the range of both; the spin box gets it from the slider. */
     void setRange(T min, T max)
     {
-        holdingValue([=] { slider->setRange(min, max); });
+        keepingValue([=] { slider->setRange(min, max); });
     }
 
     void setSingleStep(T step)
@@ -62,7 +62,7 @@ public:
         if (spinBox->singleStep() == step)
             return;
         spinBox->setSingleStep(step);
-        holdingValue([=] { slider->setSingleStep(step); });
+        keepingValue([=] { slider->setSingleStep(step); });
     }
 
     /** Changes the scale of the slider; the spin box keeps its value. */
@@ -90,7 +90,7 @@ private:
     static bool answers(const QtOrvDoubleSlider *) { return false; }
 
     template<class Change>
-    void holdingValue(Change change)
+    void keepingValue(Change change)
     {
         if (answers(slider))
             change();
@@ -112,8 +112,8 @@ private:
         if (answers(slider))
             slider->setValue(value);
         else
-            holdingValue([] {});
-        // A value that something has replaced meanwhile is no news any more.
+            keepingValue([] {});
+        // A value that has been replaced since is not reported.
         if (spinBox->value() == value)
             emit owner->valueChanged(spinBox->text());
         if (spinBox->value() == value)

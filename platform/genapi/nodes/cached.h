@@ -11,13 +11,13 @@
 
 namespace OrvGenApi {
 
-/// A result that is computed when it is first asked for and kept until it is dropped. A failure is
+/// A result that is computed when it is first queried and kept until it is dropped. A failure is
 /// kept like a value: asking again must not cost the camera another transaction. A time-out is not:
-/// it passes by itself when the camera answers again, and nobody waits for it twice, since the
+/// it passes by itself when the camera answers again, and no caller waits for it twice, since the
 /// registers of a silent camera fail at once.
 ///
-/// What is not yet known is not computed twice in a round of a question: many nodes may need it, and
-/// each would find all that is missing again.
+/// What is not yet known is not computed twice in a round of a question: many nodes may need it,
+/// and each would find all that is missing again.
 template<typename T>
 class Cached
 {

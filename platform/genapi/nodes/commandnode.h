@@ -5,7 +5,7 @@
 
 namespace OrvGenApi {
 
-/// Something the camera can be told to do. As text it is "1" while it is being done, "0" otherwise.
+/// A command of the camera. As text it is "1" while it is being executed, "0" otherwise.
 class CommandNode : public ValueNode<GenApi::ICommand>
 {
 public:
@@ -16,7 +16,7 @@ public:
     bool IsDone(bool verify = true) override;
     GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
 
-    /// Executes, whatever the text.
+    /// Executes; the text does not matter.
     void FromString(const GenICam::gcstring &text, bool verify = true) override;
     bool IsValueCacheValid() const override { return false; }
     GenApi::EInterfaceType GetPrincipalInterfaceType() const override

@@ -36,7 +36,7 @@ public:
     void dropCache() override;
 
     /// For nodes that are computed from this one: the value without any check, and a store that
-    /// neither checks nor tells anybody. The caller holds the lock.
+    /// neither checks nor notifies. The caller holds the lock.
     int64_t unverifiedValue();
     void storeUnverified(int64_t value) { writeValue(value); }
 

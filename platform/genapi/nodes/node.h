@@ -52,8 +52,8 @@ public:
     /// Forgets what the node keeps of the camera's memory. For registers; nothing otherwise.
     virtual void dropRegister() {}
 
-    /// Has the node, and what its value comes from, polled on although nobody reads it: somebody
-    /// waits for its changes.
+    /// Has the node, and what its value comes from, polled although the value is not read: a
+    /// client waits for its changes.
     void keepPolled();
 
     /// Whether that was called since the last call of this one.

@@ -16,8 +16,8 @@ bool contains(const std::vector<Node *> &nodes, const Node *node)
     return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
 }
 
-/// Each of the two lists has the other node. The shorter one tells, so that a node with very many
-/// neighbours costs no more than one with few.
+/// Each of the two lists has the other node. The shorter one is searched, so that a node with very
+/// many neighbours costs no more than one with few.
 bool areLinked(const std::vector<Node *> &list, const Node &node,
                const std::vector<Node *> &otherList, const Node &otherNode)
 {

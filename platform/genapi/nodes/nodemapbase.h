@@ -13,8 +13,8 @@
 
 namespace OrvGenApi {
 
-/// A node map as far as it does not matter where the values come from: the nodes and their names,
-/// the dependency graph, the lock, changes with their callbacks, and polling.
+/// The part of a node map that does not depend on the source of the values: the nodes and their
+/// names, the dependency graph, the lock, changes with their callbacks, and polling.
 class NodeMapBase : public GenApi::INodeMap
 {
 public:
@@ -30,7 +30,7 @@ public:
     /// A change of `source` will invalidate `dependent`.
     void addDependency(Node &source, Node &dependent);
 
-    /// The selector decides which of several values `selected` stands for.
+    /// The selector decides which of its several values `selected` has.
     void addSelection(Node &selector, Node &selected);
     void markAsFeature(Node &node) { node.m_isFeature = true; }
 

@@ -13,7 +13,7 @@ namespace OrvGenApi {
 /// bytes, by representation.
 std::string integerToText(int64_t value, GenApi::ERepresentation representation);
 
-/// The reverse; takes every one of these forms, whatever the representation. Nothing when the text
+/// The reverse; takes every one of these forms, for any representation. Nothing when the text
 /// is none of them.
 std::optional<int64_t> integerFromText(const std::string &text);
 

@@ -30,7 +30,7 @@ class Question
 public:
     enum class Kind {
         Waiting, ///< what is missing will be fetched
-        Looking  ///< whoever asks is content with "not yet", and with values a second old
+        Looking  ///< the caller accepts "not yet", and values a second old
     };
 
     explicit Question(Kind kind) : m_kind(kind) { beginRound(); }
@@ -42,7 +42,7 @@ public:
     /// The one that this thread is answering for that map, or null.
     static Question *current(const NodeMapBase &map);
 
-    /// Between two rounds nothing becomes known, as far as the question is concerned. To be called
+    /// Between two rounds nothing becomes known to the question. To be called
     /// when what was missing has been fetched.
     void beginRound();
 
@@ -54,7 +54,7 @@ public:
     std::vector<RegisterWrite> writes;
 
     /// The moment at which it was asked, in the terms of the map's register cache; 0 while no
-    /// register that must not be older than the question has been asked for.
+    /// register that must not be older than the question has been read.
     uint64_t askedAt = 0;
 
     /// Makes a question the current one of this thread as long as it lives.

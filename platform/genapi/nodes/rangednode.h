@@ -121,7 +121,7 @@ public:
     }
 
     /// For nodes that are computed from this one: the value without any check, and a store that
-    /// neither checks nor tells anybody. The caller holds the lock.
+    /// neither checks nor notifies. The caller holds the lock.
     T unverifiedValue()
     {
         return m_value.get(this->valueIsCachable(), [this] { return readValue(); });

@@ -29,7 +29,7 @@ public:
     void dropCache() override;
 
     /// For nodes that are computed from this one: the value without any check, and a store that
-    /// neither checks nor tells anybody. The caller holds the lock.
+    /// neither checks nor notifies. The caller holds the lock.
     std::string unverifiedValue();
     void storeUnverified(const std::string &value) { writeValue(value); }
 
