@@ -3,6 +3,7 @@
 
 #include "base/formfit.h"
 #include "camconfig/boundfeatures.h"
+#include "camconfig/microseconds.h"
 #include "camconfig/orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigpulsedialog.h"
 #include "widgets/qtorvslider.h"
@@ -17,12 +18,7 @@ const double microsecondsPerSecond = 1e6;
 
 QString microsecondsSuffix()
 {
-    return OrvCamConfigPulseDialog::tr(" [%1s]:").arg(QChar(0x03BC));
-}
-
-int textWidth(const QWidget *widget, const QString &text)
-{
-    return widget->fontMetrics().boundingRect(text).width();
+    return OrvCamConfigPulseDialog::tr(" [%1s]:").arg(Microseconds::mu());
 }
 
 void fitSlider(QtOrvSpinBox *spinBox)
@@ -63,7 +59,7 @@ void OrvCamConfigPulseDialogPrivate::buildForm()
     modeButtons->addButton(ui.radioBtnContinious);
     modeButtons->addButton(ui.radioBtnSend);
 
-    const int width = textWidth(ui.lineEditFreq, QStringLiteral("1000000000.00000000"));
+    const int width = FormFit::textWidth(ui.lineEditFreq, QStringLiteral("1000000000.00000000"));
     FormFit::limitWidth(ui.lineEditDelay, width);
     FormFit::limitWidth(ui.lineEditFreq, width);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamtree/orvgenparamtreeview_p.h"
 
+#include "base/treeviewmodel.h"
 #include "base/treeviewresizer.h"
 #include "genparamtree/featurenamedelegate.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -127,27 +128,10 @@ void OrvGenParamTreeViewPrivate::setModel(std::nullptr_t)
     QAbstractItemModel *model = ui->treeView->model();
     if (model) {
         // Taking the model away closes the editor before anything that it shows is gone.
-        installModel(nullptr);
+        setTreeViewModel(ui->treeView, nullptr);
         delete model;
     }
     describeCurrent();
-}
-
-// With every model, even with none, Qt makes selection models for the tree and for its header, and
-// leaves those that it no longer uses where they are.
-void OrvGenParamTreeViewPrivate::installModel(QAbstractItemModel *model)
-{
-    QTreeView *tree = ui->treeView;
-    tree->setModel(model);
-    for (const QWidget *view :
-         {static_cast<QWidget *>(tree), static_cast<QWidget *>(tree->header())}) {
-        for (auto *selection :
-             view->findChildren<QItemSelectionModel *>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (selection != tree->selectionModel() &&
-                selection != tree->header()->selectionModel())
-                delete selection;
-        }
-    }
 }
 
 template<typename Source>
@@ -164,7 +148,7 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     proxy->setLookAhead(TreeLookAhead::create(nodeMapOf(source), shown, proxy));
     setLookAhead(proxy->lookAhead());
     QAbstractItemModel *model = wrap ? wrap(proxy) : proxy;
-    installModel(model);
+    setTreeViewModel(ui->treeView, model);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
     QObject::connect(model, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {
@@ -175,7 +159,7 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
     QObject::connect(ui->cbVisibility, levelChanged, proxy, [this, proxy] { applyLevel(proxy); });
     halveColumns();
-    setSpanForChildren(QModelIndex());
+    spanCategories();
 }
 
 void OrvGenParamTreeViewPrivate::setLookAhead(TreeLookAhead *newLookAhead)
@@ -187,7 +171,11 @@ void OrvGenParamTreeViewPrivate::setLookAhead(TreeLookAhead *newLookAhead)
         QObject::connect(lookAhead, &TreeLookAhead::arrived, q, [this] { describeCurrent(); });
 }
 
-void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
+/// Each before those in it, in the order of the rows.
+template<class Visit>
+void OrvGenParamTreeViewPrivate::visitCategories(const QModelIndex &parent,
+                                                 const std::string &parentPath,
+                                                 const Visit &visit) const
 {
     const QAbstractItemModel *model = ui->treeView->model();
     const int rows = model->rowCount(parent);
@@ -195,9 +183,18 @@ void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
         const QModelIndex index = model->index(row, nameColumn, parent);
         if (!isCategory(index))
             continue;
-        ui->treeView->setFirstColumnSpanned(row, parent, true);
-        setSpanForChildren(index);
+        const std::string path = parentPath + displayName(index);
+        visit(index, path);
+        visitCategories(index, path + pathSeparator, visit);
     }
+}
+
+void OrvGenParamTreeViewPrivate::spanCategories()
+{
+    visitCategories(QModelIndex(), std::string(),
+                    [this](const QModelIndex &index, const std::string &) {
+                        ui->treeView->setFirstColumnSpanned(index.row(), index.parent(), true);
+                    });
 }
 
 // The tree may show the proxy through a model of the host's own.
@@ -268,27 +265,13 @@ void OrvGenParamTreeViewPrivate::saveState()
     state.clear();
     if (!ui->treeView->model())
         return;
-    state = saveState(ui->treeView->rootIndex(), std::string());
+    visitCategories(ui->treeView->rootIndex(), std::string(),
+                    [this](const QModelIndex &index, const std::string &path) {
+                        if (ui->treeView->isExpanded(index))
+                            state += path + pathEnd;
+                    });
     state += widthMark + std::to_string(ui->treeView->columnWidth(nameColumn));
     state += visibilityMark + std::to_string(ui->cbVisibility->currentIndex());
-}
-
-std::string OrvGenParamTreeViewPrivate::saveState(const QModelIndex &parent,
-                                                  const std::string &parentPath) const
-{
-    std::string expanded;
-    const QAbstractItemModel *model = ui->treeView->model();
-    const int rows = model->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = model->index(row, nameColumn, parent);
-        if (!isCategory(index))
-            continue;
-        const std::string path = parentPath + displayName(index);
-        if (ui->treeView->isExpanded(index))
-            expanded += path + pathEnd;
-        expanded += saveState(index, path + pathSeparator);
-    }
-    return expanded;
 }
 
 void OrvGenParamTreeViewPrivate::loadState(const char *text)
@@ -296,7 +279,11 @@ void OrvGenParamTreeViewPrivate::loadState(const char *text)
     if (!text || !*text || !ui->treeView->model())
         return;
     state = std::string(text); // the text may be our own
-    loadState(ui->treeView->rootIndex(), std::string());
+    // Wherever the path occurs: a path that is part of a saved one counts as saved, too.
+    visitCategories(ui->treeView->rootIndex(), std::string(),
+                    [this](const QModelIndex &index, const std::string &path) {
+                        ui->treeView->setExpanded(index, state.find(path) != std::string::npos);
+                    });
 
     int width = 0;
     if (numberAfter(state, widthMark, &width) && width != 0) {
@@ -306,21 +293,6 @@ void OrvGenParamTreeViewPrivate::loadState(const char *text)
     int visibility = 0;
     if (numberAfter(state, visibilityMark, &visibility))
         ui->cbVisibility->setCurrentIndex(visibility);
-}
-
-void OrvGenParamTreeViewPrivate::loadState(const QModelIndex &parent, const std::string &parentPath)
-{
-    const QAbstractItemModel *model = ui->treeView->model();
-    const int rows = model->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = model->index(row, nameColumn, parent);
-        if (!isCategory(index))
-            continue;
-        const std::string path = parentPath + displayName(index);
-        // Wherever the path occurs: a path that is part of a saved one counts as saved, too.
-        ui->treeView->setExpanded(index, state.find(path) != std::string::npos);
-        loadState(index, path + pathSeparator);
-    }
 }
 
 // OrvGenParamTreeView

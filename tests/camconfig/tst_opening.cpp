@@ -2,9 +2,9 @@
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 #include <cameranetwork.h>
-#include <orvcamconfig.h>
 #include <orvcamconfigdialog.h>
 #include <orvcamconfigopening.h>
+#include <silentcamconfig.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -24,6 +24,7 @@
 
 using OrvGui::OrvCamConfig;
 using OrvGui::OrvCamConfigOpening;
+using OrvGui::SilentCamConfig;
 
 namespace {
 
@@ -64,12 +65,6 @@ QDialog *progressDialog()
     }
     return nullptr;
 }
-
-class Simple : public OrvCamConfig
-{
-public:
-    Simple() : OrvCamConfig(NoChoice, nullptr, nullptr, Qt::WindowFlags()) {}
-};
 
 /// Once started, picks the camera in the dialog that comes.
 class Picks : public QTimer
@@ -260,7 +255,7 @@ void TestOpening::changesOfMind()
     std::unique_ptr<OrvCamConfig> window;
     int devices = 0;
     Picks picks;
-    window = std::make_unique<Simple>();
+    window = std::make_unique<SilentCamConfig>(nullptr);
     connect(window.get(), &OrvCamConfig::deviceChanged,
             [&](OrvCam::Device *device) { devices += device ? 1 : 0; });
     window->show();
@@ -310,7 +305,7 @@ void TestOpening::connects()
     }
     qint64 longest = 1000;
     for (int attempt = 0; attempt < 3 && longest >= 250; ++attempt) {
-        Simple window;
+        SilentCamConfig window(nullptr);
         Picks picks;
         picks.start(50);
         std::unique_ptr<Gaps> gaps;
