@@ -13,7 +13,7 @@
 #include "cameraset.h"
 #include "guimeter.h"
 
-#include "../tests/soak/usage.h"
+#include "../tools/soak/usage.h"
 
 #include <GenApi/GenApi.h>
 #include <OrvCam.h>

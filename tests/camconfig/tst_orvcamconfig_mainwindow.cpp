@@ -510,6 +510,10 @@ void TestOrvCamConfigMainWindow::information()
     map.addString("SensorType", "CMOS").setAccessMode(GenApi::NI);
     map.addInteger("FirmwareVersion", 0x1234);
     map.addString("FpgaID", "not a number");
+    const QStringList others{"RgsID",         "EpcsID",     "FirmwareImage",
+                             "FirmwareBuild", "CustomerID", "XmlVersion"};
+    for (const QString &feature : others)
+        map.addInteger(feature.toLatin1().constData(), others.indexOf(feature));
     NodeMapDevice device(map);
     OrvCamConfig window(&device);
     action(window, "actionAbout").trigger();
@@ -522,6 +526,8 @@ void TestOrvCamConfigMainWindow::information()
     QCOMPARE(text("lblFirmwareVersion"), QString("4660"));
     QCOMPARE(text("lblSensorType"), QString("N/A"));
     QCOMPARE(text("lblFpgaID"), QString("N/A"));
+    for (const QString &feature : others)
+        QCOMPARE(text(qPrintable("lbl" + feature)), QString::number(others.indexOf(feature)));
     const QString toolTip = child<QLabel>(window, "lblStatusText").toolTip();
     QVERIFY(Qt::mightBeRichText(toolTip));
     QCOMPARE(QTextDocumentFragment::fromHtml(toolTip).toPlainText(), statusOf(window));

@@ -170,6 +170,14 @@ void TestRegisterIo::fieldsOfOneRegisterKeepEachOther()
         QCOMPARE(setByte(0, 0xAF), Status::Done);
     other.join();
     QCOMPARE(camera.at(0), (std::vector<uint8_t>{0xA0, 0, 0, 0x50}));
+
+    // A known register may be outdated: it is read before a field of it is written.
+    io.read({word(0)});
+    camera.memory[0][1] = 9;
+    RegisterWrite write{0, {0x01, 0, 0, 0}, {0x0F, 0, 0, 0}};
+    write.staleSince = io.now();
+    QCOMPARE(io.write({write}), Status::Done);
+    QCOMPARE(camera.at(0), (std::vector<uint8_t>{0xA1, 9, 0, 0x50}));
 }
 
 void TestRegisterIo::waitingCallersGoFirst()

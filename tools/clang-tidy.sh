@@ -6,7 +6,7 @@
 # the sources include headers that it makes.
 set -eu
 
-root=$(CDPATH= cd -- "$(dirname -- "$0")/../.." && pwd)
+root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
 cd "$root"
 build=${1:-build/dev}
 [ $# -eq 0 ] || shift

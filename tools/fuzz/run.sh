@@ -20,7 +20,7 @@ shift
 mkdir -p "$folder/faults"
 export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1
 export UBSAN_OPTIONS=print_stacktrace=1
-export LSAN_OPTIONS="suppressions=$here/../support/lsan.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions=$here/../../tests/support/lsan.supp:print_suppressions=0"
 
 # Some seconds each.
 runs_of() {
