@@ -31,8 +31,8 @@ class TestSimulatedSystem : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void initTestCase() { qputenv("ORVCAM_SIMULATION", "1"); }
+    void init() { m_system.reset(OrvCam_GetSystem()); }
     void cleanup() { m_system.reset(); }
     void forcedAddress();
     void selectionFollowsItsCamera();
@@ -42,17 +42,6 @@ private:
 
     Released<System> m_system;
 };
-
-void TestSimulatedSystem::initTestCase()
-{
-    qputenv("ORVCAM_SIMULATION", "1");
-}
-
-void TestSimulatedSystem::init()
-{
-    m_system.reset(OrvCam_GetSystem());
-    QVERIFY(m_system);
-}
 
 void TestSimulatedSystem::forcedAddress()
 {
