@@ -31,6 +31,7 @@ struct Control
     const char *feature;
 };
 
+/// In the order of the Tab key.
 const Control controls[] = {
     {Strobe, "cmBoxStrobe1Mode", "Strobe1Mode"},
     {Strobe, "cmBoxStrobe1Ref", "Strobe1Reference"},
@@ -188,6 +189,7 @@ private slots:
     void bothWays();
     void withoutCamera();
     void closing();
+    void tabOrder();
 
     void strobePicture();
     void pictureFollowsTheForm();
@@ -300,6 +302,34 @@ void TestStrobeOutputColor::closing()
         connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
         dialog->close();
         QVERIFY(!dialog);
+    }
+}
+
+void TestStrobeOutputColor::tabOrder()
+{
+    Camera camera;
+    for (Which which : {Strobe, Output, Color}) {
+        QStringList expected;
+        for (const Control &control : controls) {
+            if (control.dialog == which)
+                expected << QLatin1String(control.name);
+        }
+        const auto dialog = open(which, &camera.device);
+        part(*dialog, expected.first().toLatin1())->setFocus();
+        QStringList visited;
+        for (int presses = 0; presses < 40; ++presses) {
+            QWidget *widget = dialog->focusWidget();
+            while (widget && !expected.contains(widget->objectName()))
+                widget = widget->parentWidget();
+            const QString name = widget ? widget->objectName() : QString(); // Unity
+            if (!name.isEmpty() && visited.value(visited.size() - 1) != name) {
+                if (name == visited.value(0))
+                    break;
+                visited << name;
+            }
+            QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(visited, expected);
     }
 }
 

@@ -486,7 +486,8 @@ void TestLooks::findsFaults()
     for (const Looks::Fault &fault : Looks::faultsOf(window))
         faults << fault.toString().section(" (", 0, 0);
     faults.sort();
-    QCOMPARE(faults, QStringList({"cut: cut", "off the screen: wide", "pale: pale"}));
+    faults.removeDuplicates(); // a mnemonic parts a text
+    QCOMPARE(faults.join(", "), QString("cut: cut, off the screen: wide, pale: pale"));
     QCOMPARE(Controls::namelessOf(window), QStringList{"nameless (QComboBox) has no name"});
     QCOMPARE(Controls::tabOrderFaultsOf(window).size(), 1);
     QCOMPARE(Controls::sharedMnemonicsOf(window).size(), 1);
