@@ -31,7 +31,7 @@ struct OrvGenParamWatch::State
     GenApi::CallbackHandleType handle = 0;
 };
 
-/// What the node owns: it tells the watch of the node's end, too.
+/// What the node owns. It notifies the watch of the node's end, too.
 class OrvGenParamWatch::Callback final : public GenApi::CNodeCallback
 {
 public:

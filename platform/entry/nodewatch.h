@@ -8,7 +8,7 @@
 #include <memory>
 #include <thread>
 
-/// A C function that is told of the changes of one node, on the thread that made the watch.
+/// Calls a C function for the changes of one node, on the thread that made the watch.
 struct OrvGenParamWatch final : public OrvGenParam::ParamEventSink
 {
 public:

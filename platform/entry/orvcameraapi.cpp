@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <orvcameraapi.h>
+#include <orvgenparamapi.h>
 
 #include "hardwaresystem.h"
 #include "simulatedsystem.h"
+#include "utf8.h"
 
 #include <OrvGenParam.h>
 #include <description/nodemap.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <typeinfo>
@@ -62,11 +62,10 @@ void store(int32_t *error, int32_t code)
 
 void store(char *reason, std::size_t size, const char *text)
 {
-    if (reason)
-        std::snprintf(reason, size, "%s", text);
+    OrvCam::copyUtf8(OrvCam::validUtf8(text), reason, size);
 }
 
-// Only systems and records of this library can do what is asked for here.
+// Only systems and records of this library have these functions.
 OrvCam::CameraSystem *ours(OrvCamSystem *system)
 {
     return dynamic_cast<OrvCam::CameraSystem *>(system);
@@ -200,10 +199,11 @@ OrvGenApiNodeMap *OrvGenParam_GetNodeMap(const OrvGenParamArray *array, int32_t 
 
 OrvGenApiNodeMap *OrvGenParam_LoadDescription(const char *fileName, char *reason, size_t size)
 {
-    store(reason, size, "");
     try {
+        store(reason, size, "");
         if (fileName)
             return OrvDescription::NodeMap::fromFile(fileName).release();
+        store(reason, size, OrvCam_GetErrorText(OrvCam_ErrorInvalidArgument));
     } catch (const GenICam::GenericException &e) {
         store(reason, size, e.GetDescription());
     } catch (const std::exception &e) {

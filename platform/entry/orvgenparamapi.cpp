@@ -10,7 +10,6 @@
 #include <cameraio/maincontext.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 using namespace GenApi;
@@ -90,6 +89,12 @@ int32_t attempt(const OrvGenApiNode *node, Function function)
     }
 }
 
+int32_t failAsOtherKind(const INode &node)
+{
+    return fail(OrvCam_ErrorNotFound,
+                std::string("'") + node.GetName().c_str() + "' is of another kind");
+}
+
 /// The same with a node that must be of that interface and whose camera must be there.
 template<class Value, class Function>
 int32_t with(OrvGenApiNode *node, Function use)
@@ -97,8 +102,7 @@ int32_t with(OrvGenApiNode *node, Function use)
     return attempt(node, [&] {
         auto *value = dynamic_cast<Value *>(node);
         if (!value)
-            return fail(OrvCam_ErrorNotFound,
-                        std::string("'") + node->GetName().c_str() + "' is of another kind");
+            return failAsOtherKind(*node);
         if (isGone(*node))
             return fail(OrvCam_ErrorGone);
         use(*value);
@@ -111,11 +115,6 @@ void store(T *to, T value)
 {
     if (to)
         *to = value;
-}
-
-bool isInsideCharacter(char byte)
-{
-    return (byte & 0xC0) == 0x80;
 }
 
 /// A text that a caller wants to have.
@@ -133,13 +132,7 @@ struct TextBuffer
     {
         const std::string valid = OrvCam::validUtf8(std::string(value.c_str()));
         store(length, valid.size());
-        if (size == 0)
-            return;
-        size_t fitting = std::min(valid.size(), size - 1);
-        while (fitting > 0 && fitting < valid.size() && isInsideCharacter(valid[fitting]))
-            --fitting;
-        std::memcpy(text, valid.data(), fitting);
-        text[fitting] = '\0';
+        OrvCam::copyUtf8(valid, text, size);
     }
 
     char *const text;
@@ -487,6 +480,8 @@ int32_t OrvGenParam_SetValueText(OrvGenApiNode *node, const char *value)
 {
     if (!value)
         return fail(OrvCam_ErrorInvalidArgument);
+    if (dynamic_cast<ICommand *>(node)) // any text would execute it
+        return failAsOtherKind(*node);
     return with<IValue>(node, [&](IValue &v) { v.FromString(value); });
 }
 

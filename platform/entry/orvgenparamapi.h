@@ -170,7 +170,8 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetMaxLength(OrvGenApiNode *node, int64_
 
 /*
  * The value of any kind as text, as settings files have it: decimal numbers with a point, or "0x"
- * and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names.
+ * and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names. Commands
+ * cannot be set.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetValueText(OrvGenApiNode *node, char *text, size_t size,
                                                      size_t *length);
@@ -184,8 +185,8 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_Execute(OrvGenApiNode *node);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_IsDone(OrvGenApiNode *node, int32_t *isDone);
 
 /*
- * Registers `changed` as a callback for changes of a parameter's value, limits or access. It runs on
- * the thread that calls this function, which must be the one that runs the default GLib main
+ * Registers `changed` as a callback for changes of a parameter's value, limits or access. It runs
+ * on the thread that calls this function, which must be the one that runs the default GLib main
  * context. A change made on that thread calls it at once, from inside the function that makes the
  * change. Changes by the camera or by other threads are collected and reported from the context.
  *

@@ -32,7 +32,7 @@ public:
 
     void setAdapter(const GevAddresses &adapter);
 
-    /// Has the interface answer null when it is asked for its cameras.
+    /// Has the interface return null in place of its cameras.
     void refuseToList() { m_refusesToList = true; }
 
     DeviceInfoList *GetDeviceInfoSet() override;

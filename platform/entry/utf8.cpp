@@ -2,6 +2,7 @@
 #include "utf8.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace OrvCam {
 
@@ -54,6 +55,11 @@ std::size_t characterAt(const std::string &bytes, std::size_t start)
     return lead->length;
 }
 
+bool isInsideCharacter(char byte)
+{
+    return (byte & 0xC0) == 0x80;
+}
+
 } // namespace
 
 std::string validUtf8(const std::string &bytes)
@@ -68,6 +74,17 @@ std::string validUtf8(const std::string &bytes)
         position += std::max<std::size_t>(length, 1);
     }
     return valid;
+}
+
+void copyUtf8(const std::string &text, char *to, std::size_t size)
+{
+    if (!to || size == 0)
+        return;
+    std::size_t fitting = std::min(text.size(), size - 1);
+    while (fitting > 0 && fitting < text.size() && isInsideCharacter(text[fitting]))
+        --fitting;
+    std::memcpy(to, text.data(), fitting);
+    to[fitting] = '\0';
 }
 
 } // namespace OrvCam

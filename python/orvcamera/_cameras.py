@@ -160,8 +160,9 @@ class Camera(NodeMap):
 def select_camera(title: str = "", parent: int = 0) -> Optional[CameraInfo]:
     """Has the user pick a camera in a dialog; None when the dialog is cancelled. ``parent`` is the
     native id of a window that the dialog stands above."""
-    from . import _windows  # noqa: F401, there is an application from now on
-    handle = _native.gui.SelectCameraA(_get_system(), _native.encode(title), parent)
+    text = _native.encode(title)
+    _native.need_application()
+    handle = _native.gui.SelectCameraA(_get_system(), text, parent)
     return CameraInfo(handle) if handle else None
 
 
@@ -171,15 +172,10 @@ def process_events(seconds: float = 0.0) -> int:
     Changes that a camera makes by itself are noticed only in here. Needs no display.
     """
     milliseconds = max(0, min(int(seconds * 1000), 2**31 - 1))
-    if _native.gui.is_loaded and _windows_used():
-        return _native.gui.OrvCameraGuiApi_ProcessEvents(milliseconds)
+    if _native.has_application:
+        return int(_native.gui.OrvCameraGuiApi_ProcessEvents(milliseconds))
     cam.OrvCam_ProcessEvents(milliseconds)
     return 0
-
-
-def _windows_used() -> bool:
-    import sys
-    return __package__ + "._windows" in sys.modules
 
 
 def set_language(language: Optional[str]) -> None:
@@ -187,7 +183,7 @@ def set_language(language: Optional[str]) -> None:
 
     Takes a display, as windows do. ``ValueError`` for a language without a translation.
     """
-    from . import _windows  # noqa: F401, there is an application from now on
     code = None if language is None else _native.encode(language)
+    _native.need_application()
     if not _native.gui.OrvCameraGuiApi_SetLanguage(code):
         raise ValueError(f"there is no translation to {language!r}")

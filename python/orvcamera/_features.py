@@ -5,10 +5,10 @@ import operator
 import os
 import time
 from ctypes import c_double, c_int32, c_int64, c_void_p
-from typing import Any, Callable, Iterator, List, NamedTuple, Optional, Tuple, Union
+from typing import Any, Callable, Iterator, List, NamedTuple, Optional, Tuple, TypeVar, Union
 
 from . import _native
-from ._native import Error, ask_nodes, ask_number, ask_text, cam, check, encode
+from ._native import Error, ask_float, ask_integer, ask_nodes, ask_text, cam, check, encode
 
 INTEGER, FLOAT, ENUMERATION, BOOLEAN, COMMAND, STRING, CATEGORY, REGISTER = range(8)
 
@@ -21,7 +21,7 @@ Value = Union[int, float, bool, str]
 
 
 class Entry(NamedTuple):
-    """An entry of an enumeration, as it was when it was asked for."""
+    """An entry of an enumeration, as it was when ``Feature.entries`` was read."""
 
     name: str  #: what ``Feature.value`` is when it is chosen
     display_name: str  #: to show a user
@@ -30,7 +30,7 @@ class Entry(NamedTuple):
 
 
 class Subscription:
-    """A callback that is told of changes until ``cancel`` or the end of a ``with`` block."""
+    """A callback for changes, which ends with ``cancel`` or a ``with`` block."""
 
     def __init__(self, feature: "Feature", callback: Callable[["Feature"], Any]) -> None:
         self._function = _native.CHANGED(lambda node, data: callback(feature))
@@ -56,15 +56,15 @@ class Subscription:
 class Feature:
     """A parameter, or a category of them. Made by ``camera["Name"]``; valid until it is closed.
 
-    What fails raises ``Error``. A value that is not known is asked for at the camera, which waits
-    for the answer; what is set is sent there.
+    What fails raises ``Error``. Reading a value that is not known, and every write, waits for the
+    camera.
     """
 
     def __init__(self, owner: "NodeMap", node: int) -> None:
         self._owner = owner
         self._node = node
-        self._kind: int = cam.OrvGenParam_GetKind(node)
-        self._name = ask_text("OrvGenParam_GetName", node)
+        self._kind: int = cam.OrvGenParam_GetKind(self._handle)
+        self._name = ask_text("OrvGenParam_GetName", self._handle)
 
     @property
     def _handle(self) -> int:
@@ -101,11 +101,11 @@ class Feature:
     @property
     def visibility(self) -> int:
         """0 basic, 1 expert, 2 guru, 3 invisible."""
-        return ask_number("OrvGenParam_GetVisibility", self._handle, c_int32)
+        return ask_integer("OrvGenParam_GetVisibility", self._handle)
 
     def _access(self) -> int:
         try:
-            return ask_number("OrvGenParam_GetAccess", self._handle, c_int32)
+            return ask_integer("OrvGenParam_GetAccess", self._handle)
         except Error as error:
             if error.code == Error.GONE:
                 return NOT_AVAILABLE
@@ -125,18 +125,18 @@ class Feature:
         return self._access() in (WRITE_ONLY, READ_WRITE)
 
     @property
-    def value(self) -> Value:
+    def value(self) -> Any:
         """An int, float or bool; the name of an entry; a text. Commands and categories have none.
 
         Setting one of another type raises ``TypeError``; only a float takes any number.
         """
         handle = self._handle
         if self._kind == INTEGER:
-            return ask_number("OrvGenParam_GetInteger", handle, c_int64)
+            return ask_integer("OrvGenParam_GetInteger", handle, c_int64)
         if self._kind == FLOAT:
-            return ask_number("OrvGenParam_GetFloat", handle, c_double)
+            return ask_float("OrvGenParam_GetFloat", handle)
         if self._kind == BOOLEAN:
-            return bool(ask_number("OrvGenParam_GetBoolean", handle, c_int32))
+            return bool(ask_integer("OrvGenParam_GetBoolean", handle))
         if self._kind == ENUMERATION:
             return ask_text("OrvGenParam_GetSymbolic", handle)
         if self._kind == STRING:
@@ -153,7 +153,7 @@ class Feature:
         elif self._kind == FLOAT:
             check(cam.OrvGenParam_SetFloat(handle, self._number(value)))
         elif self._kind == BOOLEAN:
-            check(cam.OrvGenParam_SetBoolean(handle, 1 if operator.index(value) else 0))
+            check(cam.OrvGenParam_SetBoolean(handle, self._flag(value)))
         elif self._kind == ENUMERATION:
             check(cam.OrvGenParam_SetSymbolic(handle, self._text(value)))
         elif self._kind == STRING:
@@ -169,10 +169,16 @@ class Feature:
             raise Error(Error.OUT_OF_RANGE, f"{number} is no 64-bit number for '{self._name}'")
         return number
 
+    def _flag(self, value: Any) -> int:
+        return 1 if operator.index(value) else 0
+
     def _number(self, value: Any) -> float:
         if isinstance(value, (str, bytes)):
             raise TypeError(f"{self._name} takes a number")
-        return float(value)
+        try:
+            return float(value)
+        except OverflowError:
+            raise Error(Error.OUT_OF_RANGE, f"The number for '{self._name}' is too large") from None
 
     def _text(self, value: Any) -> bytes:
         if not isinstance(value, str):
@@ -181,7 +187,7 @@ class Feature:
 
     @property
     def text(self) -> str:
-        """The value of any kind as text, as settings files have it."""
+        """The value of any kind as text, as settings files have it. Commands cannot be set."""
         return ask_text("OrvGenParam_GetValueText", self._handle)
 
     @text.setter
@@ -191,7 +197,8 @@ class Feature:
     def _limits(self) -> Tuple[Any, Any, Any]:
         if self._kind not in (INTEGER, FLOAT):
             raise TypeError(f"{self._name} is of the kind {self.kind} and has no limits")
-        kind, name = (c_int64, "Integer") if self._kind == INTEGER else (c_double, "Float")
+        kind: Any = c_int64 if self._kind == INTEGER else c_double
+        name = "Integer" if self._kind == INTEGER else "Float"
         limits = (kind(0), kind(0), kind(0))
         function = getattr(cam, f"OrvGenParam_Get{name}Limits")
         check(function(self._handle, *(ctypes.byref(limit) for limit in limits)))
@@ -215,15 +222,15 @@ class Feature:
     @property
     def max_length(self) -> int:
         """Of a text, in bytes of UTF-8."""
-        return ask_number("OrvGenParam_GetMaxLength", self._handle, c_int64)
+        return ask_integer("OrvGenParam_GetMaxLength", self._handle, c_int64)
 
     @property
     def entries(self) -> List[Entry]:
         """All entries of an enumeration, in the order of the camera's description."""
         return [Entry(ask_text("OrvGenParam_GetSymbolic", node),
                       ask_text("OrvGenParam_GetDisplayName", node),
-                      ask_number("OrvGenParam_GetInteger", node, c_int64),
-                      ask_number("OrvGenParam_GetAccess", node, c_int32) > NOT_AVAILABLE)
+                      ask_integer("OrvGenParam_GetInteger", node, c_int64),
+                      ask_integer("OrvGenParam_GetAccess", node) > NOT_AVAILABLE)
                 for node in ask_nodes("OrvGenParam_GetEntries", self._handle)]
 
     @property
@@ -247,7 +254,7 @@ class Feature:
     @property
     def done(self) -> bool:
         """Whether the camera has carried out a command; asks the camera."""
-        return bool(ask_number("OrvGenParam_IsDone", self._handle, c_int32))
+        return bool(ask_integer("OrvGenParam_IsDone", self._handle))
 
     def on_change(self, callback: Callable[["Feature"], Any]) -> Subscription:
         """Has ``callback(feature)`` called after every change of value, limits or availability.
@@ -255,12 +262,15 @@ class Feature:
         It is called on the thread that calls this, the one that opened the camera: at once for
         changes made on that thread, from ``orvcamera.process_events`` for all others, also those
         that the camera makes. What it raises goes to ``sys.unraisablehook``. It must not close the
-        camera.
+        camera or a window.
         """
         return self._owner._keep(Subscription(self, callback))
 
     def __repr__(self) -> str:
         return f"<orvcamera.Feature {self._name} ({self.kind})>"
+
+
+M = TypeVar("M", bound="NodeMap")
 
 
 class NodeMap:
@@ -294,7 +304,8 @@ class NodeMap:
         """Ends it, with its windows and callbacks. A second call does nothing."""
         raise NotImplementedError
 
-    def __enter__(self) -> Any:
+    def __enter__(self: M) -> M:
+        self._check_open()
         return self
 
     def __exit__(self, *_: Any) -> None:
@@ -321,7 +332,7 @@ class NodeMap:
         return (Feature(self, node) for node in nodes)
 
     def __len__(self) -> int:
-        return cam.OrvGenParam_GetFeatures(self._check_open(), None, 0)
+        return int(cam.OrvGenParam_GetFeatures(self._check_open(), None, 0))
 
     def __bool__(self) -> bool:
         return True
@@ -376,8 +387,11 @@ class Description(NodeMap):
 
     def __init__(self, path: Union[str, "os.PathLike[str]"]) -> None:
         super().__init__()
+        name = os.fsencode(path)
+        if b"\0" in name:
+            raise ValueError("a file name must not contain a 0 character")
         reason = ctypes.create_string_buffer(1024)
-        self._map = cam.OrvGenParam_LoadDescription(os.fsencode(path), reason, len(reason))
+        self._map = cam.OrvGenParam_LoadDescription(name, reason, len(reason))
         if not self._map:
             raise Error(Error.BAD_DESCRIPTION, _native.decode(reason.value))
 

@@ -3,9 +3,12 @@
 import ctypes
 import os
 from ctypes import POINTER, c_char_p, c_double, c_int, c_int32, c_int64, c_size_t, c_uint32, c_void_p
-from typing import Any, Callable, Dict, Optional, Tuple
+from typing import Any, Dict, List, Optional, Tuple
 
 FOLDER_VARIABLE = "ORVCAMERA_LIBRARIES"
+
+#: Without any of them Qt ends the program when it makes its application.
+DISPLAY_VARIABLES = ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")
 
 CHANGED = ctypes.CFUNCTYPE(None, c_void_p, c_void_p)
 
@@ -94,10 +97,6 @@ class Library:
         self._functions = functions
         self._loaded: Optional[ctypes.CDLL] = None
 
-    @property
-    def is_loaded(self) -> bool:
-        return self._loaded is not None
-
     def _load(self) -> ctypes.CDLL:
         folder = os.environ.get(FOLDER_VARIABLE, "")
         for name in self._names[:-1]:
@@ -107,12 +106,12 @@ class Library:
                 pass
         return ctypes.CDLL(os.path.join(folder, self._names[-1]))
 
-    def __getattr__(self, name: str) -> Callable[..., Any]:
+    def __getattr__(self, name: str) -> Any:
         if name not in self._functions:
             raise AttributeError(name)
         if self._loaded is None:
             self._loaded = self._load()
-        function = getattr(self._loaded, name)
+        function: Any = getattr(self._loaded, name)
         function.restype, *function.argtypes = self._functions[name]
         setattr(self, name, function)
         return function
@@ -178,14 +177,31 @@ def ask_text(name: str, handle: int) -> str:
         size = length.value + 1
 
 
-def ask_number(name: str, handle: int, kind: Any) -> Any:
+def ask_integer(name: str, handle: int, kind: Any = c_int32) -> int:
     value = kind(0)
+    check(getattr(cam, name)(handle, ctypes.byref(value)))
+    return int(value.value)
+
+
+def ask_float(name: str, handle: int) -> float:
+    value = c_double(0)
     check(getattr(cam, name)(handle, ctypes.byref(value)))
     return value.value
 
 
-def ask_nodes(name: str, handle: int) -> list:
+def ask_nodes(name: str, handle: int) -> List[int]:
     function = getattr(cam, name)
     count = function(handle, None, 0)
     nodes = (c_void_p * count)()
     return list(nodes[:min(function(handle, nodes, count), count)])
+
+
+has_application = False
+
+
+def need_application() -> None:
+    """To be called before functions that make Qt's application."""
+    global has_application
+    if not has_application and not any(os.environ.get(name) for name in DISPLAY_VARIABLES):
+        raise Error(Error.FAILED, "There is no display")
+    has_application = True

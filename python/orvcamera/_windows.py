@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""The windows. Imported, and the library of windows loaded, only when one is asked for."""
-from typing import Any, Optional
+"""The windows."""
+import operator
+from typing import Any, Optional, TypeVar
 
-from . import _native
-from ._native import Error, decode, encode, gui
+from ._native import Error, decode, encode, gui, need_application
 
 #: Window: functions that open and close it, and what the names of its state functions contain.
 _KINDS = {
@@ -11,6 +11,8 @@ _KINDS = {
     "browser": ("CreateFeatureBrowserForNodemapA", "DestroyFeatureBrowser", "FeatureBrowser"),
     "config": ("CreateCamConfig", "DestroyCamConfig", ""),
 }
+
+W = TypeVar("W", bound="Window")
 
 
 class Window:
@@ -21,13 +23,16 @@ class Window:
             raise ValueError(f"{kind!r} is none of {', '.join(_KINDS)}")
         create, self._destroy, self._state = _KINDS[kind]
         node_map = owner._check_open()
+        title_text = encode(title)
         if kind == "config":
             device = getattr(owner, "_device", None)
             if not device:
                 raise ValueError("the configuration window takes a camera")
+            need_application()
             self._handle: Optional[int] = gui.CreateCamConfig(device)
         else:
-            self._handle = getattr(gui, create)(node_map, encode(title), parent)
+            need_application()
+            self._handle = getattr(gui, create)(node_map, title_text, parent)
 
     @property
     def is_open(self) -> bool:
@@ -54,25 +59,29 @@ class Window:
     @property
     def state(self) -> str:
         """What is expanded and at which level, to be stored and set again."""
-        return decode(getattr(gui, f"Save{self._state}State")(self._open()))
+        handle = self._open()
+        return decode(getattr(gui, f"Save{self._state}State")(handle))
 
     @state.setter
     def state(self, state: str) -> None:
-        if not getattr(gui, f"Load{self._state}State")(self._open(), encode(state)):
+        handle = self._open()
+        if not getattr(gui, f"Load{self._state}State")(handle, encode(state)):
             raise ValueError("this is no state of such a window")
 
     @property
     def visibility(self) -> int:
         """The level of what is shown: 0 basic, 1 expert, 2 guru."""
-        return getattr(gui, f"Get{self._state}Visibility")(self._open())
+        handle = self._open()
+        return int(getattr(gui, f"Get{self._state}Visibility")(handle))
 
     @visibility.setter
     def visibility(self, visibility: int) -> None:
-        if visibility not in (0, 1, 2):
+        handle = self._open()
+        if operator.index(visibility) not in (0, 1, 2):
             raise ValueError("the visibility is 0, 1 or 2")
-        getattr(gui, f"Set{self._state}Visibility")(self._open(), visibility)
+        getattr(gui, f"Set{self._state}Visibility")(handle, visibility)
 
-    def __enter__(self) -> "Window":
+    def __enter__(self: W) -> W:
         return self
 
     def __exit__(self, *_: Any) -> None:

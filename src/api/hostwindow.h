@@ -10,7 +10,7 @@ struct xcb_connection_t;
 
 namespace OrvGui {
 
-/// Tells the place and size of an X window that belongs to somebody else, which Qt does not.
+/// Reports the position and size of a foreign X window, which Qt does not.
 ///
 /// Asks the default display on a connection of its own; the window's owner, another toolkit or
 /// another process, notices nothing of that. Silent for a window that does not exist, and on a

@@ -41,7 +41,7 @@ bool find(const QLocale &locale, Translators &found)
     return true;
 }
 
-/// Asked for one language after the other: to QTranslator a locale of "English, else German" means
+/// One language after the other: to QTranslator a locale of "English, else German" means
 /// German.
 bool findForSystem(Translators &found)
 {

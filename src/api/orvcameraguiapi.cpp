@@ -121,12 +121,16 @@ int LoadGenParamTreeViewState(OrvGuiParamTreeView *view, const char *state)
 {
     if (!view || !state)
         return 0;
+    const OrvGui::Visibility before = view->visibility();
     try {
         view->loadState(state);
-        return 1;
     } catch (const std::logic_error &) {
         return 0;
     }
+    if (isLevel(view->visibility()))
+        return 1;
+    view->setVisibility(before);
+    return 0;
 }
 
 int GetGenParamTreeViewVisibility(OrvGuiParamTreeView *view)

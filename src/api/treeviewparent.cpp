@@ -113,7 +113,7 @@ void TreeViewParent::wrap(unsigned long nativeId)
         container = QWidget::createWindowContainer(window);
     }
     // As if the window had left: the container no longer makes it as large as itself. With Qt 5 the
-    // container expects that news itself, with Qt 6 by way of its hidden window.
+    // container expects that event itself, with Qt 6 by way of its hidden window.
     QChildEvent departure(QEvent::ChildRemoved, window);
     QCoreApplication::sendEvent(container, &departure);
     QCoreApplication::sendEvent(window->parent(), &departure);

@@ -61,8 +61,8 @@ void BrowserModel::follow()
 {
     connect(m_values, &QAbstractItemModel::dataChanged, this, &BrowserModel::forwardChange);
     connect(m_values, &QAbstractItemModel::layoutChanged, this, &BrowserModel::rebuild);
-    // The tree changes its rows otherwise only for a view that holds a row which cannot be told
-    // from another one.
+    // The tree changes its rows otherwise only for a view that holds a row which cannot be
+    // distinguished from another one.
     connect(m_values, &QAbstractItemModel::rowsInserted, this, &BrowserModel::rebuild);
     connect(m_values, &QAbstractItemModel::rowsRemoved, this, &BrowserModel::rebuild);
     connect(m_values, &QAbstractItemModel::modelReset, this, &BrowserModel::rebuild);

@@ -23,7 +23,7 @@ class KnownValuesModel;
 /// The feature tree as the browser shows it: with the favourites in a category of their own on top,
 /// narrowed to some features, and with marks on those that were changed or have refused a write.
 ///
-/// It keeps the rows that the tree has at its level. The category of the favourites stands for no
+/// It keeps the rows that the tree has at its level. The category of the favourites is no
 /// feature of the camera; it holds the root of the tree, whose category it is.
 class BrowserModel : public QAbstractProxyModel
 {

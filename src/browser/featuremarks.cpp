@@ -166,7 +166,7 @@ void FeatureMarks::putBack(const Change &change)
     if (!reason.isEmpty())
         noteRefusal(change.feature, reason);
     else
-        emit changed(change.feature); // its cells were not told while a selector was elsewhere
+        emit changed(change.feature); // its cells were not notified while a selector was elsewhere
 }
 
 } // namespace OrvGui

@@ -17,7 +17,7 @@ namespace OrvGui {
 /// What has become of the features of a tree since it was opened: which were changed, and from
 /// which value, and which have refused their last write.
 ///
-/// The values of a feature that is selected are told apart by where its selectors were.
+/// The values of a feature that is selected differ by where its selectors were.
 class FeatureMarks : public QObject
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ public:
     /// Why the last write was refused; null if it was not.
     QString refusal(const GenApi::IValue *feature) const { return m_refusals.value(feature); }
 
-    /// Writes the earlier values back, the last change first; null stands for all features. What is
+    /// Writes the earlier values back, the last change first; null means all features. What is
     /// refused is marked, and stays changed.
     void putBack(const GenApi::IValue *feature = nullptr);
 

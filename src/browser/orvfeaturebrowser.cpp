@@ -275,7 +275,7 @@ void OrvFeatureBrowserPrivate::record(GenApi::IValue *feature, const QString &ea
     GenApi::INode *node = feature->GetNode();
     const FeatureJournal::State now = kept->known(node);
     FeatureJournal::State former = writing.take(feature);
-    // The write has told where they are, if that was not known.
+    // After the write it is known where they are.
     former.selectors = now.selectors;
     former.areSelectorsKnown = now.areSelectorsKnown;
     if (!former.value.isValid() && !earlier.isNull())

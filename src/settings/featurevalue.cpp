@@ -301,25 +301,25 @@ bool FeatureValue::areSame(GenApi::IValue *feature, const QString &left, const Q
 
 QString FeatureValue::reason(GenApi::IValue *feature, const GenICam::GenericException &exception)
 {
-    const QString told = cameraText(exception.GetDescription());
+    const QString description = cameraText(exception.GetDescription());
     if (dynamic_cast<const GenICam::TimeoutException *>(&exception))
         return tr("The camera does not answer.");
     try {
         if (dynamic_cast<const GenICam::AccessException *>(&exception)) {
             const QString access = accessReason(feature->GetAccessMode());
-            return access.isEmpty() ? told : access;
+            return access.isEmpty() ? description : access;
         }
         if (dynamic_cast<const GenICam::OutOfRangeException *>(&exception)) {
             const QString range = rangeReason(feature);
-            return range.isEmpty() ? told : range;
+            return range.isEmpty() ? description : range;
         }
     } catch (const GenICam::GenericException &) {
         // The camera has said enough.
     }
-    return told;
+    return description;
 }
 
-QString FeatureValue::obstacle(GenApi::IValue *feature)
+QString FeatureValue::refusal(GenApi::IValue *feature)
 {
     const GenApi::EAccessMode mode = feature->GetAccessMode();
     return GenApi::IsWritable(mode) ? QString() : accessReason(mode);

@@ -38,7 +38,7 @@ public:
     static QString reason(GenApi::IValue *feature, const GenICam::GenericException &exception);
 
     /// What keeps the feature from being written, or empty.
-    static QString obstacle(GenApi::IValue *feature);
+    static QString refusal(GenApi::IValue *feature);
 };
 
 } // namespace OrvGui

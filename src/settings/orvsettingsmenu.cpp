@@ -34,9 +34,10 @@ class OrvSettingsMenuPrivate
 
 public:
     OrvSettingsMenuPrivate(OrvSettingsMenu *menu, QWidget *window);
+    ~OrvSettingsMenuPrivate();
+    Q_DISABLE_COPY(OrvSettingsMenuPrivate)
 
     void setNodeMap(GenApi::INodeMap *newMap);
-    void end();
     void save(const QString &fileName);
     void load(const QString &fileName);
     void compare(const QString &fileName);
@@ -62,11 +63,12 @@ private:
     using Done = std::function<void()>;
 
     QAction *add(const QString &text, const char *name);
+    void end();
     void askForFile(QFileDialog::AcceptMode mode, const QString &title,
                     std::function<void(const QString &)> then);
     void run(const QString &text, const SettingsJob::Work &work, const Done &done);
     SettingsTableDialog *newDialog(const QString &title, const char *name);
-    void show(QDialog *dialog);
+    void show(QDialog *dialog, QList<QPointer<QDialog>> *others);
     void say(QMessageBox::Icon icon, const QString &text);
     void ask(const QString &text, const QString &yes, const Done &then);
 
@@ -85,7 +87,8 @@ private:
     QWidget *const m_window;
     QMenu m_userSets;
     QPointer<SettingsJob> m_job;
-    QList<QPointer<QDialog>> m_dialogs;
+    QList<QPointer<QDialog>> m_questions; ///< which end with the camera
+    QList<QPointer<QDialog>> m_results;
     Settings m_before; ///< of the last load
 };
 
@@ -104,6 +107,12 @@ SettingsTable::Rows rowsOf(const OrvCameraSettings::Result &result)
     for (const QString &name : result.missing)
         rows.append({name, QString(), QString()});
     return rows;
+}
+
+void destroyAll(QList<QPointer<QDialog>> *dialogs)
+{
+    for (const QPointer<QDialog> &dialog : std::exchange(*dialogs, {}))
+        delete dialog;
 }
 
 QString baseName(const QString &fileName)
@@ -147,11 +156,16 @@ QAction *OrvSettingsMenuPrivate::add(const QString &text, const char *name)
     return action;
 }
 
+OrvSettingsMenuPrivate::~OrvSettingsMenuPrivate()
+{
+    end();
+    destroyAll(&m_results);
+}
+
 void OrvSettingsMenuPrivate::end()
 {
     delete m_job;
-    for (const QPointer<QDialog> &dialog : std::exchange(m_dialogs, {}))
-        delete dialog;
+    destroyAll(&m_questions);
 }
 
 void OrvSettingsMenuPrivate::setNodeMap(GenApi::INodeMap *newMap)
@@ -181,7 +195,7 @@ void OrvSettingsMenuPrivate::askForFile(QFileDialog::AcceptMode mode, const QStr
     dialog->setNameFilters({tr("Camera settings (*.pfs)"), tr("All files (*)")});
     dialog->setDefaultSuffix(QStringLiteral("pfs"));
     QObject::connect(dialog, &QFileDialog::fileSelected, q, std::move(then));
-    show(dialog);
+    show(dialog, &m_questions);
 }
 
 /// One thing at a time: others wait behind the dialog that shows the progress.
@@ -206,11 +220,11 @@ SettingsTableDialog *OrvSettingsMenuPrivate::newDialog(const QString &title, con
     return dialog;
 }
 
-void OrvSettingsMenuPrivate::show(QDialog *dialog)
+void OrvSettingsMenuPrivate::show(QDialog *dialog, QList<QPointer<QDialog>> *others)
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    m_dialogs.removeAll(QPointer<QDialog>());
-    m_dialogs.append(dialog);
+    others->removeAll(QPointer<QDialog>());
+    others->append(dialog);
     dialog->open();
 }
 
@@ -218,7 +232,7 @@ void OrvSettingsMenuPrivate::say(QMessageBox::Icon icon, const QString &text)
 {
     auto *box = new QMessageBox(icon, QString(), text, QMessageBox::Ok, m_window);
     box->setTextFormat(Qt::PlainText);
-    show(box);
+    show(box, &m_results);
 }
 
 void OrvSettingsMenuPrivate::ask(const QString &text, const QString &yes, const Done &then)
@@ -228,7 +242,7 @@ void OrvSettingsMenuPrivate::ask(const QString &text, const QString &yes, const 
     box->setTextFormat(Qt::PlainText);
     const QAbstractButton *button = box->addButton(yes, QMessageBox::AcceptRole);
     QObject::connect(button, &QAbstractButton::clicked, q, [=] { then(); });
-    show(box);
+    show(box, &m_questions);
 }
 
 void OrvSettingsMenuPrivate::save(const QString &fileName)
@@ -260,7 +274,7 @@ void OrvSettingsMenuPrivate::showSaved(const QString &fileName,
     dialog->addCloseButton();
     dialog->setContents(text + QLatin1Char(' ') + tr("These are not:"),
                         {tr("Feature"), tr("Reason")}, rows);
-    show(dialog);
+    show(dialog, &m_results);
 }
 
 void OrvSettingsMenuPrivate::load(const QString &fileName)
@@ -327,7 +341,7 @@ void OrvSettingsMenuPrivate::showPreview(const std::shared_ptr<Preview> &preview
         }
         write(tr("Writing the settings to the camera..."), preview->settings, false);
     });
-    show(dialog);
+    show(dialog, &m_questions);
 }
 
 void OrvSettingsMenuPrivate::write(const QString &text, const Settings &settings,
@@ -393,6 +407,8 @@ void OrvSettingsMenuPrivate::showWritten(const SettingsWriter::Result &result, b
         QPushButton *button = dialog->addButton(tr("Put Back"));
         button->setObjectName(QStringLiteral("putBackButton"));
         button->setToolTip(tr("Gives the camera the values that it had before"));
+        QObject::connect(putBackAction, &QAction::changed, button,
+                         [=] { button->setEnabled(putBackAction->isEnabled()); });
         QObject::connect(button, &QPushButton::clicked, q, [this, dialog] {
             dialog->close();
             putBack();
@@ -400,7 +416,7 @@ void OrvSettingsMenuPrivate::showWritten(const SettingsWriter::Result &result, b
     }
     dialog->addCloseButton();
     dialog->setContents(text, {tr("Feature"), tr("File"), tr("Reason")}, rows);
-    show(dialog);
+    show(dialog, &m_results);
 }
 
 void OrvSettingsMenuPrivate::putBack()
@@ -444,7 +460,7 @@ void OrvSettingsMenuPrivate::showComparison(const QString &fileName,
                             ? tr("The camera has all values of %1.").arg(name)
                             : tr("This is not the same in %1 and in the camera:").arg(name),
                         {tr("Feature"), name, tr("Camera")}, rows);
-    show(dialog);
+    show(dialog, &m_results);
 }
 
 void OrvSettingsMenuPrivate::compareFiles(SettingsTableDialog *dialog, const QString &left,
@@ -526,10 +542,7 @@ OrvSettingsMenu::OrvSettingsMenu(QWidget *window)
 {
 }
 
-OrvSettingsMenu::~OrvSettingsMenu()
-{
-    d->end();
-}
+OrvSettingsMenu::~OrvSettingsMenu() = default;
 
 void OrvSettingsMenu::setNodeMap(GenApi::INodeMap *map)
 {

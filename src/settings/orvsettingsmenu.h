@@ -33,8 +33,9 @@ public:
     ~OrvSettingsMenu() override;
 
     /// Sets the node map of the camera; null for none, which disables the entries. A running
-    /// operation is cancelled, the call waits for its end, and its dialogs are closed. The previous
-    /// node map is not used any more when the call returns.
+    /// operation is cancelled, and the call waits for its end. Dialogs that would use the camera
+    /// are closed, results stay open. The previous node map is not used any more when the call
+    /// returns.
     void setNodeMap(GenApi::INodeMap *map);
 
     /// Adds the entries to the menu, before the given entry if it is not null.

@@ -21,8 +21,8 @@ GenApi::IValue *settingOf(GenApi::INodeMap &map, const QString &name);
 
 /// Moves selectors of a camera, and moves them back at its end.
 ///
-/// Views that follow the features are not told while the selectors are away, and once when they are
-/// back.
+/// Views that follow the features are not notified while the selectors are away, and once when they
+/// are back.
 class SelectorMoves
 {
 public:

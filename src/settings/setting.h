@@ -44,7 +44,7 @@ struct SettingProblem
 
 using SettingProblems = QVector<SettingProblem>;
 
-/// Told how much has been done, on the thread that does it. Answers false to cancel. May be empty.
+/// Gets how much has been done, on the thread that does it. Returns false to cancel. May be empty.
 using SettingsProgress = std::function<bool(int done, int total)>;
 
 } // namespace OrvGui

@@ -187,7 +187,7 @@ bool SettingsFile::write(const QString &fileName, QString *error) const
         return false;
     }
     QSaveFile file(fileName);
-    // Only flush() tells when the disk is full.
+    // Only flush() fails when the disk is full.
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
         file.commit())
         return true;

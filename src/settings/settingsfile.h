@@ -23,8 +23,8 @@ public:
     QStringList comments;
     Settings lines;
 
-    /// Reads UTF-8, with or without a byte order mark; lines end with \n or \r\n. What is wrong is
-    /// told with the number of the line; the result is empty then.
+    /// Reads UTF-8, with or without a byte order mark; lines end with \n or \r\n. An error contains
+    /// the number of the line; the result is empty then.
     static SettingsFile fromBytes(const QByteArray &bytes, QString *error);
     static SettingsFile read(const QString &fileName, QString *error);
 

@@ -13,7 +13,7 @@ namespace OrvGui {
 /// one is left, the last, of a selector that is a setting itself. What the camera lacks stays.
 Settings resolvedSettings(const Settings &lines, GenApi::INodeMap &map);
 
-/// The same without a camera. Which lines are those of selectors is told by their names, and by
+/// The same without a camera. Lines of selectors are recognised by their names, and by
 /// what is there several times.
 Settings resolvedSettings(const Settings &lines);
 

@@ -96,7 +96,7 @@ bool SettingsReader::goesOn()
     return !m_result.isCancelled;
 }
 
-/// In as few transfers as possible; a failure shows when the value is asked for.
+/// In as few transfers as possible; a failure shows when the value is read.
 void SettingsReader::fetch(const Features &features) const
 {
     auto *lookAhead = dynamic_cast<OrvGenParam::LookAhead *>(&m_map);
@@ -181,7 +181,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
             continue;
         }
         m_result.settings.append(line);
-        // Views are told of the inner ones when the outermost is back.
+        // Views are notified of the inner ones when the outermost is back.
         const auto detour = positions.size() > 1 ? std::make_unique<SelectorDetour>() : nullptr;
         readAt(selectors, depth + 1, features);
         if (m_result.settings.size() == start + 1)

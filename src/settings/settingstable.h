@@ -7,7 +7,7 @@
 
 namespace OrvGui {
 
-/// Rows of texts about features. A null text stands for a value that is not there.
+/// Rows of texts about features. A null text is a value that is not there.
 class SettingsTable : public QAbstractTableModel
 {
     Q_OBJECT

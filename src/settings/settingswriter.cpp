@@ -46,7 +46,7 @@ SettingsWriter::Result SettingsWriter::write(const Settings &settings)
     for (const Setting &setting : settings)
         (settingOf(m_map, setting.name) ? known : m_result.missing).append(setting);
     for (int i = 0; i < known.size(); ++i)
-        known[i].line = i; // tells them apart
+        known[i].line = i; // identifies them
     m_total = int(known.size());
     m_done = 0;
 
@@ -87,11 +87,11 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
 /// Empty when it is done.
 QString SettingsWriter::attempt(const Setting &setting)
 {
-    const QString obstacle = m_moves.select(setting.selection);
+    const QString refusal = m_moves.select(setting.selection);
     if (m_moves.isUnanswered() && ++m_timeouts >= mostTimeouts)
-        m_result.error = obstacle;
-    if (!obstacle.isEmpty())
-        return obstacle;
+        m_result.error = refusal;
+    if (!refusal.isEmpty())
+        return refusal;
     GenApi::IValue *feature = settingOf(m_map, setting.name);
     const QString reason = attempt(feature, setting.value);
     if (reason.isEmpty() && isSelector(feature))
@@ -103,7 +103,7 @@ QString SettingsWriter::attempt(GenApi::IValue *feature, const QString &value)
 {
     QString reason;
     try {
-        reason = FeatureValue::obstacle(feature);
+        reason = FeatureValue::refusal(feature);
         if (reason.isEmpty())
             FeatureValue::write(feature, value);
         m_timeouts = 0;

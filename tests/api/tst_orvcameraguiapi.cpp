@@ -182,6 +182,8 @@ void TestOrvCameraGuiApi::stateLevelAndLanguage()
     QCOMPARE(LoadGenParamTreeViewState(view, state), 1);
     QCOMPARE(GetGenParamTreeViewVisibility(view), 2);
     QCOMPARE(LoadGenParamTreeViewState(view, "&amp;Wx&amp;V1"), 0);
+    QCOMPARE(LoadGenParamTreeViewState(view, "&amp;W90&amp;V7"), 0);
+    QCOMPARE(GetGenParamTreeViewVisibility(view), 2);
     QCOMPARE(LoadGenParamTreeViewState(view, nullptr), 0);
     QCOMPARE(LoadGenParamTreeViewState(nullptr, state), 0);
     QVERIFY(!SaveGenParamTreeViewState(nullptr));

@@ -127,6 +127,7 @@ static void valuesOf(OrvGenApiNodeMap *map)
     CHECK(OrvGenParam_Execute(width) == OrvCam_ErrorNotFound);
     CHECK(OrvGenParam_Execute(start) == OrvCam_ErrorNotAvailable); /* the trigger is off */
     CHECK(OrvGenParam_IsDone(start, NULL) != OrvCam_ErrorInvalidArgument);
+    CHECK(OrvGenParam_SetValueText(OrvGenParam_FindNode(map, "UserSetLoad"), "") != 0);
 }
 
 static void listsOf(OrvGenApiNodeMap *map)
@@ -242,6 +243,8 @@ static void descriptions(void)
     OrvGenParam_ReleaseNodeMap(map);
     CHECK(!OrvGenParam_LoadDescription("/no/such/folder/file.xml", reason, sizeof reason));
     CHECK(strcmp(reason, "/no/such/folder/fil") == 0); /* cut */
+    CHECK(!OrvGenParam_LoadDescription("/no/such/\xFF\xC3\xA4\xC3\xA4\xC3\xA4", reason, 16));
+    CHECK(strcmp(reason, "/no/such/\xEF\xBF\xBD\xC3\xA4") == 0);
 }
 
 static void nothing(void)

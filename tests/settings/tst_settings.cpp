@@ -611,6 +611,17 @@ void TestSettings::menu()
     answer.join();
     QVERIFY(camera.isPutBack() && !QFile::exists(path("gone.pfs")));
     QVERIFY(shown<QMessageBox>() && !menu.actions().first()->isEnabled());
+    shown<QMessageBox>()->accept();
+
+    // What was refused can still be read when the camera is gone.
+    menu.setNodeMap(&camera);
+    menu.load(write(head + "Width\t30\nOffsetX\t9\n"));
+    QVERIFY(finished.wait());
+    shown<QDialog>("SettingsPreview")->accept();
+    QVERIFY(finished.wait());
+    menu.setNodeMap(nullptr);
+    dialog = shown<QDialog>("SettingsResult");
+    QVERIFY(dialog && !dialog->findChild<QPushButton *>("putBackButton")->isEnabled());
 }
 
 void TestSettings::userSets()
