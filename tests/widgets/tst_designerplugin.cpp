@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "ui_valuewidgets.h"
 #include "qtorvslider.h"
+#include "ui_valuewidgets.h"
 
 #include <QPluginLoader>
 #include <QUiLoader>
