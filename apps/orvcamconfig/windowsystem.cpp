@@ -39,17 +39,16 @@ Attempt *attempt = nullptr;
         qputenv(platformVariable, "offscreen");
         execv("/proc/self/exe", attempt->arguments);
     }
-    const QString reason =
-        attempt->messages.isEmpty() ? QString() : attempt->messages.first().text.trimmed();
+    const QString reason = attempt->messages.first().text.trimmed().section(QLatin1Char('\n'), 0, 0);
     std::fprintf(stderr, "orvcamconfig: %s\n", qPrintable(attempt->complaint.arg(reason)));
     std::_Exit(EXIT_FAILURE);
 }
 
 void holdMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
+    attempt->messages.append({type, text});
     if (type == QtFatalMsg)
         giveUp();
-    attempt->messages.append({type, text});
 }
 
 /// A picture has no window manager to complain about.

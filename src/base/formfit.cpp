@@ -65,6 +65,12 @@ void FormFit::align(const QList<QLabel *> &labels)
         label->setMinimumWidth(width);
 }
 
+int FormFit::textWidth(const QWidget *widget, const QString &text)
+{
+    const int flags = Qt::TextSingleLine | Qt::TextIncludeTrailingSpaces;
+    return widget->fontMetrics().size(flags, text).width();
+}
+
 void FormFit::limitWidth(QWidget *widget, int width)
 {
     const bool isPadded = widget->style()->inherits("QStyleSheetStyle");

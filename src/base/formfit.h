@@ -5,6 +5,7 @@
 
 class QLabel;
 class QScrollArea;
+class QString;
 class QWidget;
 
 /// Sizes of parts of a form that depend on each other across its layouts.
@@ -12,6 +13,9 @@ namespace FormFit {
 
 /// Makes labels that stand below each other, in rows of their own, equally wide.
 void align(const QList<QLabel *> &labels);
+
+/// The width of a text of one line in the font of the widget; spaces at its ends count.
+int textWidth(const QWidget *widget, const QString &text);
 
 /// Limits the width of a button or line edit; a style sheet's padding comes on top of it.
 void limitWidth(QWidget *widget, int width);

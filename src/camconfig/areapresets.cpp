@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "camconfig/areapresets.h"
 
+#include "camconfig/paramaccess.h"
+
 #include <OrvCam/Codes.h>
 #include <OrvGenParam/Array.h>
 
@@ -58,7 +60,7 @@ bool AreaPresets::dependsOn(const Param *param) const
 bool AreaPresets::offers(Preset preset) const
 {
     for (const Int *side : m_sides) {
-        const bool isUsable = side && side->IsAvailable() && side->IsWritable();
+        const bool isUsable = isWritable(side);
         if (preset == Custom && isUsable)
             return true;
         if (preset != Custom && !isUsable)

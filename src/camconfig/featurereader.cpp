@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "camconfig/featurereader.h"
 
+#include "camconfig/paramaccess.h"
+
 #include <OrvCam/Codes.h>
 #include <OrvGenParam.h>
+
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -15,7 +19,7 @@ namespace OrvGui {
 
 namespace {
 
-/// What changes faster than it can be read is shown as it comes.
+/// A value that changes faster than it can be read is shown after so many.
 const int maxRounds = 3;
 
 LookAhead *lookAheadOf(const Array *array)
@@ -42,7 +46,7 @@ void addEnum(const OrvGenParam::Enum *param, std::vector<LookAhead::Ask> &asks)
     }
 }
 
-/// One question each, so that one that must wait for an answer does not keep others back.
+/// One function for each value, so that one that waits for an answer does not delay others.
 void add(const Param *param, std::vector<LookAhead::Ask> &asks)
 {
     if (!param)
@@ -87,7 +91,7 @@ void FeatureReader::setArray(const Array *array)
     m_array = array;
 }
 
-/// Null as well while the camera is lost: nothing can be read, which takes no time.
+/// Null, too, while the camera is lost: then every read fails at once.
 LookAhead *FeatureReader::lookAhead() const
 {
     return lookAheadOf(m_array);
@@ -117,6 +121,16 @@ FeatureReader::Params FeatureReader::named(const Array &array, const Names &feat
     for (const char *feature : features)
         params << array.GetParam(feature);
     return params;
+}
+
+bool FeatureReader::isReadable(const Param *param) const
+{
+    return get([=] { return OrvGui::isReadable(param); });
+}
+
+bool FeatureReader::isWritable(const Param *param) const
+{
+    return get([=] { return OrvGui::isWritable(param); });
 }
 
 bool FeatureReader::areKnown(const Params &params) const
@@ -161,14 +175,14 @@ void FeatureReader::fetch()
 void FeatureReader::fetched()
 {
     m_request.reset();
-    const std::weak_ptr<bool> life = m_life;
+    const QPointer<QTimer> alive(&m_timer);
     while (!m_underWay.isEmpty()) {
         Waiting next = m_underWay.takeFirst();
         if (++next.rounds < maxRounds && lookAhead() && !areKnown(next.params))
             m_waiting.append(next);
         else
             next.call(); // which may set another array, or destroy this
-        if (life.expired())
+        if (!alive)
             return;
     }
     if (!m_waiting.isEmpty())

@@ -16,13 +16,13 @@ class Param;
 
 namespace OrvGui {
 
-/// Reads what widgets show of a camera's parameters, without having the window wait for each
-/// answer of the camera.
+/// Reads the values that widgets show of a camera's parameters, without blocking the window for
+/// each answer of the camera.
 ///
-/// Before widgets are bound, `fetchNow` reads all of it in a few transfers. What has to be read
-/// again later is read in the background: give `whenKnown` what is to be done then. Whatever reads
-/// goes through `get`. For an array whose node map cannot look ahead, nothing is fetched and
-/// everything is done at once.
+/// Before widgets are bound, `fetchNow` reads all values in a few transfers. Later reads run in the
+/// background: pass the function that needs them to `whenKnown`. Such a function reads through
+/// `get`. For an array whose node map cannot look ahead, nothing is fetched and functions are
+/// called at once.
 class FeatureReader
 {
 public:
@@ -34,23 +34,24 @@ public:
     Q_DISABLE_COPY(FeatureReader)
 
     /// The array whose parameters are read, which has to live until another one is set; null for
-    /// none. What has not been done yet of the former one is dropped.
+    /// none. Pending calls for the former one are dropped.
     void setArray(const OrvGenParam::Array *array);
 
-    /// Whether what is to be shown has to be transferred first.
+    /// Whether values have to be transferred before they are shown.
     bool looksAhead() const { return lookAhead() != nullptr; }
 
-    /// Null pointers are left out.
+    /// Blocks. Null pointers are left out.
     void fetchNow(const Params &params) const;
 
-    /// The same by name, of an array that nobody else uses yet; on any thread.
+    /// The same by name, on any thread. The array must not be in use elsewhere.
     static void fetchNow(const OrvGenParam::Array &array, const Names &features);
 
-    /// Null pointers for those that the array lacks.
+    /// Null pointers for the parameters that the array lacks.
     static Params named(const OrvGenParam::Array &array, const Names &features);
 
-    /// What the function reads of parameters and nothing else: with values that are a second old at
-    /// most, as long as all are known. May call the function several times.
+    /// The result of a function that only reads parameters. The values are a second old at most
+    /// when all are known; otherwise they are read from the camera. May call the function several
+    /// times.
     template<class Get>
     auto get(Get read) const -> decltype(read())
     {
@@ -59,8 +60,12 @@ public:
         return isKnown ? value : read();
     }
 
-    /// Calls the function as soon as all is known that can be read of the parameters: at once if
-    /// that is so now. A later call for the same two replaces one that is still to come.
+    /// The access modes of a parameter; false for null.
+    bool isReadable(const OrvGenParam::Param *param) const;
+    bool isWritable(const OrvGenParam::Param *param) const;
+
+    /// Calls the function as soon as all values of the parameters are known, which may be at once.
+    /// A later call for the same owner and subject replaces a pending one.
     void whenKnown(const void *owner, const void *subject, const Params &params,
                    const std::function<void()> &call);
 
@@ -81,11 +86,10 @@ private:
     void fetched();
 
     const OrvGenParam::Array *m_array = nullptr;
-    QTimer m_timer; ///< collects what one change of the camera leads to
+    QTimer m_timer; ///< collects the notifications of one change of the camera
     QVector<Waiting> m_waiting;
     QVector<Waiting> m_underWay;
     std::unique_ptr<OrvGenParam::LookAhead::Request> m_request;
-    std::shared_ptr<bool> m_life = std::make_shared<bool>(true);
 };
 
 } // namespace OrvGui

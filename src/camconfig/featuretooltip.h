@@ -14,7 +14,7 @@ class Param;
 
 namespace OrvGui {
 
-/// Tool tips that explain a widget by what the camera says of the feature that it shows.
+/// Tool tips with the camera's description of the feature that a widget shows.
 class FeatureToolTip
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::FeatureToolTip)
@@ -27,18 +27,18 @@ public:
         qint64 increment;
     };
 
-    /// The feature's names, description and unit, as rich text in which the camera's own texts are
-    /// only text. Empty without a parameter. Asks the camera for nothing.
+    /// The feature's names, description and unit, as rich text in which the camera's texts are
+    /// escaped. Empty without a parameter. Reads nothing from the camera.
     static QString text(const OrvGenParam::Param *param);
 
-    /// The same, with the range. A range in another unit than the camera's comes without unit.
+    /// The same, with the range. Without the unit when the range is in another one.
     static QString text(const OrvGenParam::Param *param, const Range &range, bool isCamerasUnit);
 
     /// Of several features, of which some may be null.
     static QString text(std::initializer_list<const OrvGenParam::Param *> params);
 
-    /// Gives the tool tip to the widget and to its labels, those of which it is the buddy, unless
-    /// they have one that does not come from here. An empty text takes it away.
+    /// Sets the tool tip of the widget and of its labels, those of which it is the buddy. A tool
+    /// tip that was not set by this class is kept. An empty text removes it.
     static void set(QWidget *widget, const QString &text);
 
 private:

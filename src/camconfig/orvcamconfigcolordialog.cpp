@@ -15,13 +15,6 @@ namespace {
 
 const int unityGain = 256;
 
-int textWidth(const QWidget *widget, const QString &text)
-{
-    return widget->fontMetrics()
-        .size(Qt::TextSingleLine | Qt::TextIncludeTrailingSpaces, text)
-        .width();
-}
-
 } // namespace
 
 class OrvCamConfigColorDialogPrivate : public OrvCamConfigDialogPrivate,
@@ -97,8 +90,8 @@ void OrvCamConfigColorDialogPrivate::bind()
 void OrvCamConfigColorDialogPrivate::bindCoefficient(Coefficient &coefficient)
 {
     QPushButton *unity = coefficient.unity;
-    FormFit::limitWidth(unity, textWidth(unity, unity->text()) +
-                                   2 * textWidth(unity, QStringLiteral("_")));
+    FormFit::limitWidth(unity, FormFit::textWidth(unity, unity->text()) +
+                                   2 * FormFit::textWidth(unity, QStringLiteral("_")));
     QtOrvSpinBox *spinBox = coefficient.spinBox;
     if (bindInt(coefficient.feature, spinBox, coefficient.dependents)) {
         coefficient.bound = watched(array->GetInt(coefficient.feature), this);
@@ -111,7 +104,7 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
     const QString widest = QString::number(ui.spBoxRed->maximum());
     for (const Coefficient &coefficient : m_coefficients) {
         coefficient.statistics->setFixedWidth(
-            textWidth(coefficient.statistics, widest + QLatin1Char(' ')));
+            FormFit::textWidth(coefficient.statistics, widest + QLatin1Char(' ')));
         // What the spin box of a missing coefficient shows may be a former camera's.
         const int value = coefficient.bound ? coefficient.spinBox->value() : 0;
         coefficient.statistics->setText(QString::number(value));

@@ -76,7 +76,7 @@ void OrvCamConfigDialogPrivate::target()
     ++m_tenures;
     leaveParams();
     mapper.unmapAll();
-    m_handlers.reset(new QObject);
+    m_handlers.end();
     release();
 
     array = device ? paramsOf(device) : nullptr;

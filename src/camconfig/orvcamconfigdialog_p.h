@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/connections.h"
+#include "camconfig/dialogmapper.h"
 #include "camconfig/featurereader.h"
 #include "camconfig/orvcamconfigdialog.h"
-#include "camconfig/orvcamconfigmapper.h"
 
 #include <OrvGenParam/Array.h>
 
 #include <QByteArray>
-#include <QObject>
 #include <QPointer>
 #include <QVector>
 
@@ -107,16 +107,16 @@ protected:
     template<class Sender, class Signal, class Handler>
     void on(Sender *sender, Signal signal, Handler handler)
     {
-        QObject::connect(sender, signal, handlers(), handler);
+        m_handlers.add(sender, signal, handler);
     }
-    QObject *handlers() const { return m_handlers.get(); }
+    QObject *handlers() const { return m_handlers.receiver(); }
 
     FeatureReader &reader() const { return mapper.reader(); }
 
     OrvCamConfigDialog *q = nullptr;
     OrvCam::Device *device = nullptr;
     OrvGenParam::Array *array = nullptr; ///< the device's; null while the dialog is disabled
-    OrvCamConfigMapper mapper;
+    DialogMapper mapper;
 
 private:
     struct Watched
@@ -129,7 +129,7 @@ private:
     void target();
     void leaveParams();
 
-    std::unique_ptr<QObject> m_handlers;     ///< the receiver of the dialog's own handlers
+    Connections m_handlers;                  ///< of the dialog's own
     OrvCam::Device *m_boundDevice = nullptr; ///< that `array` is of
     QVector<Watched> m_watched;
     UndoActions *m_undoActions = nullptr; ///< of the dialog

@@ -7,13 +7,9 @@
 #include <OrvGenParam/ParamEventSink.h>
 
 #include <QCoreApplication>
-#include <QHash>
-#include <QPointer>
 #include <QString>
-#include <QVariant>
 #include <QVector>
 
-#include <functional>
 #include <limits>
 #include <memory>
 
@@ -40,9 +36,8 @@ class Int;
 
 namespace OrvGui {
 
-class FeatureJournal;
-class FeatureReader;
 class IOrvCamConfigIntConverter;
+class OrvCamConfigMapperPrivate;
 
 /// Binds parameters of a camera to widgets in both directions: a change by the user is written to
 /// the camera at once, a change by the camera is shown, and a widget is enabled while its parameter
@@ -84,12 +79,6 @@ public:
     /// Sets the array of the parameters that will be mapped; null for none. Without it, each value
     /// is read from the camera when it is shown, and the read blocks.
     void setArray(const OrvGenParam::Array *array);
-
-    /// The reader of the parameters of that array.
-    FeatureReader &reader() const;
-
-    /// The journal that records the user's writes to those parameters; null without an array.
-    std::shared_ptr<FeatureJournal> journal() const;
 
     /// Shows the parameter in the widgets bound to it, and enables or disables them. When the value
     /// is not cached, this happens after it has been read.
@@ -155,56 +144,8 @@ public:
     void updateRadioButtons(OrvGenParam::Enum *param, QButtonGroup *buttons);
     void updateTabWidget(OrvGenParam::Enum *param, QTabWidget *tabs);
 
-private:
-    /// The record of a name, and a pointer that becomes null with the button group.
-    struct Binding
-    {
-        OrvCamConfigMapData alive() const;
-
-        OrvCamConfigMapData record;
-        QPointer<QObject> group;
-    };
-    using Bindings = QVector<Binding>;
-    using Records = QVector<OrvCamConfigMapData>;
-    using Write = std::function<qint32()>;
-    enum What { Everything, LimitsAroundValue };
-    class Showing;
-    struct State;
-
-    void refresh(const QString &name, OrvGenParam::Param *param);
-    void setUsable(const OrvCamConfigMapData &record, const OrvGenParam::Param *param,
-                   bool usable) const;
-    template<class Get>
-    auto read(Get get) const;
-    bool begin(OrvGenParam::Param *param, const Records &records);
-    void finish(OrvGenParam::Param *param);
-    void cut(const OrvCamConfigMapData &record);
-    void fitTabCount(QTabWidget *tabs, int entries);
-    void show(const OrvCamConfigMapData &record, OrvGenParam::Param *param);
-    void showBoundTo(const QObject *control);
-    bool checkCurrentButton(OrvGenParam::Enum *param, QButtonGroup *buttons);
-    void showText(OrvGenParam::Int *param, QLineEdit *lineEdit);
-    template<class Widget>
-    bool showNumber(OrvGenParam::Int *param, Widget *widget, IOrvCamConfigIntConverter *converter,
-                    What what = Everything);
-    template<class Compound>
-    void bindCompound(OrvGenParam::Int *param, Compound *widget,
-                      IOrvCamConfigIntConverter *converter);
-    template<class Slider>
-    void onDragged(Slider *slider, const std::function<int()> &value,
-                   const std::function<void()> &changed, const std::function<bool(What)> &show);
-    void write(QObject *control, const QString &format, const OrvGenParam::Param *param,
-               const QVariant &value, const Write &call);
-    void note(const OrvGenParam::Param *param, const QVariant &value) const;
-    void writeInt(QObject *control, OrvGenParam::Int *param, int shown,
-                  IOrvCamConfigIntConverter *converter);
-    QObject *context() const;
-
-    const qint64 m_valueCap;
-    QHash<QString, Bindings> m_bindings;
-    QHash<QString, OrvGenParam::Param *> m_params; ///< bound parameters, by name
-    QHash<QString, QHash<QString, int>> m_tabs;    ///< parameter, entry: index of its tab
-    const std::shared_ptr<State> m_state;          ///< may outlive the mapper briefly
+protected:
+    const std::unique_ptr<OrvCamConfigMapperPrivate> d;
 };
 
 } // namespace OrvGui

@@ -20,11 +20,6 @@ QString microsecondsSuffix()
     return OrvCamConfigPulseDialog::tr(" [%1s]:").arg(QChar(0x03BC));
 }
 
-int textWidth(const QWidget *widget, const QString &text)
-{
-    return widget->fontMetrics().boundingRect(text).width();
-}
-
 void fitSlider(QtOrvSpinBox *spinBox)
 {
     const QLabel *label = spinBox->leftLabel();
@@ -63,7 +58,7 @@ void OrvCamConfigPulseDialogPrivate::buildForm()
     modeButtons->addButton(ui.radioBtnContinious);
     modeButtons->addButton(ui.radioBtnSend);
 
-    const int width = textWidth(ui.lineEditFreq, QStringLiteral("1000000000.00000000"));
+    const int width = FormFit::textWidth(ui.lineEditFreq, QStringLiteral("1000000000.00000000"));
     FormFit::limitWidth(ui.lineEditDelay, width);
     FormFit::limitWidth(ui.lineEditFreq, width);
 }

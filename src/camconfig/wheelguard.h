@@ -8,14 +8,13 @@ class QWidget;
 namespace OrvGui {
 
 /// Keeps the wheel from changing a value that the user only scrolls past: combo boxes, spin boxes,
-/// sliders and tab bars without the focus leave it to what they stand in.
+/// sliders and tab bars without the focus pass wheel events to their parents.
 ///
-/// The wheel does not give them the focus, either. The widgets need not outlive the guard, nor it
-/// them.
+/// The wheel does not give them the focus, either. Widgets and guard may be destroyed in any order.
 class WheelGuard : public QObject
 {
 public:
-    /// Guards the widget and what it consists of; of a `QTabWidget` the tab bar, not the pages.
+    /// Guards the widget and its children; of a `QTabWidget` the tab bar, not the pages.
     void guard(QWidget *widget);
 
 protected:

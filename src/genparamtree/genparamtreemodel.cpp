@@ -23,16 +23,6 @@ namespace {
 const int nameColumn = 0;
 const int valueColumn = 1;
 
-bool isReadable(GenApi::EAccessMode mode)
-{
-    return mode == GenApi::RO || mode == GenApi::RW;
-}
-
-bool isWritable(GenApi::EAccessMode mode)
-{
-    return mode == GenApi::WO || mode == GenApi::RW;
-}
-
 QVariant longVariant(int64_t value)
 {
     return QVariant::fromValue(static_cast<long>(value));
@@ -197,7 +187,7 @@ QVariant GenParamTreeModelPrivate::valueData(GenApi::IValue *value, int role)
         return foregroundData(mode, isCommand);
     if (mode == GenApi::NI || mode == GenApi::NA)
         return GenParamTreeModel::tr("<Value not available>");
-    if (!isCommand && !isReadable(mode))
+    if (!isCommand && !GenApi::IsReadable(mode))
         return GenParamTreeModel::tr("<Value not readable>");
 
     switch (type) {
@@ -253,7 +243,8 @@ QString GenParamTreeModelPrivate::text(GenApi::IValue *feature, bool mayWait) co
 {
     QString text;
     const auto read = [&] {
-        if (isReadable(feature->GetAccessMode()) && !dynamic_cast<GenApi::ICommand *>(feature))
+        if (GenApi::IsReadable(feature->GetAccessMode()) &&
+            !dynamic_cast<GenApi::ICommand *>(feature))
             text = fromUtf8(feature->ToString(false, false));
     };
     try {
@@ -287,7 +278,7 @@ GenParamTreeModelPrivate::carryOut(GenApi::IValue *feature, const std::function<
     Outcome outcome = Refused;
     QString refusal;
     try {
-        if (!isWritable(feature->GetAccessMode()))
+        if (!GenApi::IsWritable(feature->GetAccessMode()))
             refusal = GenParamTreeModel::tr("The feature cannot be written at the moment.");
         else
             outcome = write() ? Written : NotWritable;
@@ -386,7 +377,7 @@ Qt::ItemFlags GenParamTreeModel::flags(const QModelIndex &index) const
         return readOnly;
     try {
         const GenApi::IValue *value = GenParamTreeModelPrivate::valueFromIndex(index);
-        if (value && isWritable(value->GetAccessMode()))
+        if (value && GenApi::IsWritable(value->GetAccessMode()))
             return readOnly | Qt::ItemIsEditable;
     } catch (const GenICam::GenericException &) {
     }

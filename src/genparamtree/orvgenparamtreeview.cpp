@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamtree/orvgenparamtreeview_p.h"
 
+#include "base/treeviewmodel.h"
 #include "base/treeviewresizer.h"
 #include "genparamtree/featurenamedelegate.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -127,27 +128,10 @@ void OrvGenParamTreeViewPrivate::setModel(std::nullptr_t)
     QAbstractItemModel *model = ui->treeView->model();
     if (model) {
         // Taking the model away closes the editor before anything that it shows is gone.
-        installModel(nullptr);
+        setTreeViewModel(ui->treeView, nullptr);
         delete model;
     }
     describeCurrent();
-}
-
-// With every model, even with none, Qt makes selection models for the tree and for its header, and
-// leaves those that it no longer uses where they are.
-void OrvGenParamTreeViewPrivate::installModel(QAbstractItemModel *model)
-{
-    QTreeView *tree = ui->treeView;
-    tree->setModel(model);
-    for (const QWidget *view :
-         {static_cast<QWidget *>(tree), static_cast<QWidget *>(tree->header())}) {
-        for (auto *selection :
-             view->findChildren<QItemSelectionModel *>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (selection != tree->selectionModel() &&
-                selection != tree->header()->selectionModel())
-                delete selection;
-        }
-    }
 }
 
 template<typename Source>
@@ -164,7 +148,7 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
     proxy->setLookAhead(TreeLookAhead::create(nodeMapOf(source), shown, proxy));
     setLookAhead(proxy->lookAhead());
     QAbstractItemModel *model = wrap ? wrap(proxy) : proxy;
-    installModel(model);
+    setTreeViewModel(ui->treeView, model);
     QObject::connect(ui->treeView->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this] { describeCurrent(); });
     QObject::connect(model, &QAbstractItemModel::dataChanged, q, [this](const QModelIndex &cell) {

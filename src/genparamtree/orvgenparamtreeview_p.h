@@ -41,7 +41,6 @@ public:
     template<typename Source>
     void setModel(Source *source);
     void setModel(std::nullptr_t);
-    void installModel(QAbstractItemModel *model);
     void setLookAhead(TreeLookAhead *lookAhead);
     void setSpanForChildren(const QModelIndex &parent);
     void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);

@@ -2,6 +2,7 @@
 #include "selector/infopane.h"
 
 #include "base/cameratext.h"
+#include "base/treeviewmodel.h"
 #include "base/treeviewresizer.h"
 
 #include <QCoreApplication>
@@ -19,7 +20,7 @@ const int valueColumn = 1;
 InfoPane::InfoPane(QTreeView *view) : m_view(view)
 {
     auto *resizer = new TreeViewResizer(view);
-    QObject::connect(resizer, &TreeViewResizer::showed, &m_life, [this] { viewShown(); });
+    m_connections.add(resizer, &TreeViewResizer::showed, [this] { viewShown(); });
 }
 
 /// Before, the column of the values was not as wide as it is.
@@ -36,11 +37,11 @@ int InfoPane::heightOf(int rows) const
 {
     QStandardItemModel *sample = makeFacts();
     add(sample, sample->headerData(labelColumn, Qt::Horizontal).toString(), QString());
-    setModel(sample);
+    setTreeViewModel(m_view, sample);
     const QHeaderView *header = m_view->header();
     const int headerHeight = header->isHidden() ? 0 : header->sizeHint().height();
     const int height = headerHeight + rows * m_view->sizeHintForRow(0) + 2 * m_view->frameWidth();
-    setModel(nullptr);
+    setTreeViewModel(m_view, nullptr);
     delete sample;
     return height;
 }
@@ -54,25 +55,15 @@ void InfoPane::clear()
     const bool isPreliminary = m_isUnshown && hasOwnWidth();
     if (width != 0 && !isPreliminary)
         m_width = width;
-    setModel(nullptr);
+    setTreeViewModel(m_view, nullptr);
     facts->deleteLater();
-}
-
-void InfoPane::setModel(QAbstractItemModel *facts) const
-{
-    m_view->setModel(facts);
-    // The view and its header leave the selection models that they had behind.
-    for (QItemSelectionModel *selection : m_view->findChildren<QItemSelectionModel *>()) {
-        if (selection != m_view->selectionModel())
-            delete selection;
-    }
 }
 
 void InfoPane::show(QStandardItemModel *facts)
 {
     clear();
     facts->setParent(m_view);
-    setModel(facts);
+    setTreeViewModel(m_view, facts);
     if (m_width != 0)
         m_view->setColumnWidth(labelColumn, m_width);
     else

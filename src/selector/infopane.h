@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include "base/connections.h"
+
 #include <QString>
 
-class QAbstractItemModel;
 class QStandardItemModel;
 class QTreeView;
 
@@ -32,7 +32,6 @@ public:
                     bool isWrong = false);
 
 private:
-    void setModel(QAbstractItemModel *facts) const;
     void halveColumns();
     void showTextsWhole();
     bool hasOwnWidth() const;
@@ -43,5 +42,5 @@ private:
     int m_width = 0;          ///< of the labels' column, when something was shown last
     int m_ownWidth = 0;       ///< of the same, as the pane has set it
     bool m_isUnshown = false; ///< what is shown came while the view had no size yet
-    const QObject m_life;     ///< of the pane; what is connected ends with it
+    Connections m_connections;
 };

@@ -2,6 +2,8 @@
 #include "selector/orvcameraselectordialog.h"
 
 #include "base/cameratext.h"
+#include "base/connections.h"
+#include "base/formfit.h"
 #include "base/ip4validator.h"
 #include "base/macaddress.h"
 #include "base/screenroom.h"
@@ -195,7 +197,6 @@ public:
     void commandEnded();
 
     OrvCameraSelectorDialog *const q;
-    const QObject life; // of this; what is connected ends with it, before the widgets go
     const std::unique_ptr<Ui_OrvCameraSelectorDialog> ui{new Ui_OrvCameraSelectorDialog};
     QMenu *const contextMenu;
     CameraTreeModel *const model;
@@ -206,6 +207,7 @@ public:
     bool isForcing = false;   // then the camera system is the command's
     bool isAbandoned = false; // the user has stopped waiting for it
     std::unique_ptr<ForceIpCommand> command;
+    Connections connections; // last, so that they end before the widgets go
 };
 
 // OrvCameraSelectorDialogPrivate
@@ -221,7 +223,7 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     okButton->setEnabled(false);
 
     const QString setIpText = ui->setIpBtn->text();
-    const int textWidth = ui->setIpBtn->fontMetrics().size(0, setIpText).width();
+    const int textWidth = FormFit::textWidth(ui->setIpBtn, setIpText);
     ui->setIpBtn->setMinimumWidth(
         qMax(textWidth + buttonTextMargin, ui->setIpBtn->sizeHint().width()));
     growWithFont();
@@ -234,24 +236,24 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
 void OrvCameraSelectorDialogPrivate::connectSignals()
 {
     const auto setIpOfCurrent = [this] { setIp(); };
-    QObject::connect(contextMenu->addAction(tr("Set IP address")), &QAction::triggered, &life,
-                     setIpOfCurrent);
-    QObject::connect(ui->setIpBtn, &QPushButton::clicked, &life, setIpOfCurrent);
+    connections.add(contextMenu->addAction(tr("Set IP address")), &QAction::triggered,
+                    setIpOfCurrent);
+    connections.add(ui->setIpBtn, &QPushButton::clicked, setIpOfCurrent);
     rescanButton = ui->buttonBox->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
-    QObject::connect(rescanButton, &QPushButton::clicked, &life, [this] { rescan(); });
+    connections.add(rescanButton, &QPushButton::clicked, [this] { rescan(); });
     QObject::connect(new QShortcut(QKeySequence(Qt::Key_F5), q), &QShortcut::activated,
                      rescanButton, &QPushButton::click);
 
-    QObject::connect(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged,
-                     &life, [this](const QModelIndex &current) {
-                         FillInfo(current);
-                         updateButtons();
-                     });
+    connections.add(ui->cameraTreeView->selectionModel(), &QItemSelectionModel::currentChanged,
+                    [this](const QModelIndex &current) {
+                        FillInfo(current);
+                        updateButtons();
+                    });
     QObject::connect(ui->cameraTreeView, &QTreeView::activated, okButton, &QPushButton::click);
-    QObject::connect(ui->cameraTreeView, &QTreeView::customContextMenuRequested, &life,
-                     [this](const QPoint &position) { showContextMenu(position); });
+    connections.add(ui->cameraTreeView, &QTreeView::customContextMenuRequested,
+                    [this](const QPoint &position) { showContextMenu(position); });
     QObject::connect(ui->cameraTreeView, &QTreeView::collapsed, model, &CameraTreeModel::collapsed);
-    QObject::connect(model, &DeviceTreeModel::modelReset, &life, [this] { expandAll(); });
+    connections.add(model, &DeviceTreeModel::modelReset, [this] { expandAll(); });
 }
 
 /// The form's size is for a font of the ordinary size.
@@ -582,7 +584,7 @@ bool OrvCameraSelectorDialogPrivate::awaitCommand()
     progress->setRange(0, 0);
     progress->setMinimumDuration(std::numeric_limits<int>::max());
     progress->setWindowModality(Qt::WindowModal);
-    QObject::connect(command.get(), &QThread::finished, &life, [this] { commandEnded(); });
+    connections.add(command.get(), &QThread::finished, [this] { commandEnded(); });
     QObject::connect(command.get(), &QThread::finished, progress, &QDialog::accept);
     model->setPaused(true);
     isForcing = true;

@@ -7,18 +7,18 @@
 
 class QWidget;
 
-/// What the user is holding down in a widget with the mouse.
+/// Mouse buttons that the user is holding down in a widget.
 ///
-/// For code that shows values in widgets or opens a modal window from their signals: a value that
-/// is set during a drag fights with the user, and a window that takes the mouse away leaves a held
-/// button or groove repeating for ever.
+/// For code that shows values in widgets or opens a modal window from their signals. A value that
+/// is set during a drag moves the handle away from the mouse. A window that takes the mouse leaves
+/// a held button or groove repeating without end.
 namespace HeldInput {
 
 /// Whether the user drags the handle of a slider that is the widget or belongs to it.
 bool isDrag(QWidget *widget);
 
-/// Has the spin boxes and sliders of the widget forget that a mouse button is down. Anything but a
-/// widget is ignored, null too.
+/// Releases the mouse button in the spin boxes and sliders of the widget. Other objects and null
+/// are ignored.
 void end(QObject *object);
 
 /// Calls `ended` when a drag of the slider ends, as long as `context` lives: with true when the
