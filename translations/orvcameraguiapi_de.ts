@@ -17,6 +17,40 @@
     </message>
 </context>
 <context>
+    <name>BrowserModel</name>
+    <message>
+        <source>Favourites</source>
+        <translation type="unfinished">Favoriten</translation>
+    </message>
+    <message>
+        <source>The features that you have marked with a star</source>
+        <translation type="unfinished">Die Parameter, die Sie mit einem Stern markiert haben</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished">Abgelehnt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInformation</name>
+    <message>
+        <source>OrvCameraConfiguration</source>
+        <translation type="unfinished">OrvCameraConfiguration</translation>
+    </message>
+    <message>
+        <source>1.3.0 (build 2230) </source>
+        <translation type="unfinished">1.3.0 (Build 2230) </translation>
+    </message>
+    <message>
+        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
+        <translation type="unfinished">Copyright %1 2016 Die Entwickler von OrvCameraGuiApi</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation type="unfinished">n. v.</translation>
+    </message>
+</context>
+<context>
     <name>CameraTreeDelegate</name>
     <message>
         <source>This camera cannot be opened: it is in use, or access to it is denied.</source>
@@ -65,6 +99,146 @@
     </message>
 </context>
 <context>
+    <name>DiagramDrawing</name>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished">Breite</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation type="unfinished">Verzögerung</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">Periode</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation type="unfinished">Bild</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation type="unfinished">Strobe 1</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation type="unfinished">Strobe 2</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation type="unfinished">Belichtung</translation>
+    </message>
+    <message>
+        <source>Readout</source>
+        <translation type="unfinished">Auslesen</translation>
+    </message>
+    <message>
+        <source>P%1</source>
+        <translation type="unfinished">P%1</translation>
+    </message>
+    <message>
+        <source>E%1</source>
+        <translation type="unfinished">E%1</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureJournal</name>
+    <message>
+        <source>There is no %1.</source>
+        <translation type="unfinished">%1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation type="unfinished">Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation type="unfinished">Wiederherstellen: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished">%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMarks</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1</source>
+        <translation type="unfinished">Früherer Wert: %1</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1 (%2)</source>
+        <translation type="unfinished">Früherer Wert: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMenu</name>
+    <message>
+        <source>Copy Name</source>
+        <translation type="unfinished">Namen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation type="unfinished">Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &quot;Name = Value&quot;</source>
+        <translation type="unfinished">„Name = Wert“ kopieren</translation>
+    </message>
+    <message>
+        <source>Go to %1</source>
+        <translation type="unfinished">Gehe zu %1</translation>
+    </message>
+    <message>
+        <source>Go to Selected Feature</source>
+        <translation type="unfinished">Gehe zu ausgewähltem Parameter</translation>
+    </message>
+    <message>
+        <source>Show in Its Category</source>
+        <translation type="unfinished">In seiner Kategorie zeigen</translation>
+    </message>
+    <message>
+        <source>Values by %1…</source>
+        <translation type="unfinished">Werte nach %1 …</translation>
+    </message>
+    <message>
+        <source>Remove from Favourites</source>
+        <translation type="unfinished">Aus den Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add to Favourites</source>
+        <translation type="unfinished">Zu den Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation type="unfinished">Zurückstellen</translation>
+    </message>
+    <message>
+        <source>Expand All Below</source>
+        <translation type="unfinished">Alles darunter aufklappen</translation>
+    </message>
+    <message>
+        <source>Collapse All Below</source>
+        <translation type="unfinished">Alles darunter zuklappen</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation type="unfinished">Neu lesen</translation>
+    </message>
+</context>
+<context>
     <name>FeatureSource</name>
     <message>
         <source>%1 (read only)</source>
@@ -85,6 +259,127 @@
     <message>
         <source>The camera &apos;%1&apos; has sent nothing new for %2 seconds.</source>
         <translation>Von der Kamera „%1“ ist seit %2 Sekunden nichts Neues gekommen.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureToolTip</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation type="unfinished">Bereich: %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Increment: %1</source>
+        <translation type="unfinished">Schrittweite: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation type="unfinished">Einheit: %1</translation>
+    </message>
+    <message>
+        <source>Feature: %1</source>
+        <translation type="unfinished">Parameter: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureValue</name>
+    <message>
+        <source>The text is not in UTF-8.</source>
+        <translation type="unfinished">Der Text ist nicht in UTF-8.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number.</source>
+        <translation type="unfinished">„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no integer.</source>
+        <translation type="unfinished">„%1“ ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation type="unfinished">„%1“ ist weder wahr noch falsch.</translation>
+    </message>
+    <message>
+        <source>There is no entry &apos;%1&apos;.</source>
+        <translation type="unfinished">Es gibt keinen Eintrag „%1“.</translation>
+    </message>
+    <message>
+        <source>The camera takes values from %1 to %2.</source>
+        <translation type="unfinished">Die Kamera nimmt Werte von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation type="unfinished">Die Kamera hat ihn nicht.</translation>
+    </message>
+    <message>
+        <source>It is not available now.</source>
+        <translation type="unfinished">Er ist jetzt nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>It cannot be changed now.</source>
+        <translation type="unfinished">Er kann jetzt nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>It cannot be read.</source>
+        <translation type="unfinished">Er kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The step is %1.</source>
+        <translation type="unfinished">Die Schrittweite ist %1.</translation>
+    </message>
+    <message>
+        <source>It has no value.</source>
+        <translation type="unfinished">Er hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer.</source>
+        <translation type="unfinished">Die Kamera antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>It could not be put back.</source>
+        <translation type="unfinished">Er konnte nicht zurückgestellt werden.</translation>
+    </message>
+    <message>
+        <source>The camera has no &apos;%1&apos;.</source>
+        <translation type="unfinished">Die Kamera hat kein „%1“.</translation>
+    </message>
+    <message>
+        <source>It is no command.</source>
+        <translation type="unfinished">Es ist kein Kommando.</translation>
+    </message>
+    <message>
+        <source>The camera is not done with it yet.</source>
+        <translation type="unfinished">Die Kamera ist damit noch nicht fertig.</translation>
+    </message>
+    <message>
+        <source>Its selector has too many values.</source>
+        <translation type="unfinished">Sein Selektor hat zu viele Werte.</translation>
+    </message>
+</context>
+<context>
+    <name>FramesPanel</name>
+    <message>
+        <source>%1C</source>
+        <translation type="unfinished">%1C</translation>
+    </message>
+    <message>
+        <source>Image size</source>
+        <translation type="unfinished">Bildgröße</translation>
+    </message>
+    <message>
+        <source>Frames per second, computed from the frame time</source>
+        <translation type="unfinished">Bilder pro Sekunde, aus der Bildzeit berechnet</translation>
+    </message>
+    <message>
+        <source>Frame time</source>
+        <translation type="unfinished">Bildzeit</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation type="unfinished">Belichtungszeit</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished">Temperatur</translation>
     </message>
 </context>
 <context>
@@ -233,6 +528,43 @@
     </message>
 </context>
 <context>
+    <name>HistoryCaption</name>
+    <message>
+        <source>Click for the last ten minutes</source>
+        <translation type="unfinished">Klicken für die letzten zehn Minuten</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryChart</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryWindow</name>
+    <message>
+        <source>%1, last ten minutes</source>
+        <translation type="unfinished">%1, letzte zehn Minuten</translation>
+    </message>
+    <message>
+        <source>Copy as CSV</source>
+        <translation type="unfinished">Als CSV kopieren</translation>
+    </message>
+    <message>
+        <source>%1: no values</source>
+        <translation type="unfinished">%1: keine Werte</translation>
+    </message>
+    <message>
+        <source>%1: min %2, max %3, mean %4</source>
+        <translation type="unfinished">%1: Min. %2, Max. %3, Mittel %4</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished">Zeit</translation>
+    </message>
+</context>
+<context>
     <name>InfoPane</name>
     <message>
         <source>Property</source>
@@ -248,6 +580,25 @@
     <message>
         <source>Opening the camera &apos;%1&apos;: %2 %</source>
         <translation>Kamera „%1“ wird geöffnet: %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningProgress</name>
+    <message>
+        <source>Open Camera</source>
+        <translation type="unfinished">Kamera öffnen</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation type="unfinished">%1 wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation type="unfinished">Verbindung wird hergestellt …</translation>
+    </message>
+    <message>
+        <source>Reading the camera&apos;s description...</source>
+        <translation type="unfinished">Die Beschreibung der Kamera wird gelesen …</translation>
     </message>
 </context>
 <context>
@@ -739,6 +1090,14 @@ Exit-Status: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler (auch 
         <source>Frames</source>
         <translation>Bilder</translation>
     </message>
+    <message>
+        <source>[%1]:</source>
+        <translation type="unfinished">[%1]:</translation>
+    </message>
+    <message>
+        <source>The trigger is switched off.</source>
+        <translation type="unfinished">Der Trigger ist ausgeschaltet.</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigMainWindow</name>
@@ -888,6 +1247,60 @@ Exit-Status: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler (auch 
     </message>
 </context>
 <context>
+    <name>OrvCamConfigMapper</name>
+    <message>
+        <source>Error while setting the %1 boolean value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">Fehler beim Setzen des booleschen Werts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while executing the %1 command!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">Fehler beim Ausführen des Befehls %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">Fehler beim Setzen des Aufzählungswerts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 integer value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">Fehler beim Setzen des Ganzzahlwerts %1!<byte value="xd"/>
+Fehlercode: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigOpening</name>
+    <message>
+        <source>Another program has it open.</source>
+        <translation type="unfinished">Ein anderes Programm hat sie geöffnet.</translation>
+    </message>
+    <message>
+        <source>It does not answer.</source>
+        <translation type="unfinished">Sie antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>It did not answer in time.</source>
+        <translation type="unfinished">Sie hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>Its address does not fit the network adapter&apos;s subnet.</source>
+        <translation type="unfinished">Ihre Adresse passt nicht zum Subnetz des Netzwerkadapters.</translation>
+    </message>
+    <message>
+        <source>Its description cannot be used.</source>
+        <translation type="unfinished">Ihre Beschreibung kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>It refuses access.</source>
+        <translation type="unfinished">Sie verweigert den Zugriff.</translation>
+    </message>
+</context>
+<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -961,6 +1374,10 @@ Exit-Status: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler (auch 
         <source>HPC dynamic threshold</source>
         <translation>HPC, dynamische Schwelle</translation>
     </message>
+    <message>
+        <source>Dyn.Thres.:</source>
+        <translation type="unfinished">Dyn. Schwelle:</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -1016,6 +1433,14 @@ Exit-Status: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler (auch 
         <source>Send</source>
         <translation>Senden</translation>
     </message>
+    <message>
+        <source> [%1s]:</source>
+        <translation type="unfinished"> [%1s]:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">Stopp</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigStrobeDialog</name>
@@ -1050,6 +1475,18 @@ Exit-Status: 0 Erfolg (auch wenn keine Kamera ausgewählt wird), 1 Fehler (auch 
     <message>
         <source>Out2:</source>
         <translation>Out2:</translation>
+    </message>
+    <message>
+        <source>Delay [%1s]:</source>
+        <translation type="unfinished">Verzögerung [%1s]:</translation>
+    </message>
+    <message>
+        <source>Width [%1s]:</source>
+        <translation type="unfinished">Breite [%1s]:</translation>
+    </message>
+    <message>
+        <source>Source of output %1</source>
+        <translation type="unfinished">Quelle des Ausgangs %1</translation>
     </message>
 </context>
 <context>
@@ -1124,339 +1561,57 @@ Trigger</translation>
     </message>
 </context>
 <context>
-    <name>OrvGui::BrowserModel</name>
+    <name>OrvFeatureBrowser</name>
     <message>
-        <source>Favourites</source>
-        <translation>Favoriten</translation>
+        <source>Search (Ctrl+F)</source>
+        <translation type="unfinished">Suchen (Strg+F)</translation>
     </message>
     <message>
-        <source>The features that you have marked with a star</source>
-        <translation>Die Parameter, die Sie mit einem Stern markiert haben</translation>
+        <source>Search</source>
+        <translation type="unfinished">Suchen</translation>
     </message>
     <message>
-        <source>Refused: %1</source>
-        <translation>Abgelehnt: %1</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::CameraInformation</name>
-    <message>
-        <source>OrvCameraConfiguration</source>
-        <translation>OrvCameraConfiguration</translation>
+        <source>Menu</source>
+        <translation type="unfinished">Menü</translation>
     </message>
     <message>
-        <source>1.3.0 (build 2230) </source>
-        <translation>1.3.0 (Build 2230) </translation>
+        <source>Show Only Changed</source>
+        <translation type="unfinished">Nur Geändertes zeigen</translation>
     </message>
     <message>
-        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
-        <translation>Copyright %1 2016 Die Entwickler von OrvCameraGuiApi</translation>
+        <source>Put Back All</source>
+        <translation type="unfinished">Alles zurücksetzen</translation>
     </message>
     <message>
-        <source>N/A</source>
-        <translation>n. v.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::DiagramDrawing</name>
-    <message>
-        <source>Width</source>
-        <translation>Breite</translation>
+        <source>Search in Descriptions</source>
+        <translation type="unfinished">In Beschreibungen suchen</translation>
     </message>
     <message>
-        <source>Delay</source>
-        <translation>Verzögerung</translation>
+        <source>Nothing found</source>
+        <translation type="unfinished">Nichts gefunden</translation>
     </message>
     <message>
-        <source>Period</source>
-        <translation>Periode</translation>
+        <source>%1 found</source>
+        <translation type="unfinished">%1 gefunden</translation>
     </message>
     <message>
-        <source>Frame</source>
-        <translation>Bild</translation>
+        <source>%1 more at level %2</source>
+        <translation type="unfinished">%1 weitere auf Stufe %2</translation>
     </message>
     <message>
-        <source>Strobe 1</source>
-        <translation>Strobe 1</translation>
-    </message>
-    <message>
-        <source>Strobe 2</source>
-        <translation>Strobe 2</translation>
-    </message>
-    <message>
-        <source>Exposure</source>
-        <translation>Belichtung</translation>
-    </message>
-    <message>
-        <source>Readout</source>
-        <translation>Auslesen</translation>
-    </message>
-    <message>
-        <source>P%1</source>
-        <translation>P%1</translation>
-    </message>
-    <message>
-        <source>E%1</source>
-        <translation>E%1</translation>
+        <source>Shows them</source>
+        <translation type="unfinished">Zeigt sie</translation>
     </message>
 </context>
 <context>
-    <name>OrvGui::FeatureJournal</name>
+    <name>OrvGui::Microseconds</name>
     <message>
-        <source>There is no %1.</source>
-        <translation>%1 gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>Rückgängig: %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>Wiederherstellen: %1</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 und %2 weitere</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureMarks</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Earlier value: %1</source>
-        <translation>Früherer Wert: %1</translation>
-    </message>
-    <message>
-        <source>Earlier value: %1 (%2)</source>
-        <translation>Früherer Wert: %1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureMenu</name>
-    <message>
-        <source>Copy Name</source>
-        <translation>Namen kopieren</translation>
-    </message>
-    <message>
-        <source>Copy Value</source>
-        <translation>Wert kopieren</translation>
-    </message>
-    <message>
-        <source>Copy &quot;Name = Value&quot;</source>
-        <translation>„Name = Wert“ kopieren</translation>
-    </message>
-    <message>
-        <source>Go to %1</source>
-        <translation>Gehe zu %1</translation>
-    </message>
-    <message>
-        <source>Go to Selected Feature</source>
-        <translation>Gehe zu ausgewähltem Parameter</translation>
-    </message>
-    <message>
-        <source>Show in Its Category</source>
-        <translation>In seiner Kategorie zeigen</translation>
-    </message>
-    <message>
-        <source>Values by %1…</source>
-        <translation>Werte nach %1 …</translation>
-    </message>
-    <message>
-        <source>Remove from Favourites</source>
-        <translation>Aus den Favoriten entfernen</translation>
-    </message>
-    <message>
-        <source>Add to Favourites</source>
-        <translation>Zu den Favoriten hinzufügen</translation>
-    </message>
-    <message>
-        <source>Put Back</source>
-        <translation>Zurückstellen</translation>
-    </message>
-    <message>
-        <source>Expand All Below</source>
-        <translation>Alles darunter aufklappen</translation>
-    </message>
-    <message>
-        <source>Collapse All Below</source>
-        <translation>Alles darunter zuklappen</translation>
-    </message>
-    <message>
-        <source>Read Again</source>
-        <translation>Neu lesen</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureToolTip</name>
-    <message>
-        <source>Range: %1 to %2</source>
-        <translation>Bereich: %1 bis %2</translation>
-    </message>
-    <message>
-        <source>Increment: %1</source>
-        <translation>Schrittweite: %1</translation>
-    </message>
-    <message>
-        <source>Unit: %1</source>
-        <translation>Einheit: %1</translation>
-    </message>
-    <message>
-        <source>Feature: %1</source>
-        <translation>Parameter: %1</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureValue</name>
-    <message>
-        <source>The text is not in UTF-8.</source>
-        <translation>Der Text ist nicht in UTF-8.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no number.</source>
-        <translation>„%1“ ist keine Zahl.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no integer.</source>
-        <translation>„%1“ ist keine ganze Zahl.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false.</source>
-        <translation>„%1“ ist weder wahr noch falsch.</translation>
-    </message>
-    <message>
-        <source>There is no entry &apos;%1&apos;.</source>
-        <translation>Es gibt keinen Eintrag „%1“.</translation>
-    </message>
-    <message>
-        <source>The camera takes values from %1 to %2.</source>
-        <translation>Die Kamera nimmt Werte von %1 bis %2.</translation>
-    </message>
-    <message>
-        <source>The camera does not have it.</source>
-        <translation>Die Kamera hat ihn nicht.</translation>
-    </message>
-    <message>
-        <source>It is not available now.</source>
-        <translation>Er ist jetzt nicht verfügbar.</translation>
-    </message>
-    <message>
-        <source>It cannot be changed now.</source>
-        <translation>Er kann jetzt nicht geändert werden.</translation>
-    </message>
-    <message>
-        <source>It cannot be read.</source>
-        <translation>Er kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>The step is %1.</source>
-        <translation>Die Schrittweite ist %1.</translation>
-    </message>
-    <message>
-        <source>It has no value.</source>
-        <translation>Er hat keinen Wert.</translation>
-    </message>
-    <message>
-        <source>The camera does not answer.</source>
-        <translation>Die Kamera antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>It could not be put back.</source>
-        <translation>Er konnte nicht zurückgestellt werden.</translation>
-    </message>
-    <message>
-        <source>The camera has no &apos;%1&apos;.</source>
-        <translation>Die Kamera hat kein „%1“.</translation>
-    </message>
-    <message>
-        <source>It is no command.</source>
-        <translation>Es ist kein Kommando.</translation>
-    </message>
-    <message>
-        <source>The camera is not done with it yet.</source>
-        <translation>Die Kamera ist damit noch nicht fertig.</translation>
-    </message>
-    <message>
-        <source>Its selector has too many values.</source>
-        <translation>Sein Selektor hat zu viele Werte.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::HistoryCaption</name>
-    <message>
-        <source>Click for the last ten minutes</source>
-        <translation>Klicken für die letzten zehn Minuten</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::HistoryChart</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::HistoryWindow</name>
-    <message>
-        <source>%1, last ten minutes</source>
-        <translation>%1, letzte zehn Minuten</translation>
-    </message>
-    <message>
-        <source>Copy as CSV</source>
-        <translation>Als CSV kopieren</translation>
-    </message>
-    <message>
-        <source>%1: no values</source>
-        <translation>%1: keine Werte</translation>
-    </message>
-    <message>
-        <source>%1: min %2, max %3, mean %4</source>
-        <translation>%1: Min. %2, Max. %3, Mittel %4</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OpeningProgress</name>
-    <message>
-        <source>Open Camera</source>
-        <translation>Kamera öffnen</translation>
-    </message>
-    <message>
-        <source>Opening %1</source>
-        <translation>%1 wird geöffnet</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>Verbindung wird hergestellt …</translation>
-    </message>
-    <message>
-        <source>Reading the camera&apos;s description...</source>
-        <translation>Die Beschreibung der Kamera wird gelesen …</translation>
+        <source>%1s</source>
+        <translation type="unfinished">%1s</translation>
     </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfig</name>
-    <message>
-        <source>%1s</source>
-        <translation>%1s</translation>
-    </message>
-    <message>
-        <source>%1C</source>
-        <translation>%1C</translation>
-    </message>
     <message>
         <source>Select a device</source>
         <translation>Gerät auswählen</translation>
@@ -1474,26 +1629,6 @@ Trigger</translation>
         <translation>Unbekannt</translation>
     </message>
     <message>
-        <source>Image size</source>
-        <translation>Bildgröße</translation>
-    </message>
-    <message>
-        <source>Frames per second, computed from the frame time</source>
-        <translation>Bilder pro Sekunde, aus der Bildzeit berechnet</translation>
-    </message>
-    <message>
-        <source>Frame time</source>
-        <translation>Bildzeit</translation>
-    </message>
-    <message>
-        <source>Exposure time</source>
-        <translation>Belichtungszeit</translation>
-    </message>
-    <message>
-        <source>Temperature</source>
-        <translation>Temperatur</translation>
-    </message>
-    <message>
         <source>The camera system cannot be started.</source>
         <translation>Das Kamerasystem kann nicht gestartet werden.</translation>
     </message>
@@ -1504,14 +1639,6 @@ Trigger</translation>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigFrameABDialog</name>
-    <message>
-        <source>%1s</source>
-        <translation>%1s</translation>
-    </message>
-    <message>
-        <source>[%1]:</source>
-        <translation>[%1]:</translation>
-    </message>
     <message>
         <source>Dual Video
 Line Time [pclk]:</source>
@@ -1549,101 +1676,6 @@ Zeilenzeit [pclk]:</translation>
     <message>
         <source>Black Level:</source>
         <translation>Schwarzwert:</translation>
-    </message>
-    <message>
-        <source>The trigger is switched off.</source>
-        <translation>Der Trigger ist ausgeschaltet.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigMapper</name>
-    <message>
-        <source>Error while setting the %1 integer value!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>Fehler beim Setzen des Ganzzahlwerts %1!<byte value="xd"/>
-Fehlercode: %2</translation>
-    </message>
-    <message>
-        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>Fehler beim Setzen des Aufzählungswerts %1!<byte value="xd"/>
-Fehlercode: %2</translation>
-    </message>
-    <message>
-        <source>Error while executing the %1 command!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>Fehler beim Ausführen des Befehls %1!<byte value="xd"/>
-Fehlercode: %2</translation>
-    </message>
-    <message>
-        <source>Error while setting the %1 boolean value!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>Fehler beim Setzen des booleschen Werts %1!<byte value="xd"/>
-Fehlercode: %2</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigOpening</name>
-    <message>
-        <source>Another program has it open.</source>
-        <translation>Ein anderes Programm hat sie geöffnet.</translation>
-    </message>
-    <message>
-        <source>It does not answer.</source>
-        <translation>Sie antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>It did not answer in time.</source>
-        <translation>Sie hat nicht rechtzeitig geantwortet.</translation>
-    </message>
-    <message>
-        <source>Its address does not fit the network adapter&apos;s subnet.</source>
-        <translation>Ihre Adresse passt nicht zum Subnetz des Netzwerkadapters.</translation>
-    </message>
-    <message>
-        <source>Its description cannot be used.</source>
-        <translation>Ihre Beschreibung kann nicht verwendet werden.</translation>
-    </message>
-    <message>
-        <source>It refuses access.</source>
-        <translation>Sie verweigert den Zugriff.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigOutputDialog</name>
-    <message>
-        <source>Dyn.Thres.:</source>
-        <translation>Dyn. Schwelle:</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigPulseDialog</name>
-    <message>
-        <source> [%1s]:</source>
-        <translation> [%1s]:</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Stopp</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Start</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigStrobeDialog</name>
-    <message>
-        <source>Delay [%1s]:</source>
-        <translation>Verzögerung [%1s]:</translation>
-    </message>
-    <message>
-        <source>Width [%1s]:</source>
-        <translation>Breite [%1s]:</translation>
-    </message>
-    <message>
-        <source>Source of output %1</source>
-        <translation>Quelle des Ausgangs %1</translation>
     </message>
 </context>
 <context>
@@ -1780,49 +1812,6 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     <message>
         <source>There is no camera.</source>
         <translation>Es gibt keine Kamera.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvFeatureBrowser</name>
-    <message>
-        <source>Search (Ctrl+F)</source>
-        <translation>Suchen (Strg+F)</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menü</translation>
-    </message>
-    <message>
-        <source>Show Only Changed</source>
-        <translation>Nur Geändertes zeigen</translation>
-    </message>
-    <message>
-        <source>Put Back All</source>
-        <translation>Alles zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Search in Descriptions</source>
-        <translation>In Beschreibungen suchen</translation>
-    </message>
-    <message>
-        <source>Nothing found</source>
-        <translation>Nichts gefunden</translation>
-    </message>
-    <message>
-        <source>%1 found</source>
-        <translation>%1 gefunden</translation>
-    </message>
-    <message>
-        <source>%1 more at level %2</source>
-        <translation>%1 weitere auf Stufe %2</translation>
-    </message>
-    <message>
-        <source>Shows them</source>
-        <translation>Zeigt sie</translation>
     </message>
 </context>
 <context>
@@ -2009,141 +1998,6 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     </message>
 </context>
 <context>
-    <name>OrvGui::SafeDelegate</name>
-    <message>
-        <source>%1 (no entry is available)</source>
-        <translation>%1 (kein Eintrag ist verfügbar)</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SelectorTable</name>
-    <message>
-        <source>Values by %1</source>
-        <translation>Werte nach %1</translation>
-    </message>
-    <message>
-        <source>Read Again</source>
-        <translation>Neu lesen</translation>
-    </message>
-    <message>
-        <source>Reading…</source>
-        <translation>Wird gelesen …</translation>
-    </message>
-    <message>
-        <source>A value that you enter is written at once.</source>
-        <translation>Ein eingegebener Wert wird sofort geschrieben.</translation>
-    </message>
-    <message>
-        <source>The camera cannot be read: %1</source>
-        <translation>Die Kamera kann nicht gelesen werden: %1</translation>
-    </message>
-    <message>
-        <source>Refused: %1</source>
-        <translation>Abgelehnt: %1</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsFile</name>
-    <message>
-        <source>The file &apos;%1&apos; is of another model: %2.</source>
-        <translation>Die Datei „%1“ ist von einem anderen Modell: %2.</translation>
-    </message>
-    <message>
-        <source>The file is too large for settings of a camera.</source>
-        <translation>Die Datei ist zu groß für Einstellungen einer Kamera.</translation>
-    </message>
-    <message>
-        <source>The file is cut off: its last line has no end.</source>
-        <translation>Die Datei ist abgeschnitten: Ihre letzte Zeile hat kein Ende.</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
-    </message>
-    <message>
-        <source>Line 1: This is no file of camera settings.</source>
-        <translation>Zeile 1: Das ist keine Datei mit Kameraeinstellungen.</translation>
-    </message>
-    <message>
-        <source>This is no text in UTF-8.</source>
-        <translation>Das ist kein Text in UTF-8.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no name of a feature.</source>
-        <translation>„%1“ ist kein Name eines Parameters.</translation>
-    </message>
-    <message>
-        <source>There is no value for &apos;%1&apos;.</source>
-        <translation>Es gibt keinen Wert für „%1“.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be read. %2</source>
-        <translation>Die Datei „%1“ kann nicht gelesen werden. %2</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be written. %2</source>
-        <translation>Die Datei „%1“ kann nicht geschrieben werden. %2</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsJob</name>
-    <message>
-        <source>Camera Settings</source>
-        <translation>Kameraeinstellungen</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsReader</name>
-    <message>
-        <source>The camera has no values that are meant to be saved.</source>
-        <translation>Die Kamera hat keine Werte, die gespeichert werden sollen.</translation>
-    </message>
-    <message>
-        <source>The text has control characters.</source>
-        <translation>Der Text hat Steuerzeichen.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsTable</name>
-    <message>
-        <source>(none)</source>
-        <translation>(nicht vorhanden)</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsTableDialog</name>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsWriter</name>
-    <message>
-        <source>The camera has made it %1.</source>
-        <translation>Die Kamera hat daraus %1 gemacht.</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::UndoActions</name>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>The camera refuses this step: %1</source>
-        <translation>Die Kamera lehnt diesen Schritt ab: %1</translation>
-    </message>
-    <message>
-        <source>Skip This Step</source>
-        <translation>Diesen Schritt überspringen</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>The output failed.</source>
@@ -2175,6 +2029,40 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     <message>
         <source>Show a slider</source>
         <translation>Schieberegler anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>SafeDelegate</name>
+    <message>
+        <source>%1 (no entry is available)</source>
+        <translation type="unfinished">%1 (kein Eintrag ist verfügbar)</translation>
+    </message>
+</context>
+<context>
+    <name>SelectorTable</name>
+    <message>
+        <source>Values by %1</source>
+        <translation type="unfinished">Werte nach %1</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation type="unfinished">Neu lesen</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished">Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>A value that you enter is written at once.</source>
+        <translation type="unfinished">Ein eingegebener Wert wird sofort geschrieben.</translation>
+    </message>
+    <message>
+        <source>The camera cannot be read: %1</source>
+        <translation type="unfinished">Die Kamera kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished">Abgelehnt: %1</translation>
     </message>
 </context>
 <context>
@@ -2234,6 +2122,107 @@ OK überspringt die IP-Konfiguration, Ignorieren bestätigt sie</translation>
     <message>
         <source>IP Configuration OK</source>
         <translation>IP-Konfiguration in Ordnung</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFile</name>
+    <message>
+        <source>The file &apos;%1&apos; is of another model: %2.</source>
+        <translation type="unfinished">Die Datei „%1“ ist von einem anderen Modell: %2.</translation>
+    </message>
+    <message>
+        <source>The file is too large for settings of a camera.</source>
+        <translation type="unfinished">Die Datei ist zu groß für Einstellungen einer Kamera.</translation>
+    </message>
+    <message>
+        <source>The file is cut off: its last line has no end.</source>
+        <translation type="unfinished">Die Datei ist abgeschnitten: Ihre letzte Zeile hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished">Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Line 1: This is no file of camera settings.</source>
+        <translation type="unfinished">Zeile 1: Das ist keine Datei mit Kameraeinstellungen.</translation>
+    </message>
+    <message>
+        <source>This is no text in UTF-8.</source>
+        <translation type="unfinished">Das ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no name of a feature.</source>
+        <translation type="unfinished">„%1“ ist kein Name eines Parameters.</translation>
+    </message>
+    <message>
+        <source>There is no value for &apos;%1&apos;.</source>
+        <translation type="unfinished">Es gibt keinen Wert für „%1“.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be read. %2</source>
+        <translation type="unfinished">Die Datei „%1“ kann nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be written. %2</source>
+        <translation type="unfinished">Die Datei „%1“ kann nicht geschrieben werden. %2</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsJob</name>
+    <message>
+        <source>Camera Settings</source>
+        <translation type="unfinished">Kameraeinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReader</name>
+    <message>
+        <source>The camera has no values that are meant to be saved.</source>
+        <translation type="unfinished">Die Kamera hat keine Werte, die gespeichert werden sollen.</translation>
+    </message>
+    <message>
+        <source>The text has control characters.</source>
+        <translation type="unfinished">Der Text hat Steuerzeichen.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTable</name>
+    <message>
+        <source>(none)</source>
+        <translation type="unfinished">(nicht vorhanden)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTableDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWriter</name>
+    <message>
+        <source>The camera has made it %1.</source>
+        <translation type="unfinished">Die Kamera hat daraus %1 gemacht.</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The camera refuses this step: %1</source>
+        <translation type="unfinished">Die Kamera lehnt diesen Schritt ab: %1</translation>
+    </message>
+    <message>
+        <source>Skip This Step</source>
+        <translation type="unfinished">Diesen Schritt überspringen</translation>
     </message>
 </context>
 <context>

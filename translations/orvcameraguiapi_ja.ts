@@ -17,6 +17,40 @@
     </message>
 </context>
 <context>
+    <name>BrowserModel</name>
+    <message>
+        <source>Favourites</source>
+        <translation type="unfinished">お気に入り</translation>
+    </message>
+    <message>
+        <source>The features that you have marked with a star</source>
+        <translation type="unfinished">星印を付けたパラメーター</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished">拒否されました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CameraInformation</name>
+    <message>
+        <source>OrvCameraConfiguration</source>
+        <translation type="unfinished">OrvCameraConfiguration</translation>
+    </message>
+    <message>
+        <source>1.3.0 (build 2230) </source>
+        <translation type="unfinished">1.3.0 (ビルド 2230) </translation>
+    </message>
+    <message>
+        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
+        <translation type="unfinished">Copyright %1 2016 OrvCameraGuiApi 開発者</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation type="unfinished">該当なし</translation>
+    </message>
+</context>
+<context>
     <name>CameraTreeDelegate</name>
     <message>
         <source>This camera cannot be opened: it is in use, or access to it is denied.</source>
@@ -65,6 +99,146 @@
     </message>
 </context>
 <context>
+    <name>DiagramDrawing</name>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation type="unfinished">遅延</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">周期</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation type="unfinished">フレーム</translation>
+    </message>
+    <message>
+        <source>Strobe 1</source>
+        <translation type="unfinished">ストロボ 1</translation>
+    </message>
+    <message>
+        <source>Strobe 2</source>
+        <translation type="unfinished">ストロボ 2</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation type="unfinished">露光</translation>
+    </message>
+    <message>
+        <source>Readout</source>
+        <translation type="unfinished">読み出し</translation>
+    </message>
+    <message>
+        <source>P%1</source>
+        <translation type="unfinished">P%1</translation>
+    </message>
+    <message>
+        <source>E%1</source>
+        <translation type="unfinished">E%1</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureJournal</name>
+    <message>
+        <source>There is no %1.</source>
+        <translation type="unfinished">%1 がありません。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation type="unfinished">元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation type="unfinished">やり直す: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished">%1 ほか %2 件</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMarks</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1</source>
+        <translation type="unfinished">以前の値: %1</translation>
+    </message>
+    <message>
+        <source>Earlier value: %1 (%2)</source>
+        <translation type="unfinished">以前の値: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureMenu</name>
+    <message>
+        <source>Copy Name</source>
+        <translation type="unfinished">名前をコピー</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation type="unfinished">値をコピー</translation>
+    </message>
+    <message>
+        <source>Copy &quot;Name = Value&quot;</source>
+        <translation type="unfinished">「名前 = 値」をコピー</translation>
+    </message>
+    <message>
+        <source>Go to %1</source>
+        <translation type="unfinished">%1 へ移動</translation>
+    </message>
+    <message>
+        <source>Go to Selected Feature</source>
+        <translation type="unfinished">選択対象のパラメーターへ移動</translation>
+    </message>
+    <message>
+        <source>Show in Its Category</source>
+        <translation type="unfinished">カテゴリー内で表示</translation>
+    </message>
+    <message>
+        <source>Values by %1…</source>
+        <translation type="unfinished">%1 ごとの値…</translation>
+    </message>
+    <message>
+        <source>Remove from Favourites</source>
+        <translation type="unfinished">お気に入りから削除</translation>
+    </message>
+    <message>
+        <source>Add to Favourites</source>
+        <translation type="unfinished">お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation type="unfinished">元に戻す</translation>
+    </message>
+    <message>
+        <source>Expand All Below</source>
+        <translation type="unfinished">下をすべて展開</translation>
+    </message>
+    <message>
+        <source>Collapse All Below</source>
+        <translation type="unfinished">下をすべて折りたたむ</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation type="unfinished">再読み込み</translation>
+    </message>
+</context>
+<context>
     <name>FeatureSource</name>
     <message>
         <source>%1 (read only)</source>
@@ -85,6 +259,127 @@
     <message>
         <source>The camera &apos;%1&apos; has sent nothing new for %2 seconds.</source>
         <translation>カメラ「%1」から %2 秒間新しいデータが届いていません。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureToolTip</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation type="unfinished">範囲: %1 ～ %2</translation>
+    </message>
+    <message>
+        <source>Increment: %1</source>
+        <translation type="unfinished">増分: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation type="unfinished">単位: %1</translation>
+    </message>
+    <message>
+        <source>Feature: %1</source>
+        <translation type="unfinished">パラメーター: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureValue</name>
+    <message>
+        <source>The text is not in UTF-8.</source>
+        <translation type="unfinished">テキストが UTF-8 ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number.</source>
+        <translation type="unfinished">&apos;%1&apos; は数値ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no integer.</source>
+        <translation type="unfinished">&apos;%1&apos; は整数ではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation type="unfinished">&apos;%1&apos; は真でも偽でもありません。</translation>
+    </message>
+    <message>
+        <source>There is no entry &apos;%1&apos;.</source>
+        <translation type="unfinished">項目 &apos;%1&apos; はありません。</translation>
+    </message>
+    <message>
+        <source>The camera takes values from %1 to %2.</source>
+        <translation type="unfinished">カメラが受け付ける値は %1 から %2 までです。</translation>
+    </message>
+    <message>
+        <source>The camera does not have it.</source>
+        <translation type="unfinished">カメラにありません。</translation>
+    </message>
+    <message>
+        <source>It is not available now.</source>
+        <translation type="unfinished">現在は利用できません。</translation>
+    </message>
+    <message>
+        <source>It cannot be changed now.</source>
+        <translation type="unfinished">現在は変更できません。</translation>
+    </message>
+    <message>
+        <source>It cannot be read.</source>
+        <translation type="unfinished">読み取れません。</translation>
+    </message>
+    <message>
+        <source>The step is %1.</source>
+        <translation type="unfinished">増分は %1 です。</translation>
+    </message>
+    <message>
+        <source>It has no value.</source>
+        <translation type="unfinished">値がありません。</translation>
+    </message>
+    <message>
+        <source>The camera does not answer.</source>
+        <translation type="unfinished">カメラが応答しません。</translation>
+    </message>
+    <message>
+        <source>It could not be put back.</source>
+        <translation type="unfinished">元に戻せませんでした。</translation>
+    </message>
+    <message>
+        <source>The camera has no &apos;%1&apos;.</source>
+        <translation type="unfinished">カメラに &apos;%1&apos; はありません。</translation>
+    </message>
+    <message>
+        <source>It is no command.</source>
+        <translation type="unfinished">コマンドではありません。</translation>
+    </message>
+    <message>
+        <source>The camera is not done with it yet.</source>
+        <translation type="unfinished">カメラの処理がまだ終わっていません。</translation>
+    </message>
+    <message>
+        <source>Its selector has too many values.</source>
+        <translation type="unfinished">セレクターの値が多すぎます。</translation>
+    </message>
+</context>
+<context>
+    <name>FramesPanel</name>
+    <message>
+        <source>%1C</source>
+        <translation type="unfinished">%1C</translation>
+    </message>
+    <message>
+        <source>Image size</source>
+        <translation type="unfinished">画像サイズ</translation>
+    </message>
+    <message>
+        <source>Frames per second, computed from the frame time</source>
+        <translation type="unfinished">フレームレート (フレーム時間から計算)</translation>
+    </message>
+    <message>
+        <source>Frame time</source>
+        <translation type="unfinished">フレーム時間</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation type="unfinished">露光時間</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished">温度</translation>
     </message>
 </context>
 <context>
@@ -233,6 +528,43 @@
     </message>
 </context>
 <context>
+    <name>HistoryCaption</name>
+    <message>
+        <source>Click for the last ten minutes</source>
+        <translation type="unfinished">クリックすると直近10分間を表示</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryChart</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryWindow</name>
+    <message>
+        <source>%1, last ten minutes</source>
+        <translation type="unfinished">%1、直近10分間</translation>
+    </message>
+    <message>
+        <source>Copy as CSV</source>
+        <translation type="unfinished">CSV としてコピー</translation>
+    </message>
+    <message>
+        <source>%1: no values</source>
+        <translation type="unfinished">%1: 値なし</translation>
+    </message>
+    <message>
+        <source>%1: min %2, max %3, mean %4</source>
+        <translation type="unfinished">%1: 最小 %2、最大 %3、平均 %4</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished">時刻</translation>
+    </message>
+</context>
+<context>
     <name>InfoPane</name>
     <message>
         <source>Property</source>
@@ -248,6 +580,25 @@
     <message>
         <source>Opening the camera &apos;%1&apos;: %2 %</source>
         <translation>カメラ「%1」を開いています: %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningProgress</name>
+    <message>
+        <source>Open Camera</source>
+        <translation type="unfinished">カメラを開く</translation>
+    </message>
+    <message>
+        <source>Opening %1</source>
+        <translation type="unfinished">%1 を開いています</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation type="unfinished">接続しています…</translation>
+    </message>
+    <message>
+        <source>Reading the camera&apos;s description...</source>
+        <translation type="unfinished">カメラの記述ファイルを読み込んでいます…</translation>
     </message>
 </context>
 <context>
@@ -739,6 +1090,14 @@ Exit status: 0 success (also when no camera is picked), 1 failure (also when a c
         <source>Frames</source>
         <translation>フレーム</translation>
     </message>
+    <message>
+        <source>[%1]:</source>
+        <translation type="unfinished">[%1]:</translation>
+    </message>
+    <message>
+        <source>The trigger is switched off.</source>
+        <translation type="unfinished">トリガーはオフです。</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigMainWindow</name>
@@ -888,6 +1247,60 @@ Exit status: 0 success (also when no camera is picked), 1 failure (also when a c
     </message>
 </context>
 <context>
+    <name>OrvCamConfigMapper</name>
+    <message>
+        <source>Error while setting the %1 boolean value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">ブール値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while executing the %1 command!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">コマンド %1 の実行中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">列挙値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+    <message>
+        <source>Error while setting the %1 integer value!<byte value="xd"/>
+Error Code: %2</source>
+        <translation type="unfinished">整数値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
+エラーコード: %2</translation>
+    </message>
+</context>
+<context>
+    <name>OrvCamConfigOpening</name>
+    <message>
+        <source>Another program has it open.</source>
+        <translation type="unfinished">他のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <source>It does not answer.</source>
+        <translation type="unfinished">応答がありません。</translation>
+    </message>
+    <message>
+        <source>It did not answer in time.</source>
+        <translation type="unfinished">時間内に応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>Its address does not fit the network adapter&apos;s subnet.</source>
+        <translation type="unfinished">アドレスがネットワークアダプターのサブネットに合っていません。</translation>
+    </message>
+    <message>
+        <source>Its description cannot be used.</source>
+        <translation type="unfinished">記述ファイルを使用できません。</translation>
+    </message>
+    <message>
+        <source>It refuses access.</source>
+        <translation type="unfinished">アクセスが拒否されました。</translation>
+    </message>
+</context>
+<context>
     <name>OrvCamConfigOutputDialog</name>
     <message>
         <source>Data Output</source>
@@ -961,6 +1374,10 @@ Exit status: 0 success (also when no camera is picked), 1 failure (also when a c
         <source>HPC dynamic threshold</source>
         <translation>HPC の動的閾値</translation>
     </message>
+    <message>
+        <source>Dyn.Thres.:</source>
+        <translation type="unfinished">動的閾値:</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigPulseDialog</name>
@@ -1016,6 +1433,14 @@ Exit status: 0 success (also when no camera is picked), 1 failure (also when a c
         <source>Send</source>
         <translation>送信</translation>
     </message>
+    <message>
+        <source> [%1s]:</source>
+        <translation type="unfinished"> [%1s]:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished">停止</translation>
+    </message>
 </context>
 <context>
     <name>OrvCamConfigStrobeDialog</name>
@@ -1050,6 +1475,18 @@ Exit status: 0 success (also when no camera is picked), 1 failure (also when a c
     <message>
         <source>Out2:</source>
         <translation>Out2:</translation>
+    </message>
+    <message>
+        <source>Delay [%1s]:</source>
+        <translation type="unfinished">遅延 [%1s]:</translation>
+    </message>
+    <message>
+        <source>Width [%1s]:</source>
+        <translation type="unfinished">幅 [%1s]:</translation>
+    </message>
+    <message>
+        <source>Source of output %1</source>
+        <translation type="unfinished">出力 %1 のソース</translation>
     </message>
 </context>
 <context>
@@ -1124,339 +1561,57 @@ Trigger</source>
     </message>
 </context>
 <context>
-    <name>OrvGui::BrowserModel</name>
+    <name>OrvFeatureBrowser</name>
     <message>
-        <source>Favourites</source>
-        <translation>お気に入り</translation>
+        <source>Search (Ctrl+F)</source>
+        <translation type="unfinished">検索 (Ctrl+F)</translation>
     </message>
     <message>
-        <source>The features that you have marked with a star</source>
-        <translation>星印を付けたパラメーター</translation>
+        <source>Search</source>
+        <translation type="unfinished">検索</translation>
     </message>
     <message>
-        <source>Refused: %1</source>
-        <translation>拒否されました: %1</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::CameraInformation</name>
-    <message>
-        <source>OrvCameraConfiguration</source>
-        <translation>OrvCameraConfiguration</translation>
+        <source>Menu</source>
+        <translation type="unfinished">メニュー</translation>
     </message>
     <message>
-        <source>1.3.0 (build 2230) </source>
-        <translation>1.3.0 (ビルド 2230) </translation>
+        <source>Show Only Changed</source>
+        <translation type="unfinished">変更されたものだけを表示</translation>
     </message>
     <message>
-        <source>Copyright %1 2016 The OrvCameraGuiApi developers</source>
-        <translation>Copyright %1 2016 OrvCameraGuiApi 開発者</translation>
+        <source>Put Back All</source>
+        <translation type="unfinished">すべて元に戻す</translation>
     </message>
     <message>
-        <source>N/A</source>
-        <translation>該当なし</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::DiagramDrawing</name>
-    <message>
-        <source>Width</source>
-        <translation>幅</translation>
+        <source>Search in Descriptions</source>
+        <translation type="unfinished">説明も検索</translation>
     </message>
     <message>
-        <source>Delay</source>
-        <translation>遅延</translation>
+        <source>Nothing found</source>
+        <translation type="unfinished">見つかりませんでした</translation>
     </message>
     <message>
-        <source>Period</source>
-        <translation>周期</translation>
+        <source>%1 found</source>
+        <translation type="unfinished">%1 件見つかりました</translation>
     </message>
     <message>
-        <source>Frame</source>
-        <translation>フレーム</translation>
+        <source>%1 more at level %2</source>
+        <translation type="unfinished">レベル %2 でさらに %1 件</translation>
     </message>
     <message>
-        <source>Strobe 1</source>
-        <translation>ストロボ 1</translation>
-    </message>
-    <message>
-        <source>Strobe 2</source>
-        <translation>ストロボ 2</translation>
-    </message>
-    <message>
-        <source>Exposure</source>
-        <translation>露光</translation>
-    </message>
-    <message>
-        <source>Readout</source>
-        <translation>読み出し</translation>
-    </message>
-    <message>
-        <source>P%1</source>
-        <translation>P%1</translation>
-    </message>
-    <message>
-        <source>E%1</source>
-        <translation>E%1</translation>
+        <source>Shows them</source>
+        <translation type="unfinished">それらを表示します</translation>
     </message>
 </context>
 <context>
-    <name>OrvGui::FeatureJournal</name>
+    <name>OrvGui::Microseconds</name>
     <message>
-        <source>There is no %1.</source>
-        <translation>%1 がありません。</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>元に戻す: %1</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>やり直す: %1</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 ほか %2 件</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureMarks</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>Earlier value: %1</source>
-        <translation>以前の値: %1</translation>
-    </message>
-    <message>
-        <source>Earlier value: %1 (%2)</source>
-        <translation>以前の値: %1 (%2)</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureMenu</name>
-    <message>
-        <source>Copy Name</source>
-        <translation>名前をコピー</translation>
-    </message>
-    <message>
-        <source>Copy Value</source>
-        <translation>値をコピー</translation>
-    </message>
-    <message>
-        <source>Copy &quot;Name = Value&quot;</source>
-        <translation>「名前 = 値」をコピー</translation>
-    </message>
-    <message>
-        <source>Go to %1</source>
-        <translation>%1 へ移動</translation>
-    </message>
-    <message>
-        <source>Go to Selected Feature</source>
-        <translation>選択対象のパラメーターへ移動</translation>
-    </message>
-    <message>
-        <source>Show in Its Category</source>
-        <translation>カテゴリー内で表示</translation>
-    </message>
-    <message>
-        <source>Values by %1…</source>
-        <translation>%1 ごとの値…</translation>
-    </message>
-    <message>
-        <source>Remove from Favourites</source>
-        <translation>お気に入りから削除</translation>
-    </message>
-    <message>
-        <source>Add to Favourites</source>
-        <translation>お気に入りに追加</translation>
-    </message>
-    <message>
-        <source>Put Back</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Expand All Below</source>
-        <translation>下をすべて展開</translation>
-    </message>
-    <message>
-        <source>Collapse All Below</source>
-        <translation>下をすべて折りたたむ</translation>
-    </message>
-    <message>
-        <source>Read Again</source>
-        <translation>再読み込み</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureToolTip</name>
-    <message>
-        <source>Range: %1 to %2</source>
-        <translation>範囲: %1 ～ %2</translation>
-    </message>
-    <message>
-        <source>Increment: %1</source>
-        <translation>増分: %1</translation>
-    </message>
-    <message>
-        <source>Unit: %1</source>
-        <translation>単位: %1</translation>
-    </message>
-    <message>
-        <source>Feature: %1</source>
-        <translation>パラメーター: %1</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::FeatureValue</name>
-    <message>
-        <source>The text is not in UTF-8.</source>
-        <translation>テキストが UTF-8 ではありません。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no number.</source>
-        <translation>&apos;%1&apos; は数値ではありません。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no integer.</source>
-        <translation>&apos;%1&apos; は整数ではありません。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false.</source>
-        <translation>&apos;%1&apos; は真でも偽でもありません。</translation>
-    </message>
-    <message>
-        <source>There is no entry &apos;%1&apos;.</source>
-        <translation>項目 &apos;%1&apos; はありません。</translation>
-    </message>
-    <message>
-        <source>The camera takes values from %1 to %2.</source>
-        <translation>カメラが受け付ける値は %1 から %2 までです。</translation>
-    </message>
-    <message>
-        <source>The camera does not have it.</source>
-        <translation>カメラにありません。</translation>
-    </message>
-    <message>
-        <source>It is not available now.</source>
-        <translation>現在は利用できません。</translation>
-    </message>
-    <message>
-        <source>It cannot be changed now.</source>
-        <translation>現在は変更できません。</translation>
-    </message>
-    <message>
-        <source>It cannot be read.</source>
-        <translation>読み取れません。</translation>
-    </message>
-    <message>
-        <source>The step is %1.</source>
-        <translation>増分は %1 です。</translation>
-    </message>
-    <message>
-        <source>It has no value.</source>
-        <translation>値がありません。</translation>
-    </message>
-    <message>
-        <source>The camera does not answer.</source>
-        <translation>カメラが応答しません。</translation>
-    </message>
-    <message>
-        <source>It could not be put back.</source>
-        <translation>元に戻せませんでした。</translation>
-    </message>
-    <message>
-        <source>The camera has no &apos;%1&apos;.</source>
-        <translation>カメラに &apos;%1&apos; はありません。</translation>
-    </message>
-    <message>
-        <source>It is no command.</source>
-        <translation>コマンドではありません。</translation>
-    </message>
-    <message>
-        <source>The camera is not done with it yet.</source>
-        <translation>カメラの処理がまだ終わっていません。</translation>
-    </message>
-    <message>
-        <source>Its selector has too many values.</source>
-        <translation>セレクターの値が多すぎます。</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::HistoryCaption</name>
-    <message>
-        <source>Click for the last ten minutes</source>
-        <translation>クリックすると直近10分間を表示</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::HistoryChart</name>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::HistoryWindow</name>
-    <message>
-        <source>%1, last ten minutes</source>
-        <translation>%1、直近10分間</translation>
-    </message>
-    <message>
-        <source>Copy as CSV</source>
-        <translation>CSV としてコピー</translation>
-    </message>
-    <message>
-        <source>%1: no values</source>
-        <translation>%1: 値なし</translation>
-    </message>
-    <message>
-        <source>%1: min %2, max %3, mean %4</source>
-        <translation>%1: 最小 %2、最大 %3、平均 %4</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>時刻</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OpeningProgress</name>
-    <message>
-        <source>Open Camera</source>
-        <translation>カメラを開く</translation>
-    </message>
-    <message>
-        <source>Opening %1</source>
-        <translation>%1 を開いています</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>接続しています…</translation>
-    </message>
-    <message>
-        <source>Reading the camera&apos;s description...</source>
-        <translation>カメラの記述ファイルを読み込んでいます…</translation>
+        <source>%1s</source>
+        <translation type="unfinished">%1s</translation>
     </message>
 </context>
 <context>
     <name>OrvGui::OrvCamConfig</name>
-    <message>
-        <source>%1s</source>
-        <translation>%1s</translation>
-    </message>
-    <message>
-        <source>%1C</source>
-        <translation>%1C</translation>
-    </message>
     <message>
         <source>Select a device</source>
         <translation>デバイスの選択</translation>
@@ -1474,26 +1629,6 @@ Trigger</source>
         <translation>不明</translation>
     </message>
     <message>
-        <source>Image size</source>
-        <translation>画像サイズ</translation>
-    </message>
-    <message>
-        <source>Frames per second, computed from the frame time</source>
-        <translation>フレームレート (フレーム時間から計算)</translation>
-    </message>
-    <message>
-        <source>Frame time</source>
-        <translation>フレーム時間</translation>
-    </message>
-    <message>
-        <source>Exposure time</source>
-        <translation>露光時間</translation>
-    </message>
-    <message>
-        <source>Temperature</source>
-        <translation>温度</translation>
-    </message>
-    <message>
         <source>The camera system cannot be started.</source>
         <translation>カメラシステムを起動できません。</translation>
     </message>
@@ -1504,14 +1639,6 @@ Trigger</source>
 </context>
 <context>
     <name>OrvGui::OrvCamConfigFrameABDialog</name>
-    <message>
-        <source>%1s</source>
-        <translation>%1s</translation>
-    </message>
-    <message>
-        <source>[%1]:</source>
-        <translation>[%1]:</translation>
-    </message>
     <message>
         <source>Dual Video
 Line Time [pclk]:</source>
@@ -1549,101 +1676,6 @@ Line Time [pclk]:</source>
     <message>
         <source>Black Level:</source>
         <translation>黒レベル:</translation>
-    </message>
-    <message>
-        <source>The trigger is switched off.</source>
-        <translation>トリガーはオフです。</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigMapper</name>
-    <message>
-        <source>Error while setting the %1 integer value!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>整数値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
-エラーコード: %2</translation>
-    </message>
-    <message>
-        <source>Error while setting the %1 enumeration value!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>列挙値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
-エラーコード: %2</translation>
-    </message>
-    <message>
-        <source>Error while executing the %1 command!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>コマンド %1 の実行中にエラーが発生しました。<byte value="xd"/>
-エラーコード: %2</translation>
-    </message>
-    <message>
-        <source>Error while setting the %1 boolean value!<byte value="xd"/>
-Error Code: %2</source>
-        <translation>ブール値 %1 の設定中にエラーが発生しました。<byte value="xd"/>
-エラーコード: %2</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigOpening</name>
-    <message>
-        <source>Another program has it open.</source>
-        <translation>他のプログラムが使用しています。</translation>
-    </message>
-    <message>
-        <source>It does not answer.</source>
-        <translation>応答がありません。</translation>
-    </message>
-    <message>
-        <source>It did not answer in time.</source>
-        <translation>時間内に応答がありませんでした。</translation>
-    </message>
-    <message>
-        <source>Its address does not fit the network adapter&apos;s subnet.</source>
-        <translation>アドレスがネットワークアダプターのサブネットに合っていません。</translation>
-    </message>
-    <message>
-        <source>Its description cannot be used.</source>
-        <translation>記述ファイルを使用できません。</translation>
-    </message>
-    <message>
-        <source>It refuses access.</source>
-        <translation>アクセスが拒否されました。</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigOutputDialog</name>
-    <message>
-        <source>Dyn.Thres.:</source>
-        <translation>動的閾値:</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigPulseDialog</name>
-    <message>
-        <source> [%1s]:</source>
-        <translation> [%1s]:</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>開始</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvCamConfigStrobeDialog</name>
-    <message>
-        <source>Delay [%1s]:</source>
-        <translation>遅延 [%1s]:</translation>
-    </message>
-    <message>
-        <source>Width [%1s]:</source>
-        <translation>幅 [%1s]:</translation>
-    </message>
-    <message>
-        <source>Source of output %1</source>
-        <translation>出力 %1 のソース</translation>
     </message>
 </context>
 <context>
@@ -1780,49 +1812,6 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     <message>
         <source>There is no camera.</source>
         <translation>カメラがありません。</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::OrvFeatureBrowser</name>
-    <message>
-        <source>Search (Ctrl+F)</source>
-        <translation>検索 (Ctrl+F)</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>検索</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>メニュー</translation>
-    </message>
-    <message>
-        <source>Show Only Changed</source>
-        <translation>変更されたものだけを表示</translation>
-    </message>
-    <message>
-        <source>Put Back All</source>
-        <translation>すべて元に戻す</translation>
-    </message>
-    <message>
-        <source>Search in Descriptions</source>
-        <translation>説明も検索</translation>
-    </message>
-    <message>
-        <source>Nothing found</source>
-        <translation>見つかりませんでした</translation>
-    </message>
-    <message>
-        <source>%1 found</source>
-        <translation>%1 件見つかりました</translation>
-    </message>
-    <message>
-        <source>%1 more at level %2</source>
-        <translation>レベル %2 でさらに %1 件</translation>
-    </message>
-    <message>
-        <source>Shows them</source>
-        <translation>それらを表示します</translation>
     </message>
 </context>
 <context>
@@ -2009,141 +1998,6 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     </message>
 </context>
 <context>
-    <name>OrvGui::SafeDelegate</name>
-    <message>
-        <source>%1 (no entry is available)</source>
-        <translation>%1 (選択できる項目がありません)</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SelectorTable</name>
-    <message>
-        <source>Values by %1</source>
-        <translation>%1 ごとの値</translation>
-    </message>
-    <message>
-        <source>Read Again</source>
-        <translation>再読み込み</translation>
-    </message>
-    <message>
-        <source>Reading…</source>
-        <translation>読み込み中…</translation>
-    </message>
-    <message>
-        <source>A value that you enter is written at once.</source>
-        <translation>入力した値はすぐに書き込まれます。</translation>
-    </message>
-    <message>
-        <source>The camera cannot be read: %1</source>
-        <translation>カメラを読み取れません: %1</translation>
-    </message>
-    <message>
-        <source>Refused: %1</source>
-        <translation>拒否されました: %1</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsFile</name>
-    <message>
-        <source>The file &apos;%1&apos; is of another model: %2.</source>
-        <translation>ファイル &apos;%1&apos; は別の機種のものです: %2。</translation>
-    </message>
-    <message>
-        <source>The file is too large for settings of a camera.</source>
-        <translation>カメラの設定としてはファイルが大きすぎます。</translation>
-    </message>
-    <message>
-        <source>The file is cut off: its last line has no end.</source>
-        <translation>ファイルが途中で切れています。最後の行に改行がありません。</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>%1 行目: %2</translation>
-    </message>
-    <message>
-        <source>Line 1: This is no file of camera settings.</source>
-        <translation>1 行目: カメラの設定のファイルではありません。</translation>
-    </message>
-    <message>
-        <source>This is no text in UTF-8.</source>
-        <translation>UTF-8 のテキストではありません。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no name of a feature.</source>
-        <translation>&apos;%1&apos; はパラメーターの名前ではありません。</translation>
-    </message>
-    <message>
-        <source>There is no value for &apos;%1&apos;.</source>
-        <translation>&apos;%1&apos; の値がありません。</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be read. %2</source>
-        <translation>ファイル &apos;%1&apos; を読み取れません。%2</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be written. %2</source>
-        <translation>ファイル &apos;%1&apos; に書き込めません。%2</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsJob</name>
-    <message>
-        <source>Camera Settings</source>
-        <translation>カメラの設定</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsReader</name>
-    <message>
-        <source>The camera has no values that are meant to be saved.</source>
-        <translation>保存の対象となる値がカメラにありません。</translation>
-    </message>
-    <message>
-        <source>The text has control characters.</source>
-        <translation>テキストに制御文字が含まれています。</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsTable</name>
-    <message>
-        <source>(none)</source>
-        <translation>(なし)</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsTableDialog</name>
-    <message>
-        <source>Copy</source>
-        <translation>コピー</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::SettingsWriter</name>
-    <message>
-        <source>The camera has made it %1.</source>
-        <translation>カメラが %1 に変更しました。</translation>
-    </message>
-</context>
-<context>
-    <name>OrvGui::UndoActions</name>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
-    </message>
-    <message>
-        <source>The camera refuses this step: %1</source>
-        <translation>カメラがこの操作を拒否しました: %1</translation>
-    </message>
-    <message>
-        <source>Skip This Step</source>
-        <translation>この操作をとばす</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>The output failed.</source>
@@ -2175,6 +2029,40 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     <message>
         <source>Show a slider</source>
         <translation>スライダーを表示</translation>
+    </message>
+</context>
+<context>
+    <name>SafeDelegate</name>
+    <message>
+        <source>%1 (no entry is available)</source>
+        <translation type="unfinished">%1 (選択できる項目がありません)</translation>
+    </message>
+</context>
+<context>
+    <name>SelectorTable</name>
+    <message>
+        <source>Values by %1</source>
+        <translation type="unfinished">%1 ごとの値</translation>
+    </message>
+    <message>
+        <source>Read Again</source>
+        <translation type="unfinished">再読み込み</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation type="unfinished">読み込み中…</translation>
+    </message>
+    <message>
+        <source>A value that you enter is written at once.</source>
+        <translation type="unfinished">入力した値はすぐに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>The camera cannot be read: %1</source>
+        <translation type="unfinished">カメラを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation type="unfinished">拒否されました: %1</translation>
     </message>
 </context>
 <context>
@@ -2234,6 +2122,107 @@ IP 設定を中止するには [OK]、そのまま設定するには [無視] �
     <message>
         <source>IP Configuration OK</source>
         <translation>IP 設定は正常です</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFile</name>
+    <message>
+        <source>The file &apos;%1&apos; is of another model: %2.</source>
+        <translation type="unfinished">ファイル &apos;%1&apos; は別の機種のものです: %2。</translation>
+    </message>
+    <message>
+        <source>The file is too large for settings of a camera.</source>
+        <translation type="unfinished">カメラの設定としてはファイルが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The file is cut off: its last line has no end.</source>
+        <translation type="unfinished">ファイルが途中で切れています。最後の行に改行がありません。</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation type="unfinished">%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>Line 1: This is no file of camera settings.</source>
+        <translation type="unfinished">1 行目: カメラの設定のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>This is no text in UTF-8.</source>
+        <translation type="unfinished">UTF-8 のテキストではありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no name of a feature.</source>
+        <translation type="unfinished">&apos;%1&apos; はパラメーターの名前ではありません。</translation>
+    </message>
+    <message>
+        <source>There is no value for &apos;%1&apos;.</source>
+        <translation type="unfinished">&apos;%1&apos; の値がありません。</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be read. %2</source>
+        <translation type="unfinished">ファイル &apos;%1&apos; を読み取れません。%2</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be written. %2</source>
+        <translation type="unfinished">ファイル &apos;%1&apos; に書き込めません。%2</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsJob</name>
+    <message>
+        <source>Camera Settings</source>
+        <translation type="unfinished">カメラの設定</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReader</name>
+    <message>
+        <source>The camera has no values that are meant to be saved.</source>
+        <translation type="unfinished">保存の対象となる値がカメラにありません。</translation>
+    </message>
+    <message>
+        <source>The text has control characters.</source>
+        <translation type="unfinished">テキストに制御文字が含まれています。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTable</name>
+    <message>
+        <source>(none)</source>
+        <translation type="unfinished">(なし)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTableDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">コピー</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWriter</name>
+    <message>
+        <source>The camera has made it %1.</source>
+        <translation type="unfinished">カメラが %1 に変更しました。</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">やり直す</translation>
+    </message>
+    <message>
+        <source>The camera refuses this step: %1</source>
+        <translation type="unfinished">カメラがこの操作を拒否しました: %1</translation>
+    </message>
+    <message>
+        <source>Skip This Step</source>
+        <translation type="unfinished">この操作をとばす</translation>
     </message>
 </context>
 <context>

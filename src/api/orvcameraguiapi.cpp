@@ -6,12 +6,12 @@
 #include "api/language.h"
 #include "api/selectcamera.h"
 #include "browser/orvfeaturebrowser.h"
-#include "camconfig/orvcamconfig.h"
 #include "camconfig/orvcamconfigcolordialog.h"
 #include "camconfig/orvcamconfigoutputdialog.h"
 #include "camconfig/orvcamconfigpulsedialog.h"
 #include "camconfig/orvcamconfigstrobedialog.h"
 #include "camconfig/orvcamconfigtriggerdialog.h"
+#include "camconfig/silentcamconfig.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -33,16 +33,6 @@ QString fromWide(const wchar_t *text)
 {
     return text ? QString::fromWCharArray(text) : QString();
 }
-
-/// The main window for callers that must not be blocked: without a device it asks for none.
-class SilentCamConfig : public OrvGui::OrvCamConfig
-{
-public:
-    SilentCamConfig(OrvCam::Device *device, QWidget *parent)
-        : OrvCamConfig(NoChoice, device, parent, Qt::WindowFlags())
-    {
-    }
-};
 
 template<class Window>
 void destroyWindow(Window *window)
@@ -198,7 +188,7 @@ OrvGuiCamConfig *CreateCamConfig(OrvCamDevice *device)
 {
     try {
         OrvGui::ensureApplication();
-        OrvGuiCamConfig *window = new SilentCamConfig(device, nullptr);
+        OrvGuiCamConfig *window = new OrvGui::SilentCamConfig(device);
         window->show();
         return window;
     } catch (const std::bad_alloc &) {
@@ -246,7 +236,7 @@ OrvCamDeviceInfo *SelectCameraW(OrvCamSystem *system, const wchar_t *title, unsi
 
 void ShowCamConfigDialog(OrvCamDevice *device, unsigned long parent)
 {
-    showDialog<SilentCamConfig>(device, parent);
+    showDialog<OrvGui::SilentCamConfig>(device, parent);
 }
 
 void ShowColorDialog(OrvCamDevice *device, unsigned long parent)

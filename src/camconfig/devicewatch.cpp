@@ -17,21 +17,21 @@ void DeviceWatch::watch(OrvCam::Device *device)
         m_device->UnregisterEvent(OrvCam::EventReconnected, onEvent, this);
     }
     m_device = device;
-    m_news = Nothing;
+    m_event = Nothing;
     if (m_device) {
         m_device->RegisterEvent(OrvCam::EventDisconnected, onEvent, this);
         m_device->RegisterEvent(OrvCam::EventReconnected, onEvent, this);
     }
 }
 
-DeviceWatch::News DeviceWatch::take()
+DeviceWatch::Event DeviceWatch::take()
 {
-    return static_cast<News>(m_news.exchange(Nothing));
+    return static_cast<Event>(m_event.exchange(Nothing));
 }
 
 void DeviceWatch::onEvent(qint32 code, void *context)
 {
-    static_cast<DeviceWatch *>(context)->m_news =
+    static_cast<DeviceWatch *>(context)->m_event =
         code == OrvCam::EventReconnected ? Reconnected : Disconnected;
 }
 

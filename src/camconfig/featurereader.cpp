@@ -123,6 +123,20 @@ FeatureReader::Params FeatureReader::named(const Array &array, const Names &feat
     return params;
 }
 
+bool FeatureReader::read(const OrvGenParam::Int *param,
+                         int64_t (OrvGenParam::Int::*question)(int32_t *) const,
+                         qint64 &value) const
+{
+    if (!param)
+        return false;
+    int32_t error = OrvCam::Success;
+    const qint64 answer = get([&] { return (param->*question)(&error); });
+    if (error != OrvCam::Success)
+        return false;
+    value = answer;
+    return true;
+}
+
 bool FeatureReader::isReadable(const Param *param) const
 {
     return get([=] { return OrvGui::isReadable(param); });

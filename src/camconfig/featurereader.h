@@ -11,6 +11,7 @@
 
 namespace OrvGenParam {
 class Array;
+class Int;
 class Param;
 } // namespace OrvGenParam
 
@@ -52,13 +53,18 @@ public:
     /// The result of a function that only reads parameters. The values are a second old at most
     /// when all are known; otherwise they are read from the camera. May call the function several
     /// times.
-    template<class Get>
-    auto get(Get read) const -> decltype(read())
+    template<class Question>
+    auto get(Question question) const -> decltype(question())
     {
-        decltype(read()) value{};
-        const bool isKnown = look([&] { value = read(); });
-        return isKnown ? value : read();
+        decltype(question()) value{};
+        const bool isKnown = look([&] { value = question(); });
+        return isKnown ? value : question();
     }
+
+    /// Reads the value or a limit of a number. Changes the value only if the camera answers; false
+    /// if it does not, and for null.
+    bool read(const OrvGenParam::Int *param, int64_t (OrvGenParam::Int::*question)(int32_t *) const,
+              qint64 &value) const;
 
     /// The access modes of a parameter; false for null.
     bool isReadable(const OrvGenParam::Param *param) const;

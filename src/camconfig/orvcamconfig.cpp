@@ -10,8 +10,8 @@
 #include "camconfig/camerainformation.h"
 #include "camconfig/devicewatch.h"
 #include "camconfig/featurereader.h"
-#include "camconfig/featuretooltip.h"
 #include "camconfig/framenumbers.h"
+#include "camconfig/framespanel.h"
 #include "camconfig/orvcamconfigcolordialog.h"
 #include "camconfig/orvcamconfigframeabdialog.h"
 #include "camconfig/orvcamconfigopening.h"
@@ -20,12 +20,9 @@
 #include "camconfig/orvcamconfigstrobedialog.h"
 #include "camconfig/orvcamconfigtriggerdialog.h"
 #include "camconfig/otherframe.h"
-#include "history/camerahistory.h"
-#include "history/historycaption.h"
 #include "journal/undoactions.h"
 #include "selector/orvcameraselectordialog.h"
 #include "ui_orvcamconfigmainwindow.h"
-#include "widgets/numbertext.h"
 
 #include <OrvCam.h>
 #include <OrvGenParam.h>
@@ -45,14 +42,6 @@ namespace OrvGui {
 namespace {
 
 const int RefreshPeriod = 1000; // ms
-
-QString frameRate(const QString &frameTime, const QLocale &locale)
-{
-    if (frameTime.isEmpty())
-        return QString();
-    const double microseconds = frameTime.toDouble();
-    return NumberText::of(microseconds > 0 ? 1e6 / microseconds : 0.0, 2, locale);
-}
 
 } // namespace
 
@@ -81,22 +70,12 @@ public:
     OrvCam::Device *usable() const { return array ? device : nullptr; }
 
 private:
-    enum Frame { FrameA, FrameB };
+    using Frame = FramesPanel::Frame;
     enum FrameMode { OnlyFrameA, OnlyFrameB, BothFrames };
-
-    struct Column
-    {
-        QLabel *head;
-        QLineEdit *size;
-        QLineEdit *fps;
-        QLineEdit *frameTime;
-        QLineEdit *exposure;
-    };
 
     void build();
     void buildStatusBar();
     void buildUndo();
-    void buildHistory();
     void connectMenus();
     template<class Dialog>
     void addDialog(Dialog *dialog, QPushButton *button, QAction *action);
@@ -119,9 +98,7 @@ private:
     void layOutFrameButton();
     void layOutButtons();
     QSize iconSize() const;
-    void explainFields();
     void dimOldNumbers();
-    void clearFields();
     void handOver();
 
     void refresh();
@@ -131,10 +108,7 @@ private:
     void refreshFrames();
     void showBothFrames();
     void refreshFrame();
-    Column columnOf(Frame frame) const;
     void updateFrame(Frame frame);
-    void showFrame(Frame frame, const FrameNumbers &numbers);
-    void keep(CameraHistory::Frame frame, const FrameNumbers &numbers);
     bool updateBoth();
     bool readBoth();
     bool select(const char *frame);
@@ -155,7 +129,7 @@ private:
     Ui_OrvCamConfigMainWindow ui;
     std::unique_ptr<CameraInformation> information;
     UndoActions *undoActions = nullptr;
-    CameraHistory history;
+    std::unique_ptr<FramesPanel> panel;
     QVector<OrvCamConfigDialog *> dialogs; ///< children of the window
     QLabel *statusText = nullptr;
     QLabel *statusIcon = nullptr;
@@ -166,7 +140,7 @@ private:
     bool isFrameModeChanged = true;
     bool hasTimedOut = false; ///< something that is shown, since this was set to false
     FrameMode frameMode = BothFrames;
-    Frame selectedFrame = FrameA;
+    Frame selectedFrame = CameraHistory::FrameA;
 
     OrvGenParam::Enum *frameSelector = nullptr;
     OrvGenParam::Enum *frameModeParam = nullptr;
@@ -177,8 +151,7 @@ private:
     OrvGenParam::Int *height = nullptr;
 };
 
-OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window)
-    : q(window), history(window), timer(window)
+OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window), timer(window)
 {
     timer.setObjectName(QStringLiteral("refreshTimer"));
 }
@@ -205,14 +178,10 @@ void OrvCamConfigPrivate::begin(OrvCam::Device *newDevice, bool mayAsk)
 void OrvCamConfigPrivate::build()
 {
     ui.setupUi(q);
-    const QString mu(QChar(0x3BC));
-    ui.lblFrameTime->setText(tr("%1s").arg(mu));
-    ui.lblExposure->setText(tr("%1s").arg(mu));
-    ui.lblTemperature->setText(tr("%1C").arg(QChar(0xB0)));
+    panel = std::make_unique<FramesPanel>(ui, q);
     information.reset(new CameraInformation(q));
     buildStatusBar();
     buildUndo();
-    buildHistory();
     connectMenus();
     QObject::connect(&timer, &QTimer::timeout, &receiver, [this] { refresh(); });
 }
@@ -235,14 +204,6 @@ void OrvCamConfigPrivate::buildUndo()
     undoActions = new UndoActions(q);
     ui.menuMenu->insertActions(ui.actionQuit, {undoActions->undo(), undoActions->redo()});
     ui.menuMenu->insertSeparator(ui.actionQuit);
-}
-
-void OrvCamConfigPrivate::buildHistory()
-{
-    history.open(ui.lblFps, CameraHistory::FrameRate, ui.lblFpsUnit->text());
-    history.open(ui.lblFtm, CameraHistory::FrameTime, ui.lblFrameTime->text());
-    history.open(ui.lblExp, CameraHistory::Exposure, ui.lblExposure->text());
-    history.open(ui.lblTmp, CameraHistory::Temperature, ui.lblTemperature->text());
 }
 
 void OrvCamConfigPrivate::connectMenus()
@@ -296,7 +257,7 @@ void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int 
     });
 }
 
-/// Null when the user picks none, and when the window goes meanwhile.
+/// Null when the user picks none, or when the window is destroyed.
 OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
 {
     if (!system)
@@ -309,7 +270,7 @@ OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
         return nullptr;
     }
 
-    // The window may be destroyed meanwhile, and this object and the picker with it.
+    // The window may be destroyed by then, and this object and the picker with it.
     const QPointer<OrvCameraSelectorDialog> picker(new OrvCameraSelectorDialog(system, q));
     picker->setWindowTitle(tr("Select a device"));
     const bool isAccepted = picker->exec() == QDialog::Accepted;
@@ -409,7 +370,7 @@ void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created
     OrvCam::Device *const former = watch.device();
     const bool isOwn = std::exchange(ownDevice, created) == former;
     if (former != newDevice)
-        history.clear();
+        panel->history().clear();
     init(newDevice);
     handOver();
     const QPointer<OrvCamConfig> window(q);
@@ -426,7 +387,7 @@ void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created
 bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
     forgetParams();
-    clearFields();
+    panel->clear();
     device = newDevice;
     watch.watch(device); // first, so that nothing is missed
     if (device) {
@@ -444,7 +405,7 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     q->setEnabled(true);
     timer.start(RefreshPeriod);
     layOut();
-    explainFields();
+    panel->explain(array);
     dimOldNumbers();
     showTemperature();
     // Moving the selector takes several transfers, which the window would wait for once more.
@@ -467,7 +428,7 @@ void OrvCamConfigPrivate::getNeededParams()
     height = array->GetInt("Height");
 
     isFrameABSupported = frameSelector;
-    selectedFrame = FrameA;
+    selectedFrame = CameraHistory::FrameA;
     frameMode = BothFrames;
     if (frameSelector) {
         readSelectedFrame();
@@ -499,35 +460,8 @@ void OrvCamConfigPrivate::forgetParams()
 
 void OrvCamConfigPrivate::layOut()
 {
-    ui.lblFrameB->setVisible(isFrameABSupported);
-    if (isFrameABSupported)
-        history.setFrames(ui.lblFrameA->text(), ui.lblFrameB->text());
-    else if (array)
-        history.setFrames(QString(), QString());
+    panel->layOut(isFrameABSupported);
     layOutFrameButton();
-    const auto limitWidth = [this](QLineEdit *edit) {
-        const QSize text =
-            edit->fontMetrics().size(Qt::TextSingleLine, QStringLiteral("xxxxxxxxxxxx"));
-        FormFit::limitWidth(edit, isFrameABSupported ? text.width() : QWIDGETSIZE_MAX);
-        edit->setMinimumWidth(
-            isFrameABSupported ? qMin(edit->sizeHint().width(), edit->maximumWidth()) : 0);
-    };
-    const int columns = isFrameABSupported ? 1 : 2;
-    ui.gridLayout->setColumnStretch(4, isFrameABSupported ? 1 : 0); // takes what those may not
-    ui.gridLayout->removeWidget(ui.lblFrameA);
-    ui.gridLayout->addWidget(ui.lblFrameA, 0, 1, 1, columns);
-    int row = 1;
-    for (QLineEdit *edit : {ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
-                            ui.lineEditExpFrameA}) {
-        ui.gridLayout->removeWidget(edit);
-        ui.gridLayout->addWidget(edit, row++, 1, 1, columns);
-        limitWidth(edit);
-    }
-    for (QLineEdit *edit : {ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
-                            ui.lineEditExpFrameB}) {
-        edit->setVisible(isFrameABSupported);
-        limitWidth(edit);
-    }
 }
 
 void OrvCamConfigPrivate::layOutFrameButton()
@@ -561,33 +495,8 @@ QSize OrvCamConfigPrivate::iconSize() const
     return QSize(1, 1) * qMax(extent, q->fontMetrics().height());
 }
 
-void OrvCamConfigPrivate::explainFields()
-{
-    const auto explain = [](std::initializer_list<QLineEdit *> edits, const QString &meaning,
-                            std::initializer_list<const OrvGenParam::Param *> params) {
-        const QString features = FeatureToolTip::text(params);
-        const QString text =
-            features.isEmpty() ? meaning : meaning + QStringLiteral("<br/>") + features;
-        for (QLineEdit *edit : edits)
-            FeatureToolTip::set(edit, text);
-    };
-    const Column a = columnOf(FrameA);
-    const Column b = columnOf(FrameB);
-    explain({a.size, b.size}, tr("Image size"), {width, height});
-    explain({a.fps, b.fps}, tr("Frames per second, computed from the frame time"), {frameTime});
-    explain({a.frameTime, b.frameTime}, tr("Frame time"), {frameTime});
-    explain({a.exposure, b.exposure}, tr("Exposure time"), {exposureTime});
-    explain({ui.lineEditTemperature}, tr("Temperature"), {temperature});
-}
-
-void OrvCamConfigPrivate::clearFields()
-{
-    for (QLineEdit *edit : ui.groupBox->findChildren<QLineEdit *>())
-        edit->clear();
-}
-
-/// Each dialog gets the device that the window has by then: a dialog that reports an error waits
-/// for the user, and meanwhile a host may set another one.
+/// Each dialog gets the device that the window has by then: while a dialog reports an error, a host
+/// may set another one.
 void OrvCamConfigPrivate::handOver()
 {
     for (OrvCamConfigDialog *dialog : dialogs)
@@ -601,7 +510,7 @@ void OrvCamConfigPrivate::end()
     forgetParams();
     watch.watch(nullptr);
     device = nullptr;
-    clearFields();
+    panel->clear();
     handOver();
     emit q->deviceChanged(nullptr);
     if (OrvCam::Device *former = std::exchange(ownDevice, nullptr))
@@ -628,25 +537,25 @@ void OrvCamConfigPrivate::drop()
     forgetParams();
     device = nullptr;
     handOver();
-    clearFields();
+    panel->clear();
     updateStatus();
     information->adjust(reader, nullptr);
     emit q->deviceChanged(nullptr);
 }
 
-/// A camera that is back may be slow to tell all that the windows are going to show.
+/// The windows are restored when all their values have been read, which may take a while.
 void OrvCamConfigPrivate::awaitReturned()
 {
     if (device) {
         const QPointer<OrvCamConfig> window(q);
-        drop(); // that it was gone had not been noticed
+        drop(); // the disconnection has been missed
         if (!window || device || !watch.device())
             return;
     }
     int32_t error = OrvCam::Success;
     const OrvGenParam::Array *returned = watch.device()->GetParamArray(&error);
     if (!returned || error != OrvCam::Success)
-        return; // gone again, which is going to be told
+        return; // gone again, which is another event
     reader.setArray(returned);
     reader.whenKnown(this, this, FeatureReader::named(*returned, BoundFeatures::all()),
                      [this] { restore(); });
@@ -666,7 +575,7 @@ void OrvCamConfigPrivate::refreshFrames()
     if (!array || SelectorsInUse::isOf(array->GetNodeMap()))
         return;
     if (!isFrameABSupported) {
-        reader.whenKnown(this, &ui, shownParams(), [this] { updateFrame(FrameA); });
+        reader.whenKnown(this, &ui, shownParams(), [this] { updateFrame(CameraHistory::FrameA); });
         return;
     }
     if (frameMode == BothFrames && std::exchange(isFrameModeChanged, false)) {
@@ -686,9 +595,9 @@ void OrvCamConfigPrivate::showBothFrames()
 
 void OrvCamConfigPrivate::refreshFrame()
 {
-    // What the camera tells is of the selected frame; the other column keeps what it shows.
-    const bool isWanted =
-        frameMode == BothFrames || (frameMode == OnlyFrameA) == (selectedFrame == FrameA);
+    // The camera's values are those of the selected frame; the other column keeps its numbers.
+    const bool isWanted = frameMode == BothFrames ||
+                          (frameMode == OnlyFrameA) == (selectedFrame == CameraHistory::FrameA);
     if (isWanted)
         updateFrame(selectedFrame);
 }
@@ -698,58 +607,25 @@ void OrvCamConfigPrivate::showTemperature()
     if (!temperature)
         return;
     reader.whenKnown(this, temperature, {temperature}, [this] {
-        const QString degrees = FrameNumbers::text(reader, temperature, hasTimedOut);
-        ui.lineEditTemperature->setText(degrees);
-        history.add(CameraHistory::Temperature, CameraHistory::FrameA, degrees);
+        panel->showTemperature(FrameNumbers::text(reader, temperature, hasTimedOut));
     });
 }
 
-OrvCamConfigPrivate::Column OrvCamConfigPrivate::columnOf(Frame frame) const
-{
-    if (frame == FrameA)
-        return {ui.lblFrameA, ui.lineEditSizeFrameA, ui.lineEditFpsFrameA, ui.lineEditFtmFrameA,
-                ui.lineEditExpFrameA};
-    return {ui.lblFrameB, ui.lineEditSizeFrameB, ui.lineEditFpsFrameB, ui.lineEditFtmFrameB,
-            ui.lineEditExpFrameB};
-}
-
-/// A frame that is not put out keeps the numbers that it had.
+/// A frame that is not output keeps the numbers that it had.
 void OrvCamConfigPrivate::dimOldNumbers()
 {
-    for (const Frame frame : {FrameA, FrameB}) {
-        const bool isOld =
-            array && frameSelector && frameMode == (frame == FrameA ? OnlyFrameB : OnlyFrameA);
-        const Column column = columnOf(frame);
-        for (QWidget *widget : std::initializer_list<QWidget *>{
-                 column.head, column.size, column.fps, column.frameTime, column.exposure})
-            widget->setEnabled(!isOld);
-    }
+    const bool hasMode = array && frameSelector;
+    panel->setOld(CameraHistory::FrameA, hasMode && frameMode == OnlyFrameB);
+    panel->setOld(CameraHistory::FrameB, hasMode && frameMode == OnlyFrameA);
 }
 
 void OrvCamConfigPrivate::updateFrame(Frame frame)
 {
-    const FrameNumbers numbers = array ? FrameNumbers::read(reader, *array) : FrameNumbers();
+    if (!array)
+        return;
+    const FrameNumbers numbers = FrameNumbers::read(reader, *array);
     hasTimedOut |= numbers.hasTimedOut;
-    showFrame(frame, numbers);
-}
-
-void OrvCamConfigPrivate::showFrame(Frame frame, const FrameNumbers &numbers)
-{
-    const Column column = columnOf(frame);
-    const QString size = numbers.width + QLatin1Char('x') + numbers.height;
-    column.size->setText(size.size() > 1 ? size : QString());
-    column.fps->setText(frameRate(numbers.frameTime, q->locale()));
-    column.frameTime->setText(numbers.frameTime);
-    column.exposure->setText(numbers.exposure);
-    if (array)
-        keep(frame == FrameA ? CameraHistory::FrameA : CameraHistory::FrameB, numbers);
-}
-
-void OrvCamConfigPrivate::keep(CameraHistory::Frame frame, const FrameNumbers &numbers)
-{
-    history.add(CameraHistory::FrameRate, frame, frameRate(numbers.frameTime, QLocale::c()));
-    history.add(CameraHistory::FrameTime, frame, numbers.frameTime);
-    history.add(CameraHistory::Exposure, frame, numbers.exposure);
+    panel->show(frame, numbers);
 }
 
 /// False when the camera stays with the other frame, of which only this window knows then. What the
@@ -775,16 +651,17 @@ bool OrvCamConfigPrivate::readBoth()
     const QByteArray selected = symbolicOf(frameSelector);
     if (selected.isEmpty())
         return true;
-    const bool isA = first == FrameA;
+    const bool isA = first == CameraHistory::FrameA;
+    const Frame second = isA ? CameraHistory::FrameB : CameraHistory::FrameA;
     if (before && before->isBeside(selected)) {
-        showFrame(isA ? FrameB : FrameA, before->numbers());
+        panel->show(second, before->numbers());
         return true;
     }
     const SelectorDetour detour;
     if (!select(isA ? OtherFrame::frameB : OtherFrame::frameA))
         return true;
     reader.fetchNow(shownParams());
-    updateFrame(isA ? FrameB : FrameA);
+    updateFrame(second);
     return select(selected.constData()) || select(selected.constData());
 }
 
@@ -815,7 +692,8 @@ void OrvCamConfigPrivate::updateStatus()
 
 void OrvCamConfigPrivate::readSelectedFrame()
 {
-    selectedFrame = symbolicOf(frameSelector) == OtherFrame::frameA ? FrameA : FrameB;
+    selectedFrame = symbolicOf(frameSelector) == OtherFrame::frameA ? CameraHistory::FrameA
+                                                                    : CameraHistory::FrameB;
 }
 
 void OrvCamConfigPrivate::readFrameMode()
@@ -850,7 +728,7 @@ void OrvCamConfigPrivate::closeDialogs()
     for (OrvCamConfigDialog *dialog : dialogs)
         dialog->close();
     information->dialog()->close();
-    history.closeWindows();
+    panel->history().closeWindows();
 }
 
 OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)
@@ -859,7 +737,8 @@ OrvCamConfig::OrvCamConfig(OrvCam::Device *device, QWidget *parent, Qt::WindowFl
     d->begin(device, true);
 }
 
-OrvCamConfig::OrvCamConfig(Choice, OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags)
+OrvCamConfig::OrvCamConfig(WithoutPicker, OrvCam::Device *device, QWidget *parent,
+                           Qt::WindowFlags flags)
     : QMainWindow(parent, flags), d(new OrvCamConfigPrivate(this))
 {
     d->begin(device, false);

@@ -68,15 +68,17 @@ Q_SIGNALS:
     void deviceGivenUp(OrvCam::Device *device);
 
 protected:
-    enum Choice { NoChoice };
-
-    /// Does not run the camera picker when the device is null.
-    OrvCamConfig(Choice, OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags);
-
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    friend class SilentCamConfig;
+    struct WithoutPicker
+    {
+    };
+
+    OrvCamConfig(WithoutPicker, OrvCam::Device *device, QWidget *parent, Qt::WindowFlags flags);
+
     const QScopedPointer<OrvCamConfigPrivate> d;
 };
 

@@ -52,17 +52,17 @@ bool OrvCamConfigDialogPrivate::init(OrvCamConfigDialog *dialog, OrvCam::Device 
     m_isBinding = true;
     while (m_isOutdated) {
         m_isOutdated = false;
-        target();
+        rebind();
     }
     m_isBinding = false;
 
-    const Tenure tenure(this);
+    const Generation generation(this);
     if (array)
-        settle();
-    return !tenure.isOver() && array;
+        afterBinding();
+    return !generation.isOver() && array;
 }
 
-void OrvCamConfigDialogPrivate::target()
+void OrvCamConfigDialogPrivate::rebind()
 {
     if (!m_isFormBuilt) {
         buildForm();
@@ -73,7 +73,7 @@ void OrvCamConfigDialogPrivate::target()
         q->setContextMenuPolicy(Qt::ActionsContextMenu);
         m_isFormBuilt = true;
     }
-    ++m_tenures;
+    ++m_generation;
     leaveParams();
     mapper.unmapAll();
     m_handlers.end();
@@ -92,7 +92,7 @@ void OrvCamConfigDialogPrivate::target()
         keepWhole(list);
 }
 
-// A device that has lost its camera may have lost the parameters with it. It tells of nothing more.
+// A device that has lost its camera may have lost the parameters with it. It notifies no more.
 void OrvCamConfigDialogPrivate::leaveParams()
 {
     const auto watched = std::exchange(m_watched, {});
@@ -106,14 +106,14 @@ void OrvCamConfigDialogPrivate::leaveParams()
     }
 }
 
-OrvCamConfigDialogPrivate::Tenure::Tenure(const OrvCamConfigDialogPrivate *part)
-    : m_part(part), m_dialog(part->q), m_number(part->m_tenures)
+OrvCamConfigDialogPrivate::Generation::Generation(const OrvCamConfigDialogPrivate *part)
+    : m_part(part), m_dialog(part->q), m_number(part->m_generation)
 {
 }
 
-bool OrvCamConfigDialogPrivate::Tenure::isOver() const
+bool OrvCamConfigDialogPrivate::Generation::isOver() const
 {
-    return !m_dialog || m_part->m_tenures != m_number;
+    return !m_dialog || m_part->m_generation != m_number;
 }
 
 OrvCamConfigDialog::OrvCamConfigDialog(OrvCamConfigDialogPrivate *part, OrvCam::Device *device,

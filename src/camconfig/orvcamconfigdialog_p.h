@@ -39,14 +39,14 @@ public:
     virtual void prepareToShow() {}
 
 protected:
-    /// The time for which the dialog has the device that it has now.
+    /// The binding to the device that the dialog has now.
     ///
-    /// Whatever a write leads to, such as an error box, may set another device or destroy the
-    /// dialog. Have one on the stack then, and leave everything alone once it is over.
-    class Tenure
+    /// A write may lead to anything, such as an error box, and that may set another device or
+    /// destroy the dialog. Keep one on the stack during a write, and return when it is over.
+    class Generation
     {
     public:
-        explicit Tenure(const OrvCamConfigDialogPrivate *part);
+        explicit Generation(const OrvCamConfigDialogPrivate *part);
         bool isOver() const;
 
     private:
@@ -65,11 +65,11 @@ protected:
     virtual void release() {}
 
     /// Binds the form to `array`, which is not null. Writes nothing: another device that is set
-    /// meanwhile has to wait until it is done.
+    /// in between is bound afterwards.
     virtual void bind() = 0;
 
-    /// Writes what the bound form asks of the camera.
-    virtual void settle() {}
+    /// Writes what the bound form requires of the camera.
+    virtual void afterBinding() {}
 
     template<class Widget>
     void bindEnum(const char *feature, Widget *widget)
@@ -126,14 +126,14 @@ private:
         OrvGenParam::ParamEventSink *sink;
     };
 
-    void target();
+    void rebind();
     void leaveParams();
 
     Connections m_handlers;                  ///< of the dialog's own
     OrvCam::Device *m_boundDevice = nullptr; ///< that `array` is of
     QVector<Watched> m_watched;
     UndoActions *m_undoActions = nullptr; ///< of the dialog
-    unsigned m_tenures = 0;
+    unsigned m_generation = 0;
     bool m_isFormBuilt = false;
     bool m_isBinding = false;
     bool m_isOutdated = false; ///< the device is another one than that which is being bound

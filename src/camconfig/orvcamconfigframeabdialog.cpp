@@ -5,8 +5,13 @@
 #include "base/selectordetour.h"
 #include "camconfig/areapresets.h"
 #include "camconfig/boundfeatures.h"
+#include "camconfig/digitalgain.h"
+#include "camconfig/dragwatcher.h"
+#include "camconfig/exposuretime.h"
 #include "camconfig/featuretooltip.h"
+#include "camconfig/frametabs.h"
 #include "camconfig/iorvcamconfigintconverter.h"
+#include "camconfig/microseconds.h"
 #include "camconfig/orvcamconfigdialog_p.h"
 #include "camconfig/wheelguard.h"
 #include "journal/featurejournal.h"
@@ -19,20 +24,12 @@
 #include "widgets/valueaccessibility.h"
 #include "widgets/valuegrid.h"
 
-#include <OrvCam/Codes.h>
-
-#include <QAbstractSlider>
 #include <QButtonGroup>
 #include <QCoreApplication>
-#include <QDoubleSpinBox>
-#include <QPointer>
-#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTimer>
 
-#include <cmath>
-#include <functional>
-#include <limits>
+#include <memory>
 #include <utility>
 
 using OrvGenParam::Enum;
@@ -43,112 +40,18 @@ namespace OrvGui {
 
 namespace {
 
-const char frameSelectorName[] = "FrameAB_Selector";
-const char lineTimeName[] = "Frame_LineTime";
-const char exposureLinesName[] = "Frame_ExposureLines";
-const char exposureClocksName[] = "Frame_ExposureClocks";
 const char periodName[] = "Frame_FixedFramePeriodValue";
-const char frameAsName[] = "NumberOfFrameAs";
-const char frameBsName[] = "NumberOfFrameBs";
-
-const qint64 usualPixelClock = 160;
 const int sizeInterval = 1000; // ms
-const double gainStep = 0.125;
-const double fineGainSteps = 64.0;
-
-/// The largest number that goes into a widget.
-const qint64 largest = std::numeric_limits<int>::max();
-
-/// Registers may claim to hold far more. The slider counts its steps in an int.
-const double largestGain = gainStep * std::numeric_limits<int>::max();
-const qint64 mostDoublings = 27;
-
-QString microseconds()
-{
-    return OrvCamConfigFrameABDialog::tr("%1s").arg(QChar(0x03BC));
-}
 
 QString microsecondsCaption()
 {
-    return OrvCamConfigFrameABDialog::tr("[%1]:").arg(microseconds());
+    return OrvCamConfigFrameABDialog::tr("[%1]:").arg(Microseconds::unit());
 }
 
-qint64 product(qint64 a, qint64 b)
-{
-    qint64 result = 0;
-    if (!__builtin_mul_overflow(a, b, &result))
-        return result;
-    return (a < 0) == (b < 0) ? std::numeric_limits<qint64>::max()
-                              : std::numeric_limits<qint64>::min();
-}
-
-long rounded(double number)
-{
-    const double end = 9.2e18; // just inside of what the result can hold
-    return static_cast<long>(qBound(-end, number + 0.5, end));
-}
-
-/// What the widget has been told to be, whatever the widgets around it are.
+/// What the widget has been set to, whatever the widgets around it are.
 bool isUsable(const QWidget *widget)
 {
     return !widget->testAttribute(Qt::WA_ForceDisabled);
-}
-
-bool isWritable(const FeatureReader &reader, const Param *param)
-{
-    return param && reader.get([=] { return param->IsAvailable() && param->IsWritable(); });
-}
-
-/// Changes the value only if the camera tells it.
-bool read(const FeatureReader &reader, const Int *param, int64_t (Int::*get)(int32_t *) const,
-          qint64 &value)
-{
-    int32_t error = OrvCam::Success;
-    const qint64 answer = param ? reader.get([&] { return (param->*get)(&error); }) : 0;
-    if (param && error == OrvCam::Success)
-        value = answer;
-    return param && error == OrvCam::Success;
-}
-
-/// The number of doublings stays where powers of two make sense.
-struct Gain
-{
-    static Gain read(const FeatureReader &reader, int64_t (Int::*get)(int32_t *) const,
-                     const Int *coarse, const Int *fine)
-    {
-        Gain gain{0, 0};
-        OrvGui::read(reader, coarse, get, gain.coarse);
-        OrvGui::read(reader, fine, get, gain.fine);
-        gain.coarse = qBound(-mostDoublings, gain.coarse, mostDoublings);
-        return gain;
-    }
-    qint64 coarse;
-    qint64 fine;
-
-    bool operator!=(Gain other) const { return coarse != other.coarse || fine != other.fine; }
-    double factor() const
-    {
-        return qMin(largestGain, (1.0 + static_cast<double>(fine) / fineGainSteps) *
-                                     std::ldexp(1.0, static_cast<int>(coarse)));
-    }
-    static Gain of(double factor)
-    {
-        qint64 coarse = 0;
-        for (qint64 rest = static_cast<qint64>(factor); rest > 1; rest /= 2)
-            ++coarse;
-        const double base = std::ldexp(1.0, static_cast<int>(coarse));
-        return {coarse, static_cast<qint64>((factor - base) / base * fineGainSteps)};
-    }
-};
-
-template<class... Widgets>
-void alignCaptions(Widgets *...widgets)
-{
-    int width = 0;
-    for (const QLabel *label : {widgets->leftLabel()...})
-        width = qMax(width, label->sizeHint().width());
-    for (QLabel *label : {widgets->leftLabel()...})
-        label->setMinimumWidth(width);
 }
 
 } // namespace
@@ -170,7 +73,7 @@ protected:
     FeatureReader::Names features() const override { return BoundFeatures::frameABDialog(); }
     void release() override;
     void bind() override;
-    void settle() override;
+    void afterBinding() override;
 
 private:
     class Writing;
@@ -186,6 +89,7 @@ private:
     void makeBindings();
     void bindExposure();
     void bindPeriod();
+    void bindDigitalGain();
     void explain();
     void explainTrigger();
     void connectHandlers();
@@ -196,31 +100,17 @@ private:
     FeatureReader::Params areaParams() const;
     void update(Param *param);
 
-    void readLineTime();
-    void readPixelClock();
     void readTriggerMode();
     void readExposure();
     void showPeriod();
     void updateExposureTime();
-    qint64 timeOf(qint64 lines, qint64 clocks) const;
     void setExposureTime(int time);
 
-    void initDigitalGain();
     void readDigitalGain();
     void showDigitalGain();
     void setDigitalGain(double factor);
-    void setGainPart(Int *param, qint64 former, qint64 value);
-    Gain gainOf(double factor) const;
+    DigitalGain::Parts gainOf(double factor) const;
 
-    void whenFrameModeIsKnown(const std::function<void()> &call);
-    bool onFrameModeChanged();
-    void onTabChanged(int index);
-    bool showOnlyTab(int index);
-    void placeLayout(int index);
-    void bindLineTime(QtOrvSliderSpinBox *spinBox);
-    void bindFrameCounts();
-    void unbindFrameCounts();
-    void dropInput();
     void catchUp();
     void showAll();
 
@@ -233,30 +123,16 @@ private:
     bool isTriggerOn = false;
     bool isFitted = false; ///< the size to what it shows
 
-    qint64 pixelClock = usualPixelClock; ///< clocks per microsecond
-    qint64 lineTime = 0;                 ///< clocks
-    qint64 exposureLines = 0;
-    qint64 exposureLinesMax = 0;
-    qint64 exposureClocks = 0;
-    qint64 exposureClocksMax = 0;
-    Gain gain{0, 0};
-    Gain leastGain{0, 0};
-    Gain mostGain{0, 0};
-    Enum *frameSelector = nullptr;
+    ExposureTime exposure;
+    DigitalGain gain;
+    std::unique_ptr<FrameTabs> frameTabs; ///< null without a camera
     Enum *triggerMode = nullptr;
-    Int *pixelClockParam = nullptr;
-    Int *lineTimeParam = nullptr;
-    Int *exposureLinesParam = nullptr;
-    Int *exposureClocksParam = nullptr;
     Int *periodParam = nullptr;
-    Int *coarseGain = nullptr;
-    Int *fineGain = nullptr;
     Int *widthActual = nullptr;
     Int *heightActual = nullptr;
     AreaPresets area;
 
     QTimer *sizeTimer = nullptr;
-    QTimer *tabTimer = nullptr; ///< leads back to the tab that the output mode allows
     QButtonGroup *shutterButtons = nullptr;
     QButtonGroup *adcButtons = nullptr;
     QButtonGroup *exposureButtons = nullptr;
@@ -265,13 +141,8 @@ private:
     QButtonGroup *analogGainButtons = nullptr;
     QVector<QWidget *> exposureDependents;
 
-    QVector<qint64> customArea;                ///< that the user has called so
-    QtOrvSliderSpinBox *lineTimeBox = nullptr; ///< the one of the two that is bound
-    bool areFrameCountsBound = false;
-    qint64 selectedFrame = 0;
-    bool isShowingTime = false;
-    bool isShowingGain = false;
-    bool isWriting = false; ///< several values; what follows from them is shown at the end
+    QVector<qint64> customArea; ///< that the user has called so
+    bool isWriting = false;     ///< several values; what follows from them is shown at the end
 };
 
 /// A change of the user's that takes more than one write, of which the rest must not be written
@@ -280,7 +151,7 @@ class OrvCamConfigFrameABDialogPrivate::Writing
 {
 public:
     explicit Writing(OrvCamConfigFrameABDialogPrivate *part)
-        : m_part(part), m_tenure(part), m_step(part->mapper.journal())
+        : m_part(part), m_generation(part), m_step(part->mapper.journal())
     {
         m_part->isWriting = true;
     }
@@ -291,11 +162,11 @@ public:
     }
     Q_DISABLE_COPY(Writing)
 
-    bool isOver() const { return m_tenure.isOver(); }
+    bool isOver() const { return m_generation.isOver(); }
 
 private:
     OrvCamConfigFrameABDialogPrivate *const m_part;
-    const Tenure m_tenure;
+    const Generation m_generation;
     const FeatureJournal::Group m_step;
 };
 
@@ -323,9 +194,6 @@ void OrvCamConfigFrameABDialogPrivate::buildForm()
     ui.spBoxDigitalGain->setValidate(true);
     ui.spBoxDigitalGain->setValidateTyping(false);
     wheelGuard.guard(ui.spBoxDigitalGain);
-
-    tabTimer = new QTimer(q);
-    tabTimer->setSingleShot(true);
 }
 
 void OrvCamConfigFrameABDialogPrivate::setCaptions()
@@ -340,14 +208,14 @@ void OrvCamConfigFrameABDialogPrivate::setCaptions()
     ui.spBoxFrameHeight->setLeftLabelText(tr("Height:"));
     ui.spBoxDigitalGain->setLeftLabelText(tr("Digital Gain:"));
     ui.spBoxBlackLevel->setLeftLabelText(tr("Black Level:"));
-    alignCaptions(ui.spBoxFrameOffsetX, ui.spBoxFrameOffsetY);
-    alignCaptions(ui.spBoxFrameWidth, ui.spBoxFrameHeight);
-    alignCaptions(ui.spBoxDigitalGain, ui.spBoxBlackLevel);
+    FormFit::align({ui.spBoxFrameOffsetX->leftLabel(), ui.spBoxFrameOffsetY->leftLabel()});
+    FormFit::align({ui.spBoxFrameWidth->leftLabel(), ui.spBoxFrameHeight->leftLabel()});
+    FormFit::align({ui.spBoxDigitalGain->leftLabel(), ui.spBoxBlackLevel->leftLabel()});
     const int width = ui.spBoxDigitalGain->spinBox()->sizeHint().width();
     ui.spBoxDigitalGain->spinBox()->setMinimumWidth(width);
     ui.spBoxBlackLevel->spinBox()->setMinimumWidth(width);
     for (QLabel *unit : {ui.lblWdrE1MicroSec, ui.lblWdrE2MicroSec, ui.lblWdrE3MicroSec})
-        unit->setText(microseconds());
+        unit->setText(Microseconds::unit());
 }
 
 QButtonGroup *
@@ -363,11 +231,11 @@ void OrvCamConfigFrameABDialogPrivate::release()
 {
     delete sizeTimer;
     sizeTimer = nullptr;
-    tabTimer->stop();
-    frameSelector = triggerMode = nullptr;
-    pixelClockParam = lineTimeParam = exposureLinesParam = exposureClocksParam = nullptr;
-    periodParam = coarseGain = fineGain = widthActual = heightActual = nullptr;
-    lineTime = exposureLines = exposureLinesMax = exposureClocks = exposureClocksMax = 0;
+    frameTabs.reset();
+    triggerMode = nullptr;
+    periodParam = widthActual = heightActual = nullptr;
+    exposure = ExposureTime();
+    gain = DigitalGain();
     area = AreaPresets();
     customArea.clear();
     isWriting = false;
@@ -385,11 +253,8 @@ void OrvCamConfigFrameABDialogPrivate::bind()
     getNeededParams();
     makeBindings();
     startSizeTimer();
-    initDigitalGain();
-    ui.spBoxDualVideo->setEnabled(false);
-    ui.spBoxFrameLineTime->setEnabled(false);
-    lineTimeBox = nullptr;
-    unbindFrameCounts();
+    bindDigitalGain();
+    frameTabs->follow();
     explain();
     connectHandlers();
 }
@@ -398,35 +263,31 @@ void OrvCamConfigFrameABDialogPrivate::prepareToShow()
 {
     if (!std::exchange(isFitted, true))
         FormFit::growToFit(q, ui.scrollArea);
-    if (!array)
-        return;
-    if (frameSelector) {
-        const QSignalBlocker isNoChange(ui.tabFrames);
-        mapper.updateTabWidget(frameSelector, ui.tabFrames);
-        placeLayout(ui.tabFrames->currentIndex());
-    }
-    tabTimer->start(0);
+    if (frameTabs)
+        frameTabs->prepareToShow();
 }
 
-void OrvCamConfigFrameABDialogPrivate::settle()
+void OrvCamConfigFrameABDialogPrivate::afterBinding()
 {
     isFitted = q->isVisible();
     if (isFitted)
         FormFit::growToFit(q, ui.scrollArea);
-    if (!onFrameModeChanged())
+    if (!frameTabs->applyMode())
         return;
-    placeLayout(ui.tabFrames->currentIndex());
+    frameTabs->placeForm();
     showArea();
     updateExposureTime();
 }
 
 void OrvCamConfigFrameABDialogPrivate::getNeededParams()
 {
-    frameSelector = watched(array->GetEnum(frameSelectorName));
-    pixelClockParam = watched(array->GetInt("PixelClock"));
-    exposureLinesParam = watched(array->GetInt(exposureLinesName));
-    exposureClocksParam = watched(array->GetInt(exposureClocksName));
-    lineTimeParam = watched(array->GetInt(lineTimeName));
+    exposure = ExposureTime(array);
+    gain = DigitalGain(array);
+    frameTabs = std::make_unique<FrameTabs>(ui, mapper, reader(), array);
+    watched(frameTabs->selector());
+    for (const auto feature : {ExposureTime::PixelClock, ExposureTime::Lines, ExposureTime::Clocks,
+                               ExposureTime::LineTime})
+        watched(exposure.param(feature));
     periodParam = watched(array->GetInt(periodName));
     triggerMode = watched(array->GetEnum("TriggerMode"));
     widthActual = array->GetInt("Frame_WidthActual");
@@ -435,10 +296,8 @@ void OrvCamConfigFrameABDialogPrivate::getNeededParams()
     for (const char *feature : {"SensorWidth", "SensorHeight"})
         watched(array->GetInt(feature));
 
-    selectedFrame =
-        frameSelector ? reader().get([this] { return frameSelector->GetIntValue(); }) : 0;
-    readPixelClock();
-    readLineTime();
+    exposure.readPixelClock(reader());
+    exposure.readLineTime(reader());
     readExposure();
     readTriggerMode();
 }
@@ -468,22 +327,22 @@ void OrvCamConfigFrameABDialogPrivate::makeBindings()
     bindEnum("Frame_AnalogGain", analogGainButtons);
     bindPeriod();
     bindInt("Frame_BlackLevel", ui.spBoxBlackLevel, nullptr);
-    bindEnum(frameSelectorName, ui.tabFrames);
+    bindEnum(FrameTabs::selectorName, ui.tabFrames);
     bindBoolean("Frame_FixedFramePeriodEnable", ui.chBoxFixedFramePeriodEnable);
     bindBoolean("Frame_WdrEnable", ui.chBoxWdrEnable);
 }
 
 void OrvCamConfigFrameABDialogPrivate::bindExposure()
 {
-    // The time is set by both, so it takes both.
+    // The time is written as lines and clocks, so it needs both.
     QVector<QWidget *> none;
-    const bool hasTime = exposureLinesParam && exposureClocksParam;
+    QVector<QWidget *> &dependents = exposure.isComplete() ? exposureDependents : none;
     ui.spBoxExpTime->setEnabled(false);
-    bindInt(exposureLinesName, ui.spBoxExpLines, hasTime ? exposureDependents : none);
-    bindInt(exposureClocksName, ui.spBoxExpClocks, hasTime ? exposureDependents : none);
+    bindInt(ExposureTime::featureOf(ExposureTime::Lines), ui.spBoxExpLines, dependents);
+    bindInt(ExposureTime::featureOf(ExposureTime::Clocks), ui.spBoxExpClocks, dependents);
     // After the mapper, so that the time finds itself enabled.
-    watched(exposureLinesParam);
-    watched(exposureClocksParam);
+    watched(exposure.param(ExposureTime::Lines));
+    watched(exposure.param(ExposureTime::Clocks));
 }
 
 void OrvCamConfigFrameABDialogPrivate::bindPeriod()
@@ -496,12 +355,21 @@ void OrvCamConfigFrameABDialogPrivate::bindPeriod()
     watched(periodParam); // after the mapper, as the exposure time needs what the box shows
 }
 
+void OrvCamConfigFrameABDialogPrivate::bindDigitalGain()
+{
+    watched(gain.coarse());
+    watched(gain.fine());
+    readDigitalGain();
+    showDigitalGain();
+}
+
 /// What shows several features, and so is bound to none.
 void OrvCamConfigFrameABDialogPrivate::explain()
 {
     FeatureToolTip::set(ui.spBoxExpTime,
-                        FeatureToolTip::text({exposureLinesParam, exposureClocksParam}));
-    FeatureToolTip::set(ui.spBoxDigitalGain, FeatureToolTip::text({coarseGain, fineGain}));
+                        FeatureToolTip::text({exposure.param(ExposureTime::Lines),
+                                              exposure.param(ExposureTime::Clocks)}));
+    FeatureToolTip::set(ui.spBoxDigitalGain, FeatureToolTip::text({gain.coarse(), gain.fine()}));
     FeatureToolTip::set(ui.lineEditFrameCurrentSize,
                         FeatureToolTip::text({widthActual, heightActual}));
     explainTrigger();
@@ -519,11 +387,7 @@ void OrvCamConfigFrameABDialogPrivate::explainTrigger()
 
 void OrvCamConfigFrameABDialogPrivate::connectHandlers()
 {
-    on(ui.cmBoxFrameMode, &QComboBox::currentTextChanged,
-       [this] { whenFrameModeIsKnown([this] { onFrameModeChanged(); }); });
-    on(ui.tabFrames, &QTabWidget::currentChanged, [this](int index) { onTabChanged(index); });
-    on(tabTimer, &QTimer::timeout,
-       [this] { whenFrameModeIsKnown([this] { onFrameModeChanged(); }); });
+    on(frameTabs.get(), &FrameTabs::turned, [this] { updateExposureTime(); });
     for (QAbstractButton *button : exposureButtons->buttons()) {
         on(button, &QAbstractButton::toggled, [this](bool isChecked) {
             if (isChecked)
@@ -546,27 +410,19 @@ void OrvCamConfigFrameABDialogPrivate::connectHandlers()
     connectDrags();
 }
 
-// The widgets say nothing about a drag of their slider. What they show need not be what the camera
-// holds: only a move of the user's is a change.
+// What the widgets show need not be what the camera holds: only what the user changes is written.
 void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
-    HeldInput::onDragEnd(
-        ui.spBoxExpTime->slider(), handlers(), [this] { return ui.spBoxExpTime->value(); },
-        [this](bool isChanged) {
-            if (isChanged)
-                setExposureTime(ui.spBoxExpTime->value());
-            else
-                updateExposureTime();
-        });
-    HeldInput::onDragEnd(
-        ui.spBoxDigitalGain->slider(), handlers(),
-        [this] { return gainOf(ui.spBoxDigitalGain->value()); },
-        [this](bool isChanged) {
-            if (isChanged)
-                setDigitalGain(ui.spBoxDigitalGain->value());
-            else
-                showDigitalGain();
-        });
+    auto *time = new DragWatcher(
+        ui.spBoxExpTime->slider(), [this] { return ui.spBoxExpTime->value(); }, handlers());
+    on(time, &DragWatcher::changed, [this] { setExposureTime(ui.spBoxExpTime->value()); });
+    on(time, &DragWatcher::unchanged, [this] { updateExposureTime(); });
+
+    auto *factor = new DragWatcher(
+        ui.spBoxDigitalGain->slider(),
+        [this] { return gainOf(ui.spBoxDigitalGain->value()).factor(); }, handlers());
+    on(factor, &DragWatcher::changed, [this] { setDigitalGain(ui.spBoxDigitalGain->value()); });
+    on(factor, &DragWatcher::unchanged, [this] { showDigitalGain(); });
 }
 
 void OrvCamConfigFrameABDialogPrivate::startSizeTimer()
@@ -584,7 +440,7 @@ void OrvCamConfigFrameABDialogPrivate::showCurrentSize()
 {
     const auto text = [this](const Int *param) {
         qint64 value = 0;
-        return read(reader(), param, &Int::GetValue, value) ? QString::number(value) : QString();
+        return reader().read(param, &Int::GetValue, value) ? QString::number(value) : QString();
     };
     const QString width = text(widthActual);
     const QString height = text(heightActual);
@@ -602,12 +458,12 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
 /// What is going to be read when the parameter has changed.
 FeatureReader::Params OrvCamConfigFrameABDialogPrivate::neededBy(const Param *param) const
 {
-    if (param == pixelClockParam || param == lineTimeParam)
+    if (exposure.isUnit(param))
         return {param, periodParam};
-    if (param == exposureLinesParam || param == exposureClocksParam)
-        return {exposureLinesParam, exposureClocksParam};
-    if (param == coarseGain || param == fineGain)
-        return {coarseGain, fineGain};
+    if (exposure.isPart(param))
+        return {exposure.param(ExposureTime::Lines), exposure.param(ExposureTime::Clocks)};
+    if (gain.isPart(param))
+        return {gain.coarse(), gain.fine()};
     return area.dependsOn(param) ? areaParams() : FeatureReader::Params{param};
 }
 
@@ -620,39 +476,28 @@ FeatureReader::Params OrvCamConfigFrameABDialogPrivate::areaParams() const
 
 void OrvCamConfigFrameABDialogPrivate::update(Param *param)
 {
-    if (param == frameSelector) {
-        dropInput();
+    if (param == frameTabs->selector()) {
+        frameTabs->dropInput();
         return;
     }
     if (param == triggerMode) {
         readTriggerMode();
         explainTrigger();
-    } else if (param == pixelClockParam) {
-        readPixelClock();
+    } else if (param == exposure.param(ExposureTime::PixelClock)) {
+        exposure.readPixelClock(reader());
         showPeriod();
-    } else if (param == lineTimeParam) {
-        readLineTime();
+    } else if (param == exposure.param(ExposureTime::LineTime)) {
+        exposure.readLineTime(reader());
         showPeriod();
-    } else if (param == exposureLinesParam || param == exposureClocksParam) {
+    } else if (exposure.isPart(param)) {
         readExposure();
-    } else if (param == coarseGain || param == fineGain) {
+    } else if (gain.isPart(param)) {
         readDigitalGain();
         showDigitalGain();
     } else if (area.dependsOn(param)) {
         showArea();
     }
     updateExposureTime();
-}
-
-void OrvCamConfigFrameABDialogPrivate::readPixelClock()
-{
-    pixelClock = usualPixelClock;
-    read(reader(), pixelClockParam, &Int::GetValue, pixelClock);
-}
-
-void OrvCamConfigFrameABDialogPrivate::readLineTime()
-{
-    read(reader(), lineTimeParam, &Int::GetValue, lineTime);
 }
 
 void OrvCamConfigFrameABDialogPrivate::readTriggerMode()
@@ -665,41 +510,24 @@ void OrvCamConfigFrameABDialogPrivate::readTriggerMode()
 
 void OrvCamConfigFrameABDialogPrivate::readExposure()
 {
-    if (isWriting)
-        return; // one of the two has not been written yet
-    const FeatureReader &known = reader();
-    read(known, exposureLinesParam, &Int::GetValue, exposureLines);
-    read(known, exposureLinesParam, &Int::GetMax, exposureLinesMax);
-    read(known, exposureClocksParam, &Int::GetValue, exposureClocks);
-    read(known, exposureClocksParam, &Int::GetMax, exposureClocksMax);
+    if (!isWriting) // else one of the two has not been written yet
+        exposure.readParts(reader());
 }
 
 long OrvCamConfigFrameABDialogPrivate::ToControl(long value, Int *)
 {
-    if (pixelClock == 0)
-        return 0;
-    return rounded(static_cast<double>(product(value, lineTime)) / static_cast<double>(pixelClock));
+    return exposure.toControl(value);
 }
 
 long OrvCamConfigFrameABDialogPrivate::ToDevice(long value, Int *)
 {
-    if (lineTime == 0)
-        return 0;
-    return rounded(static_cast<double>(product(value, pixelClock)) / static_cast<double>(lineTime));
+    return exposure.toDevice(value);
 }
 
 void OrvCamConfigFrameABDialogPrivate::showPeriod()
 {
     if (periodParam && isUsable(ui.spBoxFixedFramePeriodValue))
         mapper.updateSliderSpinBox(periodParam, ui.spBoxFixedFramePeriodValue, this);
-}
-
-qint64 OrvCamConfigFrameABDialogPrivate::timeOf(qint64 lines, qint64 clocks) const
-{
-    if (pixelClock == 0)
-        return 0;
-    return (product(qMin(lines, largest), qMin(lineTime, largest)) + qMin(clocks, largest)) /
-           pixelClock;
 }
 
 void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
@@ -709,12 +537,12 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
         return;
     const qint64 max = ui.chBoxFixedFramePeriodEnable->isChecked()
                            ? ui.spBoxFixedFramePeriodValue->value()
-                           : timeOf(exposureLinesMax, exposureClocksMax);
+                           : exposure.maxTime();
     const int end = ValueGrid::toInt(max);
-    const int time = ValueGrid::toInt(timeOf(exposureLines, exposureClocks));
+    const int time = ValueGrid::toInt(exposure.time());
 
     // Setting what is set already would undo the user's typing.
-    const QScopedValueRollback<bool> showing(isShowingTime, true);
+    const QSignalBlocker writesNothing(spinBox);
     if (spinBox->minimum() != 0 || spinBox->maximum() != end)
         spinBox->setRange(0, end);
     if (spinBox->value() != time)
@@ -723,225 +551,72 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
 
 void OrvCamConfigFrameABDialogPrivate::setExposureTime(int time)
 {
-    if (isShowingTime)
-        return;
-    const qint64 total = product(time, pixelClock);
-    if (lineTime == 0)
-        exposureLines = 0;
-    else
-        exposureLines = lineTime == -1 ? -total : total / lineTime;
-    exposureClocks = total - lineTime * exposureLines;
-
-    const int clocks = ValueGrid::toInt(exposureClocks);
+    const ExposureTime::Parts parts = exposure.split(time);
     {
         const Writing writing(this);
-        ui.spBoxExpLines->setValue(ValueGrid::toInt(exposureLines));
+        ui.spBoxExpLines->setValue(ValueGrid::toInt(parts.lines));
         if (writing.isOver())
             return;
-        ui.spBoxExpClocks->setValue(clocks);
+        ui.spBoxExpClocks->setValue(ValueGrid::toInt(parts.clocks));
         if (writing.isOver())
             return;
     }
     catchUp();
-}
-
-void OrvCamConfigFrameABDialogPrivate::initDigitalGain()
-{
-    coarseGain = watched(array->GetInt("Frame_DigitalCourseGain"));
-    fineGain = watched(array->GetInt("Frame_DigitalFineGain"));
-    readDigitalGain();
-    showDigitalGain();
 }
 
 void OrvCamConfigFrameABDialogPrivate::readDigitalGain()
 {
     if (!isWriting)
-        gain = Gain::read(reader(), &Int::GetValue, coarseGain, fineGain);
+        gain.readValue(reader());
 }
 
 void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
 {
     QtOrvGainSlider *const slider = ui.spBoxDigitalGain;
-    slider->setEnabled(isWritable(reader(), coarseGain) || isWritable(reader(), fineGain));
+    slider->setEnabled(gain.isWritable(reader()));
     if (isWriting || HeldInput::isDrag(slider))
         return;
-    leastGain = Gain::read(reader(), &Int::GetMin, coarseGain, fineGain);
-    mostGain = Gain::read(reader(), &Int::GetMax, coarseGain, fineGain);
+    gain.readLimits(reader());
 
-    const QScopedValueRollback<bool> showing(isShowingGain, true);
-    slider->setRange(leastGain.factor(), mostGain.factor());
-    slider->setSingleStep(gainStep);
+    const QSignalBlocker writesNothing(slider);
+    slider->setRange(gain.min().factor(), gain.max().factor());
+    slider->setSingleStep(DigitalGain::step);
     // A step may be less than the camera can do at large gains; the user must get past it.
-    if (gainOf(slider->value()) != gain)
-        slider->setValue(gain.factor());
+    if (gainOf(slider->value()) != gain.value())
+        slider->setValue(gain.value().factor());
 }
 
 void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
 {
-    if (isShowingGain)
-        return;
-    const Gain former = std::exchange(gain, gainOf(factor));
-    const Gain wanted = gain;
+    const DigitalGain::Parts former = gain.setValue(gainOf(factor));
     {
         const Writing writing(this);
-        setGainPart(coarseGain, former.coarse, wanted.coarse);
+        gain.writeCoarse(mapper.journal(), former);
         if (writing.isOver())
             return;
-        setGainPart(fineGain, former.fine, wanted.fine);
+        gain.writeFine(mapper.journal(), former);
         if (writing.isOver())
             return;
     }
     catchUp();
 }
 
-void OrvCamConfigFrameABDialogPrivate::setGainPart(Int *param, qint64 former, qint64 value)
-{
-    if (!param)
-        return;
-    FeatureJournal::write(mapper.journal(), QString::fromUtf8(param->GetName()), former, value,
-                          [=] { return param->SetValue(value) == OrvCam::Success; });
-}
-
-/// The box rounds its ends, which stand for those of the camera.
-Gain OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
+/// The box rounds its ends, which are those of the camera.
+DigitalGain::Parts OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
 {
     const QtOrvDoubleSpinBoxVal *const box = ui.spBoxDigitalGain->spinBox();
     if (factor >= box->maximum())
-        return mostGain;
-    return factor <= box->minimum() ? leastGain : Gain::of(factor);
-}
-
-/// What the output mode binds and unbinds must be known, too.
-void OrvCamConfigFrameABDialogPrivate::whenFrameModeIsKnown(const std::function<void()> &call)
-{
-    reader().whenKnown(
-        this, tabTimer,
-        {frameSelector, lineTimeParam, array->GetInt(frameAsName), array->GetInt(frameBsName)},
-        call);
-}
-
-/// False when the dialog has got another camera by that, or is gone.
-bool OrvCamConfigFrameABDialogPrivate::onFrameModeChanged()
-{
-    const Tenure tenure(this);
-    const QString mode = ui.cmBoxFrameMode->currentText();
-    const bool isFrameA = mode == QLatin1String("FrameA");
-    if (isFrameA || mode == QLatin1String("FrameB")) {
-        if (showOnlyTab(isFrameA ? 0 : 1)) {
-            bindLineTime(ui.spBoxFrameLineTime);
-            unbindFrameCounts();
-        }
-        return !tenure.isOver();
-    }
-    for (int i = 0; i < ui.tabFrames->count(); ++i)
-        ui.tabFrames->setTabEnabled(i, true);
-    bindLineTime(ui.spBoxDualVideo);
-    bindFrameCounts();
-    return true;
-}
-
-/// False when the camera or its output mode has become another one by that.
-bool OrvCamConfigFrameABDialogPrivate::showOnlyTab(int index)
-{
-    if (index >= ui.tabFrames->count())
-        return true;
-    if (!q->isVisible()) {
-        // Whoever works with the other frame keeps it. This one is selected when it is to be seen.
-        const QSignalBlocker writesNothing(ui.tabFrames);
-        ui.tabFrames->setTabEnabled(index, true);
-        ui.tabFrames->setCurrentIndex(index);
-        ui.tabFrames->setTabEnabled(1 - index, false);
-        placeLayout(index);
-        return true;
-    }
-    const Tenure tenure(this);
-    const QString mode = ui.cmBoxFrameMode->currentText();
-    ui.tabFrames->setTabEnabled(index, true);
-    ui.tabFrames->setCurrentIndex(index); // a write, which may have to be reported
-    if (tenure.isOver() || ui.cmBoxFrameMode->currentText() != mode)
-        return false;
-    ui.tabFrames->setTabEnabled(1 - index, false);
-    return true;
-}
-
-void OrvCamConfigFrameABDialogPrivate::onTabChanged(int index)
-{
-    placeLayout(index);
-    if (!ui.tabFrames->isTabEnabled(index)) {
-        // Somebody else has selected the frame that is not put out. They may only have a look at
-        // it, and would see the wrong one if it was taken from them at once.
-        tabTimer->start(0);
-        return;
-    }
-    whenFrameModeIsKnown([this] {
-        if (onFrameModeChanged())
-            updateExposureTime();
-    });
-}
-
-/// The frames share one set of widgets.
-void OrvCamConfigFrameABDialogPrivate::placeLayout(int index)
-{
-    QWidget *const page = index > 0 ? ui.tabFrameB : ui.tabFrameA;
-    QWidget *const other = index > 0 ? ui.tabFrameA : ui.tabFrameB;
-    if (other->layout())
-        page->setLayout(other->layout());
-}
-
-void OrvCamConfigFrameABDialogPrivate::bindLineTime(QtOrvSliderSpinBox *spinBox)
-{
-    if (lineTimeBox == spinBox)
-        return;
-    lineTimeBox = spinBox;
-    bindInt(lineTimeName, spinBox, nullptr);
-}
-
-void OrvCamConfigFrameABDialogPrivate::bindFrameCounts()
-{
-    if (areFrameCountsBound)
-        return;
-    areFrameCountsBound = true;
-    bindInt(frameAsName, ui.spBoxNumberOfFrameAs);
-    bindInt(frameBsName, ui.spBoxNumberOfFrameBs);
-}
-
-void OrvCamConfigFrameABDialogPrivate::unbindFrameCounts()
-{
-    areFrameCountsBound = false;
-    mapper.unmapParam(QString::fromLatin1(frameAsName));
-    mapper.unmapParam(QString::fromLatin1(frameBsName));
-    ui.spBoxNumberOfFrameAs->setEnabled(false);
-    ui.spBoxNumberOfFrameBs->setEnabled(false);
-}
-
-// What the user is typing or dragging is meant for the frame that was selected up to now.
-void OrvCamConfigFrameABDialogPrivate::dropInput()
-{
-    const qint64 selected = reader().get([this] { return frameSelector->GetIntValue(); });
-    if (selected == selectedFrame)
-        return;
-    selectedFrame = selected;
-    QWidget *const focus = q->focusWidget();
-    if (ui.tabFrames->isAncestorOf(focus)) {
-        if (auto *spinBox = qobject_cast<QSpinBox *>(focus))
-            spinBox->setValue(spinBox->value());
-        else if (auto *gainBox = qobject_cast<QDoubleSpinBox *>(focus))
-            gainBox->setValue(gainBox->value());
-    }
-    for (const QAbstractSlider *slider : ui.tabFrames->findChildren<QAbstractSlider *>()) {
-        if (slider->isSliderDown()) {
-            slider->parentWidget()->setEnabled(false);
-            slider->parentWidget()->setEnabled(true);
-        }
-    }
+        return gain.max();
+    return factor <= box->minimum() ? gain.min() : DigitalGain::Parts::of(factor);
 }
 
 /// After several writes.
 void OrvCamConfigFrameABDialogPrivate::catchUp()
 {
     reader().whenKnown(this, this,
-                       areaParams() + FeatureReader::Params{exposureLinesParam, exposureClocksParam,
-                                                            coarseGain, fineGain},
+                       areaParams() + FeatureReader::Params{exposure.param(ExposureTime::Lines),
+                                                            exposure.param(ExposureTime::Clocks),
+                                                            gain.coarse(), gain.fine()},
                        [this] { showAll(); });
 }
 

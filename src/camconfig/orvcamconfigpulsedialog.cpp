@@ -3,6 +3,7 @@
 
 #include "base/formfit.h"
 #include "camconfig/boundfeatures.h"
+#include "camconfig/microseconds.h"
 #include "camconfig/orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigpulsedialog.h"
 #include "widgets/qtorvslider.h"
@@ -17,7 +18,7 @@ const double microsecondsPerSecond = 1e6;
 
 QString microsecondsSuffix()
 {
-    return OrvCamConfigPulseDialog::tr(" [%1s]:").arg(QChar(0x03BC));
+    return OrvCamConfigPulseDialog::tr(" [%1s]:").arg(Microseconds::mu());
 }
 
 void fitSlider(QtOrvSpinBox *spinBox)

@@ -3,6 +3,7 @@
 
 #include "base/formfit.h"
 #include "camconfig/boundfeatures.h"
+#include "camconfig/microseconds.h"
 #include "camconfig/orvcamconfigdialog_p.h"
 #include "ui_orvcamconfigstrobedialog.h"
 #include "widgets/qtorvslider.h"
@@ -35,9 +36,8 @@ private:
 void OrvCamConfigStrobeDialogPrivate::buildForm()
 {
     ui.setupUi(q);
-    const QChar mu(0x03BC);
-    const QString delay = OrvCamConfigStrobeDialog::tr("Delay [%1s]:").arg(mu);
-    const QString width = OrvCamConfigStrobeDialog::tr("Width [%1s]:").arg(mu);
+    const QString delay = OrvCamConfigStrobeDialog::tr("Delay [%1s]:").arg(Microseconds::mu());
+    const QString width = OrvCamConfigStrobeDialog::tr("Width [%1s]:").arg(Microseconds::mu());
     ui.spBoxStrobe1Delay->setLeftLabelText(delay);
     ui.spBoxStrobe2Delay->setLeftLabelText(delay);
     ui.spBoxStrobe1Width->setLeftLabelText(width);

@@ -161,7 +161,7 @@ bool EditorState::isToBeWritten() const
     // A list ends its editing whenever its entry changes, even if the camera changed it.
     if (m_isBeingFilled || !isAcceptable())
         return false;
-    // Who types what was there already wants it written.
+    // A value that is typed once more is to be written.
     return m_isTyped || m_editor->isWindowModified() || !isSame(content(), m_known);
 }
 

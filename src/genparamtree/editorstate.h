@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <utility>
+
 class QComboBox;
 class QLineEdit;
 class QWidget;
@@ -47,6 +49,12 @@ public:
     bool isOpen() const { return m_isOpen; }
     void setOpen(bool on) { m_isOpen = on; }
 
+    /// The value to fill it with is not known yet.
+    void setWaiting() { m_isWaiting = true; }
+
+    /// Whether it has been waiting, which it no longer is.
+    bool takeWaiting() { return std::exchange(m_isWaiting, false); }
+
     /// True once the user has typed or stepped; such an editor is no longer filled.
     bool isTouched() const { return m_isTouched; }
 
@@ -82,6 +90,7 @@ private:
     QVariant m_known;            ///< what the camera's value filled in
     QVariant m_latest;           ///< after the last step or valid typing
     bool m_isOpen = false;
+    bool m_isWaiting = false;
     bool m_isBeingFilled = false;
     bool m_isTouched = false;
     bool m_isTyped = false;

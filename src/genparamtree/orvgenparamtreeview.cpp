@@ -159,7 +159,7 @@ void OrvGenParamTreeViewPrivate::setModel(Source *source)
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
     QObject::connect(ui->cbVisibility, levelChanged, proxy, [this, proxy] { applyLevel(proxy); });
     halveColumns();
-    setSpanForChildren(QModelIndex());
+    spanCategories();
 }
 
 void OrvGenParamTreeViewPrivate::setLookAhead(TreeLookAhead *newLookAhead)
@@ -171,7 +171,11 @@ void OrvGenParamTreeViewPrivate::setLookAhead(TreeLookAhead *newLookAhead)
         QObject::connect(lookAhead, &TreeLookAhead::arrived, q, [this] { describeCurrent(); });
 }
 
-void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
+/// Each before those in it, in the order of the rows.
+template<class Visit>
+void OrvGenParamTreeViewPrivate::visitCategories(const QModelIndex &parent,
+                                                 const std::string &parentPath,
+                                                 const Visit &visit) const
 {
     const QAbstractItemModel *model = ui->treeView->model();
     const int rows = model->rowCount(parent);
@@ -179,9 +183,18 @@ void OrvGenParamTreeViewPrivate::setSpanForChildren(const QModelIndex &parent)
         const QModelIndex index = model->index(row, nameColumn, parent);
         if (!isCategory(index))
             continue;
-        ui->treeView->setFirstColumnSpanned(row, parent, true);
-        setSpanForChildren(index);
+        const std::string path = parentPath + displayName(index);
+        visit(index, path);
+        visitCategories(index, path + pathSeparator, visit);
     }
+}
+
+void OrvGenParamTreeViewPrivate::spanCategories()
+{
+    visitCategories(QModelIndex(), std::string(),
+                    [this](const QModelIndex &index, const std::string &) {
+                        ui->treeView->setFirstColumnSpanned(index.row(), index.parent(), true);
+                    });
 }
 
 // The tree may show the proxy through a model of the host's own.
@@ -252,27 +265,13 @@ void OrvGenParamTreeViewPrivate::saveState()
     state.clear();
     if (!ui->treeView->model())
         return;
-    state = saveState(ui->treeView->rootIndex(), std::string());
+    visitCategories(ui->treeView->rootIndex(), std::string(),
+                    [this](const QModelIndex &index, const std::string &path) {
+                        if (ui->treeView->isExpanded(index))
+                            state += path + pathEnd;
+                    });
     state += widthMark + std::to_string(ui->treeView->columnWidth(nameColumn));
     state += visibilityMark + std::to_string(ui->cbVisibility->currentIndex());
-}
-
-std::string OrvGenParamTreeViewPrivate::saveState(const QModelIndex &parent,
-                                                  const std::string &parentPath) const
-{
-    std::string expanded;
-    const QAbstractItemModel *model = ui->treeView->model();
-    const int rows = model->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = model->index(row, nameColumn, parent);
-        if (!isCategory(index))
-            continue;
-        const std::string path = parentPath + displayName(index);
-        if (ui->treeView->isExpanded(index))
-            expanded += path + pathEnd;
-        expanded += saveState(index, path + pathSeparator);
-    }
-    return expanded;
 }
 
 void OrvGenParamTreeViewPrivate::loadState(const char *text)
@@ -280,7 +279,11 @@ void OrvGenParamTreeViewPrivate::loadState(const char *text)
     if (!text || !*text || !ui->treeView->model())
         return;
     state = std::string(text); // the text may be our own
-    loadState(ui->treeView->rootIndex(), std::string());
+    // Wherever the path occurs: a path that is part of a saved one counts as saved, too.
+    visitCategories(ui->treeView->rootIndex(), std::string(),
+                    [this](const QModelIndex &index, const std::string &path) {
+                        ui->treeView->setExpanded(index, state.find(path) != std::string::npos);
+                    });
 
     int width = 0;
     if (numberAfter(state, widthMark, &width) && width != 0) {
@@ -290,21 +293,6 @@ void OrvGenParamTreeViewPrivate::loadState(const char *text)
     int visibility = 0;
     if (numberAfter(state, visibilityMark, &visibility))
         ui->cbVisibility->setCurrentIndex(visibility);
-}
-
-void OrvGenParamTreeViewPrivate::loadState(const QModelIndex &parent, const std::string &parentPath)
-{
-    const QAbstractItemModel *model = ui->treeView->model();
-    const int rows = model->rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        const QModelIndex index = model->index(row, nameColumn, parent);
-        if (!isCategory(index))
-            continue;
-        const std::string path = parentPath + displayName(index);
-        // Wherever the path occurs: a path that is part of a saved one counts as saved, too.
-        ui->treeView->setExpanded(index, state.find(path) != std::string::npos);
-        loadState(index, path + pathSeparator);
-    }
 }
 
 // OrvGenParamTreeView

@@ -42,16 +42,17 @@ public:
     void setModel(Source *source);
     void setModel(std::nullptr_t);
     void setLookAhead(TreeLookAhead *lookAhead);
-    void setSpanForChildren(const QModelIndex &parent);
+    template<class Visit>
+    void visitCategories(const QModelIndex &parent, const std::string &parentPath,
+                         const Visit &visit) const;
+    void spanCategories();
     void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
     void endEditing();
     void leaveRowsThatGo(int level);
     void describeCurrent();
 
     void saveState();
-    std::string saveState(const QModelIndex &parent, const std::string &parentPath) const;
     void loadState(const char *text);
-    void loadState(const QModelIndex &parent, const std::string &parentPath);
 
     OrvGenParamTreeView *q = nullptr;
     const std::unique_ptr<Ui::GenParamTreeView> ui;

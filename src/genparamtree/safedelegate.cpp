@@ -52,7 +52,7 @@ QWidget *SafeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
             return named(createNote(parent), index);
         }
         if (editor)
-            watch(editor);
+            watch(editor, index);
         return named(editor, index);
     } catch (const GenICam::GenericException &) {
         return nullptr;
@@ -79,7 +79,7 @@ QWidget *SafeDelegate::createNote(QWidget *parent)
     return note;
 }
 
-void SafeDelegate::watch(QWidget *editor) const
+void SafeDelegate::watch(QWidget *editor, const QModelIndex &index) const
 {
     auto *self = const_cast<SafeDelegate *>(this);
     auto *state = new EditorState(editor);
@@ -87,6 +87,13 @@ void SafeDelegate::watch(QWidget *editor) const
             [self, editor] { emit self->closeEditor(editor, RevertModelCache); });
     connect(state, &EditorState::tabbed, self, [self, editor](bool forward) {
         emit self->closeEditor(editor, forward ? EditNextItem : EditPreviousItem);
+    });
+    if (!m_lookAhead)
+        return;
+    const QPersistentModelIndex cell(index);
+    connect(m_lookAhead, &TreeLookAhead::arrived, state, [this, state, editor, cell] {
+        if (state->takeWaiting() && cell.isValid())
+            setEditorData(editor, cell);
     });
 }
 
@@ -103,7 +110,7 @@ void SafeDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
         return;
     GenApi::IValue *feature = featureOf(index);
     if (m_lookAhead && feature && !m_lookAhead->knowsEverything(feature))
-        return fillLater(editor, index);
+        return state->setWaiting();
     const QPointer<QComboBox> list(qobject_cast<QComboBox *>(editor));
     if (!fill(editor, index) && list)
         openList(list);
@@ -125,28 +132,11 @@ bool SafeDelegate::fill(QWidget *editor, const QModelIndex &index) const
             GenParamDelegate::setEditorData(editor, index);
         }
         if (m_hasMissed)
-            fillLater(editor, index);
+            EditorState::of(editor)->setWaiting();
         return true;
     } catch (const GenICam::GenericException &) {
         return false;
     }
-}
-
-void SafeDelegate::fillLater(QWidget *editor, const QModelIndex &index) const
-{
-    const QString name = QStringLiteral("fillLater");
-    if (editor->findChild<QObject *>(name, Qt::FindDirectChildrenOnly))
-        return;
-    auto *waiting = new QObject(editor);
-    waiting->setObjectName(name);
-    const QPersistentModelIndex cell(index);
-    connect(m_lookAhead, &TreeLookAhead::arrived, waiting, [this, waiting, editor, cell] {
-        waiting->setObjectName(QString());
-        disconnect(m_lookAhead, nullptr, waiting, nullptr);
-        waiting->deleteLater();
-        if (cell.isValid())
-            setEditorData(editor, cell);
-    });
 }
 
 void SafeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,

@@ -43,11 +43,10 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
-    void watch(QWidget *editor) const;
+    void watch(QWidget *editor, const QModelIndex &index) const;
     static QWidget *named(QWidget *editor, const QModelIndex &index);
     static QWidget *createNote(QWidget *parent);
     bool fill(QWidget *editor, const QModelIndex &index) const;
-    void fillLater(QWidget *editor, const QModelIndex &index) const;
 
     /// The cell whose value `displayText` is asked for.
     mutable QModelIndex m_painted;

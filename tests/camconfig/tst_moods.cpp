@@ -3,11 +3,11 @@
 #include <OrvGenParam.h>
 #include <cameranetwork.h>
 #include <loopwatch.h>
-#include <orvcamconfig.h>
 #include <orvcamconfigdialog.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
 #include <pickerparts.h>
+#include <silentcamconfig.h>
 #include <usage.h>
 
 #include <QtTest>
@@ -26,12 +26,6 @@ const char *const serial = "MOODY";
 const uint32_t frameSelector = 0x1400;
 const uint32_t pulseEnable = 0x1520;
 const uint32_t temperature = 0x1600;
-
-class MainWindow : public OrvGui::OrvCamConfig
-{
-public:
-    MainWindow() : OrvCamConfig(NoChoice, nullptr, nullptr, Qt::WindowFlags()) {}
-};
 
 QStringList warnings;
 
@@ -134,7 +128,7 @@ private:
 
     std::unique_ptr<CameraNetwork> m_network;
     std::unique_ptr<TestCamera> m_camera;
-    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<OrvGui::OrvCamConfig> m_window;
     std::unique_ptr<OrvGui::OrvGenParamTreeView> m_tree;
     QStringList m_before;
     off_t m_stderrBefore = 0;
@@ -172,7 +166,7 @@ void TestMoods::initTestCase()
     m_camera->setRegister(frameSelector, 0);
     m_camera->setRegister(pulseEnable, 0);
 
-    m_window = std::make_unique<MainWindow>();
+    m_window = std::make_unique<OrvGui::SilentCamConfig>(nullptr);
     m_window->show();
     for (QPushButton *button : m_window->findChildren<QPushButton *>()) {
         if (button->isCheckable())

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <OrvGenParam.h>
-#include <orvcamconfig.h>
 #include <orvcamconfigdialog.h>
 #include <orvcamconfigopening.h>
 #include <pickerparts.h>
+#include <silentcamconfig.h>
 #include <wirecamera.h>
 
 #include <QtTest>
@@ -13,6 +13,7 @@
 
 using OrvGui::OrvCamConfig;
 using OrvGui::OrvCamConfigOpening;
+using OrvGui::SilentCamConfig;
 
 namespace {
 
@@ -45,12 +46,6 @@ QDialog *progressDialog()
     }
     return nullptr;
 }
-
-class Simple : public OrvCamConfig
-{
-public:
-    Simple() : OrvCamConfig(NoChoice, nullptr, nullptr, Qt::WindowFlags()) {}
-};
 
 /// Once started, picks the camera in the dialog that comes.
 class Picks : public QTimer
@@ -213,7 +208,7 @@ void TestOpening::changesOfMind()
     std::unique_ptr<OrvCamConfig> window;
     int devices = 0;
     Picks picks;
-    window = std::make_unique<Simple>();
+    window = std::make_unique<SilentCamConfig>(nullptr);
     connect(window.get(), &OrvCamConfig::deviceChanged,
             [&](OrvCam::Device *device) { devices += device ? 1 : 0; });
     window->show();
@@ -263,7 +258,7 @@ void TestOpening::connects()
     }
     qint64 longest = 1000;
     for (int attempt = 0; attempt < 3 && longest >= 250; ++attempt) {
-        Simple window;
+        SilentCamConfig window(nullptr);
         Picks picks;
         picks.start(50);
         std::unique_ptr<Gaps> gaps;

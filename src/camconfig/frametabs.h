@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class QtOrvSliderSpinBox;
+class QWidget;
+class Ui_OrvCamConfigFrameABDialog;
+
+namespace OrvGenParam {
+class Array;
+class Enum;
+class Param;
+} // namespace OrvGenParam
+
+namespace OrvGui {
+
+class FeatureReader;
+class OrvCamConfigMapper;
+
+/// The tabs of the frame dialog, which select the frame that a camera's features address, and what
+/// else depends on the output mode: while the camera outputs one frame only, that frame stays
+/// selected and the numbers of frames are not bound.
+///
+/// One object per device. Its end, which a write may lead to, ends everything that is under way.
+/// The arguments must outlive it.
+class FrameTabs : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr const char *selectorName = "FrameAB_Selector";
+
+    /// Writes nothing.
+    FrameTabs(const Ui_OrvCamConfigFrameABDialog &ui, OrvCamConfigMapper &mapper,
+              FeatureReader &reader, OrvGenParam::Array *array);
+
+    /// Null where the camera lacks it.
+    OrvGenParam::Enum *selector() const { return m_selector; }
+
+    /// Starts to follow the tabs and the output mode; to be called when both are bound, because
+    /// binding disconnects all else.
+    void follow();
+
+    /// Follows the output mode as it is shown. False when the object has been destroyed by that.
+    bool applyMode();
+
+    /// Shows the selected frame, and follows the output mode from the event loop.
+    void prepareToShow();
+
+    /// Moves the form to the page of the current tab.
+    void placeForm();
+
+    /// Discards what the user is typing or dragging if another frame has been selected: it was
+    /// meant for the former one.
+    void dropInput();
+
+signals:
+    /// The user or a program has turned to a frame, and the form is bound as the output mode
+    /// requires.
+    void turned();
+
+private:
+    void applyModeWhenKnown(const std::function<void()> &applied);
+    void onTabChanged(int index);
+    bool showOnly(int index);
+    void showOnlyUnseen(int index);
+    void bindLineTime(QtOrvSliderSpinBox *spinBox);
+    void bindFrameCounts();
+    void unbindFrameCounts();
+    qint64 selectedFrame() const;
+
+    const Ui_OrvCamConfigFrameABDialog &m_ui;
+    OrvCamConfigMapper &m_mapper;
+    FeatureReader &m_reader;
+    OrvGenParam::Array *const m_array;
+    OrvGenParam::Enum *const m_selector;
+    QTimer m_timer; ///< leads back to the tab that the output mode allows
+    qint64 m_selectedFrame = 0;
+    QtOrvSliderSpinBox *m_lineTimeBox = nullptr; ///< the one of the two that is bound
+    bool m_areFrameCountsBound = false;
+};
+
+} // namespace OrvGui
