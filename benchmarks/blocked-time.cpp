@@ -118,20 +118,11 @@ public:
     GenApi::INodeMap &map() { return *m_device->GetParamArray()->GetNodeMap(); }
 
 private:
-    struct Releaser
-    {
-        template<typename Object>
-        void operator()(Object *object) const
-        {
-            object->Release();
-        }
-    };
-
     CameraNetwork m_network{QStringLiteral("orv0"), QStringLiteral("10.1.0.1/24"),
                             QStringLiteral("10.1.0.2/24")};
     std::unique_ptr<TestCamera> m_camera;
-    std::unique_ptr<OrvCam::System, Releaser> m_system;
-    std::unique_ptr<OrvCam::Device, Releaser> m_device;
+    OrvCam::Released<OrvCam::System> m_system;
+    OrvCam::Released<OrvCam::Device> m_device;
 };
 
 class Benchmark

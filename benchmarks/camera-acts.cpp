@@ -54,11 +54,7 @@ const int idleTime = 5000;     // ms
 const int timeout = 60000;     // ms
 const QChar notKnown = 0x2026; // an ellipsis
 
-struct Releaser
-{
-    void operator()(OrvCam::Device *device) const { device->Release(); }
-};
-using Device = std::unique_ptr<OrvCam::Device, Releaser>;
+using Device = OrvCam::Released<OrvCam::Device>;
 
 void letPass(int milliseconds)
 {

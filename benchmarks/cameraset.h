@@ -55,17 +55,12 @@ private:
     Traffic traffic(const std::vector<TestCamera::Access> &accesses, bool withPolled) const;
     void findCameras();
 
-    struct Releaser
-    {
-        void operator()(OrvCam::System *system) const { system->Release(); }
-    };
-
     const Condition m_condition;
     const std::map<uint32_t, int> m_polled;
     CameraNetwork m_network;
     std::vector<std::unique_ptr<TestCamera>> m_cameras;
     std::vector<int> m_cameraThreads;
-    std::unique_ptr<OrvCam::System, Releaser> m_system;
+    OrvCam::Released<OrvCam::System> m_system;
     std::vector<OrvCam::DeviceInfo *> m_records;
 };
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cameras.h"
 
-#include "released.h"
-
 #include <OrvGenParam.h>
 #include <base/cameratext.h>
 
@@ -23,7 +21,8 @@ const quint32 DiscoveryTime = 200; // ms, on all network adapters at once
 std::vector<OrvCam::Interface *> foundInterfaces(OrvCam::System &system)
 {
     std::vector<OrvCam::Interface *> interfaces;
-    const Released<OrvCam::InterfaceList> list(system.GetInterfaceSet(OrvCam::InterfaceAll));
+    const OrvCam::Released<OrvCam::InterfaceList> list(
+        system.GetInterfaceSet(OrvCam::InterfaceAll));
     if (!list)
         return interfaces;
     for (OrvCam::Interface *i = list->GetFirst(); i; i = list->GetNext())
@@ -35,7 +34,7 @@ std::vector<OrvCam::DeviceInfo *> foundCameras(OrvCam::Interface &interface)
 {
     std::vector<OrvCam::DeviceInfo *> cameras;
     interface.RefreshDevices(nullptr, DiscoveryTime);
-    const Released<OrvCam::DeviceInfoList> list(interface.GetDeviceInfoSet());
+    const OrvCam::Released<OrvCam::DeviceInfoList> list(interface.GetDeviceInfoSet());
     if (!list)
         return cameras;
     for (OrvCam::DeviceInfo *info = list->GetFirst(); info; info = list->GetNext())

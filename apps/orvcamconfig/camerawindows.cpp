@@ -33,7 +33,7 @@ QString key(const char *name)
 
 } // namespace
 
-CameraWindows::CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
+CameraWindows::CameraWindows(OrvCam::Released<OrvCam::Device> device, QSettings *settings,
                              std::optional<OrvGui::Visibility> level)
     : m_device(std::move(device))
     , m_settings(settings)

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "opencameras.h"
-#include "released.h"
 
+#include <OrvCam.h>
 #include <orvcamconfig.h>
 #include <orvfeaturebrowser.h>
 #include <orvsettingsmenu.h>
@@ -36,7 +36,7 @@ class CameraWindows : public QObject
 public:
     /// Takes the device over. The settings must outlive the windows; null for none. Without a level
     /// for the tree, it is that of the last run.
-    CameraWindows(Released<OrvCam::Device> device, QSettings *settings,
+    CameraWindows(OrvCam::Released<OrvCam::Device> device, QSettings *settings,
                   std::optional<OrvGui::Visibility> level = {});
     ~CameraWindows() override;
 
@@ -62,7 +62,8 @@ private:
     void restore();
     void save();
 
-    Released<OrvCam::Device> m_device; ///< outlives the windows; null when they no longer use it
+    OrvCam::Released<OrvCam::Device>
+        m_device; ///< outlives the windows; null when they no longer use it
     QSettings *const m_settings;
     OrvGui::OrvFeatureBrowser m_tree;
     OrvGui::OrvCamConfig m_configuration;

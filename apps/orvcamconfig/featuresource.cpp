@@ -39,7 +39,7 @@ private:
 class CameraSource : public FeatureSource
 {
 public:
-    CameraSource(Released<OrvCam::Device> device, GenApi::INodeMap *map, bool isReadOnly)
+    CameraSource(OrvCam::Released<OrvCam::Device> device, GenApi::INodeMap *map, bool isReadOnly)
         : m_device(std::move(device)), m_map(map), m_isReadOnly(isReadOnly)
     {
     }
@@ -59,7 +59,7 @@ public:
     }
 
 private:
-    Released<OrvCam::Device> m_device;
+    OrvCam::Released<OrvCam::Device> m_device;
     GenApi::INodeMap *const m_map; ///< the device's, also after the camera has vanished
     const bool m_isReadOnly;
 };
@@ -75,14 +75,14 @@ QString failure(const OrvCam::DeviceInfo &camera, const Result &result)
 
 } // namespace
 
-Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
+OrvCam::Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error)
 {
     OrvCamConfigOpening opening(camera, OrvCam::AccessControl);
     opening.setPreparation(&OrvGui::OrvCamConfig::prepare);
     const Result result = opening.exec();
     if (!result.device)
         *error = failure(camera, result);
-    return Released<OrvCam::Device>(result.device);
+    return OrvCam::Released<OrvCam::Device>(result.device);
 }
 
 std::unique_ptr<FeatureSource> FeatureSource::openCamera(OrvCam::DeviceInfo &camera, QString *error)
@@ -116,12 +116,12 @@ std::unique_ptr<FeatureSource> FeatureSource::open(OrvCam::DeviceInfo &camera,
     if (isReadOnly)
         result = openWith(OrvCam::AccessMonitor);
     if (result.device)
-        return ofDevice(Released<OrvCam::Device>(result.device), isReadOnly, error);
+        return ofDevice(OrvCam::Released<OrvCam::Device>(result.device), isReadOnly, error);
     *error = failure(camera, result);
     return nullptr;
 }
 
-std::unique_ptr<FeatureSource> FeatureSource::ofDevice(Released<OrvCam::Device> device,
+std::unique_ptr<FeatureSource> FeatureSource::ofDevice(OrvCam::Released<OrvCam::Device> device,
                                                        bool isReadOnly, QString *error)
 {
     OrvGenParam::Array *array = device->GetParamArray();

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "released.h"
-
 #include <OrvCam.h>
 #include <OrvGenParam.h>
 
@@ -15,7 +13,7 @@ class OpeningLine;
 
 /// Opens a camera, whose system must outlive the device, while a dialog shows how far that has
 /// come. Null on failure, with `error` one line, which is empty when the user has cancelled.
-Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
+OrvCam::Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
 
 /// The features that the program shows, and what keeps them alive.
 class FeatureSource
@@ -44,8 +42,8 @@ public:
 
     /// Takes over an opened camera, whose system must outlive it. Null, with `error` one line,
     /// when it has vanished since.
-    static std::unique_ptr<FeatureSource> ofDevice(Released<OrvCam::Device> device, bool isReadOnly,
-                                                   QString *error);
+    static std::unique_ptr<FeatureSource> ofDevice(OrvCam::Released<OrvCam::Device> device,
+                                                   bool isReadOnly, QString *error);
 
     /// Reads a description. Null on failure, with `error` one line.
     static std::unique_ptr<FeatureSource> openDescription(const QString &fileName, QString *error);

@@ -6,7 +6,6 @@
 #include "featuresource.h"
 #include "options.h"
 #include "placing.h"
-#include "released.h"
 #include "translation.h"
 #include "windowsystem.h"
 
@@ -140,7 +139,7 @@ int showDescription(const Options &options)
 }
 
 /// The configuration window and the tree. A picture does not depend on earlier runs.
-int configure(Released<OrvCam::Device> device, const Options &options)
+int configure(OrvCam::Released<OrvCam::Device> device, const Options &options)
 {
     const bool isPicture = !options.screenshot.isEmpty();
     QSettings settings;
@@ -166,7 +165,7 @@ int configureCamera(OrvCam::System &system, const Options &options)
 {
     QString error;
     OrvCam::DeviceInfo *camera = findCamera(system, options.camera, &error);
-    Released<OrvCam::Device> device = camera ? openDevice(*camera, &error) : nullptr;
+    OrvCam::Released<OrvCam::Device> device = camera ? openDevice(*camera, &error) : nullptr;
     if (device)
         return configure(std::move(device), options);
     return error.isEmpty() ? Success : fail(Failure, error); // or cancelled
@@ -239,7 +238,7 @@ int run(const Options &options)
 
     if (options.simulate)
         qputenv("ORVCAM_SIMULATION", "1");
-    const Released<OrvCam::System> system(OrvCam_GetSystem());
+    const OrvCam::Released<OrvCam::System> system(OrvCam_GetSystem());
     if (!system)
         return fail(Failure, QObject::tr("The camera system cannot be started."));
     if (options.listCameras)

@@ -27,11 +27,6 @@
 
 namespace {
 
-struct Release
-{
-    void operator()(OrvCam::Device *device) const { device->Release(); }
-};
-
 std::unique_ptr<QWidget> makeWindow(OrvCam::Device *device, bool isMain)
 {
     if (isMain)
@@ -44,8 +39,7 @@ std::unique_ptr<QWidget> makeWindow(OrvCam::Device *device, bool isMain)
 int show(Grabber &grabber, bool isMain)
 {
     int32_t error = OrvCam::Success;
-    const std::unique_ptr<OrvCam::Device, Release> device(
-        OrvCam_AdoptArvDevice(grabber.device(), &error));
+    const OrvCam::Released<OrvCam::Device> device(OrvCam_AdoptArvDevice(grabber.device(), &error));
     if (!device)
         throw std::runtime_error("The camera cannot be shown: error " + std::to_string(error));
 

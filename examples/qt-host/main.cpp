@@ -17,22 +17,10 @@
 
 namespace {
 
-struct Release
-{
-    template<class T>
-    void operator()(T *object) const
-    {
-        object->Release();
-    }
-};
-
-using SystemPtr = std::unique_ptr<OrvCam::System, Release>;
-using DevicePtr = std::unique_ptr<OrvCam::Device, Release>;
-
 /// The first cameras that can be controlled.
-std::vector<DevicePtr> openCameras(OrvCam::System *system, std::size_t count)
+std::vector<OrvCam::Released<OrvCam::Device>> openCameras(OrvCam::System *system, std::size_t count)
 {
-    std::vector<DevicePtr> devices;
+    std::vector<OrvCam::Released<OrvCam::Device>> devices;
     OrvCam_RefreshDevices(system, 200);
     for (uint32_t i = 0; i < OrvCam_GetDeviceCount(system) && devices.size() < count; ++i) {
         OrvCam::DeviceInfo *info = OrvCam_GetDeviceInfo(system, i);
@@ -45,7 +33,7 @@ std::vector<DevicePtr> openCameras(OrvCam::System *system, std::size_t count)
     return devices;
 }
 
-OrvGenParam::Array *parametersOf(const DevicePtr &device)
+OrvGenParam::Array *parametersOf(const OrvCam::Released<OrvCam::Device> &device)
 {
     return device ? device->GetParamArray() : nullptr;
 }
@@ -62,8 +50,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("qt-host"));
 
     qputenv("ORVCAM_SIMULATION", "1"); // leave this out to see real cameras
-    const SystemPtr system(OrvCam_GetSystem());
-    const std::vector<DevicePtr> cameras = openCameras(system.get(), 2);
+    const OrvCam::Released<OrvCam::System> system(OrvCam_GetSystem());
+    const std::vector<OrvCam::Released<OrvCam::Device>> cameras = openCameras(system.get(), 2);
 
     const QStringList arguments = QApplication::arguments();
     std::unique_ptr<QSettings> settings(arguments.size() > 1

@@ -10,5 +10,6 @@
 #include <OrvCam/DeviceOpener.h>
 #include <OrvCam/Interface.h>
 #include <OrvCam/InterfaceList.h>
+#include <OrvCam/Released.h>
 #include <OrvCam/System.h>
 #include <orvcameraapi.h>

@@ -45,7 +45,7 @@ GevParameters::GevParameters(GevNetwork &network)
     networkChanged();
 }
 
-MemoryNodeMap &GevParameters::declare()
+DeclaredNodeMap &GevParameters::declare()
 {
     addAdapter();
     addCamera();
@@ -53,10 +53,10 @@ MemoryNodeMap &GevParameters::declare()
     return m_map;
 }
 
-MemoryInteger &GevParameters::addAddress(const char *name, GenApi::ERepresentation representation,
-                                         const char *category)
+DeclaredInteger &GevParameters::addAddress(const char *name, GenApi::ERepresentation representation,
+                                           const char *category)
 {
-    MemoryInteger &node = m_map.addInteger(name, 0, category);
+    DeclaredInteger &node = m_map.add<DeclaredInteger>(name, category);
     node.setLimits(0, representation == GenApi::MACAddress ? 0xFFFFFFFFFFFF : 0xFFFFFFFF);
     node.setRepresentation(representation);
     return node;
@@ -65,7 +65,7 @@ MemoryInteger &GevParameters::addAddress(const char *name, GenApi::ERepresentati
 void GevParameters::addAdapter()
 {
     const auto add = [this](const char *name, GenApi::ERepresentation representation, auto part) {
-        MemoryInteger &node = addAddress(name, representation, "InterfaceInformation");
+        DeclaredInteger &node = addAddress(name, representation, "InterfaceInformation");
         node.bind([this, part] { return static_cast<int64_t>(m_network.adapter().*part); });
         node.setAccessMode(GenApi::RO);
         m_adapterNodes.push_back(&node);
@@ -77,10 +77,10 @@ void GevParameters::addAdapter()
 
 void GevParameters::addCamera()
 {
-    m_selector = &m_map.addInteger("DeviceSelector", 0, "DeviceEnumeration");
-    m_selector->bind([this] { return m_row; }, [this](const int64_t &row) { m_row = row; });
+    m_selector = &m_map.add<DeclaredInteger>("DeviceSelector", "DeviceEnumeration");
+    m_selector->bind([this] { return m_row; }, [this](int64_t row) { m_row = row; });
     const auto add = [this](const char *name, GenApi::ERepresentation representation, auto part) {
-        MemoryInteger &node = addAddress(name, representation, "DeviceEnumeration");
+        DeclaredInteger &node = addAddress(name, representation, "DeviceEnumeration");
         node.bind([this, part] { return static_cast<int64_t>(selected().*part); });
         m_selector->select(node);
         m_cameraNodes.push_back(&node);
@@ -96,16 +96,16 @@ void GevParameters::addForce()
     addForced("GevDeviceForceIPAddress", &GevAddresses::ip);
     addForced("GevDeviceForceSubnetMask", &GevAddresses::mask);
     addForced("GevDeviceForceGateway", &GevAddresses::gateway);
-    m_command = &m_map.addCommand(
-        "GevDeviceForceIP", [this] { force(); }, "DeviceEnumeration");
+    m_command = &m_map.add<DeclaredCommand>("GevDeviceForceIP", "DeviceEnumeration");
+    m_command->onExecute([this] { force(); });
     m_selector->select(*m_command);
 }
 
 void GevParameters::addForced(const char *name, uint32_t GevAddresses::*part)
 {
-    MemoryInteger &node = addAddress(name, GenApi::IPV4Address, "DeviceEnumeration");
+    DeclaredInteger &node = addAddress(name, GenApi::IPV4Address, "DeviceEnumeration");
     node.bind([this, part] { return static_cast<int64_t>(forced().*part); },
-              [this, part](const int64_t &value) {
+              [this, part](int64_t value) {
                   GevAddresses wanted = forced();
                   wanted.*part = static_cast<uint32_t>(value);
                   m_forced[wanted.mac] = wanted;
@@ -147,12 +147,12 @@ void GevParameters::networkChanged()
         follow(former[row]);
     forgetOthers();
     m_selector->setAccessMode(count ? GenApi::RW : GenApi::NA);
-    for (MemoryInteger *node : m_cameraNodes)
+    for (DeclaredInteger *node : m_cameraNodes)
         node->setAccessMode(count ? GenApi::RO : GenApi::NA);
-    for (MemoryInteger *node : m_forceNodes)
+    for (DeclaredInteger *node : m_forceNodes)
         node->setAccessMode(count ? GenApi::RW : GenApi::NA);
     m_command->setAccessMode(count ? GenApi::WO : GenApi::NA);
-    for (MemoryInteger *node : m_adapterNodes)
+    for (DeclaredInteger *node : m_adapterNodes)
         node->changed();
 }
 
@@ -169,8 +169,8 @@ void GevParameters::follow(const GevAddresses &camera)
         return same.size() == 1 || m_cameras[row].ip == camera.ip;
     });
     const int64_t row = found == same.end() ? noRow : static_cast<int64_t>(*found);
-    if (row != m_row)
-        m_selector->change(row);
+    if (std::exchange(m_row, row) != row)
+        m_selector->changed();
 }
 
 /// What was to be forced on cameras that are gone.

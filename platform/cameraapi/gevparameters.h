@@ -3,7 +3,7 @@
 
 #include "nodemaparray.h"
 
-#include <genapi/memorynodemap.h>
+#include <genapi/declarednodemap.h>
 
 #include <cstdint>
 #include <map>
@@ -58,9 +58,9 @@ public:
     void networkChanged();
 
 private:
-    OrvGenApi::MemoryNodeMap &declare();
-    OrvGenApi::MemoryInteger &addAddress(const char *name, GenApi::ERepresentation representation,
-                                         const char *category);
+    OrvGenApi::DeclaredNodeMap &declare();
+    OrvGenApi::DeclaredInteger &addAddress(const char *name, GenApi::ERepresentation representation,
+                                           const char *category);
     void addAdapter();
     void addCamera();
     void addForce();
@@ -76,12 +76,12 @@ private:
     std::vector<GevAddresses> m_cameras;
     int64_t m_row = 0;                         ///< of the selected one
     std::map<uint64_t, GevAddresses> m_forced; ///< by MAC address
-    std::vector<OrvGenApi::MemoryInteger *> m_adapterNodes;
-    std::vector<OrvGenApi::MemoryInteger *> m_cameraNodes;
-    std::vector<OrvGenApi::MemoryInteger *> m_forceNodes;
-    OrvGenApi::MemoryNodeMap m_map;
-    OrvGenApi::MemoryInteger *m_selector = nullptr;
-    OrvGenApi::MemoryCommand *m_command = nullptr;
+    std::vector<OrvGenApi::DeclaredInteger *> m_adapterNodes;
+    std::vector<OrvGenApi::DeclaredInteger *> m_cameraNodes;
+    std::vector<OrvGenApi::DeclaredInteger *> m_forceNodes;
+    OrvGenApi::DeclaredNodeMap m_map;
+    OrvGenApi::DeclaredInteger *m_selector = nullptr;
+    OrvGenApi::DeclaredCommand *m_command = nullptr;
     OrvGenParam::NodeMapArray m_array;
 };
 

@@ -29,16 +29,6 @@ namespace {
 const int patience = 300;      // ms until the dialog is shown
 const int progressPeriod = 50; // ms
 
-struct Releaser
-{
-    template<class Object>
-    void operator()(Object *object) const
-    {
-        if (object)
-            object->Release();
-    }
-};
-
 /// What a camera's own library does not tell in words is told by the code.
 QString reasonOf(int32_t code)
 {
@@ -234,7 +224,7 @@ void OrvCamConfigOpening::start()
         m_job->open = opener->opener();
     } else {
         m_job->open = simpleOpener(m_camera);
-        m_job->system.reset(CameraLibrary::system(), Releaser());
+        m_job->system.reset(CameraLibrary::system(), OrvCam::Releaser());
     }
     m_job->camera = m_camera.GetId();
     m_job->receiver = this;
@@ -271,7 +261,7 @@ void OrvCamConfigOpening::abandon()
     {
         const std::lock_guard<std::mutex> lock(m_job->mutex);
         m_job->receiver = nullptr;
-        Releaser()(std::exchange(m_job->result.device, nullptr));
+        OrvCam::Releaser()(std::exchange(m_job->result.device, nullptr));
     }
     if (m_job->loop)
         m_job->loop->quit();
@@ -343,7 +333,7 @@ void OrvCamConfigOpening::deliver(Job &job, DeviceOpener::Result result)
             return;
         }
     }
-    Releaser()(result.device);
+    OrvCam::Releaser()(result.device);
     job.system.reset();
 }
 

@@ -7,11 +7,8 @@
 #include <xwindow.h>
 
 #include <QAbstractNativeEventFilter>
-#include <QApplication>
-#include <QTreeView>
-#include <QWidget>
-#include <QWindow>
 #include <QtTest>
+#include <QtWidgets>
 
 using OrvGui::IOrvGenParamTreeView;
 
@@ -77,7 +74,6 @@ private slots:
     void makesTheApplication();
     void titles_data();
     void titles();
-    void operations();
     void stateLevelAndLanguage();
     void configurationWindow();
     void sourcesWithoutFeatures();
@@ -156,27 +152,6 @@ void TestOrvCameraGuiApi::titles()
     const wchar_t *wideText = title.isNull() ? nullptr : wide.c_str();
     check(openWideTreeInC(&map, wideText));
     check(CreateGenParamTreeViewForArrayW(nullptr, wideText, 0));
-}
-
-void TestOrvCameraGuiApi::operations()
-{
-    Features map;
-    IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "", 0);
-    QCOMPARE(view->visibility(), OrvGui::Basic);
-    QCOMPARE(tree(view).model()->rowCount(), 1);
-    view->setVisibility(OrvGui::Expert);
-    QCOMPARE(tree(view).model()->rowCount(), 2);
-
-    view->loadState("Second&lt;&amp;W123&amp;V1");
-    QCOMPARE(view->saveState(), "Second&lt;&amp;W123&amp;V1");
-
-    view->clearParams();
-    QCOMPARE(view->saveState(), "");
-    view->setParams(&map);
-    QCOMPARE(tree(view).model()->rowCount(), 2);
-    view->setParams(static_cast<OrvGenParam::Array *>(nullptr));
-    QVERIFY(!tree(view).model());
-    DestroyGenParamTreeView(view);
 }
 
 void TestOrvCameraGuiApi::sourcesWithoutFeatures()

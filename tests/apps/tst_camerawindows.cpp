@@ -4,18 +4,10 @@
 #include "placing.h"
 #include "treecells.h"
 
-#include <OrvCam.h>
-#include <OrvGenParam.h>
+#include <fakecameras.h>
 
-#include <QCheckBox>
-#include <QDialog>
-#include <QLabel>
-#include <QMenu>
-#include <QPushButton>
-#include <QScreen>
-#include <QSettings>
-#include <QTreeView>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -34,16 +26,12 @@ QRect screenArea()
 }
 
 /// An opened camera that has vanished since.
-class Vanished final : public OrvCam::Device
+class Vanished final : public FakeDevice
 {
 public:
     explicit Vanished(OrvCam::DeviceInfo *info) : m_info(info) {}
 
-    OrvGenParam::Array *GetParamArray(int32_t *) override { return nullptr; }
-    bool IsConnected() const override { return false; }
     OrvCam::DeviceInfo *GetDeviceInfo() const override { return m_info; }
-    int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
-    int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
     void Release() override { delete this; }
 
 private:
@@ -65,7 +53,6 @@ private slots:
     void namedWhileSeveralAreOpen();
     void rememberedFromRunToRun();
     void damagedSettings();
-    void openOnTheScreen();
     void treeBesideMainWindow_data();
     void treeBesideMainWindow();
     void placeThatIsGone_data();
@@ -73,13 +60,13 @@ private slots:
     void vanishedCamera();
 
 private:
-    Released<OrvCam::Device> open()
+    OrvCam::Released<OrvCam::Device> open()
     {
-        return Released<OrvCam::Device>(
+        return OrvCam::Released<OrvCam::Device>(
             OrvCam_CreateDevice(m_camera, nullptr, OrvCam::AccessControl));
     }
 
-    Released<OrvCam::System> m_system;
+    OrvCam::Released<OrvCam::System> m_system;
     OrvCam::DeviceInfo *m_camera = nullptr;
 };
 
@@ -87,11 +74,11 @@ void TestCameraWindows::initTestCase()
 {
     qputenv("ORVCAM_SIMULATION", "1");
     m_system.reset(OrvCam_GetSystem());
-    const Released<OrvCam::InterfaceList> interfaces(
+    const OrvCam::Released<OrvCam::InterfaceList> interfaces(
         m_system->GetInterfaceSet(OrvCam::InterfaceAll));
     OrvCam::Interface *first = interfaces->GetFirst();
     first->RefreshDevices(nullptr, 0);
-    const Released<OrvCam::DeviceInfoList> cameras(first->GetDeviceInfoSet());
+    const OrvCam::Released<OrvCam::DeviceInfoList> cameras(first->GetDeviceInfoSet());
     m_camera = cameras->GetFirst();
     QVERIFY(m_camera);
 }
@@ -139,7 +126,7 @@ void TestCameraWindows::followTheConfiguration()
     action(windows, "actionDisconnect").trigger();
     QVERIFY(!model || model->rowCount() == 0);
     {
-        const Released<OrvCam::Device> device = open(); // others can have it now
+        const OrvCam::Released<OrvCam::Device> device = open(); // others can have it now
         QVERIFY(device);
         // The host of the configuration window may give it another one.
         windows.configuration().SetDevice(device.get());
@@ -192,7 +179,7 @@ void TestCameraWindows::namedWhileSeveralAreOpen()
     QTRY_COMPARE(titles(), camera + "CamConfig|" + camera + "Trigger Control");
     action(windows, "actionDisconnect").trigger();
     QCOMPARE(titles(), plain);
-    const Released<OrvCam::Device> device = open();
+    const OrvCam::Released<OrvCam::Device> device = open();
     windows.configuration().SetDevice(device.get());
     QVERIFY(titles().startsWith(camera));
     other.setOpen(false);
@@ -261,25 +248,6 @@ void TestCameraWindows::damagedSettings()
         for (int row = 0; row < 5; ++row)
             QVERIFY(view->isExpanded(view->model()->index(row, 0))); // as without any
     }
-}
-
-void TestCameraWindows::openOnTheScreen()
-{
-    const QFont before = QApplication::font();
-    for (const int points : {before.pointSize(), before.pointSize() * 3 / 2}) {
-        QFont font = before;
-        font.setPointSize(points);
-        QApplication::setFont(font);
-        CameraWindows windows(open(), nullptr);
-        windows.show();
-        for (const QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->isVisible())
-                QVERIFY2(screenArea().contains(window->geometry()),
-                         qPrintable(window->objectName()));
-        }
-        QVERIFY(windows.tree().y() > 0); // room for a title
-    }
-    QApplication::setFont(before);
 }
 
 void TestCameraWindows::treeBesideMainWindow_data()
@@ -354,8 +322,8 @@ void TestCameraWindows::placeThatIsGone()
 void TestCameraWindows::vanishedCamera()
 {
     QString error;
-    QVERIFY(
-        !FeatureSource::ofDevice(Released<OrvCam::Device>(new Vanished(m_camera)), false, &error));
+    QVERIFY(!FeatureSource::ofDevice(OrvCam::Released<OrvCam::Device>(new Vanished(m_camera)),
+                                     false, &error));
     QCOMPARE(error, QString("The camera 'Simulated-SIM-0001' is gone."));
 }
 

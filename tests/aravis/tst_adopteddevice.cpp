@@ -3,22 +3,16 @@
 // Before Qt, whose keywords are names in GLib.
 #include <arv.h>
 
-#include <OrvCam.h>
-#include <OrvGenParam.h>
+#include <cameratestsupport.h>
 #include <orvcameraapi-aravis.h>
 
 #include <QtTest>
 
 #include <atomic>
-#include <memory>
 
 namespace {
 
-struct Release
-{
-    void operator()(OrvCam::Device *device) const { OrvCam_ReleaseDevice(device); }
-};
-using DevicePtr = std::unique_ptr<OrvCam::Device, Release>;
+using DevicePtr = OrvCam::Released<OrvCam::Device>;
 
 /// A program that takes images with Aravis, on its own thread.
 class Host
@@ -74,6 +68,7 @@ private slots:
     void withoutControl();
     void lostAndFound();
     void noDevice();
+    void descriptionForOtherPrograms();
 
 private:
     QProcess m_process;
@@ -163,11 +158,7 @@ void TestAdoptedDevice::lostAndFound()
 {
     DevicePtr device(OrvCam_AdoptArvDevice(m_device, nullptr));
     QVERIFY(device);
-    std::atomic<int> lost{0};
-    std::atomic<int> found{0};
-    const auto count = [](int32_t, void *counter) { ++*static_cast<std::atomic<int> *>(counter); };
-    device->RegisterEvent(OrvCam::EventDisconnected, count, &lost);
-    device->RegisterEvent(OrvCam::EventReconnected, count, &found);
+    Events events(*device);
     OrvGenParam::Array *params = device->GetParamArray();
     m_process.kill();
     m_process.waitForFinished();
@@ -180,7 +171,7 @@ void TestAdoptedDevice::lostAndFound()
     timer.start();
     QVERIFY(params->SetIntegerValue("GainRaw", 6) != OrvCam::Success);
     QVERIFY2(timer.elapsed() < 50, QByteArray::number(timer.elapsed()));
-    QTRY_VERIFY_WITH_TIMEOUT(lost == 1, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(events.count(OrvCam::EventDisconnected) == 1, 20000);
     QVERIFY(!device->IsConnected());
 
     m_process.start("arv-fake-gv-camera-0.8", {"--interface=127.0.0.1", "--serial=HOST"});
@@ -188,14 +179,12 @@ void TestAdoptedDevice::lostAndFound()
         return arv_gv_device_take_control(ARV_GV_DEVICE(m_device), nullptr);
     };
     QTRY_VERIFY_WITH_TIMEOUT(takeControl(), 20000);
-    QTRY_VERIFY_WITH_TIMEOUT(found == 1, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(events.count(OrvCam::EventReconnected) == 1, 5000);
     QCOMPARE(device->GetParamArray()->SetIntegerValue("GainRaw", 7), int32_t(OrvCam::Success));
 
     m_process.kill();
     m_process.waitForFinished();
     timer.start();
-    device->UnregisterEvent(OrvCam::EventDisconnected, count, &lost);
-    device->UnregisterEvent(OrvCam::EventReconnected, count, &found);
     device.reset();
     QVERIFY2(timer.elapsed() < 1500, QByteArray::number(timer.elapsed()));
 }
@@ -216,6 +205,28 @@ void TestAdoptedDevice::noDevice()
     QVERIFY(other);
     QVERIFY(!OrvCam_GetArvDevice(other.get()));
     OrvCam_ReleaseSystem(system);
+}
+
+/// The simulated camera's description, read by another implementation.
+void TestAdoptedDevice::descriptionForOtherPrograms()
+{
+    g_clear_object(&m_device);
+    m_process.kill();
+    m_process.waitForFinished();
+    m_process.start("arv-fake-gv-camera-0.8",
+                    {"--interface=127.0.0.1", "--serial=HOST", "--genicam=" ORV_DESCRIPTION});
+    QVERIFY(m_process.waitForStarted());
+    QString values;
+    const auto read = [&] {
+        QProcess tool;
+        tool.setProcessChannelMode(QProcess::MergedChannels);
+        tool.start("arv-tool-0.8", {"--address=127.0.0.1", "values"});
+        tool.waitForFinished(20000);
+        values = QString::fromUtf8(tool.readAll());
+        return values.contains("'Root'") && values.contains("'GevSCDA'");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(read(), 20000);
+    QVERIFY2(!values.contains("rror") && !values.contains("ailed"), qPrintable(values));
 }
 
 QTEST_GUILESS_MAIN(TestAdoptedDevice)

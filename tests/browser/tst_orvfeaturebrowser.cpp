@@ -9,19 +9,8 @@
 #include <orvfeaturebrowser.h>
 #include <orvgenparamtreeview.h>
 
-#include <QAbstractItemModelTester>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QScrollBar>
-#include <QSpinBox>
-#include <QTableWidget>
-#include <QTextBrowser>
-#include <QToolButton>
-#include <QTreeView>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -140,7 +129,6 @@ private slots:
     void favourites();
     void state();
     void changes();
-    void changesBelowSelectors();
     void undo();
     void undoWhileTyping();
     void changesOfOthers();
@@ -372,40 +360,6 @@ void TestOrvFeatureBrowser::changes()
     QCOMPARE(shown.cell("ExposureTime").data().toDouble(), 10000.0);
     QCOMPARE(shown.cell("PixelFormat").data().toString(), QString("Mono8"));
     QVERIFY(!shown.isChanged("ExposureTime") && !shown.action("putBackAll").isEnabled());
-}
-
-void TestOrvFeatureBrowser::changesBelowSelectors()
-{
-    SampleNodeMap map;
-    double gains[] = {1.5, 3};
-    auto &selector = map.enumeration("GainSelector");
-    map.number("Gain").bind([&] { return gains[selector.GetIntValue()]; },
-                            [&](double gain) { gains[selector.GetIntValue()] = gain; });
-    Shown shown(map);
-    const auto select = [&](int entry) {
-        QVERIFY(shown.model().setData(shown.cell("GainSelector"), entry));
-    };
-    QVERIFY(shown.model().setData(shown.cell("Gain"), 6.0));
-    select(1);
-    QVERIFY(!shown.isChanged("Gain") && shown.isChanged("GainSelector"));
-    QCOMPARE(shown.toolTip("Gain"), QString("Earlier value: 1.5 dB (Gain Selector: All)"));
-    QVERIFY(shown.model().setData(shown.cell("Gain"), 12.0));
-    QVERIFY(shown.isChanged("Gain"));
-
-    QStringList observed;
-    connect(OrvFeatureBrowserPrivate::of(shown.browser).features(), &GenParamTreeModel::written,
-            this, [&](GenApi::IValue *feature, const QString &before, const QString &after) {
-                observed << QString("%1@%2: %3 > %4")
-                                .arg(feature->GetNode()->GetName().c_str(),
-                                     selector.ToString().c_str(), before, after);
-            });
-    shown.choose(shown.cell("Gain", 0), "putBack");
-    QCOMPARE(observed, QStringList({"Gain@Red: 12 > 3", "Gain@All: 6 > 1.5"}));
-    QCOMPARE(gains[0], 1.5);
-    QCOMPARE(gains[1], 3.0);
-    QCOMPARE(selector.GetIntValue(), int64_t(1)); // where it was
-    QVERIFY(!shown.isChanged("Gain") && shown.isChanged("GainSelector"));
-    QCOMPARE(shown.cell("Gain").data().toDouble(), 3.0);
 }
 
 /// Each value where it was written, and as one step what the browser writes in one go.

@@ -3,6 +3,7 @@
 
 #include <OrvCam.h>
 #include <cameraapi/nodemaparray.h>
+#include <fakecameras.h>
 #include <simulatednodemap.h>
 
 #include <QtTest>
@@ -116,7 +117,7 @@ private:
 };
 
 /// A device with the parameters of a node map, or with none but an error.
-class NodeMapDevice : public OrvCam::Device
+class NodeMapDevice : public FakeDevice
 {
 public:
     explicit NodeMapDevice(GenApi::INodeMap &nodeMap)
@@ -131,9 +132,6 @@ public:
         return array.get();
     }
     bool IsConnected() const override { return array != nullptr; }
-    OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
-    int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
-    int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
     void Release() override
     {
         if (array)

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <OrvCam.h>
-#include <cameranetwork.h>
 #include <orvcamconfig.h>
 #include <orvcamconfigopening.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
+#include <wirecamera.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -128,43 +127,24 @@ class TestCameraTexts : public QObject
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
+    void cleanupTestCase() { m_camera.reset(); }
     void windows();
     void failure();
 
 private:
     static void checkWindow(QWidget &window, const QString &name);
 
-    std::unique_ptr<CameraNetwork> m_network;
-    std::unique_ptr<TestCamera> m_camera;
-    OrvCam::System *m_system = nullptr;
-    OrvCam::DeviceInfo *m_info = nullptr;
+    std::unique_ptr<WireCamera> m_camera;
 };
 
 void TestCameraTexts::initTestCase()
 {
-    qputenv("ORVCAM_DESCRIPTION_CACHE", "");
-    m_network = std::make_unique<CameraNetwork>("orv0", "10.1.0.1/24", "10.1.0.2/24");
-    TestCamera::Settings settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
-    settings.description = description().toStdString();
-    settings.unknownRegisters = TestCameraMemory::Unknown::Zero;
-    settings.vendor = settings.model = settings.version = evil;
-    settings.serial = settings.userName = "<b>\u202Ex\n";
-    m_camera = std::make_unique<TestCamera>(settings);
-    m_camera->setBytes(0x10000, evil);
-    m_system = OrvCam_GetSystem();
-    const auto find = [this] {
-        OrvCam_RefreshDevices(m_system, 200);
-        return m_info = OrvCam_GetDeviceInfo(m_system, 0);
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(find(), 15000);
-}
-
-void TestCameraTexts::cleanupTestCase()
-{
-    m_system->Release();
-    m_camera.reset();
-    m_network.reset();
+    m_camera = std::make_unique<WireCamera>("", [](TestCamera::Settings &settings) {
+        settings.description = description().toStdString();
+        settings.vendor = settings.model = settings.version = evil;
+        settings.serial = settings.userName = "<b>\u202Ex\n";
+    });
+    (*m_camera)->setBytes(0x10000, evil);
 }
 
 void TestCameraTexts::checkWindow(QWidget &window, const QString &name)
@@ -181,17 +161,16 @@ void TestCameraTexts::checkWindow(QWidget &window, const QString &name)
 
 void TestCameraTexts::windows()
 {
-    OrvGui::OrvCameraSelectorDialog picker(m_system);
+    OrvGui::OrvCameraSelectorDialog picker(m_camera->system.get());
     auto *cameras = picker.findChild<QTreeView *>("cameraTreeView");
     cameras->setCurrentIndex(cameras->model()->index(0, 0, cameras->model()->index(0, 0)));
     QVERIFY(picker.selectedCamera());
     checkWindow(picker, "picker");
 
-    int32_t error = OrvCam::Success;
-    OrvCam::Device *device = OrvCam_CreateDevice(m_info, &error, OrvCam::AccessControl);
+    const auto device = m_camera->open();
     QVERIFY(device);
     {
-        OrvGui::OrvCamConfig window(device);
+        OrvGui::OrvCamConfig window(device.get());
         checkWindow(window, "main");
         for (QDialog *dialog : window.findChildren<QDialog *>())
             checkWindow(*dialog, dialog->objectName());
@@ -212,14 +191,13 @@ void TestCameraTexts::windows()
                 checkWindow(*widget, "tip");
         }
     }
-    device->Release();
 }
 
 /// What is shown while a camera is opened, and when that fails.
 void TestCameraTexts::failure()
 {
-    m_camera->setMood("delay", 300);
-    OrvGui::OrvCamConfigOpening opening(*m_info, OrvCam::AccessControl);
+    (*m_camera)->setMood("delay", 300);
+    OrvGui::OrvCamConfigOpening opening(*m_camera->info, OrvCam::AccessControl);
     QTimer::singleShot(500, [] {
         for (QWidget *widget : QApplication::topLevelWidgets()) {
             if (widget->objectName() == "OpeningProgress") {

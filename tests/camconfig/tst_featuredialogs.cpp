@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <genapi/memorynodemap.h>
+#include <memorynodemap.h>
 #include <orvcamconfigpulsedialog.h>
 #include <orvcamconfigtriggerdialog.h>
 #include <qtorvslider.h>
@@ -111,8 +111,6 @@ private slots:
     void pulseButton();
     void pulseAccess();
     void missingFeatures();
-    void fromInside();
-    void transactions();
 };
 
 void TestFeatureDialogs::triggerRules()
@@ -288,72 +286,6 @@ void TestFeatureDialogs::missingFeatures()
     for (const QComboBox *box : trigger.findChildren<QComboBox *>())
         QCOMPARE(box->count(), 0);
     QCOMPARE(boxes.texts, QStringList());
-}
-
-void TestFeatureDialogs::fromInside()
-{
-    CountingCamera first;
-    CountingCamera second;
-    second.mode.change(1);
-
-    // Another camera while the first is being bound: the last one set counts.
-    OrvCamConfigTriggerDialog trigger(nullptr);
-    trigger.show();
-    bool isFirst = true;
-    first.source.onRead([&] {
-        if (std::exchange(isFirst, false))
-            trigger.SetDevice(&second.device);
-    });
-    trigger.SetDevice(&first.device);
-    QVERIFY(trigger.isEnabled());
-    QVERIFY(part<QCheckBox>(trigger, "chBoxTriggerEnable")->isChecked());
-    click(trigger, "chBoxTriggerEnable");
-    QCOMPARE(first.mode.writes(), 0);
-    QCOMPARE(second.mode.writes(), 1);
-    first.mode.change(1);
-    QVERIFY(!part<QCheckBox>(trigger, "chBoxTriggerEnable")->isChecked());
-}
-
-void TestFeatureDialogs::transactions()
-{
-    SimulatedDevice sim;
-    const auto cost = [&](const std::function<void()> &act) {
-        const OrvCameraIo::Transactions before = sim.map->transactions();
-        act();
-        const OrvCameraIo::Transactions after = sim.map->transactions();
-        return QPair<int, int>(int(after.reads - before.reads), int(after.writes - before.writes));
-    };
-    using Cost = QPair<int, int>;
-    std::unique_ptr<OrvCamConfigTriggerDialog> trigger;
-    std::unique_ptr<OrvCamConfigPulseDialog> pulse;
-    // A register for each feature that can be read; the command has none, a burst is none now.
-    QCOMPARE(cost([&] {
-                 trigger.reset(new OrvCamConfigTriggerDialog(&sim.device));
-                 trigger->show();
-             }),
-             Cost(4, 0));
-    QCOMPARE(cost([&] {
-                 pulse.reset(new OrvCamConfigPulseDialog(&sim.device));
-                 pulse->show();
-             }),
-             Cost(5, 0));
-    QCOMPARE(cost([&] { QTest::qWait(300); }), Cost(0, 0));
-    QCOMPARE(cost([&] {
-                 trigger->SetDevice(&sim.device);
-                 pulse->SetDevice(&sim.device);
-             }),
-             Cost(0, 0));
-    // Whether the generator runs is polled by the node map; nothing else follows from it.
-    QCOMPARE(cost([&] { sim.map->Poll(200); }), Cost(1, 0));
-
-    const Cost oneWrite(0, 1);
-    QCOMPARE(cost([&] { click(*trigger, "chBoxTriggerEnable"); }), oneWrite);
-    QCOMPARE(cost([&] { choose(combo(*trigger, "cmBoxTriggerSource"), "Software"); }), oneWrite);
-    QCOMPARE(cost([&] { click(*trigger, "pushBtnSoftwareTrigger"); }), oneWrite);
-    QCOMPARE(cost([&] { type(part<QtOrvSpinBox>(*pulse, "spBoxPeriod"), "5000"); }), oneWrite);
-    QCOMPARE(cost([&] { sim.set("PulseGenWidth", "7"); }), oneWrite);
-    QCOMPARE(cost([&] { click(*pulse, "radioBtnSend"); }), Cost(1, 1)); // now there is a number
-    QCOMPARE(cost([&] { click(*pulse, "pushBtnPulseEnable"); }), oneWrite);
 }
 
 QTEST_MAIN(TestFeatureDialogs)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <genapi/memorynodemap.h>
+#include <memorynodemap.h>
 #include <orvcamconfigframeabdialog.h>
 #include <qtorvdoublespinboxval.h>
 #include <qtorvgainslider.h>

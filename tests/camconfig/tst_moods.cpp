@@ -3,8 +3,10 @@
 #include <OrvGenParam.h>
 #include <cameranetwork.h>
 #include <loopwatch.h>
+#include <orvcamconfigdialog.h>
 #include <orvcameraselectordialog.h>
 #include <orvgenparamtreeview.h>
+#include <pickerparts.h>
 #include <silentcamconfig.h>
 #include <usage.h>
 
@@ -120,6 +122,7 @@ private:
     static bool isLong() { return qgetenv("ORV_MOODS") == "all"; }
     static void addMoods(const QVector<int> &turns);
     bool connectCamera(const char *mood);
+    void checkIsGone();
     void checkIsAsBefore();
     QStringList shown() const;
 
@@ -235,6 +238,18 @@ void TestMoods::checkIsAsBefore()
     QFAIL(qPrintable(differences.join("; ")));
 }
 
+void TestMoods::checkIsGone()
+{
+    QCOMPARE(m_window->findChild<QLabel *>("lblStatusText")->text(), QString("Disconnected"));
+    for (const auto *dialog : m_window->findChildren<OrvGui::OrvCamConfigDialog *>())
+        QVERIFY(!dialog->isEnabled());
+    for (const auto *edit : m_window->findChild<QWidget *>("groupBox")->findChildren<QLineEdit *>())
+        QCOMPARE(edit->text(), QString());
+    QCOMPARE(m_window->findChild<QLabel *>("lblDeviceModelName")->text(), QString("N/A"));
+    const QAbstractItemModel *model = m_tree->treeView()->model();
+    QVERIFY(!model || model->rowCount() == 0);
+}
+
 /// By the window's own picker, in which the camera is found while it is good still. What goes wrong
 /// is reported in a message box.
 bool TestMoods::connectCamera(const char *mood)
@@ -248,17 +263,13 @@ bool TestMoods::connectCamera(const char *mood)
         auto *picker = qobject_cast<OrvGui::OrvCameraSelectorDialog *>(modal);
         if (!picker || watch)
             return;
-        auto *tree = picker->findChild<QTreeView *>("cameraTreeView");
-        const QModelIndex row = tree->model()
-                                    ->match(tree->model()->index(0, 0), Qt::DisplayRole, serial, 1,
-                                            Qt::MatchContains | Qt::MatchRecursive)
-                                    .value(0);
+        const QModelIndex row = rowNamed(*cameraTree(*picker), serial);
         if (!row.isValid())
             return picker->findChild<QShortcut *>()->activated();
-        tree->setCurrentIndex(row);
+        cameraTree(*picker)->setCurrentIndex(row);
         m_camera->setMood(mood);
         watch = std::make_unique<LoopWatch>();
-        picker->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+        button(*picker, "OK")->click();
     });
     user.start(20);
     m_window->findChild<QAction *>("actionConnect")->trigger();
@@ -317,6 +328,7 @@ void TestMoods::unplugging()
     for (int i = 0; i <= times; ++i) {
         m_camera->unplug();
         QTRY_VERIFY(!m_window->device());
+        checkIsGone();
         m_camera->plugIn();
         checkIsAsBefore();
         if (i == 0)

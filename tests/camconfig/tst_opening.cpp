@@ -1,24 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <OrvCam.h>
 #include <OrvGenParam.h>
-#include <cameranetwork.h>
 #include <orvcamconfigdialog.h>
 #include <orvcamconfigopening.h>
+#include <pickerparts.h>
 #include <silentcamconfig.h>
+#include <wirecamera.h>
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QDialog>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTimer>
-#include <QTreeView>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -47,15 +36,7 @@ private:
     qint64 m_longest = 0;
 };
 
-struct Releaser
-{
-    template<class Object>
-    void operator()(Object *object) const
-    {
-        object->Release();
-    }
-};
-using DevicePtr = std::unique_ptr<OrvCam::Device, Releaser>;
+using DevicePtr = OrvCam::Released<OrvCam::Device>;
 
 QDialog *progressDialog()
 {
@@ -81,15 +62,12 @@ private:
         auto *picker = qobject_cast<QDialog *>(QApplication::activeModalWidget());
         if (!picker)
             return;
-        auto *tree = picker->findChild<QTreeView *>("cameraTreeView");
-        const QModelIndexList found =
-            tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, "SLOW", 1,
-                                 Qt::MatchContains | Qt::MatchRecursive);
-        if (found.isEmpty())
+        const QModelIndex row = rowNamed(*cameraTree(*picker), "SLOW");
+        if (!row.isValid())
             return;
         stop();
-        tree->setCurrentIndex(found.first());
-        picker->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+        cameraTree(*picker)->setCurrentIndex(row);
+        button(*picker, "OK")->click();
     }
 };
 
@@ -102,7 +80,7 @@ class TestOpening : public QObject
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
+    void cleanupTestCase() { m_wire.reset(); }
     void cleanup() { m_camera->setMood("delay", 0); }
     void showsProgress();
     void cancels();
@@ -111,52 +89,27 @@ private slots:
     void changesOfMind();
     void connects();
     void fewCommands();
-    void undoIsAWrite();
     void neverWaits();
-    void silence();
 
 private:
     OrvCamConfigOpening::Result open();
-    OrvCam::DeviceInfo *findCamera();
 
-    std::unique_ptr<CameraNetwork> m_network;
-    std::unique_ptr<TestCamera> m_camera;
-    OrvCam::System *m_system = nullptr;
-    OrvCam::DeviceInfo *m_info = nullptr;
+    std::unique_ptr<WireCamera> m_wire;
+    TestCamera *m_camera = nullptr;
 };
 
 void TestOpening::initTestCase()
 {
-    qputenv("ORVCAM_DESCRIPTION_CACHE", "");
-    m_network = std::make_unique<CameraNetwork>("orv0", "10.1.0.1/24", "10.1.0.2/24");
-    QFile file(ORV_DESCRIPTION);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    TestCamera::Settings settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
-    settings.description = file.readAll().toStdString();
-    settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // those of the other frame
-    settings.fillsRegisters = true;
-    settings.serial = "SLOW";
-    m_camera = std::make_unique<TestCamera>(settings);
-    m_system = OrvCam_GetSystem();
-    QTRY_VERIFY_WITH_TIMEOUT((m_info = findCamera()), 15000);
-}
-
-void TestOpening::cleanupTestCase()
-{
-    m_system->Release();
-    m_camera.reset();
-    m_network.reset();
-}
-
-OrvCam::DeviceInfo *TestOpening::findCamera()
-{
-    OrvCam_RefreshDevices(m_system, 200);
-    return OrvCam_GetDeviceInfo(m_system, 0);
+    m_wire = std::make_unique<WireCamera>(ORV_DESCRIPTION, [](TestCamera::Settings &settings) {
+        settings.fillsRegisters = true;
+        settings.serial = "SLOW";
+    });
+    m_camera = m_wire->camera.get();
 }
 
 OrvCamConfigOpening::Result TestOpening::open()
 {
-    OrvCamConfigOpening opening(*m_info, OrvCam::AccessControl);
+    OrvCamConfigOpening opening(*m_wire->info, OrvCam::AccessControl);
     opening.setPreparation(&OrvCamConfig::prepare);
     return opening.exec();
 }
@@ -209,7 +162,7 @@ void TestOpening::cancels()
     QVERIFY(result.isCancelled && !result.device && timer.elapsed() < 50);
 
     // A program without windows.
-    OrvCamConfigOpening opening(*m_info, OrvCam::AccessControl);
+    OrvCamConfigOpening opening(*m_wire->info, OrvCam::AccessControl);
     bool isSilent = true;
     int last = -1;
     opening.setProgress([&](int percent) {
@@ -343,8 +296,7 @@ void TestOpening::connects()
 void TestOpening::fewCommands()
 {
     // As a host opens it: nothing has been read yet. The window looks at both frames.
-    int32_t error = OrvCam::Success;
-    const DevicePtr device(OrvCam_CreateDevice(m_info, &error, OrvCam::AccessControl));
+    const DevicePtr device = m_wire->open();
     QVERIFY(device);
     OrvGenParam::Enum *const selector = device->GetParamArray()->GetEnum("FrameAB_Selector");
     QCOMPARE(selector->SetIntValue(0), int32_t(OrvCam::Success));
@@ -355,34 +307,6 @@ void TestOpening::fewCommands()
     const unsigned boundAgain = m_camera->takeCounters().transfers();
     qInfo("%u commands for all windows, %u once more", bound, boundAgain);
     QVERIFY(bound <= 12 && boundAgain <= 12);
-    window.SetDevice(nullptr);
-}
-
-/// Undoing takes the write, and no more for being undone.
-void TestOpening::undoIsAWrite()
-{
-    const DevicePtr device(open().device);
-    QVERIFY(device);
-    OrvCamConfig window(device.get());
-    auto *box = window.findChild<QWidget *>("spBoxRed")->findChild<QSpinBox *>();
-    const int first = box->value();
-    const auto costOf = [&](const std::function<void()> &change) {
-        QTest::qWait(50); // what is under way
-        m_camera->takeCounters();
-        change();
-        const TestCameraCounters now = m_camera->takeCounters();
-        return qMakePair(now.writeRegister + now.writeMemory, now.transfers());
-    };
-    auto *undo = window.findChild<QAction *>("actionUndo");
-    QVERIFY(!undo->isEnabled());
-    const auto written = costOf([=] { box->setValue(first + 1); });
-    QVERIFY(undo->isEnabled());
-    const auto undone = costOf([=] { undo->trigger(); });
-    qInfo("%u commands for a write, %u for undoing it", written.second, undone.second);
-    QCOMPARE(written.first, 1u);
-    QCOMPARE(undone, written);
-    QTRY_COMPARE(box->value(), first);
-    QVERIFY(!undo->isEnabled());
     window.SetDevice(nullptr);
 }
 
@@ -423,33 +347,6 @@ void TestOpening::neverWaits()
     QVERIFY2(gaps.longest() < 170, qPrintable(QString::number(gaps.longest())));
     QCOMPARE(tabs->currentIndex(), other);
     QCOMPARE(tabs->tabText(other), QString(selector->GetSymbolicValue()));
-    window.SetDevice(nullptr);
-}
-
-/// A camera that has fallen silent costs a write, not the rest.
-void TestOpening::silence()
-{
-    m_camera->setMood("delay", 0);
-    const DevicePtr device(open().device);
-    QVERIFY(device);
-    OrvCamConfig window(device.get());
-    window.show();
-    m_camera->setMood("silence", -1);
-    OrvGenParam::Enum *const mode = device->GetParamArray()->GetEnum("TriggerMode");
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(mode->SetIntValue(1) != OrvCam::Success);
-    const qint64 first = timer.restart();
-    QVERIFY(mode->SetIntValue(1) != OrvCam::Success);
-    const qint64 second = timer.elapsed();
-    QVERIFY2(first < 2700 && second < 50, qPrintable(QString("%1 %2").arg(first).arg(second)));
-
-    const Gaps gaps;
-    const auto *status = window.findChild<QLabel *>("lblStatusText");
-    QTRY_COMPARE(status->text(), QString("Disconnected"));
-    QVERIFY2(gaps.longest() < 100, qPrintable(QString::number(gaps.longest())));
-    m_camera->setMood("delay", 0);
-    QTRY_VERIFY(status->text() != "Disconnected");
     window.SetDevice(nullptr);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <genapi/memorynodemap.h>
 #include <iorvcamconfigintconverter.h>
+#include <memorynodemap.h>
 #include <orvcamconfigmapper.h>
 #include <qtorvslider.h>
 #include <qtorvsliderspinbox.h>

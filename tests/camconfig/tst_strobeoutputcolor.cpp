@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "camconfigtestsupport.h"
 
-#include <genapi/memorynodemap.h>
+#include <memorynodemap.h>
 #include <orvcamconfigcolordialog.h>
 #include <orvcamconfigoutputdialog.h>
 #include <orvcamconfigpulsedialog.h>
@@ -74,15 +74,6 @@ const Control controls[] = {
     {Pulse, "spBoxWidth", "PulseGenWidth"},
     {Pulse, "spBoxNumPulses", "PulseGenNumPulses"},
 };
-
-void addControls(int without = -1)
-{
-    QTest::addColumn<const Control *>("control");
-    for (const Control &control : controls) {
-        if (control.dialog != without)
-            QTest::newRow(control.name) << &control;
-    }
-}
 
 /// The simulated camera with everything on that the controls need, maybe without a feature.
 struct Camera : SimulatedDevice
@@ -194,26 +185,28 @@ class TestStrobeOutputColor : public QObject
     Q_OBJECT
 
 private slots:
-    void bothWays_data() { addControls(); }
+    void bothWays_data();
     void bothWays();
-    void missingFeature_data() { addControls(Trigger); }
-    void missingFeature();
     void withoutCamera();
     void closing();
-    void lifetimes();
     void tabOrder();
 
     void strobePicture();
     void pictureFollowsTheForm();
     void smallScreen();
-    void strobeDrag();
 
-    void outputDependencies();
-
+    void missingCoefficient();
     void unity();
     void automaticWhiteBalance();
     void statisticsOfOtherCamera();
 };
+
+void TestStrobeOutputColor::bothWays_data()
+{
+    QTest::addColumn<const Control *>("control");
+    for (const Control &control : controls)
+        QTest::newRow(control.name) << &control;
+}
 
 void TestStrobeOutputColor::bothWays()
 {
@@ -240,34 +233,20 @@ void TestStrobeOutputColor::bothWays()
     QCOMPARE(camera.writes(), 2); // its own and none in answer
 }
 
-void TestStrobeOutputColor::missingFeature()
+// Only what belongs to the coefficient is of no use without it.
+void TestStrobeOutputColor::missingCoefficient()
 {
-    QFETCH(const Control *, control);
-    Camera camera(control->feature);
-    ErrorBoxes boxes;
-    const auto dialog = open(control->dialog, &camera.device);
-    QVERIFY(dialog->isEnabled());
-    for (const Control &other : controls) {
-        if (other.dialog == control->dialog)
-            QVERIFY2(part(*dialog, other.name)->isEnabled() == (&other != control), other.name);
-    }
-
-    if (control->dialog == Color) {
-        const QByteArray feature(control->feature);
-        for (const char *color : {"Red", "Green", "Blue"}) {
-            const QByteArray unity = QByteArray("pushBtn") + color + "Unity";
-            QCOMPARE(part(*dialog, unity)->isEnabled(), !feature.startsWith(color));
+    for (const char *color : {"Red", "Green", "Blue"}) {
+        Camera camera(QByteArray(color) + "Coefficient");
+        const auto dialog = open(Color, &camera.device);
+        for (const QByteArray other : {"Red", "Green", "Blue"}) {
+            for (const char *name : {"spBox%1", "pushBtn%1Unity"}) {
+                const QByteArray control = QByteArray(name).replace("%1", other);
+                QVERIFY2(part(*dialog, control)->isEnabled() == (other != color), control);
+            }
         }
-        QCOMPARE(part(*dialog, "grBoxStatistics")->isEnabled(), !feature.startsWith("Red"));
+        QCOMPARE(part(*dialog, "grBoxStatistics")->isEnabled(), QByteArray(color) != "Red");
     }
-
-    // A camera that has it brings the control to life, and one without puts it down again.
-    for (const bool isComplete : {true, false}) {
-        camera.device.part.missing = {isComplete ? QByteArray() : QByteArray(control->feature)};
-        dialog->SetDevice(&camera.device);
-        QCOMPARE(part(*dialog, control->name)->isEnabled(), isComplete);
-    }
-    QCOMPARE(boxes.texts, QStringList());
 }
 
 void TestStrobeOutputColor::withoutCamera()
@@ -326,38 +305,6 @@ void TestStrobeOutputColor::closing()
     }
 }
 
-void TestStrobeOutputColor::lifetimes()
-{
-    Camera camera;
-    for (Which which : all) {
-        open(which, &camera.device).reset();
-        camera.set("Strobe1Reference", "ReadoutStart");
-        camera.set("ReverseX", "1");
-        camera.set("RedCoefficient", "1000");
-
-        const auto dialog = open(which, &camera.device);
-        const auto usable = [&] {
-            return std::count_if(std::begin(controls), std::end(controls), [&](const Control &c) {
-                return c.dialog == which && part(*dialog, c.name)->isEnabled();
-            });
-        };
-        const auto most = usable();
-        QVERIFY(most > 0);
-        const QString red = which == Color ? textOf(dialog, "lblRedCoef") : QString();
-        camera.device.Release();
-        QCOMPARE(usable(), 0);
-        for (const Control &c : controls) {
-            if (c.dialog == which)
-                edit(part(*dialog, c.name));
-        }
-        if (which == Color)
-            QCOMPARE(textOf(dialog, "lblRedCoef"), red);
-        camera.device.array = std::make_unique<OrvGenParam::NodeMapArray>(*camera.map);
-        dialog->SetDevice(&camera.device);
-        QCOMPARE(usable(), most);
-    }
-}
-
 void TestStrobeOutputColor::tabOrder()
 {
     Camera camera;
@@ -390,6 +337,8 @@ void TestStrobeOutputColor::strobePicture()
 {
     Camera camera;
     auto dialog = open(Strobe, &camera.device);
+    for (const auto *spinBox : dialog->findChildren<QtOrvSliderSpinBox *>())
+        QCOMPARE(spinBox->slider()->scaleType(), QtOrvSlider::ScaleLog10);
     QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
     QTest::keyClick(part(*dialog, "cmBoxStrobe1Ref"), Qt::Key_Down);
     QCOMPARE(pictureOf(dialog), resource("strobeBothRead"));
@@ -443,13 +392,6 @@ void TestStrobeOutputColor::pictureFollowsTheForm()
     QVERIFY(label->sizeHint().width() > size.width() && label->sizeHint().height() > size.height());
     QVERIFY(label->width() >= label->sizeHint().width() ||
             QTest::qWaitFor([&] { return label->width() >= label->sizeHint().width(); }));
-
-    QPixmap other(7, 5); // of a host that knows better
-    other.fill(Qt::red);
-    label->setScaledContents(false);
-    label->setPixmap(other);
-    QCOMPARE(label->sizeHint(), other.size());
-    QCOMPARE(label->grab().toImage().pixelColor(3, label->height() / 2), QColor(Qt::red));
 }
 
 void TestStrobeOutputColor::smallScreen()
@@ -476,51 +418,6 @@ void TestStrobeOutputColor::smallScreen()
     QApplication::setFont(before);
 }
 
-void TestStrobeOutputColor::strobeDrag()
-{
-    Camera camera;
-    const auto dialog = open(Strobe, &camera.device);
-    auto *delay = part<QtOrvSliderSpinBox>(*dialog, "spBoxStrobe1Delay");
-    QSlider *slider = delay->findChild<QSlider *>();
-    dragBy(slider, handleOf(slider), QPoint(7, 0), slider->width() / 7);
-    QVERIFY(delay->value() > 100000);
-    QCOMPARE(camera.get("Strobe1Delay"), QStringLiteral("100"));
-    QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() - 2, 5));
-    QCOMPARE(camera.get("Strobe1Delay"), QString::number(delay->value()));
-    QCOMPARE(camera.writes(), 1);
-
-    camera.set("Strobe1Delay", "123457"); // is kept, between two positions of the scale
-    QCOMPARE(delay->value(), 123457);
-    QCOMPARE(camera.writes(), 2);
-}
-
-void TestStrobeOutputColor::outputDependencies()
-{
-    Camera camera;
-    const auto dialog = open(Output, &camera.device);
-    const auto canChoose = [&](const char *combo, const char *entry) {
-        auto *box = part<QComboBox>(*dialog, combo);
-        auto *items = qobject_cast<QStandardItemModel *>(box->model());
-        return items->item(box->findText(QLatin1String(entry)))->isEnabled();
-    };
-    QVERIFY(canChoose("cmBoxTaps", "Taps10"));
-    QVERIFY(!canChoose("cmBoxPixelFormat", "BayerRG12"));
-    QTest::keyClick(part(*dialog, "cmBoxDepth"), Qt::Key_Down);
-    QCOMPARE(camera.get("SensorADCBitDepth"), QStringLiteral("Bit12"));
-    QVERIFY(!canChoose("cmBoxTaps", "Taps10"));
-    QVERIFY(canChoose("cmBoxPixelFormat", "BayerRG12"));
-
-    auto *threshold = part<QtOrvSpinBox>(*dialog, "spBoxDpcDynThres");
-    QTest::keyClick(part(*dialog, "cmBoxDpc"), Qt::Key_Home);
-    QCOMPARE(camera.get("DefectPixelCorrection"), QStringLiteral("Off"));
-    QVERIFY(!threshold->isEnabled());
-    QVERIFY(part(*dialog, "spBoxHpcDynThres")->isEnabled());
-    camera.set("DefectPixelCorrection", "Dynamic");
-    QVERIFY(threshold->isEnabled());
-    QCOMPARE(threshold->value(), 256);
-    QCOMPARE(camera.writes(), 3);
-}
-
 void TestStrobeOutputColor::unity()
 {
     Camera camera;
@@ -539,17 +436,6 @@ void TestStrobeOutputColor::unity()
         QTest::mouseClick(button, Qt::LeftButton); // it is already
         QCOMPARE(camera.writes(), writes);
     }
-
-    // No button may take Return for its own.
-    for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
-        camera.set(feature, "1000");
-    type(part(*dialog, "spBoxBlue"), QStringLiteral("4095"));
-    QTest::keyClick(part(*dialog, "cmBoxWhiteBalance"), Qt::Key_Return);
-    for (const char *feature : {"RedCoefficient", "GreenCoefficient"})
-        QCOMPARE(camera.get(feature), QStringLiteral("1000"));
-    QCOMPARE(camera.get("BlueCoefficient"), QStringLiteral("4095"));
-    QCOMPARE(textOf(dialog, "lblBlueCoef"), QStringLiteral("4095"));
-    QVERIFY(dialog->isVisible());
 }
 
 void TestStrobeOutputColor::automaticWhiteBalance()
@@ -579,32 +465,14 @@ void TestStrobeOutputColor::automaticWhiteBalance()
     QVERIFY(camera.get("BlueCoefficient") != blue);
     QCOMPARE(camera.writes(), 1);
 
-    // While the user holds a slider, what they hold stays; the statistics go on.
+    // While the user holds a slider, the statistics go on.
     auto *spinBox = part<QtOrvSpinBox>(*dialog, "spBoxRed");
     QTest::mouseClick(spinBox->toolButton(), Qt::LeftButton);
     QSlider *slider = spinBox->slider()->slider();
-    const QPoint to(slider->width() / 2, slider->height() / 2);
-    dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
-    const int held = spinBox->value();
-    QVERIFY(held > 1500);
+    dragBy(slider, handleOf(slider), QPoint(0, -slider->height() / 4), 1);
     wait(1);
-    QCOMPARE(spinBox->value(), held);
     QCOMPARE(textOf(dialog, "lblRedCoef"), camera.get("RedCoefficient"));
-    QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
-    QTest::mouseRelease(slider, Qt::LeftButton, {}, to);
-    QCOMPARE(camera.get("RedCoefficient"), QString::number(held));
-    QCOMPARE(textOf(dialog, "lblRedCoef"), QString::number(held));
-    QCOMPARE(camera.writes(), 2);
-    wait(30);
-    QVERIFY(follows("Red"));
-    QVERIFY(camera.get("RedCoefficient").toInt() < 1000);
-
-    // Once: back to off by itself.
-    QTest::keyClick(part(*dialog, "cmBoxWhiteBalance"), Qt::Key_Up);
-    wait(20);
-    wait(1);
-    QCOMPARE(part<QComboBox>(*dialog, "cmBoxWhiteBalance")->currentText(), QStringLiteral("Off"));
-    QCOMPARE(camera.writes(), 3);
+    QTest::mouseRelease(slider, Qt::LeftButton);
 }
 
 void TestStrobeOutputColor::statisticsOfOtherCamera()

@@ -1,104 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "cameratestsupport.h"
-#include "plug.h"
-
-#include <cameraapi/cameradevice.h>
-#include <genapi/memorynodemap.h>
+#include "fakecameras.h"
+#include "pluggablecamera.h"
 
 #include <QtTest>
 
 #include <atomic>
-#include <functional>
-#include <mutex>
 
 using namespace OrvCam;
 
 namespace {
 
-/// A camera that can be unplugged: what its connections and connector ask.
-struct World
+/// A camera with a number and a command.
+struct Camera : PluggableCamera
 {
-    Plug isPlugged;
-    std::atomic<int> closed{0};
-    std::function<void(OrvGenApi::MemoryNodeMap &)> furnish = [](auto &) {};
-};
-
-class Connection final : public CameraConnection
-{
-public:
-    explicit Connection(World &world) : m_world(world)
+    Camera() : PluggableCamera("Camera")
     {
-        m_map.addInteger("Width", 640);
-        m_map.addCommand("AcquisitionStart");
-        m_world.furnish(m_map);
+        furnish = [](OrvGenApi::MemoryNodeMap &map) {
+            map.addInteger("Width", 640);
+            map.addCommand("AcquisitionStart");
+        };
     }
-    ~Connection() override { ++m_world.closed; }
-
-    GenApi::INodeMap &nodeMap() override { return m_map; }
-    void setListener(OrvCameraIo::RegisterIoListener *listener) override
-    {
-        m_world.isPlugged.setListener(listener);
-    }
-
-private:
-    World &m_world;
-    OrvGenApi::MemoryNodeMap m_map;
-};
-
-class Connector final : public CameraConnector
-{
-public:
-    explicit Connector(World &world) : m_world(world) {}
-
-    std::unique_ptr<CameraConnection> open(int32_t, const OpenProgress &, int32_t &error) override
-    {
-        error = m_world.isPlugged ? Success : ErrorGone;
-        return error == Success ? std::make_unique<Connection>(m_world) : nullptr;
-    }
-
-private:
-    World &m_world;
-};
-
-class Info final : public DeviceInfo
-{
-public:
-    const char *GetDisplayName() const override { return "Camera"; }
-    const char *GetVendor() const override { return nullptr; }
-    const char *GetModel() const override { return nullptr; }
-    const char *GetSerial() const override { return nullptr; }
-    const char *GetVersionText() const override { return nullptr; }
-    const char *GetUserName() const override { return nullptr; }
-    int32_t GetAccessState() const override { return AccessReadWrite; }
-    Interface *GetInterface() const override { return nullptr; }
-    const char *GetId() const override { return "1"; }
-};
-
-/// Collects event codes.
-struct Events
-{
-    Events() = default;
-    explicit Events(Device &device)
-    {
-        device.RegisterEvent(EventDisconnected, note, this);
-        device.RegisterEvent(EventReconnected, note, this);
-    }
-
-    static void note(int32_t code, void *context)
-    {
-        auto *self = static_cast<Events *>(context);
-        const std::lock_guard<std::mutex> lock(self->mutex);
-        self->codes.push_back(code);
-    }
-
-    std::vector<int32_t> seen()
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        return codes;
-    }
-
-    std::mutex mutex;
-    std::vector<int32_t> codes;
 };
 
 } // namespace
@@ -115,20 +37,21 @@ private slots:
     void polling();
 
 private:
-    Released<Device> open(World &world, int32_t accessMode = AccessControl)
+    Released<Device> open(PluggableCamera &camera, int32_t accessMode = AccessControl)
     {
         int32_t error = Success;
         return Released<Device>(CameraDevice::open(
-            nullptr, m_info, std::make_shared<Connector>(world), accessMode, error));
+            nullptr, m_info, std::make_shared<PluggableCamera::Connector>(camera), accessMode,
+            error));
     }
 
-    Info m_info;
+    FakeCamera m_info;
 };
 
 void TestCameraDevice::openAndClose()
 {
-    World world;
-    Released<Device> device = open(world);
+    Camera camera;
+    Released<Device> device = open(camera);
     QVERIFY(device && device->IsConnected());
     QCOMPARE(device->GetDeviceInfo(), static_cast<DeviceInfo *>(&m_info));
     int32_t error = ErrorFailed;
@@ -137,9 +60,9 @@ void TestCameraDevice::openAndClose()
     QCOMPARE(array->GetIntegerValue("Width"), int64_t(640));
     QCOMPARE(array->SetIntegerValue("Width", 320), int32_t(Success));
     device.reset();
-    QCOMPARE(world.closed.load(), 1);
+    QCOMPARE(camera.closed.load(), 1);
 
-    const Released<Device> monitor = open(world, AccessMonitor);
+    const Released<Device> monitor = open(camera, AccessMonitor);
     array = monitor->GetParamArray();
     QVERIFY(array->GetInt("Width")->IsReadable() && !array->GetInt("Width")->IsWritable());
     QCOMPARE(array->SetIntegerValue("Width", 320), int32_t(ErrorAccessDenied));
@@ -148,14 +71,14 @@ void TestCameraDevice::openAndClose()
 
 void TestCameraDevice::unplugAndReplug()
 {
-    World world;
-    Released<Device> device = open(world);
+    Camera camera;
+    Released<Device> device = open(camera);
     Events events(*device);
     OrvGenParam::Array *array = device->GetParamArray();
     OrvGenParam::Int *width = array->GetInt("Width");
 
     for (int round = 0; round < 3; ++round) {
-        world.isPlugged = false;
+        camera.isPlugged = false;
         QTRY_COMPARE(events.seen().size(), size_t(2 * round + 1));
         QCOMPARE(events.seen().back(), int32_t(EventDisconnected));
         QVERIFY(!device->IsConnected());
@@ -169,7 +92,7 @@ void TestCameraDevice::unplugAndReplug()
         QCOMPARE(width->GetName(), "Width");
 
         // What was handed out goes on with the camera.
-        world.isPlugged = true;
+        camera.isPlugged = true;
         QTRY_COMPARE(events.seen().size(), size_t(2 * round + 2));
         QCOMPARE(events.seen().back(), int32_t(EventReconnected));
         QVERIFY(device->IsConnected());
@@ -177,17 +100,17 @@ void TestCameraDevice::unplugAndReplug()
         QCOMPARE(width->GetValue(&error), int64_t(640));
         QCOMPARE(error, int32_t(Success));
     }
-    QCOMPARE(world.closed.load(), 0);
+    QCOMPARE(camera.closed.load(), 0);
     device.reset();
-    QCOMPARE(world.closed.load(), 1);
+    QCOMPARE(camera.closed.load(), 1);
 }
 
 void TestCameraDevice::registrations()
 {
-    World world;
+    Camera camera;
     Events events;
     Events others;
-    const Released<Device> device = open(world);
+    const Released<Device> device = open(camera);
     QCOMPARE(device->RegisterEvent(EventDisconnected, Events::note, &events), int32_t(Success));
     QCOMPARE(device->RegisterEvent(EventDisconnected, Events::note, &events),
              int32_t(ErrorInvalidArgument));
@@ -200,7 +123,7 @@ void TestCameraDevice::registrations()
     QCOMPARE(device->UnregisterEvent(EventDisconnected, Events::note, &events), int32_t(Success));
     QCOMPARE(device->UnregisterEvent(EventDisconnected, Events::note, &events),
              int32_t(ErrorNotFound));
-    world.isPlugged = false;
+    camera.isPlugged = false;
     QTRY_COMPARE(others.seen(), std::vector<int32_t>{EventDisconnected});
     QVERIFY(events.seen().empty());
 }
@@ -223,13 +146,13 @@ void TestCameraDevice::unregisteringWaits()
         }
         static void other(int32_t, void *) {}
     };
-    World world;
+    Camera camera;
     Slow slow;
-    const Released<Device> device = open(world);
+    const Released<Device> device = open(camera);
     slow.device = device.get();
     device->RegisterEvent(EventDisconnected, Slow::dawdle, &slow);
     device->RegisterEvent(EventDisconnected, Slow::other, &slow);
-    world.isPlugged = false;
+    camera.isPlugged = false;
     while (!slow.isRunning)
         QThread::usleep(100);
     device->UnregisterEvent(EventDisconnected, Slow::other, &slow);
@@ -240,21 +163,15 @@ void TestCameraDevice::unregisteringWaits()
 
 void TestCameraDevice::polling()
 {
-    World world;
+    Camera camera;
     std::atomic<int> temperature{20};
-    world.furnish = [&](OrvGenApi::MemoryNodeMap &map) {
+    camera.furnish = [&](OrvGenApi::MemoryNodeMap &map) {
         auto &node = map.addInteger("Temperature");
         node.bind([&] { return temperature.load(); });
         node.properties().pollingTime = 100;
     };
-    class Sink : public OrvGenParam::ParamEventSink
-    {
-    public:
-        void OnParameterUpdate(OrvGenParam::Param *) override { ++count; }
-        int count = 0;
-    };
-    Sink sink;
-    const Released<Device> device = open(world);
+    CountingSink sink;
+    const Released<Device> device = open(camera);
     OrvGenParam::Int *param = device->GetParamArray()->GetInt("Temperature");
     param->RegisterEventSink(&sink);
     QCOMPARE(param->GetValue(), int64_t(20));
@@ -264,7 +181,7 @@ void TestCameraDevice::polling()
     QVERIFY(sink.count > 0);
 
     // An unplugged camera is polled no more; it tells its sinks once that it has gone.
-    world.isPlugged = false;
+    camera.isPlugged = false;
     QTRY_VERIFY(!device->IsConnected());
     QTest::qWait(50);
     const int count = sink.count;

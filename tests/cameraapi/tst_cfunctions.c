@@ -59,6 +59,7 @@ static void openAndClose(OrvCamSystem *system)
     CHECK(device && error == OrvCam_Success);
     CHECK(!OrvCam_CreateDevice(info, &error, OrvCam_AccessControl));
     CHECK(error == OrvCam_ErrorBusy);
+    CHECK(!OrvCam_CreateDevice(info, &error, 7) && error == OrvCam_ErrorInvalidArgument);
 
     array = OrvCam_GetParamArray(device, &error);
     CHECK(array && error == OrvCam_Success);

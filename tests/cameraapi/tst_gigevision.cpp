@@ -5,11 +5,8 @@
 #include <cameranetwork.h>
 #include <orvgenparamapi.h>
 
-#include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <atomic>
 #include <set>
 
 using namespace OrvCam;
@@ -26,7 +23,6 @@ private slots:
     void init() { m_system.reset(OrvCam_GetSystem()); }
     void cleanup() { m_system.reset(); }
     void adaptersAndCameras();
-    void openedByAnotherProgram();
     void camerasComeAndGo();
     void badDescription();
     void allAdaptersAtOnce();
@@ -41,8 +37,6 @@ private slots:
     void forcedIpOnABadDay();
     void forcedIpGivenUp();
     void unplugAndReplug();
-    void controlTakenAway();
-    void cablePulled();
 
 private:
     Interface *interface(const char *adapter);
@@ -57,24 +51,6 @@ private:
 namespace {
 
 constexpr int patience = 15000;
-
-struct Events
-{
-    std::atomic<int> disconnected{0};
-    std::atomic<int> reconnected{0};
-
-    explicit Events(Device &device)
-    {
-        device.RegisterEvent(EventDisconnected, note, this);
-        device.RegisterEvent(EventReconnected, note, this);
-    }
-
-    static void note(int32_t code, void *context)
-    {
-        auto *self = static_cast<Events *>(context);
-        ++(code == EventDisconnected ? self->disconnected : self->reconnected);
-    }
-};
 
 } // namespace
 
@@ -145,14 +121,12 @@ void TestGigEVision::adaptersAndCameras()
         QCOMPARE(camera->GetAccessState(), int32_t(AccessReadWrite));
 
         QProcess ip;
-        ip.start("ip", {"-o", "link", "show", adapter});
+        ip.start("ip", {"-br", "link", "show", adapter});
         QVERIFY(ip.waitForFinished());
-        const QString mac = QRegularExpression("link/ether ([0-9a-f:]+)")
-                                .match(QString::fromLatin1(ip.readAllStandardOutput()))
-                                .captured(1);
+        const QByteArray mac = ip.readAllStandardOutput().simplified().split(' ').value(2);
         OrvGenParam::Array *array = interface(adapter)->GetParamArray();
         QCOMPARE(array->GetIntegerValue("GevInterfaceMACAddress"),
-                 QString(mac).remove(':').toLongLong(nullptr, 16));
+                 QByteArray(mac).replace(":", "").toLongLong(nullptr, 16));
         QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetIPAddress"), subnet + 1);
         QCOMPARE(array->GetIntegerValue("GevInterfaceSubnetMask"), int64_t(0xFFFFFF00));
         QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(Success));
@@ -167,38 +141,6 @@ void TestGigEVision::adaptersAndCameras()
         QCOMPARE(features->SetIntegerValue("Width", 256), int32_t(Success));
         QCOMPARE(features->GetIntegerValue("Width"), int64_t(256));
     }
-}
-
-void TestGigEVision::openedByAnotherProgram()
-{
-    const auto camera = m_first->startCamera("TAKEN");
-    DeviceInfo *info = waitForCamera("orv0", "TAKEN");
-    QCOMPARE(info->GetAccessState(), int32_t(AccessReadWrite));
-
-    QProcess other;
-    other.start("arv-camera-test-0.8", {"--name", "Aravis-TAKEN", "--frequency", "1"});
-    QVERIFY(other.waitForStarted());
-    QElapsedTimer timer;
-    timer.start();
-    while (info->GetAccessState() != AccessNone && !timer.hasExpired(patience))
-        interface("orv0")->RefreshDevices(nullptr, 200);
-    QCOMPARE(info->GetAccessState(), int32_t(AccessNone));
-
-    int32_t error = Success;
-    QVERIFY(!OrvCam_CreateDevice(info, &error, AccessControl));
-    QCOMPARE(error, int32_t(ErrorBusy));
-    {
-        const Released<Device> monitor(OrvCam_CreateDevice(info, &error, AccessMonitor));
-        QVERIFY(monitor);
-        OrvGenParam::Array *array = monitor->GetParamArray();
-        QVERIFY(array->GetIntegerValue("Width") > 0);
-        QCOMPARE(array->SetIntegerValue("Width", 128), int32_t(ErrorAccessDenied));
-        QTest::qWait(1200);
-        QVERIFY(monitor->IsConnected());
-    }
-    QCOMPARE(other.state(), QProcess::Running); // our look has not taken its camera away
-    other.terminate();
-    QVERIFY(other.waitForFinished());
 }
 
 void TestGigEVision::camerasComeAndGo()
@@ -417,17 +359,6 @@ void TestGigEVision::wrongSubnetAndForcedIp()
     QVERIFY(!OrvCam_CreateDevice(cameras.front(), &error, AccessControl));
     QCOMPARE(error, int32_t(ErrorWrongSubnet));
 
-    const QTemporaryDir directory;
-    const QString file = directory.filePath("capture.pcap");
-    QProcess capture;
-    capture.setProcessChannelMode(QProcess::MergedChannels);
-    capture.start("tshark", {"-i", "orv0", "-f", "udp port 3956", "-w", file});
-    QVERIFY(capture.waitForStarted());
-    QByteArray said;
-    while (!said.contains("Capturing on") && capture.waitForReadyRead(patience))
-        said += capture.readAll();
-    QVERIFY2(said.contains("Capturing on"), said.constData());
-
     OrvGenParam::Array *array = interface("orv0")->GetParamArray();
     QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(Success));
     QCOMPARE(array->GetIntegerValue("GevDeviceMACAddress"), int64_t(0x001B2C3D4E5F));
@@ -435,8 +366,6 @@ void TestGigEVision::wrongSubnetAndForcedIp()
     array->SetIntegerValue("GevDeviceForceIPAddress", 0x0A010002);
     array->SetIntegerValue("GevDeviceForceSubnetMask", 0xFFFFFF00);
     array->SetIntegerValue("GevDeviceForceGateway", 0x0A0100FE);
-    // A capture that has just been announced may still miss the first packets.
-    QTest::qWait(500);
     QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(Success));
     QVERIFY(!wrong.forcedIps().empty());
     QCOMPARE(QByteArray::fromStdString(wrong.forcedIps().front()).toHex(),
@@ -448,20 +377,6 @@ void TestGigEVision::wrongSubnetAndForcedIp()
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
     QCOMPARE(camerasOf(*interface("orv0")), cameras);
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
-
-    // As somebody reads it who knows the protocol from elsewhere.
-    QTest::qWait(500);
-    capture.terminate();
-    QVERIFY(capture.waitForFinished());
-    QProcess dissect;
-    dissect.start("tshark", {"-r", file, "-V", "-Y", "gvcp.cmd.command == 0x0004"});
-    QVERIFY(dissect.waitForFinished(patience));
-    const QString text = QString::fromUtf8(dissect.readAllStandardOutput());
-    for (const char *expected :
-         {"Dst: Broadcast (ff:ff:ff:ff:ff:ff)", "Dst: 255.255.255.255", "FORCEIP_CMD",
-          "00:1b:2c:3d:4e:5f", "10.1.0.2", "255.255.255.0", "10.1.0.254"})
-        QVERIFY2(text.contains(QLatin1String(expected)), qPrintable(text));
-    QVERIFY2(!text.contains("Malformed"), qPrintable(text));
 }
 
 void TestGigEVision::forcedIpOnABadDay_data()
@@ -532,7 +447,7 @@ void TestGigEVision::unplugAndReplug()
     OrvGenApiNode *node = OrvGenParam_FindNode(array->GetNodeMap(), "Width");
 
     camera.reset();
-    QTRY_COMPARE_WITH_TIMEOUT(events.disconnected.load(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(EventDisconnected), 1, patience);
     QVERIFY(!device->IsConnected());
     int32_t error = Success;
     QElapsedTimer timer;
@@ -547,7 +462,7 @@ void TestGigEVision::unplugAndReplug()
     QVERIFY(!device->GetParamArray());
 
     camera = m_first->startCamera("LIVELY");
-    QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(EventReconnected), 1, patience);
     QVERIFY(device->IsConnected());
     QCOMPARE(OrvGenParam_GetInteger(node, nullptr), int32_t(Success));
     OrvGenParam::Array *present = device->GetParamArray(&error);
@@ -560,45 +475,9 @@ void TestGigEVision::unplugAndReplug()
     QTest::qWait(4000);
     QVERIFY(device->IsConnected());
     QCOMPARE(present->SetIntegerValue("Width", 256), int32_t(Success));
-    QCOMPARE(events.disconnected.load(), 1);
+    QCOMPARE(events.count(EventDisconnected), 1);
     interface("orv0")->RefreshDevices(nullptr, 200);
     QCOMPARE(device->GetDeviceInfo()->GetAccessState(), int32_t(AccessNone));
-}
-
-void TestGigEVision::controlTakenAway()
-{
-    // A camera that restarts between two looks answers all the time, but knows nobody any more.
-    auto camera = m_first->startCamera("RESTART");
-    Released<Device> device = open("RESTART");
-    Events events(*device);
-    camera.reset();
-    camera = m_first->startCamera("RESTART");
-    QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
-    QCOMPARE(events.disconnected.load(), 1);
-    QVERIFY(device->GetParamArray()->GetIntegerValue("Width") > 0);
-
-    // Released without a camera.
-    camera.reset();
-    QTRY_VERIFY_WITH_TIMEOUT(!device->IsConnected(), patience);
-    QElapsedTimer timer;
-    timer.start();
-    device.reset();
-    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
-}
-
-void TestGigEVision::cablePulled()
-{
-    // The camera goes on and may still take its lost controller for the present one.
-    const auto camera = m_first->startCamera("CABLE");
-    const Released<Device> device = open("CABLE");
-    Events events(*device);
-    QCOMPARE(device->GetParamArray()->SetIntegerValue("Width", 96), int32_t(Success));
-    CameraNetwork::run("ip", "link set orv0 down");
-    QTRY_COMPARE_WITH_TIMEOUT(events.disconnected.load(), 1, patience);
-    CameraNetwork::run("ip", "link set orv0 up");
-    QTRY_COMPARE_WITH_TIMEOUT(events.reconnected.load(), 1, patience);
-    QCOMPARE(device->GetParamArray()->GetIntegerValue("Width"), int64_t(96));
-    QCOMPARE(device->GetParamArray()->SetIntegerValue("Width", 64), int32_t(Success));
 }
 
 QTEST_GUILESS_MAIN(TestGigEVision)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <cameraapi/nodemaparray.h>
-#include <genapi/memorynodemap.h>
+#include <memorynodemap.h>
 
 #include <OrvCam/Codes.h>
 #include <OrvGenParam.h>
@@ -87,7 +87,6 @@ private slots:
     void enumeration();
     void errorCodes_data();
     void errorCodes();
-    void detached();
     void sinksFollowChanges();
     void sinksMayActFromInside();
     void eitherEndMayGoFirst();
@@ -261,30 +260,6 @@ void TestNodeMapArray::errorCodes()
     QCOMPARE(width.IsAvailable(), mode != GenApi::NA && mode != GenApi::NI);
     QCOMPARE(width.IsReadable(), mode == GenApi::RW || mode == GenApi::RO);
     QCOMPARE(width.IsWritable(), mode == GenApi::RW || mode == GenApi::WO);
-}
-
-void TestNodeMapArray::detached()
-{
-    Camera camera;
-    NodeMapArray array(camera.map);
-    Sink sink;
-    array.GetParam("Width")->RegisterEventSink(&sink);
-    const int reads = camera.width.reads();
-
-    array.detach(OrvCam::ErrorGone);
-    QCOMPARE(sink.count, 1);
-    QVERIFY(!array.GetParam("Width")->IsAvailable());
-    QVERIFY(!array.GetEnum("Mode")->GetEntry(0)->IsAvailable());
-    int32_t error = 0;
-    QCOMPARE(array.GetInt("Width")->GetValue(&error), int64_t(0));
-    QCOMPARE(error, int32_t(OrvCam::ErrorGone));
-    QCOMPARE(array.SetIntegerValue("Width", 32), int32_t(OrvCam::ErrorGone));
-    QCOMPARE(array.GetString("DeviceUserID")->GetValue(), "");
-    QVERIFY(!array.GetNodeMap(&error));
-    QCOMPARE(error, int32_t(OrvCam::ErrorGone));
-    QCOMPARE(camera.width.reads(), reads);
-    QCOMPARE(camera.width.writes(), 0);
-    QCOMPARE(array.GetParam("Width")->GetName(), "Width");
 }
 
 void TestNodeMapArray::sinksFollowChanges()

@@ -106,6 +106,13 @@ void TestDescription::refused_data()
         "line 2: a document type definition is not allowed");
     row("unknown entity", document("&b;"), "line 1: Entity 'b' not defined");
     row("no root category", "<RegisterDescription/>", "the description has no category 'Root'");
+    row("root of another kind", "<RegisterDescription><Integer Name='Root'/></RegisterDescription>",
+        "the description has no category 'Root'");
+    row("empty", "", "the description is empty");
+    row("other XML", "<html/>", "this is no GenICam device description");
+    row("no XML", "hello", "line 1: ");
+    row("cut off", "<RegisterDescription>\n<a", "line ");
+    row("zero bytes", QByteArray(100, '\0'), "");
     row("deep", document(repeated("<Group>", 40) + repeated("</Group>", 40)),
         "line 1: there are too many elements within each other");
     row("too many nodes", document(repeated("<Integer Name='N'/>", Limits::nodeCount)),
@@ -125,7 +132,9 @@ void TestDescription::refused_data()
 void TestDescription::refused()
 {
     QFETCH(QByteArray, xml);
-    QTEST(errorOf(xml), "message");
+    QFETCH(QString, message);
+    const QString error = errorOf(xml);
+    QVERIFY2(error.startsWith(message) && !error.contains('\n'), qPrintable(error));
 }
 
 void TestDescription::silence()

@@ -113,10 +113,8 @@ QString realOf(Names &names, const QByteArray &text)
 /// - a choice, && and ||: Aravis evaluates all operands, so it fails when the one that does not
 ///   count divides by 0;
 /// - conditions: to Aravis a number between -1 and 1 is false, since it makes integers of them;
-/// - the limits of integers: powers and literals beyond 64, sums and
-/// products
-///   of floating-point formulas, which Aravis computes with 64 bits when both operands are
-///   integers;
+/// - the limits of integers: powers and literals beyond 64 bits, sums and products of
+///   floating-point formulas, which Aravis computes with 64 bits when both operands are integers;
 /// - what is no number: as an integer it is 0 here, the smallest one there;
 /// - what Aravis does not know: "==", "!=", ".5", POW, negative constants, parts of variables that
 ///   are not declared as such, expressions within expressions;
@@ -127,79 +125,45 @@ class Generator
 public:
     explicit Generator(unsigned seed) : m_random(seed) {}
 
+    /// Operands take the places of "#" after so many rounds.
     QByteArray formula(int depth, bool withFunctions)
     {
-        m_withFunctions = withFunctions;
-        return expression(depth);
+        QByteArray text = "#";
+        for (int round = 0; text.contains('#'); ++round) {
+            QByteArray next;
+            for (const char c : std::as_const(text)) {
+                if (c != '#')
+                    next += c;
+                else if (round >= depth || below(10) == 0)
+                    next += operand();
+                else if (withFunctions && below(6) == 0)
+                    next += anyOf(functions);
+                else
+                    next += anyOf(operations);
+            }
+            text = next;
+        }
+        return text;
     }
 
 private:
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
+    QByteArray anyOf(const QByteArrayList &texts) { return texts[below(int(texts.size()))]; }
+    QByteArray operand() { return below(3) ? anyOf(operands) : QByteArray::number(below(20)); }
 
-    QByteArray blank() { return QByteArray(below(4) == 0 ? " " : ""); }
-
-    QByteArray operand()
-    {
-        static const char *const operands[] = {"A",     "B",   "D",    "Z",   "TEN",
-                                               "THREE", "2.5", "0x1f", "1e2", "1E-1"};
-        const int which = below(16);
-        return which < 10 ? QByteArray(operands[which]) : QByteArray::number(below(20));
-    }
-
-    QByteArray comparison(int depth)
-    {
-        static const char *const operators[] = {"=", "<>", "<", ">", "<=", ">="};
-        return "(" + expression(depth) + blank() + operators[below(6)] + blank() +
-               expression(depth) + ")";
-    }
-
-    QByteArray expression(int depth)
-    {
-        if (depth == 0)
-            return operand();
-        switch (below(m_withFunctions ? 12 : 10)) {
-        case 0:
-            return operand();
-        case 1:
-            return "(" + blank() + expression(depth - 1) + ")";
-        case 2:
-            return QByteArray(below(2) ? "-" : "~") + blank() + expression(depth - 1);
-        case 3:
-            return "(" + comparison(depth - 1) + (below(2) ? "&&" : "||") + comparison(depth - 1) +
-                   ")";
-        case 4:
-            return "(" + comparison(depth - 1) + blank() + "?" + expression(depth - 1) + ":" +
-                   blank() + expression(depth - 1) + ")";
-        case 5:
-            return "(" + expression(depth - 1) + (below(2) ? "<<" : ">>") + "(" +
-                   expression(depth - 1) + "&15))";
-        case 6:
-            return "(" + expression(depth - 1) + "&15)**" + QByteArray::number(below(4));
-        case 10:
-        case 11:
-            return function(depth - 1);
-        default:
-            static const char *const operators[] = {"+", "-", "*",  "/", "%", "&",  "|",
-                                                    "^", "=", "<>", "<", ">", "<=", ">="};
-            return expression(depth - 1) + blank() + operators[below(14)] + blank() +
-                   expression(depth - 1);
-        }
-    }
-
+    const QByteArrayList operands = QByteArray("A,B,D,Z,TEN,THREE,2.5,0x1f,1e2,1E-1").split(',');
+    const QByteArrayList operations =
+        QByteArray("( #),-#,~ #,((#<#)&&(#<>#)),((# = #)||(#>=#)),((#>#) ?#: #),((#<=#)?#:#),"
+                   "(#<<(#&15)),(#>>(# & 15)),(#&15)**2,(#&15)**3,# + #,#-#,#*#,#/ #,# %#,#&#,#|#,"
+                   "# ^ #,#=#,#<>#,#<#,# > #,#<=#,#>=#")
+            .split(',');
     /// Only such as have a result.
-    QByteArray function(int depth)
-    {
-        static const char *const calls[] = {
-            "SIN(%1)",       "COS(%1)",       "TAN(%1)",   "ASIN(SIN(%1))",
-            "ACOS(COS(%1))", "ATAN(%1)",      "EXP(%1%5)", "LN(1+ABS(%1))",
-            "LG(1+ABS(%1))", "SQRT(ABS(%1))", "ABS(%1)",   "SGN(%1)",
-            "NEG(%1)",       "TRUNC(%1)",     "FLOOR(%1)", "CEIL(%1)",
-            "TRUNC(%1/3)",   "TRUNC(%1/3)",   "PI",        "E()"};
-        return QByteArray(calls[below(20)]).replace("%1", QByteArray("(" + expression(depth) + ")"));
-    }
-
+    const QByteArrayList functions =
+        QByteArray("SIN((#)),COS((#)),TAN((#)),ASIN(SIN((#))),ACOS(COS((#))),ATAN((#)),EXP((#)%5),"
+                   "LN(1+ABS((#))),LG(1+ABS((#))),SQRT(ABS((#))),ABS((#)),SGN((#)),NEG((#)),"
+                   "TRUNC((#)),FLOOR((#)),CEIL((#)),TRUNC((#)/3),PI,E()")
+            .split(',');
     std::mt19937 m_random;
-    bool m_withFunctions = false;
 };
 
 /// Aravis's evaluator.
@@ -370,38 +334,13 @@ void TestFormula::results()
 void TestFormula::errors_data()
 {
     QTest::addColumn<QByteArray>("text");
-    for (const char *text : {"",
-                             " ",
-                             "()",
-                             "(1",
-                             "1)",
-                             "2 3",
-                             "1 +",
-                             "* 1",
-                             "1 ? 2",
-                             ":1",
-                             "1,2",
-                             "SIN",
-                             "SIN 1",
-                             "SIN()",
-                             "SIN(1,2)",
-                             "POW(1)",
-                             "ROUND(1,2,3)",
-                             "1e",
-                             "0x",
-                             "0xFFFFFFFFFFFFFFFFF",
-                             "1.2.3",
-                             "1e999",
-                             "X",
-                             "X.Max",
-                             "!A",
-                             "A =>7",
-                             "WRONG",
-                             "TEN.Max",
-                             "LOOP",
-                             "BIG4",
-                             "A\xc3\xa4"})
-        QTest::newRow(text) << QByteArray(text);
+    const QByteArrayList texts =
+        QByteArray("| |()|(1|1)|2 3|1 +|* 1|1 ? 2|:1|1,2|SIN|SIN 1|SIN()|SIN(1,2)|POW(1)|"
+                   "ROUND(1,2,3)|1e|0x|0xFFFFFFFFFFFFFFFFF|1.2.3|1e999|X|X.Max|!A|A =>7|"
+                   "WRONG|TEN.Max|LOOP|BIG4|A\xc3\xa4")
+            .split('|');
+    for (const QByteArray &text : texts)
+        QTest::newRow(text) << text;
     QTest::newRow("zero byte") << QByteArray("1\0", 2);
     QTest::newRow("too deep") << QByteArray(200, '(') + "1" + QByteArray(200, ')');
     QTest::newRow("too long") << QByteArray(200000, '1').replace("1", "1+") + "1";

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <cameraapi/nodemaparray.h>
 #include <cameraio/memoryport.h>
+#include <cameratestsupport.h>
 #include <description/nodemap.h>
 #include <featuresteps.h>
 
 #include <GenApi/GenApi.h>
 
+#include <QAbstractEventDispatcher>
 #include <QtTest>
 
 #include <atomic>
@@ -91,15 +94,12 @@ class TestNodeMap : public QObject
     Q_OBJECT
 
 private slots:
-    void badDescriptions_data();
-    void badDescriptions();
     void badFiles();
     void interfacesFollowTheElement();
     void propertiesOfNodes();
     void orderOfTheFile();
     void registers();
     void bitFieldsShareTheirRegister();
-    void formulas();
     void values_data();
     void values();
     void addressesThatMove();
@@ -116,36 +116,10 @@ private slots:
     void silence();
     void cachingModes();
     void pollingAndInvalidation();
+    void pollingReportsChangesOnly();
+    void waitingForChangesKeepsPolling();
+    void unusedChangesEndPolling();
 };
-
-void TestNodeMap::badDescriptions_data()
-{
-    QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("empty") << QByteArray() << "test.xml: the description is empty";
-    QTest::newRow("no XML") << QByteArray("hello") << "test.xml: line 1: ";
-    QTest::newRow("truncated") << description(root({})).left(500) << "test.xml: line ";
-    QTest::newRow("other XML") << QByteArray("<html/>")
-                               << "test.xml: this is no GenICam device description";
-    QTest::newRow("without a root category")
-        << description(intReg("Root", "0")) << "test.xml: the description has no category 'Root'";
-    QTest::newRow("zero bytes") << QByteArray(100, '\0') << "test.xml: ";
-}
-
-void TestNodeMap::badDescriptions()
-{
-    QFETCH(QByteArray, xml);
-    QFETCH(QString, message);
-    try {
-        OrvDescription::NodeMap::fromText(xml.constData(), static_cast<std::size_t>(xml.size()),
-                                          "test.xml");
-        QFAIL("the description was accepted");
-    } catch (const GenICam::RuntimeException &e) {
-        const QString text = e.GetDescription();
-        QVERIFY2(text.startsWith(message), e.GetDescription());
-        QVERIFY2(!text.contains('\n'), e.GetDescription());
-    }
-}
 
 void TestNodeMap::badFiles()
 {
@@ -316,47 +290,6 @@ void TestNodeMap::bitFieldsShareTheirRegister()
     QCOMPARE(map->transactions().writes, uint64_t(4));
 }
 
-void TestNodeMap::formulas()
-{
-    const struct
-    {
-        QByteArray formula; // the variable V is 7
-        QString asInteger;
-        QString asFloat;
-    } rows[] = {{"V / 2", "3", "3.5"},
-                {"E + C", "114", "114"},
-                {"(V &lt;&gt; 7) || (V &gt;= 7)", "1", "1"},
-                {"V = 7 ? 0x10 : 2", "16", "16"},
-                {"(V &amp; 3) | (1 &lt;&lt; 4)", "19", "19"},
-                {"ROUND(V / 2.0)", "4", "4"},
-                {"1 / (V - 7)", "exception: ", "exception: "},
-                {"V = 7 ? 3 : 1 / (V - 7)", "3", "3"},
-                {"(V &lt;&gt; 7) ? (1 / (V - 7)) : (V = 6 ? 0 : (V / 2))", "3", "3.5"},
-                {"( (V = 7) ? (V = 7 ? 5 : 1) : 1 % (V - 7) )", "5", "5"},
-                {"(V = 7) ? 1 / (V - 7) : 3", "exception: ", "exception: "},
-                {"1 % (V - 7)", "exception: ", "exception: "},
-                {"(V + 1", "exception: ", "exception: "},
-                {"V + X", "exception: ", "exception: "},
-                {"", "exception: ", "exception: "}};
-    for (const auto &row : rows) {
-        const QByteArray body =
-            "<pVariable Name='V'>Reg</pVariable><Constant Name='C'>100</Constant>"
-            "<Expression Name='E'>V * 2</Expression><Formula>" +
-            row.formula + "</Formula>";
-        const auto map = load(root({}) + intReg("Reg", "0") + "<IntSwissKnife Name='I'>" + body +
-                              "</IntSwissKnife><SwissKnife Name='F'>" + body +
-                              "</SwissKnife><Integer Name='Feature'><pValue>I</pValue></Integer>");
-        integer(*map, "Reg") = 7;
-        for (const auto &[name, expected] :
-             {std::make_pair("I", row.asInteger), {"F", row.asFloat}, {"Feature", row.asInteger}}) {
-            const bool isValue = !expected.startsWith("exception");
-            const QString text = textOf(*map, name);
-            QVERIFY2(isValue ? text == expected : text.startsWith(expected), qPrintable(text));
-            QCOMPARE(access(*map, name), isValue ? RO : NA);
-        }
-    }
-}
-
 void TestNodeMap::values_data()
 {
     QTest::addColumn<QByteArray>("nodes");
@@ -376,6 +309,15 @@ void TestNodeMap::values_data()
         "<pVariable Name='E'>Enum</pVariable><pVariable Name='E.Enum.A'>Enum</pVariable>"
         "<Formula>B * 100 + E * 10 + E.Enum.A</Formula></IntSwissKnife>",
         "Limits?912 Others?143 Enum=A Bool=0 Others?33");
+    row("formulas",
+        intReg("Reg", "0") +
+            "<IntSwissKnife Name='I'><pVariable Name='V'>Reg</pVariable><Constant Name='C'>100"
+            "</Constant><Expression Name='E'>V * 2</Expression><Formula>(E + C) / (V - 1)"
+            "</Formula></IntSwissKnife><SwissKnife Name='F'><pVariable Name='V'>Reg</pVariable>"
+            "<Formula>(V &lt;&gt; 7) || (V &gt;= 7) ? V / 2 : 0</Formula></SwissKnife>"
+            "<Integer Name='Feature'><pValue>I</pValue></Integer>"
+            "<IntSwissKnife Name='Wrong'><Formula>1 +</Formula></IntSwissKnife>",
+        "Reg=7 I?19 F?3.5 Feature?19 I:RO Feature:RO Wrong:NA Reg=1 I:NA Feature:NA Feature!1");
     row("converters",
         intReg("Reg", "0") +
             "<Integer "
@@ -733,6 +675,8 @@ public:
         std::atomic<int> batches{0};
         std::atomic<bool> isSilent{false};
         std::vector<OrvCameraIo::RegisterRange> declared;
+        std::vector<uint64_t> reads; ///< addresses, of an immediate port
+        OrvCameraIo::MemoryPort memory;
     };
 
     CountingPort(std::shared_ptr<State> state, bool isImmediate)
@@ -749,20 +693,21 @@ public:
     void read(std::vector<OrvCameraIo::ReadTransfer> &batch) override
     {
         ++m_state->batches;
+        for (std::size_t i = 0; i < batch.size() && m_isImmediate; ++i)
+            m_state->reads.push_back(batch[i].range.address);
         if (!m_state->isSilent)
-            return m_memory.read(batch);
+            return m_state->memory.read(batch);
         batch.front().status = OrvCameraIo::Status::NoAnswer;
     }
     OrvCameraIo::Status write(uint64_t address, const std::vector<uint8_t> &bytes) override
     {
-        return m_memory.write(address, bytes);
+        return m_state->memory.write(address, bytes);
     }
     Presence probe() override { return m_state->isSilent ? Presence::Silent : Presence::Answers; }
 
 private:
     const std::shared_ptr<State> m_state;
     const bool m_isImmediate;
-    OrvCameraIo::MemoryPort m_memory;
 };
 
 std::unique_ptr<OrvDescription::NodeMap> loadWith(const QByteArray &nodes,
@@ -774,6 +719,37 @@ std::unique_ptr<OrvDescription::NodeMap> loadWith(const QByteArray &nodes,
                                             "test.xml"),
         std::move(port));
 }
+
+using Addresses = std::vector<uint64_t>;
+
+/// Two features of a register that is polled, and one that depends on it.
+struct Polled
+{
+    const std::shared_ptr<CountingPort::State> state = std::make_shared<CountingPort::State>();
+    const std::unique_ptr<OrvDescription::NodeMap> map = loadWith(
+        root({"Live", "Sibling", "Dependent", "Slow"}) + intReg("LiveReg", "0") +
+            "<Integer Name='Live'><PollingTime>100</PollingTime><pValue>LiveReg</pValue></Integer>"
+            "<Integer Name='Sibling'><pValue>LiveReg</pValue></Integer>" +
+            intReg("Dependent", "4", "<pInvalidator>LiveReg</pInvalidator>") +
+            intReg("Slow", "8", "<PollingTime>1000</PollingTime>"),
+        std::make_unique<CountingPort>(state, true));
+    QStringList calls;
+
+    int64_t value(const char *name) { return integer(*map, name).GetValue(); }
+    void change(uint64_t address, uint8_t value) { state->memory.write(address, {0, 0, 0, value}); }
+    Addresses takeReads() { return std::exchange(state->reads, {}); }
+
+    /// The addresses that are read.
+    Addresses poll(int64_t elapsedMs)
+    {
+        takeReads();
+        calls.clear();
+        map->pollLater(elapsedMs);
+        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+        }
+        return takeReads();
+    }
+};
 
 } // namespace
 
@@ -887,6 +863,68 @@ void TestNodeMap::pollingAndInvalidation()
     map->GetNode("Polled")->InvalidateNode();
     integer(*map, "Polled").GetValue();
     QCOMPARE(map->transactions().reads, before + 3);
+}
+
+void TestNodeMap::pollingReportsChangesOnly()
+{
+    Polled polled;
+    for (const char *name : {"Live", "Sibling", "Dependent", "Slow"}) {
+        Register(polled.map->GetNode(name),
+                 [&](INode *node) { polled.calls << node->GetName().c_str(); });
+        polled.value(name);
+    }
+    QCOMPARE(polled.poll(99), Addresses());
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(polled.poll(i == 0 ? 1 : 100), Addresses({0}));
+        QCOMPARE(polled.calls, QStringList());
+        for (const char *name : {"Live", "Sibling", "Dependent"})
+            polled.value(name);
+        QCOMPARE(polled.takeReads(), Addresses());
+    }
+
+    polled.change(0, 7);
+    polled.change(4, 8);
+    QCOMPARE(polled.poll(100), Addresses({0}));
+    polled.calls.sort();
+    QCOMPARE(polled.calls, QStringList({"Dependent", "Live", "Sibling"}));
+    QCOMPARE(polled.value("Live"), int64_t(7)); // as it was polled
+    QCOMPARE(polled.value("Sibling"), int64_t(7));
+    QCOMPARE(polled.takeReads(), Addresses());
+    QCOMPARE(polled.value("Dependent"), int64_t(8));
+    QCOMPARE(polled.poll(100), Addresses({0}));
+    QCOMPARE(polled.calls, QStringList());
+    QCOMPARE(polled.poll(1000), Addresses({0, 8})); // all that are due in one batch
+}
+
+void TestNodeMap::waitingForChangesKeepsPolling()
+{
+    Polled polled;
+    CountingSink sink;
+    const OrvGenParam::NodeMapArray array(*polled.map);
+    array.GetInt("Live")->RegisterEventSink(&sink);
+    QCOMPARE(polled.poll(100), Addresses({0})); // so that there is something to compare with
+    QCOMPARE(sink.count, 0);
+    for (uint8_t i = 1; i <= 3; ++i) {
+        polled.change(0, i);
+        QCOMPARE(polled.poll(100), Addresses({0}));
+        QCOMPARE(sink.count, int(i));
+        QCOMPARE(polled.poll(100), Addresses({0}));
+        QCOMPARE(sink.count, int(i));
+    }
+}
+
+void TestNodeMap::unusedChangesEndPolling()
+{
+    Polled polled;
+    QCOMPARE(polled.poll(100), Addresses());
+    polled.value("Live");
+    QCOMPARE(polled.poll(100), Addresses({0}));
+    polled.change(0, 1);
+    QCOMPARE(polled.poll(100), Addresses({0})); // the last time, as the change is not looked at
+    polled.change(0, 2);
+    QCOMPARE(polled.poll(100), Addresses());
+    QCOMPARE(polled.value("Live"), int64_t(2));
+    QCOMPARE(polled.poll(100), Addresses({0}));
 }
 
 QTEST_GUILESS_MAIN(TestNodeMap)

@@ -6,11 +6,8 @@
 #include "samplenodemap.h"
 #include "treecells.h"
 
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QPushButton>
-#include <QSpinBox>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -67,10 +64,6 @@ void TestGenParamDelegate::integers()
     QCOMPARE(spinBox->maximum(), 1280);
     QCOMPARE(spinBox->singleStep(), 16);
     QCOMPARE(spinBox->text(), QString("1280px"));
-    spinBox->setValue(640);
-    QCOMPARE(m_bench->map.integer("Width").writes(), 0);
-    commit("Width");
-    QCOMPARE(m_bench->map.integer("Width").GetValue(), int64_t(640));
 
     auto *hex = open<QSpinBox>("GevDeviceModeCapability");
     QCOMPARE(hex->displayIntegerBase(), 16);
@@ -104,9 +97,6 @@ void TestGenParamDelegate::floats()
     QCOMPARE(spinBox->singleStep(), 2.5);
     QCOMPARE(spinBox->decimals(), 2);
     QCOMPARE(spinBox->text(), QString("10000.00us"));
-    spinBox->setValue(512.5);
-    commit("ExposureTime");
-    QCOMPARE(m_bench->map.number("ExposureTime").GetValue(), 512.5);
 }
 
 void TestGenParamDelegate::comboBoxes()
@@ -116,12 +106,11 @@ void TestGenParamDelegate::comboBoxes()
         const char *feature;
         QStringList texts;
         int current, type;
-        const char *afterFirst;
     } rows[] = {
-        {"ReverseX", {"True", "False"}, 1, QMetaType::Bool, "1"},
-        {"PixelFormat", {"Mono8", "Mono12"}, 0, QMetaType::LongLong, "Mono8"},
-        {"BinningHorizontal", {"1px", "2px", "4px", "8px"}, 0, QMetaType::LongLong, "1"},
-        {"Gain", {"0dB", "1.5dB", "3dB", "6dB", "12dB", "24dB"}, 1, QMetaType::Double, "0"},
+        {"ReverseX", {"True", "False"}, 1, QMetaType::Bool},
+        {"PixelFormat", {"Mono8", "Mono12"}, 0, QMetaType::LongLong},
+        {"BinningHorizontal", {"1px", "2px", "4px", "8px"}, 0, QMetaType::LongLong},
+        {"Gain", {"0dB", "1.5dB", "3dB", "6dB", "12dB", "24dB"}, 1, QMetaType::Double},
     };
     for (const auto &row : rows) {
         auto *comboBox = open<QComboBox>(row.feature);
@@ -133,11 +122,6 @@ void TestGenParamDelegate::comboBoxes()
         }
         QCOMPARE(shown, row.texts);
         QCOMPARE(comboBox->currentIndex(), row.current);
-
-        comboBox->setCurrentIndex(0);
-        commit(row.feature);
-        const GenApi::CValuePtr value(m_bench->map.GetNode(row.feature));
-        QCOMPARE(value->ToString().c_str(), row.afterFirst);
     }
 }
 

@@ -49,10 +49,10 @@ void noteParents(const QAbstractItemModel &model, const QModelIndex &parent,
 }
 
 /// A category whose features change, or that may be unable to tell them.
-class ChangingCategory : public OrvGenApi::MemoryCategory
+class ChangingCategory : public OrvGenApi::DeclaredCategory
 {
 public:
-    using MemoryCategory::MemoryCategory;
+    using DeclaredCategory::DeclaredCategory;
     void GetFeatures(GenApi::FeatureList_t &list) const override
     {
         if (isSilent)
@@ -94,10 +94,8 @@ private slots:
     void write();
     void refusedWrites();
     void commands();
-    void modelDestroyedByItsOwnWrite();
     void descriptions_data();
     void descriptions();
-    void notifications();
 };
 
 void TestGenParamTreeModel::structure()
@@ -417,24 +415,6 @@ void TestGenParamTreeModel::commands()
     QCOMPARE(changes.count(), 0);
 }
 
-void TestGenParamTreeModel::modelDestroyedByItsOwnWrite()
-{
-    SampleNodeMap map;
-    auto *model = new GenParamTreeModel(&map);
-    const GenApi::CallbackHandleType handle = GenApi::Register(
-        map.GetNode("Width"),
-        [&model](GenApi::INode *) {
-            delete model;
-            model = nullptr;
-        },
-        GenApi::cbPostOutsideLock);
-    QVERIFY(model->setData(valueCell(*model, "Width"), 640));
-    QVERIFY(!model);
-    GenApi::Deregister(handle);
-    map.integer("Width").changed(); // nobody is called any more
-    QCOMPARE(map.integer("Width").GetValue(), int64_t(640));
-}
-
 void TestGenParamTreeModel::descriptions_data()
 {
     QTest::addColumn<QString>("feature");
@@ -493,27 +473,6 @@ void TestGenParamTreeModel::descriptions()
         const QVariant text = cellOf(model, feature, column).data(Qt::WhatsThisRole);
         QCOMPARE(text.toString().split(QString("<br />")), lines);
     }
-}
-
-// A change reaches the cells of the node and of what depends on it, and no others.
-void TestGenParamTreeModel::notifications()
-{
-    SampleNodeMap map;
-    map.number("Gain").dependsOn(map.enumeration("GainSelector"));
-    map.number("ExposureTime").dependsOn(map.number("Gain"));
-    GenParamTreeModel model(&map);
-
-    QStringList changed;
-    connect(&model, &GenParamTreeModel::dataChanged, this,
-            [&changed](const QModelIndex &topLeft, const QModelIndex &bottomRight) {
-                QCOMPARE(topLeft, bottomRight);
-                QCOMPARE(topLeft.column(), 1);
-                changed.append(nameOf(topLeft));
-            });
-    map.enumeration("GainSelector").change(1);
-    changed.sort();
-    QCOMPARE(changed,
-             (QStringList{QString("Exposure Time"), QString("Gain"), QString("Gain Selector")}));
 }
 
 QTEST_MAIN(TestGenParamTreeModel)

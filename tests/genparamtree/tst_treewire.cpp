@@ -1,23 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "browser/orvfeaturebrowser_p.h"
 #include "treecells.h"
 
-#include "../cameraapi/cameratestsupport.h"
-
-#include <cameranetwork.h>
+#include <loopwatch.h>
 #include <orvgenparamtreeview.h>
+#include <wirecamera.h>
 
-#include <QAbstractProxyModel>
-#include <QAccessible>
-#include <QComboBox>
-#include <QScrollBar>
-#include <QSpinBox>
-#include <QTableWidget>
-#include <QTextBrowser>
-#include <QTreeView>
 #include <QtTest>
+#include <QtWidgets>
 
-#include <ctime>
 #include <functional>
 #include <set>
 
@@ -32,44 +22,6 @@ const int longestAllowed = 10 * delay;
 #else
 const int longestAllowed = delay;
 #endif
-
-/// The longest time for which the thread did not get to its event loop, its own work left out.
-class LongestWait : public QObject
-{
-public:
-    LongestWait()
-    {
-        m_last.start();
-        m_timer.setTimerType(Qt::PreciseTimer);
-        connect(&m_timer, &QTimer::timeout, this, [this] { note(); });
-        m_timer.start(5);
-    }
-
-    qint64 take()
-    {
-        note();
-        return std::exchange(m_longest, 0);
-    }
-
-private:
-    void note()
-    {
-        const qint64 work = workOfThread();
-        m_longest = std::max(m_longest, m_last.restart() - (work - std::exchange(m_work, work)));
-    }
-
-    static qint64 workOfThread()
-    {
-        timespec time = {};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return time.tv_sec * 1000 + time.tv_nsec / 1000000;
-    }
-
-    QElapsedTimer m_last;
-    qint64 m_work = workOfThread();
-    QTimer m_timer;
-    qint64 m_longest = 0;
-};
 
 bool isPolled(uint32_t address)
 {
@@ -115,7 +67,6 @@ private slots:
     void nothingWaits();
     void writing();
     void selection();
-    void selectorTable();
 
 private:
     template<typename Editor>
@@ -136,48 +87,30 @@ private:
         return cellOf(*tree().model(), feature, column);
     }
 
-    Released<OrvCam::System> m_system;
-    std::unique_ptr<CameraNetwork> m_network;
-    std::unique_ptr<TestCamera> m_camera;
-    Released<OrvCam::Device> m_device;
+    std::unique_ptr<WireCamera> m_camera;
+    OrvCam::Released<OrvCam::Device> m_device;
     std::unique_ptr<OrvGui::OrvGenParamTreeView> m_view;
 };
 
 void TestTreeWire::initTestCase()
 {
-    qputenv("ORVCAM_DESCRIPTION_CACHE", "");
-    m_network = std::make_unique<CameraNetwork>("orv0", "10.1.0.1/24", "10.1.0.2/24");
-    TestCamera::Settings settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
-    QFile description(ORV_DESCRIPTION);
-    QVERIFY(description.open(QIODevice::ReadOnly));
-    settings.description = description.readAll().toStdString();
-    settings.fillsRegisters = true;
-    settings.unknownRegisters = TestCameraMemory::Unknown::Filled;
-    m_camera = std::make_unique<TestCamera>(settings);
-    m_system.reset(OrvCam_GetSystem());
-    const auto open = [this] {
-        if (m_device)
-            return true;
-        for (OrvCam::Interface *adapter : interfacesOf(*m_system, OrvCam::InterfaceGigEVision)) {
-            for (OrvCam::DeviceInfo *camera : camerasOf(*adapter))
-                m_device.reset(OrvCam_CreateDevice(camera, nullptr, OrvCam::AccessControl));
-        }
-        return m_device != nullptr;
-    };
-    QTRY_VERIFY(open());
+    m_camera = std::make_unique<WireCamera>(ORV_DESCRIPTION, [](TestCamera::Settings &settings) {
+        settings.fillsRegisters = true;
+        settings.unknownRegisters = TestCameraMemory::Unknown::Filled;
+    });
+    m_device = m_camera->open();
+    QVERIFY(m_device);
     // The time of a round trip is measured anew before commands are counted.
-    m_camera->setMood("delay", delay);
+    (*m_camera)->setMood("delay", delay);
     QTest::qWait(20 * delay);
 }
 
 void TestTreeWire::cleanupTestCase()
 {
     m_view.reset();
-    m_camera->setMood("good");
+    (*m_camera)->setMood("good");
     m_device.reset();
-    m_system.reset();
     m_camera.reset();
-    m_network.reset();
 }
 
 QModelIndexList TestTreeWire::rowsOnScreen()
@@ -285,24 +218,24 @@ void TestTreeWire::nothingWaits()
          },
          nothing, 2},
     };
-    m_camera->takeAccesses();
-    LongestWait wait;
+    (*m_camera)->takeAccesses();
+    LoopWatch wait;
     for (const Act &act : acts) {
-        wait.take();
+        wait.takeLongestWait();
         QElapsedTimer timer;
         timer.start();
         act.act();
         QTRY_VERIFY2(isComplete() && act.isDone(), act.name);
         const qint64 duration = timer.elapsed();
-        const qint64 longest = wait.take();
+        const double longest = wait.takeLongestWait();
         QTest::qWait(3 * delay);
-        const Traffic traffic(m_camera->takeAccesses());
-        qInfo("%-14s %4lld ms, longest wait %3lld ms, %2u commands, packed %2u", act.name, duration,
+        const Traffic traffic((*m_camera)->takeAccesses());
+        qInfo("%-14s %4lld ms, longest wait %3.0f ms, %2u commands, packed %2u", act.name, duration,
               longest, traffic.commands, traffic.packed);
         QVERIFY2(longest < longestAllowed, act.name);
         QVERIFY2(traffic.commands <= traffic.packed + act.rounds, act.name);
         QCOMPARE(wrongTexts(), QString());
-        m_camera->takeAccesses();
+        (*m_camera)->takeAccesses();
     }
 }
 
@@ -312,14 +245,14 @@ void TestTreeWire::writing()
     tree().setCurrentIndex(cell("Width"));
     QTRY_VERIFY(editor<QSpinBox>());
     const int value = editor<QSpinBox>()->maximum() - editor<QSpinBox>()->singleStep();
-    m_camera->takeAccesses();
+    (*m_camera)->takeAccesses();
     editor<QSpinBox>()->selectAll();
     QTest::keyClicks(editor<QSpinBox>(), QString::number(value));
     QTest::keyClick(editor<QSpinBox>(), Qt::Key_Return);
     QTRY_COMPARE(cell("Width").data().toInt(), value);
     QCOMPARE(model()->data(valueCell(*model(), "Width")).toInt(), value);
     int writes = 0;
-    for (const TestCamera::Access &access : m_camera->takeAccesses())
+    for (const TestCamera::Access &access : (*m_camera)->takeAccesses())
         writes += access.isRead() ? 0 : 1;
     QCOMPARE(writes, 1);
 }
@@ -349,30 +282,6 @@ void TestTreeWire::selection()
     m_view->clearParams();
     QTest::qWait(2 * delay);
     QVERIFY(!tree().model());
-}
-
-/// Reading through a selector leaves the thread of the windows alone, and the selector where it
-/// was.
-void TestTreeWire::selectorTable()
-{
-    OrvGui::OrvFeatureBrowser browser(m_device->GetParamArray(), nullptr);
-    GenApi::INodeMap *map = m_device->GetParamArray()->GetNodeMap();
-    auto *selector = dynamic_cast<GenApi::IValue *>(map->GetNode("FrameAB_Selector"));
-    auto *level = dynamic_cast<GenApi::IValue *>(map->GetNode("Frame_BlackLevel"));
-    LongestWait wait;
-    QElapsedTimer timer;
-    timer.start();
-    OrvGui::OrvFeatureBrowserPrivate::of(browser).openTable(selector, {level});
-    auto *window = browser.findChild<OrvGui::SelectorTable *>();
-    QVERIFY(window->isReading());
-    QTRY_VERIFY(!window->isReading());
-    const qint64 longest = wait.take();
-    qInfo("%-14s %4lld ms, longest wait %3lld ms", "table", timer.elapsed(), longest);
-    QVERIFY(longest < longestAllowed);
-    const auto &table = *window->findChild<QTableWidget *>();
-    QCOMPARE(table.item(0, 0)->text(), QString("50 DN"));
-    QCOMPARE(table.item(1, 0)->text(), QString("51 DN"));
-    QCOMPARE(selector->ToString(), GenICam::gcstring("FrameA"));
 }
 
 QTEST_MAIN(TestTreeWire)

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "../cameraapi/cameratestsupport.h"
-
-#include <cameranetwork.h>
 #include <journal/featurejournal.h>
 #include <memorynodemap.h>
 #include <orvcameraguiapi.h>
@@ -9,15 +6,10 @@
 #include <orvsettingsmenu.h>
 #include <settings/settingsfile.h>
 #include <simulatednodemap.h>
+#include <wirecamera.h>
 
-#include <QAction>
-#include <QDialog>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QTreeView>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <sys/resource.h>
 
@@ -130,7 +122,6 @@ private slots:
     void simulatedCamera();
     void twoFiles();
     void cancelled();
-    void singleFeatures();
     void cFunctions();
     void menu();
     void userSets();
@@ -486,38 +477,6 @@ void TestSettings::cancelled()
     QVERIFY(read(path("a.pfs")) == before);
 }
 
-void TestSettings::singleFeatures()
-{
-    MemoryNodeMap camera;
-    camera.addInteger("Hex", 255).setRepresentation(GenApi::HexNumber);
-    camera.addInteger("GevMACAddress", 0x1B2C3D4E5F);
-    camera.addBoolean("Flag", true);
-    camera.addEnumeration("Choice", {{"One", 1}, {"Two", 2}}, 1);
-    camera.addInteger("WriteOnly").setAccessMode(GenApi::WO);
-    int executed = 0;
-    camera.addCommand("Reset", [&] { ++executed; });
-    QString error;
-    const auto value = [&](const char *name) {
-        return OrvCameraSettings::value(camera, QString::fromLatin1(name), &error);
-    };
-    QCOMPARE(value("Hex"), QString("FF"));
-    QCOMPARE(value("GevMACAddress"), QString("00:1B:2C:3D:4E:5F"));
-    QCOMPARE(value("Flag"), QString("true"));
-    for (const char *name : {"WriteOnly", "Reset", "Root", "Nothing"})
-        QVERIFY2(value(name).isNull() && !error.isEmpty(), name);
-    const auto set = [&](const char *name, const char *text) {
-        return OrvCameraSettings::setValue(camera, name, text, &error);
-    };
-    QVERIFY(set("Hex", "10") && value("Hex") == "10" && error.isEmpty());
-    QVERIFY(set("Hex", "0x1F") && value("Hex") == "1F");
-    QVERIFY(set("GevMACAddress", "00:00:00:00:00:10") && set("Flag", "False"));
-    QVERIFY(!set("Choice", "Three") && error == "There is no entry 'Three'.");
-    QVERIFY(!set("Reset", "1") && !set("Nothing", "1"));
-    QVERIFY(OrvCameraSettings::execute(camera, "Reset", &error) && executed == 1);
-    QVERIFY(!OrvCameraSettings::execute(camera, "Flag", &error) && !error.isEmpty());
-    QVERIFY(!OrvCameraSettings::execute(camera, "Nothing", &error) && !error.isEmpty());
-}
-
 void TestSettings::cFunctions()
 {
     SmallCamera camera;
@@ -703,26 +662,12 @@ void TestSettings::userSets()
 
 void TestSettings::overTheWire()
 {
-    qputenv("ORVCAM_DESCRIPTION_CACHE", "");
-    CameraNetwork network("orv0", "10.1.0.1/24", "10.1.0.2/24");
-    TestCamera::Settings settings = network.cameraSettings(0x020000000001, "10.1.0.2");
-    settings.description = read(ORV_DESCRIPTION).toStdString();
-    settings.unknownRegisters = TestCameraMemory::Unknown::Zero;
-    TestCamera camera(settings);
-    const Released<OrvCam::System> system(OrvCam_GetSystem());
-    Released<OrvCam::Device> device;
-    const auto open = [&] {
-        for (OrvCam::Interface *adapter : interfacesOf(*system, OrvCam::InterfaceGigEVision)) {
-            for (OrvCam::DeviceInfo *info : camerasOf(*adapter))
-                device.reset(OrvCam_CreateDevice(info, nullptr, OrvCam::AccessControl));
-        }
-        return device != nullptr;
-    };
-    QTRY_VERIFY(open());
+    WireCamera camera(ORV_DESCRIPTION, [](TestCamera::Settings &) {});
+    const auto device = camera.open();
     GenApi::INodeMap &map = *device->GetParamArray()->GetNodeMap();
-    camera.setMood("delay", 5);
+    camera->setMood("delay", 5);
 
-    camera.takeAccesses();
+    camera->takeAccesses();
     QElapsedTimer timer;
     timer.start();
     int all = 0;
@@ -732,7 +677,7 @@ void TestSettings::overTheWire()
     });
     const auto time = timer.elapsed();
     std::set<unsigned> packets;
-    for (const TestCamera::Access &access : camera.takeAccesses())
+    for (const TestCamera::Access &access : camera->takeAccesses())
         packets.insert(access.packet);
     QVERIFY2(saved.error.isEmpty(), qPrintable(saved.error));
     const QString measured = QString("%1 values in %2 commands and %3 ms")
@@ -750,12 +695,12 @@ void TestSettings::overTheWire()
     int calls = 0;
     const Result silent = OrvCameraSettings::save(map, path("wire.pfs"), [&](int, int) {
         if (++calls == all - 3)
-            camera.setMood("silence", -1);
+            camera->setMood("silence", -1);
         return true;
     });
     QVERIFY(!silent.error.isEmpty());
     QCOMPARE(read(path("wire.pfs")), before);
-    camera.setMood("good");
+    camera->setMood("good");
 }
 
 QTEST_MAIN(TestSettings)

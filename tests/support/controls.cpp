@@ -3,16 +3,7 @@
 
 #include "looks.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QGroupBox>
-#include <QKeySequence>
-#include <QLabel>
-#include <QMap>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTabBar>
+#include <QtWidgets>
 
 namespace Controls {
 

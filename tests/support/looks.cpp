@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "looks.h"
 
-#include <QAbstractItemView>
-#include <QAbstractScrollArea>
-#include <QGuiApplication>
-#include <QHash>
-#include <QHeaderView>
-#include <QImage>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPaintEngine>
-#include <QPainter>
-#include <QScreen>
-#include <QSplitterHandle>
-#include <QTabBar>
-#include <QWindow>
+#include <base/readablecolors.h>
+
+#include <QtWidgets>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Looks {
 
@@ -74,66 +62,21 @@ private:
     const QRectF m_rect;
 };
 
-/// As large and as fine as the widget, so that it paints itself as it does on the screen.
-class RecordingDevice : public QPaintDevice
+/// As large as the widget, so that it paints itself as it does on the screen.
+class RecordingDevice : public QImage
 {
 public:
-    explicit RecordingDevice(const QWidget &widget) : m_widget(widget), m_recorder(widget) {}
+    explicit RecordingDevice(const QWidget &widget)
+        : QImage(widget.size().expandedTo({1, 1}), Format_RGB32), m_recorder(widget)
+    {
+    }
 
     QPaintEngine *paintEngine() const override { return &m_recorder; }
     const QVector<PaintedText> &texts() const { return m_recorder.texts; }
 
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        switch (metric) {
-        case PdmWidth:
-            return m_widget.width();
-        case PdmHeight:
-            return m_widget.height();
-        case PdmWidthMM:
-            return m_widget.widthMM();
-        case PdmHeightMM:
-            return m_widget.heightMM();
-        case PdmDpiX:
-        case PdmPhysicalDpiX:
-            return m_widget.logicalDpiX();
-        case PdmDpiY:
-        case PdmPhysicalDpiY:
-            return m_widget.logicalDpiY();
-        case PdmDepth:
-            return 32;
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return int(devicePixelRatioFScale());
-        default:
-            return 0;
-        }
-    }
-
 private:
-    const QWidget &m_widget;
     mutable Recorder m_recorder;
 };
-
-double linear(double part)
-{
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &color)
-{
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const double first = luminance(a);
-    const double second = luminance(b);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
 
 QColor over(const QColor &background, const QColor &text)
 {
@@ -225,6 +168,13 @@ QString quoted(const QWidget &widget, const QString &piece)
     return QString::fromUtf8("\u201c%1\u201d").arg(own.isEmpty() ? piece : own);
 }
 
+QString textOf(const QRectF &rect)
+{
+    QString text;
+    QDebug(&text).noquote().nospace() << rect;
+    return text;
+}
+
 class Inspection
 {
 public:
@@ -258,13 +208,7 @@ private:
         const QRect frame = m_window.frameGeometry();
         if (!screen.contains(frame))
             add(Fault::OffScreen, m_window,
-                QString("%1x%2 at %3,%4 on a screen of %5x%6")
-                    .arg(frame.width())
-                    .arg(frame.height())
-                    .arg(frame.x())
-                    .arg(frame.y())
-                    .arg(screen.width())
-                    .arg(screen.height()));
+                QString("%1 on a screen of %2").arg(textOf(frame), textOf(screen)));
     }
 
     void check(QWidget &widget)
@@ -299,10 +243,7 @@ private:
             return;
         if (!parent->rect().contains(widget.geometry()))
             add(Fault::Squeezed, widget,
-                QString("out of %1, which is %2x%3")
-                    .arg(nameOf(*parent))
-                    .arg(parent->width())
-                    .arg(parent->height()));
+                QString("out of %1, which is %2").arg(nameOf(*parent), textOf(parent->rect())));
     }
 
     // What a scroll area shows can be scrolled into view; a text without enough room in a cell gets
@@ -326,16 +267,7 @@ private:
         if (room.contains(least) || !least.isValid())
             return;
         add(Fault::Cut, widget,
-            QString("%1 lies at %2..%3 x %4..%5, its room is %6..%7 x %8..%9")
-                .arg(text)
-                .arg(painted.ink.left(), 0, 'f', 1)
-                .arg(painted.ink.right(), 0, 'f', 1)
-                .arg(painted.ink.top(), 0, 'f', 1)
-                .arg(painted.ink.bottom(), 0, 'f', 1)
-                .arg(room.left())
-                .arg(room.right())
-                .arg(room.top())
-                .arg(room.bottom()));
+            QString("%1 lies at %2, its room is %3").arg(text, textOf(painted.ink), textOf(room)));
     }
 
     void checkContrast(const QWidget &widget, const PaintedText &painted)
@@ -352,7 +284,7 @@ private:
         const QColor background =
             colorAround(m_picture, inPicture.toAlignedRect().adjusted(-1, -1, 1, 1));
         const QColor color = over(background, painted.color);
-        const double ratio = contrast(color, background);
+        const double ratio = OrvGui::contrast(color, background);
         if (ratio < leastContrast)
             add(Fault::Pale, widget,
                 QString("%1 in %2 on %3 has a contrast of %4")

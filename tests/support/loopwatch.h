@@ -9,6 +9,7 @@
 #include <ctime>
 #include <fstream>
 #include <thread>
+#include <utility>
 
 /// For how long the event loop of this thread has waited for something else than events, at most,
 /// while this lives. Computing does not count, nor does time in which the machine was busy with
@@ -33,6 +34,13 @@ public:
     {
         take();
         return m_longest;
+    }
+
+    /// As `longestWait`; the next one begins now.
+    double takeLongestWait()
+    {
+        take();
+        return std::exchange(m_longest, 0);
     }
 
 protected:

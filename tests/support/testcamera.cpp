@@ -111,7 +111,8 @@ void TestCamera::setUpMemory()
     memory.setText(UserName, 16, s.userName);
 
     const std::string name = s.descriptionName + (s.isZipped ? ".zip" : "");
-    const std::string held = s.isZipped ? zipped(s.descriptionName, s.description) : s.description;
+    const std::string held =
+        s.isZipped ? zipped({{s.descriptionName, s.description}}) : s.description;
     char url[64];
     std::snprintf(url, sizeof url, ";%X;%zX", s.descriptionAddress, held.size());
     memory.addBlock(s.descriptionAddress, held);
@@ -246,12 +247,6 @@ void TestCamera::countUp(uint32_t address, int milliseconds, uint32_t step)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_commands.memory.countUp(address, std::chrono::milliseconds(milliseconds), step);
-}
-
-void TestCamera::changeLater(int milliseconds, uint32_t address, uint32_t value)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_commands.memory.changeLater(std::chrono::milliseconds(milliseconds), address, value);
 }
 
 uint32_t TestCamera::privilege()

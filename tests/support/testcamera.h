@@ -104,7 +104,6 @@ public:
     void addBlock(uint32_t address, const std::string &bytes); ///< read-only, a second description
     void addTwoViews(uint32_t first, uint32_t last);           ///< see TestCameraMemory
     void countUp(uint32_t address, int milliseconds, uint32_t step = 1);
-    void changeLater(int milliseconds, uint32_t address, uint32_t value);
     /// @}
 
     /// @name Control

@@ -83,7 +83,6 @@ bool TestCameraMemory::has(uint32_t address) const
 
 std::optional<uint32_t> TestCameraMemory::word(uint32_t address)
 {
-    applyChanges();
     const auto found = m_words.find(address);
     if (found != m_words.end()) {
         const auto counting = m_countUps.find(address);
@@ -184,25 +183,10 @@ void TestCameraMemory::countUp(uint32_t address, std::chrono::milliseconds inter
     m_countUps[address] = {Clock::now(), interval, step};
 }
 
-void TestCameraMemory::changeLater(std::chrono::milliseconds delay, uint32_t address,
-                                   uint32_t value)
-{
-    m_changes.emplace(Clock::now() + delay, std::make_pair(address, value));
-}
-
 uint32_t TestCameraMemory::view(uint32_t address, uint32_t value) const
 {
     const auto contains = [address](const auto &range) {
         return range.first <= address && address <= range.second;
     };
     return std::any_of(m_twoViews.begin(), m_twoViews.end(), contains) ? reversed(value) : value;
-}
-
-void TestCameraMemory::applyChanges()
-{
-    while (!m_changes.empty() && m_changes.begin()->first <= Clock::now()) {
-        const auto [address, value] = m_changes.begin()->second;
-        m_changes.erase(m_changes.begin());
-        setWord(address, value);
-    }
 }

@@ -46,8 +46,6 @@ public:
 
     /// From now on the register grows by `step` with every interval.
     void countUp(uint32_t address, std::chrono::milliseconds interval, uint32_t step);
-    /// The register will change to `value`.
-    void changeLater(std::chrono::milliseconds delay, uint32_t address, uint32_t value);
 
 private:
     struct CountUp
@@ -58,7 +56,6 @@ private:
     };
 
     uint32_t view(uint32_t address, uint32_t value) const;
-    void applyChanges();
     void fillRegister(const std::string &element, uint32_t address, uint32_t number);
 
     Unknown m_unknown = Unknown::Refused;
@@ -66,5 +63,4 @@ private:
     std::map<uint32_t, std::string> m_blocks;
     std::vector<std::pair<uint32_t, uint32_t>> m_twoViews;
     std::map<uint32_t, CountUp> m_countUps;
-    std::multimap<Clock::time_point, std::pair<uint32_t, uint32_t>> m_changes;
 };

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
-/// A zip archive with one deflated file, as cameras hold their descriptions.
-std::string zipped(const std::string &fileName, const std::string &contents);
+/// A zip archive with these files, as cameras hold their descriptions.
+std::string zipped(const std::vector<std::pair<std::string, std::string>> &files,
+                   bool isEncrypted = false);

@@ -7,17 +7,8 @@
 #include "qtorvspinbox.h"
 #include "qtorvspinboxval.h"
 
-#include <QAccessible>
-#include <QBoxLayout>
-#include <QFocusEvent>
-#include <QGuiApplication>
-#include <QLabel>
-#include <QMouseEvent>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QSlider>
-#include <QTest>
-#include <QToolButton>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 

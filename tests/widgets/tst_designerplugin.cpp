@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "ui_valuewidgets.h"
 #include "qtorvslider.h"
+#include "ui_valuewidgets.h"
 
-#include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
-#include <QIcon>
 #include <QPluginLoader>
-#include <QSet>
-#include <QTest>
 #include <QUiLoader>
+#include <QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtWidgets>
 
 class TestDesignerPlugin : public QObject
 {

@@ -2,12 +2,8 @@
 #include "qtorvdoublespinboxval.h"
 #include "qtorvspinboxval.h"
 
-#include <QFocusEvent>
-#include <QLineEdit>
-#include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
-#include <QVBoxLayout>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <limits>
 

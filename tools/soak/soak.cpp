@@ -198,11 +198,6 @@ private:
     unsigned m_clicks = 0;
 };
 
-struct Deleter
-{
-    void operator()(OrvCam::Device *device) const { device->Release(); }
-};
-
 class Soak
 {
 public:
@@ -214,7 +209,7 @@ public:
     void round()
     {
         SoakCamera camera;
-        const std::unique_ptr<OrvCam::Device, Deleter> device(camera.open());
+        const OrvCam::Released<OrvCam::Device> device(camera.open());
         for (Window &window : m_windows) {
             const unsigned before = clicks();
             visit(window, camera, *device);

@@ -5,7 +5,7 @@
 
 #include <OrvCam.h>
 #include <cameraapi/cameradevice.h>
-#include <genapi/memorynodemap.h>
+#include <memorynodemap.h>
 
 #include <QByteArray>
 #include <QtGlobal>
@@ -22,6 +22,7 @@ struct PluggableCamera
 
     const QByteArray name; ///< what it gives as its model
     Plug isPlugged;
+    std::atomic<int> closed{0}; ///< connections
     std::function<void(OrvGenApi::MemoryNodeMap &)> furnish = [](auto &map) {
         map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
         map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}}, 2);
@@ -37,6 +38,7 @@ struct PluggableCamera
             m_map.addString("DeviceModelName", camera.name.toStdString());
             camera.furnish(m_map);
         }
+        ~Connection() override { ++m_camera.closed; }
 
         GenApi::INodeMap &nodeMap() override { return m_map; }
         void setListener(OrvCameraIo::RegisterIoListener *listener) override

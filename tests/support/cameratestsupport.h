@@ -6,21 +6,48 @@
 
 #include <QString>
 
-#include <memory>
+#include <algorithm>
+#include <mutex>
 #include <vector>
 
-/// Releases what the camera access library hands out.
-struct Releaser
+/// Collects the events of a device.
+struct Events
 {
-    template<class T>
-    void operator()(T *object) const
+    Events() = default;
+    explicit Events(OrvCam::Device &device)
     {
-        object->Release();
+        device.RegisterEvent(OrvCam::EventDisconnected, note, this);
+        device.RegisterEvent(OrvCam::EventReconnected, note, this);
     }
+
+    static void note(int32_t code, void *context)
+    {
+        auto *self = static_cast<Events *>(context);
+        const std::lock_guard<std::mutex> lock(self->mutex);
+        self->codes.push_back(code);
+    }
+
+    std::vector<int32_t> seen()
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        return codes;
+    }
+    int count(int32_t code)
+    {
+        const std::vector<int32_t> all = seen();
+        return static_cast<int>(std::count(all.begin(), all.end(), code));
+    }
+
+    std::mutex mutex;
+    std::vector<int32_t> codes;
 };
 
-template<class T>
-using Released = std::unique_ptr<T, Releaser>;
+/// Counts the notifications of parameters.
+struct CountingSink : OrvGenParam::ParamEventSink
+{
+    void OnParameterUpdate(OrvGenParam::Param *) override { ++count; }
+    int count = 0;
+};
 
 /// Everything in a list, which is released.
 template<class Entry, class List>

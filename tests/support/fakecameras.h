@@ -12,10 +12,10 @@
 #include <memory>
 #include <vector>
 
-// A camera system that does what it is told, also what a good one never does. Its objects count and
-// write down what is asked of them.
+// A camera system whose behaviour the test sets, also to what a good one never does. Its objects
+// record the calls.
 
-/// The parameters of an interface, as far as their values go by feature name.
+/// The values of an interface's parameters, by feature name.
 class FakeParameters final : public OrvGenParam::Array
 {
 public:
@@ -89,6 +89,18 @@ public:
     int32_t GetAccessState() const override { return state; }
     OrvCam::Interface *GetInterface() const override { return interface; }
     const char *GetId() const override { return "fake"; }
+};
+
+/// A device without parameters.
+class FakeDevice : public OrvCam::Device
+{
+public:
+    OrvGenParam::Array *GetParamArray(int32_t *) override { return nullptr; }
+    bool IsConnected() const override { return false; }
+    OrvCam::DeviceInfo *GetDeviceInfo() const override { return nullptr; }
+    int32_t RegisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    int32_t UnregisterEvent(int32_t, OrvCam::DeviceEventCallback, void *) override { return 0; }
+    void Release() override {}
 };
 
 /// What a fake hands out as a list, and how often it did.
@@ -195,11 +207,12 @@ class FakeSystem final : public OrvCam::System
 public:
     FakeLists<OrvCam::InterfaceList, OrvCam::Interface> interfaces;
     std::vector<uint32_t> masks; ///< of the requests for interfaces
+    int released = 0;
 
     OrvCam::InterfaceList *GetInterfaceSet(uint32_t typeMask) override
     {
         masks.push_back(typeMask);
         return interfaces.handOut();
     }
-    void Release() override {}
+    void Release() override { ++released; }
 };
