@@ -41,7 +41,7 @@
 
 namespace {
 
-const int notificationCount = 200;
+constexpr int notificationCount = 200;
 
 /// A given number of features of all types and levels, spread over the categories.
 class LargeNodeMap : public OrvGenApi::MemoryNodeMap

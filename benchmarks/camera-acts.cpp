@@ -49,9 +49,9 @@
 
 namespace {
 
-const int mostPages = 12;
-const int idleTime = 5000;     // ms
-const int timeout = 60000;     // ms
+constexpr int mostPages = 12;
+constexpr int idleTime = 5000; // ms
+constexpr int timeout = 60000; // ms
 const QChar notKnown = 0x2026; // an ellipsis
 
 using Device = OrvCam::Released<OrvCam::Device>;

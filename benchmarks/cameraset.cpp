@@ -14,7 +14,7 @@
 
 namespace {
 
-const int mostRegisters = 134; // of one READREG
+constexpr int mostRegisters = 134; // of one READREG
 
 TestCameraBehaviour behaviourFor(const Condition &condition, unsigned seed)
 {

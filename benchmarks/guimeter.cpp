@@ -8,7 +8,7 @@
 
 namespace {
 
-const int period = 5; // ms
+constexpr int period = 5; // ms
 
 double milliseconds(qint64 nanoseconds)
 {

@@ -3,8 +3,8 @@
 
 namespace {
 
-const int firstAddress = 0x10000000;
-const int registerSize = 8; // of the largest, a text
+constexpr int firstAddress = 0x10000000;
+constexpr int registerSize = 8; // of the largest, a text
 
 std::string element(const std::string &tag, const std::string &text)
 {

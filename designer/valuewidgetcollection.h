@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef VALUEWIDGETCOLLECTION_H
-#define VALUEWIDGETCOLLECTION_H
+#pragma once
 
 #include "valuewidgetinterface.h"
 
@@ -24,5 +23,3 @@ public:
 private:
     std::vector<std::unique_ptr<ValueWidgetInterface>> interfaces;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef VALUEWIDGETINTERFACE_H
-#define VALUEWIDGETINTERFACE_H
+#pragma once
 
 #include <QSize>
 #include <QString>
@@ -35,5 +34,3 @@ public:
 private:
     const ValueWidgetDescription description;
 };
-
-#endif

@@ -13,7 +13,7 @@ using OrvGui::OrvCameraSettings;
 
 namespace {
 
-const int64_t largestExact = int64_t(1) << 53; ///< of the integers that JSON's numbers can hold
+constexpr int64_t largestExact = int64_t(1) << 53; ///< of the integers that JSON's numbers can hold
 
 volatile std::sig_atomic_t isInterrupted = 0;
 

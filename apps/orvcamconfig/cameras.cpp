@@ -16,7 +16,7 @@ struct Cameras
     Q_DECLARE_TR_FUNCTIONS(Cameras)
 };
 
-const quint32 DiscoveryTime = 200; // ms, on all network adapters at once
+constexpr quint32 discoveryTime = 200; // ms, on all network adapters at once
 
 std::vector<OrvCam::Interface *> foundInterfaces(OrvCam::System &system)
 {
@@ -33,7 +33,7 @@ std::vector<OrvCam::Interface *> foundInterfaces(OrvCam::System &system)
 std::vector<OrvCam::DeviceInfo *> foundCameras(OrvCam::Interface &interface)
 {
     std::vector<OrvCam::DeviceInfo *> cameras;
-    interface.RefreshDevices(nullptr, DiscoveryTime);
+    interface.RefreshDevices(nullptr, discoveryTime);
     const OrvCam::Released<OrvCam::DeviceInfoList> list(interface.GetDeviceInfoSet());
     if (!list)
         return cameras;

@@ -20,11 +20,11 @@
 
 namespace {
 
-const char configurationName[] = "configuration";
-const char hiddenButtons[] = "configuration/hiddenButtons";
-const char treeName[] = "tree";
-const char treeIsOpen[] = "tree/open";
-const char treeState[] = "tree/state";
+constexpr char configurationName[] = "configuration";
+constexpr char hiddenButtons[] = "configuration/hiddenButtons";
+constexpr char treeName[] = "tree";
+constexpr char treeIsOpen[] = "tree/open";
+constexpr char treeState[] = "tree/state";
 
 QString key(const char *name)
 {

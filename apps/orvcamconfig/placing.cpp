@@ -11,8 +11,8 @@
 namespace {
 
 // Of a feature tree, in lines of text.
-const int treeWidth = 38;
-const int treeHeight = 47;
+constexpr int treeWidth = 38;
+constexpr int treeHeight = 47;
 
 /// A window beside another may be narrower than it wants to be, but no more than this.
 int leastWidth(int wanted)

@@ -10,7 +10,7 @@
 
 namespace {
 
-const char platformVariable[] = "QT_QPA_PLATFORM";
+constexpr char platformVariable[] = "QT_QPA_PLATFORM";
 
 bool isOffscreen()
 {
@@ -39,7 +39,8 @@ Attempt *attempt = nullptr;
         qputenv(platformVariable, "offscreen");
         execv("/proc/self/exe", attempt->arguments);
     }
-    const QString reason = attempt->messages.first().text.trimmed().section(QLatin1Char('\n'), 0, 0);
+    const QString reason =
+        attempt->messages.first().text.trimmed().section(QLatin1Char('\n'), 0, 0);
     std::fprintf(stderr, "orvcamconfig: %s\n", qPrintable(attempt->complaint.arg(reason)));
     std::_Exit(EXIT_FAILURE);
 }

@@ -11,9 +11,9 @@
 
 namespace {
 
-const char leftKey[] = "trees/left";
-const char rightKey[] = "trees/right";
-const char geometryKey[] = "geometry";
+constexpr char leftKey[] = "trees/left";
+constexpr char rightKey[] = "trees/right";
+constexpr char geometryKey[] = "geometry";
 
 } // namespace
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef GALLERY_H
-#define GALLERY_H
+#pragma once
 
 #include <QList>
 #include <QPixmap>
@@ -39,5 +38,3 @@ private:
 
     QList<QtOrvSpinBox *> popUps;
 };
-
-#endif

@@ -1,6 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-#ifndef ORVCAMERAAPI_ARAVIS_H
-#define ORVCAMERAAPI_ARAVIS_H
+#pragma once
 
 /*
  * For programs that acquire images with Aravis: shows the windows of this library for the program's
@@ -61,6 +60,4 @@ ORVCAMERAAPI_EXPORT struct _ArvDevice *OrvCam_GetArvDevice(const OrvCamDevice *d
 
 #ifdef __cplusplus
 }
-#endif
-
 #endif

@@ -1,6 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-#ifndef ORVCAMERAAPI_H
-#define ORVCAMERAAPI_H
+#pragma once
 
 /*
  * The C functions of libOrvCameraApi: they find cameras, open one, and return its parameters. C++
@@ -182,6 +181,4 @@ ORVCAMERAAPI_EXPORT void OrvGenParam_ReleaseNodeMap(OrvGenApiNodeMap *nodeMap);
 
 #ifdef __cplusplus
 }
-#endif
-
 #endif

@@ -1,6 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-#ifndef ORVGENPARAMAPI_H
-#define ORVGENPARAMAPI_H
+#pragma once
 
 /*
  * The C functions for the parameters of a camera, or of a description without a camera.
@@ -207,6 +206,4 @@ ORVCAMERAAPI_EXPORT void OrvGenParam_Unwatch(OrvGenParamWatch *watch);
 
 #ifdef __cplusplus
 }
-#endif
-
 #endif

@@ -26,7 +26,7 @@ namespace Limits = OrvCameraIo::Limits;
 
 namespace {
 
-const char magic[] = "OrvCamera description 1\n";
+constexpr char magic[] = "OrvCamera description 1\n";
 
 /// What has been half written for so long was left behind, in seconds.
 constexpr std::time_t abandonedAfter = 3600;

@@ -19,11 +19,11 @@ public:
     using Address = Registers::Address;
 
     /// In bytes; addresses start at 0, and so do all registers.
-    static constexpr std::size_t Size = 0x10000;
+    static constexpr std::size_t size = 0x10000;
 
     static constexpr bool holds(std::uint64_t address, std::size_t length)
     {
-        return address <= Size && length <= Size - address;
+        return address <= size && length <= size - address;
     }
 
     std::uint32_t read(Address address) const;
@@ -40,7 +40,7 @@ public:
     void writeBlock(Address address, const std::vector<unsigned char> &bytes);
 
 private:
-    std::vector<unsigned char> m_bytes = std::vector<unsigned char>(Size);
+    std::vector<unsigned char> m_bytes = std::vector<unsigned char>(size);
 };
 
 } // namespace OrvSimulation

@@ -9,7 +9,7 @@ namespace OrvGui {
 
 namespace {
 
-const char platformVariable[] = "QT_QPA_PLATFORM";
+constexpr char platformVariable[] = "QT_QPA_PLATFORM";
 
 /// What Qt is to try in a Wayland session, or nothing for what it tries by itself. The ids of
 /// windows that hosts hand over are those of X, which most such sessions speak, too. Without X, Qt

@@ -1,6 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-#ifndef ORVCAMERAGUIAPI_H
-#define ORVCAMERAGUIAPI_H
+#pragma once
 
 /*
  * The C functions of libOrvCameraGuiApi: ready-made windows for programs in any language.
@@ -242,6 +241,4 @@ ORVCAMERAGUIAPI_EXPORT int CompareCameraSettings(const char *fileName, OrvGenApi
 
 #ifdef __cplusplus
 }
-#endif
-
 #endif

@@ -13,7 +13,7 @@ using namespace OrvGui;
 
 namespace {
 
-const char scrollAreaName[] = "screenScrollArea";
+constexpr char scrollAreaName[] = "screenScrollArea";
 
 /// Brings the size hint up to date. Layouts of hidden widgets do not notify their parents.
 void activateLayouts(QWidget *widget)

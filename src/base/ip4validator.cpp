@@ -4,8 +4,8 @@
 #include <QStringList>
 
 namespace {
-const int groupCount = 4;
-const unsigned int groupMax = 255;
+constexpr int groupCount = 4;
+constexpr unsigned int groupMax = 255;
 } // namespace
 
 IP4Validator::IP4Validator(QObject *parent) : QValidator(parent) {}

@@ -1,6 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-#ifndef ORVCAMERAGUIAPI_VERSION_H
-#define ORVCAMERAGUIAPI_VERSION_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 
@@ -32,6 +31,4 @@ ORVCAMERAGUIAPI_EXPORT const char *OrvCameraGuiApi_GetVersionText(void);
 
 #ifdef __cplusplus
 }
-#endif
-
 #endif

@@ -9,7 +9,7 @@ namespace OrvGui {
 namespace {
 
 // 4.5 is what accessibility asks for; thin strokes are painted a little paler than their colour.
-const double minContrast = 5;
+constexpr double minContrast = 5;
 
 double linear(double component)
 {

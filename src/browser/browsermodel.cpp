@@ -22,8 +22,8 @@ namespace OrvGui {
 
 namespace {
 
-const int nameColumn = 0;
-const int valueColumn = 1;
+constexpr int nameColumn = 0;
+constexpr int valueColumn = 1;
 
 GenApi::IValue *featureOf(const QModelIndex &index)
 {

@@ -8,9 +8,9 @@ namespace OrvGui {
 
 namespace {
 
-const char widthMark[] = "&amp;W";
-const char levelMark[] = "&amp;V";
-const char ownMark[] = "&amp;B";
+constexpr char widthMark[] = "&amp;W";
+constexpr char levelMark[] = "&amp;V";
+constexpr char ownMark[] = "&amp;B";
 
 const QLatin1String searchKey("searchTexts");
 const QLatin1String favouritesKey("favourites");

@@ -20,7 +20,7 @@ namespace OrvGui {
 namespace {
 
 /// More columns are no small table.
-const int maxColumns = 30;
+constexpr int maxColumns = 30;
 
 QString nameOf(GenApi::IValue *feature)
 {

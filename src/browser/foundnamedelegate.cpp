@@ -12,7 +12,7 @@ namespace OrvGui {
 namespace {
 
 // How much of the mark's own colour is mixed into the background.
-const double markShare = 0.55;
+constexpr double markShare = 0.55;
 const QColor markColor(0xff, 0xc1, 0x07);
 
 } // namespace

@@ -29,18 +29,18 @@ namespace OrvGui {
 
 namespace {
 
-const int nameColumn = 0;
+constexpr int nameColumn = 0;
 
 /// More rows are not unfolded by a search.
-const int maxUnfolded = 1000;
+constexpr int maxUnfolded = 1000;
 
 // In the tree's state text.
-const char pathEnd[] = "&lt;";
-const char widthMark[] = "&amp;W";
+constexpr char pathEnd[] = "&lt;";
+constexpr char widthMark[] = "&amp;W";
 
 // As around the tree.
-const int margin = 11;
-const int spacing = 6;
+constexpr int margin = 11;
+constexpr int spacing = 6;
 
 GenApi::IValue *featureOf(const QModelIndex &index)
 {

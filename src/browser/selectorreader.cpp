@@ -18,7 +18,7 @@ namespace OrvGui {
 namespace {
 
 /// More values of a selector are no small table.
-const int64_t maxEntries = 64;
+constexpr int64_t maxEntries = 64;
 
 QString reasonOf(const GenICam::GenericException &exception)
 {

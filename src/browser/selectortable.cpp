@@ -30,8 +30,8 @@ namespace OrvGui {
 namespace {
 
 // Of the window, in lines of text.
-const int linesOfWidth = 32;
-const int linesOfHeight = 21;
+constexpr int linesOfWidth = 32;
+constexpr int linesOfHeight = 21;
 
 const int TextRole = Qt::UserRole; ///< of a cell: GenICam's text
 

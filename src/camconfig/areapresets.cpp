@@ -13,8 +13,8 @@ namespace OrvGui {
 
 namespace {
 
-const qint64 qfhdWidth = 3840;
-const qint64 qfhdHeight = 2160;
+constexpr qint64 qfhdWidth = 3840;
+constexpr qint64 qfhdHeight = 2160;
 
 bool read(int64_t (Int::*get)(int32_t *) const, const Int *param, qint64 &value)
 {

@@ -20,7 +20,7 @@ struct Row
     const char *feature;
 };
 
-const int iconExtent = 48;
+constexpr int iconExtent = 48;
 
 using Ui = Ui_OrvCamConfigAboutDialog;
 

@@ -20,11 +20,11 @@ namespace OrvGui {
 
 namespace {
 
-const double fineSteps = 64.0;
+constexpr double fineSteps = 64.0;
 
 /// Registers may have a far larger range. The slider counts its steps in an int.
 const double largestFactor = DigitalGain::step * std::numeric_limits<int>::max();
-const qint64 mostDoublings = 27;
+constexpr qint64 mostDoublings = 27;
 
 /// The number of doublings stays where powers of two make sense.
 DigitalGain::Parts read(const FeatureReader &reader, int64_t (Int::*get)(int32_t *) const,

@@ -14,7 +14,7 @@ namespace OrvGui {
 
 namespace {
 
-const qint64 usualPixelClock = 160;
+constexpr qint64 usualPixelClock = 160;
 
 /// The largest number that a widget can show.
 const qint64 largest = std::numeric_limits<int>::max();

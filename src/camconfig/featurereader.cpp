@@ -20,7 +20,7 @@ namespace OrvGui {
 namespace {
 
 /// A value that changes faster than it can be read is shown after so many.
-const int maxRounds = 3;
+constexpr int maxRounds = 3;
 
 LookAhead *lookAheadOf(const Array *array)
 {

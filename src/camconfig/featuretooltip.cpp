@@ -14,7 +14,7 @@ namespace OrvGui {
 namespace {
 
 /// Of a widget, the tool tip that it has got here.
-const char given[] = "orvFeatureToolTip";
+constexpr char given[] = "orvFeatureToolTip";
 
 QString escaped(const char *text)
 {

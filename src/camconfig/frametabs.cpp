@@ -17,8 +17,8 @@ namespace OrvGui {
 
 namespace {
 
-const char frameAsName[] = "NumberOfFrameAs";
-const char frameBsName[] = "NumberOfFrameBs";
+constexpr char frameAsName[] = "NumberOfFrameAs";
+constexpr char frameBsName[] = "NumberOfFrameBs";
 
 OrvGenParam::Int *lineTimeOf(const OrvGenParam::Array *array)
 {

@@ -23,7 +23,7 @@ namespace {
 
 /// The property of a button whose entry's value cannot be an id: it exceeds an int, or is -1, the
 /// id of no button.
-const char valueBeyondIds[] = "orvEntryValue";
+constexpr char valueBeyondIds[] = "orvEntryValue";
 
 bool isId(qint64 value)
 {

@@ -13,7 +13,7 @@ namespace OrvGui {
 
 namespace {
 
-const int unityGain = 256;
+constexpr int unityGain = 256;
 
 } // namespace
 

@@ -40,8 +40,8 @@ namespace OrvGui {
 
 namespace {
 
-const char periodName[] = "Frame_FixedFramePeriodValue";
-const int sizeInterval = 1000; // ms
+constexpr char periodName[] = "Frame_FixedFramePeriodValue";
+constexpr int sizeInterval = 1000; // ms
 
 QString microsecondsCaption()
 {

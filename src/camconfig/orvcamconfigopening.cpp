@@ -26,8 +26,8 @@ namespace OrvGui {
 
 namespace {
 
-const int patience = 300;      // ms until the dialog is shown
-const int progressPeriod = 50; // ms
+constexpr int patience = 300;      // ms until the dialog is shown
+constexpr int progressPeriod = 50; // ms
 
 /// What a camera's own library does not tell in words is told by the code.
 QString reasonOf(int32_t code)

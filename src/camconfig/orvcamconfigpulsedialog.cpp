@@ -14,7 +14,7 @@ namespace OrvGui {
 
 namespace {
 
-const double microsecondsPerSecond = 1e6;
+constexpr double microsecondsPerSecond = 1e6;
 
 QString microsecondsSuffix()
 {

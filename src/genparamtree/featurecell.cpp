@@ -16,15 +16,15 @@ namespace OrvGui {
 
 namespace {
 
-const int nameColumn = 0;
+constexpr int nameColumn = 0;
 
 // What of the text's colour is in a background that has to be made up.
-const double alternateShare = 0.06;
-const double categoryShare = 0.22;
+constexpr double alternateShare = 0.06;
+constexpr double categoryShare = 0.22;
 
 // Beyond, a number is more easily read with an exponent.
-const double plainMin = 1e-5;
-const double plainMax = 1e15;
+constexpr double plainMin = 1e-5;
+constexpr double plainMax = 1e15;
 
 QString withoutExponent(double value, int precision, const QLocale &locale)
 {

@@ -7,7 +7,7 @@
 #include <iterator>
 
 namespace {
-const char macAddressFeature[] = "GevMACAddress";
+constexpr char macAddressFeature[] = "GevMACAddress";
 
 const char *const ipAddressFeatures[] = {
     "GevCurrentIPAddress",

@@ -27,7 +27,7 @@
 
 namespace {
 
-const int64_t spinBoxMax = 0x7fffffff;
+constexpr int64_t spinBoxMax = 0x7fffffff;
 
 GenApi::CValuePtr nodeOf(const QModelIndex &index)
 {

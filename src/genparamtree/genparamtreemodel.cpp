@@ -20,8 +20,8 @@
 
 namespace {
 
-const int nameColumn = 0;
-const int valueColumn = 1;
+constexpr int nameColumn = 0;
+constexpr int valueColumn = 1;
 
 QVariant longVariant(int64_t value)
 {

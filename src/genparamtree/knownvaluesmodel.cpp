@@ -14,7 +14,7 @@ namespace OrvGui {
 
 namespace {
 
-const int valueColumn = 1;
+constexpr int valueColumn = 1;
 
 GenApi::IValue *featureOf(const QModelIndex &index)
 {

@@ -19,17 +19,17 @@ namespace OrvGui {
 namespace {
 
 // The marks of a state text. They stand in saved states as they are.
-const char pathEnd[] = "&lt;";
-const char widthMark[] = "&amp;W";
-const char visibilityMark[] = "&amp;V";
-const char pathSeparator[] = "/";
+constexpr char pathEnd[] = "&lt;";
+constexpr char widthMark[] = "&amp;W";
+constexpr char visibilityMark[] = "&amp;V";
+constexpr char pathSeparator[] = "/";
 
-const int nameColumn = 0;
-const int valueColumn = 1;
+constexpr int nameColumn = 0;
+constexpr int valueColumn = 1;
 
 // All the height for the tree; the description is a strip that the user can drag open.
-const int treePaneSize = 1000;
-const int otherPaneSize = 10;
+constexpr int treePaneSize = 1000;
+constexpr int otherPaneSize = 10;
 
 /// Null for an index without a feature.
 GenApi::IValue *featureOf(const QModelIndex &index)

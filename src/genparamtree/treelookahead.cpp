@@ -20,14 +20,14 @@ using Ask = TreeLookAhead::Ask;
 
 /// What is missing again as soon as it was read, because it outdates faster than that or because it
 /// was changed in between, is read again after so many milliseconds.
-const int repetitionPause = 100;
+constexpr int repetitionPause = 100;
 
 /// While something is read, what has come so far is shown that often.
-const int progressPeriod = 100;
+constexpr int progressPeriod = 100;
 
 /// For so long something else waits for what is being read: a new request would read once more what
 /// is on its way.
-const int replacementPause = 300;
+constexpr int replacementPause = 300;
 
 bool covers(const std::map<GenApi::IValue *, TreeLookAhead::Extent> &extents,
             GenApi::IValue *feature, TreeLookAhead::Extent extent)

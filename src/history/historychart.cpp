@@ -23,10 +23,10 @@ namespace OrvGui {
 
 namespace {
 
-const qint64 minute = 60 * 1000; // ms
-const int margin = 6;
-const double longestNumber = 1e12; // what is larger is shown with an exponent
-const double mostLines = 6;        // of the grid, across
+constexpr qint64 minute = 60 * 1000; // ms
+constexpr int margin = 6;
+constexpr double longestNumber = 1e12; // what is larger is shown with an exponent
+constexpr double mostLines = 6;        // of the grid, across
 
 /// The next one of 1, 2, 5, 10, …
 double roundStep(double step)

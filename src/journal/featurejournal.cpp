@@ -25,8 +25,8 @@ namespace OrvGui {
 
 namespace {
 
-const int mostSteps = 1000;
-const int longestValue = 40; // characters, in the text of a step
+constexpr int mostSteps = 1000;
+constexpr int longestValue = 40; // characters, in the text of a step
 
 using Journals = QHash<INodeMap *, std::weak_ptr<FeatureJournal>>;
 

@@ -12,7 +12,7 @@ namespace OrvGui {
 namespace {
 
 /// Between two notches of a wheel that is turned in one go.
-const int wheelPause = 500; // ms
+constexpr int wheelPause = 500; // ms
 
 const QKeyEvent *keyEvent(const QEvent *event)
 {

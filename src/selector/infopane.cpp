@@ -12,8 +12,8 @@
 
 namespace {
 
-const int labelColumn = 0;
-const int valueColumn = 1;
+constexpr int labelColumn = 0;
+constexpr int valueColumn = 1;
 
 } // namespace
 

@@ -40,24 +40,24 @@ namespace {
 
 using AddressText = QString (*)(int64_t);
 
-const int buttonTextMargin = 10;
+constexpr int buttonTextMargin = 10;
 
 // Of the dialog, in lines of text.
-const int linesOfWidth = 24;
-const int linesOfHeight = 34;
-const int tightLines = 25;
+constexpr int linesOfWidth = 24;
+constexpr int linesOfHeight = 34;
+constexpr int tightLines = 25;
 
 /// An adapter whose last byte is not above this is given a neighbour above it, others one below.
-const int64_t lastByteWithNeighbourAbove = 128;
+constexpr int64_t lastByteWithNeighbourAbove = 128;
 
 /// The most rows that the panes have, those of a GigE Vision interface and camera.
-const int interfaceFacts = 6;
-const int deviceFacts = 11;
+constexpr int interfaceFacts = 6;
+constexpr int deviceFacts = 11;
 
-const int leastTreeRows = 4;
+constexpr int leastTreeRows = 4;
 
 /// What is over sooner needs no dialog that shows it (milliseconds).
-const int progressDelay = 300;
+constexpr int progressDelay = 300;
 
 OrvCam::DeviceInfo *cameraAt(const QModelIndex &index)
 {

@@ -15,7 +15,7 @@ namespace OrvGui {
 namespace {
 
 /// Of two floating-point numbers, in proportion; some tools write no more than six digits.
-const double equalShare = 1e-6;
+constexpr double equalShare = 1e-6;
 
 [[noreturn]] void refuse(const QString &why)
 {

@@ -23,8 +23,8 @@ namespace {
 
 using Result = OrvCameraSettings::Result;
 
-const int longestCommand = 10000; // ms
-const int commandPeriod = 50;     // ms
+constexpr int longestCommand = 10000; // ms
+constexpr int commandPeriod = 50;     // ms
 
 void addProblems(const SettingProblems &problems, Result *result)
 {

@@ -12,7 +12,7 @@ namespace OrvGui {
 namespace {
 
 /// More positions than cameras have entries in a look-up table.
-const int64_t mostPositions = 65536;
+constexpr int64_t mostPositions = 65536;
 
 QStringList positionsOfInteger(GenApi::IInteger *selector)
 {

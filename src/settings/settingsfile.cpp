@@ -11,11 +11,11 @@ namespace OrvGui {
 
 namespace {
 
-const char identity[] = "# {05D8C294-F295-4dfb-9D01-096BD04049F4}";
-const char formatLine[] = "# GenApi persistence file (version 3.1.0)";
-const char byteOrderMark[] = "\xEF\xBB\xBF";
-const char deviceMark[] = "Device = ";
-const char deviceEnd[] = " -- ";
+constexpr char identity[] = "# {05D8C294-F295-4dfb-9D01-096BD04049F4}";
+constexpr char formatLine[] = "# GenApi persistence file (version 3.1.0)";
+constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
+constexpr char deviceMark[] = "Device = ";
+constexpr char deviceEnd[] = " -- ";
 
 /// For messages: a damaged file can have very long lines.
 QString shown(const QString &text)

@@ -15,8 +15,8 @@ namespace OrvGui {
 
 namespace {
 
-const int delayOfDialog = 300; // ms until the dialog is shown
-const int progressPeriod = 50; // ms
+constexpr int delayOfDialog = 300; // ms until the dialog is shown
+constexpr int progressPeriod = 50; // ms
 
 /// Stays until the work has ended: after "Cancel", too, selectors may be away.
 class ProgressDialog : public QDialog

@@ -14,7 +14,7 @@ namespace OrvGui {
 namespace {
 
 /// One answer may get lost.
-const int mostTimeouts = 2;
+constexpr int mostTimeouts = 2;
 
 Settings settingsOf(const SettingProblems &problems)
 {

@@ -13,7 +13,7 @@ namespace OrvGui {
 
 namespace {
 
-const char selectorName[] = "UserSetSelector";
+constexpr char selectorName[] = "UserSetSelector";
 
 } // namespace
 

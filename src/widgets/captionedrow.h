@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef CAPTIONEDROW_H
-#define CAPTIONEDROW_H
+#pragma once
 
 class QHBoxLayout;
 class QLabel;
@@ -27,5 +26,3 @@ struct CaptionedRow
     QLabel *leftLabel = nullptr;
     QLabel *topLabel = nullptr;
 };
-
-#endif

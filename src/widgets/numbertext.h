@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef NUMBERTEXT_H
-#define NUMBERTEXT_H
+#pragma once
 
 #include <QLocale>
 #include <QString>
@@ -32,5 +31,3 @@ bool read(const QDoubleSpinBox *box, const QString &text, double *number);
 void localizePoint(const QDoubleSpinBox *box, QString &text);
 
 } // namespace NumberText
-
-#endif

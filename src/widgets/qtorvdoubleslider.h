@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVDOUBLESLIDER_H
-#define QTORVDOUBLESLIDER_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 
@@ -115,5 +114,3 @@ private:
     Q_DISABLE_COPY(QtOrvDoubleSlider)
     const QScopedPointer<QtOrvDoubleSliderPrivate> d;
 };
-
-#endif

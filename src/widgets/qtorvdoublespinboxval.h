@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVDOUBLESPINBOXVAL_H
-#define QTORVDOUBLESPINBOXVAL_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 
@@ -67,5 +66,3 @@ private:
     bool m_validate = false;
     bool m_validateTyping = true;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVGAINSLIDER_H
-#define QTORVGAINSLIDER_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 
@@ -101,5 +100,3 @@ private:
     Q_DISABLE_COPY(QtOrvGainSlider)
     const QScopedPointer<QtOrvGainSliderPrivate> d;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVSLIDER_H
-#define QTORVSLIDER_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 
@@ -139,5 +138,3 @@ private:
     Q_DISABLE_COPY(QtOrvSlider)
     const QScopedPointer<QtOrvSliderPrivate> d;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVSLIDERSPINBOX_H
-#define QTORVSLIDERSPINBOX_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 #include "qtorvslider.h"
@@ -100,5 +99,3 @@ private:
     Q_DISABLE_COPY(QtOrvSliderSpinBox)
     const QScopedPointer<QtOrvSliderSpinBoxPrivate> d;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVSPINBOX_H
-#define QTORVSPINBOX_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 #include "qtorvslider.h"
@@ -125,5 +124,3 @@ private:
     Q_DISABLE_COPY(QtOrvSpinBox)
     const QScopedPointer<QtOrvSpinBoxPrivate> d;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef QTORVSPINBOXVAL_H
-#define QTORVSPINBOXVAL_H
+#pragma once
 
 #include "orvcameraguiapi_export.h"
 
@@ -66,5 +65,3 @@ private:
     bool m_validate = false;
     bool m_validateTyping = true;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef SLIDERFACE_H
-#define SLIDERFACE_H
+#pragma once
 
 #include <Qt>
 
@@ -31,5 +30,3 @@ struct SliderFace
     QLabel *minLabel;
     QSlider *slider;
 };
-
-#endif

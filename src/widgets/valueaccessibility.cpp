@@ -22,7 +22,7 @@
 namespace {
 
 /// The property of a list whose accessible name counts.
-const char named[] = "orvNamed";
+constexpr char named[] = "orvNamed";
 
 QString shown(const QtOrvSlider *slider)
 {

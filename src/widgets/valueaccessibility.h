@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef VALUEACCESSIBILITY_H
-#define VALUEACCESSIBILITY_H
+#pragma once
 
 class QComboBox;
 class QString;
@@ -24,5 +23,3 @@ void install();
 void setName(QComboBox *list, const QString &name);
 
 } // namespace ValueAccessibility
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef VALUEGRID_H
-#define VALUEGRID_H
+#pragma once
 
 #include <QtGlobal>
 
@@ -29,5 +28,3 @@ int snapped(int value, int minimum, int maximum, int step);
 double stepFraction(double distance, double step);
 
 } // namespace ValueGrid
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#ifndef VALUEPAIR_H
-#define VALUEPAIR_H
+#pragma once
 
 #include "widgets/captionedrow.h"
 #include "widgets/qtorvdoubleslider.h"
@@ -124,5 +123,3 @@ private:
     bool dragging = false; // the user holds the slider: the spin box shows its value, no more
     bool leading = false;  // the spin box moves the slider
 };
-
-#endif

@@ -23,9 +23,9 @@
 namespace {
 
 const char *const serial = "MOODY";
-const uint32_t frameSelector = 0x1400;
-const uint32_t pulseEnable = 0x1520;
-const uint32_t temperature = 0x1600;
+constexpr uint32_t frameSelector = 0x1400;
+constexpr uint32_t pulseEnable = 0x1520;
+constexpr uint32_t temperature = 0x1600;
 
 QStringList warnings;
 

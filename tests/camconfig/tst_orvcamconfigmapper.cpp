@@ -44,10 +44,10 @@ struct Camera
     OrvGenParam::Int *length;
 };
 
-const char intText[] = "Error while setting the Länge integer value!\r\nError Code: %1";
-const char enumText[] = "Error while setting the Quelle enumeration value!\r\nError Code: %1";
-const char booleanText[] = "Error while setting the Spiegel boolean value!\r\nError Code: %1";
-const char commandText[] = "Error while executing the Auslösen command!\r\nError Code: %1";
+constexpr char intText[] = "Error while setting the Länge integer value!\r\nError Code: %1";
+constexpr char enumText[] = "Error while setting the Quelle enumeration value!\r\nError Code: %1";
+constexpr char booleanText[] = "Error while setting the Spiegel boolean value!\r\nError Code: %1";
+constexpr char commandText[] = "Error while executing the Auslösen command!\r\nError Code: %1";
 
 /// A widget of a kind that can be bound, and how a user edits it.
 struct Control

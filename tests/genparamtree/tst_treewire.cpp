@@ -13,14 +13,14 @@
 
 namespace {
 
-const int delay = 150;        // of each answer, in milliseconds
+constexpr int delay = 150;    // of each answer, in milliseconds
 const QChar notKnown(0x2026); // an ellipsis
 
 // Under the thread sanitizer threads wait for each other where they do not otherwise.
 #ifdef __SANITIZE_THREAD__
-const int longestAllowed = 10 * delay;
+constexpr int longestAllowed = 10 * delay;
 #else
-const int longestAllowed = delay;
+constexpr int longestAllowed = delay;
 #endif
 
 bool isPolled(uint32_t address)

@@ -11,7 +11,7 @@ namespace Looks {
 
 namespace {
 
-const double leastContrast = 4.5;
+constexpr double leastContrast = 4.5;
 
 // Of a text's height: the blank edge of a glyph.
 const qreal tolerance = 0.12;

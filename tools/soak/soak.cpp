@@ -35,8 +35,8 @@ using namespace OrvGui;
 
 namespace {
 
-const int stepsPerWindow = 40;
-const int warmUpRounds = 15;
+constexpr int stepsPerWindow = 40;
+constexpr int warmUpRounds = 15;
 
 /// One of the windows. It may be given a null device, which it has to give up the former one for.
 struct Window
