@@ -107,7 +107,7 @@ constexpr FrameStartValue frameStartValues[] = {
 std::string descriptionUrl()
 {
     char url[64];
-    std::snprintf(url, sizeof url, "Local:arv-fake-camera.xml;%zx;%zx", CameraMemory::Size,
+    std::snprintf(url, sizeof url, "Local:arv-fake-camera.xml;%zx;%zx", CameraMemory::size,
                   simulatedCameraDescriptionSize);
     return url;
 }
