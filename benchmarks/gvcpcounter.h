@@ -24,8 +24,8 @@ struct GvcpCommand
     bool isRead() const { return kind == ReadRegister || kind == ReadMemory; }
 };
 
-/// Listens on a network adapter, the loopback device unless told otherwise, to what clients send to
-/// GigE Vision cameras. Needs to be root of its network namespace.
+/// Listens on a network adapter, by default the loopback device, to what clients send to GigE
+/// Vision cameras. Needs to be root of its network namespace.
 class GvcpCounter
 {
 public:

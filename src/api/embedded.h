@@ -12,8 +12,8 @@ namespace OrvGui {
 /// A widget that fills a native window of its host, and follows its size.
 ///
 /// Its parent widget is the container that the holder has put around the host's window. Qt's
-/// containers show a foreign window inside a window of ours; a host wants the opposite. So the
-/// container stays hidden, and the widget gets a native window that is a child of the host's.
+/// containers show a foreign window inside a Qt window; a host needs the opposite. So the container
+/// stays hidden, and the widget gets a native window that is a child of the host's.
 template<class View>
 class Embedded : public View
 {

@@ -5,8 +5,8 @@
 
 namespace OrvGui {
 
-/// Has windows that are made from now on be in that language ("de", "de_AT"), or, when it is empty,
-/// in that of the locale. False, and nothing changes, when there is no translation. Takes an
+/// Sets the language of windows that are created from now on ("de", "de_AT"); when it is empty,
+/// that of the locale. False, and nothing changes, when there is no translation. Needs an
 /// application.
 bool setLanguage(const QString &language);
 

@@ -10,8 +10,8 @@ namespace OrvGui {
 
 class HostWindow;
 
-/// Owns what wraps a host's native window for a tree view. Made the view's child, so that it ends
-/// with the view.
+/// Owns the wrapper of a host's native window for a tree view. It becomes the view's child, so that
+/// it is destroyed with the view.
 class TreeViewParent : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     TreeViewParent();
     ~TreeViewParent() override;
 
-    /// Wraps the window of that native id, which stays what and where it is. Everything remains
-    /// null on a platform that knows no foreign windows, such as Wayland, and a warning says so.
+    /// Wraps the window of that native id, which is not changed. On a platform without foreign
+    /// windows, such as Wayland, all members stay null and a warning is written.
     void wrap(unsigned long nativeId);
 
     // Deleting the container deletes the window, too; hence the guarded pointers.

@@ -71,7 +71,7 @@ public:
     void freeze(const QVector<GenApi::IValue *> &features);
     void thaw();
 
-    /// Has all rows of the feature looked at anew.
+    /// Updates all rows of the feature.
     void refresh(const GenApi::IValue *feature);
 
     QModelIndex index(int row, int column,

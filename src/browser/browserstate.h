@@ -10,17 +10,16 @@
 
 namespace OrvGui {
 
-/// What a browser remembers from one run of its program to the next: the state text of its tree,
-/// and behind it the browser's own.
+/// The saved state of a browser: the state text of its tree, followed by the browser's own part.
 ///
-/// A text of the tree alone is one, too. The tree finds its part at the start of the whole, since
-/// it stops reading numbers at what it does not know; the browser's part has no names that it could
+/// The text of a tree alone is valid, too. A tree can load the text of a browser: it stops reading
+/// numbers at the first unknown character, and the browser's part contains no names that it could
 /// take for categories.
 class BrowserState
 {
 public:
-    /// Nothing for a text that is none: one without a width or level, or where they are no numbers,
-    /// or with a damaged part of the browser.
+    /// Nothing for an invalid text: without a width or level, with widths or levels that are no
+    /// numbers, or with a damaged part of the browser.
     static std::optional<BrowserState> fromText(const QByteArray &text);
     QByteArray toText() const;
 

@@ -14,10 +14,10 @@ class GenParamTreeModel;
 
 namespace OrvGui {
 
-/// What has become of the features of a tree since it was opened: which were changed, and from
-/// which value, and which have refused their last write.
+/// The changes of a tree's features since it was opened: the changed features with their former
+/// values, and the features whose last write was refused.
 ///
-/// The values of a feature that is selected differ by where its selectors were.
+/// A feature with selectors has a value for each of their values.
 class FeatureMarks : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
 
     bool isChanged() const { return !m_changes.isEmpty(); }
 
-    /// Of the features that have been changed, wherever their selectors are now.
+    /// Of the changed features, regardless of the present values of their selectors.
     FeatureSearch::Features changedFeatures() const;
     bool wasChanged(const GenApi::IValue *feature) const { return m_changes.contains(feature); }
 
@@ -48,17 +48,17 @@ public:
     /// Why the last write was refused; null if it was not.
     QString refusal(const GenApi::IValue *feature) const { return m_refusals.value(feature); }
 
-    /// Writes the earlier values back, the last change first; null means all features. What is
-    /// refused is marked, and stays changed.
+    /// Writes the earlier values back, the last change first; null means all features. A feature
+    /// that refuses is marked, and stays changed.
     void putBack(const GenApi::IValue *feature = nullptr);
 
-    /// For a write that went past the model. The texts may be written otherwise than the model's.
+    /// For a write that bypassed the model. The format of the texts may differ from the model's.
     void noteForeignWrite(GenApi::IValue *feature, const SelectorPlaces &places,
                           const QString &before, const QString &after);
     void noteRefusal(GenApi::IValue *feature, const QString &reason);
 
 signals:
-    /// The marks of the feature are others than before.
+    /// The marks of the feature have changed.
     void changed(GenApi::IValue *feature);
 
 private:

@@ -75,7 +75,7 @@ FeatureMenu::FeatureMenu(const QModelIndex &row, BrowserModel &shown, GenParamTr
             addSeparator();
         }
     } catch (const GenICam::GenericException &) {
-        // What the node cannot tell is not offered.
+        // Unavailable information is not offered.
     }
     addCategoryActions();
 }

@@ -15,9 +15,9 @@ namespace OrvGui {
 
 class BrowserModel;
 
-/// What can be done with a row of the browser.
+/// The context menu of a row of the browser.
 ///
-/// Copying and reading again it does itself; for the rest it says what is wanted.
+/// It copies and reads again by itself; the other entries emit signals.
 class FeatureMenu : public QMenu
 {
     Q_OBJECT

@@ -119,7 +119,7 @@ void FeatureSearch::add(GenApi::IValue *feature, int level)
         }
         collect(feature, own);
     } catch (const GenICam::GenericException &) {
-        // A node that cannot tell its texts is not found.
+        // A node whose texts are not available is not found.
     }
 }
 

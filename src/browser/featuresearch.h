@@ -27,7 +27,7 @@ public:
         std::vector<int> counts{0, 0, 0}; ///< of the features that appear at each level
     };
 
-    /// The root of all features, whatever their level; it must outlive the search. Null for none.
+    /// The root of the features of all levels; it must outlive the search. Null for none.
     explicit FeatureSearch(GenApi::IValue *root) : m_root(root) {}
 
     /// Whether tool tips and descriptions are searched, not names alone.
@@ -41,7 +41,7 @@ public:
 
     static QStringList wordsOf(const QString &text);
 
-    /// How many features the last search has looked at.
+    /// The number of features that the last search has compared.
     int looks() const { return m_looks; }
 
 private:

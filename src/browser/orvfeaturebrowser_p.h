@@ -73,8 +73,7 @@ public:
     void setJournal(const FeatureJournal::Pointer &newJournal);
     void record(GenApi::IValue *feature, const QString &earlier, const QString &after);
 
-    /// For a write to the same camera that went past the browser, so that it shows what was
-    /// changed.
+    /// For a write to the same camera that bypassed the browser, so that the change is marked.
     void noteWrite(const FeatureJournal::Write &write);
     void putBack(const GenApi::IValue *feature);
 
@@ -97,19 +96,19 @@ public:
 
     UndoActions *undoActions;
     FeatureJournal::Pointer journal; ///< of the node map; null without one
-    QHash<const GenApi::IValue *, FeatureJournal::State> writing; ///< what is written, before that
+    QHash<const GenApi::IValue *, FeatureJournal::State> writing; ///< former states during writes
     bool isRecording = false;
 
-    QTimer renarrow; ///< when what was changed is another set than before
+    QTimer renarrow; ///< when the set of changed features has changed
     QPointer<SelectorTable> table;
 
     GenApi::INodeMap *nodeMap = nullptr;
     QPointer<BrowserModel> shown; ///< null without features
-    BrowserState remembered;      ///< but for the tree's part while there are features
+    BrowserState remembered;      ///< without the tree's part while there are features
     QByteArray text;              ///< handed out by `saveState`
-    int higherLevel = 0;          ///< at which all is shown that was found
+    int higherLevel = 0;          ///< at which all found features are shown
 
-    /// What the tree looked like before it was narrowed.
+    /// The look of the tree before it was narrowed.
     struct Look
     {
         QByteArray paths; ///< of the expanded categories, as in the state text

@@ -27,10 +27,10 @@ struct SelectorPlace
 /// Those that a feature depends on; selectors of selectors come before these.
 using SelectorPlaces = QVector<SelectorPlace>;
 
-/// Where the selectors of a feature are now. Waits for the camera when that is not known.
+/// The present values of a feature's selectors. Waits for the camera when one is not known.
 SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model);
 
-/// Throws the exception of GenICam of the selector that cannot be moved.
+/// Throws the GenICam exception of a selector that cannot be moved.
 void moveTo(const SelectorPlaces &places, SelectorMove *move);
 
 } // namespace OrvGui

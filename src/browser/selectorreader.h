@@ -10,11 +10,11 @@
 
 namespace OrvGui {
 
-/// Reads features for all values of one of their selectors, on a thread of its own, and puts the
-/// selector back.
+/// Reads features for all values of one of their selectors, on a thread of its own, and restores
+/// the selector.
 ///
-/// While it runs the selector is elsewhere: let nothing be written to the camera, and have a
-/// `SelectorDetour` on the thread of the windows. What it reads of must outlive it.
+/// While it runs the selector is moved: prevent all writes to the camera, and keep a
+/// `SelectorDetour` on the GUI thread. The node map must outlive the reader.
 class SelectorReader : public QThread
 {
     Q_OBJECT
@@ -36,16 +36,16 @@ public:
     SelectorReader(GenApi::INodeMap *nodeMap, GenApi::IValue *selector,
                    const QVector<GenApi::IValue *> &features, QObject *parent = nullptr);
 
-    /// Ends the reading; waits until the selector is back.
+    /// Ends the reading; waits until the selector is restored.
     ~SelectorReader() override;
 
     /// When it has finished.
     const QVector<Row> &rows() const { return m_rows; }
 
-    /// What has ended the reading; null if nothing has.
+    /// The error that has ended the reading; null for none.
     QString failure() const { return m_failure; }
 
-    /// Of the feature, where its selectors are now.
+    /// The feature's value at the present values of its selectors.
     static Cell read(GenApi::IValue *feature);
 
 protected:

@@ -21,9 +21,9 @@ namespace OrvGui {
 /// The values of features for all values of one of their selectors, side by side: a row for each
 /// value of the selector, a column for each feature.
 ///
-/// The values are read in the background; the camera's other windows cannot be used in the
-/// meantime, which would write to the wrong place. A value that is entered is written at once, and
-/// one that is refused is marked with the reason.
+/// The values are read in the background. The camera's other windows are blocked during that time,
+/// because their writes would change the value of another selection. A value that is entered is
+/// written at once, and one that is refused is marked with the reason.
 class SelectorTable : public QDialog
 {
     Q_OBJECT

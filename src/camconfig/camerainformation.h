@@ -17,9 +17,9 @@ namespace OrvGui {
 
 class FeatureReader;
 
-/// Fills the dialog that says what this program is, and who the connected camera is.
+/// Fills the dialog with the information about this program and the connected camera.
 ///
-/// The dialog is a child of the widget it is made for; nothing more happens when that is gone.
+/// The dialog is a child of the given widget; nothing more is read when that is destroyed.
 class CameraInformation
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::CameraInformation)
@@ -28,8 +28,8 @@ public:
     explicit CameraInformation(QWidget *parent);
     ~CameraInformation();
 
-    /// Reads what the camera says of itself; without a camera, when `array` is null, or where it
-    /// says nothing, that is what the dialog says.
+    /// Reads the camera's information. The dialog says so when there is no camera (`array` is
+    /// null), or when a text is missing.
     void adjust(const FeatureReader &reader, OrvGenParam::Array *array);
 
     QDialog *dialog() const { return m_dialog; }

@@ -17,7 +17,7 @@ class DragWatcher : public QObject
     Q_OBJECT
 
 public:
-    /// What the user changes by the drag, in any unit.
+    /// Returns the value that the user changes by the drag, in any unit.
     using Value = std::function<double()>;
 
     /// Watches a `QSlider`, `QtOrvSlider` or `QtOrvDoubleSlider`. The value is compared at the

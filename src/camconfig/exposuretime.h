@@ -16,8 +16,8 @@ class FeatureReader;
 /// The exposure time and the frame period in microseconds, of the frame that a camera's features
 /// address. A camera counts the exposure in lines and pixel clocks, and the period in lines.
 ///
-/// Calculates with what was read last; writes nothing. The parameters belong to the array, which
-/// must outlive the object.
+/// Calculates with the values that were read last; writes nothing. The parameters belong to the
+/// array, which must outlive the object.
 class ExposureTime
 {
 public:
@@ -47,7 +47,7 @@ public:
     /// False when the camera lacks a part of the exposure.
     bool isComplete() const { return param(Lines) && param(Clocks); }
 
-    /// What cannot be read keeps its value; a pixel clock becomes the usual one.
+    /// Keeps a value that cannot be read, but sets such a pixel clock to the usual one.
     void readPixelClock(const FeatureReader &reader);
     void readLineTime(const FeatureReader &reader);
     void readParts(const FeatureReader &reader);

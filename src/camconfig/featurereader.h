@@ -17,7 +17,7 @@ class Param;
 
 namespace OrvGui {
 
-/// Reads the values that widgets show of a camera's parameters, without blocking the window for
+/// Reads the values of a camera's parameters that widgets show, without blocking the window for
 /// each answer of the camera.
 ///
 /// Before widgets are bound, `fetchNow` reads all values in a few transfers. Later reads run in the

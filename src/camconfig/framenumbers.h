@@ -12,8 +12,8 @@ namespace OrvGui {
 
 class FeatureReader;
 
-/// What a camera does in the frame that is selected, as text: empty where the camera lacks the
-/// feature or does not let it be read.
+/// The state of the selected frame as texts: empty where the camera lacks the feature or it cannot
+/// be read.
 struct FrameNumbers
 {
     QString width;

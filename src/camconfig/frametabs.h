@@ -25,7 +25,7 @@ class OrvCamConfigMapper;
 /// else depends on the output mode: while the camera outputs one frame only, that frame stays
 /// selected and the numbers of frames are not bound.
 ///
-/// One object per device. Its end, which a write may lead to, ends everything that is under way.
+/// One object per device. Destroying it, which a write may lead to, ends all pending work.
 /// The arguments must outlive it.
 class FrameTabs : public QObject
 {

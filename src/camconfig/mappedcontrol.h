@@ -32,7 +32,7 @@ public:
 
     virtual void connectSignals() {}
 
-    /// Enables or disables the widget whatever the parameter is.
+    /// Enables or disables the widget regardless of the parameter.
     virtual void setEnabled(bool isEnabled);
 
     /// The same, but what cannot be chosen at this moment stays disabled.

@@ -28,7 +28,7 @@ namespace OrvGui {
 class FeatureJournal;
 class Showing;
 
-/// What the controls of a mapper share: how parameters are read and written.
+/// Reads and writes parameters; shared by the controls of a mapper.
 ///
 /// Each control holds it, so that it outlives the mapper when a receiver of a control's signals
 /// destroys the mapper.

@@ -8,7 +8,7 @@ class QProgressBar;
 
 namespace OrvGui {
 
-/// Shows how far the opening of a camera has come; rejected when the user cancels it.
+/// Shows the progress of opening a camera; rejected when the user cancels it.
 class OpeningProgress : public QDialog
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class OpeningProgress : public QDialog
 public:
     explicit OpeningProgress(const QString &camera, QWidget *parent = nullptr);
 
-    /// How much of the camera's description has come; below 0 while it is not known.
+    /// The downloaded share of the camera's description; below 0 while it is not known.
     void setShare(int percent);
 
 private:

@@ -22,8 +22,8 @@ class UndoActions;
 /// The private part of a feature dialog: builds the form once, and binds it to a device as often as
 /// another one is set.
 ///
-/// Derive from it for each dialog. `bind` is little but a list of what is bound to what; a handler
-/// of the dialog's own is connected by `on`, after the widget has been bound, because binding
+/// Derive from it for each dialog. `bind` is mostly a list of bindings; a handler of the dialog's
+/// own is connected by `connectTo`, after the widget has been bound, because binding
 /// disconnects everything else.
 class OrvCamConfigDialogPrivate
 {
@@ -58,10 +58,10 @@ protected:
     /// Builds the form on `q`; called once, before anything else.
     virtual void buildForm() = 0;
 
-    /// What `bind` is going to read.
+    /// The features that `bind` is going to read.
     virtual FeatureReader::Names features() const = 0;
 
-    /// Gives up what a dialog holds of the device apart from its bindings.
+    /// Drops the references to the device that are not bindings.
     virtual void release() {}
 
     /// Binds the form to `array`, which is not null. Writes nothing: another device that is set
@@ -90,8 +90,9 @@ protected:
         mapper.mapCommandParam(array->GetCommand(feature), button, timer);
     }
 
-    /// Has the sink notified of the parameter until the next device is set; null for null. What is
-    /// watched again is notified of after all that have been registered meanwhile.
+    /// Registers the sink with the parameter until the next device is set; returns the parameter,
+    /// which may be null. A repeated call moves the sink behind all sinks that were registered in
+    /// between.
     template<class Kind>
     Kind *watched(Kind *param, OrvGenParam::ParamEventSink *sink)
     {

@@ -48,7 +48,7 @@ QString microsecondsCaption()
     return OrvCamConfigFrameABDialog::tr("[%1]:").arg(Microseconds::unit());
 }
 
-/// What the widget has been set to, whatever the widgets around it are.
+/// Whether the widget itself is enabled, regardless of its parents.
 bool isUsable(const QWidget *widget)
 {
     return !widget->testAttribute(Qt::WA_ForceDisabled);

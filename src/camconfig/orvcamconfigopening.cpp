@@ -29,7 +29,7 @@ namespace {
 constexpr int patience = 300;      // ms until the dialog is shown
 constexpr int progressPeriod = 50; // ms
 
-/// What a camera's own library does not tell in words is told by the code.
+/// The reason of a failure by its error code; empty for a code without a text.
 QString reasonOf(int32_t code)
 {
     switch (code) {
@@ -50,7 +50,7 @@ QString reasonOf(int32_t code)
     }
 }
 
-/// With what the platform has to say where the code leaves that open.
+/// The reason of a failure, with the platform's text if the code alone is not specific.
 QString explained(const DeviceOpener::Result &result)
 {
     const QString reason = reasonOf(result.error);
@@ -88,14 +88,14 @@ struct OrvCamConfigOpening::Job
     std::atomic<bool> isThreadDone{false};
 
     std::mutex mutex;            ///< guards the next two
-    QObject *receiver = nullptr; ///< null when nobody wants the device any more
+    QObject *receiver = nullptr; ///< null when the device is no longer needed
     DeviceOpener::Result result;
 
     QEventLoop *loop = nullptr; ///< of the GUI thread
     bool isOver = false;        ///< there, too
 };
 
-/// The threads that open cameras, also those that nobody waits for any more.
+/// The threads that open cameras, including those of cancelled openings.
 class OrvCamConfigOpening::Workers
 {
 public:

@@ -11,20 +11,19 @@ class Array;
 
 namespace OrvGui {
 
-/// What a camera does in the frame that is not selected, read by moving the frame selector to it
-/// and back.
+/// The numbers of the frame that is not selected, read by moving the frame selector to it and back.
 ///
-/// While the selector is away, whatever is written to the camera goes to the wrong frame. So this
-/// is for a camera that has no other user yet, on the thread that opens it; a window moves the
-/// selector of its camera without letting go of the GUI thread.
+/// While the selector is moved, a write to the camera changes the wrong frame. Use this for a
+/// camera that has no other user yet, on the thread that opens it; a window moves the selector of
+/// its camera without returning to the event loop.
 class OtherFrame
 {
 public:
     static constexpr const char *frameA = "FrameA";
     static constexpr const char *frameB = "FrameB";
 
-    /// Nothing is known afterwards when the camera has not let all be read, has not taken the
-    /// selector back, or cannot be looked at without transfers.
+    /// No numbers are known afterwards when a read has failed, when the selector could not be
+    /// restored, or when the camera cannot be read without transfers.
     void read(const OrvGenParam::Array &array);
 
     /// Whether the numbers are known, and of the other frame than this one.

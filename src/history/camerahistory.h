@@ -15,7 +15,7 @@ class HistoryWindow;
 
 /// The history of the numbers that a window shows of its camera, and the windows that show it.
 ///
-/// Give it each number when it has been read; it reads nothing itself.
+/// Pass each number to it when it has been read; it reads nothing itself.
 class CameraHistory
 {
 public:
@@ -25,13 +25,13 @@ public:
     /// The windows belong to `parent`.
     explicit CameraHistory(QWidget *parent);
 
-    /// A click on the caption opens the history. `unit` is what stands beside the number.
+    /// A click on the caption opens the history. `unit` is the text beside the number.
     void open(HistoryCaption *caption, Quantity quantity, const QString &unit);
 
     /// The names of two frames; null ones for a camera without frames.
     void setFrames(const QString &a, const QString &b);
 
-    /// What the window shows now; no number where the text is empty.
+    /// The texts that the window shows now; an empty text is no number.
     void add(Quantity quantity, Frame frame, const QString &number);
     void clear();
     void closeWindows();

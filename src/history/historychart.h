@@ -39,7 +39,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// What the samples at the mark say; empty without a mark.
+    /// The values of the samples at the mark as text; empty without a mark.
     void marked(const QString &text);
 
 protected:

@@ -25,7 +25,7 @@ public:
     /// The rings have to live as long as the window.
     void setSeries(const Series &series);
 
-    /// Shows what the rings hold now.
+    /// Shows the present numbers of the rings.
     void refresh();
 
     /// A line of headings, then one for each moment: the time with its offset from UTC, and the

@@ -17,7 +17,7 @@ public:
     };
     struct Summary
     {
-        int count = 0; ///< of the numbers; without one, the rest means nothing
+        int count = 0; ///< of the numbers; if 0, the other members are undefined
         double min = 0;
         double max = 0;
         double mean = 0;
@@ -25,9 +25,9 @@ public:
 
     static constexpr qint64 span = 600 * 1000; ///< ms
     static constexpr qint64 longestGap = 3500; ///< ms between neighbours that belong together
-    static constexpr int capacity = 1200;      ///< twice of what comes in that time
+    static constexpr int capacity = 1200;      ///< twice the usual number in that time
 
-    /// Forgets what is older than the span then, and what is later: the clock has been set back.
+    /// Drops samples that are older than the span, and later ones: the clock has been set back.
     void add(qint64 time, double value);
     void clear();
 

@@ -15,18 +15,18 @@
 
 namespace OrvGui {
 
-/// What the user has written to the features of one camera, to be undone and redone.
+/// The record of the user's writes to the features of one camera, to be undone and redone.
 ///
 /// All windows of a camera share one journal: get it by `of`, keep the pointer as long as you work
 /// with that node map, and pass each write of the user's through `write`. A step is
-/// - what one gesture has led to: a drag, a button or key that is held, a turn of the wheel;
-/// - or what is written while a `Group` exists;
+/// - the writes of one gesture: a drag, a button or key that is held, a turn of the wheel;
+/// - or the writes while a `Group` exists;
 /// - or a single write.
 ///
-/// A value that was written while a selector stood on Red is put back on Red, and the selector goes
-/// back to where it was. Moving a selector is no step, nor are commands, writes that the camera
-/// refuses, and writes of which the former value or a selector is not known: nothing is read for
-/// the journal. Undoing takes the writes alone, and waits for them as any write does.
+/// A value that was written while a selector was Red is undone with the selector at Red, and the
+/// selector is restored. Moving a selector is no step, nor are commands, refused writes, and writes
+/// of which the former value or a selector is not known: nothing is read for the journal. Undoing
+/// needs only the writes, and waits for them like any write.
 ///
 /// A node map that is destroyed leaves an empty journal, in which nothing is recorded. Use it on
 /// the GUI thread only.
@@ -57,10 +57,10 @@ public:
         GenApi::INode *node = nullptr;
         QString before; ///< null when it is not known
         QString after;
-        QVector<Setting> selectors; ///< where the value belongs; those missing are where they are
+        QVector<Setting> selectors; ///< of the value; missing ones keep their values
     };
 
-    /// What a write is going to change. Invalid without what is needed to put it back.
+    /// The state that a write is going to change. Invalid when it could not be restored.
     struct State
     {
         QVariant value;
@@ -69,8 +69,7 @@ public:
         bool areSelectorsKnown = false;
     };
 
-    /// Has what is recorded while it exists, in however many writes, be one step. May have a null
-    /// journal.
+    /// All writes that are recorded while it exists are one step. The journal may be null.
     class Group
     {
     public:
@@ -86,9 +85,9 @@ public:
     static Pointer of(GenApi::INodeMap *nodeMap);
     ~FeatureJournal() override;
 
-    /// Runs `call`, which writes `after` to the feature and answers whether the camera has taken
-    /// it, and records that. `shown` counts as the former value where that is not known otherwise.
-    /// Answers what `call` does. `journal` may be null; `call` may do anything.
+    /// Runs `call`, which writes `after` to the feature and returns whether the camera has accepted
+    /// it, and records an accepted write. `shown` is the former value if that is not known
+    /// otherwise. Returns the result of `call`. `journal` may be null; `call` may do anything.
     static bool write(const Pointer &journal, const QString &feature, const QVariant &shown,
                       const QVariant &after, const std::function<bool()> &call);
 
@@ -97,8 +96,8 @@ public:
     State known(GenApi::INode *node) const;
     void record(GenApi::INode *node, const State &before, const QVariant &after);
 
-    /// For values that were replaced past the journal, in the order in which they were written: no
-    /// step may put back what was there before that. Without writes, which values is not known.
+    /// For values that were replaced without the journal, in the order of the writes: no step may
+    /// restore a value from before that. Without writes, it is not known which values these are.
     void startAnew(const QVector<Write> &writes = {});
 
     bool canUndo() const;
@@ -108,21 +107,21 @@ public:
     QString undoText() const;
     QString redoText() const;
 
-    /// False when the camera refuses it, which leaves the camera and the journal as they were;
-    /// `reason` is set to what it says then.
+    /// False when the camera refuses it, which leaves the camera and the journal unchanged and sets
+    /// `reason`.
     bool undo(QString *reason = nullptr);
     bool redo(QString *reason = nullptr);
 
-    /// Forgets the step that would be next, for one that the camera never takes.
+    /// Drops the next step, for one that the camera always refuses.
     void skipUndo();
     void skipRedo();
 
 Q_SIGNALS:
-    /// What can be undone or redone next has changed.
+    /// The next step to undo or redo has changed.
     void changed();
 
-    /// The value of a feature was written, undone or redone, also where that is no step. Selectors
-    /// are where they were before, and may be used.
+    /// The value of a feature was written, undone or redone, also if that is no step. Selectors
+    /// are restored and may be used.
     void written(const OrvGui::FeatureJournal::Write &write);
 
 private:
@@ -159,7 +158,7 @@ private:
     GenApi::INodeMap *const m_nodeMap;
     const std::shared_ptr<std::atomic<bool>> m_isAlive;
     GenApi::CallbackHandleType m_life = 0;
-    QVector<Step> m_done;   ///< the last one last
+    QVector<Step> m_done;   ///< the latest at the end
     QVector<Step> m_undone; ///< the same
     int m_groups = 0;
     bool m_isGroupOpen = false; ///< the last step is of the group that exists

@@ -6,11 +6,10 @@
 
 namespace OrvGui {
 
-/// What the user does in one go: a mouse button from its press to its release, a key that repeats
-/// while it is held, a wheel that is turned without a pause.
+/// The present gesture of the user: a mouse button from its press to its release, a key that
+/// repeats while it is held, a wheel that is turned without a pause.
 ///
-/// For code that has to tell one change that takes many writes from many changes. Use it on the GUI
-/// thread only.
+/// Use it to distinguish one change with many writes from many changes, on the GUI thread only.
 class InputGesture : public QObject
 {
     Q_OBJECT

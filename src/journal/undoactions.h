@@ -16,9 +16,9 @@ namespace OrvGui {
 /// Undo and redo of a journal as two actions of a window, by Ctrl+Z and Ctrl+Shift+Z.
 ///
 /// The actions are named "actionUndo" and "actionRedo". They are added to the window, whose context
-/// menu you may have show them; put them into a menu, too, if there is one. A text that the user
-/// has typed in a spin box or a line edit and that does not count yet takes the keys first. A step
-/// that the camera refuses is reported in a message box of the window, in which it can be skipped.
+/// menu may show them; add them to a menu, too, if there is one. A spin box or line edit with a
+/// text that is not entered yet gets the keys first. A step that the camera refuses is reported in
+/// a message box of the window, in which it can be skipped.
 class UndoActions : public QObject
 {
     Q_OBJECT
@@ -31,15 +31,15 @@ public:
     void setJournal(const FeatureJournal::Pointer &journal);
     FeatureJournal::Pointer journal() const { return m_journal; }
 
-    /// For the editors of an item view, which come and go: what is typed in them counts when they
-    /// close.
+    /// For the editors of an item view, which are created and destroyed during use: their text is
+    /// entered when they close.
     void watchEditorsOf(const QAbstractItemView *view);
 
     QAction *undo() const { return m_undo; }
     QAction *redo() const { return m_redo; }
 
 Q_SIGNALS:
-    /// The user undoes or redoes something now; what is being edited can be written before that.
+    /// Emitted before a step is undone or redone, so that pending edits can be written first.
     void triggered();
 
 protected:

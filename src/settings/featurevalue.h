@@ -10,7 +10,7 @@ namespace OrvGui {
 
 /// Values of features as text.
 ///
-/// What reads or writes throws the exceptions of GenICam, waits for the camera, and may be called
+/// Functions that read or write throw GenICam's exceptions, wait for the camera, and may be called
 /// on any thread.
 class FeatureValue
 {
@@ -23,21 +23,21 @@ public:
     /// The exact value, as settings files have it.
     static QString text(GenApi::IValue *feature);
 
-    /// Sets it to such a text, or to what another tool would have written.
+    /// Sets it to such a text, or to the text of another tool.
     static void write(GenApi::IValue *feature, const QString &text);
 
     /// The value as the feature tree shows it.
     static QString shownText(GenApi::IValue *feature);
     static void writeShown(GenApi::IValue *feature, const QString &text);
 
-    /// Whether two texts of files mean the same value. Without a feature, what looks like a number
-    /// is one. Never throws, and asks nothing of the camera.
+    /// Whether two texts of files are the same value. Without a feature, a text that looks like a
+    /// number is one. Never throws, and reads nothing from the camera.
     static bool areSame(GenApi::IValue *feature, const QString &left, const QString &right);
 
-    /// Why the camera did not do what was asked of the feature, for the user.
+    /// The reason why the camera refused the read or write, for the user.
     static QString reason(GenApi::IValue *feature, const GenICam::GenericException &exception);
 
-    /// What keeps the feature from being written, or empty.
+    /// The reason why the feature cannot be written; empty if it can.
     static QString refusal(GenApi::IValue *feature);
 };
 

@@ -160,7 +160,7 @@ Result OrvCameraSettings::compare(GenApi::INodeMap &map, const QString &fileName
     SettingsReader reader(map, std::move(progress));
     const SettingsReader::Result read = reader.readAll();
     Result result = resultOf(read);
-    result.problems.clear(); // what the camera does not tell differs if the file has it
+    result.problems.clear(); // a setting that cannot be read is a difference if the file has it
     addNotPutBack(read.notPutBack, &result);
     Settings ofFile = resolvedSettings(file.lines, map);
     Settings ofCamera = resolvedSettings(read.settings, map);

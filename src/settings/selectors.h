@@ -21,8 +21,8 @@ GenApi::IValue *settingOf(GenApi::INodeMap &map, const QString &name);
 
 /// Moves selectors of a camera, and moves them back at its end.
 ///
-/// Views that follow the features are not notified while the selectors are away, and once when they
-/// are back.
+/// Views of the features are not notified while the selectors are moved, and once when they are
+/// restored.
 class SelectorMoves
 {
 public:
@@ -30,23 +30,23 @@ public:
     ~SelectorMoves();
     Q_DISABLE_COPY(SelectorMoves)
 
-    /// Throws the exceptions of GenICam. One that cannot be read is not moved: it could not be put
-    /// back.
+    /// Throws GenICam's exceptions. A selector that cannot be read is not moved, because it could
+    /// not be restored.
     void move(GenApi::IValue *selector, const QString &value);
 
-    /// The same for all of the selection. Null when all is selected, otherwise why it is not.
+    /// The same for the whole selection. Null on success, otherwise the reason of the failure.
     QString select(const Setting::Selection &selection);
 
     /// Whether the camera has not answered during the last `select`.
     bool isUnanswered() const { return m_isUnanswered; }
 
-    /// Where the selector was; null for one that nothing was asked of.
+    /// The former value of the selector; null for one that was not moved.
     QString original(GenApi::IValue *selector) const;
 
-    /// Leaves the selector where it is now.
+    /// Keeps the selector at its present value.
     void keep(GenApi::IValue *selector);
 
-    /// Names those that the camera has not taken back.
+    /// Restores the selectors. Returns the names of those that the camera has refused.
     QStringList putBack();
 
 private:

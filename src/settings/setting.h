@@ -9,14 +9,14 @@
 
 namespace OrvGui {
 
-/// The value of a feature, as a line of a settings file has it.
+/// The value of a feature, as in a line of a settings file.
 struct Setting
 {
     /// Names and values of selectors, the outermost first.
     using Selection = QVector<QPair<QString, QString>>;
 
     QString name;
-    Selection selection; ///< where the value belongs; empty for "as the selectors are"
+    Selection selection; ///< of the value; empty for the present values of the selectors
     QString value;       ///< null when it is not known
     int line = 0;        ///< in the file, from 1; 0 for none
 
@@ -44,7 +44,7 @@ struct SettingProblem
 
 using SettingProblems = QVector<SettingProblem>;
 
-/// Gets how much has been done, on the thread that does it. Returns false to cancel. May be empty.
+/// Gets the progress, on the thread of the operation. Returns false to cancel. May be empty.
 using SettingsProgress = std::function<bool(int done, int total)>;
 
 } // namespace OrvGui

@@ -17,9 +17,9 @@ struct SettingDifference
 
 using SettingDifferences = QVector<SettingDifference>;
 
-/// What differs, in the order of the left settings, then what only the right ones have. The
-/// settings have their selections; a null value counts as none. The node map knows of the values
-/// what kind they are, and may be null.
+/// The differences in the order of the left settings, then the settings that only the right side
+/// has. The settings have their selections; a null value counts as a missing one. The node map
+/// gives the types of the values, and may be null.
 SettingDifferences differencesOf(const Settings &left, const Settings &right,
                                  GenApi::INodeMap *map);
 

@@ -28,7 +28,7 @@ public:
     static SettingsFile fromBytes(const QByteArray &bytes, QString *error);
     static SettingsFile read(const QString &fileName, QString *error);
 
-    /// False for a text that would not come back from a file as it is.
+    /// False for a text that a file would not preserve.
     static bool isStorable(const QString &value);
 
     QByteArray toBytes() const;

@@ -14,12 +14,12 @@ class QProgressBar;
 
 namespace OrvGui {
 
-/// Does something with a camera on a thread of its own, so that windows stay alive. When it takes
-/// longer, a dialog shows how far it is and lets the user cancel; no other window of the program
-/// can be used, since selectors may be away.
+/// Runs an operation on a camera on a thread of its own, so that windows stay responsive. When it
+/// takes longer, a dialog shows the progress and lets the user cancel; it blocks the program's
+/// other windows, because selectors may be moved.
 ///
-/// Destroying the object cancels, and waits until the work has ended: at most for one answer of the
-/// camera and for putting selectors back.
+/// Destroying the object cancels, and waits until the operation has ended: at most for one answer
+/// of the camera and for restoring the selectors.
 class SettingsJob : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ class SettingsJob : public QObject
 public:
     using Work = std::function<void(const SettingsProgress &)>;
 
-    /// Starts at once. The dialog says `text` in front of the window.
+    /// Starts at once. The dialog shows `text` in front of the window.
     SettingsJob(const QString &text, Work work, QWidget *window);
     ~SettingsJob() override;
 
@@ -36,7 +36,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// The work is done, or was cancelled, and its dialog is closed.
+    /// The operation is done or was cancelled, and its dialog is closed.
     void finished();
 
 protected:

@@ -13,7 +13,7 @@
 
 namespace OrvGui {
 
-/// Reads settings from a camera. Selectors are moved through what they select, and back.
+/// Reads settings from a camera. Selectors are moved through all their values and restored.
 ///
 /// Waits for the camera; may be used on any thread. Nothing throws.
 class SettingsReader
@@ -24,9 +24,9 @@ public:
     struct Result
     {
         Settings settings;
-        SettingProblems omitted; ///< what the camera has, but does not tell
-        QStringList notPutBack;  ///< selectors that are not where they were
-        QString error;           ///< not empty when not even the rest is of use
+        SettingProblems omitted; ///< features that could not be read
+        QStringList notPutBack;  ///< selectors that were not restored
+        QString error;           ///< not empty when the other members are of no use
         bool isCancelled = false;
     };
 
@@ -36,14 +36,14 @@ public:
     /// written, the values of selectors in lines of their own.
     Result readAll();
 
-    /// These settings as they are in the camera, in the same order. What cannot be read has no
-    /// value.
+    /// The camera's values of these settings, in the same order. A setting that cannot be read has
+    /// no value.
     Result read(const Settings &wanted);
 
     /// "Vendor::Model", as files name the camera.
     QString device();
 
-    /// Whether a file says that it is of such a camera, or nothing.
+    /// Whether a file names such a camera, or none.
     bool isSameModel(const QString &device);
 
 private:

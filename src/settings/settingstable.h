@@ -7,7 +7,7 @@
 
 namespace OrvGui {
 
-/// Rows of texts about features. A null text is a value that is not there.
+/// Rows of texts about features. A null text is a missing value.
 class SettingsTable : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     void setRows(const QStringList &headers, const Rows &rows);
 
-    /// These rows with a head, tabs between the columns.
+    /// These rows with a header line, the columns separated by tabs.
     QString text(const QModelIndexList &rows) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

@@ -12,7 +12,7 @@ class QTreeView;
 
 namespace OrvGui {
 
-/// Says something about features in a line, and each of them in a table, which can be copied.
+/// Shows a message about features, with a table of them that can be copied.
 class SettingsTableDialog : public QDialog
 {
     Q_OBJECT

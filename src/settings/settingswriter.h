@@ -8,9 +8,9 @@
 
 namespace OrvGui {
 
-/// Writes settings to a camera: in their order, and what was refused again as long as anything more
-/// is taken. Then looks whether the camera has them all, since many a value depends on those that
-/// are written after it; what has changed is written once more.
+/// Writes settings to a camera in their order. Refused settings are written again as long as the
+/// camera accepts further ones. Then all are compared with the camera, because a value may depend
+/// on values that are written after it; those that have changed are written once more.
 ///
 /// Waits for the camera; may be used on any thread. Nothing throws.
 class SettingsWriter
@@ -20,12 +20,12 @@ class SettingsWriter
 public:
     struct Result
     {
-        int written = 0; ///< settings that the camera has now
-        Settings taken;  ///< in the order in which the camera has taken them
+        int written = 0; ///< number of settings that the camera has now
+        Settings taken;  ///< in the order in which the camera has accepted them
         SettingProblems refused;
         Settings missing;       ///< of features that the camera does not have
-        QStringList notPutBack; ///< selectors that are not where they were
-        QString error;          ///< why it has ended early, when it has
+        QStringList notPutBack; ///< selectors that were not restored
+        QString error;          ///< the reason of an early end; otherwise empty
         bool isCancelled = false;
     };
 
@@ -49,7 +49,7 @@ private:
     const SettingsProgress m_progress;
     SelectorMoves m_moves;
     Result m_result;
-    int m_timeouts = 0; ///< one after the other
+    int m_timeouts = 0; ///< in succession
     int m_done = 0;
     int m_total = 0;
 };

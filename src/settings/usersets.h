@@ -8,7 +8,7 @@
 
 namespace OrvGui {
 
-/// The sets of settings that a camera keeps itself.
+/// The user sets: settings that a camera stores itself.
 class UserSets
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::UserSets)
@@ -26,7 +26,7 @@ public:
     QStringList names() const;
     QStringList startNames() const;
 
-    /// The one that it starts with, as far as that is known without a transfer.
+    /// The set that it starts with; empty when that is not known without a transfer.
     QString knownStart() const;
 
     // Empty when it is done, otherwise why it is not. These wait for the camera, and may be called

@@ -91,7 +91,7 @@ private:
     XView m_screen;
 };
 
-// Whatever a test has opened has gone without a trace.
+// All windows of a test are gone.
 void TestOrvCameraGuiApi::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
@@ -168,7 +168,7 @@ void TestOrvCameraGuiApi::sourcesWithoutFeatures()
     }
 }
 
-// The picture of the host's window is that of the tree, whatever size the host gives it.
+// The picture of the host's window is that of the tree at each size of the window.
 // For hosts that cannot call methods.
 void TestOrvCameraGuiApi::stateLevelAndLanguage()
 {
@@ -303,7 +303,7 @@ void TestOrvCameraGuiApi::windowThatIsNotThere()
     DestroyGenParamTreeView(view);
 }
 
-// The news that come along with an answer are told, too.
+// Events that arrive together with an answer are reported, too.
 void TestOrvCameraGuiApi::windowResizedWhenAsked()
 {
     const xcb_window_t window =

@@ -230,7 +230,7 @@ void TestCameraWindows::rememberedFromRunToRun()
     const int all = spans(windows);
     QCOMPARE(all, windows.tree().treeView()->model()->rowCount());
 
-    // A level that is asked for comes before the saved one.
+    // A requested level overrides the saved one.
     action(windows, "actionDisconnect").trigger();
     CameraWindows asked(open(), &settings, OrvGui::Basic);
     QCOMPARE(asked.tree().visibility(), OrvGui::Basic);

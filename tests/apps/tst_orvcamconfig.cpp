@@ -37,7 +37,7 @@ Result run(const QStringList &arguments, Display display = NoDisplay)
 
 } // namespace
 
-/// The program as somebody uses it in a shell.
+/// The program as used in a shell.
 class TestOrvCamConfig : public QObject
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-/// The program as somebody uses it on a screen: from the picker to the chosen camera's features.
+/// The program as used on a screen: from the picker to the chosen camera's features.
 class TestPickAndShow : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ void TestPickAndShow::opensThePickedCamera()
     QCOMPARE(m_program.status(), 0);
 }
 
-/// A camera that somebody else controls can be picked, but not opened.
+/// A camera that another client controls can be picked, but not opened.
 void TestPickAndShow::returnsToThePicker()
 {
     start({"--window", "picker", "--camera", "SIM-0012"});

@@ -54,8 +54,8 @@ private:
 
 } // namespace
 
-/// Cameras that a host has opened with Aravis and takes images from meanwhile: Aravis's own fake
-/// one, served by another process in a network namespace of our own.
+/// Cameras that a host has opened with Aravis and is grabbing from: Aravis's own fake camera,
+/// served by another process in a private network namespace.
 class TestAdoptedDevice : public QObject
 {
     Q_OBJECT

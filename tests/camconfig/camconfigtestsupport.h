@@ -83,8 +83,8 @@ inline void dragBy(
     }
 }
 
-/// Closes the error boxes that appear, as a user would, and keeps their texts. With a `patience`,
-/// each is left open for so long (ms), in which whatever happens by itself can happen.
+/// Closes the error boxes that appear, as a user would, and keeps their texts. Each stays open for
+/// `closeDelay` (ms), so that timers and notifications run.
 class ErrorBoxes : public QObject
 {
 public:
@@ -259,7 +259,7 @@ struct DescribedDevice
         return GenApi::CValuePtr(map->GetNode(feature.constData()))->ToString().c_str();
     }
 
-    /// Of anybody to the camera, since its beginning.
+    /// All writes to the camera since it was created.
     quint64 writes() const { return map->transactions().writes; }
 
     std::unique_ptr<OrvDescription::NodeMap> map;

@@ -163,7 +163,7 @@ void TestFeatureDialogs::triggerRules()
     camera.mode.setAccessMode(GenApi::NA);
     QVERIFY(state(dialog).contains("chBoxTriggerEnable"));
 
-    // A notification enables what can be written, whatever the check box says.
+    // A notification enables writable features, regardless of the check box.
     camera.mode.setAccessMode(GenApi::RW);
     camera.mode.change(0);
     QVERIFY(state(dialog).contains("cmBoxTriggerDebounce"));
@@ -241,7 +241,7 @@ void TestFeatureDialogs::pulseAccess()
         list({"cmBoxGranularity", "radioBtnContinious", "radioBtnSend", "spBoxNumPulses"});
     QCOMPARE(state(), whileRunning);
 
-    // The burst ends by itself, which the camera is asked for.
+    // The burst ends by itself, which polling finds out.
     sim.camera.advance(60);
     sim.map->Poll(200);
     QVERIFY(!part<QPushButton>(dialog, "pushBtnPulseEnable")->isChecked());

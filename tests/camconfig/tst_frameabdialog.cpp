@@ -561,7 +561,7 @@ void TestFrameABDialog::gainIsSplit()
     dialog.type("spBoxDigitalGain", QStringLiteral("1.078"));
     QCOMPARE(int(plain.fine.GetValue()), 5);
 
-    // Registers that claim to hold whatever fits.
+    // Registers with very large limits.
     OrvGenApi::MemoryNodeMap map;
     map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
     auto &wide = map.addInteger(coarse.toStdString(), 2);

@@ -466,7 +466,7 @@ void TestOrvCamConfigMainWindow::cameraWithOneFrame()
         action(window, "actionFrame_A_B").trigger();
     QVERIFY(!button.isVisible());
 
-    // Each field is explained, whatever the camera has.
+    // Each field is explained, also without the camera's feature.
     const QString toolTip = child<QLineEdit>(window, "lineEditFtmFrameA").toolTip();
     QVERIFY(toolTip.contains("Frame time") && toolTip.contains("CurrentFrameTime"));
     QCOMPARE(child<QLabel>(window, "lblFtm").toolTip(), toolTip);

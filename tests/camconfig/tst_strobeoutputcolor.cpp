@@ -298,7 +298,7 @@ void TestStrobeOutputColor::closing()
         QVERIFY(dialog->isVisible());
         QCOMPARE(camera.writes(), 0);
 
-        // A host may destroy it as soon as it hears.
+        // A host may destroy it from inside the signal.
         connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
         dialog->close();
         QVERIFY(!dialog);

@@ -180,7 +180,7 @@ void TestCameraDevice::polling()
     QTRY_COMPARE(param->GetValue(), int64_t(21));
     QVERIFY(sink.count > 0);
 
-    // An unplugged camera is polled no more; it tells its sinks once that it has gone.
+    // An unplugged camera is not polled any more; its sinks are notified once.
     camera.isPlugged = false;
     QTRY_VERIFY(!device->IsConnected());
     QTest::qWait(50);

@@ -186,7 +186,7 @@ void TestGigEVision::badDescription()
         QVERIFY(!OrvCam_CreateDevice(info, &error, AccessControl));
         QCOMPARE(error, int32_t(ErrorBadDescription));
 
-        // Nobody keeps the camera busy.
+        // No connection keeps the camera busy.
         interface("orv0")->RefreshDevices(nullptr, 200);
         QCOMPARE(info->GetAccessState(), int32_t(AccessReadWrite));
     }
@@ -314,7 +314,7 @@ Q_DECLARE_METATYPE(TestCameraBehaviour)
 void TestGigEVision::strangeAnswers_data()
 {
     QTest::addColumn<TestCameraBehaviour>("behaviour");
-    QTest::addColumn<int>("count"); // -1: whatever gets through
+    QTest::addColumn<int>("count"); // -1: any number
     TestCameraBehaviour silent;
     silent.silence = -1;
     QTest::newRow("none") << silent << 0;

@@ -9,7 +9,7 @@ using namespace OrvCam;
 
 namespace {
 
-/// An interface that has the cameras it is told.
+/// An interface with a given list of cameras.
 struct Network : GevNetwork
 {
     std::vector<GevAddresses> present;
@@ -83,7 +83,7 @@ void TestSimulatedSystem::forcedAddress()
     QVERIFY(device->GetDeviceInfo()->GetInterface()->GetDescription());
 }
 
-// Somebody looks for cameras between a selection and what it was made for.
+// The cameras are enumerated again between a selection and its use.
 void TestSimulatedSystem::selectionFollowsItsCamera()
 {
     Network network;

@@ -161,7 +161,7 @@ void TestNodeMap::interfacesFollowTheElement()
                                      {"Device", intfIPort},
                                      {"Unknown", intfIBase}})
         QVERIFY2(map->GetNode(name)->GetPrincipalInterfaceType() == type, name);
-    // What the engine's own types can do besides is nobody's business.
+    // The other interfaces of the engine's own types are not visible.
     QVERIFY(!CFloatPtr(map->GetNode("Enumeration")).IsValid());
     QVERIFY(!CStringPtr(map->GetNode("Enumeration")).IsValid());
     QVERIFY(CSelectorPtr(map->GetNode("Float")).IsValid());
@@ -574,7 +574,7 @@ void TestNodeMap::referencesThatCostTooMuch()
                 .arg(i + 1)
                 .arg(i)
                 .toUtf8();
-    // Categories that would have more rows than anybody can count.
+    // Categories with more rows than can be built.
     for (int i = 0; i < 100; ++i)
         nodes +=
             QString(
@@ -849,7 +849,7 @@ void TestNodeMap::pollingAndInvalidation()
     map->Poll(99);
     QCOMPARE(calls, QStringList());
     map->Poll(1);
-    // The register is read anew, so whatever else comes from it is news as well.
+    // The register is read again, so its other features are notified as well.
     QCOMPARE(calls, QStringList({"Polled", "Sibling"}));
     integer(*map, "Polled").GetValue();
     integer(*map, "Sibling").GetValue();

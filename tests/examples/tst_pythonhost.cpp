@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <programonscreen.h>
 
-/// The Python host as somebody uses it on a screen.
+/// The Python host as used on a screen.
 class TestPythonHost : public QObject
 {
     Q_OBJECT

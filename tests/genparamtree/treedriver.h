@@ -118,7 +118,7 @@ private:
     {
         if (QWidget *popup = QApplication::activePopupWidget())
             return popup->windowHandle();
-        // After a list has closed, Qt 6 may have to hear from the X server first.
+        // After a list has closed, Qt 6 may need an event of the X server first.
         if (!QTest::qWaitFor([] { return QGuiApplication::focusWindow() != nullptr; }))
             qFatal("No window has the focus");
         return QGuiApplication::focusWindow();

@@ -126,7 +126,7 @@ void TestGenParamDelegate::comboBoxes()
 }
 
 // A combo box asks for both, in this order, for every change of its index: also for the one that
-// filling it makes. A value that no entry stands for leaves it without a current entry.
+// filling it makes. A value without an entry leaves it without a current entry.
 void TestGenParamDelegate::comboBoxCommitsOnChange()
 {
     QStringList asked;

@@ -48,7 +48,7 @@ void noteParents(const QAbstractItemModel &model, const QModelIndex &parent,
     }
 }
 
-/// A category whose features change, or that may be unable to tell them.
+/// A category whose features change, or whose list of features cannot be read.
 class ChangingCategory : public OrvGenApi::DeclaredCategory
 {
 public:
@@ -189,7 +189,7 @@ void TestGenParamTreeModel::changedCategories()
     }
 }
 
-// Its list is asked for anew with its length, and in the next turn of the event loop.
+// Its list is read again with its length, and in the next iteration of the event loop.
 void TestGenParamTreeModel::changedLongCategory()
 {
     OrvGenApi::MemoryNodeMap map;
@@ -399,7 +399,7 @@ void TestGenParamTreeModel::refusedWrites()
     }
 }
 
-// Whatever a node may throw, GenICam's exceptions or others.
+// A node may throw GenICam's exceptions or others.
 void TestGenParamTreeModel::commands()
 {
     SampleNodeMap map;

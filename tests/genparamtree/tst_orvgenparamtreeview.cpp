@@ -285,8 +285,8 @@ void TestOrvGenParamTreeView::colours_data()
     QTest::newRow("background only") << QPalette() << "QTreeView { background-color: #1e1e1e; }";
 }
 
-// Whatever colours a host has set and left alone, every cell can be read, and a category that a
-// higher level has brought is of one colour.
+// With each choice of the host's colours, every cell is legible, and a category that a higher level
+// has added has one colour.
 void TestOrvGenParamTreeView::colours()
 {
     QFETCH(QPalette, palette);
@@ -859,8 +859,8 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
     }
 }
 
-// The node map goes right after the tree has let go of it, with an edit begun and Return pressed,
-// which Qt acts upon only later. Whether anything touches it then is for the sanitizers to tell.
+// The node map is destroyed right after the tree has dropped it, with an edit begun and Return
+// pressed, which Qt handles only later. The sanitizers report an access to it.
 void TestOrvGenParamTreeView::takenAwayWhileEditing()
 {
     QFETCH(QString, feature);

@@ -100,7 +100,7 @@ void TestGvcp::answers()
     QVERIFY(!Gvcp::parseRegisters(*answer, 1));
     QVERIFY(!Gvcp::parseRegisters(*answer, 3));
 
-    // A refusal holds the values up to there, but never as many as were asked for.
+    // A refusal holds the values up to there, but never as many as were requested.
     const QByteArray refusal = QByteArray::fromHex("8003 0081 0004 0007 12345678");
     QCOMPARE(parse(refusal)->status, uint16_t(Gvcp::StatusInvalidAddress));
     QVERIFY(Gvcp::parseRegisters(*parse(refusal), 2) == std::vector<uint32_t>{0x12345678});

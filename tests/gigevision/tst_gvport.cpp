@@ -609,7 +609,7 @@ void TestGvPort::batches()
     hints.declared = declared;
     opened.port->setHints(hints);
     const RegisterRange known{firstRegister + 4, 4};
-    read(*opened.port, {known}); // settles the byte order
+    read(*opened.port, {known}); // determines the byte order
 
     camera.takeCounters();
     std::reverse(ranges.begin(), ranges.end());
@@ -668,7 +668,7 @@ void TestGvPort::refusedRegisters()
     const auto opened = open();
     const auto ranges = words(100);
     opened.port->setHints({false, ranges});
-    read(*opened.port, {ranges[1]}); // settles the byte order
+    read(*opened.port, {ranges[1]}); // determines the byte order
 
     TestCameraBehaviour behaviour;
     if (!mood.isEmpty())

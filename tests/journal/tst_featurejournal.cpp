@@ -81,7 +81,7 @@ const auto redoKeys = [](QWidget *widget) {
     QTest::keyClick(widget, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
 };
 
-/// Waits until what a gesture has led to is recorded as a whole.
+/// Processes events until all writes of a gesture are recorded.
 void settle()
 {
     for (int i = 0; i < 3; ++i)
@@ -209,7 +209,7 @@ void TestFeatureJournal::selectors()
     QCOMPARE(heard.last(), int(map.place()));
     sum.DeregisterCallback(callback);
 
-    // What is not known is not asked for, and what cannot be put back is no step.
+    // An unknown value is not read, and a write that cannot be undone is no step.
     const int reads = map.color.reads() + map.gain.reads();
     map.color.changed();
     FeatureJournal::write(journal, "Gain", 1, 2, [] { return true; });

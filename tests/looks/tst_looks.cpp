@@ -339,7 +339,7 @@ Window TestLooks::makeDialog()
     return std::make_unique<Dialog>(m_device, nullptr);
 }
 
-/// On a camera that cannot be opened, which is told in a colour of its own.
+/// With a camera that cannot be opened, which is shown in another colour.
 Window TestLooks::makePicker()
 {
     auto picker = std::make_unique<OrvGui::OrvCameraSelectorDialog>(m_system);

@@ -13,7 +13,7 @@ trap 'rm -f "$failures"' EXIT
 
 missing() { echo "$1: $2" >>"$failures"; }
 
-# What this build makes by rules of that name, as far as it is there; earlier builds left other files.
+# The existing outputs of this build's rules of that name; earlier builds left other files.
 made() {
     ninja -C "$build" -t targets all | sed -nE "s/^(.*): (C|CXX)_($1)__.*/\1/p" | while read -r file; do
         [ ! -f "$build/$file" ] || echo "$build/$file"

@@ -9,8 +9,8 @@
 
 using namespace OrvCam;
 
-/// The picker on a camera system that does what it is told: how it opens, what its panes and
-/// buttons show, and what it asks of the system.
+/// The picker on a scripted camera system: how it opens, what its panes and buttons show, and how
+/// it uses the system.
 class TestCameraSelectorDialog : public QObject
 {
     Q_OBJECT
@@ -564,7 +564,7 @@ void TestCameraSelectorDialog::rowsMoved()
     QCOMPARE(deviceFacts().size(), 7); // no addresses rather than those of another camera
     QVERIFY(force({failureMessage()}));
 
-    // A window that has selected another camera meanwhile.
+    // Another window has selected another camera in between.
     init();
     open();
     tree()->setCurrentIndex(networkCamera(1));

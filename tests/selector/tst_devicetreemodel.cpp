@@ -117,7 +117,7 @@ void TestDeviceTreeModel::rescans()
 
     FakeInterface empty("Empty");
     m_system->interfaces.entries.push_back(&empty);
-    QAbstractItemModelTester tester(&model); // fetches whatever it can
+    QAbstractItemModelTester tester(&model); // fetches all that it can
 #if QT_VERSION >= QT_VERSION_CHECK(6, 4, 0)
     tester.setUseFetchMore(false); // it does so in the middle of a reset, too
 #endif

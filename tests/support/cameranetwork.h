@@ -14,8 +14,8 @@
 #include <memory>
 
 /// A network adapter of this namespace with a cable to another machine: a namespace of its own, in
-/// which cameras and whatever else answers on a network can be started. For tests that run in a
-/// network namespace; what goes wrong while it is set up ends the test program.
+/// which cameras and other servers can be started. For tests that run in a network namespace; a
+/// failure of the set-up ends the test program.
 class CameraNetwork
 {
 public:
@@ -58,7 +58,7 @@ public:
 
     QString farName() const { return m_farName; }
 
-    /// The file that stands for the other machine's namespace; see setns(2).
+    /// The file of the other machine's namespace; see setns(2).
     QString farNamespace() const
     {
         return QStringLiteral("/proc/%1/ns/net").arg(m_machine.processId());

@@ -74,7 +74,7 @@ flags=$(PKG_CONFIG_PATH=$pkgconfig pkg-config --cflags orvcameraguiapi Qt5Widget
 ${CXX:-c++} -std=c++17 -fPIC -fsyntax-only $flags "$work/host/main.cpp" \
     || fail "a program cannot be compiled with pkg-config's flags"
 
-# A wrong folder must be told at once.
+# A wrong folder must be reported at once.
 if cmake -S "$source" -B "$work/wrong" -G Ninja -DORV_GENICAM_ROOT="$work/nowhere" \
     >"$work/wrong.log" 2>&1; then
     echo "a folder without headers was accepted"

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-/// What is wrong with the controls of a window for those who hear it, or use it without a mouse.
-/// Each list has a line for each fault. Expects the window to be shown.
+/// Finds accessibility faults of a window's controls: for screen readers and for use without a
+/// mouse. Each list has a line for each fault. Expects the window to be shown.
 namespace Controls {
 
 /// What a screen reader calls it; empty for a control without a name.

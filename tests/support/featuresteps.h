@@ -7,11 +7,11 @@
 
 #include <functional>
 
-/// Does with features what a text says, in which blanks separate the steps:
+/// Runs the steps of a text on features; blanks separate the steps:
 /// `Name=Value` sets a value or executes a command, `Name!Value` must be refused, `Name?Value`
-/// expects a value (of a command: 1 when it is done), `Name:RW` an access mode, and `+0.5` lets so
-/// many seconds pass. `Name.Min`, `.Max` and `.Inc` can be asked for as well; enumerations also
-/// take numbers.
+/// expects a value (of a command: 1 when it is done), `Name:RW` an access mode, and `+0.5` advances
+/// the time by that many seconds. `Name.Min`, `.Max` and `.Inc` can be expected as well;
+/// enumerations also accept numbers.
 class FeatureSteps
 {
 public:

@@ -2,8 +2,8 @@
 
 int dlclose(void *library);
 
-/* Plugins stay loaded to the end: of what a plugin leaks that is gone by then, the sanitizer cannot
-   tell whose it is, and the suppressions do not match. */
+/* Plugins stay loaded to the end: the sanitizer cannot name the functions of an unloaded plugin,
+   and the suppressions of its leaks would not match. */
 int dlclose(void *library)
 {
     (void)library;

@@ -11,9 +11,9 @@
 #include <thread>
 #include <utility>
 
-/// For how long the event loop of this thread has waited for something else than events, at most,
-/// while this lives. Computing does not count, nor does time in which the machine was busy with
-/// others: a second thread that only sleeps tells how late it wakes.
+/// Measures the longest time for which the event loop of this thread was blocked, other than
+/// waiting for events, during the object's lifetime. Computing does not count, nor does load of the
+/// machine: a second thread, which only sleeps, measures how late it wakes.
 class LoopWatch : public QObject
 {
 public:

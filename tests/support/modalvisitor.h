@@ -11,9 +11,9 @@
 
 #include <functional>
 
-/// Deals with the modal dialogs that open while it lives, one after the other: each action gets one
-/// and has to close it. A dialog that nobody expects is rejected, as is one left open by an action
-/// in which the test has failed.
+/// Handles the modal dialogs that open during its lifetime, one after the other: each action gets
+/// one and has to close it. An unexpected dialog is rejected, as is one left open by an action in
+/// which the test has failed.
 class ModalVisitor : public QObject
 {
 public:

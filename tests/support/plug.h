@@ -7,8 +7,8 @@
 #include <mutex>
 #include <thread>
 
-/// The cable of a camera that tests pull and plug in again. The connection's listener is told on
-/// another thread, as it is by a real one.
+/// The cable of a camera that tests unplug and plug in again. The connection's listener is notified
+/// on another thread, as by a real connection.
 class Plug
 {
 public:

@@ -123,7 +123,7 @@ public:
     void Release() override
     {
         if (counts(m_camera).events != 0)
-            qFatal("A device is released on which somebody waits for events");
+            qFatal("A device is released while a thread waits for its events");
         --counts(m_camera).open;
         m_device->Release();
         delete this;

@@ -7,8 +7,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-/// A program as somebody uses it who only has its windows, a mouse and a keyboard. It is killed at
-/// the latest with this object.
+/// A program that is used by its windows, a mouse and a keyboard only. It is killed at the latest
+/// with this object.
 class ProgramOnScreen : public QProcess
 {
 public:

@@ -494,7 +494,7 @@ void TestCamera::forceIp(const Command &command)
     try {
         openSockets();
     } catch (const std::runtime_error &) {
-        closeSockets(); // another camera has the address, and nobody can reach this one
+        closeSockets(); // another camera has the address, so this one cannot be reached
     }
 }
 
@@ -545,7 +545,7 @@ void TestCamera::reply(const Command &command, const Answer &answer)
 std::string TestCamera::faulty(unsigned fault, const Command &command, const Answer &answer)
 {
     using Behaviour = TestCameraBehaviour;
-    // The address of READMEM stays, or a client could tell by it.
+    // The address of READMEM is not inverted, so that a client cannot detect the order by it.
     const std::string data = inverted(answer.data, command.kind == ReadMemory ? 4 : 0);
     const std::size_t size = data.size();
     const int kind = command.kind + 1;

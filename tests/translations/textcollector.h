@@ -78,7 +78,7 @@ private:
     QString m_path;
 };
 
-/// All texts that the user of a window can come to see or hear, as plain text: those of its widgets
+/// All visible and accessible texts of a window, as plain text: those of its widgets
 /// and actions, of headers, items, tool tips and accessibility, each behind the path of the object
 /// that shows it and a "|".
 inline QStringList textsOf(const QWidget &window)

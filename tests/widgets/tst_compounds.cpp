@@ -256,7 +256,7 @@ void TestCompounds::hideTheButtonWhenReadOnly()
     QVERIFY(!widget.toolButton()->isVisible());
 }
 
-// Hidden, they don't hear that the mouse button is let go.
+// A hidden widget gets no release of the mouse button.
 void TestCompounds::letGoWhenHidden()
 {
     struct Host : QWidget
@@ -306,7 +306,7 @@ void TestCompounds::letGoWhenHidden()
         window.show();
         QCOMPARE(window.releases, 0); // the host has not been clicked
 
-        // Nor does a slider that was locked meanwhile go on with the hand that held it.
+        // Nor does a slider that was locked during a drag continue the drag.
         QSlider *slider = innerSlider(beside);
         const int y = slider->height() / 2;
         beside.setValue(0);
@@ -424,7 +424,8 @@ void TestCompounds::takeLeaveWithTextPending()
     QCOMPARE(announced, 0);
 }
 
-// The widget and the part of it that has the focus tell the same, and the part moves the widget.
+// The widget and its part with the focus have the same accessible texts, and the part changes the
+// widget's value.
 void TestCompounds::speakUp()
 {
     QtOrvSlider slider;

@@ -273,7 +273,7 @@ void TestSliders::announcesChangesOnly()
     QCOMPARE(values.takeFirst(), QVariantList{20});
     QCOMPARE(slider.value(), 18);
 
-    // Several positions of one value: only the first move is news.
+    // Several positions of one value: only the first move is a change.
     slider.setValidate(false);
     slider.setScaleType(QtOrvSlider::ScaleLog10);
     slider.setRange(0, 1000000);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a device description: it is opened, and everything that its nodes can tell is read.
+// Any bytes as a device description: it is opened, and all properties of its nodes are read.
 #include "check.h"
 
 #include <GenApi/GenApi.h>
@@ -9,7 +9,7 @@ using namespace GenApi;
 
 namespace {
 
-/// Whatever is wrong with a description, only the exceptions of GenICam may come of it.
+/// A wrong description may cause GenICam's exceptions only.
 template<typename Call>
 void attempt(Call call)
 {
@@ -72,8 +72,8 @@ void readAll(INodeMap &map)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     attempt([&] {
-        const auto map =
-            OrvDescription::NodeMap::fromText(reinterpret_cast<const char *>(data), size, "fuzz.xml");
+        const auto map = OrvDescription::NodeMap::fromText(reinterpret_cast<const char *>(data),
+                                                           size, "fuzz.xml");
         check(dynamic_cast<ICategory *>(map->GetNode("Root")), "there is no root category");
         readAll(*map);
     });

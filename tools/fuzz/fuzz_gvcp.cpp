@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     for (const std::size_t count : {1u, 2u, 134u}) {
         const auto values = Gvcp::parseRegisters(*answer, count);
         check(!values || values->size() == answer->size / 4, "a register's value is four bytes");
-        check(!values || values->size() <= count, "more values than were asked for");
+        check(!values || values->size() <= count, "more values than were requested");
     }
     if (const uint8_t *memory = Gvcp::parseMemory(*answer, 0, 4))
         check(memory + 4 <= data + size, "the memory is not in the packet");

@@ -3,7 +3,7 @@
 # run.sh SECONDS|fixed [FOLDER [FUZZER...]]
 # Runs the fuzzers for so long each, or through a fixed number of inputs that are the same every
 # time, and prints how many inputs each of them tried. FOLDER is where
-# the programs are, build/fuzz/fuzz unless it is given. What a fuzzer learns is kept in
+# the programs are, build/fuzz/fuzz unless it is given. Inputs that reach new code are kept in
 # FOLDER/corpus and used by the next run; an input that shows a fault in FOLDER/faults.
 set -eu
 

@@ -8,8 +8,8 @@
 #include <memory>
 #include <random>
 
-/// A simulated camera that can be unplugged and plugged in, and whose features somebody else
-/// changes all the time.
+/// A simulated camera that can be unplugged and plugged in, and whose features change all the time
+/// by themselves.
 class SoakCamera
 {
 public:
