@@ -96,7 +96,7 @@ void OrvCamConfigColorDialogPrivate::bindCoefficient(Coefficient &coefficient)
     if (bindInt(coefficient.feature, spinBox, coefficient.dependents)) {
         coefficient.bound = watched(array->GetInt(coefficient.feature), this);
     }
-    on(unity, &QPushButton::clicked, [spinBox] { spinBox->setValue(unityGain); });
+    connectTo(unity, &QPushButton::clicked, [spinBox] { spinBox->setValue(unityGain); });
 }
 
 void OrvCamConfigColorDialogPrivate::initStatistics()

@@ -106,7 +106,7 @@ protected:
 
     /// Connects a handler of the dialog's own, until the next device is set.
     template<class Sender, class Signal, class Handler>
-    void on(Sender *sender, Signal signal, Handler handler)
+    void connectTo(Sender *sender, Signal signal, Handler handler)
     {
         m_handlers.add(sender, signal, handler);
     }

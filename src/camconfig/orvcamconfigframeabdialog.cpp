@@ -387,26 +387,27 @@ void OrvCamConfigFrameABDialogPrivate::explainTrigger()
 
 void OrvCamConfigFrameABDialogPrivate::connectHandlers()
 {
-    on(frameTabs.get(), &FrameTabs::turned, [this] { updateExposureTime(); });
+    connectTo(frameTabs.get(), &FrameTabs::turned, [this] { updateExposureTime(); });
     for (QAbstractButton *button : exposureButtons->buttons()) {
-        on(button, &QAbstractButton::toggled, [this](bool isChecked) {
+        connectTo(button, &QAbstractButton::toggled, [this](bool isChecked) {
             if (isChecked)
                 updateExposureTime();
         });
     }
-    on(ui.chBoxFixedFramePeriodEnable, &QCheckBox::toggled, [this] {
+    connectTo(ui.chBoxFixedFramePeriodEnable, &QCheckBox::toggled, [this] {
         showPeriod();
         updateExposureTime();
     });
     for (QAbstractButton *button : areaButtons->buttons()) {
         const auto preset = static_cast<AreaPresets::Preset>(areaButtons->id(button));
-        on(button, &QAbstractButton::clicked, [=] { setArea(preset); });
+        connectTo(button, &QAbstractButton::clicked, [=] { setArea(preset); });
     }
-    on(ui.spBoxExpTime, static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged),
-       [this](int time) { setExposureTime(time); });
-    on(ui.spBoxDigitalGain,
-       static_cast<void (QtOrvGainSlider::*)(double)>(&QtOrvGainSlider::valueChanged),
-       [this](double factor) { setDigitalGain(factor); });
+    connectTo(ui.spBoxExpTime,
+              static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged),
+              [this](int time) { setExposureTime(time); });
+    connectTo(ui.spBoxDigitalGain,
+              static_cast<void (QtOrvGainSlider::*)(double)>(&QtOrvGainSlider::valueChanged),
+              [this](double factor) { setDigitalGain(factor); });
     connectDrags();
 }
 
@@ -415,20 +416,21 @@ void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
     auto *time = new DragWatcher(
         ui.spBoxExpTime->slider(), [this] { return ui.spBoxExpTime->value(); }, handlers());
-    on(time, &DragWatcher::changed, [this] { setExposureTime(ui.spBoxExpTime->value()); });
-    on(time, &DragWatcher::unchanged, [this] { updateExposureTime(); });
+    connectTo(time, &DragWatcher::changed, [this] { setExposureTime(ui.spBoxExpTime->value()); });
+    connectTo(time, &DragWatcher::unchanged, [this] { updateExposureTime(); });
 
     auto *factor = new DragWatcher(
         ui.spBoxDigitalGain->slider(),
         [this] { return gainOf(ui.spBoxDigitalGain->value()).factor(); }, handlers());
-    on(factor, &DragWatcher::changed, [this] { setDigitalGain(ui.spBoxDigitalGain->value()); });
-    on(factor, &DragWatcher::unchanged, [this] { showDigitalGain(); });
+    connectTo(factor, &DragWatcher::changed,
+              [this] { setDigitalGain(ui.spBoxDigitalGain->value()); });
+    connectTo(factor, &DragWatcher::unchanged, [this] { showDigitalGain(); });
 }
 
 void OrvCamConfigFrameABDialogPrivate::startSizeTimer()
 {
     sizeTimer = new QTimer(q);
-    on(sizeTimer, &QTimer::timeout, [this] {
+    connectTo(sizeTimer, &QTimer::timeout, [this] {
         reader().whenKnown(this, sizeTimer, {widthActual, heightActual},
                            [this] { showCurrentSize(); });
     });

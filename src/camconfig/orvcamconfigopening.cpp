@@ -26,7 +26,7 @@ namespace OrvGui {
 
 namespace {
 
-constexpr int patience = 300;      // ms until the dialog is shown
+constexpr int dialogDelay = 300;   // ms until the dialog is shown
 constexpr int progressPeriod = 50; // ms
 
 /// The reason of a failure by its error code; empty for a code without a text.
@@ -230,7 +230,7 @@ void OrvCamConfigOpening::start()
     m_job->receiver = this;
     m_job->request.report = [job = m_job.get()](int percent) { job->percent = percent; };
     m_job->request.isCancelled = [job = m_job.get()] { return job->isCancelled.load(); };
-    QTimer::singleShot(patience, this, [this] { show(); });
+    QTimer::singleShot(dialogDelay, this, [this] { show(); });
     Workers::all().start(m_job);
 }
 

@@ -84,12 +84,12 @@ void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
     ui.spBoxPeriod->slider()->setScaleType(QtOrvSlider::ScaleLog10);
     ui.spBoxPeriod->setSliderOrientation(Qt::Horizontal);
     bindInt("PulseGenPeriod", ui.spBoxPeriod);
-    on(ui.spBoxPeriod, valueChanged, [this] { showDerivedValues(); });
+    connectTo(ui.spBoxPeriod, valueChanged, [this] { showDerivedValues(); });
 
     ui.spBoxWidth->slider()->setScaleType(QtOrvSlider::ScaleLog10);
     ui.spBoxWidth->setSliderOrientation(Qt::Horizontal);
     bindInt("PulseGenWidth", ui.spBoxWidth);
-    on(ui.spBoxWidth, valueChanged, [this] { showDerivedValues(); });
+    connectTo(ui.spBoxWidth, valueChanged, [this] { showDerivedValues(); });
 
     ui.spBoxNumPulses->setSliderOrientation(Qt::Horizontal);
     bindInt("PulseGenNumPulses", ui.spBoxNumPulses);
@@ -99,8 +99,8 @@ void OrvCamConfigPulseDialogPrivate::initButton()
 {
     ui.pushBtnPulseEnable->setChecked(false); // which it stays where there is nothing to start
     bindBoolean("PulseGenEnable", ui.pushBtnPulseEnable);
-    on(ui.pushBtnPulseEnable, &QPushButton::clicked,
-       [this](bool isRunning) { setButtonState(isRunning); });
+    connectTo(ui.pushBtnPulseEnable, &QPushButton::clicked,
+              [this](bool isRunning) { setButtonState(isRunning); });
 }
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool isRunning)

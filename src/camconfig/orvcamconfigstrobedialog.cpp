@@ -54,9 +54,9 @@ void OrvCamConfigStrobeDialogPrivate::bind()
     bindEnum("Strobe1Mode", ui.cmBoxStrobe1Mode);
     bindEnum("Strobe2Mode", ui.cmBoxStrobe2Mode);
     bindEnum("Strobe1Reference", ui.cmBoxStrobe1Ref);
-    on(ui.cmBoxStrobe1Ref, &QComboBox::currentTextChanged, [this] { setImageState(); });
+    connectTo(ui.cmBoxStrobe1Ref, &QComboBox::currentTextChanged, [this] { setImageState(); });
     bindEnum("Strobe2Reference", ui.cmBoxStrobe2Ref);
-    on(ui.cmBoxStrobe2Ref, &QComboBox::currentTextChanged, [this] { setImageState(); });
+    connectTo(ui.cmBoxStrobe2Ref, &QComboBox::currentTextChanged, [this] { setImageState(); });
     bindEnum("OUT1Polarity", ui.cmBoxOut1Polarity);
     bindEnum("OUT2Polarity", ui.cmBoxOut2Polarity);
     bindEnum("OUT1Selector", ui.cmBoxOut1Selector);

@@ -26,11 +26,11 @@ void OrvCamConfigTriggerDialogPrivate::bind()
 {
     clear();
     bindEnum("TriggerMode", ui.chBoxTriggerEnable);
-    on(ui.chBoxTriggerEnable, &QCheckBox::stateChanged, [this] { enableChoices(); });
+    connectTo(ui.chBoxTriggerEnable, &QCheckBox::stateChanged, [this] { enableChoices(); });
     bindEnum("TriggerSource", ui.cmBoxTriggerSource);
-    on(ui.cmBoxTriggerSource,
-       static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged),
-       [this] { enableSoftwareTrigger(); });
+    connectTo(ui.cmBoxTriggerSource,
+              static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged),
+              [this] { enableSoftwareTrigger(); });
     bindEnum("TriggerActivation", ui.cmBoxTriggerEdge);
     bindEnum("TriggerDebounce", ui.cmBoxTriggerDebounce);
     bindCommand("TriggerSoftware", ui.pushBtnSoftwareTrigger, nullptr);

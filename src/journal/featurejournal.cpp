@@ -351,7 +351,7 @@ void FeatureJournal::record(INode *node, const State &before, const QVariant &af
                         change.before.value.isValid() && change.before.value != change.after.value;
     if (isStep)
         keep(change);
-    tell({{node, change.before.text, change.after.text, change.selectors}});
+    emitWritten({{node, change.before.text, change.after.text, change.selectors}});
 }
 
 void FeatureJournal::keep(const Change &change)
@@ -377,11 +377,11 @@ void FeatureJournal::startAnew(const QVector<Write> &writes)
     m_undone.clear();
     m_isGroupOpen = false;
     emit changed();
-    tell(writes);
+    emitWritten(writes);
 }
 
 /// A receiver of the signal may destroy the node map.
-void FeatureJournal::tell(const QVector<Write> &writes)
+void FeatureJournal::emitWritten(const QVector<Write> &writes)
 {
     for (const Write &write : writes) {
         if (isAlive())
@@ -497,7 +497,7 @@ bool FeatureJournal::replay(QVector<Step> &from, QVector<Step> &to, bool isBack,
     from.removeLast();
     to.append(step);
     emit changed();
-    tell(writes);
+    emitWritten(writes);
     return true;
 }
 

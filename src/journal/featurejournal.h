@@ -145,7 +145,7 @@ private:
     bool look(const std::function<void()> &ask) const;
     Setting known(GenApi::INode *node, bool looksAhead) const;
     void keep(const Change &change);
-    void tell(const QVector<Write> &writes);
+    void emitWritten(const QVector<Write> &writes);
     QVector<Write> writesOf(const Step &step, bool isBack) const;
     bool isOpen(quint64 gesture) const;
     static void add(const Change &change, Step &step);

@@ -88,7 +88,7 @@ SettingsReader::SettingsReader(GenApi::INodeMap &map, SettingsProgress progress)
 {
 }
 
-bool SettingsReader::goesOn()
+bool SettingsReader::reportProgress()
 {
     if (!m_result.error.isEmpty() || m_result.isCancelled)
         return false;
@@ -125,12 +125,12 @@ SettingsReader::Result SettingsReader::readAll()
     }
     m_total = int(features.size());
     m_done = 0;
-    if (goesOn())
+    if (reportProgress())
         fetch(first);
 
     for (GenApi::IValue *feature : features) {
         const Features selectors = selectorsOf(feature);
-        if (!goesOn())
+        if (!reportProgress())
             break;
         const Features group =
             selectors.empty() ? Features{feature} : std::exchange(groups[selectors], {});
@@ -140,7 +140,7 @@ SettingsReader::Result SettingsReader::readAll()
             readSelected(selectors, 0, group);
         m_done += int(group.size());
     }
-    goesOn(); // the last one may have taken long
+    reportProgress(); // the last one may have taken long
     return m_result;
 }
 
@@ -169,7 +169,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     const int before = int(m_result.settings.size());
     SelectorMoves moves(m_map);
     for (const QString &position : qAsConst(positions)) {
-        if (!goesOn())
+        if (!reportProgress())
             break;
         const int start = int(m_result.settings.size());
         Setting line;
@@ -265,7 +265,7 @@ SettingsReader::Result SettingsReader::read(const Settings &wanted)
     m_done = 0;
     SelectorMoves moves(m_map);
     QString reason;
-    for (int i = 0; i < wanted.size() && goesOn(); ++i, ++m_done) {
+    for (int i = 0; i < wanted.size() && reportProgress(); ++i, ++m_done) {
         const Setting &setting = wanted[i];
         if (i == 0 || setting.selection != wanted[i - 1].selection) {
             reason = select(setting.selection, &moves);

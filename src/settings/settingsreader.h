@@ -50,7 +50,7 @@ private:
     using Features = std::vector<GenApi::IValue *>;
 
     Features streamable() const;
-    bool goesOn();
+    bool reportProgress();
     void fetch(const Features &features) const;
     void readSelected(const Features &selectors, size_t depth, const Features &features);
     QString select(const Setting::Selection &selection, SelectorMoves *moves);

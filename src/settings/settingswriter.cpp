@@ -31,7 +31,7 @@ SettingsWriter::SettingsWriter(GenApi::INodeMap &map, SettingsProgress progress)
 {
 }
 
-bool SettingsWriter::goesOn()
+bool SettingsWriter::reportProgress()
 {
     if (!m_result.error.isEmpty() || m_result.isCancelled)
         return false;
@@ -52,13 +52,13 @@ SettingsWriter::Result SettingsWriter::write(const Settings &settings)
 
     SettingProblems refused = pass(known);
     for (int before = int(known.size());
-         !refused.isEmpty() && refused.size() < before && goesOn();) {
+         !refused.isEmpty() && refused.size() < before && reportProgress();) {
         before = int(refused.size());
         refused = pass(settingsOf(refused));
     }
     m_result.written = std::min(m_done, m_total);
     m_result.refused = refused;
-    if (goesOn())
+    if (reportProgress())
         check(known);
     noteAway(m_moves.putBack());
     return m_result;
@@ -69,7 +69,7 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
 {
     SettingProblems refused;
     for (const Setting &setting : settings) {
-        if (!goesOn())
+        if (!reportProgress())
             break;
         const QString reason = attempt(setting);
         if (reason.isEmpty()) {
@@ -146,7 +146,7 @@ void SettingsWriter::check(const Settings &settings)
             taken.append(setting);
     }
     const SettingProblems changed = differing(taken);
-    if (changed.isEmpty() || !goesOn())
+    if (changed.isEmpty() || !reportProgress())
         return;
     pass(settingsOf(changed));
     const SettingProblems stillChanged = differing(settingsOf(changed));

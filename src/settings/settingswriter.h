@@ -35,7 +35,7 @@ public:
     Result write(const Settings &settings);
 
 private:
-    bool goesOn();
+    bool reportProgress();
     SettingProblems pass(const Settings &settings);
     QString attempt(const Setting &setting);
     QString attempt(GenApi::IValue *feature, const QString &value);

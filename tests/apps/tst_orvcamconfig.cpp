@@ -134,23 +134,23 @@ void TestOrvCamConfig::failures_data()
     const auto row = [](const QString &line, int status, const char *words) {
         QTest::newRow(qPrintable(line)) << line.split(' ') << status << QString(words);
     };
-    const char *const nobody = "There is no camera 'Nobody'. Found: ";
+    const char *const unknownCamera = "There is no camera 'Nobody'. Found: ";
     row("--list-features", 2, "--simulate");
     row("--window door", 2, "door");
     row("--simulate --window ", 2, "window");
     row("--xml a.xml --window picker", 2, "pick");
     row("--simulate --list-cameras --camera a", 2, "--list-cameras");
-    row("--simulate --window picker --camera Nobody", 1, nobody);
+    row("--simulate --window picker --camera Nobody", 1, unknownCamera);
     row("--nonsense", 2, "nonsense");
     for (const char *line : {"--xml ", "--screenshot ", "--camera ", "--list-features --xml="})
         row(line, 2, "needs a value");
-    row("-platform offscreen --simulate --camera Nobody", 1, nobody); // an option of Qt's
+    row("-platform offscreen --simulate --camera Nobody", 1, unknownCamera); // an option of Qt's
     row("--simulate stray", 2, "stray");
     row("--simulate --visibility all", 2, "all");
     row("--simulate --xml a.xml", 2, "--xml");
     row("--list-features --xml /missing.xml", 1, "missing.xml: No such file");
     row("--list-features --xml /dev/null", 1, "null: the description is empty");
-    row("--simulate --camera Nobody", 1, nobody);
+    row("--simulate --camera Nobody", 1, unknownCamera);
     row("--simulate --screenshot /nonexistent/folder/a.png", 1, "cannot be written");
     row("--get Hex", 2, "--simulate");
     row("--xml a.xml --get ", 2, "needs a value");

@@ -88,18 +88,18 @@ inline void dragBy(
 class ErrorBoxes : public QObject
 {
 public:
-    explicit ErrorBoxes(int patience = 0)
+    explicit ErrorBoxes(int closeDelay = 0)
     {
         m_timer.setInterval(2);
-        connect(&m_timer, &QTimer::timeout, this, [=] { look(patience); });
+        connect(&m_timer, &QTimer::timeout, this, [=] { look(closeDelay); });
         m_timer.start();
     }
 
     QStringList texts;
-    std::function<void()> meanwhile = [] {}; ///< called while a box is open
+    std::function<void()> whileOpen = [] {}; ///< called while a box is open
 
 private:
-    void look(int patience)
+    void look(int closeDelay)
     {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box || box->property("seen").toBool())
@@ -109,8 +109,8 @@ private:
             box->standardButtons() != QMessageBox::Ok || box->parent())
             qFatal("Not the error box that was agreed upon");
         texts << box->text();
-        meanwhile();
-        QTimer::singleShot(patience, box, &QDialog::accept);
+        whileOpen();
+        QTimer::singleShot(closeDelay, box, &QDialog::accept);
     }
 
     QTimer m_timer;

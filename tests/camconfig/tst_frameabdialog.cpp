@@ -965,7 +965,7 @@ void TestFrameABDialog::refusedWrites()
     QCOMPARE(boxes.texts.size(), 2);
 
     // The output mode may become another one while the user reads that.
-    boxes.meanwhile = [&] { plain.mode.change(2); };
+    boxes.whileOpen = [&] { plain.mode.change(2); };
     QTest::keyClick(dialog.get("cmBoxFrameMode"), Qt::Key_Up);
     QCOMPARE(boxes.texts.size(), 3);
     QVERIFY(dialog.tabs()->isTabEnabled(1) && dialog.isOn("spBoxDualVideo"));
@@ -982,7 +982,7 @@ void TestFrameABDialog::otherCameraInTheMiddle()
     {
         Dialog dialog(&device);
         ErrorBoxes boxes;
-        boxes.meanwhile = [&] { dialog.SetDevice(&camera.device); };
+        boxes.whileOpen = [&] { dialog.SetDevice(&camera.device); };
         dialog.type("spBoxExpTime", 1001);
         Dialog::processEvents();
         QCOMPARE(boxes.texts.size(), 1);
@@ -993,7 +993,7 @@ void TestFrameABDialog::otherCameraInTheMiddle()
     }
     QPointer<Dialog> dialog = new Dialog(&device);
     ErrorBoxes boxes;
-    boxes.meanwhile = [&] {
+    boxes.whileOpen = [&] {
         dialog->SetDevice(nullptr);
         dialog->SetDevice(&device); // is not what it was any more
     };
@@ -1003,7 +1003,7 @@ void TestFrameABDialog::otherCameraInTheMiddle()
     dialog->SetDevice(nullptr);
     plain.selector.onWrite(throwRefusal);
     plain.mode.change(1);
-    boxes.meanwhile = [&] { delete dialog; };
+    boxes.whileOpen = [&] { delete dialog; };
     dialog->SetDevice(&device);
     QCOMPARE(boxes.texts.size(), 2);
     QVERIFY(!dialog);
@@ -1020,7 +1020,7 @@ void TestFrameABDialog::otherCameraWhileAFrameIsRefused()
             plain.mode.change(atOnce ? 1 : 2);
             Dialog dialog(nullptr);
             ErrorBoxes boxes;
-            boxes.meanwhile = [&] {
+            boxes.whileOpen = [&] {
                 dialog.SetDevice(next);
                 plain.lines.change(77); // is not shown any more
                 plain.device->Release();

@@ -435,7 +435,7 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}});
     NodeMapDevice refusing(map);
     ErrorBoxes boxes;
-    boxes.meanwhile = [&] { stuck.SetDevice(nullptr); };
+    boxes.whileOpen = [&] { stuck.SetDevice(nullptr); };
     stuck.show();
     child<QPushButton>(stuck, "pushBtnFrameAB").click(); // one that is not seen selects nothing
     stuck.SetDevice(&refusing);

@@ -848,7 +848,7 @@ void TestOrvCamConfigMapper::receiverMayEndBinding()
     bind([] {});
     b.onWrite(throwRefusal);
     ErrorBoxes boxes;
-    boxes.meanwhile = [&] {
+    boxes.whileOpen = [&] {
         b.mapper.reset();
         b.array.reset();
     };

@@ -50,7 +50,7 @@ private:
 
 namespace {
 
-constexpr int patience = 15000;
+constexpr int waitLimit = 15000;
 
 } // namespace
 
@@ -79,7 +79,7 @@ DeviceInfo *TestGigEVision::waitForCamera(const char *adapter, const char *seria
 {
     QElapsedTimer timer;
     timer.start();
-    while (!timer.hasExpired(patience)) {
+    while (!timer.hasExpired(waitLimit)) {
         for (DeviceInfo *camera : camerasOf(*interface(adapter))) {
             if (qstrcmp(camera->GetSerial(), serial) == 0)
                 return camera;
@@ -447,7 +447,7 @@ void TestGigEVision::unplugAndReplug()
     OrvGenApiNode *node = OrvGenParam_FindNode(array->GetNodeMap(), "Width");
 
     camera.reset();
-    QTRY_COMPARE_WITH_TIMEOUT(events.count(EventDisconnected), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(EventDisconnected), 1, waitLimit);
     QVERIFY(!device->IsConnected());
     int32_t error = Success;
     QElapsedTimer timer;
@@ -462,7 +462,7 @@ void TestGigEVision::unplugAndReplug()
     QVERIFY(!device->GetParamArray());
 
     camera = m_first->startCamera("LIVELY");
-    QTRY_COMPARE_WITH_TIMEOUT(events.count(EventReconnected), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(EventReconnected), 1, waitLimit);
     QVERIFY(device->IsConnected());
     QCOMPARE(OrvGenParam_GetInteger(node, nullptr), int32_t(Success));
     OrvGenParam::Array *present = device->GetParamArray(&error);

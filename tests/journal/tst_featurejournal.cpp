@@ -82,7 +82,7 @@ const auto redoKeys = [](QWidget *widget) {
 };
 
 /// Processes events until all writes of a gesture are recorded.
-void settle()
+void processPending()
 {
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();
@@ -198,15 +198,15 @@ void TestFeatureJournal::selectors()
     map.write(journal, "GainSelector", "Red");
     MemoryInteger &sum = map.addInteger("Sum");
     sum.dependsOn(map.gain);
-    int told = 0;
-    QVector<int> heard;
+    int calls = 0;
+    QVector<int> places;
     const auto callback = GenApi::Register(&sum, [&](GenApi::INode *) {
-        ++told;
-        heard << int(map.place());
+        ++calls;
+        places << int(map.place());
     });
     journal->undo();
-    QVERIFY(told > 0);
-    QCOMPARE(heard.last(), int(map.place()));
+    QVERIFY(calls > 0);
+    QCOMPARE(places.last(), int(map.place()));
     sum.DeregisterCallback(callback);
 
     // An unknown value is not read, and a write that cannot be undone is no step.
@@ -333,14 +333,14 @@ void TestFeatureJournal::gestures()
             journal->undo();
         return steps;
     };
-    settle();
+    processPending();
 
     QTest::mouseClick(part(dialog, "pushBtnRedUnity"), Qt::LeftButton);
-    settle();
+    processPending();
     box->setFocus();
     for (int i = 0; i < 3; ++i) {
         QTest::keyClick(box, Qt::Key_Up);
-        settle();
+        processPending();
     }
     QCOMPARE(value(), 259);
     QCOMPARE(undoAll(), first == 256 ? 3 : 4);
@@ -350,7 +350,7 @@ void TestFeatureJournal::gestures()
     const auto key = [&](QEvent::Type type, bool isRepeated) {
         QKeyEvent event(type, Qt::Key_Up, {}, QString(), isRepeated);
         QApplication::sendEvent(box, &event);
-        settle();
+        processPending();
     };
     key(QEvent::KeyPress, false);
     for (int i = 0; i < 20; ++i)
@@ -364,7 +364,7 @@ void TestFeatureJournal::gestures()
     const QPoint from = handleOf(slider);
     dragBy(slider, from, slider->orientation() == Qt::Vertical ? QPoint(0, 3) : QPoint(3, 0), 5);
     QTest::mouseRelease(slider, Qt::LeftButton);
-    settle();
+    processPending();
     QVERIFY(value() != first);
     const quint64 writes = camera.writes();
     QCOMPARE(undoAll(), 1);
@@ -405,23 +405,23 @@ void TestFeatureJournal::frames()
             type(get(input.first), input.second);
         else
             click(get(input.first));
-        settle();
+        processPending();
         QVERIFY2(journal->canUndo(), input.first);
         const QString step = journal->undoText();
         after = state();
         QVERIFY(after != before);
         const quint64 writes = camera.writes();
         QVERIFY(journal->undo());
-        settle();
+        processPending();
         QCOMPARE(state(), before);
         QVERIFY(!journal->canUndo());
         QVERIFY(camera.writes() - writes <= 4);
         QVERIFY(journal->redo());
-        settle();
+        processPending();
         QCOMPARE(state(), after);
         QCOMPARE(journal->undoText(), step);
         QVERIFY(journal->undo());
-        settle();
+        processPending();
     }
 }
 
@@ -434,7 +434,7 @@ void TestFeatureJournal::typing()
     auto *box = part(dialog, "spBoxRed")->findChild<QSpinBox *>();
     const QString first = camera.get("RedCoefficient");
     ::type(box, "300");
-    settle();
+    processPending();
     QCOMPARE(camera.get("RedCoefficient"), QString("300"));
     ::type(box, "77", false);
     undoKeys(box);
@@ -446,13 +446,13 @@ void TestFeatureJournal::typing()
         QVERIFY(box->text() != text);
     }
     undoKeys(box);
-    settle();
+    processPending();
     QCOMPARE(camera.get("RedCoefficient"), first);
     QCOMPARE(box->text(), first);
     undoKeys(box); // nothing is left, also not of what was typed
     QCOMPARE(box->text(), first);
     redoKeys(box);
-    settle();
+    processPending();
     QCOMPARE(camera.get("RedCoefficient"), QString("300"));
     QCOMPARE(box->text(), QString("300"));
 }
@@ -467,10 +467,10 @@ void TestFeatureJournal::window()
     QCOMPARE(undo->objectName(), QString("actionUndo"));
     QVERIFY(!undo->isEnabled());
     const auto readsOfATurn = [&] {
-        settle();
+        processPending();
         const auto reads = camera.map->transactions().reads;
         QMetaObject::invokeMethod(part<QTimer>(window, "refreshTimer"), "timeout");
-        settle();
+        processPending();
         return camera.map->transactions().reads - reads;
     };
     readsOfATurn(); // of both frames

@@ -531,12 +531,12 @@ void TestSettings::menu()
     const auto journal = FeatureJournal::of(&camera);
     FeatureJournal::write(journal, "Width", 60, 61, [] { return true; });
     QVERIFY(journal->canUndo());
-    QStringList told;
+    QStringList writes;
     connect(journal.get(), &FeatureJournal::written, this, [&](const FeatureJournal::Write &one) {
         QStringList words{one.node->GetName().c_str(), one.before, one.after};
         for (const auto &selector : one.selectors)
             words << selector.feature + selector.text;
-        told << words.join('|');
+        writes << words.join('|');
     });
     camera.offset->setAccessMode(GenApi::RO);
     menu.load(write(head + "Width\t50\nOffsetX\t9\nNew\t1\n"));
@@ -550,12 +550,12 @@ void TestSettings::menu()
     QCOMPARE(tableText(dialog), QString("OffsetX|9|It cannot be changed now.\n"
                                         "New|1|The camera does not have it."));
     QCOMPARE(camera.width->GetValue(), int64_t(50));
-    QCOMPARE(told, QStringList("Width|60|50"));
+    QCOMPARE(writes, QStringList("Width|60|50"));
     QVERIFY(!journal->canUndo()); // would put back what was there before the load
     dialog->findChild<QPushButton *>("putBackButton")->click();
     QVERIFY(finished.wait());
     QCOMPARE(camera.width->GetValue(), int64_t(60));
-    QVERIFY2(told.contains("Width||60"), qPrintable(told.join('\n')));
+    QVERIFY2(writes.contains("Width||60"), qPrintable(writes.join('\n')));
     shown<QDialog>("SettingsResult")->reject();
 
     // A selector that is a setting itself is put back as well.
@@ -567,8 +567,8 @@ void TestSettings::menu()
     dialog->accept();
     QVERIFY(finished.wait());
     QCOMPARE(camera.phase->GetValue(), int64_t(1));
-    QVERIFY2(told.indexOf(QRegularExpression("Gain\\|.+\\|9\\|.*PhaseIndex2")) >= 0,
-             qPrintable(told.join('\n')));
+    QVERIFY2(writes.indexOf(QRegularExpression("Gain\\|.+\\|9\\|.*PhaseIndex2")) >= 0,
+             qPrintable(writes.join('\n')));
     shown<QDialog>("SettingsResult")->reject();
     menu.putBack();
     QVERIFY(finished.wait());

@@ -13,16 +13,16 @@ class Plug
 {
 public:
     Plug() = default;
-    ~Plug() { settle(); }
+    ~Plug() { waitForNotification(); }
     Plug(const Plug &) = delete;
 
     operator bool() const { return m_isIn; }
 
     Plug &operator=(bool isIn)
     {
-        settle();
+        waitForNotification();
         if (m_isIn.exchange(isIn) != isIn) {
-            m_teller = std::thread([this, isIn] {
+            m_notifier = std::thread([this, isIn] {
                 const std::lock_guard<std::recursive_mutex> lock(m_mutex);
                 if (m_listener)
                     isIn ? m_listener->found() : m_listener->lost();
@@ -38,14 +38,14 @@ public:
     }
 
 private:
-    void settle()
+    void waitForNotification()
     {
-        if (m_teller.joinable())
-            m_teller.join();
+        if (m_notifier.joinable())
+            m_notifier.join();
     }
 
     std::atomic<bool> m_isIn{true};
     std::recursive_mutex m_mutex;
     OrvCameraIo::RegisterIoListener *m_listener = nullptr;
-    std::thread m_teller;
+    std::thread m_notifier;
 };

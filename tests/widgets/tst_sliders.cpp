@@ -147,7 +147,7 @@ void TestSliders::keepsItsPromisesForAnyRange()
 {
     Random random;
     QtOrvSlider slider;
-    int settled = 0;
+    int unmoved = 0;
     for (int i = 0; i < 3000; ++i) {
         const qint64 span = random.ofAnySize(qint64(highest) - lowest);
         const qint64 minimum = random.between(lowest, highest - span);
@@ -186,10 +186,10 @@ void TestSliders::keepsItsPromisesForAnyRange()
             const bool mayDrift = validate && scale == QtOrvSlider::ScaleLog10;
             QVERIFY2(again == reached || (mayDrift && again - reached <= step && again > reached),
                      what);
-            settled += again == reached;
+            unmoved += again == reached;
         }
     }
-    QVERIFY2(settled > 3000 * 32 * 0.999, QByteArray::number(settled));
+    QVERIFY2(unmoved > 3000 * 32 * 0.999, QByteArray::number(unmoved));
 }
 
 // The sanitizers watch this one: no overflow, no conversion of what does not fit, no endless loop.
