@@ -72,14 +72,14 @@ class TestOrvCameraGuiApi : public QObject
 private slots:
     void cleanup();
     void makesTheApplication();
-    void titles_data();
-    void titles();
+    void windowTitles_data();
+    void windowTitles();
     void stateLevelAndLanguage();
     void configurationWindow();
     void sourcesWithoutFeatures();
     void insideAnotherWindow();
-    void windowThatIsNotThere();
-    void windowResizedWhenAsked();
+    void missingForeignWindow();
+    void resizeDuringQueryIsReported();
 
 private:
     bool shows(xcb_window_t panel, IOrvGenParamTreeView *view)
@@ -126,7 +126,7 @@ void TestOrvCameraGuiApi::makesTheApplication()
     QCOMPARE(QCoreApplication::instance(), application);
 }
 
-void TestOrvCameraGuiApi::titles_data()
+void TestOrvCameraGuiApi::windowTitles_data()
 {
     QTest::addColumn<QString>("title");
     QTest::newRow("none") << QString();
@@ -134,7 +134,7 @@ void TestOrvCameraGuiApi::titles_data()
     QTest::newRow("others") << QStringLiteral("Камера 参数 \U0001F4F7");
 }
 
-void TestOrvCameraGuiApi::titles()
+void TestOrvCameraGuiApi::windowTitles()
 {
     QFETCH(QString, title);
     const auto check = [&title](IOrvGenParamTreeView *view) {
@@ -288,7 +288,7 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
 }
 
 // Hosts make mistakes. They get a tree that cannot be seen.
-void TestOrvCameraGuiApi::windowThatIsNotThere()
+void TestOrvCameraGuiApi::missingForeignWindow()
 {
     Features map;
     DestroyGenParamTreeView(CreateGenParamTreeViewForNodemapA(&map, "", 0x7ffffff));
@@ -304,7 +304,7 @@ void TestOrvCameraGuiApi::windowThatIsNotThere()
 }
 
 // Events that arrive together with an answer are reported, too.
-void TestOrvCameraGuiApi::windowResizedWhenAsked()
+void TestOrvCameraGuiApi::resizeDuringQueryIsReported()
 {
     const xcb_window_t window =
         m_screen.makeWindow(m_screen.screen().root, QRect(0, 0, 300, 300), 0xff);

@@ -51,12 +51,12 @@ private slots:
     void followTheConfiguration();
     void settingsMenu();
     void namedWhileSeveralAreOpen();
-    void rememberedFromRunToRun();
+    void layoutIsRestored();
     void damagedSettings();
     void treeBesideMainWindow_data();
     void treeBesideMainWindow();
-    void placeThatIsGone_data();
-    void placeThatIsGone();
+    void positionOffTheScreens_data();
+    void positionOffTheScreens();
     void vanishedCamera();
 
 private:
@@ -187,7 +187,7 @@ void TestCameraWindows::namedWhileSeveralAreOpen()
     windows.configuration().SetDevice(nullptr);
 }
 
-void TestCameraWindows::rememberedFromRunToRun()
+void TestCameraWindows::layoutIsRestored()
 {
     const QTemporaryDir folder;
     QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
@@ -287,7 +287,7 @@ void TestCameraWindows::treeBesideMainWindow()
     QCOMPARE(place.left() > main.right() ? 1 : place.right() < main.left() ? -1 : 0, side);
 }
 
-void TestCameraWindows::placeThatIsGone_data()
+void TestCameraWindows::positionOffTheScreens_data()
 {
     QTest::addColumn<QRect>("place");
     QTest::addColumn<bool>("isThere");
@@ -299,7 +299,7 @@ void TestCameraWindows::placeThatIsGone_data()
     QTest::newRow("larger screen") << screen.adjusted(0, 0, 200, 200) << true;
 }
 
-void TestCameraWindows::placeThatIsGone()
+void TestCameraWindows::positionOffTheScreens()
 {
     QFETCH(QRect, place);
     QFETCH(bool, isThere);

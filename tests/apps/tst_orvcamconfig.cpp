@@ -47,12 +47,12 @@ private slots:
     void listsFeatures_data();
     void listsFeatures();
     void listsCameras();
-    void failures_data();
-    void failures();
+    void reportsFailures_data();
+    void reportsFailures();
     void savesPictures();
-    void carriesOut();
+    void runsActions();
     void settingsFiles();
-    void waylandAlone();
+    void waylandWithoutX();
 
 private:
     QTemporaryDir m_folder;
@@ -126,7 +126,7 @@ void TestOrvCamConfig::listsCameras()
                                      "another program controls it.\n"));
 }
 
-void TestOrvCamConfig::failures_data()
+void TestOrvCamConfig::reportsFailures_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -164,7 +164,7 @@ void TestOrvCamConfig::failures_data()
     row("--simulate -platform nonsense", 1, "No window can be shown: ");
 }
 
-void TestOrvCamConfig::failures()
+void TestOrvCamConfig::reportsFailures()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, status);
@@ -203,7 +203,7 @@ void TestOrvCamConfig::savesPictures()
     }
 }
 
-void TestOrvCamConfig::carriesOut()
+void TestOrvCamConfig::runsActions()
 {
     const QStringList start = {"--xml", ORV_SAMPLE};
     Result result = run(start + QStringList({"--get", "Hex", "Flag", "--set", "Hex=1F", "Flag=0",
@@ -262,7 +262,7 @@ void TestOrvCamConfig::settingsFiles()
 }
 
 // A compositor that is named but not there: the complaint is that of Wayland, not that of X.
-void TestOrvCamConfig::waylandAlone()
+void TestOrvCamConfig::waylandWithoutX()
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

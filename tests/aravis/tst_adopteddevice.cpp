@@ -64,9 +64,9 @@ private slots:
     void init();
     void cleanup();
     void sharedWhileStreaming();
-    void eitherMayGoFirst();
+    void releasedInAnyOrder();
     void withoutControl();
-    void lostAndFound();
+    void unplugAndReplug();
     void noDevice();
     void descriptionForOtherPrograms();
 
@@ -131,7 +131,7 @@ void TestAdoptedDevice::sharedWhileStreaming()
     QVERIFY(G_OBJECT(m_device)->ref_count >= references);
 }
 
-void TestAdoptedDevice::eitherMayGoFirst()
+void TestAdoptedDevice::releasedInAnyOrder()
 {
     const guint references = G_OBJECT(m_device)->ref_count;
     DevicePtr(OrvCam_AdoptArvDevice(m_device, nullptr)).reset();
@@ -154,7 +154,7 @@ void TestAdoptedDevice::withoutControl()
              int32_t(OrvCam::ErrorAccessDenied));
 }
 
-void TestAdoptedDevice::lostAndFound()
+void TestAdoptedDevice::unplugAndReplug()
 {
     DevicePtr device(OrvCam_AdoptArvDevice(m_device, nullptr));
     QVERIFY(device);

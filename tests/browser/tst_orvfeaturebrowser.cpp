@@ -124,19 +124,19 @@ class TestOrvFeatureBrowser : public QObject
 
 private slots:
     void searchOfManyFeatures();
-    void searchGivesTheTreeBack();
+    void searchEndRestoresTree();
     void higherLevel();
     void favourites();
-    void state();
+    void savedState();
     void changes();
     void undo();
     void undoWhileTyping();
-    void changesOfOthers();
+    void changesOfOtherWindows();
     void refusals();
     void contextMenu();
     void selectorTable();
     void otherParameters();
-    void functions();
+    void cFunctions();
     void cleanupTestCase();
 };
 
@@ -164,7 +164,7 @@ void TestOrvFeatureBrowser::searchOfManyFeatures()
     QCOMPARE(shown.model().rowCount(), 50);
 }
 
-void TestOrvFeatureBrowser::searchGivesTheTreeBack()
+void TestOrvFeatureBrowser::searchEndRestoresTree()
 {
     LargeNodeMap map;
     Shown shown(map);
@@ -268,7 +268,7 @@ void TestOrvFeatureBrowser::favourites()
     QCOMPARE(shown.names(), all);
 }
 
-void TestOrvFeatureBrowser::state()
+void TestOrvFeatureBrowser::savedState()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -443,7 +443,7 @@ void TestOrvFeatureBrowser::undoWhileTyping()
 }
 
 /// What others write to the same camera counts as changed, too.
-void TestOrvFeatureBrowser::changesOfOthers()
+void TestOrvFeatureBrowser::changesOfOtherWindows()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -608,7 +608,7 @@ void TestOrvFeatureBrowser::otherParameters()
     QVERIFY(!shown.tree.model());
 }
 
-void TestOrvFeatureBrowser::functions()
+void TestOrvFeatureBrowser::cFunctions()
 {
     SampleNodeMap map;
     OrvGuiFeatureBrowser *browser = CreateFeatureBrowserForNodemapA(&map, "Fe\xc3\xa4", 0);

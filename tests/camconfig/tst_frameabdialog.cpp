@@ -320,9 +320,9 @@ private Q_SLOTS:
     void fixedPeriodIsConverted();
     void gainIsSplit();
     void draggingWritesOnceAtTheEnd();
-    void typingBelongsToTheFrameItWasBegunFor();
+    void frameChangeDiscardsTyping();
     void otherProgramSelectsTheOtherFrame();
-    void unseenItLeavesTheFrameAlone();
+    void hiddenDialogKeepsSelection();
     void wheelOverDerivedValues();
     void scrollsOnASmallScreen();
     void areaPresets();
@@ -330,7 +330,7 @@ private Q_SLOTS:
     void missingFeatures_data();
     void missingFeatures();
     void refusedWrites();
-    void otherCameraInTheMiddle();
+    void otherCameraDuringWrite();
     void otherCameraWhileAFrameIsRefused();
     void currentSizeIsRefreshed();
     void randomWalk();
@@ -618,7 +618,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     box->slider()->hide();
 }
 
-void TestFrameABDialog::typingBelongsToTheFrameItWasBegunFor()
+void TestFrameABDialog::frameChangeDiscardsTyping()
 {
     Camera camera;
     camera.choose("FrameMode", "DualVideo");
@@ -686,7 +686,7 @@ void TestFrameABDialog::otherProgramSelectsTheOtherFrame()
     QCOMPARE(boxes.texts, none);
 }
 
-void TestFrameABDialog::unseenItLeavesTheFrameAlone()
+void TestFrameABDialog::hiddenDialogKeepsSelection()
 {
     Camera camera;
     Dialog dialog(&camera.device);
@@ -971,7 +971,7 @@ void TestFrameABDialog::refusedWrites()
     QVERIFY(dialog.tabs()->isTabEnabled(1) && dialog.isOn("spBoxDualVideo"));
 }
 
-void TestFrameABDialog::otherCameraInTheMiddle()
+void TestFrameABDialog::otherCameraDuringWrite()
 {
     PlainCamera plain;
     plain.lines.onWrite(throwRefusal);

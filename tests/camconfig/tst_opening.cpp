@@ -84,12 +84,12 @@ private slots:
     void cleanup() { m_camera->setMood("delay", 0); }
     void showsProgress();
     void cancels();
-    void saysWhy();
-    void changesOfMind_data();
-    void changesOfMind();
-    void connects();
+    void reportsReason();
+    void changesDuringOpening_data();
+    void changesDuringOpening();
+    void readsBothFramesFirst();
     void fewCommands();
-    void neverWaits();
+    void windowsDoNotBlock();
 
 private:
     OrvCamConfigOpening::Result open();
@@ -180,7 +180,7 @@ void TestOpening::cancels()
     QVERIFY(device);
 }
 
-void TestOpening::saysWhy()
+void TestOpening::reportsReason()
 {
     m_camera->setPrivilege(2);
     OrvCamConfigOpening::Result result = open();
@@ -193,7 +193,7 @@ void TestOpening::saysWhy()
     QVERIFY(!result.reason.isEmpty() && !result.isCancelled);
 }
 
-void TestOpening::changesOfMind_data()
+void TestOpening::changesDuringOpening_data()
 {
     QTest::addColumn<QString>("change");
     for (const char *name : {"disconnect", "connect again", "close", "destroy", "quit"})
@@ -201,7 +201,7 @@ void TestOpening::changesOfMind_data()
 }
 
 /// While the main window opens the camera that was picked.
-void TestOpening::changesOfMind()
+void TestOpening::changesDuringOpening()
 {
     QFETCH(QString, change);
     m_camera->setMood("delay", 20);
@@ -247,7 +247,7 @@ void TestOpening::changesOfMind()
 }
 
 /// Of a camera that the window opens itself both frames have been read before it is shown.
-void TestOpening::connects()
+void TestOpening::readsBothFramesFirst()
 {
     const QTemporaryDir cache; // a second opening takes a few commands
     qputenv("ORVCAM_DESCRIPTION_CACHE", cache.path().toLocal8Bit());
@@ -310,7 +310,7 @@ void TestOpening::fewCommands()
     window.SetDevice(nullptr);
 }
 
-void TestOpening::neverWaits()
+void TestOpening::windowsDoNotBlock()
 {
     const DevicePtr device(open().device);
     QVERIFY(device);

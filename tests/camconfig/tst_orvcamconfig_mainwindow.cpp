@@ -281,7 +281,7 @@ class TestOrvCamConfigMainWindow : public QObject
 
 private slots:
     void showsBothFrames();
-    void leavesInputAlone();
+    void keepsPendingInput();
     void lockedSelector();
     void cameraWithOneFrame();
     void information();
@@ -339,7 +339,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QVERIFY(shows());
 }
 
-void TestOrvCamConfigMainWindow::leavesInputAlone()
+void TestOrvCamConfigMainWindow::keepsPendingInput()
 {
     Simulation simulation;
     simulation.set("FrameMode", "FrameA");

@@ -304,8 +304,8 @@ private slots:
     void toolTipExplainsFeature();
     void mappingAgainReleasesFormerWidget_data() { kinds(); }
     void mappingAgainReleasesFormerWidget();
-    void anyPartMayGoFirst_data() { kinds(); }
-    void anyPartMayGoFirst();
+    void partsDestroyedInAnyOrder_data() { kinds(); }
+    void partsDestroyedInAnyOrder();
     void limitsFitWidget_data() { kinds({6, 7, 8, 9, 10}); }
     void limitsFitWidget();
     void converterChangesUnit();
@@ -548,7 +548,7 @@ void TestOrvCamConfigMapper::mappingAgainReleasesFormerWidget()
     QCOMPARE(b.writes(), 1);
 }
 
-void TestOrvCamConfigMapper::anyPartMayGoFirst()
+void TestOrvCamConfigMapper::partsDestroyedInAnyOrder()
 {
     QFETCH(int, kind);
     {

@@ -26,16 +26,16 @@ private slots:
     void camerasComeAndGo();
     void badDescription();
     void allAdaptersAtOnce();
-    void notConnected();
+    void linkIsDown();
     void withoutAddress();
     void sharedMacAddress();
     void manyCamerasComeAndGo();
-    void strangeAnswers_data();
-    void strangeAnswers();
+    void malformedAnswers_data();
+    void malformedAnswers();
     void wrongSubnetAndForcedIp();
-    void forcedIpOnABadDay_data();
-    void forcedIpOnABadDay();
-    void forcedIpGivenUp();
+    void forcedIpWithFaults_data();
+    void forcedIpWithFaults();
+    void forcedIpIsCancelled();
     void unplugAndReplug();
 
 private:
@@ -219,7 +219,7 @@ void TestGigEVision::allAdaptersAtOnce()
     QVERIFY(camerasOf(*second).empty());
 }
 
-void TestGigEVision::notConnected()
+void TestGigEVision::linkIsDown()
 {
     TestCamera camera(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
     Interface *first = interface("orv0");
@@ -311,7 +311,7 @@ void TestGigEVision::manyCamerasComeAndGo()
 
 Q_DECLARE_METATYPE(TestCameraBehaviour)
 
-void TestGigEVision::strangeAnswers_data()
+void TestGigEVision::malformedAnswers_data()
 {
     QTest::addColumn<TestCameraBehaviour>("behaviour");
     QTest::addColumn<int>("count"); // -1: any number
@@ -331,7 +331,7 @@ void TestGigEVision::strangeAnswers_data()
     QTest::newRow("flood") << flooding << -1;
 }
 
-void TestGigEVision::strangeAnswers()
+void TestGigEVision::malformedAnswers()
 {
     QFETCH(TestCameraBehaviour, behaviour);
     QFETCH(int, count);
@@ -379,7 +379,7 @@ void TestGigEVision::wrongSubnetAndForcedIp()
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
 }
 
-void TestGigEVision::forcedIpOnABadDay_data()
+void TestGigEVision::forcedIpWithFaults_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("error");
@@ -391,7 +391,7 @@ void TestGigEVision::forcedIpOnABadDay_data()
     QTest::newRow("answer-loss") << 60 << int(Success) << 0;
 }
 
-void TestGigEVision::forcedIpOnABadDay()
+void TestGigEVision::forcedIpWithFaults()
 {
     QFETCH(int, value);
     QFETCH(int, error);
@@ -414,7 +414,7 @@ void TestGigEVision::forcedIpOnABadDay()
     QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"), int64_t(0x0A010002));
 }
 
-void TestGigEVision::forcedIpGivenUp()
+void TestGigEVision::forcedIpIsCancelled()
 {
     TestCamera wrong(m_first->cameraSettings(0x001B2C3D4E5F, "169.254.7.21"));
     Interface *first = interface("orv0");

@@ -88,8 +88,8 @@ private slots:
     void errorCodes_data();
     void errorCodes();
     void sinksFollowChanges();
-    void sinksMayActFromInside();
-    void eitherEndMayGoFirst();
+    void sinksChangeRegistrations();
+    void destroyedInAnyOrder();
     void changesOnOtherThreads();
     void registrationsUnderLoad();
 };
@@ -297,7 +297,7 @@ void TestNodeMapArray::sinksFollowChanges()
     QCOMPARE(sink.count, 4);
 }
 
-void TestNodeMapArray::sinksMayActFromInside()
+void TestNodeMapArray::sinksChangeRegistrations()
 {
     Camera camera;
     NodeMapArray array(camera.map);
@@ -336,7 +336,7 @@ void TestNodeMapArray::sinksMayActFromInside()
     QCOMPARE(late.count, 3);
 }
 
-void TestNodeMapArray::eitherEndMayGoFirst()
+void TestNodeMapArray::destroyedInAnyOrder()
 {
     Camera camera;
     Sink survivor;

@@ -118,18 +118,18 @@ class TestRegisterIo : public QObject
     Q_OBJECT
 
 private slots:
-    void knowsWhatWasTransferred();
-    void fieldsOfOneRegisterKeepEachOther();
+    void cachesTransferredRegisters();
+    void fieldsShareOneRegister();
     void waitingCallersGoFirst();
-    void whatThereIsNoTimeForIsReadNext();
+    void remainderIsReadNext();
     void aDroppedRequestIsNotAnswered();
-    void silenceCostsOneTimeout();
-    void aMuteRegisterIsGivenUp();
+    void lostCameraCostsOneTimeout();
+    void unansweredRegisterIsSkipped();
     void aLostCameraIsFound_data();
     void aLostCameraIsFound();
 };
 
-void TestRegisterIo::knowsWhatWasTransferred()
+void TestRegisterIo::cachesTransferredRegisters()
 {
     Camera camera;
     camera.memory[0] = {1, 2, 3, 4};
@@ -151,7 +151,7 @@ void TestRegisterIo::knowsWhatWasTransferred()
     QVERIFY(io.look(word(8), 0, milliseconds(60000)).isKnown);
 }
 
-void TestRegisterIo::fieldsOfOneRegisterKeepEachOther()
+void TestRegisterIo::fieldsShareOneRegister()
 {
     Camera camera;
     camera.memory[0] = {0, 0, 0, 0};
@@ -199,7 +199,7 @@ void TestRegisterIo::waitingCallersGoFirst()
     QCOMPARE(camera.commands.load(), 11); // ten of four registers, and the other one
 }
 
-void TestRegisterIo::whatThereIsNoTimeForIsReadNext()
+void TestRegisterIo::remainderIsReadNext()
 {
     Camera camera;
     camera.inTime = 3;
@@ -241,7 +241,7 @@ void TestRegisterIo::aDroppedRequestIsNotAnswered()
     }
 }
 
-void TestRegisterIo::silenceCostsOneTimeout()
+void TestRegisterIo::lostCameraCostsOneTimeout()
 {
     Camera camera;
     RegisterIo io(std::make_unique<FakePort>(camera));
@@ -265,7 +265,7 @@ void TestRegisterIo::silenceCostsOneTimeout()
     io.setListener(nullptr);
 }
 
-void TestRegisterIo::aMuteRegisterIsGivenUp()
+void TestRegisterIo::unansweredRegisterIsSkipped()
 {
     Camera camera;
     camera.mute = {8};

@@ -58,9 +58,9 @@ private slots:
     void contents();
     void refused_data();
     void refused();
-    void silence();
+    void parserPrintsNothing();
     void limits();
-    void sharing();
+    void descriptionsAreShared();
 };
 
 void TestDescription::contents()
@@ -137,7 +137,7 @@ void TestDescription::refused()
     QVERIFY2(error.startsWith(message) && !error.contains('\n'), qPrintable(error));
 }
 
-void TestDescription::silence()
+void TestDescription::parserPrintsNothing()
 {
     QTemporaryFile output;
     QVERIFY(output.open());
@@ -162,7 +162,7 @@ void TestDescription::limits()
     QCOMPARE(description->nodes()[1].text("ToolTip").size(), std::size_t(longText.size()));
 }
 
-void TestDescription::sharing()
+void TestDescription::descriptionsAreShared()
 {
     const QByteArray xml = document("<Integer Name='Shared'/>");
     std::vector<std::shared_ptr<const Description>> all(4);

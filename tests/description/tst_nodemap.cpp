@@ -102,18 +102,18 @@ private slots:
     void bitFieldsShareTheirRegister();
     void values_data();
     void values();
-    void addressesThatMove();
+    void variableAddresses();
     void accessModes();
     void limitsAndIncrements();
     void validValues();
-    void senselessReferences();
-    void senselessNodes();
-    void circles();
-    void referencesThatCostTooMuch();
+    void invalidReferences();
+    void invalidNodes();
+    void circularReferences();
+    void costOfReferences();
     void manyNodes();
     void longRegisters();
-    void roundsOfReading();
-    void silence();
+    void readsInFewTransfers();
+    void cameraDoesNotAnswer();
     void cachingModes();
     void pollingAndInvalidation();
     void pollingReportsChangesOnly();
@@ -361,7 +361,7 @@ void TestNodeMap::values()
     QCOMPARE(FeatureSteps(*load(root({}) + nodes)).run(steps), QString());
 }
 
-void TestNodeMap::addressesThatMove()
+void TestNodeMap::variableAddresses()
 {
     const QByteArray rest = "<Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
                             "<Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>";
@@ -442,7 +442,7 @@ void TestNodeMap::validValues()
     QVERIFY_EXCEPTION_THROWN(real(*map, "F") = 2, GenICam::OutOfRangeException);
 }
 
-void TestNodeMap::senselessReferences()
+void TestNodeMap::invalidReferences()
 {
     const auto map =
         load(root({"Good", "Missing", "NoPort", "Dangling", "Limited", "Switched", "Chunk"}) +
@@ -469,7 +469,7 @@ void TestNodeMap::senselessReferences()
     QCOMPARE(map->transactions().reads, uint64_t(0));
 }
 
-void TestNodeMap::senselessNodes()
+void TestNodeMap::invalidNodes()
 {
     const QByteArray tail = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
     const auto map = load(
@@ -495,7 +495,7 @@ void TestNodeMap::senselessNodes()
     QCOMPARE(map->transactions().reads, uint64_t(0));
 }
 
-void TestNodeMap::circles()
+void TestNodeMap::circularReferences()
 {
     const QByteArray tail = "<AccessMode>RW</AccessMode><pPort>Device</pPort>";
     const auto map = load(
@@ -558,7 +558,7 @@ void TestNodeMap::circles()
     QCOMPARE(names(features), QStringList("B"));
 }
 
-void TestNodeMap::referencesThatCostTooMuch()
+void TestNodeMap::costOfReferences()
 {
     QByteArray nodes = root({"Category0"}) + intReg("Link0", "0") +
                        intReg("Sum0", "4", "<Cachable>NoCache</Cachable>");
@@ -753,7 +753,7 @@ struct Polled
 
 } // namespace
 
-void TestNodeMap::roundsOfReading()
+void TestNodeMap::readsInFewTransfers()
 {
     const auto state = std::make_shared<CountingPort::State>();
     const auto map = loadWith(
@@ -784,7 +784,7 @@ void TestNodeMap::roundsOfReading()
     QCOMPARE(cost([&] { access(*map, "Guarded"); }), 0);
 }
 
-void TestNodeMap::silence()
+void TestNodeMap::cameraDoesNotAnswer()
 {
     const auto state = std::make_shared<CountingPort::State>();
     const auto map = loadWith(root({}) + intReg("Reg", "0") + intReg("Other", "4") +

@@ -128,28 +128,28 @@ private slots:
     void texts();
     void colours_data();
     void colours();
-    void firstShow();
+    void initialColumnWidths();
 
-    void hands_data();
-    void hands();
+    void inputWhilePolling_data();
+    void inputWhilePolling();
     void scrollingAndSearching();
     void choosingWithTheMouse();
     void listOpensOnce();
     void clickElsewhere();
     void untouchedEditors();
     void levelWhileEditing();
-    void onlyTheUsersChanges();
+    void writesUserChangesOnly();
 
     void dragging();
     void draggingLimits();
 
     void savedState();
     void restoredState();
-    void oddStates();
+    void invalidStates();
 
-    void takenAwayWhileEditing_data();
-    void takenAwayWhileEditing();
-    void takenAwayByItsOwnWrite();
+    void nodeMapDestroyedWhileEditing_data();
+    void nodeMapDestroyedWhileEditing();
+    void parametersReplacedByWrite();
     void changedOnAnotherThread();
     void readsOnlyWhatIsSeen();
     void levelKeepsThePlace();
@@ -316,7 +316,7 @@ void TestOrvGenParamTreeView::colours()
     QApplication::setPalette(before);
 }
 
-void TestOrvGenParamTreeView::firstShow()
+void TestOrvGenParamTreeView::initialColumnWidths()
 {
     SampleNodeMap map;
     OrvGenParamTreeView view(&map, nullptr);
@@ -340,7 +340,7 @@ void TestOrvGenParamTreeView::firstShow()
     QCOMPARE(restored.treeView()->columnWidth(0), 77);
 }
 
-void TestOrvGenParamTreeView::hands_data()
+void TestOrvGenParamTreeView::inputWhilePolling_data()
 {
     QTest::addColumn<Hands>("row");
     const auto row = [](const char *name, const Hands &hands) { QTest::newRow(name) << hands; };
@@ -384,7 +384,7 @@ void TestOrvGenParamTreeView::hands_data()
 
 // What the user types, chooses and leaves alone is what the camera gets. Between any two keys, as
 // slow hands have them, the node is polled.
-void TestOrvGenParamTreeView::hands()
+void TestOrvGenParamTreeView::inputWhilePolling()
 {
     QFETCH(Hands, row);
     MemoryTree shown;
@@ -648,7 +648,7 @@ void TestOrvGenParamTreeView::levelWhileEditing()
 
 // Not half an address, and not what the camera changes under an open list; but the smallest step of
 // a large number.
-void TestOrvGenParamTreeView::onlyTheUsersChanges()
+void TestOrvGenParamTreeView::writesUserChangesOnly()
 {
     SampleNodeMap map;
     auto &large = map.addFloat("Large", 1e12, "DeviceControl");
@@ -827,7 +827,7 @@ void TestOrvGenParamTreeView::restoredState()
     QCOMPARE(QByteArray(view.saveState()), state);
 }
 
-void TestOrvGenParamTreeView::oddStates()
+void TestOrvGenParamTreeView::invalidStates()
 {
     SampleNodeMap map;
     OrvGenParamTreeView view(&map, nullptr);
@@ -846,7 +846,7 @@ void TestOrvGenParamTreeView::oddStates()
     QVERIFY_EXCEPTION_THROWN(view.loadState("&amp;V99999999999"), std::out_of_range);
 }
 
-void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
+void TestOrvGenParamTreeView::nodeMapDestroyedWhileEditing_data()
 {
     QTest::addColumn<QString>("feature");
     QTest::addColumn<QString>("how");
@@ -861,7 +861,7 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing_data()
 
 // The node map is destroyed right after the tree has dropped it, with an edit begun and Return
 // pressed, which Qt handles only later. The sanitizers report an access to it.
-void TestOrvGenParamTreeView::takenAwayWhileEditing()
+void TestOrvGenParamTreeView::nodeMapDestroyedWhileEditing()
 {
     QFETCH(QString, feature);
     QFETCH(QString, how);
@@ -900,7 +900,7 @@ void TestOrvGenParamTreeView::takenAwayWhileEditing()
 }
 
 // A host may react to a change that the tree makes by giving it something else to show.
-void TestOrvGenParamTreeView::takenAwayByItsOwnWrite()
+void TestOrvGenParamTreeView::parametersReplacedByWrite()
 {
     for (const char *feature : {"Width", "PixelFormat", "DeviceReset"}) {
         SampleNodeMap next;

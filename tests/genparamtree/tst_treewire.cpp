@@ -64,7 +64,7 @@ class TestTreeWire : public QObject
 private slots:
     void initTestCase();
     void cleanupTestCase();
-    void nothingWaits();
+    void readingDoesNotBlock();
     void writing();
     void selection();
 
@@ -146,7 +146,7 @@ QString TestTreeWire::wrongTexts()
     return wrong;
 }
 
-void TestTreeWire::nothingWaits()
+void TestTreeWire::readingDoesNotBlock()
 {
     GenApi::INodeMap *map = m_device->GetParamArray()->GetNodeMap();
     auto *panel = [&] {

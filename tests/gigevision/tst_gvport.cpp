@@ -40,10 +40,10 @@ private slots:
     void initTestCase();
     void cleanupTestCase() { m_network.reset(); }
     void init() { qputenv("ORVCAM_DESCRIPTION_CACHE", ""); }
-    void hosts_data();
-    void hosts();
-    void claims_data();
-    void claims();
+    void reachableSubnets_data();
+    void reachableSubnets();
+    void contradictoryIdentities_data();
+    void contradictoryIdentities();
     void controlIsReadAgain();
     void openTwice_data();
     void openTwice();
@@ -64,10 +64,10 @@ private slots:
     void registersOfAllShapes();
     void twoViews_data();
     void twoViews();
-    void moods_data();
-    void moods();
-    void losses();
-    void presence();
+    void networkFaults_data();
+    void networkFaults();
+    void lostPackets();
+    void probing();
     void interrupted();
     void reopen();
 
@@ -160,7 +160,7 @@ TestCamera::Settings TestGvPort::describedCamera(int lines) const
 
 // Discovery
 
-void TestGvPort::hosts_data()
+void TestGvPort::reachableSubnets_data()
 {
     QTest::addColumn<QString>("subnet"); // of an adapter that is 10.1.0.1 in it and has 10.1.0.7
     QTest::addColumn<QString>("camera");
@@ -180,7 +180,7 @@ void TestGvPort::hosts_data()
         row("0.0.0.0", odd, false);
 }
 
-void TestGvPort::hosts()
+void TestGvPort::reachableSubnets()
 {
     QFETCH(QString, subnet);
     QFETCH(QString, camera);
@@ -193,7 +193,7 @@ void TestGvPort::hosts()
     QCOMPARE(adapter.addressFor(number(camera)) != nullptr, isReachable);
 }
 
-void TestGvPort::claims_data()
+void TestGvPort::contradictoryIdentities_data()
 {
     QTest::addColumn<Claims>("claims");
     QTest::addColumn<int>("listed");
@@ -210,7 +210,7 @@ void TestGvPort::claims_data()
     QTest::newRow("no MAC address") << Claims{{0, farHost, "A"}, {0, farHost, "B"}} << 2 << 0;
 }
 
-void TestGvPort::claims()
+void TestGvPort::contradictoryIdentities()
 {
     QFETCH(Claims, claims);
     QFETCH(int, listed);
@@ -778,7 +778,7 @@ void TestGvPort::twoViews()
 
 // A camera that misbehaves
 
-void TestGvPort::moods_data()
+void TestGvPort::networkFaults_data()
 {
     QTest::addColumn<QByteArray>("mood");
     QTest::addColumn<int>("value");
@@ -811,7 +811,7 @@ void TestGvPort::moods_data()
     row("refuse", 0x8007, Status::AccessDenied, 300);
 }
 
-void TestGvPort::moods()
+void TestGvPort::networkFaults()
 {
     QFETCH(QByteArray, mood);
     QFETCH(int, value);
@@ -844,7 +844,7 @@ void TestGvPort::moods()
     QCOMPARE(right(camera, read(*opened.port, words(2))), 2);
 }
 
-void TestGvPort::losses()
+void TestGvPort::lostPackets()
 {
     TestCamera camera(describedCamera(20));
     camera.setBytes(firstRegister, std::string("\1\2\3\4", 4));
@@ -869,7 +869,7 @@ void TestGvPort::losses()
 
 // Losing and finding it
 
-void TestGvPort::presence()
+void TestGvPort::probing()
 {
     TestCamera camera(describedCamera(20));
     const auto opened = open();

@@ -96,20 +96,20 @@ class TestFeatureJournal : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void kinds_data();
-    void kinds();
+    void valueTypes_data();
+    void valueTypes();
     void selectors();
     void refusals();
-    void nodeMapGoes();
+    void nodeMapIsDestroyed();
     void gestures();
-    void frames();
+    void frameDialog();
     void typing();
     void window();
-    void ring();
-    void chart();
+    void sampleRing();
+    void historyChart();
 };
 
-void TestFeatureJournal::kinds_data()
+void TestFeatureJournal::valueTypes_data()
 {
     QTest::addColumn<QByteArray>("feature");
     QTest::addColumn<QVariant>("value");
@@ -128,7 +128,7 @@ void TestFeatureJournal::kinds_data()
                           << QString("UserName a %1 &b\uFFFD<i>").arg(arrow);
 }
 
-void TestFeatureJournal::kinds()
+void TestFeatureJournal::valueTypes()
 {
     QFETCH(QByteArray, feature);
     QFETCH(QVariant, value);
@@ -281,7 +281,7 @@ void TestFeatureJournal::refusals()
     QVERIFY(!journal->canUndo());
 }
 
-void TestFeatureJournal::nodeMapGoes()
+void TestFeatureJournal::nodeMapIsDestroyed()
 {
     auto map = std::make_unique<Map>();
     auto journal = FeatureJournal::of(map.get());
@@ -373,7 +373,7 @@ void TestFeatureJournal::gestures()
 }
 
 /// What the frame dialog writes beside and through the mapper, for either frame.
-void TestFeatureJournal::frames()
+void TestFeatureJournal::frameDialog()
 {
     SimulatedDevice camera;
     camera.set("FrameMode", "DualVideo");
@@ -512,7 +512,7 @@ void TestFeatureJournal::window()
         QVERIFY(!history->isVisible());
 }
 
-void TestFeatureJournal::ring()
+void TestFeatureJournal::sampleRing()
 {
     SampleRing ring;
     QCOMPARE(ring.summary().count, 0);
@@ -538,7 +538,7 @@ void TestFeatureJournal::ring()
 }
 
 /// Lines where there are values, nothing where the camera was away; the keys go to each value.
-void TestFeatureJournal::chart()
+void TestFeatureJournal::historyChart()
 {
     SampleRing ring;
     const qint64 end = 1700000000000;

@@ -25,16 +25,16 @@ private slots:
     void panes();
     void unreadableRows();
     void rescan();
-    void listsThatLie();
+    void wrongListSizes();
     void contextMenu();
     void proposesFreeAddress();
     void forcesAddress();
     void warnsOfBadAddress();
-    void saysWhatIsWrong();
+    void reportsWrongAddress();
     void rowsMoved();
     void waitsForCamera();
     void forcingFails();
-    void destroyedMeanwhile();
+    void destroyedDuringDialogs();
 
 private:
     void open();
@@ -353,7 +353,7 @@ void TestCameraSelectorDialog::rescan()
     QCOMPARE(m_parameters->writes.last(), QString("DeviceSelector=0"));
 }
 
-void TestCameraSelectorDialog::listsThatLie()
+void TestCameraSelectorDialog::wrongListSizes()
 {
     m_network->cameras.countedAhead = 3;
     m_usb->cameras.countedAhead = -1; // none, it says
@@ -487,7 +487,7 @@ void TestCameraSelectorDialog::warnsOfBadAddress()
     QVERIFY(m_parameters->writes.contains("GevDeviceForceIP"));
 }
 
-void TestCameraSelectorDialog::saysWhatIsWrong()
+void TestCameraSelectorDialog::reportsWrongAddress()
 {
     const struct
     {
@@ -648,7 +648,7 @@ void TestCameraSelectorDialog::forcingFails()
 }
 
 /// By its owner, while one of the picker's own dialogs is open.
-void TestCameraSelectorDialog::destroyedMeanwhile()
+void TestCameraSelectorDialog::destroyedDuringDialogs()
 {
     const ModalVisitor::Action destroys = [this](QDialog &) { m_dialog.reset(); };
     const struct

@@ -11,8 +11,8 @@ class TestDeviceTreeModel : public QObject
 
 private slots:
     void init();
-    void asksOnlyWhenExpanded();
-    void asksAgainWhereNothingWasFound();
+    void listsCamerasWhenExpanded();
+    void listsAgainAfterEmptyResult();
     void rescans();
 
 private:
@@ -43,7 +43,7 @@ void TestDeviceTreeModel::expandAll(QAbstractItemModel &model)
         model.fetchMore(model.index(row, 0));
 }
 
-void TestDeviceTreeModel::asksOnlyWhenExpanded()
+void TestDeviceTreeModel::listsCamerasWhenExpanded()
 {
     DeviceTreeModel model(m_system.get());
     QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
@@ -79,7 +79,7 @@ void TestDeviceTreeModel::asksOnlyWhenExpanded()
     QCOMPARE(m_nameless->refreshes.size(), size_t(1));
 }
 
-void TestDeviceTreeModel::asksAgainWhereNothingWasFound()
+void TestDeviceTreeModel::listsAgainAfterEmptyResult()
 {
     auto &interfaces = m_system->interfaces;
     auto &cameras = m_network->cameras;

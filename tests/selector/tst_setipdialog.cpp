@@ -11,8 +11,8 @@ class TestSetIpDialog : public QObject
 
 private slots:
     void init();
-    void verdicts();
-    void gatewayTakesNoPart();
+    void validation();
+    void gatewayIsNotValidated();
     void addresses();
     void validator();
     void addressTexts();
@@ -34,7 +34,7 @@ void TestSetIpDialog::init()
     m_dialog->setMACAddress(0x020000000002);
 }
 
-void TestSetIpDialog::verdicts()
+void TestSetIpDialog::validation()
 {
     const char *const mask = "255.255.255.0";
     const char *const ok = "IP Configuration OK";
@@ -74,7 +74,7 @@ void TestSetIpDialog::verdicts()
     }
 }
 
-void TestSetIpDialog::gatewayTakesNoPart()
+void TestSetIpDialog::gatewayIsNotValidated()
 {
     field("defaultGatewayLineEdit")->setText("1.2.3.4");
     QCOMPARE(status()->text(), QString("TextLabel"));

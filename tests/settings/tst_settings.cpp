@@ -114,8 +114,8 @@ private slots:
     void init() { QVERIFY(m_folder.isValid()); }
     void files_data();
     void files();
-    void oddValues_data();
-    void oddValues();
+    void valuesInFiles_data();
+    void valuesInFiles();
     void selectors();
     void refusals();
     void otherModels();
@@ -125,7 +125,7 @@ private slots:
     void cFunctions();
     void menu();
     void userSets();
-    void overTheWire();
+    void transfersOfGigECamera();
 
 private:
     QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
@@ -192,7 +192,7 @@ void TestSettings::files()
     QVERIFY(file.device == (bytes.contains("Device") ? "V::M" : ""));
 }
 
-void TestSettings::oddValues_data()
+void TestSettings::valuesInFiles_data()
 {
     QTest::addColumn<QString>("feature");
     QTest::addColumn<QString>("value");
@@ -239,7 +239,7 @@ void TestSettings::oddValues_data()
 }
 
 /// What a file may hold, loaded, and saved again.
-void TestSettings::oddValues()
+void TestSettings::valuesInFiles()
 {
     QFETCH(QString, feature);
     QFETCH(QString, value);
@@ -660,7 +660,7 @@ void TestSettings::userSets()
     QVERIFY(shown<QMessageBox>());
 }
 
-void TestSettings::overTheWire()
+void TestSettings::transfersOfGigECamera()
 {
     WireCamera camera(ORV_DESCRIPTION, [](TestCamera::Settings &) {});
     const auto device = camera.open();

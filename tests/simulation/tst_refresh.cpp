@@ -40,7 +40,7 @@ private slots:
     void aSelectorRefreshesWhatItSelects();
     void everyVisibleChangeIsReported_data();
     void everyVisibleChangeIsReported();
-    void pollingRefreshesWhatLives();
+    void pollingRefreshesPolledFeatures();
 
 private:
     QSet<QString> refreshedBy(const std::function<void()> &change);
@@ -136,7 +136,7 @@ void TestRefresh::everyVisibleChangeIsReported()
     }
 }
 
-void TestRefresh::pollingRefreshesWhatLives()
+void TestRefresh::pollingRefreshesPolledFeatures()
 {
     QMap<QString, QString> cells;
     paintAll(*m_model, cells);

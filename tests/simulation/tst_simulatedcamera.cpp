@@ -61,8 +61,8 @@ private slots:
     void startValuesAreValid();
     void behaviour_data();
     void behaviour();
-    void zeroes();
-    void portsAreTheCamera();
+    void zeroInRegisters();
+    void portsShareTheCamera();
 };
 
 void TestSimulatedCamera::startValuesAreValid()
@@ -179,7 +179,7 @@ void TestSimulatedCamera::behaviour()
 }
 
 /// What no feature allows, but a register takes.
-void TestSimulatedCamera::zeroes()
+void TestSimulatedCamera::zeroInRegisters()
 {
     RunningCamera camera;
     camera.write(Registers::PixelClock, 0);
@@ -189,7 +189,7 @@ void TestSimulatedCamera::zeroes()
              QString());
 }
 
-void TestSimulatedCamera::portsAreTheCamera()
+void TestSimulatedCamera::portsShareTheCamera()
 {
     std::unique_ptr<OrvCameraIo::Port> port = SimulatedCamera(named("ONE")).port();
     QVERIFY(SimulatedCamera::isOpen("ONE"));

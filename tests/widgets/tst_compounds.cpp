@@ -44,17 +44,17 @@ class TestCompounds : public QObject
 
 private Q_SLOTS:
     void behaveAlike();
-    void treatSteps();
-    void treatPositionsOffTheGrid();
-    void keepWhatTheSliderCannotShow();
-    void saveTheLastWordForASlot();
-    void hideTheButtonWhenReadOnly();
-    void letGoWhenHidden();
+    void stepsOfParts();
+    void positionsOffTheGrid();
+    void keepValuesBetweenPositions();
+    void slotMayReplaceTheValue();
+    void readOnlyHidesTheButton();
+    void hidingEndsADrag();
     void popUpTheSlider();
     void popUpOnTheScreen();
-    void closeTheSliderByASecondClick();
-    void takeLeaveWithTextPending();
-    void speakUp();
+    void secondClickClosesTheSlider();
+    void destroyedWithPendingText();
+    void accessibility();
 
 private:
     template<class Widget>
@@ -149,7 +149,7 @@ void TestCompounds::behaveAlike()
     checkAll<QtOrvGainSlider>();
 }
 
-void TestCompounds::treatSteps()
+void TestCompounds::stepsOfParts()
 {
     QtOrvSliderSpinBox widget;
     widget.setSingleStep(8);
@@ -168,7 +168,7 @@ void TestCompounds::treatSteps()
     QCOMPARE(gain.value(), 0.75);
 }
 
-void TestCompounds::treatPositionsOffTheGrid()
+void TestCompounds::positionsOffTheGrid()
 {
     QtOrvSpinBox popUp;
     QtOrvSliderSpinBox beside;
@@ -193,7 +193,7 @@ void TestCompounds::treatPositionsOffTheGrid()
     QCOMPARE(values, (QList<QVariantList>{{24}}));
 }
 
-void TestCompounds::keepWhatTheSliderCannotShow()
+void TestCompounds::keepValuesBetweenPositions()
 {
     QtOrvSliderSpinBox widget;
     widget.setRange(0, 1000000);
@@ -225,7 +225,7 @@ void TestCompounds::keepWhatTheSliderCannotShow()
 }
 
 // A camera refuses or rounds what it is given and says so at once.
-void TestCompounds::saveTheLastWordForASlot()
+void TestCompounds::slotMayReplaceTheValue()
 {
     QtOrvSliderSpinBox widget;
     QList<int> written;
@@ -241,7 +241,7 @@ void TestCompounds::saveTheLastWordForASlot()
     QCOMPARE(written, (QList<int>{47, 40}));
 }
 
-void TestCompounds::hideTheButtonWhenReadOnly()
+void TestCompounds::readOnlyHidesTheButton()
 {
     QtOrvSpinBox widget;
     widget.show();
@@ -257,7 +257,7 @@ void TestCompounds::hideTheButtonWhenReadOnly()
 }
 
 // A hidden widget gets no release of the mouse button.
-void TestCompounds::letGoWhenHidden()
+void TestCompounds::hidingEndsADrag()
 {
     struct Host : QWidget
     {
@@ -374,7 +374,7 @@ void TestCompounds::popUpOnTheScreen()
     }
 }
 
-void TestCompounds::closeTheSliderByASecondClick()
+void TestCompounds::secondClickClosesTheSlider()
 {
     QtOrvSpinBox widget;
     widget.show();
@@ -398,7 +398,7 @@ void TestCompounds::closeTheSliderByASecondClick()
 }
 
 // What was typed counts when the focus leaves, and the focus leaves a widget that is destroyed.
-void TestCompounds::takeLeaveWithTextPending()
+void TestCompounds::destroyedWithPendingText()
 {
     auto *widget = new QtOrvSliderSpinBox;
     widget->spinBox()->setKeyboardTracking(false);
@@ -426,7 +426,7 @@ void TestCompounds::takeLeaveWithTextPending()
 
 // The widget and its part with the focus have the same accessible texts, and the part changes the
 // widget's value.
-void TestCompounds::speakUp()
+void TestCompounds::accessibility()
 {
     QtOrvSlider slider;
     slider.setScaleType(QtOrvSlider::ScaleLog10);

@@ -57,21 +57,21 @@ class TestSliders : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void laysItsPartsOut();
+    void layout();
     void mapsValues();
-    void keepsItsPromisesForAnyRange();
-    void bearsEveryInt();
+    void mappingOfRandomRanges();
+    void extremeInts();
     void keepsTheValueWhenTheMappingChanges();
     void announcesChangesOnly();
     void announcesTheLatestRangeOnly();
 
     void mapsRealValues();
-    void keepsItsPromisesForAnyRealRange();
-    void bearsEveryReal();
+    void mappingOfRandomRealRanges();
+    void extremeReals();
 };
 
 // Whether the parts really stand where the orientation and the direction want them.
-void TestSliders::laysItsPartsOut()
+void TestSliders::layout()
 {
     QtOrvSlider slider(Qt::Vertical);
     QVERIFY(!slider.isMaxLabelVisiable());
@@ -143,7 +143,7 @@ void TestSliders::mapsValues()
     }
 }
 
-void TestSliders::keepsItsPromisesForAnyRange()
+void TestSliders::mappingOfRandomRanges()
 {
     Random random;
     QtOrvSlider slider;
@@ -193,7 +193,7 @@ void TestSliders::keepsItsPromisesForAnyRange()
 }
 
 // The sanitizers watch this one: no overflow, no conversion of what does not fit, no endless loop.
-void TestSliders::bearsEveryInt()
+void TestSliders::extremeInts()
 {
     const int numbers[] = {lowest, lowest + 1, -1000, -1, 0, 1, 1000, highest - 1, highest};
     const double coefficients[] = {100.0, 0.0, -3.0, 1e-9, 1e300, infinite, notANumber};
@@ -379,7 +379,7 @@ void TestSliders::mapsRealValues()
     QVERIFY(std::abs(slider.value() + 1e10) < 20.0 && slider.value() == std::round(slider.value()));
 }
 
-void TestSliders::keepsItsPromisesForAnyRealRange()
+void TestSliders::mappingOfRandomRealRanges()
 {
     Random random;
     QtOrvDoubleSlider slider;
@@ -416,7 +416,7 @@ void TestSliders::keepsItsPromisesForAnyRealRange()
     }
 }
 
-void TestSliders::bearsEveryReal()
+void TestSliders::extremeReals()
 {
     const double most = std::numeric_limits<double>::max();
     const double numbers[] = {0.0, -1.0, 1e-300, 0.1, 1e9, -1e300, most, infinite, notANumber};

@@ -21,10 +21,10 @@ class TestSpinBoxes : public QObject
 private Q_SLOTS:
     void snaps();
     void snapsRealValues();
-    void bearsEveryNumber();
-    void snapsWhoeverSetsTheValue();
+    void extremeNumbers();
+    void snapsValuesOfAnySource();
     void waitsForEnter();
-    void takesWhatHandsLeave();
+    void acceptsPendingText();
     void leavesEnterToTheBaseClass();
 
 private:
@@ -80,7 +80,7 @@ void TestSpinBoxes::snapsRealValues()
     }
 }
 
-void TestSpinBoxes::bearsEveryNumber()
+void TestSpinBoxes::extremeNumbers()
 {
     constexpr int lowest = std::numeric_limits<int>::min();
     constexpr int highest = std::numeric_limits<int>::max();
@@ -108,7 +108,7 @@ void TestSpinBoxes::bearsEveryNumber()
         QVERIFY(real.doValidation(value) <= 1e300);
 }
 
-void TestSpinBoxes::snapsWhoeverSetsTheValue()
+void TestSpinBoxes::snapsValuesOfAnySource()
 {
     QtOrvSpinBoxVal box;
     box.setRange(0, 100);
@@ -192,7 +192,7 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number,
     QVERIFY2(hand.isTaken || box.text() == before, what);
 }
 
-void TestSpinBoxes::takesWhatHandsLeave()
+void TestSpinBoxes::acceptsPendingText()
 {
     using Box = QAbstractSpinBox;
     const Hand tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};

@@ -34,10 +34,10 @@ private Q_SLOTS:
     void cleanup();
     void movesByEveryKey_data();
     void movesByEveryKey();
-    void dragsOnFromWhereAKeyEnded();
-    void goesRoundWithTab();
+    void dragAfterKeys();
+    void tabOrder();
     void popsUpByKeyboard();
-    void closesWhenTheFocusGoesElsewhere();
+    void losingFocusClosesPopUp();
 
 private:
     void show(const QList<QWidget *> &widgets);
@@ -137,7 +137,7 @@ void TestValueWidgetInput::movesByEveryKey()
     }
 }
 
-void TestValueWidgetInput::dragsOnFromWhereAKeyEnded()
+void TestValueWidgetInput::dragAfterKeys()
 {
     auto *slider = new QtOrvSlider(Qt::Horizontal);
     slider->setScaleType(QtOrvSlider::ScaleLog10);
@@ -152,7 +152,7 @@ void TestValueWidgetInput::dragsOnFromWhereAKeyEnded()
     xdotool({"mouseup", "1"});
 }
 
-void TestValueWidgetInput::goesRoundWithTab()
+void TestValueWidgetInput::tabOrder()
 {
     auto *slider = new QtOrvSlider;
     auto *real = new QtOrvDoubleSlider;
@@ -200,7 +200,7 @@ void TestValueWidgetInput::popsUpByKeyboard()
     }
 }
 
-void TestValueWidgetInput::closesWhenTheFocusGoesElsewhere()
+void TestValueWidgetInput::losingFocusClosesPopUp()
 {
     auto *widget = new QtOrvSpinBox;
     auto *other = new QLineEdit;
