@@ -5,8 +5,7 @@
 #include "arvsupport.h"
 
 #include <arv.h>
-
-#include <cstdio>
+#include <genapi/nodes/numbers.h>
 
 namespace OrvAravis {
 
@@ -53,11 +52,10 @@ public:
         unsigned char bytes[8] = {};
         if (!read(gevMacAddress, sizeof bytes, bytes))
             return std::string();
-        char text[18] = {};
-        std::snprintf(text, sizeof text, "%02X:%02X:%02X:%02X:%02X:%02X", bytes[2], bytes[3],
-                      bytes[4], bytes[5], bytes[6], bytes[7]);
-        const bool isZero = text == std::string("00:00:00:00:00:00");
-        return isZero ? std::string() : text;
+        int64_t address = 0;
+        for (int i = 2; i < 8; ++i)
+            address = address << 8 | bytes[i];
+        return address ? OrvGenApi::integerToText(address, GenApi::MACAddress) : std::string();
     }
 
 private:

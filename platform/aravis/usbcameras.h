@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cameraio/openfailure.h>
 #include <cameraio/port.h>
 
 #include <memory>
@@ -22,12 +23,7 @@ std::vector<UsbCamera> findUsbCameras();
 
 struct OpenedUsbCamera
 {
-    enum class Failure {
-        None,
-        Gone,           ///< it is not plugged in
-        Busy,           ///< it is there, but cannot be had: USB does not say why
-        BadDescription, ///< it has none
-    };
+    using Failure = OrvCameraIo::OpenFailure; ///< `Busy` for every refusal: USB does not say why
 
     Failure failure = Failure::Gone;
     std::unique_ptr<OrvCameraIo::Port> port;        ///< null when it failed

@@ -1,31 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "gvconnector.h"
 
+#include "opencode.h"
+
 #include <gigevision/gvopen.h>
 
 namespace OrvCam {
 
 namespace {
-
-using Failure = OrvGigEVision::OpenResult::Failure;
-
-int32_t codeOf(Failure failure)
-{
-    switch (failure) {
-    case Failure::None:
-        return Success;
-    case Failure::Gone:
-        return ErrorGone;
-    case Failure::WrongSubnet:
-        return ErrorWrongSubnet;
-    case Failure::Busy:
-        return ErrorBusy;
-    case Failure::BadDescription:
-        return ErrorBadDescription;
-    default:
-        return ErrorFailed;
-    }
-}
 
 OrvGigEVision::Progress inPercent(const OpenProgress &progress)
 {

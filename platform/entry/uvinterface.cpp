@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "uvinterface.h"
 
+#include "opencode.h"
 #include "utf8.h"
 
 #include <aravis/usbcameras.h>
@@ -10,25 +11,9 @@ namespace OrvCam {
 
 namespace {
 
-using Failure = OrvAravis::OpenedUsbCamera::Failure;
-
 std::optional<std::string> textOrNothing(const std::string &text)
 {
     return text.empty() ? std::nullopt : std::make_optional(validUtf8(text));
-}
-
-int32_t codeOf(Failure failure)
-{
-    switch (failure) {
-    case Failure::None:
-        return Success;
-    case Failure::Gone:
-        return ErrorGone;
-    case Failure::BadDescription:
-        return ErrorBadDescription;
-    default:
-        return ErrorBusy;
-    }
 }
 
 class UvConnector final : public PortConnector

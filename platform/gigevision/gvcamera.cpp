@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gvcamera.h"
 
-#include <cstdio>
+#include <genapi/nodes/numbers.h>
 
 namespace OrvGigEVision {
 
@@ -23,15 +23,7 @@ std::string GvCamera::name() const
 {
     if (identity.mac == 0)
         return identity.manufacturer + "-" + identity.serial;
-    char text[18];
-    std::snprintf(text, sizeof text, "%02X:%02X:%02X:%02X:%02X:%02X",
-                  static_cast<unsigned>(identity.mac >> 40 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 32 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 24 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 16 & 0xFF),
-                  static_cast<unsigned>(identity.mac >> 8 & 0xFF),
-                  static_cast<unsigned>(identity.mac & 0xFF));
-    return text;
+    return OrvGenApi::integerToText(static_cast<int64_t>(identity.mac), GenApi::MACAddress);
 }
 
 std::string GvCamera::id() const

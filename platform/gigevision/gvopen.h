@@ -3,6 +3,8 @@
 
 #include "gvport.h"
 
+#include <cameraio/openfailure.h>
+
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -13,15 +15,7 @@ namespace OrvGigEVision {
 /// Opens one GigE Vision camera and fetches its description.
 struct OpenResult
 {
-    enum class Failure {
-        None,
-        Gone,           ///< it does not answer, or its adapter does not exist any more
-        WrongSubnet,    ///< it has no address that can be reached through the adapter
-        Busy,           ///< another program has control, for `Monitor`: exclusive control
-        BadDescription, ///< it has none, or none that can be used
-        Cancelled,
-        Failed ///< it refuses something else
-    };
+    using Failure = OrvCameraIo::OpenFailure;
 
     Failure failure = Failure::Failed;
 

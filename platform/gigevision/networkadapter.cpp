@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "networkadapter.h"
 
+#include <genapi/nodes/numbers.h>
+
 #include <arpa/inet.h>
 #include <ifaddrs.h>
 #include <linux/rtnetlink.h>
@@ -161,9 +163,7 @@ std::vector<NetworkAdapter> networkAdapters()
 
 std::string ipText(uint32_t ip)
 {
-    const in_addr address{htonl(ip)};
-    char text[INET_ADDRSTRLEN];
-    return inet_ntop(AF_INET, &address, text, sizeof text);
+    return OrvGenApi::integerToText(ip, GenApi::IPV4Address);
 }
 
 } // namespace OrvGigEVision

@@ -1058,10 +1058,15 @@ void TestOrvGenParamTreeView::levelKeepsThePlace()
 // expanded: that is minutes here.
 void TestOrvGenParamTreeView::levelOfALargeTree()
 {
+#ifdef ORV_ADDRESS_SANITIZER // takes a hundred times as long
+    constexpr int count = 1000;
+#else
+    constexpr int count = 5000;
+#endif
     OrvGenApi::MemoryNodeMap map("Large");
     for (int i = 0; i < 100; ++i)
         map.addCategory("Category" + std::to_string(i));
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < count; ++i) {
         map.addInteger("Feature" + std::to_string(i), i, "Category" + std::to_string(i % 100))
             .properties()
             .visibility = static_cast<GenApi::EVisibility>(i / 100 % 3);
@@ -1078,7 +1083,7 @@ void TestOrvGenParamTreeView::levelOfALargeTree()
     const QAbstractItemModel &model = *driver.tree().model();
     for (const int row : {0, 99}) {
         QVERIFY(driver.tree().isExpanded(model.index(row, 0)));
-        QCOMPARE(model.rowCount(model.index(row, 0)), 50);
+        QCOMPARE(model.rowCount(model.index(row, 0)), count / 100);
     }
 }
 
