@@ -63,7 +63,7 @@ void letPass(int milliseconds)
     loop.exec();
 }
 
-/// Something of the cameras' that takes its time, which is not the window's.
+/// A delay of the cameras, which is not the window's.
 void beside(const std::function<void()> &call)
 {
     std::atomic<bool> isDone{false};
@@ -103,7 +103,7 @@ protected:
     using Act = std::function<void()>;
     using IsDone = std::function<bool()>;
 
-    /// What the window does, as soon as its cameras are open.
+    /// The window's acts, as soon as its cameras are open.
     virtual void runWindow() = 0;
     virtual bool isComplete() = 0;
     virtual void closeWindow() = 0;

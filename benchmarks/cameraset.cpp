@@ -26,7 +26,7 @@ TestCameraBehaviour behaviourFor(const Condition &condition, unsigned seed)
     return behaviour;
 }
 
-/// What the simulated camera holds, in place of small numbers that make no sense together.
+/// The simulated camera's registers, in place of small numbers that are not consistent.
 void fillLikeSimulation(TestCamera &camera)
 {
     const uint32_t first = 0x1000; // of its own registers

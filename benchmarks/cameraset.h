@@ -19,7 +19,7 @@ struct Condition
     int loss = 0;  ///< per cent of the commands or of their answers
 };
 
-/// What went over the cable, of all cameras together. A command that is repeated counts again.
+/// The traffic of all cameras together. A repeated command counts again.
 struct Traffic
 {
     unsigned commands = 0;

@@ -6,7 +6,7 @@
 //
 // Opens the main window, all its dialogs and the feature tree on a fake GigE Vision camera with our
 // description, and counts on the wire what is read and written in that time, 30 seconds by default,
-// with what registers it is and how often. Tells also for how long the GUI thread was busy without
+// with what registers it is and how often. Also prints for how long the GUI thread was busy without
 // a break at most. Needs a network namespace: tests/support/with-netns.sh main-window-idle.
 //
 // It is 12.7 transactions a second, whether dialogs and tree are open or not, and all of them are

@@ -31,7 +31,7 @@ public:
             m_nodes[node.name] = &node;
     }
 
-    /// What the node's value comes from is polled with it.
+    /// The registers of the node's value are polled with it.
     void add(const DescriptionNode &node, int period)
     {
         std::vector<const DescriptionNode *> pending{&node};

@@ -11,9 +11,9 @@ namespace {
 
 constexpr char platformVariable[] = "QT_QPA_PLATFORM";
 
-/// What Qt is to try in a Wayland session, or nothing for what it tries by itself. The ids of
-/// windows that hosts hand over are those of X, which most such sessions speak, too. Without X, Qt
-/// 5 would not look for Wayland in every session.
+/// The platforms for Qt to try in a Wayland session; empty for Qt's own choice. The window ids of
+/// hosts are those of X, which most such sessions support, too. Without X, Qt 5 would not try
+/// Wayland in every session.
 QByteArray platformInWayland()
 {
     if (qEnvironmentVariableIsSet(platformVariable) ||
@@ -22,8 +22,8 @@ QByteArray platformInWayland()
     return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
 }
 
-/// Qt sends a Wayland compositor what it has for it when its own event loop is about to wait, which
-/// that of a host never lets it do.
+/// Qt flushes its requests to a Wayland compositor when its own event loop is about to wait, which
+/// does not happen inside a host's event loop.
 void keepTalkingToCompositor(QApplication *application)
 {
     const int intervalMs = 20;

@@ -30,7 +30,7 @@ View *create(Source *params, const QString &title, unsigned long parent)
     if (parent)
         holder->wrap(parent);
 
-    // Declared after the holder, so that it goes first when something throws.
+    // Declared after the holder, so that it is destroyed first when something throws.
     std::unique_ptr<View> view = makeView<View>(*holder);
     try {
         view->setParams(params);

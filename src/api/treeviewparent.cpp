@@ -45,7 +45,7 @@ private:
 };
 
 /// Keeps Qt from printing the refusals of one container, which arrive later from the X server. It
-/// goes with the last of them, for other refusals are the host's business.
+/// is removed after the last of them: other refusals are errors of the host.
 class RefusedMoves : public QObject, public QAbstractNativeEventFilter
 {
 public:

@@ -30,7 +30,7 @@ QByteArray numberAfter(const QByteArray &text, const char *mark)
     return QByteArray(text.constData() + first, end - first);
 }
 
-/// As the tree reads it, which nothing may follow but what it is not to read.
+/// Whether the tree can read the number behind the mark. There may be none, or no mark.
 bool isNumberAt(const QByteArray &text, const char *mark)
 {
     const QByteArray digits = numberAfter(text, mark);

@@ -193,7 +193,7 @@ void FeatureMenu::readAgain(const QModelIndex &row)
             m_shown.refresh(feature);
         }
     } catch (const GenICam::GenericException &) {
-        // The next look at it fails as well, and the cell shows that.
+        // The next read fails as well, and the cell shows that.
     }
     for (int child = 0; child < m_shown.rowCount(row); ++child)
         readAgain(m_shown.index(child, 0, row));

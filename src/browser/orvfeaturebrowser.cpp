@@ -112,7 +112,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     renarrow.setInterval(0);
     QObject::connect(&renarrow, &QTimer::timeout, q, [this] { narrow(); });
     undoActions->watchEditorsOf(&tree());
-    // What is being typed is a write of its own, and no editor may keep what is outdated then.
+    // A pending edit is a write of its own, and no editor may keep an outdated value.
     QObject::connect(undoActions, &UndoActions::triggered, q,
                      [this] { OrvGenParamTreeViewPrivate::of(*view).endEditing(); });
     auto *find = new QShortcut(QKeySequence::Find, q);
@@ -141,7 +141,7 @@ void OrvFeatureBrowserPrivate::buildWindow()
     line->setContentsMargins(margin, margin, margin, 0);
     line->addWidget(searchLine, 1);
     line->addWidget(menuButton);
-    auto *counts = new QHBoxLayout; // as high as what is shown in it
+    auto *counts = new QHBoxLayout; // as high as its contents
     counts->setSpacing(spacing);
     counts->setContentsMargins(margin, 0, margin, 0);
     counts->addWidget(countLabel);
@@ -265,7 +265,7 @@ void OrvFeatureBrowserPrivate::setJournal(const FeatureJournal::Pointer &newJour
                          [this](const FeatureJournal::Write &write) { noteWrite(write); });
 }
 
-/// The texts serve where the values are not known.
+/// The texts replace unknown values.
 void OrvFeatureBrowserPrivate::record(GenApi::IValue *feature, const QString &earlier,
                                       const QString &after)
 {
@@ -275,7 +275,7 @@ void OrvFeatureBrowserPrivate::record(GenApi::IValue *feature, const QString &ea
     GenApi::INode *node = feature->GetNode();
     const FeatureJournal::State now = kept->known(node);
     FeatureJournal::State former = writing.take(feature);
-    // After the write it is known where they are.
+    // After the write the selectors' values are known.
     former.selectors = now.selectors;
     former.areSelectorsKnown = now.areSelectorsKnown;
     if (!former.value.isValid() && !earlier.isNull())
@@ -326,7 +326,7 @@ void OrvFeatureBrowserPrivate::rememberTree()
     const QByteArray now = saveTree();
     if (now.isEmpty())
         return;
-    // The width and the level are those of now.
+    // The width and the level are the present ones.
     remembered.tree = before ? before->paths + now.mid(int(now.indexOf(widthMark))) : now;
 }
 
@@ -373,8 +373,8 @@ void OrvFeatureBrowserPrivate::narrow()
     tree().viewport()->update(); // other marks in the names
 }
 
-/// Unfolds what was found, as much as a user would look at: the layout of thousands of rows takes
-/// longer than a key may.
+/// Expands the rows that were found, up to a limit: the layout of thousands of rows would delay
+/// typing.
 void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wanted)
 {
     OrvGenParamTreeViewPrivate::of(*view).endEditing();
@@ -392,7 +392,7 @@ void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wante
 
 void OrvFeatureBrowserPrivate::remember()
 {
-    // The tree's own way to its state looks at all rows, which takes longer than a key may.
+    // The tree's own function reads all rows for its state, which would delay typing.
     Look look;
     for (const QModelIndex &category : shown->categories()) {
         if (!tree().isExpanded(category))
@@ -435,7 +435,7 @@ void OrvFeatureBrowserPrivate::giveBack()
     OrvGenParamTreeViewPrivate::of(*view).describeCurrent();
 }
 
-// What was hidden in between is no longer spanned.
+// Rows that were hidden in between have lost their spans.
 void OrvFeatureBrowserPrivate::spanCategories()
 {
     for (const QModelIndex &category : shown->categories()) {

@@ -43,7 +43,7 @@ QString nameOf(GenApi::IValue *feature)
                       LongestName);
 }
 
-/// Texts to choose from and GenICam's texts for them; none for what is typed.
+/// The texts of the choices and GenICam's texts for them; none for a typed value.
 QVector<std::pair<QString, QString>> choicesOf(GenApi::IValue *feature)
 {
     QVector<std::pair<QString, QString>> choices;
@@ -59,7 +59,7 @@ QVector<std::pair<QString, QString>> choicesOf(GenApi::IValue *feature)
     return choices;
 }
 
-/// The selector and what it selects.
+/// The selector and the features that it selects.
 QVector<GenApi::IValue *> movingWith(GenApi::IValue *selector)
 {
     QVector<GenApi::IValue *> moving = {selector};
@@ -144,7 +144,7 @@ SelectorTable::SelectorTable(GenApi::INodeMap *nodeMap, GenParamTreeModel &featu
 
 SelectorTable::~SelectorTable()
 {
-    m_reader.reset(); // which waits until the selector is back
+    m_reader.reset(); // which waits until the selector is restored
     if (isReading())
         endReading();
 }
@@ -192,7 +192,7 @@ void SelectorTable::readAgain()
     m_reader->start();
 }
 
-/// Only when the selector is back: the other windows can be used then.
+/// Only when the selector is restored: the other windows can be used then.
 void SelectorTable::reject()
 {
     if (isReading()) {

@@ -48,7 +48,7 @@ const Row numberRows[] = {
     {&Ui::lblU3VFirmwareBuildNumber, "U3VFirmwareBuildNumber"},
 };
 
-/// Shows what `text` makes of the parameter's value; false when there is none to be read.
+/// Shows the parameter's value as converted by `text`; false when it cannot be read.
 template<class Kind, class Text>
 bool show(const FeatureReader &reader, QLabel *label, const Kind *param, Text text)
 {

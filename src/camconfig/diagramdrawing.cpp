@@ -70,8 +70,7 @@ DiagramDrawing::DiagramDrawing(const QFontMetrics &metrics, const QPalette &pale
     m_unit = (1 + m_height / ordinaryHeight) / 2;
     m_ink = palette.color(QPalette::WindowText);
     const bool isEnabled = palette.currentColorGroup() != QPalette::Disabled;
-    const bool isDark =
-        m_ink.lightnessF() > 0.5; // the ink is all that a style sheet is sure to set
+    const bool isDark = m_ink.lightnessF() > 0.5; // a style sheet is only sure to set the ink
     m_signal = isDark ? QColor(0x6a, 0xb4, 0xee) : QColor(0x1f, 0x74, 0xbd);
     m_exposure = QColor(0xe0, 0x99, 0x2f, 0x60);
     if (!isEnabled)
@@ -261,7 +260,7 @@ void DiagramDrawing::drawRange() const
         m_painter->drawEllipse(place(bend), length(3), length(3));
 }
 
-// What they are made of
+// Parts of the drawings
 
 void DiagramDrawing::drawSignal(const QPolygonF &line) const
 {

@@ -26,7 +26,7 @@ constexpr double fineSteps = 64.0;
 const double largestFactor = DigitalGain::step * std::numeric_limits<int>::max();
 constexpr qint64 mostDoublings = 27;
 
-/// The number of doublings stays where powers of two make sense.
+/// Limits the number of doublings, so that the powers of two are valid.
 DigitalGain::Parts read(const FeatureReader &reader, int64_t (Int::*get)(int32_t *) const,
                         const Int *coarse, const Int *fine)
 {

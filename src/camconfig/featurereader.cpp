@@ -163,7 +163,7 @@ void FeatureReader::whenKnown(const void *owner, const void *subject, const Para
     };
     m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isSame), m_waiting.end());
     if (!lookAhead()) {
-        // The camera is lost: its array may be gone when the rest would be fetched.
+        // The camera is lost: its array may be destroyed before the rest is fetched.
         setArray(m_array);
         return call();
     }

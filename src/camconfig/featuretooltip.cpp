@@ -13,7 +13,7 @@ namespace OrvGui {
 
 namespace {
 
-/// Of a widget, the tool tip that it has got here.
+/// The property of a widget with the tool tip that was set here.
 constexpr char given[] = "orvFeatureToolTip";
 
 QString escaped(const char *text)

@@ -58,7 +58,7 @@ void FramesPanel::layOut(bool hasFrames)
     const Column &b = m_columns[CameraHistory::FrameB];
     const int columns = hasFrames ? 1 : 2;
     b.head->setVisible(hasFrames);
-    m_ui.gridLayout->setColumnStretch(4, hasFrames ? 1 : 0); // takes what those may not
+    m_ui.gridLayout->setColumnStretch(4, hasFrames ? 1 : 0); // takes the remaining width
     placeWide(a.head, 0, columns);
     for (int row = 0; row < RowCount; ++row) {
         placeWide(a.fields[row], row + 1, columns);

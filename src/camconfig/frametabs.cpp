@@ -50,7 +50,7 @@ void FrameTabs::follow()
     connect(&m_timer, &QTimer::timeout, this, [this] { applyModeWhenKnown([] {}); });
 }
 
-/// What the output mode binds and unbinds must be known, too.
+/// Includes the parameters that the output mode binds and unbinds.
 void FrameTabs::applyModeWhenKnown(const std::function<void()> &applied)
 {
     m_reader.whenKnown(this, &m_timer,
@@ -134,7 +134,7 @@ void FrameTabs::onTabChanged(int index)
     applyModeWhenKnown([this] { emit turned(); });
 }
 
-/// False when the object has been destroyed by that, or the output mode has become another one.
+/// False when that has destroyed the object, or the output mode has changed.
 bool FrameTabs::showOnly(int index)
 {
     if (index >= m_ui.tabFrames->count())

@@ -58,7 +58,7 @@ public:
     /// Works with another device. `created` is the same device if the window has to release it.
     void use(OrvCam::Device *device, OrvCam::Device *created);
 
-    /// Lets go of all that is not a widget.
+    /// Releases everything except the widgets.
     void end();
 
     void showTemperature();
@@ -66,7 +66,7 @@ public:
     void OnParameterUpdate(OrvGenParam::Param *param) override;
     void cancelOpening() { delete opening; }
 
-    /// The device, if it has parameters to offer.
+    /// The device, if it has parameters.
     OrvCam::Device *usable() const { return array ? device : nullptr; }
 
 private:
@@ -138,7 +138,7 @@ private:
 
     bool isFrameABSupported = false;
     bool isFrameModeChanged = true;
-    bool hasTimedOut = false; ///< something that is shown, since this was set to false
+    bool hasTimedOut = false; ///< a shown value, since this was set to false
     FrameMode frameMode = BothFrames;
     Frame selectedFrame = CameraHistory::FrameA;
 
@@ -281,8 +281,8 @@ OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
     return camera;
 }
 
-/// The user may change their mind while the camera is being opened, or the host have another device
-/// shown: what comes last counts.
+/// The user may pick another camera during the opening, or the host may set another device: the
+/// last one counts.
 void OrvCamConfigPrivate::connectPicked()
 {
     OrvCam::DeviceInfo *const picked = pick();
@@ -302,7 +302,7 @@ void OrvCamConfigPrivate::connectPicked()
     delete started;
 }
 
-/// The thread that opens writes to `other`, until the device is there.
+/// The opening thread writes to `other` until the device is open.
 OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera,
                                                      const std::shared_ptr<OtherFrame> &other)
 {
@@ -312,7 +312,7 @@ OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera,
         int32_t error = OrvCam::Success;
         const OrvGenParam::Array *params = opened.GetParamArray(&error);
         if (params && error == OrvCam::Success)
-            other->read(*params); // first, since what depends on the selector is forgotten by it
+            other->read(*params); // first, since it drops cached values that depend on the selector
         OrvCamConfig::prepare(opened);
     });
     return opening;
@@ -473,7 +473,7 @@ void OrvCamConfigPrivate::layOutFrameButton()
     layOutButtons();
 }
 
-/// Those that are there follow each other without a gap.
+/// The visible ones follow each other without a gap.
 void OrvCamConfigPrivate::layOutButtons()
 {
     int place = 0;
@@ -555,7 +555,7 @@ void OrvCamConfigPrivate::awaitReturned()
     int32_t error = OrvCam::Success;
     const OrvGenParam::Array *returned = watch.device()->GetParamArray(&error);
     if (!returned || error != OrvCam::Success)
-        return; // gone again, which is another event
+        return; // unplugged again, which is another event
     reader.setArray(returned);
     reader.whenKnown(this, this, FeatureReader::named(*returned, BoundFeatures::all()),
                      [this] { restore(); });
@@ -628,12 +628,12 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
     panel->show(frame, numbers);
 }
 
-/// False when the camera stays with the other frame, of which only this window knows then. What the
-/// camera has left unanswered is tried again at the next turn.
+/// False when the camera keeps the other frame selected, which other windows are not notified of.
+/// A read without an answer is repeated with the next refresh.
 bool OrvCamConfigPrivate::updateBoth()
 {
     if (SelectorDetour::isUnderWay())
-        return true; // a selector is elsewhere already
+        return true; // a selector is moved already
     hasTimedOut = false;
     const bool isBack = readBoth();
     isFrameModeChanged |= hasTimedOut;

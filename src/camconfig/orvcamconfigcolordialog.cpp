@@ -57,7 +57,7 @@ void OrvCamConfigColorDialogPrivate::buildForm()
          ui.spBoxRed,
          ui.pushBtnRedUnity,
          ui.lblRedCoef,
-         // The statistics of all three come and go with the red one.
+         // All three statistics are shown and hidden with the red one.
          {ui.pushBtnRedUnity, ui.grBoxStatistics}},
         {"GreenCoefficient",
          ui.spBoxGreen,
@@ -105,7 +105,7 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
     for (const Coefficient &coefficient : m_coefficients) {
         coefficient.statistics->setFixedWidth(
             FormFit::textWidth(coefficient.statistics, widest + QLatin1Char(' ')));
-        // What the spin box of a missing coefficient shows may be a former camera's.
+        // The spin box of a missing coefficient may show the value of a former camera.
         const int value = coefficient.bound ? coefficient.spinBox->value() : 0;
         coefficient.statistics->setText(QString::number(value));
     }

@@ -17,7 +17,7 @@ namespace OrvGui {
 
 namespace {
 
-/// Null when the device has none to offer.
+/// Null when the device has no parameters.
 OrvGenParam::Array *paramsOf(OrvCam::Device *device)
 {
     int32_t error = OrvCam::Success;
@@ -47,7 +47,7 @@ bool OrvCamConfigDialogPrivate::init(OrvCamConfigDialog *dialog, OrvCam::Device 
     device = newDevice;
     m_isOutdated = true;
     if (m_isBinding)
-        return false; // from within; the call that is under way goes round again
+        return false; // a nested call; the outer one repeats the binding
 
     m_isBinding = true;
     while (m_isOutdated) {
@@ -66,7 +66,7 @@ void OrvCamConfigDialogPrivate::rebind()
 {
     if (!m_isFormBuilt) {
         buildForm();
-        // Unlike others, lists measure themselves without asking for what a style sheet adds.
+        // Unlike other widgets, lists compute their size hint without applying a style sheet first.
         for (QComboBox *list : q->findChildren<QComboBox *>())
             list->ensurePolished();
         m_undoActions = new UndoActions(q);
@@ -92,7 +92,8 @@ void OrvCamConfigDialogPrivate::rebind()
         keepWhole(list);
 }
 
-// A device that has lost its camera may have lost the parameters with it. It notifies no more.
+// A device that has lost its camera may have lost the parameters with it. It does not notify any
+// more.
 void OrvCamConfigDialogPrivate::leaveParams()
 {
     const auto watched = std::exchange(m_watched, {});
@@ -132,7 +133,7 @@ void OrvCamConfigDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigDialog::reject()
 {
-    // QDialog hides at once, without a close event; on closing, it comes here to be hidden.
+    // QDialog hides at once, without a close event; on closing, it calls this function to hide.
     if (m_isClosing || !isVisible())
         QDialog::reject();
     else
@@ -144,8 +145,7 @@ void OrvCamConfigDialog::showEvent(QShowEvent *event)
     if (!event->spontaneous())
         FormFit::fitToScreen(this);
     d->prepareToShow();
-    // Otherwise Qt gives the focus to the first control, and a turn of the wheel over it changes
-    // it.
+    // Otherwise Qt gives the focus to the first control, and the wheel changes its value.
     if (!focusWidget())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);

@@ -119,9 +119,9 @@ private:
     void showArea();
 
     Ui_OrvCamConfigFrameABDialog ui;
-    WheelGuard wheelGuard; ///< of what the mapper does not bind
+    WheelGuard wheelGuard; ///< for the widgets that the mapper does not bind
     bool isTriggerOn = false;
-    bool isFitted = false; ///< the size to what it shows
+    bool isFitted = false; ///< the size to the contents
 
     ExposureTime exposure;
     DigitalGain gain;
@@ -141,12 +141,12 @@ private:
     QButtonGroup *analogGainButtons = nullptr;
     QVector<QWidget *> exposureDependents;
 
-    QVector<qint64> customArea; ///< that the user has called so
-    bool isWriting = false;     ///< several values; what follows from them is shown at the end
+    QVector<qint64> customArea; ///< the user's last custom area
+    bool isWriting = false;     ///< several values; derived ones are shown at the end
 };
 
-/// A change of the user's that takes more than one write, of which the rest must not be written
-/// when it is over.
+/// A change of the user's with more than one write. When it is over, the remaining writes are
+/// dropped.
 class OrvCamConfigFrameABDialogPrivate::Writing
 {
 public:
@@ -245,7 +245,7 @@ void OrvCamConfigFrameABDialogPrivate::release()
 
 void OrvCamConfigFrameABDialogPrivate::bind()
 {
-    // What this camera lacks must not count as the former one had it.
+    // A feature that this camera lacks must not keep the former camera's value.
     ui.cmBoxFrameMode->clear();
     ui.chBoxFixedFramePeriodEnable->setChecked(false);
     ui.spBoxFixedFramePeriodValue->setRange(0, 0);
@@ -340,7 +340,7 @@ void OrvCamConfigFrameABDialogPrivate::bindExposure()
     ui.spBoxExpTime->setEnabled(false);
     bindInt(ExposureTime::featureOf(ExposureTime::Lines), ui.spBoxExpLines, dependents);
     bindInt(ExposureTime::featureOf(ExposureTime::Clocks), ui.spBoxExpClocks, dependents);
-    // After the mapper, so that the time finds itself enabled.
+    // After the mapper, which has enabled the time by then.
     watched(exposure.param(ExposureTime::Lines));
     watched(exposure.param(ExposureTime::Clocks));
 }
@@ -349,10 +349,10 @@ void OrvCamConfigFrameABDialogPrivate::bindPeriod()
 {
     bindInt(periodName, ui.spBoxFixedFramePeriodValue,
             static_cast<IOrvCamConfigIntConverter *>(this));
-    // Whole lines are no grid of microseconds: the box would show other times than it was given.
+    // Whole lines are no grid of microseconds: the box would round the times.
     ui.spBoxFixedFramePeriodValue->setValidate(false);
     showPeriod();
-    watched(periodParam); // after the mapper, as the exposure time needs what the box shows
+    watched(periodParam); // after the mapper, as the exposure time needs the box's value
 }
 
 void OrvCamConfigFrameABDialogPrivate::bindDigitalGain()
@@ -363,7 +363,7 @@ void OrvCamConfigFrameABDialogPrivate::bindDigitalGain()
     showDigitalGain();
 }
 
-/// What shows several features, and so is bound to none.
+/// The widgets that show several features, and so are bound to none.
 void OrvCamConfigFrameABDialogPrivate::explain()
 {
     FeatureToolTip::set(ui.spBoxExpTime,
@@ -411,7 +411,7 @@ void OrvCamConfigFrameABDialogPrivate::connectHandlers()
     connectDrags();
 }
 
-// What the widgets show need not be what the camera holds: only what the user changes is written.
+// The widgets may show rounded values: only the user's changes are written.
 void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
     auto *time = new DragWatcher(
@@ -457,7 +457,7 @@ void OrvCamConfigFrameABDialogPrivate::OnParameterUpdate(Param *param)
     reader().whenKnown(this, param, neededBy(param), [=] { update(param); });
 }
 
-/// What is going to be read when the parameter has changed.
+/// The parameters to read when the given one has changed.
 FeatureReader::Params OrvCamConfigFrameABDialogPrivate::neededBy(const Param *param) const
 {
     if (exposure.isUnit(param))
@@ -543,7 +543,7 @@ void OrvCamConfigFrameABDialogPrivate::updateExposureTime()
     const int end = ValueGrid::toInt(max);
     const int time = ValueGrid::toInt(exposure.time());
 
-    // Setting what is set already would undo the user's typing.
+    // Setting the same value again would undo the user's typing.
     const QSignalBlocker writesNothing(spinBox);
     if (spinBox->minimum() != 0 || spinBox->maximum() != end)
         spinBox->setRange(0, end);
@@ -583,7 +583,7 @@ void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
     const QSignalBlocker writesNothing(slider);
     slider->setRange(gain.min().factor(), gain.max().factor());
     slider->setSingleStep(DigitalGain::step);
-    // A step may be less than the camera can do at large gains; the user must get past it.
+    // At large gains a step may be below the camera's resolution; the user must be able to step on.
     if (gainOf(slider->value()) != gain.value())
         slider->setValue(gain.value().factor());
 }
@@ -657,7 +657,7 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
             Int *const side = area.param(step.first);
             QtOrvSpinBox *const spinBox = areaBox(step.first);
             reader().fetchNow({side});
-            mapper.updateSpinBox(side, spinBox); // may show what has been refused
+            mapper.updateSpinBox(side, spinBox); // may show the refused value
             if (writing.isOver())
                 return;
             spinBox->setValue(ValueGrid::toInt(step.second));

@@ -74,7 +74,7 @@ DeviceOpener::Open simpleOpener(OrvCam::DeviceInfo &camera)
 
 } // namespace
 
-/// What the GUI thread and the thread that opens share.
+/// The data that the GUI thread and the opening thread share.
 struct OrvCamConfigOpening::Job
 {
     DeviceOpener::Open open;

@@ -77,7 +77,7 @@ void OrvCamConfigPulseDialogPrivate::bind()
 void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
 {
     const auto valueChanged = static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged);
-    // What is derived must not come from a former camera.
+    // The derived values must not be those of a former camera.
     for (QtOrvSpinBox *spinBox : {ui.spBoxPeriod, ui.spBoxWidth})
         spinBox->setRange(0, 0);
 
@@ -97,7 +97,7 @@ void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
 
 void OrvCamConfigPulseDialogPrivate::initButton()
 {
-    ui.pushBtnPulseEnable->setChecked(false); // which it stays where there is nothing to start
+    ui.pushBtnPulseEnable->setChecked(false); // and stays so without a feature to start
     bindBoolean("PulseGenEnable", ui.pushBtnPulseEnable);
     connectTo(ui.pushBtnPulseEnable, &QPushButton::clicked,
               [this](bool isRunning) { setButtonState(isRunning); });
@@ -105,7 +105,7 @@ void OrvCamConfigPulseDialogPrivate::initButton()
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool isRunning)
 {
-    // A new text brings a new shortcut, none in this case.
+    // A new text sets a new shortcut, none in this case.
     const QKeySequence shortcut = ui.pushBtnPulseEnable->shortcut();
     ui.pushBtnPulseEnable->setText(isRunning ? OrvCamConfigPulseDialog::tr("Stop")
                                              : OrvCamConfigPulseDialog::tr("Start"));

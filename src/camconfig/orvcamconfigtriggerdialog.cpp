@@ -37,7 +37,8 @@ void OrvCamConfigTriggerDialogPrivate::bind()
     enableChoices();
 }
 
-/// The rules go by what is shown. What this camera lacks must not be that of the former one.
+/// The rules use the shown values. A feature that this camera lacks must not keep the former
+/// camera's value.
 void OrvCamConfigTriggerDialogPrivate::clear()
 {
     ui.chBoxTriggerEnable->setChecked(false);

@@ -34,7 +34,7 @@ bool WheelGuard::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
         return false;
-    event->ignore(); // so that it goes on to the parent
+    event->ignore(); // so that Qt passes it to the parent
     return true;
 }
 

@@ -15,7 +15,7 @@ namespace OrvGui {
 
 namespace {
 
-/// A label has nothing to press for a screen reader.
+/// Offers a press action to screen readers, which a label lacks.
 class CaptionInterface : public QAccessibleWidget
 {
 public:
@@ -52,7 +52,7 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     return caption ? new CaptionInterface(caption) : nullptr;
 }
 
-/// Taken out again when the library is unloaded.
+/// Removed when the library is unloaded.
 struct Factory
 {
     Factory() { QAccessible::installFactory(makeInterface); }
@@ -76,7 +76,7 @@ void HistoryCaption::click()
         emit clicked();
 }
 
-/// The tool tip of the label belongs to those who explain the number.
+/// Adds a line to the tool tip, which describes the number.
 bool HistoryCaption::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)

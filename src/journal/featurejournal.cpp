@@ -46,7 +46,7 @@ QVariant entryOf(const IEnumEntry *entry)
     return entry ? QVariant(fromUtf8(entry->GetSymbolic())) : QVariant();
 }
 
-/// Invalid for what has no value to put back.
+/// Invalid for a feature without a value that can be restored.
 QVariant valueOf(INode *node)
 {
     if (auto *choice = dynamic_cast<IEnumeration *>(node))
@@ -62,8 +62,8 @@ QVariant valueOf(INode *node)
     return QVariant();
 }
 
-/// The same for a value that has come from a widget, or for GenICam's text, which stays a text
-/// where it is no plain number.
+/// The same for the value of a widget, or for GenICam's text, which stays a text unless it is a
+/// plain number.
 QVariant asValueOf(INode *node, const QVariant &value)
 {
     if (!value.isValid())
@@ -163,7 +163,7 @@ private:
     const std::shared_ptr<std::atomic<bool>> m_isAlive;
 };
 
-/// Moves selectors away and back, then repeats the notifications that were ignored in between.
+/// Moves selectors and restores them, then repeats the notifications that were ignored in between.
 class FeatureJournal::Detour
 {
 public:
@@ -201,7 +201,7 @@ void FeatureJournal::Detour::end()
         return m_move.abandon();
     for (IValue *selector : m_move.putBack())
         m_unnotified.append(selector->GetNode());
-    // What depends on them without being selected has changed for those who look now.
+    // Features that depend on them without being selected have changed for present readers.
     for (INode *node : std::as_const(m_unnotified))
         attempt([=] { node->InvalidateNode(); });
 }
@@ -233,7 +233,7 @@ FeatureJournal::Pointer FeatureJournal::of(INodeMap *nodeMap)
 FeatureJournal::FeatureJournal(INodeMap *nodeMap)
     : m_nodeMap(nodeMap), m_isAlive(std::make_shared<std::atomic<bool>>(true))
 {
-    InputGesture::current(); // which sees the gestures from now on
+    InputGesture::current(); // which follows the gestures from now on
     NodeList_t nodes;
     nodeMap->GetNodes(nodes);
     if (nodes.size() > 0)
@@ -408,7 +408,7 @@ bool FeatureJournal::isOpen(quint64 gesture) const
            (m_isGroupOpen || (gesture != 0 && m_done.last().gesture == gesture));
 }
 
-/// What changes the same thing once more changes the change.
+/// A change of the same setting is merged with the former one.
 void FeatureJournal::add(const Change &change, Step &step)
 {
     QVector<Change> &changes = step.changes;
@@ -533,7 +533,7 @@ void FeatureJournal::apply(const Step &step, bool isBack)
     }
 }
 
-/// Counts those that are done, from the end when it goes back.
+/// Counts the applied changes, from the end when undoing.
 void FeatureJournal::applyAll(const QVector<Change> &changes, bool isBack, int &done)
 {
     Detour detour(*this);

@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-/// Between two notches of a wheel that is turned in one go.
+/// The longest pause between two notches of one gesture.
 constexpr int wheelPause = 500; // ms
 
 const QKeyEvent *keyEvent(const QEvent *event)
@@ -75,7 +75,7 @@ bool InputGesture::eventFilter(QObject *receiver, QEvent *event)
     return false;
 }
 
-/// The release may have gone to no widget.
+/// The release may not have reached a widget.
 bool InputGesture::isDragging() const
 {
     return m_input == Mouse && !m_isEnding && QGuiApplication::mouseButtons() != Qt::NoButton;
@@ -83,7 +83,7 @@ bool InputGesture::isDragging() const
 
 void InputGesture::begin(Input input, int code, ulong time)
 {
-    // An event comes here again from each widget that it goes on to.
+    // Each widget that an event is passed to calls this filter again.
     if (m_input == input && m_code == code && m_time == time && !m_isEnding && input != Wheel)
         return;
     ++m_number;
@@ -93,7 +93,7 @@ void InputGesture::begin(Input input, int code, ulong time)
     m_isEnding = false;
 }
 
-// What a release leads to belongs to the gesture.
+// The writes that a release causes belong to the gesture.
 void InputGesture::end(Input input, int code)
 {
     if (m_input != input || m_code != code)

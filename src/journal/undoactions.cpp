@@ -19,7 +19,7 @@ namespace OrvGui {
 
 namespace {
 
-/// A key of the platform and the one that is written down.
+/// The platform's key and the documented one.
 QList<QKeySequence> keysOf(QKeySequence::StandardKey key, const char *always)
 {
     QList<QKeySequence> keys = QKeySequence::keyBindings(key);
@@ -34,7 +34,7 @@ bool isModified(const QLineEdit *line)
     return line && line->isModified() && (line->isUndoAvailable() || line->isRedoAvailable());
 }
 
-/// Whether the user has typed what is not the value yet.
+/// Whether the user has typed a text that is not the value yet.
 bool isTyping(const QObject *editor)
 {
     if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
@@ -82,7 +82,7 @@ void UndoActions::watchEditorsOf(const QAbstractItemView *view)
     m_viewport->installEventFilter(this);
 }
 
-/// Whether the user has typed what does not count yet.
+/// Whether the user has typed a text that is not entered yet.
 bool UndoActions::isPending(const QObject *editor) const
 {
     const bool isOfSpinBox = qobject_cast<const QAbstractSpinBox *>(editor);
@@ -125,7 +125,7 @@ void UndoActions::run(Replay replay)
     emit triggered();
     if (!alive)
         return;
-    const FeatureJournal::Pointer kept = m_journal; // what is notified may set another one
+    const FeatureJournal::Pointer kept = m_journal; // a receiver may set another one
     if (!kept)
         return;
     const QPointer<QWidget> window(m_window);

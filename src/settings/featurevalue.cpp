@@ -27,7 +27,7 @@ GenApi::EInterfaceType typeOf(GenApi::IValue *feature)
     return feature->GetNode()->GetPrincipalInterfaceType();
 }
 
-/// No more digits than it takes to get the same number back.
+/// The fewest digits that give the same number again.
 QString exactText(double value)
 {
     QString text;
@@ -190,7 +190,7 @@ QString accessReason(GenApi::EAccessMode mode)
     }
 }
 
-/// Empty where the number of the camera's answer says no more.
+/// The range of a number; empty for other features.
 QString rangeReason(GenApi::IValue *feature)
 {
     if (auto *integer = dynamic_cast<GenApi::IInteger *>(feature)) {

@@ -54,7 +54,7 @@ void addDifferences(const SettingDifferences &differences, Result *result)
         result->differences.append({one.feature, one.left, one.right});
 }
 
-/// What the file has and the camera does not save.
+/// The settings of the file that the camera does not save.
 Settings others(const Settings &ofFile, const Settings &ofCamera)
 {
     QSet<QString> saved;

@@ -48,7 +48,7 @@ public:
     QAction *saveAction, *loadAction, *putBackAction, *compareAction, *userSetsAction;
 
 private:
-    /// What is known of a file before it is loaded.
+    /// The comparison of a file with the camera before it is loaded.
     struct Preview
     {
         QString fileName;
@@ -198,7 +198,7 @@ void OrvSettingsMenuPrivate::askForFile(QFileDialog::AcceptMode mode, const QStr
     show(dialog, &m_questions);
 }
 
-/// One thing at a time: others wait behind the dialog that shows the progress.
+/// Runs one operation at a time: the dialog with the progress blocks others.
 void OrvSettingsMenuPrivate::run(const QString &text, const SettingsJob::Work &work,
                                  const Done &done)
 {
@@ -360,8 +360,7 @@ void OrvSettingsMenuPrivate::write(const QString &text, const Settings &settings
         });
 }
 
-/// No step of the journal, which has no way to write again what is refused at first: "Put Back" is
-/// that.
+/// No step of the journal, which does not repeat writes that are refused at first; "Put Back" does.
 void OrvSettingsMenuPrivate::journalWritten(const SettingsWriter::Result &result,
                                             bool isPuttingBack)
 {

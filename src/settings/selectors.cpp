@@ -114,7 +114,7 @@ void SelectorMoves::move(GenApi::IValue *selector, const QString &value)
 QString SelectorMoves::select(const Setting::Selection &selection)
 {
     m_isUnanswered = false;
-    // In the order in which they are put back.
+    // In the order in which they are restored.
     std::vector<GenApi::IValue *> selectors;
     for (const auto &position : selection) {
         selectors.push_back(settingOf(m_map, position.first));

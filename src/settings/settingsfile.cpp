@@ -34,7 +34,7 @@ bool isName(const QString &text)
     return true;
 }
 
-/// What is in "{A=B}", "{A=B,C=D}" or "{A=B}{C=D}"; empty for anything else.
+/// The selection in "{A=B}", "{A=B,C=D}" or "{A=B}{C=D}"; empty for anything else.
 Setting::Selection selectionOf(QString field)
 {
     if (!field.startsWith(QLatin1Char('{')) || !field.endsWith(QLatin1Char('}')))
@@ -85,7 +85,7 @@ SettingsFile SettingsFile::fromBytes(const QByteArray &bytes, QString *error)
     return {};
 }
 
-/// Returns what is wrong with the line.
+/// Returns the error of the line.
 QString SettingsFile::addLine(const QByteArray &bytes, int number)
 {
     const QString text = QString::fromUtf8(bytes);
@@ -178,7 +178,7 @@ bool SettingsFile::write(const QString &fileName, QString *error) const
     const QByteArray bytes = toBytes();
     const QFileInfo existing(fileName);
     if (existing.exists() && !existing.isFile() && !existing.isDir()) {
-        // A device or a pipe: a file must not take its place.
+        // A device or a pipe must not be replaced with a file.
         QFile target(fileName);
         if (target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size() &&
             target.flush())

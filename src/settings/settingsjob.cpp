@@ -18,7 +18,7 @@ namespace {
 constexpr int delayOfDialog = 300; // ms until the dialog is shown
 constexpr int progressPeriod = 50; // ms
 
-/// Stays until the work has ended: after "Cancel", too, selectors may be away.
+/// Stays open until the operation has ended: after "Cancel", too, selectors may be moved.
 class ProgressDialog : public QDialog
 {
 public:

@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-/// What of the positions so far belongs to a feature with these selectors.
+/// The part of the positions so far that applies to a feature with these selectors.
 Setting::Selection selectionOf(GenApi::IValue *feature, const QHash<QString, QString> &positions)
 {
     Setting::Selection selection;
@@ -84,7 +84,7 @@ Settings resolvedSettings(const Settings &lines)
             if (!selectors.contains(line.name))
                 selectors << line.name;
             if (lastLine.value(line.name) == i)
-                settings.append(line); // not all that are called so select anything
+                settings.append(line); // not every feature with such a name selects anything
             continue;
         }
         occurrences[line.name].append(positions);

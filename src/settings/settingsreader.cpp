@@ -70,7 +70,7 @@ QString nameOf(GenApi::IValue *feature)
     return fromUtf8(feature->GetNode()->GetName());
 }
 
-/// What spelling and punctuation can't change: makers write their names in several ways.
+/// The name without case and punctuation: vendors spell their names in several ways.
 QString essence(const QString &device)
 {
     QString text;
@@ -151,7 +151,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     QString original;
     QStringList positions;
     try {
-        // One that is not there now selects nothing.
+        // An unavailable selector selects nothing.
         if (!GenApi::IsReadable(selector->GetAccessMode()))
             return readAt(selectors, depth + 1, features);
         original = FeatureValue::text(selector);
@@ -181,7 +181,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
             continue;
         }
         m_result.settings.append(line);
-        // Views are notified of the inner ones when the outermost is back.
+        // Views are notified of the inner ones when the outermost is restored.
         const auto detour = positions.size() > 1 ? std::make_unique<SelectorDetour>() : nullptr;
         readAt(selectors, depth + 1, features);
         if (m_result.settings.size() == start + 1)
@@ -196,7 +196,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     m_result.settings.append(last);
 }
 
-/// Null when all is selected, otherwise why it is not. One answer may get lost.
+/// Null on success, otherwise the reason of the failure. One answer may get lost.
 QString SettingsReader::select(const Setting::Selection &selection, SelectorMoves *moves)
 {
     QString reason = moves->select(selection);
@@ -282,7 +282,7 @@ SettingsReader::Result SettingsReader::read(const Settings &wanted)
         QString why = reason;
         GenApi::IValue *feature = settingOf(m_map, setting.name);
         if (feature)
-            found.value = moves.original(feature); // it may be away
+            found.value = moves.original(feature); // it may be moved
         if (feature && found.value.isNull() && why.isEmpty())
             found.value = textOf(feature, &why);
         if (!why.isEmpty())

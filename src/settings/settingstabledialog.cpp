@@ -99,7 +99,7 @@ void SettingsTableDialog::addCloseButton(bool isCancel)
     m_buttons->addButton(isCancel ? QDialogButtonBox::Cancel : QDialogButtonBox::Close);
 }
 
-/// What is selected, or everything.
+/// The selected rows, or all.
 void SettingsTableDialog::copy() const
 {
     QModelIndexList rows = m_view->selectionModel()->selectedRows();

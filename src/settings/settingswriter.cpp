@@ -64,7 +64,7 @@ SettingsWriter::Result SettingsWriter::write(const Settings &settings)
     return m_result;
 }
 
-/// Returns what was refused; what is not tried any more is not among it.
+/// Returns the refused settings, without those that are not repeated.
 SettingProblems SettingsWriter::pass(const Settings &settings)
 {
     SettingProblems refused;
@@ -79,12 +79,12 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
             refused.append({setting, reason});
         }
     }
-    // What says nothing of a selection is meant for that which was there.
+    // A setting without a selection is for the original one.
     noteAway(m_moves.putBack());
     return refused;
 }
 
-/// Empty when it is done.
+/// Empty on success.
 QString SettingsWriter::attempt(const Setting &setting)
 {
     const QString refusal = m_moves.select(setting.selection);
@@ -118,7 +118,7 @@ QString SettingsWriter::attempt(GenApi::IValue *feature, const QString &value)
     return reason.isEmpty() || isThere(feature, value) ? QString() : reason;
 }
 
-/// What cannot be written, but has the value, needs no writing.
+/// A setting that cannot be written, but has the value already, is done.
 bool SettingsWriter::isThere(GenApi::IValue *feature, const QString &value)
 {
     try {

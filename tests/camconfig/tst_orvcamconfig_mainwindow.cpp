@@ -389,7 +389,7 @@ void TestOrvCamConfigMainWindow::keepsPendingInput()
     QCOMPARE(simulation.array.GetIntegerValue("Frame_ExposureClocks"), int64_t(11));
     simulation.select("FrameB");
     QVERIFY(simulation.array.GetIntegerValue("Frame_ExposureClocks") != 11);
-    QCOMPARE(tabs.currentIndex(), 1); // others are heard again
+    QCOMPARE(tabs.currentIndex(), 1); // notifications are followed again
 }
 
 void TestOrvCamConfigMainWindow::lockedSelector()

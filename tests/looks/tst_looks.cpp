@@ -101,7 +101,7 @@ using Window = std::unique_ptr<QWidget>;
 
 } // namespace
 
-/// That every window can be read, heard and used without a mouse, wherever it is shown.
+/// Every window is legible, accessible and usable without a mouse, wherever it is shown.
 class TestLooks : public QObject
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QTreeView>
 
-// What the user finds in the picker.
+// The parts of the picker.
 
 inline QTreeView *cameraTree(const QDialog &picker)
 {
@@ -30,7 +30,7 @@ inline QModelIndex rowNamed(const QTreeView &tree, const QString &words)
         .value(0);
 }
 
-/// What a pane shows, as "label: value".
+/// The contents of a pane, as "label: value".
 inline QStringList factsOf(const QTreeView &pane)
 {
     QStringList rows;

@@ -59,7 +59,7 @@ public:
     xcb_window_t window = 0; ///< the last that was waited for
 
 private:
-    /// The first line of what it says.
+    /// The first line of its output.
     static QString xdotool(const QStringList &arguments)
     {
         QProcess process;

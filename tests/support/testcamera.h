@@ -109,11 +109,11 @@ public:
     /// @name Control
     /// @{
     uint32_t privilege(); ///< the register: 0 none, 1 exclusive, 2 control
-    /// Gives control to another client that never lets go; 0 takes it away from any.
+    /// Gives control to another client that never releases it; 0 takes control from any client.
     void setPrivilege(uint32_t privilege);
     /// @}
 
-    /// @name What was received and sent
+    /// @name Received commands and sent answers
     /// @{
     using Counters = TestCameraCounters;
     using Access = TestCameraAccess;

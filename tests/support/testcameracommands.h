@@ -24,9 +24,10 @@ public:
     void setBehaviour(const TestCameraBehaviour &behaviour);
     Answer execute(uint16_t kind, const std::string &data, const sockaddr_in &from);
 
-    /// A controller without a port is one that never lets go.
+    /// A controller without a port never releases control.
     void giveControl(uint32_t privilege, const sockaddr_in &controller = {});
-    /// Takes control away from a controller that has not been heard for too long. `from` is heard.
+    /// Takes control from a controller whose heartbeat is overdue. A command of `from` counts as
+    /// one.
     void checkHeartbeat(const sockaddr_in &from = {});
 
 private:

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// What a TestCamera does wrong. A default-constructed one is a good camera. All faults can be
+/// The faults of a TestCamera; none when default-constructed. All faults can be
 /// combined. Times are in milliseconds, losses in per cent.
 struct TestCameraBehaviour
 {
@@ -24,7 +24,7 @@ struct TestCameraBehaviour
     bool isPendingForever = false; ///< no answer follows the last PENDING_ACK
 
     /// Faulty answers, made of the good one. All but TruncatedAnswer hold the good data inverted,
-    /// so that a client that falls for them shows it.
+    /// so that a test detects a client that accepts them.
     enum Fault : unsigned {
         WrongId = 1,
         WrongCommand = 2,

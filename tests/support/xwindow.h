@@ -10,8 +10,7 @@
 #include <cstring>
 #include <memory>
 
-/// A connection to the X server that has nothing to do with Qt: another program's view of what is
-/// on the screen.
+/// A connection to the X server without Qt: another program's view of the screen.
 class XView
 {
 public:
@@ -109,7 +108,7 @@ public:
                      : QByteArray();
     }
 
-    /// What is on the screen inside the window, its children included.
+    /// The picture of the window on the screen, with its children.
     QImage picture(xcb_window_t window) const
     {
         const QSize size = geometry(window).size();
