@@ -739,7 +739,7 @@ struct Polled
     void change(uint64_t address, uint8_t value) { state->memory.write(address, {0, 0, 0, value}); }
     Addresses takeReads() { return std::exchange(state->reads, {}); }
 
-    /// The addresses that are read.
+    /// The addresses that are read, sorted: the order within a batch is open.
     Addresses poll(int64_t elapsedMs)
     {
         takeReads();
@@ -747,7 +747,9 @@ struct Polled
         map->pollLater(elapsedMs);
         while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
         }
-        return takeReads();
+        Addresses reads = takeReads();
+        std::sort(reads.begin(), reads.end());
+        return reads;
     }
 };
 
