@@ -19,7 +19,7 @@ namespace {
 // again. The X server refuses to move a window into one of its own inferiors. So, just before the
 // container's hidden window is made, it gets the host's window for its parent.
 
-/// Gives a parent to whatever window becomes the parent of another one.
+/// Sets the parent of the window that becomes the parent of the given one.
 class ContainerInterceptor : public QObject
 {
 public:

@@ -53,7 +53,7 @@ struct Refusals : QAbstractNativeEventFilter
     int count = 0;
 };
 
-/// Fails when a tree wants to follow its features.
+/// A node map that fails when a tree registers with its features.
 struct BrokenFeatures : Features
 {
     GenApi::INode *GetNode(const GenICam::gcstring &) const override
@@ -242,13 +242,13 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     QTRY_VERIFY(shows(panel, view));
     QCOMPARE(widget(view).size(), QSize(600, 400));
 
-    // A window manager that is late has its own idea of the size.
+    // A window manager may set another size later.
     m_screen.resize(static_cast<xcb_window_t>(widget(view).winId()), QSize(320, 240));
     QCOMPARE(m_screen.picture(panel).pixel(599, 399), panelColour);
     QTRY_VERIFY(shows(panel, view));
     QCOMPARE(widget(view).size(), QSize(600, 400));
 
-    // A browser comes and goes.
+    // A browser is created and destroyed.
     const xcb_window_t other =
         m_screen.makeWindow(m_screen.screen().root, QRect(710, 0, 350, 500), panelColour);
     Features otherMap;
@@ -279,7 +279,7 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
         outer->setParent(nullptr);
     }
 
-    // Gone at once, also in a host without an event loop.
+    // Removed at once, also in a host without an event loop.
     DestroyGenParamTreeView(view);
     QVERIFY(m_screen.children(panel).isEmpty());
     QCOMPARE(m_screen.children(host), QList<xcb_window_t>{panel});
@@ -287,7 +287,7 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     m_screen.destroy(host);
 }
 
-// Hosts make mistakes. They get a tree that cannot be seen.
+// A wrong window id of a host gives an invisible tree.
 void TestOrvCameraGuiApi::missingForeignWindow()
 {
     Features map;

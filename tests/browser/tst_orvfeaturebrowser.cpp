@@ -140,7 +140,7 @@ private slots:
     void cleanupTestCase();
 };
 
-// What a key costs is what is looked at, read and laid out for it.
+// The cost of a key is the number of features compared, read and laid out.
 void TestOrvFeatureBrowser::searchOfManyFeatures()
 {
     LargeNodeMap map;
@@ -241,7 +241,7 @@ void TestOrvFeatureBrowser::favourites()
     shown.tree.setCurrentIndex(group);
     QCOMPARE(shown.part<QTextBrowser>("whatsThisLabel").toPlainText(), QString());
 
-    // Either row writes, and shows what was written.
+    // Either row writes, and shows the written value.
     const QModelIndex starred = shown.model().index(0, 1, group);
     QModelIndex other;
     for (int row = 1; row < shown.model().rowCount(); ++row) {
@@ -259,7 +259,7 @@ void TestOrvFeatureBrowser::favourites()
     };
     QVERIFY(isTold(starred) && isTold(other));
 
-    // An editor in a row that goes writes and closes.
+    // An editor in a row that is removed writes and closes.
     shown.browser.setVisibility(OrvGui::Basic);
     QCOMPARE(shown.names(shown.model().index(0, 0)), QStringList("Gain"));
     shown.choose(shown.model().index(0, 0, shown.model().index(0, 0)), "goToGain");
@@ -442,7 +442,7 @@ void TestOrvFeatureBrowser::undoWhileTyping()
     QCoreApplication::processEvents(); // what belongs to the key
 }
 
-/// What others write to the same camera counts as changed, too.
+/// Writes of other windows to the same camera are changes, too.
 void TestOrvFeatureBrowser::changesOfOtherWindows()
 {
     SampleNodeMap map;
@@ -463,7 +463,7 @@ void TestOrvFeatureBrowser::changesOfOtherWindows()
     QVERIFY(!shown.isChanged("Width") && !shown.isChanged("ExposureTime"));
     QVERIFY(!shown.action("putBackAll").isEnabled());
 
-    // What replaces values in a way that cannot be undone leaves no step.
+    // Replacing values in a way that cannot be undone leaves no step.
     shown.action("actionRedo").trigger();
     QVERIFY(shown.action("actionRedo").isEnabled());
     journal->startAnew({{map.GetNode("Gain"), "3", "6", {{"GainSelector", "Red", "Red"}}}});
@@ -491,7 +491,7 @@ void TestOrvFeatureBrowser::refusals()
     QVERIFY(shown.model().setData(shown.cell("Width"), 640));
     QVERIFY(!isMarked("Width"));
 
-    // What cannot be put back stays changed, and says why.
+    // A feature that cannot be restored stays changed, with the reason.
     map.integer("Width").onWrite(
         [] { throw GenICam::RuntimeException("The camera is <b>busy</b>", __FILE__, __LINE__); });
     shown.choose(shown.cell("Width", 0), "putBack");

@@ -144,7 +144,7 @@ public:
     int asked = 0;
 };
 
-/// A number that counts who is notified of it.
+/// A number that counts its registered sinks.
 class CountedInt final : public OrvGenParam::Int
 {
 public:
@@ -271,7 +271,7 @@ struct SimulatedDeviceCamera
     OrvSimulation::SimulatedCamera camera;
 };
 
-/// The simulated camera as a device, with all that it takes.
+/// The simulated camera as a device, with its node map and parameters.
 struct SimulatedDevice : SimulatedDeviceCamera, DescribedDevice
 {
     SimulatedDevice() : DescribedDevice(openNodeMap(camera)) {}

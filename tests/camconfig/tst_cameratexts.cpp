@@ -64,7 +64,7 @@ bool isPlain(const QString &text)
            !text.contains("E\nvil");
 }
 
-/// What a view paints in its cells.
+/// The texts that a view paints in its cells.
 QStringList cellsOf(const QAbstractItemView &view)
 {
     QStringList texts;
@@ -119,8 +119,8 @@ void check(const QWidget &widget)
 
 } // namespace
 
-/// A camera whose texts try to be more than texts. ORV_PICTURES=FOLDER keeps a picture of each
-/// window.
+/// A camera whose texts contain markup and control characters. ORV_PICTURES=FOLDER keeps a picture
+/// of each window.
 class TestCameraTexts : public QObject
 {
     Q_OBJECT
@@ -193,7 +193,7 @@ void TestCameraTexts::windows()
     }
 }
 
-/// What is shown while a camera is opened, and when that fails.
+/// The dialogs during the opening of a camera, and after its failure.
 void TestCameraTexts::failure()
 {
     (*m_camera)->setMood("delay", 300);

@@ -213,7 +213,7 @@ void TestFeatureDialogs::pulseButton()
     QVERIFY(!camera.enable.GetValue());
     QCOMPARE(camera.enable.writes(), 2);
 
-    // What the camera does by itself moves the button, not its text and lamp.
+    // A change by the camera itself toggles the button, but not its text and lamp.
     camera.enable.change(true);
     QVERIFY(button->isChecked());
     QCOMPARE(button->text(), QStringLiteral("Start"));

@@ -163,7 +163,7 @@ struct Binding
     }
 };
 
-/// What the mapper shows and writes as it is.
+/// The controls that the mapper binds without conversion.
 const Binding bindings[] = {
     {"FrameMode", {"cmBoxFrameMode"}},
     {"Frame_SubsamplingM", {"cmBoxSubsamplingM"}},
@@ -648,7 +648,7 @@ void TestFrameABDialog::frameChangeDiscardsTyping()
     VERIFY_SAME(dialog, camera);
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
-    // What was dragged does not, either.
+    // Nor does a dragged value.
     auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 2);
     dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
@@ -708,7 +708,7 @@ void TestFrameABDialog::hiddenDialogKeepsSelection()
     Dialog::processEvents();
     QCOMPARE(camera.writes(), writes);
 
-    // Shown, it puts that right.
+    // When it is shown, it restores the selection.
     dialog.show();
     Dialog::processEvents();
     QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameA"));
@@ -929,7 +929,7 @@ void TestFrameABDialog::missingFeatures()
     if (widgets.isEmpty() && missing != "PixelClock")
         VERIFY_SAME(dialog, camera);
 
-    // A complete camera brings everything back.
+    // A complete camera restores all controls.
     camera.device.part.missing.clear();
     dialog.SetDevice(&camera.device);
     Dialog::processEvents();
@@ -952,7 +952,7 @@ void TestFrameABDialog::refusedWrites()
     QCOMPARE(qint64(plain.lines.GetValue()), Q_INT64_C(10));
     QCOMPARE(dialog.shown("spBoxExpTime"), int((10 * 1000 + plain.clocks.GetValue()) / 160));
 
-    // The gain complains about nothing and shows what there is.
+    // The gain reports no error and shows the resulting value.
     plain.fine.onWrite(throwRefusal);
     dialog.type("spBoxDigitalGain", QStringLiteral("1.5"));
     QCOMPARE(boxes.texts.size(), 1);
@@ -1055,7 +1055,7 @@ void TestFrameABDialog::currentSizeIsRefreshed()
 
 namespace {
 
-/// Does one thing after the other to the dialog and to the camera behind its back.
+/// Uses the dialog and changes the camera from outside, in random order.
 class Walk
 {
 public:

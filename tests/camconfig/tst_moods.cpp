@@ -43,7 +43,7 @@ off_t sizeOfStderr()
     return status.st_size;
 }
 
-/// What is on the screen of the tree.
+/// The visible rows of the tree.
 void addRows(const QTreeView &tree, QStringList *texts)
 {
     const QRect area = tree.viewport()->rect();

@@ -73,7 +73,7 @@ private:
 
 } // namespace
 
-/// What a slow camera costs the windows: opened beside them, read in few commands.
+/// Windows with a slow camera: it is opened in the background and read in few commands.
 class TestOpening : public QObject
 {
     Q_OBJECT
@@ -174,7 +174,7 @@ void TestOpening::cancels()
     QVERIFY(stopped.isCancelled && !stopped.device && isSilent);
     QCOMPARE(last, 3);
 
-    // The next one waits until the camera has been let go of.
+    // The next one waits until the camera has been released.
     m_camera->setMood("delay", 0);
     const DevicePtr device(open().device);
     QVERIFY(device);

@@ -91,7 +91,7 @@ void tick(const QWidget &window)
     QMetaObject::invokeMethod(window.findChild<QTimer *>("refreshTimer"), "timeout");
 }
 
-/// What a column shows: size, frames per second, frame time, exposure.
+/// The numbers of a column: size, frames per second, frame time, exposure.
 QString columnOf(const QWidget &window, char frame)
 {
     QStringList texts;
@@ -110,7 +110,7 @@ bool isDimmed(const QWidget &window, char frame)
     return true;
 }
 
-/// What the window has to show of the frame that the camera's selector addresses.
+/// The expected numbers of the frame that the camera's selector addresses.
 QString selectedColumn(OrvGenParam::Array &array)
 {
     const auto number = [&](const char *name) { return array.GetIntegerValue(name); };

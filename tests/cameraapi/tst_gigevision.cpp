@@ -260,7 +260,7 @@ void TestGigEVision::withoutAddress()
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
 }
 
-/// Which of them is meant cannot be said on the wire.
+/// The protocol cannot distinguish them.
 void TestGigEVision::sharedMacAddress()
 {
     TestCamera right(m_first->cameraSettings(0x020000000001, "10.1.0.2"));

@@ -363,7 +363,7 @@ void TestNodeMapArray::destroyedInAnyOrder()
     camera.width.changed();
     QCOMPARE(survivor.count, 1);
 
-    // The node map has forgotten the array; a new one starts from scratch.
+    // The node map has no references to the array; a new array starts without registrations.
     NodeMapArray again(camera.map);
     camera.width.changed();
     QCOMPARE(survivor.count, 1);
@@ -393,7 +393,7 @@ void TestNodeMapArray::changesOnOtherThreads()
     changeElsewhere();
     QTRY_COMPARE(sink.count, 2);
 
-    // On its way when the parameter goes.
+    // The notification is pending when the parameter is destroyed.
     changeElsewhere();
     array.reset();
     QTest::qWait(20);

@@ -12,8 +12,8 @@
 #include <memory>
 #include <vector>
 
-// A camera system whose behaviour the test sets, also to what a good one never does. Its objects
-// record the calls.
+// A camera system whose behaviour the test sets, also to faults that a good one never has. Its
+// objects record the calls.
 
 /// The values of an interface's parameters, by feature name.
 class FakeParameters final : public OrvGenParam::Array

@@ -15,13 +15,13 @@
 class FeatureSteps
 {
 public:
-    /// A camera that changes by itself has `pass`; of it nothing is believed that was read before.
+    /// `pass` is for a camera that changes by itself, whose cached values are then not used.
     explicit FeatureSteps(GenApi::INodeMap &map, std::function<void(double)> pass = {})
         : m_map(map), m_pass(std::move(pass))
     {
     }
 
-    /// The first step that does not go as it says, and what happened; empty when all do.
+    /// The first step that fails, with its actual result; empty when none does.
     QString run(const QString &steps)
     {
         for (const QString &step : steps.split(' ')) {

@@ -7,14 +7,14 @@
 class QImage;
 class QWidget;
 
-/// What is wrong with the look of a window as it is painted: its texts are recorded while it paints
-/// itself, and measured against what its style leaves for them and against the pixels below.
+/// Faults in the look of a window as it is painted: its texts are recorded while it paints itself,
+/// and measured against what its style leaves for them and against the pixels below.
 namespace Looks {
 
 struct Fault
 {
     enum Kind {
-        Pale,     ///< less contrast than WCAG asks for; disabled texts are exempt
+        Pale,     ///< less contrast than WCAG requires; disabled texts are exempt
         Cut,      ///< a text that is not seen whole
         CutCell,  ///< the same in a cell of an item view, whose columns the user can widen
         Squeezed, ///< a widget that reaches out of the one that it is in
@@ -32,7 +32,7 @@ struct Fault
 /// for.
 QVector<Fault> faultsOf(QWidget &window);
 
-/// What the faults are found in.
+/// The picture in which the faults are found.
 QImage pictureOf(QWidget &window);
 
 /// Name and class; of a widget without a name, those of the nearest parent with one, too.

@@ -12,8 +12,7 @@
 
 namespace OrvGenApi {
 
-/// What every node with a value can do beyond its interface: play a camera that is not always
-/// well-behaved.
+/// Functions of a node with a value beyond its interface, to simulate a misbehaving camera.
 class MemoryAccess
 {
 public:
@@ -277,7 +276,7 @@ private:
     int64_t m_address = 0;
 };
 
-/// A node map whose nodes keep their values, for tests of what a good camera never does. Each
+/// A node map whose nodes keep their values, for tests of misbehaving cameras. Each
 /// `addX` adds a node to a category as `add` does.
 class MemoryNodeMap : public DeclaredNodeMap
 {

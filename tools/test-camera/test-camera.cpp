@@ -44,7 +44,7 @@ Any number of these, which are also commands on standard input (without the dash
   --two-views FIRST-LAST  READMEM sees the bytes of these registers in reverse order
   --refuse FIRST-LAST=STATUS
   --count-up ADDRESS=MS   grows by one with every interval
-  --privilege VALUE       another client has control; 0: nobody
+  --privilege VALUE       another client has control; 0: none
 Further commands on standard input:
   good, unplug, plug, reconnect (plug, with control kept), get ADDRESS, counts (print and reset),
   log, quit
