@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/browsermodel.h"
 
+#include "base/featuremetatype.h"
 #include "genparamtree/genparamtreemodel.h"
 #include "genparamtree/knownvaluesmodel.h"
 #include "genparamtree/orvgenparamtreeview_p.h"
@@ -24,11 +25,6 @@ namespace {
 
 constexpr int nameColumn = 0;
 constexpr int valueColumn = 1;
-
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
-}
 
 bool isCategoryFeature(GenApi::IValue *feature)
 {
@@ -420,7 +416,7 @@ QVariant BrowserModel::favouritesData(int column, int role) const
 {
     if (role == Qt::UserRole)
         return QVariant::fromValue(m_rootFeature);
-    if (role == OwnRowRole)
+    if (role == ownRowRole)
         return true;
     if (column != nameColumn)
         return QVariant();

@@ -2,6 +2,7 @@
 #include "browser/featuremenu.h"
 
 #include "base/cameratext.h"
+#include "base/featuremetatype.h"
 #include "base/genicamstring.h"
 #include "base/selectors.h"
 #include "browser/browsermodel.h"
@@ -59,8 +60,7 @@ FeatureMenu::FeatureMenu(const QModelIndex &row, BrowserModel &shown, GenParamTr
     , m_row(row.sibling(row.row(), 0))
     , m_shown(shown)
     , m_features(features)
-    , m_feature(shown.isFavourites(row) ? nullptr
-                                        : row.data(Qt::UserRole).value<GenApi::IValue *>())
+    , m_feature(shown.isFavourites(row) ? nullptr : featureOf(row))
 {
     setObjectName(QStringLiteral("FeatureMenu"));
     try {
@@ -186,7 +186,7 @@ void FeatureMenu::addCategoryActions()
 
 void FeatureMenu::readAgain(const QModelIndex &row)
 {
-    auto *feature = row.data(Qt::UserRole).value<GenApi::IValue *>();
+    auto *feature = featureOf(row);
     try {
         if (feature && !m_shown.isFavourites(row)) {
             feature->GetNode()->InvalidateNode();

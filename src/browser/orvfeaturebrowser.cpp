@@ -2,6 +2,7 @@
 #include "browser/orvfeaturebrowser_p.h"
 
 #include "base/cameratext.h"
+#include "base/featuremetatype.h"
 #include "base/genicamstring.h"
 #include "browser/featuremenu.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -41,11 +42,6 @@ constexpr char widthMark[] = "&amp;W";
 // As around the tree.
 constexpr int margin = 11;
 constexpr int spacing = 6;
-
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
-}
 
 QByteArray pathOf(const QModelIndex &category)
 {

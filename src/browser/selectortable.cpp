@@ -33,7 +33,7 @@ namespace {
 constexpr int linesOfWidth = 32;
 constexpr int linesOfHeight = 21;
 
-const int TextRole = Qt::UserRole; ///< of a cell: GenICam's text
+constexpr int textRole = Qt::UserRole; ///< of a cell: GenICam's text
 
 QString nameOf(GenApi::IValue *feature)
 {
@@ -98,7 +98,7 @@ public:
 
     void setEditorData(QWidget *editor, const QModelIndex &index) const override
     {
-        const QString text = index.data(TextRole).toString();
+        const QString text = index.data(textRole).toString();
         if (auto *line = qobject_cast<QLineEdit *>(editor))
             line->setText(text);
         else if (auto *box = qobject_cast<QComboBox *>(editor))
@@ -115,7 +115,7 @@ public:
         const auto *line = qobject_cast<QLineEdit *>(editor);
         const auto *box = qobject_cast<QComboBox *>(editor);
         const QString text = line ? line->text() : box ? box->currentData().toString() : QString();
-        if (!text.isNull() && text != index.data(TextRole).toString())
+        if (!text.isNull() && text != index.data(textRole).toString())
             m_table->enter(index.row(), index.column(), text);
     }
 
@@ -243,7 +243,7 @@ void SelectorTable::showRows()
 void SelectorTable::showCell(int row, int column, const SelectorReader::Cell &cell)
 {
     auto *item = new QTableWidgetItem(cameraText(cell.shown));
-    item->setData(TextRole, cell.text);
+    item->setData(textRole, cell.text);
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     if (cell.isWritable)
         flags |= Qt::ItemIsEditable;

@@ -41,7 +41,7 @@ namespace OrvGui {
 
 namespace {
 
-const int RefreshPeriod = 1000; // ms
+constexpr int refreshPeriod = 1000; // ms
 
 } // namespace
 
@@ -403,7 +403,7 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     int32_t ignored = OrvCam::Success;
     undoActions->setJournal(FeatureJournal::of(array ? array->GetNodeMap(&ignored) : nullptr));
     q->setEnabled(true);
-    timer.start(RefreshPeriod);
+    timer.start(refreshPeriod);
     layOut();
     panel->explain(array);
     dimOldNumbers();

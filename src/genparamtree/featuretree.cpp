@@ -2,6 +2,7 @@
 #include "genparamtree/featuretree.h"
 
 #include "base/cameratext.h"
+#include "base/featuremetatype.h"
 #include "genparamtree/editorstate.h"
 #include "genparamtree/featurecell.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -19,11 +20,6 @@ namespace {
 
 constexpr int nameColumn = 0;
 constexpr int valueColumn = 1;
-
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
-}
 
 /// An editor has something to say already while it is filled for the first time, and may still have
 /// when it has been closed. Qt does not know it then, and Qt 6 complains.

@@ -2,6 +2,7 @@
 #include "genparamtree/genparamdelegate.h"
 
 #include "base/cameratext.h"
+#include "base/featuremetatype.h"
 #include "base/genicamstring.h"
 #include "base/ip4validator.h"
 #include "genparamtree/fixintegerrepresentation.h"
@@ -31,7 +32,7 @@ constexpr int64_t spinBoxMax = 0x7fffffff;
 
 GenApi::CValuePtr nodeOf(const QModelIndex &index)
 {
-    return GenApi::CValuePtr(index.data(Qt::UserRole).value<GenApi::IValue *>());
+    return GenApi::CValuePtr(featureOf(index));
 }
 
 bool isIpAddress(const GenApi::CIntegerPtr &integer)

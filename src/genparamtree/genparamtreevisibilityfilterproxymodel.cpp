@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamtree/genparamtreevisibilityfilterproxymodel.h"
 
+#include "base/featuremetatype.h"
 #include "genparamtree/genparamtreemodel.h"
 
 #include <Base/GCException.h>
@@ -30,7 +31,7 @@ bool GenParamTreeVisibilityFilterProxyModel::filterAcceptsRow(int sourceRow,
 
 bool GenParamTreeVisibilityFilterProxyModel::isShownAt(int visibility, const QModelIndex &index)
 {
-    auto *value = index.data(Qt::UserRole).value<GenApi::IValue *>();
+    auto *value = featureOf(index);
     try {
         return !value || value->GetNode()->GetVisibility() <= visibility;
     } catch (const GenICam::GenericException &) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamtree/knownvaluesmodel.h"
 
+#include "base/featuremetatype.h"
 #include "genparamtree/genparamtreemodel.h"
 #include "genparamtree/treelookahead.h"
 
@@ -15,11 +16,6 @@ namespace OrvGui {
 namespace {
 
 constexpr int valueColumn = 1;
-
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
-}
 
 } // namespace
 

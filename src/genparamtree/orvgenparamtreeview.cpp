@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamtree/orvgenparamtreeview_p.h"
 
+#include "base/featuremetatype.h"
 #include "base/treeviewmodel.h"
 #include "base/treeviewresizer.h"
 #include "genparamtree/featurenamedelegate.h"
@@ -30,12 +31,6 @@ constexpr int valueColumn = 1;
 // All the height for the tree; the description is a strip that the user can drag open.
 constexpr int treePaneSize = 1000;
 constexpr int otherPaneSize = 10;
-
-/// Null for an index without a feature.
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
-}
 
 GenApi::INodeMap *nodeMapOf(GenApi::INodeMap *nodeMap)
 {
@@ -256,7 +251,7 @@ void OrvGenParamTreeViewPrivate::leaveRowsThatGo(int level)
 void OrvGenParamTreeViewPrivate::describeCurrent()
 {
     const QModelIndex current = ui->treeView->currentIndex();
-    const bool isOfCamera = !current.data(OwnRowRole).toBool();
+    const bool isOfCamera = !current.data(ownRowRole).toBool();
     ui->whatsThisLabel->describe(isOfCamera ? featureOf(current) : nullptr, lookAhead);
 }
 

@@ -20,7 +20,7 @@ class GenParamTreeView;
 namespace OrvGui {
 
 /// A role of rows that stand for no feature of the camera, though they hold one.
-const int OwnRowRole = Qt::UserRole + 1;
+constexpr int ownRowRole = Qt::UserRole + 1;
 
 /// Private part of `OrvGenParamTreeView`. What stands around a tree reaches through it what a host
 /// has no business with.

@@ -2,6 +2,7 @@
 #include "genparamtree/safedelegate.h"
 
 #include "base/cameratext.h"
+#include "base/featuremetatype.h"
 #include "genparamtree/editorstate.h"
 #include "genparamtree/featurecell.h"
 #include "genparamtree/genparamtreemodel.h"
@@ -16,15 +17,6 @@
 #include <QPointer>
 
 namespace OrvGui {
-
-namespace {
-
-GenApi::IValue *featureOf(const QModelIndex &index)
-{
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
-}
-
-} // namespace
 
 bool SafeDelegate::ask(const GenApi::CValuePtr &node, const std::function<void()> &questions) const
 {

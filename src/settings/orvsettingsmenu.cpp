@@ -406,8 +406,10 @@ void OrvSettingsMenuPrivate::showWritten(const SettingsWriter::Result &result, b
         QPushButton *button = dialog->addButton(tr("Put Back"));
         button->setObjectName(QStringLiteral("putBackButton"));
         button->setToolTip(tr("Gives the camera the values that it had before"));
-        QObject::connect(putBackAction, &QAction::changed, button,
-                         [=] { button->setEnabled(putBackAction->isEnabled()); });
+        // Never enabled again: the values to put back may then be another camera's.
+        QObject::connect(putBackAction, &QAction::changed, button, [=] {
+            button->setEnabled(button->isEnabled() && putBackAction->isEnabled());
+        });
         QObject::connect(button, &QPushButton::clicked, q, [this, dialog] {
             dialog->close();
             putBack();
