@@ -22,6 +22,11 @@ function(orv_precompile_test target)
             "$<$<COMPILE_LANGUAGE:CXX>:<QtTest$<ANGLE-R>>"
             "$<$<COMPILE_LANGUAGE:C>:<stddef.h$<ANGLE-R>>")
     endif()
+    # Qt 6 has the folder of a test among its flags, so only one folder has use of the headers.
+    get_target_property(folder orv_precompiled_test BINARY_DIR)
+    if(ORV_QT_MAJOR_VERSION EQUAL 6 AND NOT folder STREQUAL CMAKE_CURRENT_BINARY_DIR)
+        return()
+    endif()
     # Some tests have it from a library that they link; the flags must be the same for all.
     target_compile_options(${target} PRIVATE -pthread)
     target_precompile_headers(${target} REUSE_FROM orv_precompiled_test)
