@@ -20,7 +20,8 @@ find "$sdk" -name '*.h' -exec sed -i \
     -e '/IsHeldByThisThread/d' {} +
 
 cmake -S "$source" -B "$work/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DORV_WERROR=ON \
-    -DORV_GENICAM_ROOT="$work/sdk" -DCMAKE_CXX_FLAGS=-O0\ -g0 >"$work/cmake.log" 2>&1 \
+    -DORV_GENICAM_ROOT="$work/sdk" -DORV_PRECOMPILE_HEADERS=ON -DCMAKE_CXX_FLAGS=-O0\ -g0 \
+    >"$work/cmake.log" 2>&1 \
     || { cat "$work/cmake.log"; exit 1; }
 cmake --build "$work/build"
 cmake --install "$work/build" --prefix "$work/prefix" >"$work/install.log"
