@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Precompiled headers for the library and the tests of windows, which include most of Qt's widgets;
-# they take half as long to compile with them. Off by default: ccache serves several build folders only without
-# them, and only without them is a missing include found.
+# they take half as long to compile with them. Off by default: ccache serves several build folders
+# only without them, and only without them is a missing include found.
 
 # For a test that links Qt's widgets. The headers are compiled once for all of these.
 function(orv_precompile_test target)

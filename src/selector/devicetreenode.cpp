@@ -10,7 +10,7 @@
 namespace {
 
 const quint32 AllInterfaces = 255;
-const quint32 DiscoveryTime = 200; // milliseconds
+constexpr quint32 discoveryTime = 200; // milliseconds
 
 } // namespace
 
@@ -87,7 +87,7 @@ QVariant InterfaceNode::data(int column, int role) const
 
 void InterfaceNode::fetchMore()
 {
-    m_interface->RefreshDevices(nullptr, DiscoveryTime);
+    m_interface->RefreshDevices(nullptr, discoveryTime);
     OrvCam::DeviceInfoList *list = m_interface->GetDeviceInfoSet();
     // An empty list stays with the camera system, unlike an empty list of interfaces.
     if (!list || list->GetCount() == 0)
