@@ -4,6 +4,8 @@
 #include <QCommandLineParser>
 #include <QHash>
 
+#include <cstddef>
+
 namespace {
 
 /// Has the parser pass over what Qt takes from the command line by itself.
@@ -26,16 +28,81 @@ void addOptionsOfQt(QCommandLineParser &parser)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
 }
 
-/// The first option that lacks the value it needs.
-QString optionWithoutValue(const QCommandLineParser &parser,
-                           const QList<QCommandLineOption> &options)
+/// An option of this program.
+struct Declaration
 {
-    for (const QCommandLineOption &option : options) {
-        const bool needsValue = !option.valueName().isEmpty();
-        if (needsValue && parser.isSet(option) && parser.value(option).isEmpty())
-            return option.names().first();
-    }
-    return QString();
+    const char *name;
+    const char *value; ///< what the help calls its value; null when it takes none
+    const char *help;
+};
+
+const Declaration declarations[] = {
+    {"simulate", nullptr,
+     QT_TRANSLATE_NOOP("Options", "Use simulated cameras; nothing is sent anywhere.")},
+    {"camera", "ID",
+     QT_TRANSLATE_NOOP("Options", "Open the camera of this identifier, serial number or name.")},
+    {"xml", "FILE",
+     QT_TRANSLATE_NOOP(
+         "Options", "Show a GenICam description without a camera; its registers live in memory.")},
+    {"window", "picker|main|tree|DIALOG",
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "What to show first: the picker, in which the camera named by --camera is selected; the "
+         "main window, with the tree beside it; the tree alone; or one of the main window's "
+         "dialogs (trigger, pulse, strobe, output, color, frames, about) with the main window. "
+         "All but the picker take the first usable camera without --camera. The picker when "
+         "neither --simulate nor --camera nor --xml says what to show; the tree for --xml and "
+         "--screenshot; otherwise the main window.")},
+    {"list-cameras", nullptr,
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "Print one camera a line and exit: the identifier (MAC address, or vendor and serial "
+         "number), the name, the IPv4 address if it has one and the access (read-write, "
+         "read-only, no-access, subnet-mismatch or unknown), with tabs between them.")},
+    {"list-features", nullptr,
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "Print the features as the tree shows them and exit: two blanks of indentation per "
+         "level, the name, a tab, the value.")},
+    {"visibility", "LEVEL",
+     QT_TRANSLATE_NOOP("Options", "The level of detail: basic, expert or guru.")},
+    {"screenshot", "FILE",
+     QT_TRANSLATE_NOOP("Options", "Save a picture of the first window, or of the dialog "
+                                  "that --window names, and exit. Needs no display.")},
+    {"get", "NAME...",
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "Print the values of these features as the tree shows them, one a line: the name, a "
+         "tab, the value. This and the following options are carried out in the order given, "
+         "without a window.")},
+    {"set", "NAME=VALUE...", QT_TRANSLATE_NOOP("Options", "Set features to such values.")},
+    {"execute", "NAME",
+     QT_TRANSLATE_NOOP("Options", "Execute a command, and wait until it is done.")},
+    {"save", "FILE", QT_TRANSLATE_NOOP("Options", "Save the settings of the camera in a file.")},
+    {"load", "FILE",
+     QT_TRANSLATE_NOOP("Options",
+                       "Write the settings in a file to the camera, and tell what it refuses.")},
+    {"compare", "FILE",
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "Print what is not the same, one a line: the feature, the value in the file, the value "
+         "in the camera, with tabs between them.")},
+    {"json", nullptr,
+     QT_TRANSLATE_NOOP("Options", "Print what these options have to tell as one JSON document.")},
+    {"any-model", nullptr, QT_TRANSLATE_NOOP("Options", "Load settings of another model, too.")},
+};
+
+const char *const levels[] = {"basic", "expert", "guru"};
+const char *const windows[] = {"picker", "main", "tree"};
+const char *const dialogs[] = {"trigger", "pulse", "strobe", "output", "color", "frames", "about"};
+
+template<std::size_t count>
+QStringList listOf(const char *const (&texts)[count])
+{
+    QStringList list;
+    for (const char *text : texts)
+        list << QLatin1String(text);
+    return list;
 }
 
 const char *const actionNames[] = {"get", "set", "execute", "save", "load", "compare"};
@@ -98,172 +165,154 @@ Actions actionsOf(const QCommandLineParser &parser, QString *error)
     return actions;
 }
 
-} // namespace
-
-Options Options::fromArguments(const QStringList &arguments, QString *error)
+void declare(QCommandLineParser &parser)
 {
-    const QStringList levels = {QStringLiteral("basic"), QStringLiteral("expert"),
-                                QStringLiteral("guru")};
-    const QStringList windows = {QStringLiteral("picker"), QStringLiteral("main"),
-                                 QStringLiteral("tree")};
-    const QStringList dialogs = {QStringLiteral("trigger"), QStringLiteral("pulse"),
-                                 QStringLiteral("strobe"),  QStringLiteral("output"),
-                                 QStringLiteral("color"),   QStringLiteral("frames"),
-                                 QStringLiteral("about")};
-    const QCommandLineOption simulate(QStringLiteral("simulate"),
-                                      tr("Use simulated cameras; nothing is sent anywhere."));
-    const QCommandLineOption camera(
-        QStringLiteral("camera"), tr("Open the camera of this identifier, serial number or name."),
-        QStringLiteral("ID"));
-    const QCommandLineOption xml(
-        QStringLiteral("xml"),
-        tr("Show a GenICam description without a camera; its registers live in memory."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption window(
-        QStringLiteral("window"),
-        tr("What to show first: the picker, in which the camera named by --camera is selected; the "
-           "main window, with the tree beside it; the tree alone; or one of the main window's "
-           "dialogs (trigger, pulse, strobe, output, color, frames, about) with the main window. "
-           "All but the picker take the first usable camera without --camera. The picker when "
-           "neither --simulate nor --camera nor --xml says what to show; the tree for --xml and "
-           "--screenshot; otherwise the main window."),
-        QStringLiteral("picker|main|tree|DIALOG"));
-    const QCommandLineOption listCameras(
-        QStringLiteral("list-cameras"),
-        tr("Print one camera a line and exit: the identifier (MAC address, or vendor and serial "
-           "number), the name, the IPv4 address if it has one and the access (read-write, "
-           "read-only, no-access, subnet-mismatch or unknown), with tabs between them."));
-    const QCommandLineOption list(
-        QStringLiteral("list-features"),
-        tr("Print the features as the tree shows them and exit: two blanks of indentation per "
-           "level, the name, a tab, the value."));
-    const QCommandLineOption visibility(QStringLiteral("visibility"),
-                                        tr("The level of detail: basic, expert or guru."),
-                                        QStringLiteral("LEVEL"), levels.first());
-    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        tr("Save a picture of the first window, or of the dialog "
-                                           "that --window names, and exit. Needs no display."),
-                                        QStringLiteral("FILE"));
-    const QCommandLineOption get(
-        QStringLiteral("get"),
-        tr("Print the values of these features as the tree shows them, one a line: the name, a "
-           "tab, the value. This and the following options are carried out in the order given, "
-           "without a window."),
-        QStringLiteral("NAME..."));
-    const QCommandLineOption set(QStringLiteral("set"), tr("Set features to such values."),
-                                 QStringLiteral("NAME=VALUE..."));
-    const QCommandLineOption execute(QStringLiteral("execute"),
-                                     tr("Execute a command, and wait until it is done."),
-                                     QStringLiteral("NAME"));
-    const QCommandLineOption save(QStringLiteral("save"),
-                                  tr("Save the settings of the camera in a file."),
-                                  QStringLiteral("FILE"));
-    const QCommandLineOption load(
-        QStringLiteral("load"),
-        tr("Write the settings in a file to the camera, and tell what it refuses."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption compare(
-        QStringLiteral("compare"),
-        tr("Print what is not the same, one a line: the feature, the value in the file, the value "
-           "in the camera, with tabs between them."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption json(
-        QStringLiteral("json"), tr("Print what these options have to tell as one JSON document."));
-    const QCommandLineOption anyModel(QStringLiteral("any-model"),
-                                      tr("Load settings of another model, too."));
-
-    QCommandLineParser parser;
     parser.setApplicationDescription(
-        tr("Shows and changes the features of a camera, which is picked first.\n"
-           "Exit status: 0 success (also when no camera is picked), 1 failure (also when a camera "
-           "refuses something, or is not as a file), 2 wrong usage."));
-    const QList<QCommandLineOption> own = {simulate,   camera,     xml,  window,  listCameras, list,
-                                           visibility, screenshot, get,  set,     execute,     save,
-                                           load,       compare,    json, anyModel};
-    parser.addOptions(own);
-    const QCommandLineOption help(
-        {QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("help-all")},
-        tr("Print this help and exit."));
-    parser.addOption(help);
-    const QCommandLineOption version = parser.addVersionOption();
+        Options::tr("Shows and changes the features of a camera, which is picked first.\n"
+                    "Exit status: 0 success (also when no camera is picked), 1 failure (also when "
+                    "a camera refuses something, or is not as a file), 2 wrong usage."));
+    for (const Declaration &declaration : declarations)
+        parser.addOption({QLatin1String(declaration.name), Options::tr(declaration.help),
+                          QLatin1String(declaration.value)});
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("help-all")},
+                      Options::tr("Print this help and exit.")});
+    parser.addVersionOption();
     addOptionsOfQt(parser);
+}
 
-    Options options;
-    if (!parser.parse(withOneValueEach(arguments))) {
-        *error = parser.errorText();
-        return options;
+/// The first option that lacks the value it needs.
+QString optionWithoutValue(const QCommandLineParser &parser)
+{
+    for (const Declaration &declaration : declarations) {
+        const QString name = QLatin1String(declaration.name);
+        if (declaration.value && parser.isSet(name) && parser.value(name).isEmpty())
+            return name;
     }
-    if (parser.isSet(version))
-        parser.showVersion();
-    if (parser.isSet(help))
-        parser.showHelp();
+    return QString();
+}
 
-    options.simulate = parser.isSet(simulate);
-    options.listCameras = parser.isSet(listCameras);
-    options.listFeatures = parser.isSet(list);
-    options.camera = parser.value(camera);
-    options.description = parser.value(xml);
-    options.screenshot = parser.value(screenshot);
-    options.json = parser.isSet(json);
-    options.anyModel = parser.isSet(anyModel);
-    options.actions = actionsOf(parser, error);
-    options.visibility = int(levels.indexOf(parser.value(visibility)));
-    options.isVisibilityGiven = parser.isSet(visibility);
-    const QString wanted = parser.value(window);
-    const bool isToldWhat = options.simulate || parser.isSet(camera) || parser.isSet(xml);
-    const bool isTree = parser.isSet(xml) || parser.isSet(screenshot) || options.listFeatures ||
-                        !options.actions.isEmpty();
-    if (dialogs.contains(wanted))
-        options.dialog = wanted;
-    if (wanted == QLatin1String("picker") || (wanted.isEmpty() && !isToldWhat))
-        options.window = Window::Picker;
-    else if (wanted == QLatin1String("main") || !options.dialog.isEmpty() ||
-             (wanted.isEmpty() && !isTree))
-        options.window = Window::Main;
+/// What the parsed arguments say, on the assumption that they make sense.
+class CommandLine
+{
+    Q_DECLARE_TR_FUNCTIONS(Options)
 
-    const QString valueless = optionWithoutValue(parser, own);
-    const QString stray = parser.positionalArguments().value(0);
+public:
+    explicit CommandLine(const QCommandLineParser &parser) : m_parser(parser) {}
+
+    Options options(QString *error) const;
+    /// Why the options make no sense together; empty when they do.
+    QString contradiction(const Options &options) const;
+
+private:
+    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
+    QString value(const char *name) const { return m_parser.value(QLatin1String(name)); }
+    bool namesCamera() const { return isSet("simulate") || isSet("camera") || isSet("xml"); }
+    Options::Window firstWindow(const Options &options) const;
+
+    const QCommandLineParser &m_parser;
+};
+
+Options CommandLine::options(QString *error) const
+{
+    Options options;
+    options.simulate = isSet("simulate");
+    options.listCameras = isSet("list-cameras");
+    options.listFeatures = isSet("list-features");
+    options.camera = value("camera");
+    options.description = value("xml");
+    options.screenshot = value("screenshot");
+    options.json = isSet("json");
+    options.anyModel = isSet("any-model");
+    options.actions = actionsOf(m_parser, error);
+    options.isVisibilityGiven = isSet("visibility");
+    if (options.isVisibilityGiven)
+        options.visibility = int(listOf(levels).indexOf(value("visibility")));
+    if (listOf(dialogs).contains(value("window")))
+        options.dialog = value("window");
+    options.window = firstWindow(options);
+    return options;
+}
+
+Options::Window CommandLine::firstWindow(const Options &options) const
+{
+    const QString named = value("window");
+    const bool isTree =
+        isSet("xml") || isSet("screenshot") || options.listFeatures || !options.actions.isEmpty();
+    if (named == QLatin1String("picker") || (named.isEmpty() && !namesCamera()))
+        return Options::Window::Picker;
+    if (named == QLatin1String("main") || !options.dialog.isEmpty() || (named.isEmpty() && !isTree))
+        return Options::Window::Main;
+    return Options::Window::Tree;
+}
+
+QString CommandLine::contradiction(const Options &options) const
+{
+    const QString valueless = optionWithoutValue(m_parser);
+    const QString stray = m_parser.positionalArguments().value(0);
+    const QStringList allWindows = listOf(windows) + listOf(dialogs);
+    const bool hasActions = !options.actions.isEmpty();
     const struct
     {
-        bool isSo;
+        bool holds;
         QString message;
     } contradictions[] = {
         {!valueless.isEmpty(), tr("The option '--%1' needs a value.").arg(valueless)},
         {!stray.isNull(), tr("There is no option '%1'.").arg(stray)},
-        {options.visibility < 0, tr("There is no visibility '%1'; use basic, expert or guru.")
-                                     .arg(parser.value(visibility))},
-        {parser.isSet(window) && !windows.contains(wanted) && !dialogs.contains(wanted),
+        {options.visibility < 0,
+         tr("There is no visibility '%1'; use basic, expert or guru.").arg(value("visibility"))},
+        {isSet("window") && !allWindows.contains(value("window")),
          tr("There is no window '%1'; use one of: %2.")
-             .arg(wanted, (windows + dialogs).join(QStringLiteral(", ")))},
-        {options.listCameras &&
-             (parser.isSet(camera) || parser.isSet(xml) || parser.isSet(window) ||
-              options.listFeatures || parser.isSet(screenshot)),
+             .arg(value("window"), allWindows.join(QStringLiteral(", ")))},
+        {options.listCameras && (isSet("camera") || isSet("xml") || isSet("window") ||
+                                 options.listFeatures || isSet("screenshot")),
          tr("All cameras are listed: use --list-cameras alone or with --simulate.")},
-        {parser.isSet(xml) && (options.simulate || parser.isSet(camera)),
+        {isSet("xml") && (isSet("simulate") || isSet("camera")),
          tr("A description is shown without a camera: use --xml alone.")},
-        {parser.isSet(xml) && options.window == Window::Picker,
+        {isSet("xml") && options.window == Options::Window::Picker,
          tr("A description is shown without a camera: there is nothing to pick.")},
-        {parser.isSet(xml) && options.window == Window::Main,
+        {isSet("xml") && options.window == Options::Window::Main,
          tr("The main window needs a camera: use --xml alone.")},
-        {options.listFeatures && options.window == Window::Main,
+        {options.listFeatures && options.window == Options::Window::Main,
          tr("Only the tree can be printed: use --list-features without --window.")},
-        {options.listFeatures && options.window == Window::Picker,
+        {options.listFeatures && options.window == Options::Window::Picker,
          tr("Say whose features to list: --simulate, --camera ID or --xml FILE.")},
-        {!options.actions.isEmpty() && (parser.isSet(window) || parser.isSet(screenshot) ||
-                                        options.listCameras || options.listFeatures),
+        {hasActions && (isSet("window") || isSet("screenshot") || options.listCameras ||
+                        options.listFeatures),
          tr("Features are read and written without a window: use --get, --set, --execute, --save, "
             "--load and --compare without --window, --screenshot and the lists.")},
-        {!options.actions.isEmpty() && !isToldWhat,
+        {hasActions && !namesCamera(),
          tr("Say whose features these are: --simulate, --camera ID or --xml FILE.")},
-        {options.actions.isEmpty() && options.json,
+        {!hasActions && options.json,
          tr("There is nothing for --json to print: use it with --get, --set, --execute, --save, "
             "--load or --compare.")},
-        {options.anyModel && !parser.isSet(load),
+        {options.anyModel && !isSet("load"),
          tr("No settings are loaded: use --any-model with --load.")},
     };
     for (const auto &contradiction : contradictions) {
-        if (contradiction.isSo && error->isEmpty())
-            *error = contradiction.message;
+        if (contradiction.holds)
+            return contradiction.message;
     }
+    return QString();
+}
+
+} // namespace
+
+Options Options::fromArguments(const QStringList &arguments, QString *error)
+{
+    QCommandLineParser parser;
+    declare(parser);
+    if (!parser.parse(withOneValueEach(arguments))) {
+        *error = parser.errorText();
+        return Options();
+    }
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
+    if (parser.isSet(QStringLiteral("help")))
+        parser.showHelp();
+
+    const CommandLine commandLine(parser);
+    const Options options = commandLine.options(error);
+    if (error->isEmpty())
+        *error = commandLine.contradiction(options);
     return options;
 }
