@@ -3,6 +3,7 @@
 
 #include "base/cameralibrary.h"
 #include "base/cameratext.h"
+#include "base/connections.h"
 #include "base/formfit.h"
 #include "base/selectordetour.h"
 #include "base/selectorsinuse.h"
@@ -134,7 +135,6 @@ private:
     QLabel *statusText = nullptr;
     QLabel *statusIcon = nullptr;
     QTimer timer;
-    QObject receiver; ///< of all connections that lead here
 
     bool isFrameABSupported = false;
     bool isFrameModeChanged = true;
@@ -149,6 +149,7 @@ private:
     OrvGenParam::Int *frameTime = nullptr;
     OrvGenParam::Int *width = nullptr;
     OrvGenParam::Int *height = nullptr;
+    Connections connections;
 };
 
 OrvCamConfigPrivate::OrvCamConfigPrivate(OrvCamConfig *window) : q(window), timer(window)
@@ -183,7 +184,7 @@ void OrvCamConfigPrivate::build()
     buildStatusBar();
     buildUndo();
     connectMenus();
-    QObject::connect(&timer, &QTimer::timeout, &receiver, [this] { refresh(); });
+    connections.add(&timer, &QTimer::timeout, [this] { refresh(); });
 }
 
 void OrvCamConfigPrivate::buildStatusBar()
@@ -208,15 +209,14 @@ void OrvCamConfigPrivate::buildUndo()
 
 void OrvCamConfigPrivate::connectMenus()
 {
-    QObject::connect(ui.actionQuit, &QAction::triggered, &receiver, [this] { q->close(); });
-    QObject::connect(ui.actionAbout, &QAction::triggered, &receiver, [this] {
+    connections.add(ui.actionQuit, &QAction::triggered, [this] { q->close(); });
+    connections.add(ui.actionAbout, &QAction::triggered, [this] {
         FormFit::fitToScreen(information->dialog());
         information->dialog()->show();
         information->dialog()->raise();
     });
-    QObject::connect(ui.actionDisconnect, &QAction::triggered, &receiver,
-                     [this] { use(nullptr, nullptr); });
-    QObject::connect(ui.actionConnect, &QAction::triggered, &receiver, [this] {
+    connections.add(ui.actionDisconnect, &QAction::triggered, [this] { use(nullptr, nullptr); });
+    connections.add(ui.actionConnect, &QAction::triggered, [this] {
         const QPointer<OrvCamConfig> window(q);
         use(nullptr, nullptr);
         if (window)
@@ -229,14 +229,14 @@ void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction
 {
     dialogs.append(dialog);
     addShortcut(dialog, button, int(dialogs.size()));
-    QObject::connect(dialog, &Dialog::closing, &receiver, [=] { button->setChecked(false); });
-    QObject::connect(button, &QPushButton::toggled, &receiver, [=](bool checked) {
+    connections.add(dialog, &Dialog::closing, [=] { button->setChecked(false); });
+    connections.add(button, &QPushButton::toggled, [=](bool checked) {
         if (checked)
             dialog->show();
         else
             dialog->close();
     });
-    QObject::connect(action, &QAction::toggled, &receiver, [=](bool checked) {
+    connections.add(action, &QAction::toggled, [=](bool checked) {
         button->setVisible(checked && action->isVisible());
         layOutButtons();
         if (!checked)
@@ -250,7 +250,7 @@ void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int 
     const auto keys = QKeySequence::fromString(QStringLiteral("Ctrl+%1").arg(number));
     button->setToolTip(
         QStringLiteral("%1 (%2)").arg(button->text(), keys.toString(QKeySequence::NativeText)));
-    QObject::connect(new QShortcut(keys, button), &QShortcut::activated, &receiver, [=] {
+    connections.add(new QShortcut(keys, button), &QShortcut::activated, [=] {
         button->setChecked(true);
         dialog->raise();
         dialog->activateWindow();

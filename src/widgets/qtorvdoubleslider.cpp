@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/qtorvdoubleslider.h"
 
+#include "base/connections.h"
 #include "widgets/numbertext.h"
 #include "widgets/sliderface.h"
 #include "widgets/valueaccessibility.h"
@@ -13,8 +14,7 @@
 #include <cmath>
 #include <limits>
 
-// A QObject so that its connections end with it, before the inner slider goes.
-class QtOrvDoubleSliderPrivate : public QObject, public SliderFace
+class QtOrvDoubleSliderPrivate : public SliderFace
 {
 public:
     QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *q, Qt::Orientation o);
@@ -41,6 +41,7 @@ public:
     double stepsPerPosition = 1.0;
     double placedValue = 0.0;
     int placedPosition = -1;
+    Connections connections;
 };
 
 QtOrvDoubleSliderPrivate::QtOrvDoubleSliderPrivate(QtOrvDoubleSlider *q, Qt::Orientation o)
@@ -123,7 +124,7 @@ QtOrvDoubleSlider::QtOrvDoubleSlider(Qt::Orientation orientation, QWidget *paren
     connect(d->slider, &QSlider::sliderPressed, this, &QtOrvDoubleSlider::sliderPressed);
     connect(d->slider, &QSlider::sliderMoved, this, &QtOrvDoubleSlider::sliderMoved);
     connect(d->slider, &QSlider::sliderReleased, this, &QtOrvDoubleSlider::sliderReleased);
-    connect(d->slider, &QSlider::valueChanged, d.data(), [this] { emit valueChanged(value()); });
+    d->connections.add(d->slider, &QSlider::valueChanged, [this] { emit valueChanged(value()); });
     setRange(0.0, 100.0);
     d->arrange(orientation, this);
     d->slider->installEventFilter(this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/qtorvslider.h"
 
+#include "base/connections.h"
 #include "widgets/numbertext.h"
 #include "widgets/sliderface.h"
 #include "widgets/valueaccessibility.h"
@@ -8,14 +9,14 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QSlider>
 
 #include <cmath>
 #include <limits>
 #include <utility>
 
-// A QObject so that its connections end with it, before the inner slider goes.
-class QtOrvSliderPrivate : public QObject, public SliderFace
+class QtOrvSliderPrivate : public SliderFace
 {
 public:
     QtOrvSliderPrivate(QtOrvSlider *q, Qt::Orientation o);
@@ -29,7 +30,6 @@ public:
     void setInnerRange();
     void setInnerStep();
     void place(int value);
-    void listen();
     void positionChanged(int position);
     void moveOneStep(int from, int sign);
     void announce(int value);
@@ -49,14 +49,19 @@ public:
     QtOrvSlider::ScaleType scaleType = QtOrvSlider::ScaleLinear;
     int lastPosition = 0;
     int lastValue = 0;
-    QMetaObject::Connection valueConnection;
     KeyStep pendingKeyStep = NoStep;
     int valueBeforeKey = 0;
+    bool isPlacing = false; // the slider is moved to a value that is announced afterwards
+    Connections connections;
 };
 
 QtOrvSliderPrivate::QtOrvSliderPrivate(QtOrvSlider *q, Qt::Orientation o)
     : SliderFace(o, q), owner(q), orientation(o)
 {
+    connections.add(slider, &QSlider::valueChanged, [this](int position) {
+        if (!isPlacing)
+            positionChanged(position);
+    });
 }
 
 int QtOrvSliderPrivate::snapped(int value) const
@@ -138,12 +143,6 @@ void QtOrvSliderPrivate::place(int value)
     lastPosition = slider->value();
 }
 
-void QtOrvSliderPrivate::listen()
-{
-    valueConnection =
-        connect(slider, &QSlider::valueChanged, this, &QtOrvSliderPrivate::positionChanged);
-}
-
 void QtOrvSliderPrivate::positionChanged(int position)
 {
     const KeyStep keyStep = std::exchange(pendingKeyStep, NoStep);
@@ -159,9 +158,10 @@ void QtOrvSliderPrivate::moveOneStep(int from, int sign)
 {
     const int stepped = ValueGrid::toInt(from + qint64(sign) * singleStep);
     int value = snapped(qMax(minimum, qMin(stepped, maximum)));
-    disconnect(valueConnection);
-    place(value);
-    listen();
+    {
+        const QScopedValueRollback<bool> placing(isPlacing, true);
+        place(value);
+    }
     // From an end of its travel no further key would move the slider.
     if (slider->value() == (sign > 0 ? slider->maximum() : slider->minimum()))
         value = sign > 0 ? maximum : minimum;
@@ -214,7 +214,6 @@ QtOrvSlider::QtOrvSlider(Qt::Orientation orientation, QWidget *parent)
     connect(d->slider, &QSlider::sliderPressed, this, &QtOrvSlider::sliderPressed);
     connect(d->slider, &QSlider::sliderMoved, this, &QtOrvSlider::sliderMoved);
     connect(d->slider, &QSlider::sliderReleased, this, &QtOrvSlider::sliderReleased);
-    d->listen();
     setRange(0, 100);
     d->arrange(orientation, this);
     d->slider->installEventFilter(this);

@@ -43,7 +43,8 @@ bool canBeActivated(const QWidget &slider)
 
 } // namespace
 
-class QtOrvSpinBoxPrivate : public ValuePair<QtOrvSpinBox, QtOrvSpinBoxVal, QtOrvSlider, int>
+class QtOrvSpinBoxPrivate : public QObject,
+                            public ValuePair<QtOrvSpinBox, QtOrvSpinBoxVal, QtOrvSlider, int>
 {
 public:
     QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orientation);
@@ -189,7 +190,7 @@ bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
                       (event->type() == QEvent::EnabledChange && !spinBox->isEnabled());
     if (watched != slider && gone)
         slider->hide();
-    return ValuePair::eventFilter(watched, event);
+    return QObject::eventFilter(watched, event);
 }
 
 QtOrvSpinBox::QtOrvSpinBox(QWidget *parent) : QtOrvSpinBox(Qt::Vertical, parent) {}

@@ -69,13 +69,13 @@ bool isPartOwner(const QObject *object)
            qobject_cast<const QtOrvDoubleSlider *>(object);
 }
 
-// Speaks for one widget; the value comes from the value widget that it is or is a part of.
+// The interface of one widget; the value is that of the value widget that it is or is a part of.
 template<class Source>
 class ValueInterface : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
     ValueInterface(QWidget *widget, Source *valueWidget, QAccessible::Role role)
-        : QAccessibleWidget(widget, role), source(valueWidget)
+        : QAccessibleWidget(widget, role), m_source(valueWidget)
     {
     }
 
@@ -89,21 +89,21 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         if (kind == QAccessible::Value)
-            return shown(source);
+            return shown(m_source);
         return kind == QAccessible::Name ? name() : QAccessibleWidget::text(kind);
     }
 
-    QVariant currentValue() const override { return source->value(); }
-    QVariant minimumValue() const override { return source->minimum(); }
-    QVariant maximumValue() const override { return source->maximum(); }
-    QVariant minimumStepSize() const override { return source->singleStep(); }
+    QVariant currentValue() const override { return m_source->value(); }
+    QVariant minimumValue() const override { return m_source->minimum(); }
+    QVariant maximumValue() const override { return m_source->maximum(); }
+    QVariant minimumStepSize() const override { return m_source->singleStep(); }
     void setCurrentValue(const QVariant &value) override
     {
-        source->setValue(value.value<decltype(source->value())>());
+        m_source->setValue(value.value<decltype(m_source->value())>());
     }
 
 private:
-    // A part answers to the name of what it is a part of, unless it has one of its own.
+    // A part has the name of what it is a part of, unless it has one of its own.
     QString name() const
     {
         if (!widget()->accessibleName().isEmpty())
@@ -117,11 +117,11 @@ private:
         return name;
     }
 
-    Source *const source;
+    Source *const m_source;
 };
 
 // Qt hands out the text interface of a line edit, except to the one of a spin box, which it knows
-// by its name and whose spin box speaks for it.
+// by its name and leaves to the interface of the spin box.
 QAccessibleInterface *lineEditInterface(QWidget *spinBox)
 {
     auto *edit = spinBox->findChild<QLineEdit *>();
@@ -138,7 +138,7 @@ class SpinBoxInterface : public ValueInterface<SpinBox>
 {
 public:
     explicit SpinBoxInterface(SpinBox *box)
-        : ValueInterface<SpinBox>(box, box, QAccessible::SpinBox), edit(lineEditInterface(box))
+        : ValueInterface<SpinBox>(box, box, QAccessible::SpinBox), m_edit(lineEditInterface(box))
     {
     }
 
@@ -146,12 +146,12 @@ public:
     void *interface_cast(QAccessible::InterfaceType type) override
     {
         if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface)
-            return edit->interface_cast(type);
+            return m_edit->interface_cast(type);
         return ValueInterface<SpinBox>::interface_cast(type);
     }
 
 private:
-    QAccessibleInterface *const edit; // owned by Qt, as long as the line edit lives
+    QAccessibleInterface *const m_edit; // owned by Qt, as long as the line edit lives
 };
 
 // The button that opens the slider, named by what it is a part of, too.
@@ -159,7 +159,7 @@ class ButtonInterface : public QAccessibleWidget
 {
 public:
     explicit ButtonInterface(QToolButton *toolButton)
-        : QAccessibleWidget(toolButton, QAccessible::Button), button(toolButton)
+        : QAccessibleWidget(toolButton, QAccessible::Button), m_button(toolButton)
     {
     }
 
@@ -168,7 +168,7 @@ public:
         const QString text = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name)
             return text;
-        QAccessibleInterface *owner = QAccessible::queryAccessibleInterface(button->parent());
+        QAccessibleInterface *owner = QAccessible::queryAccessibleInterface(m_button->parent());
         return QString(owner->text(QAccessible::Name) + QLatin1Char(' ') + text).trimmed();
     }
 
@@ -180,44 +180,44 @@ public:
     void doAction(const QString &name) override
     {
         if (name == pressAction())
-            button->click();
+            m_button->click();
         else
             QAccessibleWidget::doAction(name);
     }
 
 private:
-    QToolButton *const button;
+    QToolButton *const m_button;
 };
 
 class ListInterface : public QAccessibleWidget
 {
 public:
     explicit ListInterface(QComboBox *comboBox)
-        : QAccessibleWidget(comboBox, QAccessible::ComboBox), list(comboBox)
+        : QAccessibleWidget(comboBox, QAccessible::ComboBox), m_list(comboBox)
     {
     }
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Value ? list->currentText() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Value ? m_list->currentText() : QAccessibleWidget::text(kind);
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.expandable = true;
-        state.expanded = list->view()->isVisible();
+        state.expanded = m_list->view()->isVisible();
         return state;
     }
 
     int childCount() const override { return 1; }
     QAccessibleInterface *child(int index) const override
     {
-        return index == 0 ? QAccessible::queryAccessibleInterface(list->view()) : nullptr;
+        return index == 0 ? QAccessible::queryAccessibleInterface(m_list->view()) : nullptr;
     }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
-        return child->object() == list->view() ? 0 : -1;
+        return child->object() == m_list->view() ? 0 : -1;
     }
     QAccessibleInterface *childAt(int, int) const override { return nullptr; }
 
@@ -230,14 +230,14 @@ public:
     {
         if (name != showMenuAction() && name != pressAction())
             QAccessibleWidget::doAction(name);
-        else if (list->view()->isVisible())
-            list->hidePopup();
+        else if (m_list->view()->isVisible())
+            m_list->hidePopup();
         else
-            list->showPopup();
+            m_list->showPopup();
     }
 
 private:
-    QComboBox *const list;
+    QComboBox *const m_list;
 };
 
 QAccessibleInterface *createForButton(QObject *object)

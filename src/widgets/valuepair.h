@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/connections.h"
 #include "widgets/captionedrow.h"
 #include "widgets/qtorvdoubleslider.h"
 #include "widgets/qtorvslider.h"
 
-#include <QObject>
 #include <QScopedValueRollback>
 #include <QString>
 
 /**
- * Keeps a spin box and a slider in step, and speaks for their owner, the compound widget.
+ * Keeps a spin box and a slider in step, and emits the signals of their owner, the compound
+ * widget.
  *
- * The base of the private parts of the compound widgets. A QObject so that its connections end with
- * it: the parts live a little longer and may still have something to say (a spin box that loses the
- * focus takes over what was typed).
+ * The base of the private parts of the compound widgets. Its connections end with it: the spin box
+ * and the slider live a little longer and may still emit signals (a spin box that loses the focus
+ * takes over what was typed).
  *
  * \tparam T what the value is, int or double.
  */
 template<class Owner, class SpinBox, class Slider, class T>
-class ValuePair : public QObject, public CaptionedRow
+class ValuePair : public CaptionedRow
 {
 public:
     /** How the spin box takes over a value of the slider. */
@@ -27,7 +28,7 @@ public:
 
     /** Adds a spin box to \a sliderWidget; the Tab key reaches them in this order. */
     ValuePair(Owner *widget, Slider *sliderWidget)
-        : CaptionedRow(widget), slider(sliderWidget), spinBox(new SpinBox(widget)), owner(widget)
+        : CaptionedRow(widget), slider(sliderWidget), spinBox(new SpinBox(widget)), m_owner(widget)
     {
         spinBox->setObjectName(QStringLiteral("spinbox"));
     }
@@ -35,25 +36,25 @@ public:
     /** Makes the connections; called once the parts have their first range. */
     void join(TakeOver takeOver)
     {
-        connect(slider, &Slider::rangeChanged, spinBox, &SpinBox::setRange);
-        connect(slider, &Slider::rangeChanged, owner, &Owner::rangeChanged);
-        connect(slider, &Slider::valueChanged, this, [this, takeOver](T value) {
-            if (!leading)
+        QObject::connect(slider, &Slider::rangeChanged, spinBox, &SpinBox::setRange);
+        QObject::connect(slider, &Slider::rangeChanged, m_owner, &Owner::rangeChanged);
+        m_connections.add(slider, &Slider::valueChanged, [this, takeOver](T value) {
+            if (!m_isMovingSlider)
                 takeOver(spinBox, value);
         });
-        connect(spinBox, static_cast<void (SpinBox::*)(T)>(&SpinBox::valueChanged), this,
-                [this](T value) {
-                    if (!dragging)
-                        spinBoxChanged(value);
-                });
-        connect(slider, &Slider::sliderPressed, this, [this] { dragging = true; });
-        connect(slider, &Slider::sliderReleased, this, [this] { dragging = false; });
+        m_connections.add(spinBox, static_cast<void (SpinBox::*)(T)>(&SpinBox::valueChanged),
+                          [this](T value) {
+                              if (!m_isDragged)
+                                  spinBoxChanged(value);
+                          });
+        m_connections.add(slider, &Slider::sliderPressed, [this] { m_isDragged = true; });
+        m_connections.add(slider, &Slider::sliderReleased, [this] { m_isDragged = false; });
     }
 
     /** Sets the range of both; the spin box gets it from the slider. */
     void setRange(T min, T max)
     {
-        keepingValue([=] { slider->setRange(min, max); });
+        changeSlider([=] { slider->setRange(min, max); });
     }
 
     void setSingleStep(T step)
@@ -61,13 +62,13 @@ public:
         if (spinBox->singleStep() == step)
             return;
         spinBox->setSingleStep(step);
-        keepingValue([=] { slider->setSingleStep(step); });
+        changeSlider([=] { slider->setSingleStep(step); });
     }
 
     /** Changes the scale of the slider; the spin box keeps its value. */
     void setScaleType(QtOrvSlider::ScaleType type)
     {
-        leadingSlider([=] { slider->setScaleType(type); });
+        changeKeepingValue([=] { slider->setScaleType(type); });
     }
 
     void setValidate(bool on)
@@ -80,27 +81,27 @@ public:
     SpinBox *const spinBox;
 
 private:
-    // In the linear scale each value has its position and what the slider makes of a value (it
-    // snaps to the grid) counts. Elsewhere its nearest position must not replace the value.
-    static bool answers(const QtOrvSlider *slider)
+    // In the linear scale each value has a position, and the slider decides (it snaps to the grid).
+    // Elsewhere its nearest position must not replace the value.
+    static bool hasPositionPerValue(const QtOrvSlider *slider)
     {
         return slider->scaleType() == QtOrvSlider::ScaleLinear;
     }
-    static bool answers(const QtOrvDoubleSlider *) { return false; }
+    static bool hasPositionPerValue(const QtOrvDoubleSlider *) { return false; }
 
     template<class Change>
-    void keepingValue(Change change)
+    void changeSlider(Change change)
     {
-        if (answers(slider))
+        if (hasPositionPerValue(slider))
             change();
         else
-            leadingSlider(change);
+            changeKeepingValue(change);
     }
 
     template<class Change>
-    void leadingSlider(Change change)
+    void changeKeepingValue(Change change)
     {
-        const QScopedValueRollback<bool> rollback(leading, true);
+        const QScopedValueRollback<bool> rollback(m_isMovingSlider, true);
         change();
         if (slider->value() != spinBox->value())
             slider->setValue(spinBox->value());
@@ -108,18 +109,19 @@ private:
 
     void spinBoxChanged(T value)
     {
-        if (answers(slider))
+        if (hasPositionPerValue(slider))
             slider->setValue(value);
         else
-            keepingValue([] {});
+            changeSlider([] {});
         // A value that has been replaced since is not reported.
         if (spinBox->value() == value)
-            emit owner->valueChanged(spinBox->text());
+            emit m_owner->valueChanged(spinBox->text());
         if (spinBox->value() == value)
-            emit owner->valueChanged(value);
+            emit m_owner->valueChanged(value);
     }
 
-    Owner *const owner;
-    bool dragging = false; // the user holds the slider: the spin box shows its value, no more
-    bool leading = false;  // the spin box moves the slider
+    Owner *const m_owner;
+    bool m_isDragged = false; // the user holds the slider: the spin box shows its value, no more
+    bool m_isMovingSlider = false; // the spin box moves the slider
+    Connections m_connections;
 };
