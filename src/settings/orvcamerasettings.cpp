@@ -3,7 +3,7 @@
 
 #include "base/genicamstring.h"
 #include "settings/featurevalue.h"
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 #include "settings/settingscomparison.h"
 #include "settings/settingsorder.h"
 #include "settings/settingsreader.h"

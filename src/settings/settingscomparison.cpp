@@ -2,7 +2,7 @@
 #include "settings/settingscomparison.h"
 
 #include "settings/featurevalue.h"
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 
 #include <QHash>
 #include <QSet>

@@ -2,7 +2,7 @@
 #include "settings/settingsorder.h"
 
 #include "base/genicamstring.h"
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 
 #include <QHash>
 #include <QStringList>

@@ -167,7 +167,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     }
 
     const int before = int(m_result.settings.size());
-    SelectorMoves moves(m_map);
+    SettingSelectors moves(m_map);
     for (const QString &position : qAsConst(positions)) {
         if (!reportProgress())
             break;
@@ -197,7 +197,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
 }
 
 /// Null on success, otherwise the reason of the failure. One answer may get lost.
-QString SettingsReader::select(const Setting::Selection &selection, SelectorMoves *moves)
+QString SettingsReader::select(const Setting::Selection &selection, SettingSelectors *moves)
 {
     QString reason = moves->select(selection);
     if (moves->isUnanswered())
@@ -263,7 +263,7 @@ SettingsReader::Result SettingsReader::read(const Settings &wanted)
     m_result = Result();
     m_total = int(wanted.size());
     m_done = 0;
-    SelectorMoves moves(m_map);
+    SettingSelectors moves(m_map);
     QString reason;
     for (int i = 0; i < wanted.size() && reportProgress(); ++i, ++m_done) {
         const Setting &setting = wanted[i];

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/selectorsinuse.h"
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 #include "settings/settingsfile.h"
 
 #include <GenApi/GenApi.h>
@@ -53,7 +53,7 @@ private:
     bool reportProgress();
     void fetch(const Features &features) const;
     void readSelected(const Features &selectors, size_t depth, const Features &features);
-    QString select(const Setting::Selection &selection, SelectorMoves *moves);
+    QString select(const Setting::Selection &selection, SettingSelectors *moves);
     void readAt(const Features &selectors, size_t depth, const Features &features);
     void readOne(GenApi::IValue *feature, Setting setting);
     QString textOf(GenApi::IValue *feature, QString *reason);

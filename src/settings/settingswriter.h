@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/selectorsinuse.h"
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 
 #include <QCoreApplication>
 
@@ -47,7 +47,7 @@ private:
     GenApi::INodeMap &m_map;
     const SelectorsInUse m_inUse;
     const SettingsProgress m_progress;
-    SelectorMoves m_moves;
+    SettingSelectors m_moves;
     Result m_result;
     int m_timeouts = 0; ///< in succession
     int m_done = 0;

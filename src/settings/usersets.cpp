@@ -5,7 +5,7 @@
 #include "base/selectorsinuse.h"
 #include "settings/featurevalue.h"
 #include "settings/orvcamerasettings.h"
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 
 #include <OrvGenParam/LookAhead.h>
 
@@ -88,7 +88,7 @@ QString UserSets::startWith(const QString &name)
 QString UserSets::execute(const char *command, const QString &name)
 {
     const SelectorsInUse inUse(&m_map);
-    SelectorMoves moves(m_map);
+    SettingSelectors moves(m_map);
     QString error = moves.select({{QString::fromLatin1(selectorName), name}});
     if (error.isEmpty())
         OrvCameraSettings::execute(m_map, QString::fromLatin1(command), &error);

@@ -23,12 +23,12 @@ GenApi::IValue *settingOf(GenApi::INodeMap &map, const QString &name);
 ///
 /// Views of the features are not notified while the selectors are moved, and once when they are
 /// restored.
-class SelectorMoves
+class SettingSelectors
 {
 public:
-    explicit SelectorMoves(GenApi::INodeMap &map) : m_map(map) {}
-    ~SelectorMoves();
-    Q_DISABLE_COPY(SelectorMoves)
+    explicit SettingSelectors(GenApi::INodeMap &map) : m_map(map) {}
+    ~SettingSelectors();
+    Q_DISABLE_COPY(SettingSelectors)
 
     /// Throws GenICam's exceptions. A selector that cannot be read is not moved, because it could
     /// not be restored.

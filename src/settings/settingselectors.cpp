@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settings/selectors.h"
+#include "settings/settingselectors.h"
 
 #include "base/genicamstring.h"
 #include "base/selectordetour.h"
@@ -86,12 +86,12 @@ GenApi::IValue *settingOf(GenApi::INodeMap &map, const QString &name)
     return feature && FeatureValue::exists(feature) ? feature : nullptr;
 }
 
-SelectorMoves::~SelectorMoves()
+SettingSelectors::~SettingSelectors()
 {
     putBack();
 }
 
-SelectorMoves::Moved &SelectorMoves::remembered(GenApi::IValue *selector)
+SettingSelectors::Moved &SettingSelectors::remembered(GenApi::IValue *selector)
 {
     const auto known = std::find_if(m_moved.begin(), m_moved.end(),
                                     [=](const Moved &one) { return one.selector == selector; });
@@ -101,7 +101,7 @@ SelectorMoves::Moved &SelectorMoves::remembered(GenApi::IValue *selector)
     return m_moved.back();
 }
 
-void SelectorMoves::move(GenApi::IValue *selector, const QString &value)
+void SettingSelectors::move(GenApi::IValue *selector, const QString &value)
 {
     Moved &moved = remembered(selector);
     if (FeatureValue::areSame(selector, FeatureValue::text(selector), value))
@@ -111,7 +111,7 @@ void SelectorMoves::move(GenApi::IValue *selector, const QString &value)
     FeatureValue::write(selector, value);
 }
 
-QString SelectorMoves::select(const Setting::Selection &selection)
+QString SettingSelectors::select(const Setting::Selection &selection)
 {
     m_isUnanswered = false;
     // In the order in which they are restored.
@@ -138,7 +138,7 @@ QString SelectorMoves::select(const Setting::Selection &selection)
     return QString();
 }
 
-QString SelectorMoves::original(GenApi::IValue *selector) const
+QString SettingSelectors::original(GenApi::IValue *selector) const
 {
     for (const Moved &moved : m_moved) {
         if (moved.selector == selector)
@@ -147,14 +147,14 @@ QString SelectorMoves::original(GenApi::IValue *selector) const
     return QString();
 }
 
-void SelectorMoves::keep(GenApi::IValue *selector)
+void SettingSelectors::keep(GenApi::IValue *selector)
 {
     m_moved.erase(std::remove_if(m_moved.begin(), m_moved.end(),
                                  [=](const Moved &one) { return one.selector == selector; }),
                   m_moved.end());
 }
 
-QStringList SelectorMoves::putBack()
+QStringList SettingSelectors::putBack()
 {
     QStringList away;
     for (Moved &moved : m_moved) {
