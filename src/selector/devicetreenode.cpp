@@ -62,12 +62,11 @@ QVariant RootNode::data(int column, int role) const
 
 void RootNode::fetchMore()
 {
-    OrvCam::InterfaceList *list = m_system ? m_system->GetInterfaceSet(AllInterfaces) : nullptr;
-    if (!list)
+    if (!m_system)
         return;
-    if (list->GetCount() != 0)
+    const OrvCam::Released<OrvCam::InterfaceList> list(m_system->GetInterfaceSet(AllInterfaces));
+    if (list && list->GetCount() != 0)
         append<InterfaceNode>(*list);
-    list->Release();
 }
 
 InterfaceNode::InterfaceNode(DeviceTreeModel &model, DeviceTreeNode *parent,
@@ -88,12 +87,11 @@ QVariant InterfaceNode::data(int column, int role) const
 void InterfaceNode::fetchMore()
 {
     m_interface->RefreshDevices(nullptr, discoveryTime);
-    OrvCam::DeviceInfoList *list = m_interface->GetDeviceInfoSet();
-    // An empty list stays with the camera system, unlike an empty list of interfaces.
-    if (!list || list->GetCount() == 0)
-        return;
-    append<DeviceInfoNode>(*list);
-    list->Release();
+    OrvCam::Released<OrvCam::DeviceInfoList> list(m_interface->GetDeviceInfoSet());
+    if (list && list->GetCount() != 0)
+        append<DeviceInfoNode>(*list);
+    else
+        list.release(); // an empty one stays with the camera system, unlike one of interfaces
 }
 
 DeviceInfoNode::DeviceInfoNode(DeviceTreeModel &model, DeviceTreeNode *parent,

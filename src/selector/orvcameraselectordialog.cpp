@@ -88,12 +88,11 @@ bool isUsable(const OrvCam::DeviceInfo &camera)
 std::vector<OrvCam::DeviceInfo *> listedCameras(OrvCam::Interface &interface)
 {
     std::vector<OrvCam::DeviceInfo *> cameras;
-    OrvCam::DeviceInfoList *list = interface.GetDeviceInfoSet();
+    const OrvCam::Released<OrvCam::DeviceInfoList> list(interface.GetDeviceInfoSet());
     if (!list)
         return cameras;
     for (auto *camera = list->GetFirst(); camera; camera = list->GetNext())
         cameras.push_back(camera);
-    list->Release();
     return cameras;
 }
 

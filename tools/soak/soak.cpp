@@ -106,9 +106,9 @@ public:
     {
         // Dialogs and menus that run until they are closed would stop everything.
         // The timer stands still until its slot returns, but leaving one may open the next.
-        connect(&m_patience, &QTimer::timeout, this,
+        connect(&m_popupTimer, &QTimer::timeout, this,
                 [this] { QTimer::singleShot(0, this, [this] { leaveWhatStops(); }); });
-        m_patience.start(20);
+        m_popupTimer.start(20);
     }
 
     std::mt19937 &random() { return m_random; }
@@ -194,7 +194,7 @@ private:
     }
 
     std::mt19937 m_random;
-    QTimer m_patience;
+    QTimer m_popupTimer;
     unsigned m_clicks = 0;
 };
 
@@ -294,11 +294,10 @@ int main(int argc, char *argv[])
     const int seconds = arguments.value(1, "60").toInt();
     const unsigned seed = arguments.value(2, "1").toUInt();
 
-    OrvCam::System *system = OrvCam_GetSystem();
-    std::vector<Window> used = windows(system, arguments.value(3));
+    OrvCam::Released<OrvCam::System> system(OrvCam_GetSystem());
+    std::vector<Window> used = windows(system.get(), arguments.value(3));
     if (used.empty()) {
         std::printf("soak: there is no window '%s'\n", qPrintable(arguments.value(3)));
-        system->Release();
         return 2;
     }
     auto soak = std::make_unique<Soak>(std::move(used), seed);
@@ -328,7 +327,7 @@ int main(int argc, char *argv[])
     QApplication::exec();
     const char *untouched = soak->untouched();
     soak.reset();
-    system->Release();
+    system.reset();
 
     if (untouched) {
         std::printf("soak: nothing in the window '%s' takes a click\n", untouched);
