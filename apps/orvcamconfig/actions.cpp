@@ -24,7 +24,7 @@ void noteInterrupt(int number)
     std::signal(number, SIG_DFL);
 }
 
-bool goesOn(int, int)
+bool mayContinue(int, int)
 {
     return !isInterrupted;
 }
@@ -114,19 +114,19 @@ bool ActionRunner::run(const Action &action)
         break;
     case Action::Save:
         isDone = useFile(action, &result,
-                         [&] { return OrvCameraSettings::save(m_map, action.subject, goesOn); });
+                         [&] { return OrvCameraSettings::save(m_map, action.subject, mayContinue); });
         break;
     case Action::Load:
         isDone = useFile(action, &result, [&] {
             return OrvCameraSettings::load(m_map, action.subject,
                                            m_models == AnyModel ? OrvCameraSettings::AnyModel
                                                                 : OrvCameraSettings::SameModel,
-                                           goesOn);
+                                           mayContinue);
         });
         break;
     case Action::Compare:
         isDone = useFile(action, &result,
-                         [&] { return OrvCameraSettings::compare(m_map, action.subject, goesOn); });
+                         [&] { return OrvCameraSettings::compare(m_map, action.subject, mayContinue); });
         break;
     }
     result["ok"] = isDone;

@@ -72,7 +72,7 @@ QString addressOf(OrvCam::Interface &interface, int row)
     return groups.join('.');
 }
 
-/// For scripts, hence never translated.
+/// For scripts; never translated.
 QString accessWord(int32_t state)
 {
     switch (state) {

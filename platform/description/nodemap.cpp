@@ -40,16 +40,16 @@ public:
 
     void answersAgain() override
     {
-        post(&NodeMap::tellUnanswered);
-        tellOther(&RegisterIoListener::answersAgain);
+        post(&NodeMap::notifyUnanswered);
+        forward(&RegisterIoListener::answersAgain);
     }
 
-    void lost() override { tellOther(&RegisterIoListener::lost); }
+    void lost() override { forward(&RegisterIoListener::lost); }
 
     void found() override
     {
-        post(&NodeMap::tellAll);
-        tellOther(&RegisterIoListener::found);
+        post(&NodeMap::notifyAll);
+        forward(&RegisterIoListener::found);
     }
 
 private:
@@ -69,7 +69,7 @@ private:
         });
     }
 
-    void tellOther(void (RegisterIoListener::*event)())
+    void forward(void (RegisterIoListener::*event)())
     {
         const std::lock_guard<std::recursive_mutex> lock(m_mutex);
         if (m_other)
@@ -167,7 +167,7 @@ void NodeMap::carryOut(Question &question)
     }
 }
 
-void NodeMap::tellUnanswered()
+void NodeMap::notifyUnanswered()
 {
     std::vector<Node *> nodes;
     {
@@ -181,7 +181,7 @@ void NodeMap::tellUnanswered()
         notifyChanged(nodes);
 }
 
-void NodeMap::tellAll()
+void NodeMap::notifyAll()
 {
     std::vector<Node *> nodes;
     for (const NodeLinks &links : *m_links) {

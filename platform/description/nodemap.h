@@ -59,8 +59,8 @@ private:
     class Listener;
 
     OrvCameraIo::PortHints hints() const;
-    void tellUnanswered();
-    void tellAll();
+    void notifyUnanswered();
+    void notifyAll();
 
     const std::shared_ptr<const Description> m_description;
     const std::unique_ptr<std::deque<NodeLinks>> m_links;

@@ -149,12 +149,12 @@ void Poller::startReading(const std::vector<NodeLinks *> &registers)
     m_request = m_io.readLater(std::move(ranges), [self = m_self] {
         OrvCameraIo::MainContext::post([self] {
             if (*self)
-                (*self)->tellChanged();
+                (*self)->notifyChanged();
         });
     });
 }
 
-void Poller::tellChanged()
+void Poller::notifyChanged()
 {
     std::vector<Node *> changed;
     for (const Pending &pending : std::exchange(m_pending, {})) {

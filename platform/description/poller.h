@@ -56,7 +56,7 @@ private:
     std::vector<NodeLinks *> takeRefused(int64_t elapsedMs);
     void lookAt(const Feature &feature);
     void startReading(const std::vector<NodeLinks *> &registers);
-    void tellChanged();
+    void notifyChanged();
 
     OrvGenApi::NodeMapBase &m_map;
     std::deque<NodeLinks> &m_links;

@@ -24,7 +24,7 @@ public:
     /// windows, such as Wayland, all members stay null and a warning is written.
     void wrap(unsigned long nativeId);
 
-    // Deleting the container deletes the window, too; hence the guarded pointers.
+    // Deleting the container deletes the window, too, so the pointers are guarded.
     QPointer<QWindow> window;
     QPointer<QWidget> container;
 

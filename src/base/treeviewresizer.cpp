@@ -19,35 +19,35 @@ int globalX(const QMouseEvent *event)
 
 } // namespace
 
-TreeViewResizer::TreeViewResizer(QTreeView *treeView) : QObject(treeView), tree(treeView)
+TreeViewResizer::TreeViewResizer(QTreeView *treeView) : QObject(treeView), m_tree(treeView)
 {
-    tree->installEventFilter(this);
-    tree->viewport()->installEventFilter(this);
-    tree->viewport()->setAttribute(Qt::WA_MouseTracking);
-    tree->header()->setMinimumSectionSize(2 * margin); // the style's would be larger
+    m_tree->installEventFilter(this);
+    m_tree->viewport()->installEventFilter(this);
+    m_tree->viewport()->setAttribute(Qt::WA_MouseTracking);
+    m_tree->header()->setMinimumSectionSize(2 * m_margin); // the style's would be larger
 }
 
 QModelIndex TreeViewResizer::ifResizable(const QPoint &pos)
 {
     // The probe lies inside the cell while the pointer is on its border.
-    const QModelIndex cell = tree->indexAt(pos - QPoint(margin + 1, margin + 1));
+    const QModelIndex cell = m_tree->indexAt(pos - QPoint(m_margin + 1, m_margin + 1));
     if (!cell.isValid())
         return QModelIndex();
-    const bool onBorder = qAbs(tree->visualRect(cell).right() - pos.x()) < margin;
+    const bool onBorder = qAbs(m_tree->visualRect(cell).right() - pos.x()) < m_margin;
     const bool interactive =
-        tree->header()->sectionResizeMode(cell.column()) == QHeaderView::Interactive;
+        m_tree->header()->sectionResizeMode(cell.column()) == QHeaderView::Interactive;
     return onBorder && interactive ? cell : QModelIndex();
 }
 
 bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == tree && event->type() == QEvent::Show)
+    if (watched == m_tree && event->type() == QEvent::Show)
         emit showed();
     const QEvent::Type type = event->type();
     if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress &&
         type != QEvent::MouseButtonRelease)
         return false; // also while the tree is being destroyed, when it has no viewport to ask for
-    if (watched != tree->viewport())
+    if (watched != m_tree->viewport())
         return false;
 
     auto *mouseEvent = static_cast<QMouseEvent *>(event);
@@ -58,35 +58,35 @@ bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
 
 bool TreeViewResizer::mouseMove(const QMouseEvent *event)
 {
-    if (!dragging) {
+    if (!m_isDragging) {
         const bool resizable = ifResizable(localPosition(event)).isValid();
-        tree->viewport()->setCursor(resizable ? QCursor(Qt::SplitHCursor) : QCursor());
+        m_tree->viewport()->setCursor(resizable ? QCursor(Qt::SplitHCursor) : QCursor());
         return false;
     }
-    const int delta = globalX(event) - lastX;
-    lastX = globalX(event);
-    QHeaderView *header = tree->header();
-    header->resizeSection(column, qMax(header->sectionSize(column) + delta, 2 * margin));
+    const int delta = globalX(event) - m_lastX;
+    m_lastX = globalX(event);
+    QHeaderView *header = m_tree->header();
+    header->resizeSection(m_column, qMax(header->sectionSize(m_column) + delta, 2 * m_margin));
     return true;
 }
 
 bool TreeViewResizer::mousePress(const QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || dragging)
+    if (event->button() != Qt::LeftButton || m_isDragging)
         return false;
     const QModelIndex cell = ifResizable(localPosition(event));
     if (!cell.isValid())
         return false;
-    dragging = true;
-    lastX = globalX(event);
-    column = cell.column();
+    m_isDragging = true;
+    m_lastX = globalX(event);
+    m_column = cell.column();
     return true;
 }
 
 bool TreeViewResizer::mouseRelease(const QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || !dragging)
+    if (event->button() != Qt::LeftButton || !m_isDragging)
         return false;
-    dragging = false;
+    m_isDragging = false;
     return true;
 }

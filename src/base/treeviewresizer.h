@@ -11,8 +11,8 @@ class QTreeView;
 /// Lets the user resize the columns of a tree view whose header is hidden, by dragging the right
 /// border of any cell.
 ///
-/// Create one for the tree; it becomes the tree's child and watches the tree and its viewport. Only
-/// columns whose header section is interactive can be dragged.
+/// Create one for the tree; it becomes the tree's child and watches the tree and its viewport.
+/// Only columns whose header section is interactive can be dragged.
 class TreeViewResizer : public QObject
 {
     Q_OBJECT
@@ -34,9 +34,9 @@ private:
     bool mousePress(const QMouseEvent *event);
     bool mouseRelease(const QMouseEvent *event);
 
-    QTreeView *tree;
-    int margin = 5; ///< grab distance in pixels
-    bool dragging = false;
-    int column = 0;
-    int lastX = 0; ///< on the screen
+    QTreeView *m_tree;
+    int m_margin = 5; ///< grab distance in pixels
+    bool m_isDragging = false;
+    int m_column = 0;
+    int m_lastX = 0; ///< on the screen
 };

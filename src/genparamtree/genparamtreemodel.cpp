@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "genparamtree/genparamtreemodel_p.h"
 
+#include "base/featuremetatype.h"
 #include "base/genicamstring.h"
 #include "base/ip4validator.h"
 #include "base/macaddress.h"
@@ -97,7 +98,7 @@ void GenParamTreeModelPrivate::Init(GenParamTreeModel *model)
 
 GenApi::IValue *GenParamTreeModelPrivate::valueFromIndex(const QModelIndex &index)
 {
-    return index.data(Qt::UserRole).value<GenApi::IValue *>();
+    return featureOf(index);
 }
 
 GenApi::CCategoryPtr GenParamTreeModelPrivate::CategoryFromIndex(const QModelIndex &index) const

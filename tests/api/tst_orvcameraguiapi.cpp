@@ -64,7 +64,7 @@ struct BrokenFeatures : Features
 
 } // namespace
 
-/// The library as a program uses it that is not a Qt program; hence no application is made here.
+/// The library in a program that is not a Qt program: no application is made here.
 class TestOrvCameraGuiApi : public QObject
 {
     Q_OBJECT

@@ -268,17 +268,17 @@ bool obey(const Cameras &cameras, const std::string &line)
 }
 
 /// Reads what is there; whether the input is still open. Lines are obeyed.
-bool readCommands(const Cameras &cameras, std::string &pending, bool &goesOn)
+bool readCommands(const Cameras &cameras, std::string &pending, bool &isRunning)
 {
     char buffer[4096];
     const auto size = read(STDIN_FILENO, buffer, sizeof buffer);
     if (size <= 0)
         return false;
     pending.append(buffer, static_cast<std::size_t>(size));
-    for (auto end = pending.find('\n'); end != std::string::npos && goesOn;
+    for (auto end = pending.find('\n'); end != std::string::npos && isRunning;
          end = pending.find('\n')) {
         try {
-            goesOn = obey(cameras, pending.substr(0, end));
+            isRunning = obey(cameras, pending.substr(0, end));
         } catch (const std::exception &error) {
             std::cerr << error.what() << std::endl;
         }
@@ -291,9 +291,9 @@ void serve(const Cameras &cameras, int signals, int seconds)
 {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
     std::string pending;
-    bool goesOn = true;
+    bool isRunning = true;
     pollfd polled[] = {{signals, POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}};
-    while (goesOn) {
+    while (isRunning) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
             end - std::chrono::steady_clock::now());
         if (seconds >= 0 && left.count() <= 0)
@@ -301,7 +301,7 @@ void serve(const Cameras &cameras, int signals, int seconds)
         poll(polled, 2, seconds < 0 ? -1 : static_cast<int>(left.count()) + 1);
         if (polled[0].revents != 0)
             return;
-        if (polled[1].revents != 0 && !readCommands(cameras, pending, goesOn))
+        if (polled[1].revents != 0 && !readCommands(cameras, pending, isRunning))
             polled[1].fd = -1;
     }
 }
