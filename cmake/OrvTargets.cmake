@@ -75,10 +75,10 @@ check_linker_flag(CXX -fuse-ld=lld ORV_LINKS_WITH_LLD)
 # orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] [THREADS] [TIMEOUT seconds] SOURCES file...
 #              [LIBRARIES target...])
 # A QtTest program, run offscreen; with XVFB under a virtual X server, with NETNS in a network
-# namespace of its own. STARTS_PROGRAMS (implied by NETNS) says that it starts others, which can't
-# be done in the emulator that runs the tests of another processor. THREADS says that the thread
-# sanitizer has something to look at: target tests-with-threads, label threads. It fails after
-# TIMEOUT, 120 unless given; the emulator is given ten times as long.
+# namespace of its own and with the label wire. STARTS_PROGRAMS (implied by NETNS) says that it
+# starts others, which can't be done in the emulator that runs the tests of another processor.
+# THREADS says that the thread sanitizer has something to look at: target tests-with-threads, label
+# threads. It fails after TIMEOUT, 120 unless given; the emulator is given ten times as long.
 function(orv_add_test name)
     cmake_parse_arguments(arg "XVFB;NETNS;STARTS_PROGRAMS;THREADS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
@@ -110,8 +110,10 @@ function(orv_add_test name)
         set(command "${PROJECT_SOURCE_DIR}/tests/support/with-netns.sh" ${command})
     endif()
     add_test(NAME ${name} COMMAND ${command})
-    # Tests over the wire measure waits; only one X server at a time finds a free number.
-    set_tests_properties(${name} PROPERTIES RUN_SERIAL "${arg_NETNS}")
+    if(arg_NETNS)
+        set_property(TEST ${name} APPEND PROPERTY LABELS wire)
+    endif()
+    # Only one X server at a time finds a free number.
     if(arg_XVFB)
         set_tests_properties(${name} PROPERTIES RESOURCE_LOCK x-server)
     endif()
