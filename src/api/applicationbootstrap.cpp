@@ -11,9 +11,9 @@ namespace {
 
 constexpr char platformVariable[] = "QT_QPA_PLATFORM";
 
-/// The platforms for Qt to try in a Wayland session; empty for Qt's own choice. The window ids of
-/// hosts are those of X, which most such sessions support, too. Without X, Qt 5 would not try
-/// Wayland in every session.
+/// The platforms that Qt tries in a Wayland session; empty for Qt's own choice. X comes first,
+/// because hosts pass X window ids; most Wayland sessions have an X server. Wayland is named,
+/// because Qt 5 does not try it in every session.
 QByteArray platformInWayland()
 {
     if (qEnvironmentVariableIsSet(platformVariable) ||
@@ -22,8 +22,8 @@ QByteArray platformInWayland()
     return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
 }
 
-/// Qt flushes its requests to a Wayland compositor when its own event loop is about to wait, which
-/// does not happen inside a host's event loop.
+/// Sends Qt's requests to a Wayland compositor. Qt's own event loop sends them before it waits; a
+/// host's event loop does not.
 void keepTalkingToCompositor(QApplication *application)
 {
     const int intervalMs = 20;
@@ -47,11 +47,11 @@ void ensureApplication()
     const QByteArray platform = platformInWayland();
     if (!platform.isEmpty())
         qputenv(platformVariable, platform);
-    static int argumentCount = 0; // the application keeps a reference to it
+    static int argumentCount = 0; // QApplication keeps a reference to it
     static char *arguments[] = {nullptr};
     auto *application = new QApplication(argumentCount, arguments);
     if (!platform.isEmpty())
-        qunsetenv(platformVariable); // the host's own programs choose for themselves
+        qunsetenv(platformVariable); // programs that the host starts must not inherit it
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
         keepTalkingToCompositor(application);
 }

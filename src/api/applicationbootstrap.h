@@ -3,9 +3,9 @@
 
 namespace OrvGui {
 
-/// Makes a `QApplication` when the process has no application object yet, for hosts that are not Qt
-/// programs. It lives until the end of the process. Every exported entry point that makes widgets
-/// calls this first.
+/// Creates a `QApplication` when the process has no application object, for hosts that are not Qt
+/// programs. It exists until the process ends. Every exported function that creates widgets calls
+/// this first.
 void ensureApplication();
 
 } // namespace OrvGui

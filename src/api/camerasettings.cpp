@@ -12,7 +12,7 @@ using OrvGui::OrvCameraSettings;
 
 namespace {
 
-/// No character is cut in two.
+/// Truncates the text between characters, never inside one.
 void copy(QByteArray text, char *report, size_t size)
 {
     if (!report || size == 0)

@@ -7,15 +7,16 @@
 
 namespace OrvGui {
 
-/// Makes and shows a tree view of a node map or a parameter array, inside the window of that native
-/// id unless it is 0. Makes the application when there is none. The caller owns the view.
+/// Creates and shows a tree view of a node map or a parameter array, inside the window with that
+/// native id unless the id is 0. Creates the application when there is none. The caller owns the
+/// view.
 ///
-/// A source that fails while its tree is built gives an empty view. Never null.
+/// Never returns null. The view is empty when the source fails while the tree is built.
 template<typename Source>
 IOrvGenParamTreeView *CreateGenParamTreeView(Source *params, const QString &title,
                                              unsigned long parent);
 
-/// The same with a browser around the tree.
+/// The same for a browser, which contains a tree.
 template<typename Source>
 IOrvGenParamTreeView *CreateFeatureBrowser(Source *params, const QString &title,
                                            unsigned long parent);

@@ -9,11 +9,12 @@
 
 namespace OrvGui {
 
-/// A widget that fills a native window of its host, and follows its size.
+/// A widget that fills a native window of its host and follows the size of that window.
 ///
-/// Its parent widget is the container that the holder has put around the host's window. Qt's
-/// containers show a foreign window inside a Qt window; a host needs the opposite. So the container
-/// stays hidden, and the widget gets a native window that is a child of the host's.
+/// The parent of the widget is the container that the holder has created around the host's window.
+/// Qt's containers show a foreign window inside a Qt window; a host needs the reverse. Therefore
+/// the container stays hidden, and the native window of the widget becomes a child of the host's
+/// window.
 template<class View>
 class Embedded : public View
 {
@@ -30,8 +31,8 @@ public:
 
     ~Embedded() override
     {
-        // The holder, our child, is about to delete both of our parents: the container and the
-        // host's QWindow. They must not take us with them.
+        // The holder is a child of this widget and is about to delete both parents of the widget:
+        // the container and the host's QWindow. They must not delete the widget.
         this->destroy();
         this->setParent(nullptr);
     }
@@ -59,15 +60,15 @@ private:
         this->setGeometry(m_place);
     }
 
-    /// For a moment our window was one of the screen, and a window manager may place it only when
-    /// it has become part of the host's.
+    /// Restores the geometry. The window is a top-level window until it becomes a child of the
+    /// host's window, and a window manager may move it during that time.
     void stay()
     {
         if (m_place.isValid() && this->geometry() != m_place)
             QTimer::singleShot(0, this, [this] { this->setGeometry(m_place); });
     }
 
-    QRect m_place; ///< in the host's window
+    QRect m_place; ///< in the coordinates of the host's window
 };
 
 } // namespace OrvGui

@@ -76,7 +76,7 @@ void HostWindow::listen()
         if (xcb_connection_has_error(m_connection))
             notifier->setEnabled(false);
     });
-    // The notifier misses what is read along with the answer to a question, such as the first size.
+    // Events that arrive with a reply, such as the first size, do not activate the notifier.
     QTimer::singleShot(0, this, &HostWindow::readEvents);
 }
 

@@ -12,9 +12,9 @@ namespace OrvGui {
 
 /// Reports the position and size of a foreign X window, which Qt does not.
 ///
-/// Asks the default display on a connection of its own; the window's owner, another toolkit or
-/// another process, notices nothing of that. Silent for a window that does not exist, and on a
-/// platform other than "xcb".
+/// Uses a connection of its own to the default display, without an effect on the owner of the
+/// window (another toolkit or another process). Emits nothing for a window that does not exist, and
+/// on a platform other than "xcb".
 class HostWindow : public QObject
 {
     Q_OBJECT

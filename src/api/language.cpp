@@ -25,7 +25,8 @@ QString folderOfQt()
 #endif
 }
 
-/// True when the texts of that language are the source texts, or were found.
+/// True when translations into the language were found, or when it is the language of the source
+/// texts.
 bool find(const QLocale &locale, Translators &found)
 {
     if (locale.language() == QLocale::English || locale.language() == QLocale::C)
@@ -41,7 +42,7 @@ bool find(const QLocale &locale, Translators &found)
     return true;
 }
 
-/// One language after the other: to QTranslator a locale of "English, else German" means
+/// Tries each language separately, because QTranslator takes a locale of "English, then German" for
 /// German.
 bool findForSystem(Translators &found)
 {
@@ -68,7 +69,8 @@ bool setLanguage(const QString &language)
     Translators found;
     if (!(language.isEmpty() ? findForSystem(found) : findByName(language, found)))
         return false;
-    static std::vector<QPointer<QTranslator>> installed; // of the application, which may be gone
+    // QPointer, because the application owns them.
+    static std::vector<QPointer<QTranslator>> installed;
     for (QTranslator *translator : installed)
         delete translator;
     installed.clear();

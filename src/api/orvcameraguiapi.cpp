@@ -40,8 +40,8 @@ void destroyWindow(Window *window)
     if (!window)
         return;
     delete window;
-    // Without an event loop nothing else sends the window system what Qt has asked of it, and the
-    // tree would stay on the screen. A question makes Qt send it.
+    // Without an event loop Qt does not send the request that closes the window. QCursor::pos()
+    // waits for a reply of the window system, and sends all requests before.
     if (qApp)
         QCursor::pos();
 }
@@ -206,7 +206,7 @@ int OrvCameraGuiApi_ProcessEvents(int durationMs)
     OrvGui::ensureApplication();
     QEventLoop loop;
     QTimer::singleShot(qMax(durationMs, 0), &loop, &QEventLoop::quit);
-    QTimer watch; // Qt reports the last window only to programs that run its main loop
+    QTimer watch; // lastWindowClosed is emitted only while QApplication::exec() runs
     if (countOpenWindows() > 0) {
         QObject::connect(&watch, &QTimer::timeout, &loop, [&loop] {
             if (countOpenWindows() == 0)
@@ -246,7 +246,7 @@ void ShowColorDialog(OrvCamDevice *device, unsigned long parent)
 
 void ShowFrameABDialog(OrvCamDevice *device, unsigned long parent)
 {
-    ShowColorDialog(device, parent); // a promise to existing hosts
+    ShowColorDialog(device, parent); // documented behaviour, on which hosts depend
 }
 
 void ShowOutputDialog(OrvCamDevice *device, unsigned long parent)

@@ -65,25 +65,26 @@ ORVCAMERAGUIAPI_EXPORT OrvGuiParamTreeView *CreateGenParamTreeViewForArrayW(OrvG
                                                                             const wchar_t *title,
                                                                             unsigned long parent);
 
-/* Null is ignored. Must not be called from inside a callback of a node that the tree shows. */
+/* Null is ignored. Do not call this from inside a callback of a node that the tree shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyGenParamTreeView(OrvGuiParamTreeView *view);
 
 /*
- * Which categories are expanded, the width of the name column and the level of a tree, as one UTF-8
- * text for LoadGenParamTreeViewState; empty when nothing is shown. The pointer stays valid until
- * the next call of either function for this tree, or its end. Null for no tree.
+ * Returns the expanded categories, the width of the name column and the visibility level as one
+ * UTF-8 text for LoadGenParamTreeViewState; empty when nothing is shown. The pointer is valid until
+ * the next call of either function for this tree, or until the tree is destroyed. Returns null for
+ * a null tree.
  */
 ORVCAMERAGUIAPI_EXPORT const char *SaveGenParamTreeViewState(OrvGuiParamTreeView *view);
 
 /*
- * Restores what was saved of a tree with the same features: 1. Null, and a text with numbers that
- * cannot be: 0; the expansion may be changed by then.
+ * Restores the state of a tree with the same features. Returns 1 on success. Returns 0 for null and
+ * for a text with invalid numbers; the expansion may have been restored by then.
  */
 ORVCAMERAGUIAPI_EXPORT int LoadGenParamTreeViewState(OrvGuiParamTreeView *view, const char *state);
 
 /*
- * The level of the features that are shown: 0 basic, 1 expert, 2 guru. Setting any other number
- * does nothing. 0 for no tree.
+ * The visibility level: 0 basic, 1 expert, 2 guru. Setting any other number has no effect. Returns
+ * 0 for a null tree.
  */
 ORVCAMERAGUIAPI_EXPORT int GetGenParamTreeViewVisibility(OrvGuiParamTreeView *view);
 ORVCAMERAGUIAPI_EXPORT void SetGenParamTreeViewVisibility(OrvGuiParamTreeView *view,
@@ -106,7 +107,7 @@ CreateFeatureBrowserForArrayA(OrvGenParamArray *array, const char *title, unsign
 ORVCAMERAGUIAPI_EXPORT OrvGuiFeatureBrowser *
 CreateFeatureBrowserForArrayW(OrvGenParamArray *array, const wchar_t *title, unsigned long parent);
 
-/* Null is ignored. Must not be called from inside a callback of a node that the browser shows. */
+/* Null is ignored. Do not call this from inside a callback of a node that the browser shows. */
 ORVCAMERAGUIAPI_EXPORT void DestroyFeatureBrowser(OrvGuiFeatureBrowser *browser);
 
 /*
@@ -124,43 +125,42 @@ ORVCAMERAGUIAPI_EXPORT const char *SaveFeatureBrowserState(OrvGuiFeatureBrowser 
 ORVCAMERAGUIAPI_EXPORT int LoadFeatureBrowserState(OrvGuiFeatureBrowser *browser,
                                                    const char *state);
 
-/* As those of a tree. */
+/* The same as for a tree. */
 ORVCAMERAGUIAPI_EXPORT int GetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser);
 ORVCAMERAGUIAPI_EXPORT void SetFeatureBrowserVisibility(OrvGuiFeatureBrowser *browser,
                                                         int visibility);
 
 /*
- * Opens the configuration window of a camera, a window of its own that stays open. A null device
- * gives a window without a camera. The user can connect another camera in it, which the window
- * opens and closes by itself.
+ * Opens the configuration window of a camera, a top-level window that stays open. A null device
+ * gives a window without a camera. The user can connect another camera in the window, which opens
+ * and closes that camera itself.
  *
- * The caller owns the window and ends it with DestroyCamConfig, before the device is released. Null
- * only when memory runs out.
+ * The caller owns the window and destroys it with DestroyCamConfig, before the device is released.
+ * Returns null only when memory runs out.
  */
 ORVCAMERAGUIAPI_EXPORT OrvGuiCamConfig *CreateCamConfig(OrvCamDevice *device);
 
-/* Null is ignored. Not from inside a callback of a parameter. */
+/* Null is ignored. Do not call this from inside a callback of a parameter. */
 ORVCAMERAGUIAPI_EXPORT void DestroyCamConfig(OrvGuiCamConfig *window);
 
 /*
- * Runs Qt's events, which are also those of the default GLib main context, for at most so many
- * milliseconds (0 for what is waiting to be run), for hosts without an event loop. Makes the
- * application when there is none. Returns how many windows are open; as soon as the user has closed
- * the last one it returns 0 without waiting any longer. So
+ * Runs Qt's events, which include those of the default GLib main context, for hosts without an
+ * event loop. Returns after the given number of milliseconds, or after the pending events when it
+ * is 0. Creates the application when there is none. Returns the number of open windows; when the
+ * user closes the last one the function returns 0 at once. So
  *
  *     while (OrvCameraGuiApi_ProcessEvents(100) > 0)
  *         ;
  *
- * runs until all windows are closed. A closed window has still to be destroyed.
+ * runs until all windows are closed. Closed windows must still be destroyed.
  */
 ORVCAMERAGUIAPI_EXPORT int OrvCameraGuiApi_ProcessEvents(int durationMs);
 
 /*
- * Chooses the language of the windows that are opened from now on: "de", "ja", "en", also with a
- * country ("de_AT"); null for that of the locale. Makes the application when there is none. Returns
- * 1, or 0 for a language that there is no translation for, which changes nothing. Without a call,
- * windows of a host that installs no translator of its own are English. Texts of a camera are shown
- * as they are.
+ * Sets the language of windows that are opened from now on: "de", "ja", "en", also with a country
+ * ("de_AT"); null for the language of the locale. Creates the application when there is none.
+ * Returns 1, or 0 without an effect when there is no translation. Without a call, windows are
+ * English in a host that installs no translator. Texts of a camera are not translated.
  */
 ORVCAMERAGUIAPI_EXPORT int OrvCameraGuiApi_SetLanguage(const char *language);
 

@@ -14,8 +14,8 @@ namespace OrvGui {
 
 namespace {
 
-/// Puts the dialog in the middle of the host's window. Its container, the dialog's parent, is
-/// hidden and somewhere else.
+/// Centres the dialog above the host's window. Qt would centre it above its parent, the hidden
+/// container.
 void center(QDialog &dialog, const QRect &devicePixels)
 {
     if (!devicePixels.isValid())
@@ -35,11 +35,11 @@ OrvCam::DeviceInfo *SelectCamera(OrvCam::System *system, const QString &title,
                                  unsigned long parentWindow)
 {
     ensureApplication();
-    TreeViewParent host; // outlives the dialog, as does the following
+    TreeViewParent host; // must outlive the dialog, as must hostWindow
     std::unique_ptr<QWindow> hostWindow;
     if (parentWindow) {
         host.wrap(parentWindow);
-        // A second one: that in the container is no window of its own any more.
+        // A second QWindow for the host's window: the container has made the first one a child.
         if (host.container)
             hostWindow.reset(QWindow::fromWinId(static_cast<WId>(parentWindow)));
     }

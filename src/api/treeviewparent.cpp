@@ -14,12 +14,12 @@ namespace OrvGui {
 
 namespace {
 
-// A container moves the window that it is made around into a hidden window of its own, and resizes
-// it. A host must not lose its window like that: a window manager, for one, would never look at it
-// again. The X server refuses to move a window into one of its own inferiors. So, just before the
-// container's hidden window is made, it gets the host's window for its parent.
+// A window container reparents its window to a hidden window and resizes it. A host's window must
+// stay where it is; a window manager does not manage it again. The X server refuses to reparent a
+// window to one of its own descendants. Therefore the hidden window becomes a child of the host's
+// window just before the container reparents.
 
-/// Sets the parent of the window that becomes the parent of the given one.
+/// Sets the parent of the hidden window, that is of the window that becomes the parent of `window`.
 class ContainerInterceptor : public QObject
 {
 public:
@@ -44,8 +44,8 @@ private:
     QWindow *m_outerWindow;
 };
 
-/// Keeps Qt from printing the refusals of one container, which arrive later from the X server. It
-/// is removed after the last of them: other refusals are errors of the host.
+/// Hides the X errors of one container, which arrive asynchronously, from Qt's error output.
+/// Removes itself after the last of them, because further errors are faults of the host.
 class RefusedMoves : public QObject, public QAbstractNativeEventFilter
 {
 public:
@@ -54,7 +54,7 @@ public:
         auto *filter = new RefusedMoves;
         filter->setParent(QCoreApplication::instance());
         QCoreApplication::instance()->installNativeEventFilter(filter);
-        // A window that does not exist is refused in another way.
+        // A window that does not exist causes other errors.
         QTimer::singleShot(timeoutMs, filter, &QObject::deleteLater);
     }
 
@@ -78,7 +78,7 @@ public:
 private:
     static const int timeoutMs = 1000;
 
-    int m_missing = 2; ///< when the container is made, and when it is given its window
+    int m_missing = 2; ///< one for the creation of the container, one for its window
 };
 
 } // namespace
@@ -112,8 +112,8 @@ void TreeViewParent::wrap(unsigned long nativeId)
         const ContainerInterceptor interceptor(window, m_outerWindow);
         container = QWidget::createWindowContainer(window);
     }
-    // As if the window had left: the container no longer makes it as large as itself. With Qt 5 the
-    // container expects that event itself, with Qt 6 by way of its hidden window.
+    // Notifies the container that its window has left, so that it does not resize the window. With
+    // Qt 5 the container itself expects the event, with Qt 6 its hidden window.
     QChildEvent departure(QEvent::ChildRemoved, window);
     QCoreApplication::sendEvent(container, &departure);
     QCoreApplication::sendEvent(window->parent(), &departure);

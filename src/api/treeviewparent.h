@@ -10,8 +10,8 @@ namespace OrvGui {
 
 class HostWindow;
 
-/// Owns the wrapper of a host's native window for a tree view. It becomes the view's child, so that
-/// it is destroyed with the view.
+/// Owns the wrapper of a host's native window. Becomes a child of the view, and so is destroyed
+/// with it.
 class TreeViewParent : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
     TreeViewParent();
     ~TreeViewParent() override;
 
-    /// Wraps the window of that native id, which is not changed. On a platform without foreign
-    /// windows, such as Wayland, all members stay null and a warning is written.
+    /// Wraps the window with that native id; the window itself is not changed. On a platform
+    /// without foreign windows, such as Wayland, all members stay null and a warning is written.
     void wrap(unsigned long nativeId);
 
-    // Deleting the container deletes the window, too, so the pointers are guarded.
+    // Deleting the container also deletes the window, so the pointers are guarded.
     QPointer<QWindow> window;
     QPointer<QWidget> container;
 

@@ -9,13 +9,13 @@
 
 /// Lists the features of categories so that no category contains itself, not even through others.
 ///
-/// A description may make such a circle, in which every walk over the tree would go round for ever.
-/// The circle is cut where a walk from the root, depth first and in row order, would come back to a
-/// category that it is in. Circles that are made after `cutCircles` are not seen.
+/// A description may contain cycles of categories, in which a recursive walk would not end. A cycle
+/// is broken where a depth-first walk from the root, in row order, would return to a category that
+/// it is inside of. Cycles that arise after `cutCircles` are not detected.
 class AcyclicFeatures
 {
 public:
-    /// Looks for circles in all that can be reached from the category.
+    /// Finds the cycles in all categories below this one.
     void cutCircles(GenApi::ICategory &root);
 
     /// The features in the order of the description. Empty when the category cannot be read.
@@ -26,6 +26,6 @@ private:
 
     void visit(GenApi::ICategory &category, std::map<const GenApi::IValue *, State> &states);
 
-    /// A category and a category among its features, which contains the former.
+    /// A category and one of its features, a category that contains the first one.
     std::set<std::pair<const GenApi::IValue *, const GenApi::IValue *>> m_cuts;
 };

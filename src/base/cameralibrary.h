@@ -6,11 +6,11 @@
 namespace OrvGui {
 
 /// The two functions of the camera access library that the windows call. In a build against a
-/// genuine GenICam SDK that library is the host's: the functions are looked up in the process when
-/// they are needed, so that a program that only shows trees needs none.
+/// GenICam SDK the host brings that library: the functions are then looked up in the process on
+/// first use, and a program that only shows trees does not need the library.
 namespace CameraLibrary {
 
-/// As `OrvCam_GetSystem`; null without a camera access library, too.
+/// As `OrvCam_GetSystem`; also null without a camera access library.
 OrvCam::System *system();
 
 /// As `OrvCam_CreateDevice`; `OrvCam::ErrorFailed` without a camera access library.

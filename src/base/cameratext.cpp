@@ -5,8 +5,8 @@ namespace OrvGui {
 
 namespace {
 
-/// Embeddings, overrides and isolates reorder what follows them. The marks of direction, which
-/// names in Arabic and Hebrew need, do not.
+/// Embeddings, overrides and isolates reorder the text after them. Direction marks, which Arabic
+/// and Hebrew names need, do not.
 bool changesDirection(QChar character)
 {
     const ushort code = character.unicode();

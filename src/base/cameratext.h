@@ -6,25 +6,25 @@
 namespace OrvGui {
 
 enum TextLength {
-    LongestText = 4000, ///< beyond, laying it out takes longer than a user waits
-    LongestName = 100   ///< of what makes a window as wide as it is
+    LongestText = 4000, ///< the layout of a longer text blocks the window noticeably
+    LongestName = 100   ///< for texts that determine the width of a window
 };
 
-/// What a camera says of itself, made fit for a label, a cell or a title: one line, in which a
-/// control character, a line separator or a change of the writing direction is a U+FFFD, cut off
-/// where it gets longer than so many characters. Never needed for what goes back to the camera.
+/// A text from the camera as one line for a label, a cell or a title. Control characters, line
+/// separators and changes of the writing direction are replaced by U+FFFD. The text is truncated to
+/// `longest` characters. Do not use it for texts that are written back to the camera.
 ///
-/// The result is still plain text. Where Qt guesses the format, as in tool tips and message boxes,
-/// set `Qt::PlainText` or use `literally`.
+/// The result is plain text. Where Qt detects the format, as in tool tips and message boxes, set
+/// `Qt::PlainText` or use `literally`.
 QString cameraText(const QString &text, int longest = LongestText);
 
-/// The same in full length, for what is printed.
+/// The same without truncation, for printed output.
 QString printable(const QString &text);
 
 /// As `cameraText` of UTF-8; empty for null.
 QString cameraText(const char *utf8, int longest = LongestText);
 
-/// Rich text that shows exactly this text, its markup included; empty when that is empty.
+/// Rich text that shows the text as it is, markup included; empty for an empty text.
 QString literally(const QString &text);
 
 } // namespace OrvGui

@@ -5,10 +5,11 @@
 
 #include <memory>
 
-/// Connections that end together: with this object, or by `end`.
+/// Connections that are disconnected together, by the destructor or by `end`.
 ///
-/// For handlers of an object that is no `QObject`, or that serve for less than its lifetime. As a
-/// member, declare it after what the handlers use. Use it on the thread that created it.
+/// For handlers of an object that is not a `QObject`, or that are needed for a part of its
+/// lifetime. Declare a member of this class after everything that the handlers use. Use it on the
+/// thread that created it.
 class Connections
 {
 public:
@@ -18,7 +19,7 @@ public:
         QObject::connect(sender, signal, m_receiver.get(), handler);
     }
 
-    /// Ends all connections. Others can be added afterwards.
+    /// Disconnects all connections. Others can be added afterwards.
     void end() { m_receiver = std::make_unique<QObject>(); }
 
     /// The receiver of the connections; its children are destroyed with them.

@@ -7,7 +7,8 @@
 #include <QModelIndex>
 #include <QVariant>
 
-// Before any class with a signal that has a feature: Qt 6 looks at the types of signals.
+// Include before any class whose signals have features as arguments: Qt 6 registers the types of
+// the arguments.
 Q_DECLARE_METATYPE(GenApi::IValue *)
 
 /// The feature of a row in a model of features; null for a row without one.

@@ -15,7 +15,7 @@ namespace {
 
 constexpr char scrollAreaName[] = "screenScrollArea";
 
-/// Brings the size hint up to date. Layouts of hidden widgets do not notify their parents.
+/// Updates the size hint. Layouts of hidden widgets do not notify their parents.
 void activateLayouts(QWidget *widget)
 {
     for (QObject *child : widget->children()) {
@@ -39,8 +39,8 @@ bool isTooLarge(QWidget *window)
 QScrollArea *makeScrollable(QWidget *window)
 {
     auto *contents = new QWidget(window);
-    contents->setLayout(window->layout()); // takes the widgets along
-    window->setMinimumSize(QSize(0, 0));   // which a layout of fixed size has set
+    contents->setLayout(window->layout()); // reparents the widgets, too
+    window->setMinimumSize(QSize(0, 0));   // a layout with a fixed size has set it
     window->setMaximumSize(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     auto *area = new QScrollArea(window);
     area->setObjectName(QLatin1String(scrollAreaName));

@@ -8,7 +8,7 @@ namespace OrvGui {
 
 namespace {
 
-// 4.5 is what accessibility asks for; thin strokes are painted a little paler than their colour.
+// WCAG requires 4.5; antialiased thin strokes are a little paler than their colour.
 constexpr double minContrast = 5;
 
 double linear(double component)

@@ -3,21 +3,21 @@
 
 #include <QColor>
 
-// Palettes and style sheets set some of their colours and leave others as they were, so text may
-// get a background that it was not designed for. These functions decide what can be read.
+// Palettes and style sheets may set the colour of a text without that of its background, or the
+// reverse. These functions check and correct the contrast.
 
 namespace OrvGui {
 
-/// From 1, for the same colour, to 21, for black on white. Transparency is left out of account.
+/// The contrast ratio, from 1 (same colour) to 21 (black on white). Transparency is ignored.
 double contrast(const QColor &a, const QColor &b);
 
-/// Whether text of that colour can be read on that background.
+/// Whether the contrast of the text to the background is sufficient.
 bool isReadable(const QColor &text, const QColor &background);
 
-/// The colour itself if it can be read on the background, otherwise the nearest to it that can.
+/// The colour itself if its contrast is sufficient, otherwise the nearest colour with which it is.
 QColor readableOn(const QColor &background, const QColor &text);
 
-/// Between two colours; a `share` of 0 is the first and 1 the second.
+/// A mixture of two colours; a `share` of 0 gives the first and 1 the second.
 QColor mixed(const QColor &first, const QColor &second, double share);
 
 } // namespace OrvGui

@@ -21,7 +21,7 @@ QScreen *screenAt(const QPoint &point)
     return nullptr;
 }
 
-/// As it is, or, before the window manager has said so, as the style believes.
+/// The real frame or, before the window manager reports it, the estimate of the style.
 QMargins frameOf(const QWidget *window)
 {
     const QRect inner = window->geometry();

@@ -5,13 +5,13 @@
 
 namespace OrvGui {
 
-/// While one exists, notifications on this thread mean nothing: a selector of the camera has been
-/// moved to read something else, and is moved back before anything else happens.
+/// While an instance exists, notifications on this thread are to be ignored: a selector of the
+/// camera is moved temporarily to read other values, and is restored before anything else happens.
 ///
-/// A widget that shows features that depend on a selector checks `isUnderWay` when it is notified,
-/// and keeps what it shows. Otherwise an open editor would be filled with values of the other
-/// selection, or lose the focus, and write what it holds to the wrong place. Run no event loop
-/// during a detour.
+/// A widget that shows features that depend on a selector checks `isUnderWay` in its notification
+/// handler, and does not update while it is true. Otherwise an open editor would show values of the
+/// other selection, or lose the focus and write its value to the wrong selection. Do not run an
+/// event loop while an instance exists.
 class SelectorDetour
 {
 public:

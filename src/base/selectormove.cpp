@@ -30,7 +30,7 @@ void SelectorMove::moveTo(GenApi::IValue *selector, const QString &text)
         return;
     if (!m_detour)
         m_detour.emplace();
-    // Before the write, which may arrive and not be answered.
+    // Stored before the write: the camera may execute a write without an answer.
     const bool isKnown = std::any_of(m_former.begin(), m_former.end(),
                                      [=](const auto &one) { return one.first == selector; });
     if (!isKnown)
@@ -44,7 +44,7 @@ std::vector<GenApi::IValue *> SelectorMove::putBack()
     while (!m_former.empty()) {
         const auto former = m_former.back();
         m_former.pop_back();
-        // A write that was not answered may have arrived.
+        // Also for a selector whose write failed: the camera may have executed it.
         if (!isTaken(former.first, former.second) && !isTaken(former.first, former.second))
             away.push_back(former.first);
     }

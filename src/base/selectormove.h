@@ -13,8 +13,8 @@
 
 namespace OrvGui {
 
-/// Moves selectors and, at its end, back to where they were. Nothing on this thread is notified of
-/// changes in between; a selector that is in its place already does not move.
+/// Moves selectors, and restores them in its destructor. Notifications on this thread are
+/// suppressed while selectors are moved. A selector that already has the value is not written.
 class SelectorMove
 {
 public:
@@ -22,19 +22,20 @@ public:
     ~SelectorMove() { putBack(); }
     Q_DISABLE_COPY(SelectorMove)
 
-    /// Throws the exceptions of GenICam; the text is GenICam's.
+    /// `text` is in GenICam's format. Throws GenICam's exceptions.
     void moveTo(GenApi::IValue *selector, const QString &text);
 
     bool isAway() const { return m_detour.has_value(); }
 
-    /// Answers those that the camera has not taken back: it is gone, or keeps them where they are.
+    /// Restores the selectors. Returns those that could not be restored, because the camera is
+    /// disconnected or refuses the value.
     std::vector<GenApi::IValue *> putBack();
 
-    /// For selectors that are no more.
+    /// For selectors that no longer exist.
     void abandon();
 
 private:
-    std::vector<std::pair<GenApi::IValue *, QString>> m_former; ///< the last one last
+    std::vector<std::pair<GenApi::IValue *, QString>> m_former; ///< in the order of the moves
     std::optional<SelectorDetour> m_detour;                     ///< once a selector has moved
 };
 

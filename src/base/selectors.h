@@ -7,12 +7,12 @@
 
 namespace OrvGui {
 
-/// The selectors that decide which of its values a feature has, those of selectors among them; the
-/// outermost first. A description may make selectors select each other: each is listed once. No
-/// register is read. Throws the exceptions of GenICam.
+/// The selectors that a feature depends on, directly or through other selectors; the outermost
+/// first. Each is listed once, even if selectors select each other. Reads no register. Throws
+/// GenICam's exceptions.
 std::vector<GenApi::IValue *> selectorsOf(GenApi::IValue *feature);
 
-/// The features that a selector selects. Throws the exceptions of GenICam.
+/// The features that a selector selects. Throws GenICam's exceptions.
 std::vector<GenApi::IValue *> selectedBy(GenApi::IValue *selector);
 
 bool isSelector(GenApi::IBase *feature);

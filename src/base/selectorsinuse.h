@@ -7,9 +7,9 @@
 
 namespace OrvGui {
 
-/// While one exists, a thread moves the selectors of a node map, and lets others look at it in
-/// between. Code that moves selectors on the GUI thread, or shows what depends on them, waits for
-/// the end.
+/// Marks the selectors of a node map as being moved by a thread that lets other threads access the
+/// node map in between. While an instance exists, code on the GUI thread must not move selectors or
+/// show features that depend on them.
 class SelectorsInUse
 {
 public:
@@ -17,7 +17,7 @@ public:
     ~SelectorsInUse();
     Q_DISABLE_COPY(SelectorsInUse)
 
-    /// May be called on any thread.
+    /// Thread-safe.
     static bool isOf(const GenApi::INodeMap *map);
 
 private:

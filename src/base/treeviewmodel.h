@@ -4,8 +4,8 @@
 class QAbstractItemModel;
 class QTreeView;
 
-/// Sets the model of the view, null for none, and deletes the selection models of the former one.
+/// Sets the model of the view, null for none, and deletes the selection models of the previous one.
 ///
-/// With every model, even with none, Qt makes selection models for the view and for its header, and
-/// keeps those that it no longer uses.
+/// Qt creates selection models for the view and its header with each model, even for null, and does
+/// not delete those that are no longer used.
 void setTreeViewModel(QTreeView *view, QAbstractItemModel *model);

@@ -24,12 +24,12 @@ TreeViewResizer::TreeViewResizer(QTreeView *treeView) : QObject(treeView), m_tre
     m_tree->installEventFilter(this);
     m_tree->viewport()->installEventFilter(this);
     m_tree->viewport()->setAttribute(Qt::WA_MouseTracking);
-    m_tree->header()->setMinimumSectionSize(2 * m_margin); // the style's would be larger
+    m_tree->header()->setMinimumSectionSize(2 * m_margin); // smaller than the style's default
 }
 
 QModelIndex TreeViewResizer::ifResizable(const QPoint &pos)
 {
-    // The probe lies inside the cell while the pointer is on its border.
+    // The probe position is inside the cell while the pointer is on the border.
     const QModelIndex cell = m_tree->indexAt(pos - QPoint(m_margin + 1, m_margin + 1));
     if (!cell.isValid())
         return QModelIndex();
@@ -46,7 +46,7 @@ bool TreeViewResizer::eventFilter(QObject *watched, QEvent *event)
     const QEvent::Type type = event->type();
     if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress &&
         type != QEvent::MouseButtonRelease)
-        return false; // also while the tree is being destroyed, when it has no viewport to ask for
+        return false; // a tree that is being destroyed has no viewport
     if (watched != m_tree->viewport())
         return false;
 

@@ -26,7 +26,7 @@ public:
     QModelIndex ifResizable(const QPoint &pos);
 
 signals:
-    /// The tree was shown; emitted every time.
+    /// Emitted each time the tree is shown.
     void showed();
 
 private:
@@ -38,5 +38,5 @@ private:
     int m_margin = 5; ///< grab distance in pixels
     bool m_isDragging = false;
     int m_column = 0;
-    int m_lastX = 0; ///< on the screen
+    int m_lastX = 0; ///< in global coordinates
 };

@@ -57,8 +57,8 @@ void BrowserModel::follow()
 {
     connect(m_values, &QAbstractItemModel::dataChanged, this, &BrowserModel::forwardChange);
     connect(m_values, &QAbstractItemModel::layoutChanged, this, &BrowserModel::rebuild);
-    // The tree changes its rows otherwise only for a view that holds a row which cannot be
-    // distinguished from another one.
+    // The tree inserts and removes rows only when a view holds an index that cannot be
+    // distinguished from another one; otherwise it changes its layout.
     connect(m_values, &QAbstractItemModel::rowsInserted, this, &BrowserModel::rebuild);
     connect(m_values, &QAbstractItemModel::rowsRemoved, this, &BrowserModel::rebuild);
     connect(m_values, &QAbstractItemModel::modelReset, this, &BrowserModel::rebuild);
@@ -232,7 +232,7 @@ void BrowserModel::showAll(Row *category)
     }
 }
 
-/// True when there is something below the category.
+/// True when the category has rows.
 bool BrowserModel::keepFound(Row *category)
 {
     category->shownRows.clear();
@@ -458,7 +458,7 @@ Qt::ItemFlags BrowserModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    // A view asks this of each row that it lays out; the way to the source is long.
+    // Views call this for each row of the layout, and the chain of proxies is slow.
     if (index.column() == nameColumn || rowOf(index) == m_favouritesRow)
         return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     return QAbstractProxyModel::flags(index);

@@ -20,11 +20,11 @@ namespace OrvGui {
 
 class KnownValuesModel;
 
-/// The feature tree as the browser shows it: with the favourites in a category of their own on top,
-/// narrowed to some features, and with marks on those that were changed or have refused a write.
+/// The feature tree as the browser shows it: with a category of favourites at the top, filtered by
+/// a search, and with marks on features that were changed or refused a write.
 ///
-/// It keeps the rows that the tree has at its level. The category of the favourites is no
-/// feature of the camera; it holds the root of the tree, whose category it is.
+/// It has the rows that the tree has at its visibility level. The category of favourites is not a
+/// feature of the camera; its `Qt::UserRole` is the root category.
 class BrowserModel : public QAbstractProxyModel
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ class BrowserModel : public QAbstractProxyModel
 public:
     using Features = FeatureSearch::Features;
 
-    /// Takes over the tree of the values, which has its source model.
+    /// Takes ownership of the values model, which has its source model.
     BrowserModel(KnownValuesModel *source, GenApi::IValue *root, QObject *parent);
     ~BrowserModel() override;
 
@@ -42,19 +42,19 @@ public:
     FeatureMarks &marks() { return *m_marks; }
     FeatureSearch &search() { return m_search; }
 
-    /// Features that the tree does not show have no row among the favourites.
+    /// Features that the tree does not show are left out of the favourites.
     void setFavourites(const QVector<GenApi::IValue *> &favourites);
 
-    /// Shows those features alone, with their categories; a category of them that has none of them
-    /// below it keeps all its rows. Nothing for all features.
+    /// Shows only those features, with their categories. A category that is in the list and has no
+    /// listed features below it keeps all its rows. An empty list shows all features.
     void narrow(const std::optional<Features> &features);
     bool isNarrowedTo(const std::optional<Features> &features) const;
 
-    /// The name cells of the first categories in which a search has found something, so that there
-    /// are not more rows than that in them.
+    /// The name cells of the first categories with search results; at most so many that they
+    /// contain that number of rows.
     QModelIndexList foundCategories(int maxRows) const;
 
-    /// The name cell of the first feature that was found, favourites left out of account.
+    /// The name cell of the first search result, not counting favourites.
     QModelIndex firstFound() const;
 
     /// The name cells of all shown categories.
@@ -63,11 +63,11 @@ public:
     bool isFavourites(const QModelIndex &index) const;
     bool isBelowFavourites(const QModelIndex &index) const;
 
-    /// The name cell of the first row of the feature, favourites left out of account; invalid when
-    /// it is not shown.
+    /// The name cell of the feature's first row, not counting favourites; invalid when the feature
+    /// is not shown.
     QModelIndex place(const GenApi::IValue *feature) const;
 
-    /// While features are frozen their cells show the values that they had before.
+    /// Frozen features keep showing their current values until they are thawed.
     void freeze(const QVector<GenApi::IValue *> &features);
     void thaw();
 
@@ -91,11 +91,11 @@ private:
     {
         GenApi::IValue *feature = nullptr;
         Row *category = nullptr;
-        const Row *original = nullptr; ///< of a favourite: the row among the other features
+        const Row *original = nullptr; ///< of a favourite: the row in the ordinary tree
         int sourceRow = -1;
         bool isCategory = false;
-        bool isFound = false; ///< of a category: something below it was found
-        int shownRow = -1;    ///< -1 for one that is not shown
+        bool isFound = false; ///< of a category: a row below it is a search result
+        int shownRow = -1;    ///< -1 for a hidden row
         std::vector<std::unique_ptr<Row>> rows;
         std::vector<Row *> shownRows;
     };

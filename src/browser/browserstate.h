@@ -12,14 +12,14 @@ namespace OrvGui {
 
 /// The saved state of a browser: the state text of its tree, followed by the browser's own part.
 ///
-/// The text of a tree alone is valid, too. A tree can load the text of a browser: it stops reading
-/// numbers at the first unknown character, and the browser's part contains no names that it could
-/// take for categories.
+/// The text of a tree alone is valid, too. A tree can load the text of a browser: it parses numbers
+/// up to the first unknown character, and the browser's part contains nothing that looks like the
+/// name of a category.
 class BrowserState
 {
 public:
-    /// Nothing for an invalid text: without a width or level, with widths or levels that are no
-    /// numbers, or with a damaged part of the browser.
+    /// Returns nothing for an invalid text: without a width or level, with one that is not a
+    /// number, or with a damaged browser part.
     static std::optional<BrowserState> fromText(const QByteArray &text);
     QByteArray toText() const;
 
@@ -30,11 +30,11 @@ public:
     /// The level in the tree's part, if there is one.
     std::optional<int> level() const;
 
-    /// The tree's part with another level, or without any.
+    /// The tree's part with another level; with a null level, without one.
     static QByteArray withLevel(const QByteArray &tree, std::optional<int> level);
 
 private:
-    QJsonObject m_rest; ///< what a later version has added
+    QJsonObject m_rest; ///< entries of later versions, which are kept
 };
 
 } // namespace OrvGui

@@ -137,7 +137,8 @@ void FeatureMarks::noteRefusal(GenApi::IValue *feature, const QString &reason)
 
 void FeatureMarks::putBack(const GenApi::IValue *feature)
 {
-    const QPointer<FeatureMarks> alive(this); // a host may close the tree in reaction to a write
+    // A host may close the tree in its handler of the write.
+    const QPointer<FeatureMarks> alive(this);
     QVector<Change> changes;
     for (const GenApi::IValue *changed : std::as_const(m_order)) {
         if (!feature || changed == feature)
@@ -166,7 +167,8 @@ void FeatureMarks::putBack(const Change &change)
     if (!reason.isEmpty())
         noteRefusal(change.feature, reason);
     else
-        emit changed(change.feature); // its cells were not notified while a selector was elsewhere
+        // Its cells ignored the notification while a selector was moved.
+        emit changed(change.feature);
 }
 
 } // namespace OrvGui

@@ -14,10 +14,10 @@ class GenParamTreeModel;
 
 namespace OrvGui {
 
-/// The changes of a tree's features since it was opened: the changed features with their former
+/// The changes of a tree's features since it was opened: the changed features with their previous
 /// values, and the features whose last write was refused.
 ///
-/// A feature with selectors has a value for each of their values.
+/// A feature with selectors has one value for each selection.
 class FeatureMarks : public QObject
 {
     Q_OBJECT
@@ -30,26 +30,26 @@ public:
         QString before; ///< as GenICam's text
     };
 
-    /// Follows the writes of the model, which must outlive it.
+    /// Follows the writes of the model, which must outlive this object.
     explicit FeatureMarks(GenParamTreeModel &model, QObject *parent = nullptr);
 
     bool isChanged() const { return !m_changes.isEmpty(); }
 
-    /// Of the changed features, regardless of the present values of their selectors.
+    /// The changed features, at any selection.
     FeatureSearch::Features changedFeatures() const;
     bool wasChanged(const GenApi::IValue *feature) const { return m_changes.contains(feature); }
 
-    /// Whether the value that the tree shows was changed. Takes no transfer.
+    /// Whether the value at the present selection was changed. Causes no transfer.
     bool isShownChanged(const GenApi::IValue *feature) const;
 
-    /// The earlier values, for a tool tip; empty for a feature that was not changed.
+    /// The previous values for a tool tip; empty for a feature that was not changed.
     QString earlierText(const GenApi::IValue *feature) const;
 
-    /// Why the last write was refused; null if it was not.
+    /// The reason why the last write was refused; null if it was accepted.
     QString refusal(const GenApi::IValue *feature) const { return m_refusals.value(feature); }
 
-    /// Writes the earlier values back, the last change first; null means all features. A feature
-    /// that refuses is marked, and stays changed.
+    /// Writes the previous values back, the last change first; null for all features. A feature
+    /// that refuses is marked and stays changed.
     void putBack(const GenApi::IValue *feature = nullptr);
 
     /// For a write that bypassed the model. The format of the texts may differ from the model's.
@@ -69,7 +69,8 @@ private:
 
     GenParamTreeModel &m_model;
     QHash<const GenApi::IValue *, QVector<Change>> m_changes;
-    QVector<const GenApi::IValue *> m_order; ///< of the changed features; the last change last
+    /// The changed features; the most recently changed one last.
+    QVector<const GenApi::IValue *> m_order;
     QHash<const GenApi::IValue *, QString> m_refusals;
 };
 

@@ -20,7 +20,7 @@ namespace OrvGui {
 
 namespace {
 
-/// More columns are no small table.
+/// A table with more columns would be too large.
 constexpr int maxColumns = 30;
 
 QString nameOf(GenApi::IValue *feature)
@@ -28,7 +28,7 @@ QString nameOf(GenApi::IValue *feature)
     return fromUtf8(feature->GetNode()->GetName(false));
 }
 
-/// For a menu, in which an ampersand marks a key.
+/// Escapes ampersands, which mark mnemonics in menus.
 QString titleOf(GenApi::IValue *feature)
 {
     const GenICam::gcstring displayName = feature->GetNode()->GetDisplayName();
@@ -75,7 +75,7 @@ FeatureMenu::FeatureMenu(const QModelIndex &row, BrowserModel &shown, GenParamTr
             addSeparator();
         }
     } catch (const GenICam::GenericException &) {
-        // Unavailable information is not offered.
+        // Entries whose information is not available are left out.
     }
     addCategoryActions();
 }
@@ -105,7 +105,7 @@ void FeatureMenu::addSelection()
         selectors = selectorsOf(m_feature);
         others = selectedBy(m_feature);
     } catch (const GenICam::GenericException &) {
-        return; // the description is wrong there
+        return; // the description contradicts itself
     }
     for (GenApi::IValue *selector : selectors) {
         if (isForPeople(selector))
@@ -193,7 +193,7 @@ void FeatureMenu::readAgain(const QModelIndex &row)
             m_shown.refresh(feature);
         }
     } catch (const GenICam::GenericException &) {
-        // The next read fails as well, and the cell shows that.
+        // The error shows in the cell, because the next read fails as well.
     }
     for (int child = 0; child < m_shown.rowCount(row); ++child)
         readAgain(m_shown.index(child, 0, row));

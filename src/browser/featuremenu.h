@@ -17,7 +17,7 @@ class BrowserModel;
 
 /// The context menu of a row of the browser.
 ///
-/// It copies and reads again by itself; the other entries emit signals.
+/// It copies and refreshes itself; for the other entries it emits signals.
 class FeatureMenu : public QMenu
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace OrvGui {
 
 namespace {
 
-// Between texts, so that no word is found across two of them.
+// Separates the texts, so that a match does not span two of them.
 const QChar boundary('\n');
 
 QString folded(const QString &text)
@@ -111,7 +111,7 @@ void FeatureSearch::add(GenApi::IValue *feature, int level)
         if (place.second) {
             m_entries.push_back({feature, own, namesOf(node), textsOf(node)});
         } else {
-            // In several categories, or in a circle of them, which ends here.
+            // A category in several categories, or in a cycle, is visited once.
             Entry &known = m_entries[place.first->second];
             if (known.level <= own)
                 return;
@@ -119,7 +119,7 @@ void FeatureSearch::add(GenApi::IValue *feature, int level)
         }
         collect(feature, own);
     } catch (const GenICam::GenericException &) {
-        // A node whose texts are not available is not found.
+        // A node without readable texts is not found.
     }
 }
 

@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-// How much of the mark's own colour is mixed into the background.
+// The share of the highlight colour in the background of a match.
 constexpr double markShare = 0.55;
 const QColor markColor(0xff, 0xc1, 0x07);
 

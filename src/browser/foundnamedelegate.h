@@ -8,7 +8,7 @@
 
 namespace OrvGui {
 
-/// Paints the name column, with the words of a search marked in the names.
+/// Paints the name column and highlights the search words in the names.
 class FoundNameDelegate : public FeatureNameDelegate
 {
     Q_OBJECT

@@ -32,14 +32,14 @@ namespace {
 
 constexpr int nameColumn = 0;
 
-/// More rows are not unfolded by a search.
+/// A search expands at most so many rows.
 constexpr int maxUnfolded = 1000;
 
 // In the tree's state text.
 constexpr char pathEnd[] = "&lt;";
 constexpr char widthMark[] = "&amp;W";
 
-// As around the tree.
+// The margins of the tree view.
 constexpr int margin = 11;
 constexpr int spacing = 6;
 
@@ -96,7 +96,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     auto *levels = view->findChild<QComboBox *>(QStringLiteral("cbVisibility"));
     const auto levelChanged =
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
-    // Behind the tree's own, which comes with each model.
+    // The tree's delegate is replaced with each model.
     const auto followLevel = [this] {
         if (shown)
             spanCategories();
@@ -108,7 +108,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     renarrow.setInterval(0);
     QObject::connect(&renarrow, &QTimer::timeout, q, [this] { narrow(); });
     undoActions->watchEditorsOf(&tree());
-    // A pending edit is a write of its own, and no editor may keep an outdated value.
+    // Commits a pending edit as a write of its own; an open editor would keep the old value.
     QObject::connect(undoActions, &UndoActions::triggered, q,
                      [this] { OrvGenParamTreeViewPrivate::of(*view).endEditing(); });
     auto *find = new QShortcut(QKeySequence::Find, q);
@@ -137,7 +137,7 @@ void OrvFeatureBrowserPrivate::buildWindow()
     line->setContentsMargins(margin, margin, margin, 0);
     line->addWidget(searchLine, 1);
     line->addWidget(menuButton);
-    auto *counts = new QHBoxLayout; // as high as its contents
+    auto *counts = new QHBoxLayout; // as high as its widgets
     counts->setSpacing(spacing);
     counts->setContentsMargins(margin, 0, margin, 0);
     counts->addWidget(countLabel);
@@ -158,7 +158,8 @@ void OrvFeatureBrowserPrivate::buildMenu()
 {
     menu->setObjectName(QStringLiteral("browserMenu"));
     for (QAction *action : {undoActions->undo(), undoActions->redo()}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut); // the host may have its own
+        // The host may use the same keys.
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         menu->addAction(action);
     }
     menu->addSeparator();
@@ -241,7 +242,7 @@ QAbstractItemModel *OrvFeatureBrowserPrivate::wrap(KnownValuesModel *values)
                      });
     QObject::connect(features(), &GenParamTreeModel::refused, q,
                      [this](GenApi::IValue *feature) { writing.remove(feature); });
-    // Behind the marks, which have the selectors read.
+    // The marks have read the selectors by now.
     QObject::connect(features(), &GenParamTreeModel::written, q,
                      [this](GenApi::IValue *feature, const QString &earlier, const QString &after) {
                          record(feature, earlier, after);
@@ -261,17 +262,17 @@ void OrvFeatureBrowserPrivate::setJournal(const FeatureJournal::Pointer &newJour
                          [this](const FeatureJournal::Write &write) { noteWrite(write); });
 }
 
-/// The texts replace unknown values.
+/// The texts replace values that are not known.
 void OrvFeatureBrowserPrivate::record(GenApi::IValue *feature, const QString &earlier,
                                       const QString &after)
 {
-    const FeatureJournal::Pointer kept = journal; // a receiver may close the camera
+    const FeatureJournal::Pointer kept = journal; // a receiver may disconnect the camera
     if (!kept)
         return;
     GenApi::INode *node = feature->GetNode();
     const FeatureJournal::State now = kept->known(node);
     FeatureJournal::State former = writing.take(feature);
-    // After the write the selectors' values are known.
+    // The selectors' values are known after the write.
     former.selectors = now.selectors;
     former.areSelectorsKnown = now.areSelectorsKnown;
     if (!former.value.isValid() && !earlier.isNull())
@@ -311,7 +312,7 @@ QByteArray OrvFeatureBrowserPrivate::saveTree() const
     try {
         return view->saveState();
     } catch (const GenICam::GenericException &) {
-        return QByteArray(); // a category has fewer features now
+        return QByteArray(); // while a search is shown, a category has fewer rows
     }
 }
 
@@ -322,7 +323,7 @@ void OrvFeatureBrowserPrivate::rememberTree()
     const QByteArray now = saveTree();
     if (now.isEmpty())
         return;
-    // The width and the level are the present ones.
+    // The width and the level are those of the tree as it is now.
     remembered.tree = before ? before->paths + now.mid(int(now.indexOf(widthMark))) : now;
 }
 
@@ -334,7 +335,7 @@ void OrvFeatureBrowserPrivate::restoreTree()
     try {
         view->loadState(tree.constData());
     } catch (const GenICam::GenericException &) {
-        // A category has fewer features now.
+        // While a search is shown, a category has fewer rows.
     }
     spanCategories();
 }
@@ -366,15 +367,14 @@ void OrvFeatureBrowserPrivate::narrow()
     }
     if (isUnfoldingOutdated || !shown->isNarrowedTo(wanted))
         showNarrowed(wanted);
-    tree().viewport()->update(); // other marks in the names
+    tree().viewport()->update(); // the highlights in the names have changed
 }
 
-/// Expands the rows that were found, up to a limit: the layout of thousands of rows would delay
-/// typing.
+/// Expands the search results up to a limit: the layout of thousands of rows would delay typing.
 void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wanted)
 {
     OrvGenParamTreeViewPrivate::of(*view).endEditing();
-    if (!shown) // a host has replaced the tree in reaction to what was written
+    if (!shown) // a host has replaced the tree in its handler of a write
         return;
     shown->narrow(wanted);
     tree().collapseAll();
@@ -383,12 +383,13 @@ void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wante
         tree().expand(category);
     spanCategories();
     isUnfoldingOutdated = false;
-    OrvGenParamTreeViewPrivate::of(*view).describeCurrent(); // the current row may have gone
+    // The current row may have been removed.
+    OrvGenParamTreeViewPrivate::of(*view).describeCurrent();
 }
 
 void OrvFeatureBrowserPrivate::remember()
 {
-    // The tree's own function reads all rows for its state, which would delay typing.
+    // The tree's own state would read all rows, which would delay typing.
     Look look;
     for (const QModelIndex &category : shown->categories()) {
         if (!tree().isExpanded(category))
@@ -426,12 +427,13 @@ void OrvFeatureBrowserPrivate::giveBack()
     }
     spanCategories();
     tree().setCurrentIndex(current);
-    tree().visualRect(shown->index(0, nameColumn)); // does the layout, and with it the scroll bar
+    // Forces the layout, which sets the range of the scroll bar.
+    tree().visualRect(shown->index(0, nameColumn));
     tree().verticalScrollBar()->setValue(look.scrollPosition);
     OrvGenParamTreeViewPrivate::of(*view).describeCurrent();
 }
 
-// Rows that were hidden in between have lost their spans.
+// A row loses its span while it is hidden.
 void OrvFeatureBrowserPrivate::spanCategories()
 {
     for (const QModelIndex &category : shown->categories()) {
@@ -488,7 +490,7 @@ void OrvFeatureBrowserPrivate::goToFirstFound()
         tree().setCurrentIndex(first);
 }
 
-/// In its category, at a level at which it is shown.
+/// Shows the feature in its category, at a level that includes it.
 void OrvFeatureBrowserPrivate::goTo(GenApi::IValue *feature)
 {
     if (!shown->place(feature).isValid()) {
@@ -563,7 +565,7 @@ void OrvFeatureBrowserPrivate::openMenu(const QPoint &position)
     const bool isStarred = feature && !shown->isFavourites(row) && isFavourite(feature);
     auto *context = new FeatureMenu(row, *shown, *features(), isStarred, q);
     context->setAttribute(Qt::WA_DeleteOnClose);
-    // The menu must not be open for a tree that is gone.
+    // The menu must not stay open for a tree that no longer exists.
     QObject::connect(shown.data(), &QObject::destroyed, context, &QWidget::close);
     QObject::connect(context, &FeatureMenu::featureWanted, q,
                      [this](GenApi::IValue *wanted) { goTo(wanted); });
@@ -611,7 +613,7 @@ void OrvFeatureBrowserPrivate::marksChanged()
 {
     putBackAction->setEnabled(shown && shown->marks().isChanged());
     if (onlyChangedAction->isChecked())
-        renarrow.start(); // an editor may be writing
+        renarrow.start(); // an open editor may be committing
 }
 
 void OrvFeatureBrowserPrivate::putBack(const GenApi::IValue *feature)
@@ -677,7 +679,7 @@ OrvFeatureBrowser::OrvFeatureBrowser(OrvGenParam::Array *array, QWidget *parent)
 OrvFeatureBrowser::~OrvFeatureBrowser()
 {
     delete d->table;
-    d->view->clearParams(); // while the receivers of its signals still exist
+    d->view->clearParams(); // receivers of the view's signals still exist
 }
 
 void OrvFeatureBrowser::setParams(OrvGenParam::Array *array)

@@ -13,8 +13,8 @@ namespace OrvGui {
 
 class OrvFeatureBrowserPrivate;
 
-/// Shows the features of a camera as `OrvGenParamTreeView` does, with functions to find features,
-/// and to see and undo changes.
+/// Shows the features of a camera as `OrvGenParamTreeView` does, and adds functions to find
+/// features and to view and undo changes.
 ///
 /// - A search line (Ctrl+F) limits the tree to the features that it finds. Escape restores the
 ///   tree.
@@ -26,8 +26,8 @@ class OrvFeatureBrowserPrivate;
 /// - A table shows a feature's values for all values of its selector.
 ///
 /// An ordinary widget for Qt programs, which can replace a tree; see `IOrvGenParamTreeView` for
-/// lifetimes and for the functions. Unlike a tree, a browser keeps its state when it is given other
-/// parameters, even if it had none in between.
+/// lifetimes and the functions. Unlike a tree, a browser keeps its state when it is given other
+/// parameters, even when it has had no parameters for a time.
 class ORVCAMERAGUIAPI_EXPORT OrvFeatureBrowser : public QWidget, public IOrvGenParamTreeView
 {
     Q_OBJECT

@@ -73,7 +73,7 @@ public:
     void setJournal(const FeatureJournal::Pointer &newJournal);
     void record(GenApi::IValue *feature, const QString &earlier, const QString &after);
 
-    /// For a write to the same camera that bypassed the browser, so that the change is marked.
+    /// Marks a change by a write that bypassed the browser.
     void noteWrite(const FeatureJournal::Write &write);
     void putBack(const GenApi::IValue *feature);
 
@@ -82,7 +82,7 @@ public:
     bool restoreState(const QByteArray &text);
 
     OrvFeatureBrowser *const q;
-    // In the order of the tab key.
+    // In tab order.
     QLineEdit *searchLine;
     QToolButton *menuButton;
     QLabel *countLabel;
@@ -96,29 +96,30 @@ public:
 
     UndoActions *undoActions;
     FeatureJournal::Pointer journal; ///< of the node map; null without one
-    QHash<const GenApi::IValue *, FeatureJournal::State> writing; ///< former states during writes
+    /// The state before each write that is in progress.
+    QHash<const GenApi::IValue *, FeatureJournal::State> writing;
     bool isRecording = false;
 
-    QTimer renarrow; ///< when the set of changed features has changed
+    QTimer renarrow; ///< filters again after the set of changed features has changed
     QPointer<SelectorTable> table;
 
     GenApi::INodeMap *nodeMap = nullptr;
     QPointer<BrowserModel> shown; ///< null without features
     BrowserState remembered;      ///< without the tree's part while there are features
-    QByteArray text;              ///< handed out by `saveState`
-    int higherLevel = 0;          ///< at which all found features are shown
+    QByteArray text;              ///< returned by `saveState`
+    int higherLevel = 0;          ///< the lowest level at which all results are shown
 
-    /// The look of the tree before it was narrowed.
+    /// The state of the tree before it was filtered.
     struct Look
     {
         QByteArray paths; ///< of the expanded categories, as in the state text
-        /// Categories, each with the one that it is in.
+        /// Expanded categories, each with its parent category.
         std::vector<std::pair<GenApi::IValue *, GenApi::IValue *>> expanded;
         GenApi::IValue *current = nullptr;
         bool isCurrentFavourite = false;
         int scrollPosition = 0;
     };
-    std::optional<Look> before; ///< while it is narrowed
+    std::optional<Look> before; ///< set while the tree is filtered
     bool isUnfoldingOutdated = false;
 };
 

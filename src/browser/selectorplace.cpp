@@ -16,7 +16,7 @@ SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model)
         for (GenApi::IValue *selector : selectorsOf(feature))
             places.append({selector, model.text(selector)});
     } catch (const GenICam::GenericException &) {
-        return {}; // the description is wrong there
+        return {}; // the description contradicts itself
     }
     return places;
 }

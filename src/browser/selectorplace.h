@@ -24,13 +24,13 @@ struct SelectorPlace
     }
 };
 
-/// Those that a feature depends on; selectors of selectors come before these.
+/// The selectors that a feature depends on; selectors of selectors come first.
 using SelectorPlaces = QVector<SelectorPlace>;
 
-/// The present values of a feature's selectors. Waits for the camera when one is not known.
+/// The present values of a feature's selectors. Blocks when a value is not cached.
 SelectorPlaces placesOf(GenApi::IValue *feature, const GenParamTreeModel &model);
 
-/// Throws the GenICam exception of a selector that cannot be moved.
+/// Throws GenICam's exception when a selector cannot be moved.
 void moveTo(const SelectorPlaces &places, SelectorMove *move);
 
 } // namespace OrvGui

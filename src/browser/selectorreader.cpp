@@ -17,7 +17,7 @@ namespace OrvGui {
 
 namespace {
 
-/// More values of a selector are no small table.
+/// A table with more rows would be too large.
 constexpr int64_t maxEntries = 64;
 
 QString reasonOf(const GenICam::GenericException &exception)
@@ -53,7 +53,7 @@ QStringList entriesOf(GenApi::IInteger &selector)
     const int64_t max = selector.GetMax();
     if (increment < 1 || max < min)
         return entries;
-    // As unsigned numbers: the distance may be more than an integer holds.
+    // Unsigned, because the difference may exceed the range of a signed integer.
     const uint64_t steps = (static_cast<uint64_t>(max) - static_cast<uint64_t>(min)) /
                            static_cast<uint64_t>(increment);
     for (uint64_t i = 0; i <= steps && i < uint64_t(maxEntries); ++i)
@@ -96,7 +96,8 @@ void SelectorReader::readRows()
     try {
         m_selector->FromString(former, true);
     } catch (const GenICam::GenericException &) {
-        m_selector->FromString(former, true); // a write that was not answered may have arrived
+        // Also after a write without an answer, which the camera may have executed.
+        m_selector->FromString(former, true);
     }
 }
 

@@ -10,11 +10,11 @@
 
 namespace OrvGui {
 
-/// Reads features for all values of one of their selectors, on a thread of its own, and restores
-/// the selector.
+/// Reads features for all values of one of their selectors on a separate thread, and restores the
+/// selector.
 ///
-/// While it runs the selector is moved: prevent all writes to the camera, and keep a
-/// `SelectorDetour` on the GUI thread. The node map must outlive the reader.
+/// The selector is moved while the thread runs: prevent all writes to the camera during that time,
+/// and keep a `SelectorDetour` on the GUI thread. The node map must outlive the reader.
 class SelectorReader : public QThread
 {
     Q_OBJECT
@@ -22,27 +22,27 @@ class SelectorReader : public QThread
 public:
     struct Cell
     {
-        QString text;  ///< as GenICam's; null when there is no value
-        QString shown; ///< as the tree's
+        QString text;  ///< in GenICam's format; null when there is no value
+        QString shown; ///< in the format of the tree
         bool isWritable = false;
     };
     struct Row
     {
         QString entry;
-        QString refusal; ///< why the selector cannot be moved there
+        QString refusal; ///< the reason why the selector cannot have this value
         QVector<Cell> cells;
     };
 
     SelectorReader(GenApi::INodeMap *nodeMap, GenApi::IValue *selector,
                    const QVector<GenApi::IValue *> &features, QObject *parent = nullptr);
 
-    /// Ends the reading; waits until the selector is restored.
+    /// Stops the reading; blocks until the selector is restored.
     ~SelectorReader() override;
 
-    /// When it has finished.
+    /// Call these after the thread has finished.
     const QVector<Row> &rows() const { return m_rows; }
 
-    /// The error that has ended the reading; null for none.
+    /// The error that stopped the reading; null for none.
     QString failure() const { return m_failure; }
 
     /// The feature's value at the present values of its selectors.

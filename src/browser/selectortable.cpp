@@ -29,11 +29,11 @@ namespace OrvGui {
 
 namespace {
 
-// Of the window, in lines of text.
+// The size of the window in lines of text.
 constexpr int linesOfWidth = 32;
 constexpr int linesOfHeight = 21;
 
-constexpr int textRole = Qt::UserRole; ///< of a cell: GenICam's text
+constexpr int textRole = Qt::UserRole; ///< of a cell: the value in GenICam's format
 
 QString nameOf(GenApi::IValue *feature)
 {
@@ -43,7 +43,8 @@ QString nameOf(GenApi::IValue *feature)
                       LongestName);
 }
 
-/// The texts of the choices and GenICam's texts for them; none for a typed value.
+/// The captions of the choices with their values in GenICam's format; empty for a value that is
+/// typed.
 QVector<std::pair<QString, QString>> choicesOf(GenApi::IValue *feature)
 {
     QVector<std::pair<QString, QString>> choices;
@@ -67,14 +68,14 @@ QVector<GenApi::IValue *> movingWith(GenApi::IValue *selector)
         for (GenApi::IValue *feature : selectedBy(selector))
             moving.append(feature);
     } catch (const GenICam::GenericException &) {
-        // The description is wrong there.
+        // The description contradicts itself.
     }
     return moving;
 }
 
 } // namespace
 
-/// Edits a cell as GenICam's text, or by choosing an entry.
+/// Edits the value of a cell as text, or by a list of entries.
 class SelectorTableDelegate : public QStyledItemDelegate
 {
 public:
@@ -144,7 +145,7 @@ SelectorTable::SelectorTable(GenApi::INodeMap *nodeMap, GenParamTreeModel &featu
 
 SelectorTable::~SelectorTable()
 {
-    m_reader.reset(); // which waits until the selector is restored
+    m_reader.reset(); // blocks until the selector is restored
     if (isReading())
         endReading();
 }
@@ -192,7 +193,7 @@ void SelectorTable::readAgain()
     m_reader->start();
 }
 
-/// Only when the selector is restored: the other windows can be used then.
+/// Runs when the selector has been restored and the other windows can be used again.
 void SelectorTable::reject()
 {
     if (isReading()) {
@@ -232,7 +233,7 @@ void SelectorTable::showRows()
     m_table->setVerticalHeaderLabels(names);
     m_table->resizeColumnsToContents();
     m_table->setEnabled(true);
-    m_table->setFocus(); // which it has lost while it was disabled
+    m_table->setFocus(); // the table lost the focus when it was disabled
     m_readAgain->setEnabled(true);
     const QString failure = m_reader->failure();
     m_note->setText(failure.isNull()
@@ -265,7 +266,7 @@ void SelectorTable::enter(int row, int column, const QString &text)
 {
     if (isReading())
         return;
-    const QPointer<SelectorTable> alive(this); // a host may replace the tree in reaction
+    const QPointer<SelectorTable> alive(this); // a host may replace the tree in its handler
     GenApi::IValue *feature = m_columns.at(column);
     QString value = text;
     if (dynamic_cast<GenApi::IFloat *>(feature))

@@ -18,12 +18,12 @@ class QTableWidget;
 
 namespace OrvGui {
 
-/// The values of features for all values of one of their selectors, side by side: a row for each
-/// value of the selector, a column for each feature.
+/// Shows the values of features for all values of one of their selectors: a row for each value of
+/// the selector, a column for each feature.
 ///
 /// The values are read in the background. The camera's other windows are blocked during that time,
-/// because their writes would change the value of another selection. A value that is entered is
-/// written at once, and one that is refused is marked with the reason.
+/// because their writes would go to the wrong selection. A value is written when it is entered; a
+/// refused one is marked with the reason.
 class SelectorTable : public QDialog
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ private:
     QPushButton *m_readAgain;
     QStringList m_entries;
     bool m_isToBeClosed = false;
-    // While it is being read.
+    // Used during the reading only.
     std::optional<SelectorDetour> m_detour;
     std::optional<SelectorsInUse> m_inUse;
     std::unique_ptr<SelectorReader> m_reader;
