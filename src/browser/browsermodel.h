@@ -46,7 +46,7 @@ public:
     void setFavourites(const QVector<GenApi::IValue *> &favourites);
 
     /// Shows only those features, with their categories. A category that is in the list and has no
-    /// listed features below it keeps all its rows. An empty list shows all features.
+    /// listed features below it keeps all its rows. Shows all features without a list.
     void narrow(const std::optional<Features> &features);
     bool isNarrowedTo(const std::optional<Features> &features) const;
 

@@ -312,7 +312,7 @@ QByteArray OrvFeatureBrowserPrivate::saveTree() const
     try {
         return view->saveState();
     } catch (const GenICam::GenericException &) {
-        return QByteArray(); // while a search is shown, a category has fewer rows
+        return QByteArray(); // the list of a category has become shorter
     }
 }
 
@@ -335,7 +335,7 @@ void OrvFeatureBrowserPrivate::restoreTree()
     try {
         view->loadState(tree.constData());
     } catch (const GenICam::GenericException &) {
-        // While a search is shown, a category has fewer rows.
+        // The list of a category has become shorter.
     }
     spanCategories();
 }

@@ -115,7 +115,7 @@ bool AreaPresets::findSpan(Preset preset, Side offset, Side size, const Int *sen
 
     qint64 extent;
     if (!sensor || !read(&Int::GetValue, sensor, extent))
-        extent = lastOffset + current; // the area can be moved right to the edge
+        extent = lastOffset + current; // the area may be moved to the edge of the sensor
     span.size = floored(preset == FullFrame ? extent : wanted, smallest, length);
     if (span.size < smallest || span.size > extent)
         return false;
@@ -133,7 +133,7 @@ bool AreaPresets::isHeld(Side offset, Side size, const Span &span) const
            length == span.size;
 }
 
-// The end of the area must stay on the sensor all the time.
+// The area must stay on the sensor after each step.
 void AreaPresets::appendSteps(Side offset, Side size, const Span &span, Steps &steps) const
 {
     const qint64 current = m_sides[offset]->GetValue();

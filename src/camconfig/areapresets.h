@@ -13,25 +13,25 @@ class Param;
 
 namespace OrvGui {
 
-/// The areas of interest that a user chooses by name instead of by four numbers, for the frame that
-/// a camera's features address at the moment.
+/// The named areas of interest that a user can choose, for the frame that a camera's features
+/// address at present.
 ///
-/// Reads the camera whenever it is asked; writes nothing. The parameters belong to the array, which
-/// must outlive the object.
+/// Each call reads the camera; nothing is written. The parameters belong to the array, which must
+/// outlive the object.
 class AreaPresets
 {
 public:
     enum Preset {
         FullFrame, ///< the whole sensor
         Qfhd,      ///< 3840 by 2160 in the middle of the sensor
-        Custom     ///< anything
+        Custom     ///< any other area
     };
     enum Side { OffsetX, OffsetY, Width, Height, SideCount };
 
-    /// A side and its value; written one after the other, each step is valid where the last led.
+    /// A side and its value. Written in order, each step is valid after the previous ones.
     using Steps = QVector<QPair<Side, qint64>>;
 
-    /// Of no camera: offers nothing.
+    /// Without a camera: no preset is available.
     AreaPresets() = default;
     explicit AreaPresets(OrvGenParam::Array *array);
 
@@ -40,18 +40,18 @@ public:
     /// Null where the camera lacks the feature.
     OrvGenParam::Int *param(Side side) const { return m_sides[side]; }
 
-    /// Whether a change of the parameter may change what this object says.
+    /// Whether a change of the parameter may change the result of another function.
     bool dependsOn(const OrvGenParam::Param *param) const;
 
-    /// False when the sensor is too small, or its area cannot be set at the moment.
+    /// False when the sensor is too small for it, or when the area cannot be set at present.
     bool offers(Preset preset) const;
 
     bool holds(Preset preset) const;
 
-    /// The four values, 0 for what cannot be read.
+    /// The four values; 0 for a value that cannot be read.
     QVector<qint64> area() const;
 
-    /// None for an area that the camera holds already, and for `Custom`.
+    /// The writes that set the area; none for an area that is set already, and for `Custom`.
     Steps stepsTo(Preset preset) const;
 
 private:

@@ -17,9 +17,9 @@ namespace OrvGui {
 
 class FeatureReader;
 
-/// Fills the dialog with the information about this program and the connected camera.
+/// Fills a dialog with information about this program and the connected camera.
 ///
-/// The dialog is a child of the given widget; nothing more is read when that is destroyed.
+/// The dialog is a child of the given widget; nothing is read after that is destroyed.
 class CameraInformation
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::CameraInformation)
@@ -28,8 +28,8 @@ public:
     explicit CameraInformation(QWidget *parent);
     ~CameraInformation();
 
-    /// Reads the camera's information. The dialog says so when there is no camera (`array` is
-    /// null), or when a text is missing.
+    /// Reads the camera's information. The dialog states when there is no camera (`array` is null),
+    /// and when a text is missing.
     void adjust(const FeatureReader &reader, OrvGenParam::Array *array);
 
     QDialog *dialog() const { return m_dialog; }

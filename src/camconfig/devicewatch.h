@@ -11,10 +11,10 @@ class Device;
 
 namespace OrvGui {
 
-/// Keeps the last event of a device whose camera is unplugged or back, to be polled.
+/// Stores the last connection event of a device (its camera is unplugged or back) for polling.
 ///
-/// The device reports it on any thread, `take` returns it on that of the caller. The device must
-/// live until another one, or none, is watched.
+/// The device reports the event on any thread; `take` returns it on the caller's. The device must
+/// exist until another one, or none, is watched.
 class DeviceWatch
 {
 public:
@@ -29,7 +29,7 @@ public:
 
     OrvCam::Device *device() const { return m_device; }
 
-    /// The last event since the last call.
+    /// The last event since the previous call.
     Event take();
 
 private:

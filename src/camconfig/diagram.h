@@ -6,9 +6,10 @@
 namespace OrvGui {
 
 /// A label that draws a picture of the resources in the colours, the font and the language of its
-/// form: the bitmap of that name, which it holds as its pixmap, has one colour, size and language.
+/// form. The pixmap of the label is the bitmap of that name, which has fixed colours, size and
+/// language.
 ///
-/// Any other pixmap or text is shown as by any label.
+/// Shows any other pixmap or text as a `QLabel` does.
 class Diagram : public QLabel
 {
     Q_OBJECT

@@ -10,10 +10,10 @@ namespace OrvGui {
 
 namespace {
 
-const qreal ordinaryHeight = 15; // of the lines of a font with which a unit is a pixel
+const qreal ordinaryHeight = 15; // the line height of the font for which a unit is one pixel
 
 const qreal margin = 8;
-const qreal textMargin = 12; // beside a text that stands between two lines
+const qreal textMargin = 12; // beside a text between two lines
 const qreal cellMargin = 4;  // above and below the text in a cell
 const qreal arrow = 5;
 const qreal spanGap = 12; // from a line to the arrow that spans a part of it
@@ -66,11 +66,12 @@ DiagramDrawing::DiagramDrawing(const QFontMetrics &metrics, const QPalette &pale
                                QPainter *painter)
     : m_metrics(metrics), m_painter(painter), m_height(metrics.height())
 {
-    // Large letters need larger lines, but not as much larger: screens do not grow with the font.
+    // Large letters need longer lengths, but less than in proportion: screens do not grow with the
+    // font.
     m_unit = (1 + m_height / ordinaryHeight) / 2;
     m_ink = palette.color(QPalette::WindowText);
     const bool isEnabled = palette.currentColorGroup() != QPalette::Disabled;
-    const bool isDark = m_ink.lightnessF() > 0.5; // a style sheet is only sure to set the ink
+    const bool isDark = m_ink.lightnessF() > 0.5; // a style sheet may set the text colour alone
     m_signal = isDark ? QColor(0x6a, 0xb4, 0xee) : QColor(0x1f, 0x74, 0xbd);
     m_exposure = QColor(0xe0, 0x99, 0x2f, 0x60);
     if (!isEnabled)
@@ -292,7 +293,7 @@ void DiagramDrawing::drawSpan(qreal from, qreal to, qreal y, const QString &text
     drawText(QRectF(from, y + length(arrow), to - from, m_height), Qt::AlignHCenter, text);
 }
 
-/// With the pen of the arrow.
+/// Uses the pen of the arrow.
 void DiagramDrawing::drawArrowHead(const QPointF &tip, const QPointF &direction) const
 {
     const qreal whole = qSqrt(QPointF::dotProduct(direction, direction));

@@ -9,17 +9,17 @@ class QPainter;
 
 namespace OrvGui {
 
-/// The drawings behind the pictures: lengths that hold a text are as long as it takes, all others
-/// grow with the font.
+/// The drawings that replace the pictures. Lengths next to a text fit the text, all others scale
+/// with the font.
 class DiagramDrawing
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::DiagramDrawing)
 
 public:
-    /// Draws with the painter; without one, only `size` can be called.
+    /// Draws with the painter. Without one, only `size` may be called.
     DiagramDrawing(const QFontMetrics &metrics, const QPalette &palette, QPainter *painter);
 
-    /// The name of the picture's resource. False if there is no drawing of it.
+    /// The name of the picture's resource. False if there is no drawing for it.
     static bool knows(const QString &picture);
     QSize size(const QString &picture) const;
     void draw(const QString &picture) const;
@@ -51,7 +51,7 @@ private:
 
     const QFontMetrics m_metrics;
     QPainter *const m_painter;
-    qreal m_unit;   ///< how long a length of 1 is
+    qreal m_unit;   ///< pixels per unit of length
     qreal m_height; ///< of a line of text
     QColor m_ink, m_signal, m_help, m_exposure, m_readout;
 };

@@ -10,7 +10,7 @@ namespace OrvGui {
 class FeatureJournal;
 class FeatureReader;
 
-/// The mapper of a feature dialog, which reads and writes parameters of its own as the mapper does.
+/// The mapper of a feature dialog, with access to its reader and its journal.
 class DialogMapper : public OrvCamConfigMapper
 {
 public:

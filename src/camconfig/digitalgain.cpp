@@ -22,11 +22,12 @@ namespace {
 
 constexpr double fineSteps = 64.0;
 
-/// Registers may have a far larger range. The slider counts its steps in an int.
+/// Limits the range of the slider, which counts its steps in an int; registers may have a larger
+/// one.
 const double largestFactor = DigitalGain::step * std::numeric_limits<int>::max();
 constexpr qint64 mostDoublings = 27;
 
-/// Limits the number of doublings, so that the powers of two are valid.
+/// Limits the number of doublings, so that the powers of two do not overflow.
 DigitalGain::Parts read(const FeatureReader &reader, int64_t (Int::*get)(int32_t *) const,
                         const Int *coarse, const Int *fine)
 {

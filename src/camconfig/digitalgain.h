@@ -16,8 +16,8 @@ namespace OrvGui {
 class FeatureJournal;
 class FeatureReader;
 
-/// The digital gain of the frame that a camera's features address: a factor for the user, a coarse
-/// and a fine part for the camera.
+/// The digital gain of the frame that a camera's features address: one factor for the user, a
+/// coarse and a fine part for the camera.
 ///
 /// The parameters belong to the array, which must outlive the object.
 class DigitalGain
@@ -30,17 +30,17 @@ public:
         bool operator!=(Parts other) const { return coarse != other.coarse || fine != other.fine; }
 
         qint64 coarse = 0; ///< the number of doublings
-        qint64 fine = 0;   ///< 64ths of the way to the next doubling
+        qint64 fine = 0;   ///< 64ths of a doubling
     };
 
     /// The step of the factor.
     static constexpr double step = 0.125;
 
-    /// Of no camera.
+    /// Without a camera.
     DigitalGain() = default;
     explicit DigitalGain(OrvGenParam::Array *array);
 
-    /// Null where the camera lacks the feature, whose part is 0 then.
+    /// Null when the camera lacks the feature; its part is 0 then.
     OrvGenParam::Int *coarse() const { return m_coarse; }
     OrvGenParam::Int *fine() const { return m_fine; }
 
@@ -55,11 +55,11 @@ public:
     Parts min() const { return m_min; }
     Parts max() const { return m_max; }
 
-    /// Takes a value that is going to be written by the other two; returns the former one.
+    /// Stores a value that the other two are going to write; returns the previous one.
     Parts setValue(Parts value);
 
-    /// Write a part of the value, unless the camera lacks it. A refusal is not reported. Either may
-    /// lead to anything that a change of a feature leads to.
+    /// Write a part of the value, unless the camera lacks it. A refusal is not reported. The write
+    /// may trigger notifications that destroy this object.
     void writeCoarse(const std::shared_ptr<FeatureJournal> &journal, Parts former) const;
     void writeFine(const std::shared_ptr<FeatureJournal> &journal, Parts former) const;
 

@@ -8,20 +8,20 @@
 
 namespace OrvGui {
 
-/// Notifies of the end of a drag of a slider's handle, so that a drag is one change.
+/// Signals the end of a drag of a slider's handle, so that a drag is one change.
 ///
-/// Sliders report each position of a drag; value widgets with a slider report none. Connect to this
-/// in place of them.
+/// Plain sliders report each position of a drag, value widgets with a slider report none. Connect
+/// to this object in place of them.
 class DragWatcher : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Returns the value that the user changes by the drag, in any unit.
+    /// Returns the value that the drag changes, in any unit.
     using Value = std::function<double()>;
 
-    /// Watches a `QSlider`, `QtOrvSlider` or `QtOrvDoubleSlider`. The value is compared at the
-    /// press and at the release of the handle.
+    /// Watches a `QSlider`, `QtOrvSlider` or `QtOrvDoubleSlider`. Compares the value at the press
+    /// and at the release of the handle.
     template<class Slider>
     DragWatcher(Slider *slider, Value value, QObject *parent = nullptr)
         : QObject(parent), m_value(std::move(value)), m_atPress(m_value())

@@ -10,13 +10,13 @@ class EnumEntry;
 
 namespace OrvGui {
 
-/// Null when the index is not below the number of entries, too.
+/// Also null when the index is out of range.
 OrvGenParam::EnumEntry *entryAt(const OrvGenParam::Enum *param, int index);
 
 /// The symbolic name; empty for null.
 QString symbolicOf(const OrvGenParam::EnumEntry *entry);
 
-/// The same, short enough for a control.
+/// The same, truncated for a control.
 QString captionOf(const OrvGenParam::EnumEntry *entry);
 
 } // namespace OrvGui

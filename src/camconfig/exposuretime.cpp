@@ -32,7 +32,7 @@ long quotient(qint64 dividend, qint64 divisor)
 {
     if (divisor == 0)
         return 0;
-    const double end = 9.2e18; // within the range of the result
+    const double end = 9.2e18; // in the range of the result type
     const double number = static_cast<double>(dividend) / static_cast<double>(divisor);
     return static_cast<long>(qBound(-end, number + 0.5, end));
 }

@@ -16,8 +16,8 @@ class FeatureReader;
 /// The exposure time and the frame period in microseconds, of the frame that a camera's features
 /// address. A camera counts the exposure in lines and pixel clocks, and the period in lines.
 ///
-/// Calculates with the values that were read last; writes nothing. The parameters belong to the
-/// array, which must outlive the object.
+/// Calculates with the values of the last read; writes nothing. The parameters belong to the array,
+/// which must outlive the object.
 class ExposureTime
 {
 public:
@@ -29,7 +29,7 @@ public:
         qint64 clocks = 0;
     };
 
-    /// Of no camera: all times are 0.
+    /// Without a camera: all times are 0.
     ExposureTime() = default;
     explicit ExposureTime(OrvGenParam::Array *array);
 
@@ -38,7 +38,7 @@ public:
     /// Null where the camera lacks the feature.
     OrvGenParam::Int *param(Feature feature) const { return m_params[feature]; }
 
-    /// Whether the parameter is a unit of all times: the pixel clock or the line time.
+    /// Whether all times depend on the parameter: the pixel clock or the line time.
     bool isUnit(const OrvGenParam::Param *param) const;
 
     /// Whether the parameter is a part of the exposure: the lines or the clocks.
@@ -47,7 +47,7 @@ public:
     /// False when the camera lacks a part of the exposure.
     bool isComplete() const { return param(Lines) && param(Clocks); }
 
-    /// Keeps a value that cannot be read, but sets such a pixel clock to the usual one.
+    /// Keeps a value that cannot be read; a pixel clock that cannot be read gets the default.
     void readPixelClock(const FeatureReader &reader);
     void readLineTime(const FeatureReader &reader);
     void readParts(const FeatureReader &reader);
@@ -55,10 +55,10 @@ public:
     qint64 time() const { return timeOf(m_parts); }
     qint64 maxTime() const { return timeOf(m_maxParts); }
 
-    /// The parts to write for a time; they count as read.
+    /// The parts to write for a time. They are stored as if they had been read.
     Parts split(int time);
 
-    /// Microseconds of a number of lines, and the reverse; rounded.
+    /// Converts lines to microseconds, and the reverse; rounded.
     long toControl(long lines) const;
     long toDevice(long microseconds) const;
 

@@ -19,7 +19,7 @@ namespace OrvGui {
 
 namespace {
 
-/// A value that changes faster than it can be read is shown after so many.
+/// The number of attempts for a value that changes faster than it can be read; then it is shown.
 constexpr int maxRounds = 3;
 
 LookAhead *lookAheadOf(const Array *array)
@@ -46,7 +46,7 @@ void addEnum(const OrvGenParam::Enum *param, std::vector<LookAhead::Ask> &asks)
     }
 }
 
-/// One function for each value, so that one that waits for an answer does not delay others.
+/// One function per value, so that a value with a slow answer does not delay others.
 void add(const Param *param, std::vector<LookAhead::Ask> &asks)
 {
     if (!param)
@@ -91,7 +91,7 @@ void FeatureReader::setArray(const Array *array)
     m_array = array;
 }
 
-/// Null, too, while the camera is lost: then every read fails at once.
+/// Also null while the camera is disconnected: then every read fails at once.
 LookAhead *FeatureReader::lookAhead() const
 {
     return lookAheadOf(m_array);
@@ -163,7 +163,7 @@ void FeatureReader::whenKnown(const void *owner, const void *subject, const Para
     };
     m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), isSame), m_waiting.end());
     if (!lookAhead()) {
-        // The camera is lost: its array may be destroyed before the rest is fetched.
+        // The camera is disconnected: its array may be destroyed before the rest is fetched.
         setArray(m_array);
         return call();
     }
@@ -195,7 +195,7 @@ void FeatureReader::fetched()
         if (++next.rounds < maxRounds && lookAhead() && !areKnown(next.params))
             m_waiting.append(next);
         else
-            next.call(); // which may set another array, or destroy this
+            next.call(); // may set another array, or destroy this object
         if (!alive)
             return;
     }

@@ -17,13 +17,13 @@ class Param;
 
 namespace OrvGui {
 
-/// Reads the values of a camera's parameters that widgets show, without blocking the window for
-/// each answer of the camera.
+/// Reads the values of a camera's parameters that widgets show, without blocking the window during
+/// each transfer.
 ///
 /// Before widgets are bound, `fetchNow` reads all values in a few transfers. Later reads run in the
-/// background: pass the function that needs them to `whenKnown`. Such a function reads through
-/// `get`. For an array whose node map cannot look ahead, nothing is fetched and functions are
-/// called at once.
+/// background: pass the function that needs the values to `whenKnown`. Such a function reads
+/// through `get`. For an array whose node map has no look-ahead, nothing is fetched and functions
+/// are called at once.
 class FeatureReader
 {
 public:
@@ -34,24 +34,24 @@ public:
     ~FeatureReader();
     Q_DISABLE_COPY(FeatureReader)
 
-    /// The array whose parameters are read, which has to live until another one is set; null for
-    /// none. Pending calls for the former one are dropped.
+    /// Sets the array whose parameters are read, which must exist until another one is set; null
+    /// for none. Drops pending calls for the previous one.
     void setArray(const OrvGenParam::Array *array);
 
     /// Whether values have to be transferred before they are shown.
     bool looksAhead() const { return lookAhead() != nullptr; }
 
-    /// Blocks. Null pointers are left out.
+    /// Blocks. Null pointers are ignored.
     void fetchNow(const Params &params) const;
 
-    /// The same by name, on any thread. The array must not be in use elsewhere.
+    /// The same by name, on any thread. The array must not be in use by others.
     static void fetchNow(const OrvGenParam::Array &array, const Names &features);
 
     /// Null pointers for the parameters that the array lacks.
     static Params named(const OrvGenParam::Array &array, const Names &features);
 
-    /// The result of a function that only reads parameters. The values are a second old at most
-    /// when all are known; otherwise they are read from the camera. May call the function several
+    /// The result of a function that only reads parameters. When all values are known, they are at
+    /// most a second old; otherwise they are read from the camera. May call the function several
     /// times.
     template<class Question>
     auto get(Question question) const -> decltype(question())
@@ -61,8 +61,8 @@ public:
         return isKnown ? value : question();
     }
 
-    /// Reads the value or a limit of a number. Changes the value only if the camera answers; false
-    /// if it does not, and for null.
+    /// Reads the value or a limit of a number. Returns false, and leaves the value unchanged, if
+    /// the camera does not answer and for null.
     bool read(const OrvGenParam::Int *param, int64_t (OrvGenParam::Int::*question)(int32_t *) const,
               qint64 &value) const;
 
@@ -70,8 +70,8 @@ public:
     bool isReadable(const OrvGenParam::Param *param) const;
     bool isWritable(const OrvGenParam::Param *param) const;
 
-    /// Calls the function as soon as all values of the parameters are known, which may be at once.
-    /// A later call for the same owner and subject replaces a pending one.
+    /// Calls the function when all values of the parameters are known, which may be at once. A
+    /// later call for the same owner and subject replaces a pending one.
     void whenKnown(const void *owner, const void *subject, const Params &params,
                    const std::function<void()> &call);
 
@@ -92,7 +92,7 @@ private:
     void fetched();
 
     const OrvGenParam::Array *m_array = nullptr;
-    QTimer m_timer; ///< collects the notifications of one change of the camera
+    QTimer m_timer; ///< merges the notifications of one change of the camera
     QVector<Waiting> m_waiting;
     QVector<Waiting> m_underWay;
     std::unique_ptr<OrvGenParam::LookAhead::Request> m_request;

@@ -13,7 +13,7 @@ namespace OrvGui {
 
 namespace {
 
-/// The property of a widget with the tool tip that was set here.
+/// The property of a widget that stores the tool tip set by this class.
 constexpr char given[] = "orvFeatureToolTip";
 
 QString escaped(const char *text)
@@ -64,7 +64,7 @@ QString FeatureToolTip::unit(const OrvGenParam::Param *param)
     return unit.isEmpty() ? QString() : tr("Unit: %1").arg(unit);
 }
 
-/// Empty when the name that is shown to users is the same.
+/// Empty when it is equal to the display name.
 QString FeatureToolTip::name(const OrvGenParam::Param *param)
 {
     const QString name = escaped(param->GetName());
@@ -89,7 +89,7 @@ void FeatureToolTip::setOne(QWidget *widget, const QString &text)
     if (isOwn)
         return;
     widget->setToolTip(text);
-    // A screen reader takes the tool tip without a description, and would read out its tags.
+    // Without a description, a screen reader would read the tool tip with its markup.
     widget->setAccessibleDescription(QTextDocumentFragment::fromHtml(text).toPlainText());
 }
 

@@ -27,18 +27,18 @@ public:
         qint64 increment;
     };
 
-    /// The feature's names, description and unit, as rich text in which the camera's texts are
-    /// escaped. Empty without a parameter. Reads nothing from the camera.
+    /// The feature's names, description and unit as rich text, with the camera's texts escaped.
+    /// Empty without a parameter. Reads nothing from the camera.
     static QString text(const OrvGenParam::Param *param);
 
-    /// The same, with the range. Without the unit when the range is in another one.
+    /// The same with the range. The unit is left out when the range has another one.
     static QString text(const OrvGenParam::Param *param, const Range &range, bool isCamerasUnit);
 
-    /// Of several features, of which some may be null.
+    /// The same for several features; null pointers are ignored.
     static QString text(std::initializer_list<const OrvGenParam::Param *> params);
 
-    /// Sets the tool tip of the widget and of its labels, those of which it is the buddy. A tool
-    /// tip that was not set by this class is kept. An empty text removes it.
+    /// Sets the tool tip of the widget and of its labels (those of which it is the buddy). A tool
+    /// tip that this class has not set is kept. An empty text removes the tool tip.
     static void set(QWidget *widget, const QString &text);
 
 private:

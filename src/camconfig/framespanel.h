@@ -19,7 +19,7 @@ namespace OrvGui {
 struct FrameNumbers;
 
 /// The status panel of the main window: a column of numbers for each frame of the camera, the
-/// temperature, and the history of both. Shows what it is given; reads nothing.
+/// temperature, and the history of both. Displays the given values; reads nothing.
 class FramesPanel
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::OrvCamConfig)
@@ -27,24 +27,24 @@ class FramesPanel
 public:
     using Frame = CameraHistory::Frame;
 
-    /// The form, which is complete, must outlive the panel. The windows of the history belong to
-    /// `window`.
+    /// The form must be set up and must outlive the panel. `window` is the parent of the history
+    /// windows.
     FramesPanel(const Ui_OrvCamConfigMainWindow &ui, QWidget *window);
 
-    /// Two columns, or a wide one for cameras without frames.
+    /// Shows two columns, or a wide one for cameras without frames.
     void layOut(bool hasFrames);
 
-    /// Describes the features in the tool tips; null for none.
+    /// Sets the descriptions of the features as tool tips; null for none.
     void explain(const OrvGenParam::Array *array);
 
-    /// Dims the column of a frame that is not output: its numbers are those of former images.
+    /// Dims the column of a frame that is not output; its numbers belong to earlier images.
     void setOld(Frame frame, bool isOld);
 
     /// Show numbers and add them to the history.
     void show(Frame frame, const FrameNumbers &numbers);
     void showTemperature(const QString &degrees);
 
-    /// The history keeps its numbers.
+    /// Clears the numbers; the history keeps its own.
     void clear();
 
     CameraHistory &history() { return m_history; }

@@ -50,7 +50,7 @@ void FrameTabs::follow()
     connect(&m_timer, &QTimer::timeout, this, [this] { applyModeWhenKnown([] {}); });
 }
 
-/// Includes the parameters that the output mode binds and unbinds.
+/// The list includes the parameters that are bound in some output modes only.
 void FrameTabs::applyModeWhenKnown(const std::function<void()> &applied)
 {
     m_reader.whenKnown(this, &m_timer,
@@ -126,15 +126,15 @@ void FrameTabs::onTabChanged(int index)
 {
     placeForm();
     if (!m_ui.tabFrames->isTabEnabled(index)) {
-        // Another program has selected the frame that is not output. It may only read that frame,
-        // and would read the wrong one if the selection was restored at once.
+        // Another program has selected the frame that is not output, perhaps only to read it. It
+        // would read the wrong frame if the selection was restored at once.
         m_timer.start(0);
         return;
     }
     applyModeWhenKnown([this] { emit turned(); });
 }
 
-/// False when that has destroyed the object, or the output mode has changed.
+/// Returns false when a write has destroyed this object or changed the output mode.
 bool FrameTabs::showOnly(int index)
 {
     if (index >= m_ui.tabFrames->count())
@@ -146,14 +146,15 @@ bool FrameTabs::showOnly(int index)
     const QPointer<FrameTabs> self(this);
     const QString mode = m_ui.cmBoxFrameMode->currentText();
     m_ui.tabFrames->setTabEnabled(index, true);
-    m_ui.tabFrames->setCurrentIndex(index); // a write, which may have to be reported
+    m_ui.tabFrames->setCurrentIndex(index); // writes the selection, which may fail
     if (!self || m_ui.cmBoxFrameMode->currentText() != mode)
         return false;
     m_ui.tabFrames->setTabEnabled(1 - index, false);
     return true;
 }
 
-/// Leaves the selection to the program that works with the other frame, until the dialog is shown.
+/// Changes the tab without a write, so that another program keeps its selection until the dialog is
+/// shown.
 void FrameTabs::showOnlyUnseen(int index)
 {
     const QSignalBlocker writesNothing(m_ui.tabFrames);

@@ -21,12 +21,12 @@ namespace OrvGui {
 class FeatureReader;
 class OrvCamConfigMapper;
 
-/// The tabs of the frame dialog, which select the frame that a camera's features address, and what
-/// else depends on the output mode: while the camera outputs one frame only, that frame stays
-/// selected and the numbers of frames are not bound.
+/// The tabs of the frame dialog, which select the frame that a camera's features address, and the
+/// widgets that depend on the output mode. While the camera outputs one frame only, that frame
+/// stays selected and the numbers of frames are not bound.
 ///
-/// One object per device. Destroying it, which a write may lead to, ends all pending work.
-/// The arguments must outlive it.
+/// There is one object per device. A write may destroy it; this cancels all pending work. The
+/// arguments must outlive it.
 class FrameTabs : public QObject
 {
     Q_OBJECT
@@ -41,25 +41,25 @@ public:
     /// Null where the camera lacks it.
     OrvGenParam::Enum *selector() const { return m_selector; }
 
-    /// Starts to follow the tabs and the output mode; to be called when both are bound, because
-    /// binding disconnects all else.
+    /// Connects the tabs and the output mode. Call it when both are bound, because binding
+    /// disconnects other receivers.
     void follow();
 
-    /// Follows the output mode as it is shown. False when the object has been destroyed by that.
+    /// Applies the output mode that is shown. Returns false when a write has destroyed the object.
     bool applyMode();
 
-    /// Shows the selected frame, and follows the output mode from the event loop.
+    /// Shows the selected frame, and applies the output mode from the event loop.
     void prepareToShow();
 
     /// Moves the form to the page of the current tab.
     void placeForm();
 
-    /// Discards what the user is typing or dragging if another frame has been selected: it was
-    /// meant for the former one.
+    /// Discards pending input or a drag when another frame has been selected, because the input was
+    /// meant for the previous frame.
     void dropInput();
 
 signals:
-    /// The user or a program has turned to a frame, and the form is bound as the output mode
+    /// The user or a program has selected a frame, and the form is bound as the output mode
     /// requires.
     void turned();
 
@@ -78,9 +78,9 @@ private:
     FeatureReader &m_reader;
     OrvGenParam::Array *const m_array;
     OrvGenParam::Enum *const m_selector;
-    QTimer m_timer; ///< leads back to the tab that the output mode allows
+    QTimer m_timer; ///< restores the tab that the output mode allows
     qint64 m_selectedFrame = 0;
-    QtOrvSliderSpinBox *m_lineTimeBox = nullptr; ///< the one of the two that is bound
+    QtOrvSliderSpinBox *m_lineTimeBox = nullptr; ///< the bound one of the two
     bool m_areFrameCountsBound = false;
 };
 

@@ -21,8 +21,8 @@ namespace OrvGui {
 
 namespace {
 
-/// The property of a button whose entry's value cannot be an id: it exceeds an int, or is -1, the
-/// id of no button.
+/// The property that stores the value of a button whose entry's value cannot be an id: it exceeds
+/// an int, or it is -1, which Qt uses for "no id".
 constexpr char valueBeyondIds[] = "orvEntryValue";
 
 bool isId(qint64 value)
@@ -146,7 +146,7 @@ QAbstractButton *MappedButtons::buttonOf(qint64 value) const
     return nullptr;
 }
 
-/// False only for an entry that is not available at this moment.
+/// False only for an entry that is not available at present.
 bool MappedButtons::canChoose(qint64 value) const
 {
     for (uint32_t i = 0; i < m_param->GetEntryCount(); ++i) {

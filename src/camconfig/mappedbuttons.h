@@ -12,7 +12,7 @@ namespace OrvGui {
 class MappedButtons final : public MappedControl
 {
 public:
-    /// Without a parameter, buttons can only be enabled, disabled and explained.
+    /// Without a parameter, the buttons can only be enabled, disabled and get tool tips.
     MappedButtons(const MapperContext::Pointer &context, OrvGenParam::Enum *param,
                   QButtonGroup *buttons);
 

@@ -22,7 +22,8 @@ void MappedCommand::connectSignals()
 void MappedCommand::execute()
 {
     const auto call = [param = m_param, button = m_widget, timer = m_timer] {
-        const qint32 code = param->Execute(); // a receiver of its notification may destroy all
+        // A receiver of the notification may destroy this object.
+        const qint32 code = param->Execute();
         if (timer && button) {
             button->setEnabled(false);
             timer->start();

@@ -32,7 +32,7 @@ public:
     }
 
 protected:
-    // The widget does not report a drag. Its end is a change for all receivers.
+    // The widget does not report a drag; its end is a change for all receivers.
     void writeDragged() override
     {
         Compound *const compound = this->m_number;

@@ -8,10 +8,10 @@ namespace OrvGui {
 
 /// A widget that is bound to a parameter: shows its value and writes what the user enters.
 ///
-/// Derive from it for each kind of widget. This class alone only enables, disables and explains the
-/// widget. Receivers of a widget's signals may end the binding or destroy the mapper: a function
-/// that uses the control after it has changed the widget must hold the control by
-/// `shared_from_this`, and stop when its `Showing` is over.
+/// Derive from it for each kind of widget. The base class only enables and disables the widget and
+/// sets its tool tip. Receivers of a widget's signals may end the binding or destroy the mapper.
+/// Therefore a function that uses the control after it has changed the widget must hold the control
+/// by `shared_from_this`, and return when its `Showing` is over.
 class MappedControl : public std::enable_shared_from_this<MappedControl>
 {
 public:
@@ -21,13 +21,13 @@ public:
     virtual ~MappedControl();
     Q_DISABLE_COPY(MappedControl)
 
-    /// The sender of the user's changes; null when it is destroyed.
+    /// The object whose signals report the user's changes; null when it is destroyed.
     virtual QObject *object() const;
 
-    /// Fits the widget to the parameter when it is mapped, and shows the value.
+    /// Adapts the widget to the parameter when it is mapped, and shows the value.
     virtual void prepare() { show(); }
 
-    /// Shows the value and the limits. The object exists.
+    /// Shows the value and the limits. Precondition: the object exists.
     virtual void show() {}
 
     virtual void connectSignals() {}
@@ -35,10 +35,10 @@ public:
     /// Enables or disables the widget regardless of the parameter.
     virtual void setEnabled(bool isEnabled);
 
-    /// The same, but what cannot be chosen at this moment stays disabled.
+    /// The same, except that choices that are not available stay disabled.
     virtual void setUsable(bool isUsable) { setEnabled(isUsable); }
 
-    /// Sets the tool tip; an empty one is removed.
+    /// Sets the tool tip; an empty text removes it.
     virtual void explain(const QString &toolTip);
 
     void endConnections() { m_connections.end(); }

@@ -44,7 +44,8 @@ void MappedLineEdit::writeText()
     const int value = m_lineEdit->text().toInt(&ok);
     if (!ok || !m_lineEdit->isModified())
         return;
-    m_lineEdit->setModified(false); // an error box takes the focus, which finishes once more
+    // The error box takes the focus, which finishes the editing again.
+    m_lineEdit->setModified(false);
     write(value);
 }
 

@@ -26,8 +26,8 @@ public:
     void show() override
     {
         if (HeldInput::isDrag(m_number))
-            return; // its end shows or writes the value
-        // All is read before anything is shown: a receiver of the widget's signals may write.
+            return; // the end of the drag shows or writes the value
+        // Reads everything before it shows anything: a receiver of the widget's signals may write.
         const Limits limits = readLimits();
         const Value held = readValue();
         const int value = ValueGrid::toInt(held.number);
@@ -38,7 +38,7 @@ public:
     }
 
 protected:
-    /// Writes the value that the user has dragged the slider to.
+    /// Writes the value at the end of a drag.
     virtual void writeDragged() {}
 
     template<class Slider>
@@ -56,7 +56,7 @@ protected:
     Widget *const m_number;
 
 private:
-    // Setting what is set already would end a step that the user holds, or undo their typing.
+    // Setting the same value again would end a repeated step, or undo the user's typing.
     void showLimits(const Limits &limits, const Showing &showing)
     {
         if (!limits.isKnown)

@@ -42,7 +42,7 @@ void MappedTabs::prepare()
     show();
 }
 
-/// Removes surplus tabs, after those that were removed for a former enumeration are back.
+/// Removes surplus tabs, after all tabs that were removed for a previous enumeration are restored.
 void MappedTabs::fitTabCount()
 {
     QVector<QPointer<QWidget>> &removed = m_context->removedPages[m_tabs];
@@ -92,7 +92,7 @@ void MappedTabs::write(int index)
     });
 }
 
-// A tool tip of the whole widget would appear over the pages, too.
+// A tool tip of the whole widget would also appear over the pages.
 void MappedTabs::explain(const QString &toolTip)
 {
     if (m_widget)

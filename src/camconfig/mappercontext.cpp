@@ -25,7 +25,7 @@ void report(const QPointer<QObject> &object, const QString &text)
 {
     HeldInput::end(object);
     QMessageBox::critical(nullptr, QString(), text, QMessageBox::Ok);
-    // A groove starts to repeat only when its first step has been taken, that is now.
+    // The groove of a slider starts to repeat after its first step only, that is now.
     if (object)
         QTimer::singleShot(0, object, [=] { HeldInput::end(object); });
 }
@@ -84,7 +84,7 @@ void MapperContext::write(QObject *object, const QString &refusalText, const Par
 {
     if (isShownIn(object))
         return;
-    // A receiver of the notification may destroy the mapper, the widget or the camera.
+    // A receiver of the notification may destroy the mapper, the widget or the camera's array.
     const Pointer alive = shared_from_this();
     const QString name = QString::fromUtf8(param->GetName());
     const QPointer<QObject> widget(object);

@@ -30,8 +30,8 @@ class Showing;
 
 /// Reads and writes parameters; shared by the controls of a mapper.
 ///
-/// Each control holds it, so that it outlives the mapper when a receiver of a control's signals
-/// destroys the mapper.
+/// Each control holds a reference, so that the context outlives a mapper that is destroyed by a
+/// receiver of a control's signals.
 class MapperContext : public std::enable_shared_from_this<MapperContext>
 {
 public:
@@ -45,7 +45,7 @@ public:
 
     void setArray(const OrvGenParam::Array *array);
 
-    /// From now on, nothing is read in the background and nothing is shown again.
+    /// Stops background reads and updates of the widgets.
     void leaveMapper();
     bool hasMapper() const { return m_showBound != nullptr; }
 
@@ -56,26 +56,26 @@ public:
         return reader.get(get);
     }
 
-    /// Keeps the value that is shown: the journal's former value at the next write.
+    /// Stores the value that is shown; it is the previous value in the journal at the next write.
     void note(const OrvGenParam::Param *param, const QVariant &value);
     void forgetShown() { m_shown.clear(); }
 
     /// Records an accepted write in the journal and reports a refused one in a message box. Does
-    /// nothing while the object shows a value of the camera.
+    /// nothing while the object is being updated with a value of the camera.
     template<class Kind>
     void write(QObject *object, const Kind *param, const QVariant &value, const Write &call)
     {
         write(object, refusalText(param), param, value, call);
     }
 
-    /// Ends the showings of the object, which has another parameter or none.
+    /// Ends the updates of the object in progress, because its parameter has changed.
     void endShowings(const QObject *object);
 
     const qint64 valueCap;
     FeatureReader reader;
     std::shared_ptr<FeatureJournal> journal;  ///< null without an array
     QHash<QString, QHash<QString, int>> tabs; ///< parameter, entry: index of its tab
-    QHash<QTabWidget *, QVector<QPointer<QWidget>>> removedPages; ///< the last one first
+    QHash<QTabWidget *, QVector<QPointer<QWidget>>> removedPages; ///< the last page first
 
 private:
     friend class Showing;

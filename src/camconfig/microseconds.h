@@ -6,13 +6,13 @@
 
 namespace OrvGui {
 
-/// The unit of the times that the windows show.
+/// The unit of the times in the windows.
 class Microseconds
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::Microseconds)
 
 public:
-    /// The Greek letter, which a translatable text contains as a place marker.
+    /// The Greek letter for the placeholder in a translatable text.
     static QChar mu() { return QChar(0x03BC); }
 
     static QString unit();

@@ -33,7 +33,8 @@ OpeningProgress::OpeningProgress(const QString &camera, QWidget *parent)
 
 void OpeningProgress::setShare(int percent)
 {
-    m_bar->setRange(0, percent < 0 ? 0 : 100); // without a range it is busy
+    // Without a range the bar shows an undetermined progress.
+    m_bar->setRange(0, percent < 0 ? 0 : 100);
     m_bar->setValue(percent < 0 ? -1 : percent);
     m_step->setText(percent < 0 ? tr("Connecting...") : tr("Reading the camera's description..."));
 }

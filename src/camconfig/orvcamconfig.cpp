@@ -53,10 +53,10 @@ class OrvCamConfigPrivate : public OrvGenParam::ParamEventSink
 public:
     explicit OrvCamConfigPrivate(OrvCamConfig *window);
 
-    /// The first set-up.
+    /// Sets up the window; called once.
     void begin(OrvCam::Device *device, bool mayAsk);
 
-    /// Works with another device. `created` is the same device if the window has to release it.
+    /// Switches to another device. `created` is the same device if the window has to release it.
     void use(OrvCam::Device *device, OrvCam::Device *created);
 
     /// Releases everything except the widgets.
@@ -120,13 +120,13 @@ private:
 
     OrvCamConfig *const q;
     OrvCam::Device *device = nullptr;             ///< null while its camera is unplugged
-    OrvCam::System *system = nullptr;             ///< only when the window has obtained it
+    OrvCam::System *system = nullptr;             ///< only if the window has obtained it
     OrvCam::Device *ownDevice = nullptr;          ///< which the window has to release
-    OrvGenParam::Array *array = nullptr;          ///< the device's
-    FeatureReader reader;                         ///< of that
-    QPointer<OrvCamConfigOpening> opening;        ///< of the camera that the user wants next
+    OrvGenParam::Array *array = nullptr;          ///< of the device
+    FeatureReader reader;                         ///< of the array
+    QPointer<OrvCamConfigOpening> opening;        ///< of the camera that the user has chosen
     std::shared_ptr<const OtherFrame> otherFrame; ///< of the device that is about to be used
-    DeviceWatch watch;                            ///< keeps the device that is unplugged, too
+    DeviceWatch watch;                            ///< also watches a device that is unplugged
     Ui_OrvCamConfigMainWindow ui;
     std::unique_ptr<CameraInformation> information;
     UndoActions *undoActions = nullptr;
@@ -138,7 +138,7 @@ private:
 
     bool isFrameABSupported = false;
     bool isFrameModeChanged = true;
-    bool hasTimedOut = false; ///< a shown value, since this was set to false
+    bool hasTimedOut = false; ///< a value could not be read since this was set to false
     FrameMode frameMode = BothFrames;
     Frame selectedFrame = CameraHistory::FrameA;
 
@@ -244,7 +244,7 @@ void OrvCamConfigPrivate::addDialog(Dialog *dialog, QPushButton *button, QAction
     });
 }
 
-/// Opens the dialog, or brings it to the front; available as long as its button is.
+/// Opens or raises the dialog; its button is disabled when the dialog is not available.
 void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int number)
 {
     const auto keys = QKeySequence::fromString(QStringLiteral("Ctrl+%1").arg(number));
@@ -257,7 +257,7 @@ void OrvCamConfigPrivate::addShortcut(QWidget *dialog, QPushButton *button, int 
     });
 }
 
-/// Null when the user picks none, or when the window is destroyed.
+/// Null when the user cancels, or when the window is destroyed.
 OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
 {
     if (!system)
@@ -270,7 +270,7 @@ OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
         return nullptr;
     }
 
-    // The window may be destroyed by then, and this object and the picker with it.
+    // The window may have been destroyed, and with it this object and the picker.
     const QPointer<OrvCameraSelectorDialog> picker(new OrvCameraSelectorDialog(system, q));
     picker->setWindowTitle(tr("Select a device"));
     const bool isAccepted = picker->exec() == QDialog::Accepted;
@@ -281,8 +281,8 @@ OrvCam::DeviceInfo *OrvCamConfigPrivate::pick()
     return camera;
 }
 
-/// The user may pick another camera during the opening, or the host may set another device: the
-/// last one counts.
+/// During the opening the user may choose another camera, or the host may set another device. The
+/// last one takes effect.
 void OrvCamConfigPrivate::connectPicked()
 {
     OrvCam::DeviceInfo *const picked = pick();
@@ -312,13 +312,14 @@ OrvCamConfigOpening *OrvCamConfigPrivate::newOpening(OrvCam::DeviceInfo &camera,
         int32_t error = OrvCam::Success;
         const OrvGenParam::Array *params = opened.GetParamArray(&error);
         if (params && error == OrvCam::Success)
-            other->read(*params); // first, since it drops cached values that depend on the selector
+            // First, because it invalidates cached values that depend on the selector.
+            other->read(*params);
         OrvCamConfig::prepare(opened);
     });
     return opening;
 }
 
-/// Null on failure, which has been reported.
+/// Null on failure, which is reported by then.
 OrvCam::Device *OrvCamConfigPrivate::open(OrvCam::DeviceInfo &camera)
 {
     const QString name = cameraText(camera.GetDisplayName());
@@ -383,13 +384,13 @@ void OrvCamConfigPrivate::use(OrvCam::Device *newDevice, OrvCam::Device *created
         emit window->deviceGivenUp(former);
 }
 
-/// As `updateBoth`.
+/// Returns the result of `updateBoth`.
 bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
 {
     forgetParams();
     panel->clear();
     device = newDevice;
-    watch.watch(device); // first, so that nothing is missed
+    watch.watch(device); // first, so that no event is missed
     if (device) {
         OrvCamConfig::prepare(*device);
         int32_t error = OrvCam::Success;
@@ -408,7 +409,7 @@ bool OrvCamConfigPrivate::init(OrvCam::Device *newDevice)
     panel->explain(array);
     dimOldNumbers();
     showTemperature();
-    // Moving the selector takes several transfers, which the window would wait for once more.
+    // Moving the selector again would take several blocking transfers.
     if (reader.looksAhead())
         isFrameModeChanged = false;
     const bool isBack = updateBoth();
@@ -473,7 +474,7 @@ void OrvCamConfigPrivate::layOutFrameButton()
     layOutButtons();
 }
 
-/// The visible ones follow each other without a gap.
+/// Closes the gaps between the visible buttons.
 void OrvCamConfigPrivate::layOutButtons()
 {
     int place = 0;
@@ -488,15 +489,15 @@ void OrvCamConfigPrivate::layOutButtons()
     }
 }
 
-/// As the style has it, or as high as a line of a large font.
+/// The size of the style, or the line height of a large font.
 QSize OrvCamConfigPrivate::iconSize() const
 {
     const int extent = q->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, q);
     return QSize(1, 1) * qMax(extent, q->fontMetrics().height());
 }
 
-/// Each dialog gets the device that the window has by then: while a dialog reports an error, a host
-/// may set another one.
+/// Gives each dialog the present device of the window: while a dialog reports an error, a host may
+/// set another device.
 void OrvCamConfigPrivate::handOver()
 {
     for (OrvCamConfigDialog *dialog : dialogs)
@@ -543,19 +544,19 @@ void OrvCamConfigPrivate::drop()
     emit q->deviceChanged(nullptr);
 }
 
-/// The windows are restored when all their values have been read, which may take a while.
+/// The windows are restored after all their values have been read, which may take some time.
 void OrvCamConfigPrivate::awaitReturned()
 {
     if (device) {
         const QPointer<OrvCamConfig> window(q);
-        drop(); // the disconnection has been missed
+        drop(); // the window has missed the disconnection
         if (!window || device || !watch.device())
             return;
     }
     int32_t error = OrvCam::Success;
     const OrvGenParam::Array *returned = watch.device()->GetParamArray(&error);
     if (!returned || error != OrvCam::Success)
-        return; // unplugged again, which is another event
+        return; // the camera was unplugged again, which is reported separately
     reader.setArray(returned);
     reader.whenKnown(this, this, FeatureReader::named(*returned, BoundFeatures::all()),
                      [this] { restore(); });
@@ -595,7 +596,7 @@ void OrvCamConfigPrivate::showBothFrames()
 
 void OrvCamConfigPrivate::refreshFrame()
 {
-    // The camera's values are those of the selected frame; the other column keeps its numbers.
+    // The camera's values belong to the selected frame; the other column keeps its numbers.
     const bool isWanted = frameMode == BothFrames ||
                           (frameMode == OnlyFrameA) == (selectedFrame == CameraHistory::FrameA);
     if (isWanted)
@@ -611,7 +612,7 @@ void OrvCamConfigPrivate::showTemperature()
     });
 }
 
-/// A frame that is not output keeps the numbers that it had.
+/// A frame that is not output keeps its numbers.
 void OrvCamConfigPrivate::dimOldNumbers()
 {
     const bool hasMode = array && frameSelector;
@@ -628,12 +629,12 @@ void OrvCamConfigPrivate::updateFrame(Frame frame)
     panel->show(frame, numbers);
 }
 
-/// False when the camera keeps the other frame selected, which other windows are not notified of.
-/// A read without an answer is repeated with the next refresh.
+/// Returns false when the camera does not restore the selection, of which other windows are not
+/// notified. A read without an answer is repeated at the next refresh.
 bool OrvCamConfigPrivate::updateBoth()
 {
     if (SelectorDetour::isUnderWay())
-        return true; // a selector is moved already
+        return true; // the selector is already moved
     hasTimedOut = false;
     const bool isBack = readBoth();
     isFrameModeChanged |= hasTimedOut;

@@ -15,7 +15,7 @@ namespace OrvGui {
 class OrvCamConfigPrivate;
 
 /// The window for configuring one camera: shows the present state of each of its frames, and opens
-/// the dialogs that change it.
+/// the dialogs that change the settings.
 ///
 /// Give it a device, or none to let the user pick a camera in the constructor. The user can
 /// disconnect the camera and connect another one at any time. While a camera is being opened the
@@ -30,9 +30,9 @@ class OrvCamConfigPrivate;
 ///
 /// To read the state of the other frame, the window switches the camera's frame selector and
 /// restores it at once: when a device is set, and when the frame mode changes. Windows of this
-/// library ignore that; event sinks of the host are notified twice. For a camera that the window
-/// opens itself this happens on the opening thread, before the device is available to others, and
-/// the window does not wait for it.
+/// library ignore these notifications; event sinks of the host are notified twice. For a camera
+/// that the window opens itself the state is read on the opening thread, before the device is
+/// available to others, and the window does not block.
 ///
 /// Use it on the GUI thread only, which must also be the thread that created the device, and not
 /// from inside a notification of the device.
@@ -60,7 +60,7 @@ public:
 Q_SIGNALS:
     /// The result of `device` has changed. Also emitted for the same device when its camera is
     /// back, or when the frame selector could not be restored. Drop all references to the previous
-    /// device and its parameters: it may be released next.
+    /// device and its parameters: the device may be released next.
     void deviceChanged(OrvCam::Device *device);
 
     /// The window no longer uses a device that the caller set, because the user has disconnected it

@@ -105,7 +105,7 @@ void OrvCamConfigColorDialogPrivate::initStatistics()
     for (const Coefficient &coefficient : m_coefficients) {
         coefficient.statistics->setFixedWidth(
             FormFit::textWidth(coefficient.statistics, widest + QLatin1Char(' ')));
-        // The spin box of a missing coefficient may show the value of a former camera.
+        // The spin box of a missing coefficient may still show the value of a previous camera.
         const int value = coefficient.bound ? coefficient.spinBox->value() : 0;
         coefficient.statistics->setText(QString::number(value));
     }

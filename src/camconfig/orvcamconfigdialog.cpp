@@ -25,8 +25,8 @@ OrvGenParam::Array *paramsOf(OrvCam::Device *device)
     return error == OrvCam::Success ? array : nullptr;
 }
 
-// The share of a row that a stretched list gets may be less than its entries take. One with entries
-// of an unusual length is left to be squeezed.
+// A stretched list may get less of a row than its entries need. A list with extremely long entries
+// may be narrower than they are.
 void keepWhole(QComboBox *list)
 {
     const int longest = 30 * list->fontMetrics().averageCharWidth();
@@ -47,7 +47,7 @@ bool OrvCamConfigDialogPrivate::init(OrvCamConfigDialog *dialog, OrvCam::Device 
     device = newDevice;
     m_isOutdated = true;
     if (m_isBinding)
-        return false; // a nested call; the outer one repeats the binding
+        return false; // a nested call; the outer one binds again
 
     m_isBinding = true;
     while (m_isOutdated) {
@@ -66,7 +66,8 @@ void OrvCamConfigDialogPrivate::rebind()
 {
     if (!m_isFormBuilt) {
         buildForm();
-        // Unlike other widgets, lists compute their size hint without applying a style sheet first.
+        // Unlike other widgets, combo boxes compute their size hint before a style sheet is
+        // applied.
         for (QComboBox *list : q->findChildren<QComboBox *>())
             list->ensurePolished();
         m_undoActions = new UndoActions(q);
@@ -92,8 +93,7 @@ void OrvCamConfigDialogPrivate::rebind()
         keepWhole(list);
 }
 
-// A device that has lost its camera may have lost the parameters with it. It does not notify any
-// more.
+// A device without its camera may have lost its parameters. It sends no more notifications.
 void OrvCamConfigDialogPrivate::leaveParams()
 {
     const auto watched = std::exchange(m_watched, {});
@@ -133,7 +133,7 @@ void OrvCamConfigDialog::SetDevice(OrvCam::Device *device)
 
 void OrvCamConfigDialog::reject()
 {
-    // QDialog hides at once, without a close event; on closing, it calls this function to hide.
+    // QDialog hides without a close event, and closing it calls this function.
     if (m_isClosing || !isVisible())
         QDialog::reject();
     else
@@ -145,7 +145,7 @@ void OrvCamConfigDialog::showEvent(QShowEvent *event)
     if (!event->spontaneous())
         FormFit::fitToScreen(this);
     d->prepareToShow();
-    // Otherwise Qt gives the focus to the first control, and the wheel changes its value.
+    // Otherwise Qt focuses the first control, and the wheel changes its value.
     if (!focusWidget())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);

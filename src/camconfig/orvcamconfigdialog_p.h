@@ -19,30 +19,29 @@ namespace OrvGui {
 
 class UndoActions;
 
-/// The private part of a feature dialog: builds the form once, and binds it to a device as often as
-/// another one is set.
+/// The private part of a feature dialog: builds the form once, and binds it to each device that is
+/// set.
 ///
-/// Derive from it for each dialog. `bind` is mostly a list of bindings; a handler of the dialog's
-/// own is connected by `connectTo`, after the widget has been bound, because binding
-/// disconnects everything else.
+/// Derive from it for each dialog. `bind` is mostly a list of bindings. Connect other handlers with
+/// `connectTo`, after the widget has been bound, because binding disconnects all receivers.
 class OrvCamConfigDialogPrivate
 {
 public:
     OrvCamConfigDialogPrivate();
     virtual ~OrvCamConfigDialogPrivate();
 
-    /// Runs whenever a device is set, the first time from the dialog's constructor. False when the
-    /// dialog is left disabled.
+    /// Called whenever a device is set, first in the dialog's constructor. Returns false when the
+    /// dialog stays disabled.
     bool init(OrvCamConfigDialog *dialog, OrvCam::Device *device);
 
-    /// Just before the dialog is shown.
+    /// Called just before the dialog is shown.
     virtual void prepareToShow() {}
 
 protected:
-    /// The binding to the device that the dialog has now.
+    /// The present binding to a device.
     ///
-    /// A write may lead to anything, such as an error box, and that may set another device or
-    /// destroy the dialog. Keep one on the stack during a write, and return when it is over.
+    /// A write may show an error box, during which another device may be set or the dialog may be
+    /// destroyed. Keep an instance on the stack during a write, and return when it is over.
     class Generation
     {
     public:
@@ -58,17 +57,17 @@ protected:
     /// Builds the form on `q`; called once, before anything else.
     virtual void buildForm() = 0;
 
-    /// The features that `bind` is going to read.
+    /// The features that `bind` reads.
     virtual FeatureReader::Names features() const = 0;
 
-    /// Drops the references to the device that are not bindings.
+    /// Drops the references to the device other than bindings.
     virtual void release() {}
 
-    /// Binds the form to `array`, which is not null. Writes nothing: another device that is set
-    /// in between is bound afterwards.
+    /// Binds the form to `array`, which is not null. Writes nothing. Another device that is set
+    /// during the call is bound after it.
     virtual void bind() = 0;
 
-    /// Writes what the bound form requires of the camera.
+    /// Writes the values that the bound form requires.
     virtual void afterBinding() {}
 
     template<class Widget>
@@ -90,9 +89,8 @@ protected:
         mapper.mapCommandParam(array->GetCommand(feature), button, timer);
     }
 
-    /// Registers the sink with the parameter until the next device is set; returns the parameter,
-    /// which may be null. A repeated call moves the sink behind all sinks that were registered in
-    /// between.
+    /// Registers the sink with the parameter until the next device is set. Returns the parameter,
+    /// which may be null. A repeated call moves the sink behind sinks that were registered later.
     template<class Kind>
     Kind *watched(Kind *param, OrvGenParam::ParamEventSink *sink)
     {
@@ -104,7 +102,7 @@ protected:
         return param;
     }
 
-    /// Connects a handler of the dialog's own, until the next device is set.
+    /// Connects a handler of the dialog until the next device is set.
     template<class Sender, class Signal, class Handler>
     void connectTo(Sender *sender, Signal signal, Handler handler)
     {
@@ -131,13 +129,13 @@ private:
     void leaveParams();
 
     Connections m_handlers;                  ///< of the dialog's own
-    OrvCam::Device *m_boundDevice = nullptr; ///< that `array` is of
+    OrvCam::Device *m_boundDevice = nullptr; ///< the one whose parameters are in `array`
     QVector<Watched> m_watched;
     UndoActions *m_undoActions = nullptr; ///< of the dialog
     unsigned m_generation = 0;
     bool m_isFormBuilt = false;
     bool m_isBinding = false;
-    bool m_isOutdated = false; ///< the device is another one than that which is being bound
+    bool m_isOutdated = false; ///< another device has been set during the binding
 };
 
 } // namespace OrvGui

@@ -48,7 +48,7 @@ QString microsecondsCaption()
     return OrvCamConfigFrameABDialog::tr("[%1]:").arg(Microseconds::unit());
 }
 
-/// Whether the widget itself is enabled, regardless of its parents.
+/// Whether the widget itself is enabled, regardless of its ancestors.
 bool isUsable(const QWidget *widget)
 {
     return !widget->testAttribute(Qt::WA_ForceDisabled);
@@ -119,9 +119,9 @@ private:
     void showArea();
 
     Ui_OrvCamConfigFrameABDialog ui;
-    WheelGuard wheelGuard; ///< for the widgets that the mapper does not bind
+    WheelGuard wheelGuard; ///< for widgets without a binding
     bool isTriggerOn = false;
-    bool isFitted = false; ///< the size to the contents
+    bool isFitted = false; ///< the size has been adjusted to the contents
 
     ExposureTime exposure;
     DigitalGain gain;
@@ -142,10 +142,10 @@ private:
     QVector<QWidget *> exposureDependents;
 
     QVector<qint64> customArea; ///< the user's last custom area
-    bool isWriting = false;     ///< several values; derived ones are shown at the end
+    bool isWriting = false;     ///< several values; derived ones are shown afterwards
 };
 
-/// A change of the user's with more than one write. When it is over, the remaining writes are
+/// A change by the user that takes more than one write. When it is over, the remaining writes are
 /// dropped.
 class OrvCamConfigFrameABDialogPrivate::Writing
 {
@@ -245,7 +245,7 @@ void OrvCamConfigFrameABDialogPrivate::release()
 
 void OrvCamConfigFrameABDialogPrivate::bind()
 {
-    // A feature that this camera lacks must not keep the former camera's value.
+    // A feature that this camera lacks must not show the previous camera's value.
     ui.cmBoxFrameMode->clear();
     ui.chBoxFixedFramePeriodEnable->setChecked(false);
     ui.spBoxFixedFramePeriodValue->setRange(0, 0);
@@ -334,13 +334,13 @@ void OrvCamConfigFrameABDialogPrivate::makeBindings()
 
 void OrvCamConfigFrameABDialogPrivate::bindExposure()
 {
-    // The time is written as lines and clocks, so it needs both.
+    // The time consists of lines and clocks, so it is enabled only with both.
     QVector<QWidget *> none;
     QVector<QWidget *> &dependents = exposure.isComplete() ? exposureDependents : none;
     ui.spBoxExpTime->setEnabled(false);
     bindInt(ExposureTime::featureOf(ExposureTime::Lines), ui.spBoxExpLines, dependents);
     bindInt(ExposureTime::featureOf(ExposureTime::Clocks), ui.spBoxExpClocks, dependents);
-    // After the mapper, which has enabled the time by then.
+    // Registered after the mapper, which has enabled the time by then.
     watched(exposure.param(ExposureTime::Lines));
     watched(exposure.param(ExposureTime::Clocks));
 }
@@ -349,10 +349,11 @@ void OrvCamConfigFrameABDialogPrivate::bindPeriod()
 {
     bindInt(periodName, ui.spBoxFixedFramePeriodValue,
             static_cast<IOrvCamConfigIntConverter *>(this));
-    // Whole lines are no grid of microseconds: the box would round the times.
+    // Times are not on a grid of whole microseconds from the minimum; validation would change them.
     ui.spBoxFixedFramePeriodValue->setValidate(false);
     showPeriod();
-    watched(periodParam); // after the mapper, as the exposure time needs the box's value
+    // Registered after the mapper, because the exposure time needs the box's value.
+    watched(periodParam);
 }
 
 void OrvCamConfigFrameABDialogPrivate::bindDigitalGain()
@@ -363,7 +364,7 @@ void OrvCamConfigFrameABDialogPrivate::bindDigitalGain()
     showDigitalGain();
 }
 
-/// The widgets that show several features, and so are bound to none.
+/// Sets the tool tips of widgets that show several features and are not bound.
 void OrvCamConfigFrameABDialogPrivate::explain()
 {
     FeatureToolTip::set(ui.spBoxExpTime,
@@ -375,7 +376,7 @@ void OrvCamConfigFrameABDialogPrivate::explain()
     explainTrigger();
 }
 
-/// As the other buttons of the group, and more.
+/// Adds the state of the trigger to the common tool tip of the group.
 void OrvCamConfigFrameABDialogPrivate::explainTrigger()
 {
     QStringList lines{ui.radioBtnExpOff->toolTip()};
@@ -411,7 +412,7 @@ void OrvCamConfigFrameABDialogPrivate::connectHandlers()
     connectDrags();
 }
 
-// The widgets may show rounded values: only the user's changes are written.
+// The widgets may show rounded values, so only changes by the user are written.
 void OrvCamConfigFrameABDialogPrivate::connectDrags()
 {
     auto *time = new DragWatcher(
@@ -512,7 +513,7 @@ void OrvCamConfigFrameABDialogPrivate::readTriggerMode()
 
 void OrvCamConfigFrameABDialogPrivate::readExposure()
 {
-    if (!isWriting) // else one of the two has not been written yet
+    if (!isWriting) // otherwise one of the two parts is not written yet
         exposure.readParts(reader());
 }
 
@@ -583,7 +584,8 @@ void OrvCamConfigFrameABDialogPrivate::showDigitalGain()
     const QSignalBlocker writesNothing(slider);
     slider->setRange(gain.min().factor(), gain.max().factor());
     slider->setSingleStep(DigitalGain::step);
-    // At large gains a step may be below the camera's resolution; the user must be able to step on.
+    // At large gains a step may be below the camera's resolution; a step by the user must still
+    // have an effect.
     if (gainOf(slider->value()) != gain.value())
         slider->setValue(gain.value().factor());
 }
@@ -603,7 +605,7 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
     catchUp();
 }
 
-/// The box rounds its ends, which are those of the camera.
+/// The box rounds its limits; the exact ones are the camera's.
 DigitalGain::Parts OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
 {
     const QtOrvDoubleSpinBoxVal *const box = ui.spBoxDigitalGain->spinBox();
@@ -612,7 +614,7 @@ DigitalGain::Parts OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
     return factor <= box->minimum() ? gain.min() : DigitalGain::Parts::of(factor);
 }
 
-/// After several writes.
+/// Called after several writes.
 void OrvCamConfigFrameABDialogPrivate::catchUp()
 {
     reader().whenKnown(this, this,
@@ -657,14 +659,14 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
             Int *const side = area.param(step.first);
             QtOrvSpinBox *const spinBox = areaBox(step.first);
             reader().fetchNow({side});
-            mapper.updateSpinBox(side, spinBox); // may show the refused value
+            mapper.updateSpinBox(side, spinBox); // may still show the refused value
             if (writing.isOver())
                 return;
             spinBox->setValue(ValueGrid::toInt(step.second));
             if (writing.isOver())
                 return;
             if (reader().get([=] { return side->GetValue(); }) != step.second)
-                break; // the next step is valid only from there
+                break; // the next step depends on this one
         }
     }
     catchUp();
@@ -679,7 +681,8 @@ void OrvCamConfigFrameABDialogPrivate::showArea()
     };
     if (reader().get([this] { return area.area(); }) != customArea)
         customArea.clear();
-    // On a sensor of just that size both presets are the same area; the user's choice stays.
+    // On a sensor of exactly that size both presets describe the same area; the user's choice is
+    // kept.
     AreaPresets::Preset shown = AreaPresets::Custom;
     if (customArea.isEmpty()) {
         const auto checked = static_cast<AreaPresets::Preset>(areaButtons->checkedId());

@@ -10,8 +10,8 @@ namespace OrvGui {
 ///
 /// The tabs select the frame that the camera's features address. While the camera outputs one frame
 /// only, the dialog keeps that frame selected: when a program selects the other one, the dialog
-/// restores the selection from the event loop. Input that is not entered, or a slider still being
-/// dragged, when the selection changes is discarded. See `OrvCamConfigDialog` for the rest.
+/// restores the selection from the event loop. When the selection changes, uncommitted input and an
+/// unfinished drag are discarded. See `OrvCamConfigDialog` for the rest.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigFrameABDialog : public OrvCamConfigDialog
 {
     Q_OBJECT

@@ -49,8 +49,8 @@ QString nameOf(const Param *param)
     return QString::fromUtf8(param->GetName());
 }
 
-// All but those of QObject: Qt itself is a receiver of `destroyed` when a style sheet or a screen
-// reader is in use.
+// Does not disconnect QObject's own signals: Qt itself connects to `destroyed` when a style sheet
+// or a screen reader is in use.
 void disconnectSignals(QObject *object)
 {
     const QMetaObject *type = object->metaObject();
@@ -153,7 +153,7 @@ void OrvCamConfigMapperPrivate::disable(const Bindings &bindings)
     }
 }
 
-/// One that is only read-only keeps its state until the next notification.
+/// A parameter that is only read-only leaves the state unchanged until the next notification.
 void OrvCamConfigMapperPrivate::enable(Param *param, const Bindings &bindings) const
 {
     context->reader.fetchNow({param});
@@ -227,7 +227,7 @@ void OrvCamConfigMapperPrivate::leave(const OrvGenParam::Array &array)
     }
 }
 
-/// Without a binding, a control that can be disabled.
+/// A control without a binding, which can only be disabled.
 MappedControl::Pointer OrvCamConfigMapperPrivate::controlOf(const OrvCamConfigMapData &record) const
 {
     for (const Mapping &mapping : m_mappings) {
@@ -273,7 +273,7 @@ void OrvCamConfigMapper::OnParameterUpdate(Param *param)
 {
     const QString name = nameOf(param);
     if (SelectorDetour::isUnderWay() || !d->isBound(name, param))
-        return; // of a camera that this mapper has been taken away from
+        return; // of a camera that is no longer bound
     d->context->reader.whenKnown(this, param, {param}, [=] { d->refresh(name, param); });
 }
 

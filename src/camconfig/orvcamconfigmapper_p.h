@@ -9,11 +9,11 @@
 
 namespace OrvGui {
 
-/// The private part of the mapper: its bindings, and how they begin and end.
+/// The private part of the mapper, which creates and removes the bindings.
 class OrvCamConfigMapperPrivate
 {
 public:
-    /// The record of a binding, and the control that does its work.
+    /// The data of a binding, and the control that implements it.
     struct Binding
     {
         OrvCamConfigMapData record;
@@ -30,7 +30,7 @@ public:
         return std::make_shared<Control>(context, args...);
     }
 
-    /// Replaces what the name of the parameter is bound to. False without a parameter.
+    /// Replaces the binding of the parameter's name. Returns false without a parameter.
     bool map(OrvGenParam::Param *param, const Bindings &bindings);
     void bind(OrvGenParam::Param *param, const OrvCamConfigMapData &record,
               const MappedControl::Pointer &control);
@@ -59,7 +59,8 @@ private:
 
     OrvCamConfigMapper *const q;
     QHash<QString, Mapping> m_mappings;
-    QHash<OrvGenParam::Param *, QByteArray> m_registered; ///< with their names: they may be gone
+    /// With their names, because the parameters may be destroyed.
+    QHash<OrvGenParam::Param *, QByteArray> m_registered;
     WheelGuard m_wheelGuard;
 };
 

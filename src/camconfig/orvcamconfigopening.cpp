@@ -29,7 +29,7 @@ namespace {
 constexpr int dialogDelay = 300;   // ms until the dialog is shown
 constexpr int progressPeriod = 50; // ms
 
-/// The reason of a failure by its error code; empty for a code without a text.
+/// The reason of a failure by its error code; empty for an unknown code.
 QString reasonOf(int32_t code)
 {
     switch (code) {
@@ -50,7 +50,7 @@ QString reasonOf(int32_t code)
     }
 }
 
-/// The reason of a failure, with the platform's text if the code alone is not specific.
+/// The reason of a failure, with the platform's text if the code is not specific.
 QString explained(const DeviceOpener::Result &result)
 {
     const QString reason = reasonOf(result.error);
@@ -61,7 +61,7 @@ QString explained(const DeviceOpener::Result &result)
     return reason + QLatin1Char('\n') + detail;
 }
 
-/// For a camera whose library has only the one function. Its system stays as long as the job.
+/// For a library that only has the function to open a camera. The job keeps its system alive.
 DeviceOpener::Open simpleOpener(OrvCam::DeviceInfo &camera)
 {
     return [&camera](const DeviceOpener::Request &request) {
@@ -81,21 +81,21 @@ struct OrvCamConfigOpening::Job
     DeviceOpener::Request request;
     std::function<void(OrvCam::Device &)> prepare;
     std::string camera;
-    std::shared_ptr<OrvCam::System> system; ///< only where the opener does not keep it alive
+    std::shared_ptr<OrvCam::System> system; ///< null when the opener keeps the system alive
 
     std::atomic<bool> isCancelled{false};
     std::atomic<int> percent{-1};
     std::atomic<bool> isThreadDone{false};
 
-    std::mutex mutex;            ///< guards the next two
+    std::mutex mutex;            ///< for `receiver` and `result`
     QObject *receiver = nullptr; ///< null when the device is no longer needed
     DeviceOpener::Result result;
 
     QEventLoop *loop = nullptr; ///< of the GUI thread
-    bool isOver = false;        ///< there, too
+    bool isOver = false;        ///< on that thread, too
 };
 
-/// The threads that open cameras, including those of cancelled openings.
+/// The threads that open cameras, including cancelled ones.
 class OrvCamConfigOpening::Workers
 {
 public:
@@ -131,8 +131,8 @@ public:
         }
     }
 
-    /// Waits for an opening of the same camera to end, as only one can have control. False when
-    /// this one has been cancelled.
+    /// Waits until no other opening of the same camera is in progress, because only one can have
+    /// control. Returns false when this one has been cancelled.
     bool begin(const Job &job)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -161,9 +161,9 @@ private:
         std::thread thread;
     };
 
-    std::list<Worker> m_workers; ///< the GUI thread's
+    std::list<Worker> m_workers; ///< used on the GUI thread only
 
-    std::mutex m_mutex; ///< guards the cameras that are being opened
+    std::mutex m_mutex; ///< protects the list of cameras that are being opened
     std::condition_variable m_ended;
     std::set<std::string> m_cameras;
 };
@@ -202,7 +202,8 @@ void OrvCamConfigOpening::setProgress(std::function<bool(int percent)> progress)
 
 OrvCamConfigOpening::Result OrvCamConfigOpening::exec()
 {
-    const std::shared_ptr<Job> job = m_job; // this may be gone at the end
+    // This object may be destroyed when the function returns.
+    const std::shared_ptr<Job> job = m_job;
     const QPointer<OrvCamConfigOpening> self(this);
     QEventLoop loop;
     job->loop = &loop;
@@ -212,7 +213,7 @@ OrvCamConfigOpening::Result OrvCamConfigOpening::exec()
     if (job->isOver)
         return take(*job);
     if (self)
-        abandon(); // the program is about to end
+        abandon(); // the program is about to exit
     Result cancelled;
     cancelled.isCancelled = true;
     return cancelled;
@@ -288,7 +289,7 @@ void OrvCamConfigOpening::end()
     const auto receiver = m_receiver;
     if (!receiver || !job->result.device)
         return;
-    receiver(take(*job).device); // which may destroy this
+    receiver(take(*job).device); // may destroy this object
 }
 
 OrvCamConfigOpening::Result OrvCamConfigOpening::take(Job &job)
@@ -301,7 +302,7 @@ OrvCamConfigOpening::Result OrvCamConfigOpening::take(Job &job)
     return result;
 }
 
-// On the thread that opens
+// On the opening thread
 
 void OrvCamConfigOpening::work(Job &job)
 {

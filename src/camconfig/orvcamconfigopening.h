@@ -22,11 +22,11 @@ namespace OrvGui {
 
 class OpeningProgress;
 
-/// Opens a camera on a thread of its own, so that windows stay responsive. When the opening takes
-/// longer, a dialog shows its progress and lets the user cancel.
+/// Opens a camera on a separate thread, so that windows stay responsive. When the opening takes
+/// long, a dialog shows its progress and lets the user cancel.
 ///
-/// Destroying the object cancels at once, without a notification: the camera is closed again as
-/// soon as it is open. Use it on the GUI thread only.
+/// Destroying the object cancels at once, without a notification: the camera is closed again when
+/// it has been opened. Use it on the GUI thread only.
 class ORVCAMERAGUIAPI_EXPORT OrvCamConfigOpening : public QObject
 {
     Q_OBJECT
@@ -40,15 +40,15 @@ public:
         QString reason;   ///< the reason of the failure for the user; plain text, maybe multi-line
     };
 
-    /// Does not open the camera yet. The dialog is shown in front of the window, which may be null.
+    /// The camera is not opened yet. The dialog is shown in front of the window, which may be null.
     OrvCamConfigOpening(OrvCam::DeviceInfo &camera, qint32 accessMode, QWidget *window = nullptr);
     ~OrvCamConfigOpening() override;
 
-    /// Sets a function that is called with the open device first, on the thread that opens it.
+    /// Sets a function that is called first, with the open device, on the opening thread.
     void setPreparation(std::function<void(OrvCam::Device &)> prepare);
 
-    /// Sets a function that gets the device as soon as it is open, even while `exec` cannot return
-    /// because of a nested event loop.
+    /// Sets a function that receives the device as soon as it is open, even while `exec` is blocked
+    /// by a nested event loop.
     void setReceiver(std::function<void(OrvCam::Device *)> receiver);
 
     /// Sets a function that is called repeatedly in place of the dialog, for a program without
@@ -56,8 +56,8 @@ public:
     /// download. Returning false cancels.
     void setProgress(std::function<bool(int percent)> progress);
 
-    /// Opens the camera and processes events until that is done. A device that a receiver got is
-    /// not in the result. The object may be destroyed during the call.
+    /// Opens the camera and processes events until it is open. The result does not contain a device
+    /// that was passed to a receiver. The object may be destroyed during the call.
     Result exec();
 
 protected:

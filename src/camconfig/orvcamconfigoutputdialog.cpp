@@ -36,7 +36,7 @@ void OrvCamConfigOutputDialogPrivate::buildForm()
 void OrvCamConfigOutputDialogPrivate::bind()
 {
     bindEnum("PixelFormat", ui.cmBoxPixelFormat);
-    bindEnum("SensorADCBitDepth11", ui.cmBoxTaps); // the name that cameras give to their taps
+    bindEnum("SensorADCBitDepth11", ui.cmBoxTaps); // cameras use this name for their taps
     bindEnum("SensorADCBitDepth", ui.cmBoxDepth);
     bindEnum("TestImageSelector", ui.cmBoxTestMode);
     bindEnum("LUTSelector", ui.cmBoxLut);

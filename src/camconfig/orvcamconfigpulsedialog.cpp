@@ -77,7 +77,7 @@ void OrvCamConfigPulseDialogPrivate::bind()
 void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
 {
     const auto valueChanged = static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged);
-    // The derived values must not be those of a former camera.
+    // The derived values must not be those of a previous camera.
     for (QtOrvSpinBox *spinBox : {ui.spBoxPeriod, ui.spBoxWidth})
         spinBox->setRange(0, 0);
 
@@ -97,7 +97,7 @@ void OrvCamConfigPulseDialogPrivate::initSpinBoxes()
 
 void OrvCamConfigPulseDialogPrivate::initButton()
 {
-    ui.pushBtnPulseEnable->setChecked(false); // and stays so without a feature to start
+    ui.pushBtnPulseEnable->setChecked(false); // stays unchecked when the camera lacks the feature
     bindBoolean("PulseGenEnable", ui.pushBtnPulseEnable);
     connectTo(ui.pushBtnPulseEnable, &QPushButton::clicked,
               [this](bool isRunning) { setButtonState(isRunning); });
@@ -105,7 +105,7 @@ void OrvCamConfigPulseDialogPrivate::initButton()
 
 void OrvCamConfigPulseDialogPrivate::setButtonState(bool isRunning)
 {
-    // A new text sets a new shortcut, none in this case.
+    // Setting a text resets the shortcut.
     const QKeySequence shortcut = ui.pushBtnPulseEnable->shortcut();
     ui.pushBtnPulseEnable->setText(isRunning ? OrvCamConfigPulseDialog::tr("Stop")
                                              : OrvCamConfigPulseDialog::tr("Start"));

@@ -37,7 +37,7 @@ void OrvCamConfigTriggerDialogPrivate::bind()
     enableChoices();
 }
 
-/// The rules use the shown values. A feature that this camera lacks must not keep the former
+/// The rules use the displayed values. A feature that this camera lacks must not show the previous
 /// camera's value.
 void OrvCamConfigTriggerDialogPrivate::clear()
 {

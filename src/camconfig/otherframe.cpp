@@ -32,7 +32,7 @@ void OtherFrame::read(const OrvGenParam::Array &array)
         reader.fetchNow(shown);
         m_numbers = FrameNumbers::read(reader, array);
     }
-    // A write that was not answered may have arrived.
+    // Repeated, because the camera may have executed a write without an answer.
     const bool isBack = select(selected.constData()) || select(selected.constData());
     if (hasMoved && isBack && !m_numbers.hasTimedOut)
         m_selected = selected;

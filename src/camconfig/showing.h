@@ -5,12 +5,13 @@
 
 namespace OrvGui {
 
-/// While one exists, its object shows a value of the camera: nothing is written.
+/// While an instance exists, its object is being updated with a value of the camera, and its
+/// signals must not cause a write.
 ///
-/// It is over before its end when a receiver of the object's signals unmaps the object or destroys
-/// the mapper. The signals that the object emits afterwards for the same change must not write to
-/// another camera either; a parameter that the object has been given in between is shown at the
-/// end.
+/// It is over before its destruction when a receiver of the object's signals unmaps the object or
+/// destroys the mapper. Later signals of the object for the same update must not cause a write to
+/// another camera either. If the object has been bound to another parameter in between, that one is
+/// shown at the end.
 class Showing
 {
 public:

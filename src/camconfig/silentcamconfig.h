@@ -5,7 +5,7 @@
 
 namespace OrvGui {
 
-/// The main window for callers that must not be blocked: does not run the camera picker when the
+/// The main window for callers that must not block: it does not run the camera picker when the
 /// device is null.
 class SilentCamConfig : public OrvCamConfig
 {

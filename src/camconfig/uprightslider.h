@@ -5,8 +5,8 @@ class QtOrvSpinBox;
 
 namespace OrvGui {
 
-/// Gives the slider that pops up upright the height of the spin box as its width, and as its height
-/// the width of the spin box without its caption.
+/// Sets the size of a vertical pop-up slider: the width is the height of the spin box, the height
+/// is the width of the spin box without its caption.
 void fitUprightSlider(QtOrvSpinBox *spinBox);
 
 } // namespace OrvGui

@@ -19,7 +19,7 @@ void WheelGuard::guard(QWidget *widget)
         guardOne(part);
 }
 
-// Not every QAbstractSlider: the scroll bar of a combo box's list is one.
+// Not every QAbstractSlider, because the scroll bar of a combo box's list is one, too.
 void WheelGuard::guardOne(QWidget *widget)
 {
     if (!qobject_cast<QComboBox *>(widget) && !qobject_cast<QAbstractSpinBox *>(widget) &&

@@ -7,10 +7,10 @@ class QWidget;
 
 namespace OrvGui {
 
-/// Keeps the wheel from changing a value that the user only scrolls past: combo boxes, spin boxes,
-/// sliders and tab bars without the focus pass wheel events to their parents.
+/// Keeps the wheel from changing a value while the user scrolls: combo boxes, spin boxes, sliders
+/// and tab bars without the focus pass wheel events to their parents.
 ///
-/// The wheel does not give them the focus, either. Widgets and guard may be destroyed in any order.
+/// The wheel does not focus them, either. Widgets and guard may be destroyed in any order.
 class WheelGuard : public QObject
 {
 public:
