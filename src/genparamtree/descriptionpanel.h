@@ -9,8 +9,8 @@ namespace OrvGui {
 
 class TreeLookAhead;
 
-/// Shows the description of a feature. What the camera says of itself is shown literally: its texts
-/// are no markup, and nothing that they name is opened.
+/// Shows the description of a feature. The camera's texts are shown literally: markup is not
+/// interpreted, and resources that they name are not opened.
 class DescriptionPanel : public QTextBrowser
 {
     Q_OBJECT
@@ -18,15 +18,15 @@ class DescriptionPanel : public QTextBrowser
 public:
     explicit DescriptionPanel(QWidget *parent = nullptr);
 
-    /// Null, or a feature that cannot be described, leaves the panel empty. To be called again when
-    /// the feature changes; the reader's place in the text stays. What is not known yet is left
-    /// out, or stays as it was; without a look-ahead the camera is waited for.
+    /// Null, or a feature without a description, empties the panel. Call it again when the feature
+    /// changes; the scroll position is kept. Values that are not cached are left out or keep their
+    /// last text; without a look-ahead the call blocks.
     void describe(GenApi::IValue *feature, TreeLookAhead *lookAhead);
 
     QVariant loadResource(int type, const QUrl &name) override;
 
 private:
-    const GenApi::IValue *m_feature = nullptr; ///< only to be compared
+    const GenApi::IValue *m_feature = nullptr; ///< used for comparison only
     QString m_text;
 };
 

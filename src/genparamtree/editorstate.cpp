@@ -33,12 +33,12 @@ QString textOf(const QWidget *editor, const QLineEdit *lineEdit)
 void selectAll(QWidget *editor, QLineEdit *lineEdit)
 {
     if (auto *spinBox = qobject_cast<QAbstractSpinBox *>(editor))
-        spinBox->selectAll(); // the suffix excepted
+        spinBox->selectAll(); // without the suffix
     else
         lineEdit->selectAll();
 }
 
-// Comparing variants takes neighbouring floating-point numbers for equal.
+// QVariant's comparison is fuzzy for floating-point numbers.
 bool isSame(const QVariant &a, const QVariant &b)
 {
     return a.userType() == QMetaType::Double ? a.toDouble() == b.toDouble() : a == b;
@@ -115,7 +115,7 @@ bool EditorState::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Hide && qobject_cast<QWidget *>(watched)->isWindow()) {
         m_isListClosed = true;
-        // An entry that was chosen becomes the current one only after its list has closed.
+        // A chosen entry becomes the current one only after the list has closed.
         QMetaObject::invokeMethod(this, "reportClosedList", Qt::QueuedConnection);
     }
     if (event->type() == QEvent::KeyPress) {
@@ -130,7 +130,7 @@ bool EditorState::eventFilter(QObject *watched, QEvent *event)
 
 void EditorState::reportClosedList()
 {
-    emit dismissed(); // an editor that a choice has closed is no longer connected
+    emit dismissed(); // closed by a choice, the editor is no longer connected
 }
 
 void EditorState::noteTyping()
@@ -142,7 +142,7 @@ void EditorState::noteTyping()
 
 void EditorState::noteStep()
 {
-    // What is no number when it is entered, a spin box replaces by the number before.
+    // A spin box replaces invalid input by its previous value when it is entered.
     if (m_isBeingFilled || isSame(content(), m_latest))
         return;
     m_latest = content();
@@ -158,10 +158,10 @@ bool EditorState::isAcceptable() const
 
 bool EditorState::isToBeWritten() const
 {
-    // A list ends its editing whenever its entry changes, even if the camera changed it.
+    // A combo box commits whenever its entry changes, even if the camera has changed it.
     if (m_isBeingFilled || !isAcceptable())
         return false;
-    // A value that is typed once more is to be written.
+    // The user has typed the same value again, which is written, too.
     return m_isTyped || m_editor->isWindowModified() || !isSame(content(), m_known);
 }
 

@@ -13,17 +13,17 @@ class QWidget;
 
 namespace OrvGui {
 
-/// What has happened to an editor of the tree since the camera's value was put into it: whether the
-/// user has touched it, whether what it holds is to be written, and whether its list was dismissed.
+/// The state of an editor of the tree since it was filled with the camera's value: whether the user
+/// has changed it, whether its content is to be written, and whether its list was dismissed.
 ///
-/// A child of the editor. Fill the editor only while a `Filling` lives.
+/// A child of the editor. Fill the editor only while a `Filling` exists.
 class EditorState : public QObject
 {
     Q_OBJECT
 
 public:
-    /// While one lives, changes of the editor are the camera's. The selection and the cursor stay
-    /// where the user has left them. The editor may go before it.
+    /// While an instance exists, changes of the editor are attributed to the camera. The selection
+    /// and the cursor are restored. The editor may be destroyed first.
     class Filling
     {
     public:
@@ -39,40 +39,40 @@ public:
         int m_cursor = 0;
     };
 
-    /// A list has no current entry until it is filled: any choice is a change then.
+    /// Until it is filled, a list has no current entry, and any choice counts as a change.
     explicit EditorState(QWidget *editor);
 
-    /// Null for an editor without a state.
+    /// Null for an editor without one.
     static EditorState *of(const QWidget *editor);
 
-    /// Whether the tree shows it; the tree sets this.
+    /// Whether the tree shows the editor; set by the tree.
     bool isOpen() const { return m_isOpen; }
     void setOpen(bool on) { m_isOpen = on; }
 
-    /// The value to fill it with is not known yet.
+    /// The value for the editor is not cached yet.
     void setWaiting() { m_isWaiting = true; }
 
-    /// Whether it has been waiting, which it no longer is.
+    /// Returns whether the editor has been waiting, and clears the flag.
     bool takeWaiting() { return std::exchange(m_isWaiting, false); }
 
-    /// True once the user has typed or stepped; such an editor is no longer filled.
+    /// True after the user has typed or stepped. Such an editor is no longer filled.
     bool isTouched() const { return m_isTouched; }
 
-    /// For an input method, whose text is not in the editor before it is complete.
+    /// For an input method, whose text is not in the editor until it is complete.
     void setTouched() { m_isTouched = true; }
     bool isToBeWritten() const;
     void setWritten();
 
-    /// True once the list has been closed, with or without a choice.
+    /// True after the list has closed, with or without a choice.
     bool isListClosed() const { return m_isListClosed; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// The list was closed and nothing chosen.
+    /// The list has closed without a choice.
     void dismissed();
 
-    /// Tab was pressed in the list, or Backtab.
+    /// Tab or Backtab was pressed in the list.
     void tabbed(bool forward);
 
 private slots:
@@ -86,9 +86,9 @@ private:
     QVariant content() const;
 
     QWidget *const m_editor;
-    QLineEdit *const m_lineEdit; ///< the editor, or in it; null when nothing can be typed
-    QVariant m_known;            ///< what the camera's value filled in
-    QVariant m_latest;           ///< after the last step or valid typing
+    QLineEdit *const m_lineEdit; ///< the editor or its child; null when nothing can be typed
+    QVariant m_known;            ///< the value of the camera that was filled in
+    QVariant m_latest;           ///< the content after the last step or valid typing
     bool m_isOpen = false;
     bool m_isWaiting = false;
     bool m_isBeingFilled = false;

@@ -18,17 +18,17 @@ namespace {
 
 constexpr int nameColumn = 0;
 
-// What of the text's colour is in a background that has to be made up.
+// The share of the text colour in a background that is computed.
 constexpr double alternateShare = 0.06;
 constexpr double categoryShare = 0.22;
 
-// Beyond, a number is more easily read with an exponent.
+// Outside this range a number is more readable with an exponent.
 constexpr double plainMin = 1e-5;
 constexpr double plainMax = 1e15;
 
 QString withoutExponent(double value, int precision, const QLocale &locale)
 {
-    // At least that many digits count, also of a number below 1.
+    // The precision counts significant digits, also for a number below 1.
     const int exponent =
         value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(value))));
     int decimals = qMax(precision, precision - 1 - exponent);
@@ -96,7 +96,7 @@ QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
 
 QString featureText(GenApi::IValue *feature, const QVariant &value, const QLocale &locale)
 {
-    QLocale ungrouped(locale); // as in the editors
+    QLocale ungrouped(locale); // as editors show numbers
     ungrouped.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
     try {
         return valueText(feature, value, ungrouped);

@@ -11,7 +11,7 @@ class QPalette;
 class QStyleOptionViewItem;
 class QVariant;
 
-// How the cells of the tree look. Nothing here reads a value from the camera.
+// The appearance of the tree's cells. Reads no value from the camera.
 
 namespace OrvGui {
 
@@ -19,11 +19,11 @@ namespace OrvGui {
 /// notation and precision of the node, booleans in the words of their editor.
 QString featureText(GenApi::IValue *feature, const QVariant &value, const QLocale &locale);
 
-/// Makes the alternate rows of a palette ones on which its text can be read.
+/// Adjusts the alternate row colours of a palette so that text on them is readable.
 void keepRowsReadable(QPalette *palette);
 
-/// Completes the options of either cell of a row: the whole row of a category has its background,
-/// and the text is of a colour that can be read.
+/// Completes the options of both cells of a row: the row of a category gets its background, and the
+/// text a readable colour.
 void styleFeatureCell(QStyleOptionViewItem *option, const QModelIndex &cell);
 
 } // namespace OrvGui

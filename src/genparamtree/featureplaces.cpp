@@ -11,7 +11,7 @@
 
 namespace {
 
-// Categories of cameras are shorter.
+// Categories of real cameras are shorter.
 const std::size_t longList = 500;
 
 std::size_t fingerprintOf(const GenApi::FeatureList_t &list)
@@ -102,7 +102,7 @@ bool FeaturePlaces::isRight(const Hints &hints, const GenApi::IValue *value)
     return true;
 }
 
-// A category that is met again has no first places to offer.
+// Only the first occurrence of a category can contain first places.
 void FeaturePlaces::note(GenApi::ICategory &category, GenApi::IValue *value, Hints &hints) const
 {
     const auto noted = hints.fingerprints.emplace(&category, 0);

@@ -9,18 +9,18 @@
 #include <memory>
 #include <unordered_map>
 
-/// Tells where a feature is listed first in the tree below a category, depth first and in row
+/// Finds the place at which a feature is listed first below a category, depth first and in row
 /// order, without a search for each feature.
 ///
-/// Where features were found is remembered as a hint. A hint is used only if the categories from
-/// the root down still list what they listed. A category that is seen with another list than before
-/// makes all hints void, because a feature may have got an earlier place; so does a feature that is
-/// not where its hint says. Then the tree is walked once, for all features.
+/// The places of features are stored as hints. A hint is used only if the categories from the root
+/// down still contain the same entries. All hints become invalid when a category has another list
+/// than before, because a feature may then have an earlier place, and when a feature is not at the
+/// place of its hint. Then one walk over the tree finds all features.
 ///
-/// Lists are fetched each time. Only a list so long that this would cost the square of its
-/// length is kept, until the program is back in its event loop or the length is queried.
+/// Lists are fetched each time. Only lists so long that this would cost quadratic time are kept,
+/// until the program returns to its event loop or the length is queried.
 ///
-/// `find` may be called on any thread, everything else belongs to the thread of the object.
+/// `find` may be called on any thread, the other functions only on the thread of the object.
 class FeaturePlaces : public QObject
 {
 public:
@@ -28,10 +28,10 @@ public:
     {
         GenApi::ICategory *category = nullptr;
         GenApi::IValue *parent = nullptr; ///< the category as a feature; null for the root
-        int row = -1;                     ///< -1 for a feature that is not in the tree
+        int row = -1;                     ///< -1 when the feature is not in the tree
     };
 
-    /// Call first, and before there are other threads: cuts the circles below the root.
+    /// Call it first, before other threads use the object: breaks the cycles below the root.
     void cutCircles(GenApi::ICategory &root) { m_features.cutCircles(root); }
 
     GenApi::FeatureList_t listOf(const GenApi::ICategory &category) const
@@ -40,7 +40,7 @@ public:
     }
     int count(const GenApi::ICategory &category);
 
-    /// Null behind the end of the category's list.
+    /// Null beyond the end of the category's list.
     GenApi::IValue *at(const GenApi::ICategory &category, int row);
 
     Place find(const GenApi::IValue *value, GenApi::ICategory &root);
@@ -60,6 +60,6 @@ private:
     bool isRight(const Hints &hints, const GenApi::IValue *value);
 
     AcyclicFeatures m_features;
-    std::shared_ptr<const Hints> m_hints; ///< replaced as a whole and atomically; null when void
+    std::shared_ptr<const Hints> m_hints; ///< replaced atomically; null when invalid
     std::unordered_map<const GenApi::ICategory *, GenApi::FeatureList_t> m_longLists;
 };

@@ -21,8 +21,8 @@ namespace {
 constexpr int nameColumn = 0;
 constexpr int valueColumn = 1;
 
-/// An editor has something to say already while it is filled for the first time, and may still have
-/// when it has been closed. Qt does not know it then, and Qt 6 complains.
+/// An editor may emit signals while it is filled for the first time, and after it has been closed.
+/// Qt does not know the editor then, and Qt 6 prints a warning.
 bool isOpen(const QWidget *editor)
 {
     const EditorState *state = EditorState::of(editor);
@@ -80,7 +80,7 @@ void FeatureTree::showArrived()
     viewport()->update();
     const Edit edit = m_waitingEdit;
     const QModelIndex index = edit.index;
-    // The user may have gone elsewhere.
+    // The user may have moved to another cell or widget.
     const bool isObsolete =
         index != currentIndex() || (edit.hadFocus && QApplication::focusWidget() && !isFocused());
     if (index.isValid() && !isObsolete && !isReadyForEditing(index))
@@ -92,7 +92,7 @@ void FeatureTree::showArrived()
     if (isEditable)
         openEditor(index, edit.trigger, nullptr);
     else if (edit.hint != QAbstractItemDelegate::NoHint)
-        closeEditor(nullptr, edit.hint); // goes on to the next one
+        closeEditor(nullptr, edit.hint); // moves to the next cell
 }
 
 bool FeatureTree::isFocused() const
@@ -101,7 +101,7 @@ bool FeatureTree::isFocused() const
     return focused && (focused == this || isAncestorOf(focused));
 }
 
-// Qt would lay out a text that looks like markup, and open the pictures that it names.
+// Qt would interpret markup in the text, and open the images that it names.
 bool FeatureTree::viewportEvent(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip && event->type() != QEvent::WhatsThis)
@@ -128,7 +128,7 @@ void FeatureTree::keyboardSearch(const QString &search)
 void FeatureTree::keyPressEvent(QKeyEvent *event)
 {
     if (isEditorFocused())
-        return; // what an editor leaves alone must not move on to another one
+        return; // a key that an editor ignores must not reach the tree
     switch (event->key()) {
     case Qt::Key_F2:
     case Qt::Key_Return:
@@ -142,7 +142,7 @@ void FeatureTree::keyPressEvent(QKeyEvent *event)
     case Qt::Key_PageDown:
     case Qt::Key_Home:
     case Qt::Key_End:
-        goToName(); // on the way through the values, an editor would take the next key
+        goToName(); // moving through values would open editors, which take the next key
         break;
     default:
         break;
@@ -164,7 +164,7 @@ bool FeatureTree::editCurrentRow()
     if (value == currentIndex())
         edit(value);
     else
-        setCurrentIndex(value); // which opens the editor
+        setCurrentIndex(value); // opens the editor
     return true;
 }
 
@@ -176,7 +176,7 @@ void FeatureTree::goToName()
                                           QItemSelectionModel::NoUpdate);
 }
 
-// Tab and Backtab in an editor ask for the next and the previous cell.
+// Tab and Backtab in an editor move to the next and the previous cell.
 QModelIndex FeatureTree::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     if (action != MoveNext && action != MovePrevious)

@@ -13,10 +13,10 @@ namespace OrvGui {
 
 class TreeLookAhead;
 
-/// The tree of the features: names in column 0, which the keyboard walks through, and values in
-/// column 1, which it enters with F2 or Return and leaves with Escape or Return. Tab goes on to the
-/// next value that can be changed. An editor opens when all that it needs is known. What the camera
-/// says of itself is shown literally.
+/// The tree of the features: names in column 0 and values in column 1. The keyboard moves through
+/// the names; F2 or Return starts editing, Escape or Return ends it, and Tab moves to the next
+/// editable value. An editor opens when all values that it needs are cached. The camera's texts are
+/// shown literally.
 class FeatureTree : public QTreeView
 {
     Q_OBJECT
@@ -24,13 +24,13 @@ class FeatureTree : public QTreeView
 public:
     using QTreeView::QTreeView;
 
-    /// Until the layout is done, expanding and collapsing cost nothing.
+    /// Until the layout is done, expanding and collapsing are cheap.
     using QTreeView::scheduleDelayedItemsLayout;
 
-    /// Null for none; the camera is waited for then.
+    /// Null for none; then calls block for the camera.
     void setLookAhead(TreeLookAhead *lookAhead);
 
-    /// The features whose rows are on the screen.
+    /// The features whose rows are visible on the screen.
     std::set<GenApi::IValue *> shownFeatures() const;
 
     void keyboardSearch(const QString &search) override;
@@ -49,7 +49,7 @@ protected slots:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
-    /// An editor that is to be opened.
+    /// An editor that is waiting to be opened.
     struct Edit
     {
         QPersistentModelIndex index;

@@ -7,5 +7,5 @@
 /// GigE Vision are IPv4 addresses (subnet masks and gateways too) and "GevMACAddress" is a MAC
 /// address; the representation in the device description is ignored.
 ///
-/// Everything that shows or edits integers asks here, so that a value and its editor agree.
+/// All code that shows or edits integers uses this function, so that a value and its editor agree.
 GenApi::ERepresentation FixIntegerRepresentation(GenApi::IInteger *node);

@@ -5,8 +5,8 @@
 
 namespace OrvGui {
 
-/// The editor of a floating-point feature: takes a decimal point beside the locale's sign, which
-/// would otherwise be dropped and leave ten times the number.
+/// The editor of a floating-point feature. Accepts a decimal point as well as the locale's decimal
+/// sign; QDoubleSpinBox would drop it, which changes the number by a power of ten.
 class FloatEditor : public QDoubleSpinBox
 {
     Q_OBJECT

@@ -50,7 +50,7 @@ void setDisplayBase(QSpinBox *spinBox, GenApi::ERepresentation representation)
 
 bool wasClosed(const QComboBox *comboBox)
 {
-    // Before it is shown for the first time, a widget is hidden, too, but not on purpose.
+    // A widget that has never been shown is hidden, too, but not explicitly.
     return comboBox->isHidden() && comboBox->testAttribute(Qt::WA_WState_ExplicitShowHide);
 }
 
@@ -152,7 +152,7 @@ QWidget *GenParamDelegate::createIntegerEditor(QWidget *parent, const QStyleOpti
     QScopedPointer<QSpinBox> spinBox(new QSpinBox(parent));
     setDisplayBase(spinBox.data(), FixIntegerRepresentation(integer));
     spinBox->setFrame(false);
-    // A minimum beyond 32 bits is cut off, not clamped as the maximum is.
+    // A minimum beyond 32 bits is truncated, not clamped as the maximum is.
     spinBox->setRange(static_cast<int>(integer->GetMin()),
                       static_cast<int>(std::min(integer->GetMax(), spinBoxMax)));
     spinBox->setSuffix(unit);
@@ -274,8 +274,8 @@ bool GenParamDelegate::ask(const GenApi::CValuePtr &node,
 
 void GenParamDelegate::openList(QComboBox *comboBox)
 {
-    // While a choice is being written, the change of the node leads here, but the list must not
-    // open once more. And opening an open one would take back where the user is in it.
+    // While a choice is being written, the change notification of the node calls this, and the list
+    // must not open again. Reopening an open list would reset the user's position in it.
     if (!comboBox->isWindowModified() && !wasClosed(comboBox) && !comboBox->view()->isVisible())
         comboBox->showPopup();
 }
@@ -284,7 +284,7 @@ void GenParamDelegate::openListAt(QComboBox *comboBox, const QVariant &value)
 {
     const QPointer<QComboBox> alive(comboBox);
     comboBox->setCurrentIndex(comboBox->findData(value, Qt::UserRole));
-    if (alive) // the new index may have ended the editing
+    if (alive) // the new index may have closed the editor
         openList(comboBox);
 }
 
@@ -381,7 +381,7 @@ QComboBox *GenParamDelegate::createComboBox(QWidget *parent, const ComboBoxEntri
     const auto currentIndexChanged =
         static_cast<void (QComboBox::*)(int)>(&QComboBox::currentIndexChanged);
     connect(comboBox, currentIndexChanged, self.data(), [self, comboBox] {
-        // What follows the write may take the view away, and both of us with it.
+        // A handler of the write may destroy the view, the editor and this object.
         const QPointer<QComboBox> alive(comboBox);
         comboBox->setWindowModified(true);
         emit self->commitData(comboBox);
@@ -407,7 +407,7 @@ bool GenParamDelegate::MouseTracker::eventFilter(QObject *watched, QEvent *event
     const bool consumed = QObject::eventFilter(watched, event);
     if (event->type() == QEvent::MouseButtonPress && !m_editor->testAttribute(Qt::WA_UnderMouse)) {
         QCoreApplication::instance()->removeEventFilter(this);
-        m_editor->clearFocus(); // which commits and closes the editor
+        m_editor->clearFocus(); // commits and closes the editor
     }
     return consumed;
 }

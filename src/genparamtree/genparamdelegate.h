@@ -15,9 +15,9 @@ class QComboBox;
 /// values, a button for commands, line edits for addresses and texts.
 ///
 /// Install it on the value column. It reads limits and entries from the node, but writes only
-/// through the model. Combo boxes open at once and commit on the first change; a click anywhere
-/// outside ends the other editors. GenICam exceptions raised while an editor is made or filled are
-/// the caller's.
+/// through the model. Combo boxes open at once and commit on the first change; a click outside ends
+/// the other editors. GenICam exceptions during the creation or filling of an editor are passed to
+/// the caller.
 class GenParamDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -34,11 +34,11 @@ public:
                               const QModelIndex &index) const override;
 
 protected:
-    /// Runs a function that asks nodes for what an editor is filled with. False when it was not
-    /// answered; the editor stays as it is then.
+    /// Runs a function that reads nodes to fill an editor. Returns false when a value is not
+    /// cached; the editor then stays unchanged.
     virtual bool ask(const GenApi::CValuePtr &node, const std::function<void()> &questions) const;
 
-    /// Shows the list of entries, unless it is open or the choice is made already.
+    /// Opens the list of entries, unless it is open or a choice has been made.
     static void openList(QComboBox *comboBox);
 
 private:
@@ -74,9 +74,9 @@ private:
     void captureMouseForEditor(QWidget *editor) const;
 };
 
-/// Ends editing when the user clicks anywhere outside the editor, in any window: watches all
-/// of the application's events for the first such press and takes the focus from the editor. Dies
-/// with the editor.
+/// Ends editing when the user clicks outside the editor, in any window: filters all events of the
+/// application for the first such press, and takes the focus from the editor. Destroyed with the
+/// editor.
 class GenParamDelegate::MouseTracker : public QObject
 {
 public:

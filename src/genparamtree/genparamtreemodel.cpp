@@ -82,7 +82,7 @@ void setEnumeration(GenApi::IEnumeration &enumeration, const QVariant &data)
 
 void GenParamTreeModelPrivate::Init(GenParamTreeModel *model)
 {
-    // dataChanged crosses threads when a node was changed on another one.
+    // dataChanged is queued when a node is changed on another thread.
     qRegisterMetaType<QVector<int>>("QVector<int>");
     q = model;
     try {
@@ -408,7 +408,7 @@ bool GenParamTreeModel::setData(const QModelIndex &index, const QVariant &value,
     if (!index.isValid() || role != Qt::EditRole || index.column() != valueColumn)
         return false;
 
-    // A host that follows the camera's changes may replace the tree in reaction to the write.
+    // A host may replace the tree in its handler of the change.
     const QPointer<GenParamTreeModel> alive(this);
     try {
         GenApi::IValue *feature = GenParamTreeModelPrivate::valueFromIndex(index);

@@ -19,17 +19,17 @@ class GenParamTreeModelPrivate;
 ///
 /// Use it with any item view; `Qt::UserRole` of a cell is the row's `GenApi::IValue *`, and
 /// `Qt::WhatsThisRole` a description of the feature in rich text. Values are edited through
-/// `setData`. The tree hangs from the category "Root"; without one, or without a node map, the
-/// model is empty.
+/// `setData`. The top-level rows are the features of the category "Root"; without one, or without a
+/// node map, the model is empty.
 ///
-/// The model keeps no copy of the tree, it asks the node map every time; only the list of a
-/// category of more than 500 features may be as old as the last `rowCount` or the last turn of the
-/// event loop. A feature that several categories list has a row in each, but `parent` and change
-/// notifications know only the first of them in depth-first order. Features that join the tree
-/// after the model was made are shown but not watched.
+/// The model stores no copy of the tree and queries the node map each time; only the list of a
+/// category with more than 500 features may be as old as the last `rowCount` or the last iteration
+/// of the event loop. A feature in several categories has a row in each, but `parent` and change
+/// notifications refer to the first of them in depth-first order. Features that are added to the
+/// tree after the model was created are shown but not observed.
 ///
-/// The node map must outlive the model. The model belongs to the GUI thread; `dataChanged` is
-/// emitted on the thread that changed the node.
+/// The node map must outlive the model. Use the model on the GUI thread; `dataChanged` is emitted
+/// on the thread that changed the node.
 class GenParamTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ class GenParamTreeModel : public QAbstractItemModel
 public:
     explicit GenParamTreeModel(GenApi::INodeMap *nodeMap, QObject *parent = nullptr);
 
-    /// Works on the node map that the array comes from.
+    /// Uses the node map of the array.
     explicit GenParamTreeModel(OrvGenParam::Array *array, QObject *parent = nullptr);
     ~GenParamTreeModel() override;
 
@@ -56,27 +56,27 @@ public:
     /// written or the camera refuses; the feature then keeps its value.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    /// Writes a value as GenICam's text, or executes a command, and reports it as `setData` does.
-    /// Empty on success, otherwise the reason for the refusal. The notification of the feature
-    /// updates the cells.
+    /// Writes a value in GenICam's format, or executes a command, and reports it as `setData` does.
+    /// Returns an empty text on success, otherwise the reason for the refusal. The notification of
+    /// the feature updates the cells.
     QString writeText(GenApi::IValue *feature, const QString &text);
 
-    /// The value as GenICam's text; null when it cannot be read, and for a command. Waits for the
-    /// camera only when the value is not known.
+    /// The value in GenICam's format; null when it cannot be read, and for a command. Blocks only
+    /// when the value is not cached.
     QString text(GenApi::IValue *feature) const;
 
-    /// The same without waiting; null also for a value that is not known.
+    /// The same without blocking; also null for a value that is not cached.
     QString knownText(GenApi::IValue *feature) const;
 
 signals:
-    /// A write of this model begins. The value is known by now, if it can be read at all.
+    /// A write by this model begins. The value is cached by now, if it can be read at all.
     void aboutToWrite(GenApi::IValue *feature);
 
-    /// A write of this model has succeeded; the texts are those of `text`, before it and after it.
-    /// A connection has the value read around each write when it is not known.
+    /// A write by this model has succeeded; the texts are those of `text` before and after it.
+    /// While this signal is connected, values that are not cached are read around each write.
     void written(GenApi::IValue *feature, const QString &before, const QString &after);
 
-    /// A write of this model was refused.
+    /// A write by this model was refused.
     void refused(GenApi::IValue *feature, const QString &reason);
 
 private:

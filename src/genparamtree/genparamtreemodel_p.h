@@ -9,24 +9,24 @@
 #include <functional>
 #include <vector>
 
-/// Private part of `GenParamTreeModel`, and the client of its node callbacks.
+/// Private part of `GenParamTreeModel`; handles its node callbacks.
 class GenParamTreeModelPrivate
 {
 public:
-    /// Registers a callback for every feature of the tree, once per place where it is listed.
+    /// Registers a callback for each feature of the tree, once per row.
     void Init(GenParamTreeModel *model);
 
-    /// Null when the index is not that of a category.
+    /// Null when the index does not belong to a category.
     GenApi::CCategoryPtr CategoryFromIndex(const QModelIndex &index) const;
 
-    /// Null when the index is not that of a feature.
+    /// Null when the index does not belong to a feature.
     static GenApi::IValue *valueFromIndex(const QModelIndex &index);
 
     void RegisterCallbackForChildren(const GenApi::CCategoryPtr &category);
     void DeRegisterCallbacks();
     void NodeCallback(GenApi::INode *node);
 
-    /// The cell of the feature's first occurrence, depth first; column -1 asks for the parent of
+    /// The cell of the feature's first occurrence, depth first; column -1 returns the parent of
     /// that row instead.
     QModelIndex findIndexByValueClass(const GenApi::IValue *value, int column) const;
 
@@ -41,8 +41,8 @@ public:
 
     enum Outcome { Written, Refused, NotWritable };
 
-    /// Runs a write, whose result is false for what cannot be written at all. An observed one is
-    /// reported, with the texts or the reason.
+    /// Runs a write, which returns false for a feature that cannot be written at all. When the
+    /// write is observed, reports it with the texts or the reason.
     Outcome carryOut(GenApi::IValue *feature, const std::function<bool()> &write,
                      QString *reason = nullptr);
     bool isObserved() const;

@@ -35,6 +35,6 @@ bool GenParamTreeVisibilityFilterProxyModel::isShownAt(int visibility, const QMo
     try {
         return !value || value->GetNode()->GetVisibility() <= visibility;
     } catch (const GenICam::GenericException &) {
-        return true; // Qt's proxy would be left half filtered
+        return true; // an exception would leave Qt's proxy half filtered
     }
 }

@@ -5,9 +5,9 @@
 
 /// Hides the features of a `GenParamTreeModel` whose visibility is above a level.
 ///
-/// Set the tree model as its source model. A category is judged by its own visibility alone: one
-/// that is hidden hides all below it, one whose features are all hidden stays as an empty branch.
-/// Rows without a feature are shown.
+/// Set the tree model as its source model. Only a category's own visibility counts: a hidden
+/// category hides all rows below it, and a category whose features are all hidden stays without
+/// rows. Rows without a feature are shown.
 class GenParamTreeVisibilityFilterProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     /// The highest `GenApi::EVisibility` shown: 0 Beginner (the default), 1 Expert, 2 Guru.
     int filterVisibility() const { return m_filterVisibility; }
 
-    /// What the row of that index is judged by, at any level.
+    /// Whether the row is shown at that level.
     static bool isShownAt(int visibility, const QModelIndex &index);
 
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
@@ -27,7 +27,7 @@ public slots:
     void setFilterVisibility(int _visibility);
 
 protected:
-    /// Has all rows judged anew.
+    /// Filters all rows again.
     virtual void refilter();
 
 private:

@@ -20,7 +20,7 @@ enum Visibility : int { Basic = 0, Expert = 1, Guru = 2 };
 /// Created by the `CreateGenParamTreeViewFor…` functions and destroyed with
 /// `DestroyGenParamTreeView`.
 ///
-/// The caller keeps ownership of the node map, and of the array that it comes from. Both must live
+/// The caller keeps ownership of the node map, and of the array that it belongs to. Both must exist
 /// until the tree is given other parameters (`setParams`), is cleared (`clearParams`) or is
 /// destroyed. A value that the user is editing at that moment is not written; its editor is closed.
 /// Call all functions on the thread of the Qt application. Inside a node callback that a write of

@@ -48,8 +48,8 @@ Qt::ItemFlags KnownValuesModel::flags(const QModelIndex &index) const
     return featureOf(source) ? cell(source).flags : sourceModel()->flags(source);
 }
 
-// Removing and inserting rows costs the product of the stretches that go and the indexes that views
-// keep. A new layout costs each row once, and views keep what is expanded and selected all the
+// Removing and inserting rows costs the number of row ranges times the number of persistent
+// indexes. A new layout costs each row once, and views keep the expansion and the selection all the
 // same.
 void KnownValuesModel::refilter()
 {
@@ -59,8 +59,8 @@ void KnownValuesModel::refilter()
     invalidate();
 }
 
-// The source knows a feature that is in several categories in the first of them only, and one that
-// has just vanished nowhere.
+// The source maps a feature in several categories to the first of them only, and one that has just
+// been removed to none.
 bool KnownValuesModel::isEachIndexFoundAgain() const
 {
     const QModelIndexList indexes = persistentIndexList();
@@ -69,7 +69,7 @@ bool KnownValuesModel::isEachIndexFoundAgain() const
     });
 }
 
-// Qt would take them for rows of the top level.
+// Qt would map them to top-level rows.
 void KnownValuesModel::dropIndexesInHiddenCategories()
 {
     QHash<QModelIndex, bool> isShown{{QModelIndex(), true}};

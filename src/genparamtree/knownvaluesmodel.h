@@ -11,14 +11,14 @@ namespace OrvGui {
 
 class TreeLookAhead;
 
-/// The feature tree as its view shows it: with what is known of the values, so that no view,
-/// delegate or assistive technology ever waits for the camera.
+/// The feature tree with cached values only, so that no view, delegate or assistive technology ever
+/// blocks for the camera.
 ///
-/// While a new value is on its way, a cell has its last text; one that has had none yet has "…" in
-/// the disabled colour. To edit there is nothing but what is known. A cell whose access mode is not
-/// known counts as editable, but there is no editor before it is.
+/// While a value is being read, a cell shows its last text, or "…" in the disabled colour if there
+/// is none. `Qt::EditRole` gives cached values only. A cell whose access mode is not cached counts
+/// as editable, but gets no editor until it is.
 ///
-/// Without a look-ahead it answers everything, and waits.
+/// Without a look-ahead the model blocks for each value.
 class KnownValuesModel : public GenParamTreeVisibilityFilterProxyModel
 {
     Q_OBJECT

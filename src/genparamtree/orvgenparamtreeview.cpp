@@ -19,7 +19,7 @@ namespace OrvGui {
 
 namespace {
 
-// The marks of a state text. They stand in saved states as they are.
+// The marks of a state text. Saved states contain them, so they must not change.
 constexpr char pathEnd[] = "&lt;";
 constexpr char widthMark[] = "&amp;W";
 constexpr char visibilityMark[] = "&amp;V";
@@ -28,7 +28,7 @@ constexpr char pathSeparator[] = "/";
 constexpr int nameColumn = 0;
 constexpr int valueColumn = 1;
 
-// All the height for the tree; the description is a strip that the user can drag open.
+// The tree gets all the height; the user can enlarge the description.
 constexpr int treePaneSize = 1000;
 constexpr int otherPaneSize = 10;
 
@@ -59,8 +59,8 @@ std::string displayName(const QModelIndex &index)
     return index.data(Qt::DisplayRole).toString().toStdString();
 }
 
-/// The number behind the first mark in the text, if there is any text behind it. Throws as
-/// `std::stoi`.
+/// The number after the first mark in the text, if the mark is not at its end. Throws as
+/// `std::stoi` does.
 bool numberAfter(const std::string &text, const std::string &mark, int *number)
 {
     const std::string::size_type position = text.find(mark);
@@ -122,7 +122,7 @@ void OrvGenParamTreeViewPrivate::setModel(std::nullptr_t)
 {
     QAbstractItemModel *model = ui->treeView->model();
     if (model) {
-        // Taking the model away closes the editor before anything that it shows is gone.
+        // Removing the model closes the editor before the data that it shows is destroyed.
         setTreeViewModel(ui->treeView, nullptr);
         delete model;
     }
@@ -166,7 +166,7 @@ void OrvGenParamTreeViewPrivate::setLookAhead(TreeLookAhead *newLookAhead)
         QObject::connect(lookAhead, &TreeLookAhead::arrived, q, [this] { describeCurrent(); });
 }
 
-/// Each before those in it, in the order of the rows.
+/// Visits each category before its subcategories, in row order.
 template<class Visit>
 void OrvGenParamTreeViewPrivate::visitCategories(const QModelIndex &parent,
                                                  const std::string &parentPath,
@@ -192,23 +192,23 @@ void OrvGenParamTreeViewPrivate::spanCategories()
                     });
 }
 
-// The tree may show the proxy through a model of the host's own.
+// A host's model may be between the tree and the proxy.
 void OrvGenParamTreeViewPrivate::applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy)
 {
     const QPointer<QAbstractItemModel> alive(proxy);
     endEditing();
-    if (!alive) // a host has replaced the tree in reaction to what was written
+    if (!alive) // a host has replaced the tree in its handler of the write
         return;
     const int level = ui->cbVisibility->currentIndex();
     leaveRowsThatGo(level);
     ui->treeView->scheduleDelayedItemsLayout();
     proxy->setFilterVisibility(level);
-    // When a whole category goes, the current row goes without a signal.
+    // When a whole category is hidden, Qt removes the current row without a signal.
     describeCurrent();
 }
 
-// Writing a value while rows go makes the filter remove rows twice. And when the row of a current
-// value cell goes, its neighbour's would become the current one, and edited.
+// A value that is written while rows are removed makes the filter remove rows twice. When the row
+// of a current value cell is removed, Qt would make a neighbouring value current and edit it.
 void OrvGenParamTreeViewPrivate::endEditing()
 {
     QTreeView *tree = ui->treeView;
@@ -227,7 +227,7 @@ void OrvGenParamTreeViewPrivate::endEditing()
                                                 QItemSelectionModel::NoUpdate);
 }
 
-// The current row becomes the next one that stays, or the one before, or the category.
+// Moves the current row to the next one that stays visible, or the previous one, or the category.
 void OrvGenParamTreeViewPrivate::leaveRowsThatGo(int level)
 {
     const QModelIndex current = ui->treeView->currentIndex();
@@ -273,8 +273,8 @@ void OrvGenParamTreeViewPrivate::loadState(const char *text)
 {
     if (!text || !*text || !ui->treeView->model())
         return;
-    state = std::string(text); // the text may be our own
-    // Wherever the path occurs: a path that is part of a saved one counts as saved, too.
+    state = std::string(text); // the text may be `state` itself
+    // Matches at any position, so a path that is part of a saved path counts as saved, too.
     visitCategories(ui->treeView->rootIndex(), std::string(),
                     [this](const QModelIndex &index, const std::string &path) {
                         ui->treeView->setExpanded(index, state.find(path) != std::string::npos);
@@ -312,8 +312,8 @@ OrvGenParamTreeView::OrvGenParamTreeView(OrvGenParam::Array *array, QWidget *par
 
 OrvGenParamTreeView::~OrvGenParamTreeView()
 {
-    // An open editor must not lose its focus, and so try to commit, while the tree is being taken
-    // apart.
+    // An open editor must not lose the focus, and so commit its value, during the destruction of
+    // the tree.
     d->setModel(nullptr);
 }
 

@@ -13,15 +13,16 @@ namespace OrvGui {
 class OrvGenParamTreeViewPrivate;
 
 /// Shows the features of a camera, or of any other node map, as an editable tree: the visibility
-/// level on top, the tree in the middle, and the description of the current feature at the bottom.
+/// level at the top, the tree in the middle, and the description of the current feature at the
+/// bottom.
 ///
 /// An ordinary widget for Qt programs; see `IOrvGenParamTreeView` for lifetimes and for the
 /// functions. Values are edited in place and written at once. A refused value silently reverts to
 /// the camera's value.
 ///
-/// With a node map that is an `OrvGenParam::LookAhead`, only a write waits for the camera. Values
-/// appear as they arrive, and an editor opens when its value and limits have arrived. The model of
-/// `treeView()` then returns cached values only; a `GenParamTreeModel` of the host blocks instead.
+/// With a node map that is an `OrvGenParam::LookAhead`, only a write blocks for the camera. Values
+/// appear when they arrive, and an editor opens when its value and limits have arrived. The model
+/// of `treeView()` then returns cached values only; a `GenParamTreeModel` of the host still blocks.
 class ORVCAMERAGUIAPI_EXPORT OrvGenParamTreeView : public QWidget, public IOrvGenParamTreeView
 {
     Q_OBJECT

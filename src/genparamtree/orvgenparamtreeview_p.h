@@ -19,11 +19,11 @@ class GenParamTreeView;
 
 namespace OrvGui {
 
-/// A role of rows that stand for no feature of the camera, though they hold one.
+/// True for rows that are not features of the camera, although their `Qt::UserRole` is a feature.
 constexpr int ownRowRole = Qt::UserRole + 1;
 
-/// Private part of `OrvGenParamTreeView`. What stands around a tree reaches through it what a host
-/// has no business with.
+/// Private part of `OrvGenParamTreeView`. Widgets of this library that contain a tree use it for
+/// functions that are not for hosts.
 class OrvGenParamTreeViewPrivate
 {
 public:
@@ -59,8 +59,8 @@ public:
     SafeDelegate *valueDelegate = nullptr;
     QPointer<TreeLookAhead> lookAhead; ///< of the model
 
-    /// Makes the model that the tree shows in place of this one; it takes this one over. Asked for
-    /// each node map.
+    /// Creates a model that the tree shows in place of the given one, which the new model owns.
+    /// Called for each node map.
     std::function<QAbstractItemModel *(KnownValuesModel *)> wrap;
 
     std::string state;

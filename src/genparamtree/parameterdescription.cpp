@@ -12,7 +12,7 @@
 
 namespace {
 
-/// How the camera's own texts are put into a description.
+/// How the camera's texts are encoded in a description.
 typedef QString (*CameraText)(const GenICam::gcstring &);
 
 QString escaped(const GenICam::gcstring &text)
@@ -138,7 +138,7 @@ QStringList typeSpecificLines(GenApi::IValue *value, GenApi::EInterfaceType type
     }
 }
 
-/// What is the same for all kinds of feature, and never changes.
+/// The lines that are the same for all kinds of feature and never change.
 QStringList commonLines(GenApi::IValue *value, GenApi::EInterfaceType type, CameraText cameraText)
 {
     const GenApi::CNodePtr node(value->GetNode());

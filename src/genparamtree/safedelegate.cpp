@@ -51,7 +51,7 @@ QWidget *SafeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     }
 }
 
-/// The name that a screen reader speaks: that of the feature. May be null.
+/// Sets the accessible name of the editor, which may be null, to that of the feature.
 QWidget *SafeDelegate::named(QWidget *editor, const QModelIndex &index)
 {
     const QString name = cameraText(index.sibling(index.row(), 0).data().toString());
@@ -62,7 +62,7 @@ QWidget *SafeDelegate::named(QWidget *editor, const QModelIndex &index)
     return editor;
 }
 
-/// In place of a list without entries.
+/// The editor for a list without entries.
 QWidget *SafeDelegate::createNote(QWidget *parent)
 {
     auto *note = new QLineEdit(parent);
@@ -108,11 +108,11 @@ void SafeDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
         openList(list);
 }
 
-/// False, and the editor as it was, when there is no value to fill it with.
+/// Returns false, and leaves the editor unchanged, when there is no value.
 bool SafeDelegate::fill(QWidget *editor, const QModelIndex &index) const
 {
     try {
-        // The model has a text in place of a value that is not readable.
+        // When a value is not readable, the model returns a text in its place.
         const GenApi::CValuePtr feature(featureOf(index));
         bool isReadable = false;
         m_hasMissed = false;
@@ -142,7 +142,7 @@ void SafeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         state->setWritten();
 }
 
-/// Also of an editor whose row has gone.
+/// Also called for an editor whose row has been removed.
 void SafeDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
 {
     if (EditorState *state = EditorState::of(editor))
@@ -157,7 +157,7 @@ bool SafeDelegate::eventFilter(QObject *watched, QEvent *event)
     if (state && event->type() == QEvent::InputMethod)
         state->setTouched();
     if (state && event->type() == QEvent::Wheel && !state->isTouched()) {
-        event->ignore(); // the tree gets it
+        event->ignore(); // the tree handles it
         return true;
     }
     if (state && event->type() == QEvent::KeyPress && state->isListClosed()) {

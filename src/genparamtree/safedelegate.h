@@ -10,15 +10,15 @@ namespace OrvGui {
 
 class TreeLookAhead;
 
-/// The value column of the tree, which opens an editor wherever the current cell goes.
+/// The delegate of the tree's value column, which opens an editor on the current cell.
 ///
-/// Only what the user has typed, stepped to or chosen is written: an editor that is touched is no
-/// longer filled with the camera's value, a list that is dismissed closes, and the wheel scrolls
-/// the tree. And the failure of a node is kept out of Qt's event loop, which cannot handle it: such
-/// a node gets no editor, or one without its current value.
+/// Writes only values that the user has typed, stepped to or chosen: a touched editor is no longer
+/// filled with the camera's value, a dismissed list closes without a write, and the wheel scrolls
+/// the tree. Exceptions of nodes do not reach Qt's event loop, which cannot handle them: such a
+/// node gets no editor, or one without its current value.
 ///
-/// With a look-ahead nothing here waits for the camera: an editor is made of what is known, and
-/// filled when its value is known.
+/// With a look-ahead the delegate never blocks for the camera: it creates the editor from cached
+/// data, and fills it when its value is cached.
 class SafeDelegate : public GenParamDelegate
 {
     Q_OBJECT
@@ -48,9 +48,9 @@ private:
     static QWidget *createNote(QWidget *parent);
     bool fill(QWidget *editor, const QModelIndex &index) const;
 
-    /// The cell whose value `displayText` is asked for.
+    /// The cell that is being painted, for `displayText`.
     mutable QModelIndex m_painted;
-    mutable bool m_hasMissed = false; ///< something that `ask` was to find out
+    mutable bool m_hasMissed = false; ///< a value that `ask` needs is not cached
     QPointer<TreeLookAhead> m_lookAhead;
 };
 

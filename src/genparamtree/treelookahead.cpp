@@ -18,15 +18,15 @@ namespace {
 
 using Ask = TreeLookAhead::Ask;
 
-/// What is missing again as soon as it was read, because it outdates faster than that or because it
-/// was changed in between, is read again after so many milliseconds.
+/// The pause before a value is read again, in ms, when it became invalid during or just after a
+/// read.
 constexpr int repetitionPause = 100;
 
-/// While something is read, what has come so far is shown that often.
+/// The interval at which partial results of a read are shown, in ms.
 constexpr int progressPeriod = 100;
 
-/// For so long something else waits for what is being read: a new request would read once more what
-/// is on its way.
+/// How long a new request waits for the running one, in ms. A request that replaces the running one
+/// reads its remaining values again.
 constexpr int replacementPause = 300;
 
 bool covers(const std::map<GenApi::IValue *, TreeLookAhead::Extent> &extents,
@@ -74,11 +74,11 @@ void addEntries(GenApi::IEnumeration *enumeration, std::vector<Ask> *asks)
         asks->push_back([entry = entries[i]] { entry->GetAccessMode(); });
 }
 
-/// A function of its own for all that can be asked independently of the rest.
+/// Adds a separate function for each value that can be read independently of the others.
 void addAsks(GenApi::IValue *feature, TreeLookAhead::Extent extent, std::vector<Ask> *asks)
 {
     asks->push_back([feature] { askForCell(feature); });
-    // A cell's access mode needs to know of locks, its value does not.
+    // The access mode of a cell depends on locks, its value does not.
     if (feature->GetNode()->GetPrincipalInterfaceType() != GenApi::intfICommand)
         asks->push_back([feature] { feature->ToString(); });
     if (extent != TreeLookAhead::Everything)
@@ -125,7 +125,7 @@ bool TreeLookAhead::knowsEverything(GenApi::IValue *feature)
             try {
                 ask();
             } catch (const GenICam::GenericException &) {
-                // That the node fails is known.
+                // The failure of the node is cached, too.
             }
         }
     });
@@ -163,7 +163,7 @@ void TreeLookAhead::startFetch()
     fetch(std::move(shown));
 }
 
-/// What is being read and is on the screen.
+/// The requested features that are visible on the screen.
 TreeLookAhead::Extents TreeLookAhead::stillShown() const
 {
     const Features features = m_shown();
@@ -194,7 +194,7 @@ void TreeLookAhead::finish()
     m_sinceEnd.start();
     if (!m_missed.empty())
         m_start.start(0);
-    emit arrived(); // in reaction to which we may be destroyed
+    emit arrived(); // a receiver may destroy this object
 }
 
 } // namespace OrvGui

@@ -17,13 +17,13 @@
 
 namespace OrvGui {
 
-/// Keeps a tree from waiting for its camera: the parts of the tree look at what is known, and what
-/// they find missing is read in the background.
+/// Prevents a tree from blocking for its camera: the parts of the tree use cached values, and
+/// values that are missing are read in the background.
 ///
-/// What is missed until the program is back in its event loop is read together. Only one such read
-/// is under way at a time. What is missed in between comes after it; but when it takes long, or
-/// nothing of it is on the screen any more, it is replaced, and what is not on the screen is
-/// dropped.
+/// Values that are found missing until the program returns to its event loop are read together.
+/// Only one such read runs at a time. Values that are found missing during a read come after it;
+/// but when the read takes long, or none of its features is visible any more, it is replaced, and
+/// features that are not visible are dropped.
 class TreeLookAhead : public QObject
 {
     Q_OBJECT
@@ -32,25 +32,26 @@ public:
     using Ask = OrvGenParam::LookAhead::Ask;
     using Features = std::set<GenApi::IValue *>;
 
-    /// How much of a feature is read when something of it is missed.
+    /// The values of a feature that are read when one of them is missing.
     enum Extent {
-        Cell,      ///< what its row shows
-        Everything ///< and what its description and its editor need
+        Cell,      ///< those that its row shows
+        Everything ///< also those that its description and its editor need
     };
 
-    /// Null for a node map whose reads block. `shown` returns the features on the screen.
+    /// Null for a node map whose reads block. `shown` returns the visible features.
     static TreeLookAhead *create(GenApi::INodeMap *map, std::function<Features()> shown,
                                  QObject *parent);
 
-    /// Runs a function that asks the feature's node, and is left at what is not known: no frame of
-    /// Qt's may be between the two. False when it was; then it is read, and `arrived` follows.
+    /// Runs a function that reads the feature's node. A value that is not cached aborts the
+    /// function by an exception, so no stack frame of Qt may be in between. Returns false then,
+    /// reads the value, and emits `arrived` afterwards.
     bool look(GenApi::IValue *feature, Extent extent, const Ask &ask);
 
-    /// Looks at everything, as the function of `look` would. False when something is missing.
+    /// Does the same for all values of the feature. Returns false when one is missing.
     bool knowsEverything(GenApi::IValue *feature);
 
 signals:
-    /// What was missed can be looked at again; some of it may still be on its way.
+    /// Try to read missing values again; some may still be missing.
     void arrived();
 
 private:
@@ -66,7 +67,7 @@ private:
     OrvGenParam::LookAhead &m_map;
     const std::function<Features()> m_shown;
     Extents m_missed;
-    Extents m_asked; ///< by the last request
+    Extents m_asked; ///< the features of the last request
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceEnd;
     bool m_isUnderWay = false;

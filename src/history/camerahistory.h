@@ -13,25 +13,25 @@ namespace OrvGui {
 class HistoryCaption;
 class HistoryWindow;
 
-/// The history of the numbers that a window shows of its camera, and the windows that show it.
+/// The history of the numbers that a window shows for its camera, with the windows that show it.
 ///
-/// Pass each number to it when it has been read; it reads nothing itself.
+/// Pass each number when it has been read; this class reads nothing.
 class CameraHistory
 {
 public:
     enum Quantity { FrameRate, FrameTime, Exposure, Temperature, QuantityCount };
     enum Frame { FrameA, FrameB, FrameCount };
 
-    /// The windows belong to `parent`.
+    /// `parent` becomes the parent of the windows.
     explicit CameraHistory(QWidget *parent);
 
-    /// A click on the caption opens the history. `unit` is the text beside the number.
+    /// A click on the caption opens the history. `unit` is displayed beside the number.
     void open(HistoryCaption *caption, Quantity quantity, const QString &unit);
 
-    /// The names of two frames; null ones for a camera without frames.
+    /// The names of two frames; null for a camera without frames.
     void setFrames(const QString &a, const QString &b);
 
-    /// The texts that the window shows now; an empty text is no number.
+    /// The texts that are shown now; an empty text means no number.
     void add(Quantity quantity, Frame frame, const QString &number);
     void clear();
     void closeWindows();

@@ -15,7 +15,7 @@ namespace OrvGui {
 
 namespace {
 
-/// Offers a press action to screen readers, which a label lacks.
+/// Adds a press action for screen readers, which a label lacks.
 class CaptionInterface : public QAccessibleWidget
 {
 public:
@@ -65,7 +65,7 @@ HistoryCaption::HistoryCaption(QWidget *parent) : QLabel(parent)
 {
     static const Factory factory;
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover); // which repaints it
+    setAttribute(Qt::WA_Hover); // repaints it
     setCursor(Qt::PointingHandCursor);
     setAccessibleDescription(tr("Click for the last ten minutes"));
 }
@@ -76,7 +76,7 @@ void HistoryCaption::click()
         emit clicked();
 }
 
-/// Adds a line to the tool tip, which describes the number.
+/// Adds a line to the tool tip that describes the number.
 bool HistoryCaption::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)

@@ -7,8 +7,8 @@ namespace OrvGui {
 
 /// The caption of a number, which opens the number's history when it is clicked.
 ///
-/// Looks like any label, but for the cursor and a line below the text while the pointer is over it,
-/// and for a frame while it has the focus. Return and the space bar click it.
+/// Looks like an ordinary label, but has another cursor, an underline while the pointer is over it,
+/// and a frame while it has the focus. Return and the space bar click it.
 class HistoryCaption : public QLabel
 {
     Q_OBJECT

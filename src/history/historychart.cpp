@@ -25,10 +25,10 @@ namespace {
 
 constexpr qint64 minute = 60 * 1000; // ms
 constexpr int margin = 6;
-constexpr double longestNumber = 1e12; // what is larger is shown with an exponent
-constexpr double mostLines = 6;        // of the grid, across
+constexpr double longestNumber = 1e12; // larger ones are shown with an exponent
+constexpr double mostLines = 6;        // of the grid, horizontal
 
-/// The next one of 1, 2, 5, 10, …
+/// The next number of the sequence 1, 2, 5, 10, …
 double roundStep(double step)
 {
     const double power = std::pow(10.0, std::floor(std::log10(step)));
@@ -159,7 +159,7 @@ QString HistoryChart::clock(qint64 time, bool withSeconds) const
     return of.toString(QStringLiteral("HH:mm"));
 }
 
-/// Of the samples next to the time; empty where there are none.
+/// The samples nearest to the time; empty where there are none.
 QString HistoryChart::textAt(qint64 time) const
 {
     QStringList lines;
@@ -194,7 +194,7 @@ void HistoryChart::mark(qint64 time)
     update();
 }
 
-/// To the next sample of any series, the last one if there is no mark.
+/// Moves the mark to the next sample of any series, or to the last sample if there is no mark.
 void HistoryChart::step(int direction)
 {
     qint64 next = 0;
@@ -261,7 +261,7 @@ void HistoryChart::keyPressEvent(QKeyEvent *event)
 void HistoryChart::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setLayoutDirection(Qt::LeftToRight); // time goes there in any language
+    painter.setLayoutDirection(Qt::LeftToRight); // time runs left to right in every language
     const Axis numbers = axis();
     const QRect area = plot(numbers);
     painter.fillRect(area, palette().base());
@@ -328,7 +328,7 @@ void HistoryChart::drawSeries(QPainter &painter, int series, const QRect &plot,
             path.lineTo(point);
         else
             path.moveTo(point);
-        // A single sample has no line to be seen by.
+        // A line through a single sample is invisible.
         const bool endsHere = isLast || ring.isAfterGap(i + 1) || std::isnan(ring.at(i + 1).value);
         if (ring.isAfterGap(i) && endsHere)
             painter.fillRect(QRectF(point - QPointF(2, 2), QSizeF(4, 4)), pen.color());

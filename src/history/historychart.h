@@ -11,8 +11,8 @@ namespace OrvGui {
 
 /// Numbers over the last ten minutes, one line for each series.
 ///
-/// The value under the pointer is shown in a tool tip. The arrow keys, Home and End go from sample
-/// to sample in place of it.
+/// A tool tip shows the value under the pointer. The arrow keys, Home and End move the mark from
+/// sample to sample.
 class HistoryChart : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     struct Series
     {
         QString name;           ///< empty if it is the only one
-        const SampleRing *ring; ///< has to live as long as the chart
+        const SampleRing *ring; ///< must live as long as the chart
     };
 
     explicit HistoryChart(QWidget *parent = nullptr);
@@ -29,7 +29,7 @@ public:
     void setSeries(const QVector<Series> &series);
     void setUnit(const QString &unit, int decimals);
 
-    /// The last moment that is shown; ms since 1970.
+    /// The end of the time axis; ms since 1970.
     void setEnd(qint64 time);
 
     /// The number with its unit.

@@ -29,7 +29,7 @@ QString field(QString text)
                          QLatin1Char('"');
 }
 
-/// Of the height of a line.
+/// In line heights.
 QString noText()
 {
     return QString(QChar::Nbsp);

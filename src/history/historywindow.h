@@ -10,8 +10,8 @@ class QPushButton;
 
 namespace OrvGui {
 
-/// The last ten minutes of one number as a chart, with the smallest, the largest and the mean
-/// value; all of it can be copied as CSV.
+/// Shows the last ten minutes of one number as a chart, with the minimum, the maximum and the mean;
+/// the data can be copied as CSV.
 class HistoryWindow : public QDialog
 {
     Q_OBJECT
@@ -19,17 +19,17 @@ class HistoryWindow : public QDialog
 public:
     using Series = QVector<HistoryChart::Series>;
 
-    /// `name` is the number's, as "FPS".
+    /// `name` is the number's, such as "FPS".
     HistoryWindow(const QString &name, const QString &unit, int decimals, QWidget *parent);
 
-    /// The rings have to live as long as the window.
+    /// The rings must live as long as the window.
     void setSeries(const Series &series);
 
-    /// Shows the present numbers of the rings.
+    /// Updates the window from the rings.
     void refresh();
 
-    /// A line of headings, then one for each moment: the time with its offset from UTC, and the
-    /// values with a decimal point. A field is empty where there is no number.
+    /// A header line, then a line for each time: the time with its offset from UTC, and the values
+    /// with a decimal point. A field without a number is empty.
     QString csv() const;
 
 protected:

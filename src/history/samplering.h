@@ -13,7 +13,7 @@ public:
     struct Sample
     {
         qint64 time;  ///< ms since 1970
-        double value; ///< NaN where there was none
+        double value; ///< NaN if there is no number
     };
     struct Summary
     {
@@ -24,22 +24,24 @@ public:
     };
 
     static constexpr qint64 span = 600 * 1000; ///< ms
-    static constexpr qint64 longestGap = 3500; ///< ms between neighbours that belong together
-    static constexpr int capacity = 1200;      ///< twice the usual number in that time
+    /// The largest distance in ms at which neighbours are connected by a line.
+    static constexpr qint64 longestGap = 3500;
+    static constexpr int capacity = 1200; ///< twice the usual number of samples in that time
 
-    /// Drops samples that are older than the span, and later ones: the clock has been set back.
+    /// Drops samples that are older than the span, and samples with a later time than the new one:
+    /// the clock was set back.
     void add(qint64 time, double value);
     void clear();
 
     int size() const { return m_size; }
 
-    /// The oldest one is 0.
+    /// Index 0 is the oldest one.
     const Sample &at(int index) const;
 
-    /// Whether nothing connects the sample with the one before.
+    /// Whether there is a gap between the sample and the one before.
     bool isAfterGap(int index) const;
 
-    /// The one that is next to the time, of those with a number; -1 if there is none.
+    /// The index of the sample with a number that is nearest to the time; -1 if there is none.
     int nearest(qint64 time) const;
 
     Summary summary() const;

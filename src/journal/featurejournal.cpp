@@ -46,7 +46,7 @@ QVariant entryOf(const IEnumEntry *entry)
     return entry ? QVariant(fromUtf8(entry->GetSymbolic())) : QVariant();
 }
 
-/// Invalid for a feature without a value that can be restored.
+/// Invalid for a feature without a restorable value.
 QVariant valueOf(INode *node)
 {
     if (auto *choice = dynamic_cast<IEnumeration *>(node))
@@ -62,8 +62,8 @@ QVariant valueOf(INode *node)
     return QVariant();
 }
 
-/// The same for the value of a widget, or for GenICam's text, which stays a text unless it is a
-/// plain number.
+/// The same for a value of a widget or a text in GenICam's format. A text stays a text unless it is
+/// a plain number.
 QVariant asValueOf(INode *node, const QVariant &value)
 {
     if (!value.isValid())
@@ -102,7 +102,7 @@ void setValue(INode *node, const QVariant &value)
         real->SetValue(value.toDouble());
 }
 
-/// In GenICam's notation, also when the node does not answer.
+/// In GenICam's format; does not need an answer of the node.
 QString plainText(const QVariant &value)
 {
     if (value.userType() == QMetaType::Bool)
@@ -112,7 +112,7 @@ QString plainText(const QVariant &value)
     return value.toString();
 }
 
-/// False when the camera refuses it.
+/// False when the camera refuses.
 template<class Function>
 bool attempt(Function function)
 {
@@ -178,7 +178,7 @@ private:
     void end();
     const FeatureJournal &m_journal;
     SelectorMove m_move;
-    QVector<INode *> m_unnotified; ///< whose notification the windows have ignored
+    QVector<INode *> m_unnotified; ///< nodes whose notification was ignored
 };
 
 void FeatureJournal::Detour::goTo(const QVector<Setting> &selectors)
@@ -201,7 +201,7 @@ void FeatureJournal::Detour::end()
         return m_move.abandon();
     for (IValue *selector : m_move.putBack())
         m_unnotified.append(selector->GetNode());
-    // Features that depend on them without being selected have changed for present readers.
+    // Features that depend on the selectors, but are not selected by them, have changed, too.
     for (INode *node : std::as_const(m_unnotified))
         attempt([=] { node->InvalidateNode(); });
 }
@@ -233,7 +233,7 @@ FeatureJournal::Pointer FeatureJournal::of(INodeMap *nodeMap)
 FeatureJournal::FeatureJournal(INodeMap *nodeMap)
     : m_nodeMap(nodeMap), m_isAlive(std::make_shared<std::atomic<bool>>(true))
 {
-    InputGesture::current(); // which follows the gestures from now on
+    InputGesture::current(); // starts to track the gestures
     NodeList_t nodes;
     nodeMap->GetNodes(nodes);
     if (nodes.size() > 0)
@@ -254,7 +254,7 @@ bool FeatureJournal::isAlive() const
     return *m_isAlive;
 }
 
-/// Throws where there is none.
+/// Throws when there is none.
 INode *FeatureJournal::find(const QString &feature) const
 {
     if (INode *node = m_nodeMap->GetNode(toUtf8(feature)))
@@ -263,7 +263,7 @@ INode *FeatureJournal::find(const QString &feature) const
                                          __FILE__, __LINE__);
 }
 
-/// False when something is not known.
+/// False when a value is not cached.
 bool FeatureJournal::look(const std::function<void()> &ask) const
 {
     const auto *ahead = dynamic_cast<OrvGenParam::LookAhead *>(m_nodeMap);
@@ -277,7 +277,7 @@ bool FeatureJournal::look(const std::function<void()> &ask) const
            isKnown;
 }
 
-/// Without a value where that is not known.
+/// Without a value when it is not cached.
 FeatureJournal::Setting FeatureJournal::known(INode *node, bool looksAhead) const
 {
     Setting setting{nameOf(node), QVariant(), QString()};
@@ -408,7 +408,7 @@ bool FeatureJournal::isOpen(quint64 gesture) const
            (m_isGroupOpen || (gesture != 0 && m_done.last().gesture == gesture));
 }
 
-/// A change of the same setting is merged with the former one.
+/// A second change of the same setting is merged with the previous one.
 void FeatureJournal::add(const Change &change, Step &step)
 {
     QVector<Change> &changes = step.changes;
@@ -422,7 +422,7 @@ void FeatureJournal::add(const Change &change, Step &step)
             return;
         }
         if (step.gesture == 0)
-            break; // in a group the order may matter
+            break; // the order may matter in a group
     }
     changes.append(change);
 }
@@ -533,7 +533,7 @@ void FeatureJournal::apply(const Step &step, bool isBack)
     }
 }
 
-/// Counts the applied changes, from the end when undoing.
+/// Counts the changes that were applied, from the end when undoing.
 void FeatureJournal::applyAll(const QVector<Change> &changes, bool isBack, int &done)
 {
     Detour detour(*this);

@@ -17,19 +17,19 @@ namespace OrvGui {
 
 /// The record of the user's writes to the features of one camera, to be undone and redone.
 ///
-/// All windows of a camera share one journal: get it by `of`, keep the pointer as long as you work
-/// with that node map, and pass each write of the user's through `write`. A step is
+/// All windows of a camera share one journal: get it by `of`, keep the pointer while you use that
+/// node map, and pass each write by the user through `write`. A step is
 /// - the writes of one gesture: a drag, a button or key that is held, a turn of the wheel;
 /// - or the writes while a `Group` exists;
 /// - or a single write.
 ///
 /// A value that was written while a selector was Red is undone with the selector at Red, and the
-/// selector is restored. Moving a selector is no step, nor are commands, refused writes, and writes
-/// of which the former value or a selector is not known: nothing is read for the journal. Undoing
-/// needs only the writes, and waits for them like any write.
+/// selector is restored. Moving a selector is not a step, nor are commands, refused writes, and
+/// writes whose previous value or selection is not cached: the journal causes no reads. Undo only
+/// writes, and blocks for these writes.
 ///
-/// A node map that is destroyed leaves an empty journal, in which nothing is recorded. Use it on
-/// the GUI thread only.
+/// When a node map is destroyed its journal becomes empty and records nothing. Use it on the GUI
+/// thread only.
 class FeatureJournal : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ public:
     {
         QString feature;
         QVariant value;
-        QString text; ///< the same as GenICam's text; null when it is not known
+        QString text; ///< the same in GenICam's format; null when it is not known
 
         bool operator==(const Setting &other) const
         {
@@ -51,25 +51,26 @@ public:
         }
     };
 
-    /// A write that has been carried out, with GenICam's texts.
+    /// A completed write, with texts in GenICam's format.
     struct Write
     {
         GenApi::INode *node = nullptr;
         QString before; ///< null when it is not known
         QString after;
-        QVector<Setting> selectors; ///< of the value; missing ones keep their values
+        QVector<Setting> selectors; ///< at the time of the write; missing ones keep their values
     };
 
-    /// The state that a write is going to change. Invalid when it could not be restored.
+    /// The state before a write. Invalid when it could not be restored.
     struct State
     {
         QVariant value;
         QString text;
-        QVector<Setting> selectors; ///< those of the feature, the outermost first
+        QVector<Setting> selectors; ///< of the feature, the outermost first
         bool areSelectorsKnown = false;
     };
 
-    /// All writes that are recorded while it exists are one step. The journal may be null.
+    /// All writes that are recorded while an instance exists form one step. The journal may be
+    /// null.
     class Group
     {
     public:
@@ -81,13 +82,14 @@ public:
         const Pointer m_journal;
     };
 
-    /// The journal of that node map, which ends with the last pointer to it; null for null.
+    /// The journal of that node map, which is destroyed with the last pointer; null for null.
     static Pointer of(GenApi::INodeMap *nodeMap);
     ~FeatureJournal() override;
 
-    /// Runs `call`, which writes `after` to the feature and returns whether the camera has accepted
-    /// it, and records an accepted write. `shown` is the former value if that is not known
-    /// otherwise. Returns the result of `call`. `journal` may be null; `call` may do anything.
+    /// Calls `call`, which writes `after` to the feature and returns whether the camera has
+    /// accepted it, and records an accepted write. `shown` is the previous value if that is not
+    /// cached. Returns the result of `call`. `journal` may be null; `call` may destroy the
+    /// journal's owner.
     static bool write(const Pointer &journal, const QString &feature, const QVariant &shown,
                       const QVariant &after, const std::function<bool()> &call);
 
@@ -96,23 +98,23 @@ public:
     State known(GenApi::INode *node) const;
     void record(GenApi::INode *node, const State &before, const QVariant &after);
 
-    /// For values that were replaced without the journal, in the order of the writes: no step may
-    /// restore a value from before that. Without writes, it is not known which values these are.
+    /// For writes that bypassed the journal, in their order: drops steps that would restore an
+    /// earlier value. Without writes, any value may have been replaced.
     void startAnew(const QVector<Write> &writes = {});
 
     bool canUndo() const;
     bool canRedo() const;
 
-    /// The next step as an entry of a menu: "Undo ExposureTime 5000 → 8000". Plain text.
+    /// The text of the next step for a menu: "Undo ExposureTime 5000 → 8000". Plain text.
     QString undoText() const;
     QString redoText() const;
 
-    /// False when the camera refuses it, which leaves the camera and the journal unchanged and sets
-    /// `reason`.
+    /// Returns false when the camera refuses; the camera and the journal are unchanged then, and
+    /// `reason` is set.
     bool undo(QString *reason = nullptr);
     bool redo(QString *reason = nullptr);
 
-    /// Drops the next step, for one that the camera always refuses.
+    /// Drops the next step, for one that the camera refuses permanently.
     void skipUndo();
     void skipRedo();
 
@@ -120,8 +122,8 @@ Q_SIGNALS:
     /// The next step to undo or redo has changed.
     void changed();
 
-    /// The value of a feature was written, undone or redone, also if that is no step. Selectors
-    /// are restored and may be used.
+    /// The value of a feature was written, undone or redone, even without a step. Selectors have
+    /// been restored and may be used.
     void written(const OrvGui::FeatureJournal::Write &write);
 
 private:
@@ -158,10 +160,10 @@ private:
     GenApi::INodeMap *const m_nodeMap;
     const std::shared_ptr<std::atomic<bool>> m_isAlive;
     GenApi::CallbackHandleType m_life = 0;
-    QVector<Step> m_done;   ///< the latest at the end
+    QVector<Step> m_done;   ///< the latest step last
     QVector<Step> m_undone; ///< the same
     int m_groups = 0;
-    bool m_isGroupOpen = false; ///< the last step is of the group that exists
+    bool m_isGroupOpen = false; ///< the last step belongs to the present group
     bool m_isReplaying = false;
 };
 

@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-/// The longest pause between two notches of one gesture.
+/// The longest pause between two wheel events of one gesture.
 constexpr int wheelPause = 500; // ms
 
 const QKeyEvent *keyEvent(const QEvent *event)
@@ -56,7 +56,7 @@ bool InputGesture::eventFilter(QObject *receiver, QEvent *event)
         end(Mouse);
         break;
     case QEvent::KeyPress:
-        // A modifier may be pressed in the middle of a drag.
+        // A modifier may be pressed during a drag.
         if (!keyEvent(event)->isAutoRepeat() && !isDragging())
             begin(Key, keyEvent(event)->key(), timeOf(event));
         break;
@@ -75,7 +75,7 @@ bool InputGesture::eventFilter(QObject *receiver, QEvent *event)
     return false;
 }
 
-/// The release may not have reached a widget.
+/// The release event may not have reached a widget.
 bool InputGesture::isDragging() const
 {
     return m_input == Mouse && !m_isEnding && QGuiApplication::mouseButtons() != Qt::NoButton;
@@ -83,7 +83,7 @@ bool InputGesture::isDragging() const
 
 void InputGesture::begin(Input input, int code, ulong time)
 {
-    // Each widget that an event is passed to calls this filter again.
+    // Each widget to which an event is propagated calls this filter again.
     if (m_input == input && m_code == code && m_time == time && !m_isEnding && input != Wheel)
         return;
     ++m_number;

@@ -6,16 +6,17 @@
 
 namespace OrvGui {
 
-/// The present gesture of the user: a mouse button from its press to its release, a key that
-/// repeats while it is held, a wheel that is turned without a pause.
+/// The present input gesture: a mouse button from press to release, a key that repeats while it is
+/// held, wheel events without a pause.
 ///
-/// Use it to distinguish one change with many writes from many changes, on the GUI thread only.
+/// Distinguishes one change with many writes from many changes. Use it on the GUI thread only.
 class InputGesture : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The same number during one gesture, another one during the next; 0 outside of any.
+    /// A number that is constant during a gesture and different for the next one; 0 without a
+    /// gesture.
     static quint64 current();
 
 protected:
@@ -32,7 +33,7 @@ private:
     quint64 m_number = 0;
     Input m_input = None;
     int m_code = 0;   ///< of the key
-    ulong m_time = 0; ///< of the event that has begun it
+    ulong m_time = 0; ///< of the event that started it
     bool m_isEnding = false;
     QElapsedTimer m_wheel;
 };

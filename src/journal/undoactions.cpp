@@ -19,7 +19,7 @@ namespace OrvGui {
 
 namespace {
 
-/// The platform's key and the documented one.
+/// The shortcut of the platform and the documented one.
 QList<QKeySequence> keysOf(QKeySequence::StandardKey key, const char *always)
 {
     QList<QKeySequence> keys = QKeySequence::keyBindings(key);
@@ -34,7 +34,7 @@ bool isModified(const QLineEdit *line)
     return line && line->isModified() && (line->isUndoAvailable() || line->isRedoAvailable());
 }
 
-/// Whether the user has typed a text that is not the value yet.
+/// Whether the user has typed a text that is not entered yet.
 bool isTyping(const QObject *editor)
 {
     if (const auto *real = qobject_cast<const QDoubleSpinBox *>(editor))
@@ -47,7 +47,7 @@ bool isTyping(const QObject *editor)
     return isModified(qobject_cast<const QLineEdit *>(editor));
 }
 
-/// As an entry of a menu, in which an ampersand marks a key.
+/// Escapes ampersands, which mark mnemonics in menus.
 QString asEntry(const QString &text)
 {
     return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -135,7 +135,7 @@ void UndoActions::run(Replay replay)
     report(replay == static_cast<Replay>(&FeatureJournal::undo), reason);
 }
 
-/// The step can be tried again, or skipped for those behind it.
+/// Reports a refused step, which the user can try again or skip to reach the step behind it.
 void UndoActions::report(bool isUndo, const QString &reason)
 {
     const QString step = isUndo ? m_journal->undoText() : m_journal->redoText();
@@ -149,7 +149,8 @@ void UndoActions::report(bool isUndo, const QString &reason)
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(QMessageBox::Ok);
     const FeatureJournal *journal = m_journal.get();
-    connect(journal, &FeatureJournal::changed, box, &QWidget::close); // another step is next
+    // Another step is the next one.
+    connect(journal, &FeatureJournal::changed, box, &QWidget::close);
     connect(skipping, &QPushButton::clicked, this, [=] {
         if (m_journal.get() == journal)
             isUndo ? m_journal->skipUndo() : m_journal->skipRedo();
@@ -157,7 +158,7 @@ void UndoActions::report(bool isUndo, const QString &reason)
     box->open();
 }
 
-// Line edits claim these keys even if there is nothing that they could undo.
+// Line edits claim these keys even when they have nothing to undo.
 bool UndoActions::eventFilter(QObject *editor, QEvent *event)
 {
     if (event->type() == QEvent::ChildPolished) {

@@ -13,33 +13,32 @@ class QWidget;
 
 namespace OrvGui {
 
-/// Undo and redo of a journal as two actions of a window, by Ctrl+Z and Ctrl+Shift+Z.
+/// The undo and redo actions of a window for a journal, with Ctrl+Z and Ctrl+Shift+Z.
 ///
 /// The actions are named "actionUndo" and "actionRedo". They are added to the window, whose context
-/// menu may show them; add them to a menu, too, if there is one. A spin box or line edit with a
-/// text that is not entered yet gets the keys first. A step that the camera refuses is reported in
-/// a message box of the window, in which it can be skipped.
+/// menu may show them; also add them to a menu if there is one. A spin box or line edit with
+/// uncommitted text handles the keys first. A step that the camera refuses is reported in a message
+/// box of the window, in which it can be skipped.
 class UndoActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to the window, whose editors exist already.
+    /// A child of the window, whose editors must exist.
     explicit UndoActions(QWidget *window);
 
-    /// Null for none, which disables both.
+    /// Null disables both actions.
     void setJournal(const FeatureJournal::Pointer &journal);
     FeatureJournal::Pointer journal() const { return m_journal; }
 
-    /// For the editors of an item view, which are created and destroyed during use: their text is
-    /// entered when they close.
+    /// For the editors of an item view, which come and go during use and commit when they close.
     void watchEditorsOf(const QAbstractItemView *view);
 
     QAction *undo() const { return m_undo; }
     QAction *redo() const { return m_redo; }
 
 Q_SIGNALS:
-    /// Emitted before a step is undone or redone, so that pending edits can be written first.
+    /// Emitted before a step is undone or redone, so that pending edits can be committed first.
     void triggered();
 
 protected:
@@ -58,7 +57,7 @@ private:
     QWidget *const m_window;
     QAction *const m_undo;
     QAction *const m_redo;
-    QPointer<QWidget> m_viewport; ///< whose children are editors of a view
+    QPointer<QWidget> m_viewport; ///< the parent of a view's editors
     FeatureJournal::Pointer m_journal;
 };
 
