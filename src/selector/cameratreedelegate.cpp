@@ -34,7 +34,7 @@ bool CameraTreeDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
 {
     if (!event || !view || event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    // As rich text it is wrapped.
+    // Rich text is wrapped.
     QToolTip::showText(event->globalPos(), OrvGui::literally(reason(index)), view->viewport(),
                        option.rect);
     return true;
@@ -49,7 +49,7 @@ void CameraTreeDelegate::initStyleOption(QStyleOptionViewItem *option,
     option->features |= QStyleOptionViewItem::HasDecoration;
     option->icon = option->widget->style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr,
                                                          option->widget);
-    // The mark makes the row no higher than the others.
+    // The mark must not make the row higher than the others.
     const int extent = qMin(option->decorationSize.height(), option->fontMetrics.height());
     option->decorationSize = QSize(extent, extent);
 }

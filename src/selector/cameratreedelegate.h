@@ -3,8 +3,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Shows the rows of a device tree: the cameras' names as plain text of one line, and a mark at the
-/// cameras that cannot be opened, whose tool tip says why.
+/// Shows the rows of a device tree: the cameras' names as one line of plain text, and a mark on
+/// cameras that cannot be opened, with the reason in a tool tip.
 class CameraTreeDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -16,7 +16,8 @@ public:
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 
-    /// Why the camera of a row cannot be opened; empty when it can, and for an interface.
+    /// The reason why the camera of a row cannot be opened; empty when it can, and for an
+    /// interface.
     static QString reason(const QModelIndex &index);
 
 protected:

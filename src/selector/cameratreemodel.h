@@ -5,10 +5,10 @@
 
 #include <QSet>
 
-/// The device tree for a view that must not look for cameras more often than the user asks for.
+/// The device tree for a view, which searches for cameras only when the user requests it.
 ///
-/// A tree view asks for more whenever it lays out an expanded row without children, several times
-/// over, also when only the font changes. Each time would block it. This model looks for cameras
+/// A tree view calls `fetchMore` whenever it lays out an expanded row without children, several
+/// times over, even after a change of the font. Each search would block it. This model searches
 /// once per expansion; the view reports when an interface is collapsed.
 class CameraTreeModel final : public DeviceTreeModel
 {
@@ -20,13 +20,13 @@ public:
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
 
-    /// The interface's next expansion counts.
+    /// The next expansion of the interface searches again.
     void collapsed(const QModelIndex &interface);
 
-    /// Lets nothing be asked of the camera system for a while; for when it is busy.
+    /// Suspends all calls to the camera system while it is busy.
     void setPaused(bool isPaused) { m_isPaused = isPaused; }
 
 private:
     bool m_isPaused = false;
-    QSet<void *> m_expanded; ///< the interfaces that were asked since they were collapsed
+    QSet<void *> m_expanded; ///< the interfaces that were searched since they were collapsed
 };

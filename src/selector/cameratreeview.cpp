@@ -26,7 +26,7 @@ void CameraTreeView::lookAgain(const QModelIndex &interface)
     expand(interface);
 }
 
-// Qt draws no arrow for a row that it has expanded without finding any below.
+// Qt draws no arrow for an expanded row without children.
 void CameraTreeView::drawBranches(QPainter *painter, const QRect &rect,
                                   const QModelIndex &index) const
 {

@@ -3,8 +3,8 @@
 
 #include <QTreeView>
 
-/// The view of a device tree. An interface without cameras, too, has an arrow: a click on it, a
-/// double click on the row or the right arrow key looks for cameras there again.
+/// The view of a device tree. Even an interface without cameras has an arrow: a click on it, a
+/// double click on the row or the right arrow key searches for cameras again.
 class CameraTreeView : public QTreeView
 {
     Q_OBJECT

@@ -7,13 +7,13 @@
 
 /// Presents a camera system as a tree: the interfaces, and below each the cameras found on it.
 ///
-/// Use it with a tree view. Nothing is asked of the system before the view expands the root, and
-/// nothing of an interface before the view expands it; looking for cameras then blocks for up to
-/// 200 ms. What was found stays as it is until `rescan`; where nothing was found, every further
-/// expansion looks again. `Qt::UserRole` of a row is its `OrvCam::Interface *` or
+/// Use it with a tree view. The system is not queried before the view expands the root, an
+/// interface not before the view expands it; the search for cameras then blocks for up to 200 ms.
+/// Cameras that were found stay in the model until `rescan`; where none was found, each further
+/// expansion searches again. `Qt::UserRole` of a row is its `OrvCam::Interface *` or
 /// `OrvCam::DeviceInfo *`.
 ///
-/// The system must outlive the model. GUI thread only.
+/// The system must outlive the model. Use the model on the GUI thread only.
 class DeviceTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     void fetchMore(const QModelIndex &parent) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Forgets the whole tree; what the view expands from now on is queried again.
+    /// Clears the whole tree; rows that the view expands afterwards are queried again.
     void rescan();
 
 private:

@@ -91,7 +91,7 @@ void InterfaceNode::fetchMore()
     if (list && list->GetCount() != 0)
         append<DeviceInfoNode>(*list);
     else
-        list.release(); // an empty one stays with the camera system, unlike one of interfaces
+        list.release(); // the camera system owns an empty list, unlike an empty list of interfaces
 }
 
 DeviceInfoNode::DeviceInfoNode(DeviceTreeModel &model, DeviceTreeNode *parent,

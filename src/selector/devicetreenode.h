@@ -21,8 +21,8 @@ Q_DECLARE_METATYPE(OrvCam::DeviceInfo *)
 /// A row of the device tree. It owns the rows below it and represents an object of the camera
 /// system, which it does not own.
 ///
-/// A node without children counts as not fetched yet, so that an interface on which no camera was
-/// found is asked again.
+/// A node without children counts as not fetched, so that an interface without cameras is searched
+/// again.
 class DeviceTreeNode
 {
 public:
@@ -35,7 +35,7 @@ public:
     virtual bool hasChildren() const { return true; }
     virtual bool canFetchMore() const { return m_children.empty(); }
 
-    /// Asks the camera system for the children, telling the model of those that come.
+    /// Queries the camera system for the children, and notifies the model of new ones.
     virtual void fetchMore() {}
 
     /// Null for the root.
@@ -46,11 +46,11 @@ public:
     /// Null when there is no such row.
     DeviceTreeNode *child(int row) const;
 
-    /// Among the children of its parent; 0 for the root.
+    /// The index among the children of its parent; 0 for the root.
     int row() const;
 
 protected:
-    /// Makes one child of each entry of a list. The entries may be fewer than the list's count.
+    /// Creates a child for each entry of a list. There may be fewer entries than the list's count.
     template<class Child, class List>
     void append(List &list);
 
@@ -64,7 +64,7 @@ private:
 class RootNode final : public DeviceTreeNode
 {
 public:
-    /// Without a system there are no interfaces.
+    /// There are no interfaces without a system.
     RootNode(DeviceTreeModel &model, OrvCam::System *system);
 
     QVariant data(int column, int role) const override;

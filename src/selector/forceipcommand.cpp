@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Giving up has no effect before the command is under way (milliseconds).
+/// Cancelling has no effect before the command has started (milliseconds).
 const unsigned long giveUpAgain = 20;
 
 } // namespace

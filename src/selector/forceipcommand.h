@@ -14,11 +14,11 @@ namespace OrvGenParam {
 class Array;
 }
 
-/// Gives the camera that is selected in an interface's parameters the address that is set there,
-/// or gives that up.
+/// Forces the address that is set in an interface's parameters on the camera that is selected
+/// there, or cancels that.
 ///
-/// That waits until the camera is back, which takes seconds, and so runs on a thread of its own.
-/// While it runs the camera system must not be used otherwise: it is for one thread at a time.
+/// The command waits until the camera is back, which takes seconds, and therefore runs on a
+/// separate thread. Do not use the camera system during that time: it is not thread-safe.
 class ForceIpCommand : public QThread
 {
     Q_OBJECT
@@ -26,20 +26,20 @@ class ForceIpCommand : public QThread
 public:
     ForceIpCommand(OrvCam::Interface &interface, OrvGenParam::Array &parameters);
 
-    /// Gives up and waits for the end.
+    /// Cancels, and blocks until the command has ended.
     ~ForceIpCommand() override;
 
-    /// Has it end soon, if the interface can do that.
+    /// Requests an early end, if the interface supports that.
     void giveUp();
 
-    /// To be asked after the end.
+    /// Call it after the command has ended.
     bool hasSucceeded() const { return m_hasSucceeded; }
 
 protected:
     void run() override;
 
 private:
-    OrvCam::AddressForcing *const m_forcing; ///< null when the interface cannot give up
+    OrvCam::AddressForcing *const m_forcing; ///< null when the interface cannot cancel
     OrvGenParam::Array &m_parameters;
     std::atomic<bool> m_hasSucceeded{false};
 };

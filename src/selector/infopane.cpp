@@ -23,7 +23,7 @@ InfoPane::InfoPane(QTreeView *view) : m_view(view)
     m_connections.add(resizer, &TreeViewResizer::showed, [this] { viewShown(); });
 }
 
-/// Before, the column of the values was not as wide as it is.
+/// Fits the columns. Before the view was shown the values' column did not have its final width.
 void InfoPane::viewShown()
 {
     if (m_isUnshown && m_view->model() && hasOwnWidth()) {
@@ -73,7 +73,7 @@ void InfoPane::show(QStandardItemModel *facts)
     m_isUnshown = !m_view->isVisible();
 }
 
-/// Not one that the user has chosen.
+/// False for a width that the user has set.
 bool InfoPane::hasOwnWidth() const
 {
     return m_view->columnWidth(labelColumn) == m_ownWidth;
@@ -81,15 +81,16 @@ bool InfoPane::hasOwnWidth() const
 
 void InfoPane::halveColumns()
 {
-    m_view->header()->setStretchLastSection(true); // stretches it at once
+    m_view->header()->setStretchLastSection(true); // takes effect at once
     const int mean = (m_view->columnWidth(labelColumn) + m_view->columnWidth(valueColumn)) / 2;
     m_view->setColumnWidth(labelColumn, mean);
 }
 
-/// Gives the values what the labels can spare, or the labels what they need.
+/// Gives the values the space that the labels do not need, but the labels at least what they need.
 void InfoPane::showTextsWhole()
 {
-    m_view->visualRect(m_view->model()->index(0, labelColumn)); // has it show its scroll bar
+    // Does the layout, which shows the scroll bar.
+    m_view->visualRect(m_view->model()->index(0, labelColumn));
     const int labels = m_view->columnWidth(labelColumn);
     const int room = labels + m_view->columnWidth(valueColumn);
     m_ownWidth =
@@ -119,10 +120,10 @@ void InfoPane::add(QStandardItemModel *facts, const QString &label, const QStrin
                    bool isWrong)
 {
     auto *valueItem = new QStandardItem(value);
-    valueItem->setToolTip(OrvGui::literally(value)); // the column may be too narrow for it
+    valueItem->setToolTip(OrvGui::literally(value)); // the column may be too narrow
     if (isWrong) {
         valueItem->setBackground(QBrush(Qt::red));
-        valueItem->setForeground(QBrush(Qt::black)); // white is paler on it
+        valueItem->setForeground(QBrush(Qt::black)); // the contrast of white is lower
     }
     facts->appendRow({new QStandardItem(label), valueItem});
 }

@@ -8,26 +8,27 @@
 class QStandardItemModel;
 class QTreeView;
 
-/// A list of facts, each with a label, in a tree view of two columns. The user can change the width
-/// of the labels' column, which then stays as it is when other facts are shown.
+/// A list of facts, each with a label, in a tree view with two columns. The user can change the
+/// width of the labels' column, which is kept when other facts are shown.
 class InfoPane
 {
 public:
     /// The view outlives the pane.
     explicit InfoPane(QTreeView *view);
 
-    /// The height of the view that shows so many facts without a scroll bar. Nothing is shown yet.
+    /// The height of the view for that number of facts without a scroll bar. Call it before facts
+    /// are shown.
     int heightOf(int rows) const;
 
     void clear();
 
-    /// Replaces what is shown. The pane takes the model, which `makeFacts` has made.
+    /// Replaces the facts. Takes ownership of the model, which `makeFacts` has created.
     void show(QStandardItemModel *facts);
 
-    /// An empty list of facts.
+    /// Creates an empty list of facts.
     static QStandardItemModel *makeFacts();
 
-    /// A value that is wrong is marked.
+    /// Adds a fact; a wrong value is highlighted.
     static void add(QStandardItemModel *facts, const QString &label, const QString &value,
                     bool isWrong = false);
 
@@ -39,8 +40,8 @@ private:
     void viewShown();
 
     QTreeView *m_view;
-    int m_width = 0;          ///< of the labels' column, when something was shown last
-    int m_ownWidth = 0;       ///< of the same, as the pane has set it
-    bool m_isUnshown = false; ///< what is shown came while the view had no size yet
+    int m_width = 0;          ///< of the labels' column, when facts were shown last
+    int m_ownWidth = 0;       ///< the width that the pane has set itself
+    bool m_isUnshown = false; ///< the facts were set while the view was hidden
     Connections m_connections;
 };

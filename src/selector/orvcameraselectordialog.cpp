@@ -42,21 +42,22 @@ using AddressText = QString (*)(int64_t);
 
 constexpr int buttonTextMargin = 10;
 
-// Of the dialog, in lines of text.
+// The size of the dialog in lines of text.
 constexpr int linesOfWidth = 24;
 constexpr int linesOfHeight = 34;
 constexpr int tightLines = 25;
 
-/// An adapter whose last byte is not above this is given a neighbour above it, others one below.
+/// The proposed address is above that of an adapter whose last byte is at most this, otherwise
+/// below.
 constexpr int64_t lastByteWithNeighbourAbove = 128;
 
-/// The most rows that the panes have, those of a GigE Vision interface and camera.
+/// The largest number of rows of the panes, which GigE Vision interfaces and cameras have.
 constexpr int interfaceFacts = 6;
 constexpr int deviceFacts = 11;
 
 constexpr int leastTreeRows = 4;
 
-/// What is over sooner needs no dialog that shows it (milliseconds).
+/// The time before a progress dialog is shown, in milliseconds.
 constexpr int progressDelay = 300;
 
 OrvCam::DeviceInfo *cameraAt(const QModelIndex &index)
@@ -96,7 +97,7 @@ std::vector<OrvCam::DeviceInfo *> listedCameras(OrvCam::Interface &interface)
     return cameras;
 }
 
-/// Two adapters at one switch list the same cameras.
+/// Two adapters on one switch list the same cameras.
 bool isSame(const OrvCam::DeviceInfo &one, const OrvCam::DeviceInfo &other)
 {
     return &one == &other ||
@@ -110,7 +111,7 @@ OrvGenParam::Array *parametersOf(OrvCam::Interface &interface)
     return error == OrvCam::Success ? parameters : nullptr;
 }
 
-/// False when that fails.
+/// Returns false on failure.
 bool selectCamera(OrvGenParam::Array &parameters, std::size_t position)
 {
     return parameters.SetIntegerValue("DeviceSelector", static_cast<int64_t>(position)) ==
@@ -129,7 +130,7 @@ unsigned int number(int64_t address)
     return static_cast<unsigned int>(address);
 }
 
-/// Where an adapter's neighbour lies that is proposed to a camera.
+/// Whether the address proposed for a camera is above (1) or below (-1) the adapter's.
 int stepFrom(int64_t adapterAddress)
 {
     return (adapterAddress & 0xff) <= lastByteWithNeighbourAbove ? 1 : -1;
@@ -145,7 +146,7 @@ QString ipText(int64_t address)
     return IP4Validator::getIpStr(number(address));
 }
 
-/// A feature that cannot be read is left out.
+/// Features that cannot be read are left out.
 void addAddress(QStandardItemModel *facts, const OrvGenParam::Array &parameters,
                 const QString &label, const char *feature, AddressText toText)
 {
@@ -203,10 +204,10 @@ public:
     QPushButton *rescanButton = nullptr;
     std::unique_ptr<InfoPane> interfacePane;
     std::unique_ptr<InfoPane> devicePane;
-    bool isForcing = false;   // then the camera system is the command's
-    bool isAbandoned = false; // the user has stopped waiting for it
+    bool isForcing = false;   // the command is using the camera system
+    bool isAbandoned = false; // the user has cancelled the command
     std::unique_ptr<ForceIpCommand> command;
-    Connections connections; // last, so that they end before the widgets go
+    Connections connections; // last, so that they end before the widgets are destroyed
 };
 
 // OrvCameraSelectorDialogPrivate
@@ -255,7 +256,7 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
     connections.add(model, &DeviceTreeModel::modelReset, [this] { expandAll(); });
 }
 
-/// The form's size is for a font of the ordinary size.
+/// Enlarges the dialog for large fonts; the size in the form is for an ordinary one.
 void OrvCameraSelectorDialogPrivate::growWithFont()
 {
     const int line = q->fontMetrics().height();
@@ -263,21 +264,22 @@ void OrvCameraSelectorDialogPrivate::growWithFont()
     q->resize(wanted.boundedTo(roomFor(q).size()));
 }
 
-/// Shows the device pane whole and some rows of the tree, then as much as fits of the interface
-/// pane; the tree has the rest.
+/// Distributes the height: all of the device pane and some rows of the tree first, then the
+/// interface pane; the tree gets the rest.
 void OrvCameraSelectorDialogPrivate::divide()
 {
     const int interfaceHeight = interfacePane->heightOf(interfaceFacts);
     const int deviceHeight = devicePane->heightOf(deviceFacts);
     const int rowHeight = ui->cameraTreeView->fontMetrics().height();
-    ui->cameraTreeView->setMinimumHeight((leastTreeRows + 1) * rowHeight); // and the header
+    // One row more for the header.
+    ui->cameraTreeView->setMinimumHeight((leastTreeRows + 1) * rowHeight);
     ui->interfaceInfoTreeView->setMaximumHeight(interfaceHeight);
-    // Not more on account of a large font: the dialog has to fit on the screen.
+    // Limited for a large font, because the dialog must fit on the screen.
     const bool isTight = q->height() < tightLines * rowHeight;
     ui->deviceInfoTreeView->setMinimumHeight(qMin(deviceHeight, q->height() / (isTight ? 3 : 2)));
     const int labels = ui->label->sizeHint().height() + ui->label_2->sizeHint().height() +
                        3 * ui->verticalLayout_2->spacing();
-    // With a small font the device pane asks for more than its rows, at the interface pane's cost.
+    // With a small font the device pane would take more than its rows from the interface pane.
     const int panes = qMax(labels + interfaceHeight + deviceHeight,
                            ui->verticalLayoutWidget->sizeHint().height());
     ui->splitter->setStretchFactor(0, 1);
@@ -289,7 +291,7 @@ void OrvCameraSelectorDialogPrivate::expandAll()
 {
     const WaitCursor waiting;
     ui->cameraTreeView->expandAll();
-    // Otherwise the first row becomes current as soon as the tree gets the focus.
+    // Otherwise the tree makes the first row current when it gets the focus.
     ui->cameraTreeView->setCurrentIndex(QModelIndex());
 }
 
@@ -407,10 +409,10 @@ void OrvCameraSelectorDialogPrivate::showContextMenu(const QPoint &position)
         contextMenu->popup(ui->cameraTreeView->viewport()->mapToGlobal(position));
 }
 
-/// Those of a network camera's interface, with that camera selected; null when that fails.
+/// The parameters of a network camera's interface, with the camera selected; null on failure.
 ///
-/// The interface lists its cameras in the order of the tree, unless it has been asked to look for
-/// cameras elsewhere in the program: then another camera may have the row.
+/// The interface lists its cameras in the order of the tree, unless another part of the program has
+/// searched for cameras; then the row may belong to another camera.
 OrvGenParam::Array *
 OrvCameraSelectorDialogPrivate::parametersOfCamera(const QModelIndex &index) const
 {
@@ -447,8 +449,8 @@ bool OrvCameraSelectorDialogPrivate::ForceIP()
     return isFine;
 }
 
-/// While one of the dialogs is open the picker may be destroyed, and with it the dialogs and this
-/// object. That counts as cancelled.
+/// While a dialog is open the picker may be destroyed, and with it the dialogs and this object.
+/// That counts as cancelled.
 bool OrvCameraSelectorDialogPrivate::ForceIP(const QPointer<SetIpDialog> &dialog,
                                              const QPersistentModelIndex &camera)
 {
@@ -530,7 +532,7 @@ bool OrvCameraSelectorDialogPrivate::isWarningIgnored(const QString &reason)
                QMessageBox::Ok | QMessageBox::Ignore, reason) == QMessageBox::Ignore;
 }
 
-/// OK is for those who only want to get on. No button when the picker is destroyed while it waits.
+/// OK is the default button. Returns `NoButton` when the picker is destroyed in the meantime.
 QMessageBox::StandardButton
 OrvCameraSelectorDialogPrivate::ask(const QString &title, const QString &text,
                                     QMessageBox::StandardButtons buttons, const QString &reason)
@@ -558,7 +560,7 @@ bool OrvCameraSelectorDialogPrivate::setAddresses(const SetIpDialog &dialog,
            set("GevDeviceForceGateway", dialog.Gateway());
 }
 
-/// True also when the user gives up waiting, or the picker is destroyed while it waits.
+/// Also returns true when the user cancels, or when the picker is destroyed in the meantime.
 bool OrvCameraSelectorDialogPrivate::force(OrvCam::Interface &interface,
                                            OrvGenParam::Array &parameters)
 {
@@ -568,13 +570,12 @@ bool OrvCameraSelectorDialogPrivate::force(OrvCam::Interface &interface,
     command->wait();
     if (!command->hasSucceeded())
         return false;
-    // Not followed by updateButtons(): what the last scan found out of the camera is outdated now,
-    // and OK stays enabled.
+    // No updateButtons() here: the data of the last scan is outdated now, and OK stays enabled.
     FillInfo(ui->cameraTreeView->currentIndex());
     return true;
 }
 
-/// False when the user gives up, or the picker is destroyed.
+/// Returns false when the user cancels, or when the picker is destroyed.
 bool OrvCameraSelectorDialogPrivate::awaitCommand()
 {
     const QPointer<QProgressDialog> progress(new QProgressDialog(q));
@@ -605,7 +606,7 @@ bool OrvCameraSelectorDialogPrivate::awaitCommand()
     return !isForcing;
 }
 
-/// Until the command has ended, the picker only shows what it knows.
+/// Until the command has ended, the picker shows only data that it has.
 void OrvCameraSelectorDialogPrivate::abandonCommand()
 {
     isAbandoned = true;
@@ -619,7 +620,7 @@ void OrvCameraSelectorDialogPrivate::commandEnded()
 {
     isForcing = false;
     model->setPaused(false);
-    ui->cameraTreeView->viewport()->update(); // whether the camera can be opened now
+    ui->cameraTreeView->viewport()->update(); // the marks of the cameras may have changed
     if (!std::exchange(isAbandoned, false))
         return;
     q->unsetCursor();

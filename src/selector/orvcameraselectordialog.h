@@ -19,7 +19,7 @@ class OrvCameraSelectorDialogPrivate;
 /// camera a working address.
 ///
 /// Construct it, run it with `exec`, and read `selectedCamera` when it was accepted; or use
-/// `SelectCamera`, which does all three. The dialog accepts only a camera that can be opened, and
+/// `SelectCamera`, which does all three. Only a camera that can be opened is accepted; the dialog
 /// does not open it. The search for cameras blocks the constructor, and "Rescan", for up to 200 ms
 /// per interface; libOrvCameraApi needs that time once for all network adapters.
 ///

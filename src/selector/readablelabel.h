@@ -3,8 +3,8 @@
 
 #include <QLabel>
 
-/// Shows a plain text of a line in its colour, or where that cannot be read on the background, in
-/// the nearest one that can.
+/// Shows a line of plain text in its colour or, if the contrast to the background is insufficient,
+/// in the nearest colour that has enough contrast.
 class ReadableLabel : public QLabel
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ namespace {
 
 const unsigned int LowestAddress = 0x01000000;
 
-/// Its text can still be selected and copied.
+/// Its text can still be selected and copied, unlike that of a disabled edit.
 void makeLookDisabled(QLineEdit *edit)
 {
     QPalette palette = edit->palette();
@@ -17,12 +17,12 @@ void makeLookDisabled(QLineEdit *edit)
     edit->setPalette(palette);
 }
 
-/// The widest MAC address, too, is seen whole.
+/// Makes the line edit wide enough for the widest MAC address.
 void widen(QLineEdit *edit)
 {
     const QString widest = macAddressText(0xDDDDDDDDDDDD);
     const QFontMetrics metrics = edit->fontMetrics();
-    // What the style puts around a text; the smallest line edit is for the widest letter.
+    // The frame and margins of the style: the minimum width of a line edit fits one widest letter.
     const int around = edit->minimumSizeHint().width() - metrics.maxWidth();
     edit->setMinimumWidth(metrics.size(0, widest).width() + metrics.averageCharWidth() + around);
 }

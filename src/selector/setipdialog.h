@@ -9,12 +9,12 @@ class QLineEdit;
 class Ui_SetIpDialog;
 
 /// Asks the user for the IPv4 configuration to force on a camera, and shows during input whether it
-/// fits the network adapter.
+/// suits the network adapter.
 ///
-/// Fill it through the setters, those of the adapter first, run it modally, then read the addresses
-/// and the verdict. The user may accept any content, also what the verdict calls wrong. Addresses
-/// are numbers whose most significant byte is the first group; of a MAC address the low six bytes
-/// count. The dialog itself talks to no camera.
+/// Set the addresses, those of the adapter first, run the dialog modally, then read the addresses
+/// and their validity. The user may accept invalid addresses, too. Addresses are numbers whose most
+/// significant byte is the first group; of a MAC address the low six bytes count. The dialog does
+/// not access the camera.
 class SetIpDialog : public QDialog
 {
     Q_OBJECT
@@ -27,14 +27,14 @@ public:
     unsigned int Netmask() const;
     unsigned int Gateway() const;
 
-    /// The camera's, as it is shown.
+    /// The text for the camera's MAC address.
     QString macAddress() const;
 
-    /// The camera's address lies in the adapter's subnet and is not the adapter's own. The verdicts
-    /// are those of the last change of the camera's address or mask.
+    /// The camera's address is in the adapter's subnet and not equal to the adapter's. Both results
+    /// are from the last change of the camera's address or mask.
     bool isAddressValid() const { return m_addressValid; }
 
-    /// The camera's mask is the adapter's.
+    /// The camera's mask is equal to the adapter's.
     bool isMaskValid() const { return m_maskValid; }
 
     void setIPAddress(unsigned int address);
@@ -47,7 +47,7 @@ public:
     void setMACLineEdit(QLineEdit *edit, unsigned long long mac);
 
 protected:
-    /// Lets the user type the host number at once.
+    /// Selects the host number for typing.
     void showEvent(QShowEvent *event) override;
 
 private slots:

@@ -46,7 +46,7 @@ QString UsedAddresses::impossible(unsigned int address, unsigned int mask)
 
     const unsigned int hostBits = ~mask;
     const unsigned int host = address & hostBits;
-    if (hostBits <= 1) // one host, or the two ends of a cable
+    if (hostBits <= 1) // a single host, or a point-to-point link
         return QString();
     if (host == hostBits)
         return tr("No camera can have the address %1: it is a broadcast address.");
@@ -59,7 +59,7 @@ unsigned int UsedAddresses::firstFree(unsigned int first, int step, unsigned int
 {
     const unsigned int hostBits = ~mask;
     unsigned int address = first;
-    // Only the known ones, the first and the last address of the subnet can be in the way.
+    // Only the known addresses and the first and last ones of the subnet have faults.
     for (auto tries = m_owners.size() + 2; tries >= 0; --tries) {
         if (fault(address, mask).isEmpty())
             return address;

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-/// Shows the hourglass while it lives: the camera system keeps the GUI thread waiting.
+/// Shows the wait cursor while an instance exists and the camera system blocks the GUI thread.
 class WaitCursor
 {
 public:

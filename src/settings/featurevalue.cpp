@@ -14,7 +14,8 @@ namespace OrvGui {
 
 namespace {
 
-/// Of two floating-point numbers, in proportion; some tools write no more than six digits.
+/// The largest relative difference of equal floating-point numbers; some tools write six digits
+/// only.
 constexpr double equalShare = 1e-6;
 
 [[noreturn]] void refuse(const QString &why)
@@ -27,7 +28,7 @@ GenApi::EInterfaceType typeOf(GenApi::IValue *feature)
     return feature->GetNode()->GetPrincipalInterfaceType();
 }
 
-/// The fewest digits that give the same number again.
+/// The fewest digits that preserve the number.
 QString exactText(double value)
 {
     QString text;
@@ -63,7 +64,7 @@ bool isFalse(const QString &text)
            word.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0;
 }
 
-/// Groups of a byte each.
+/// Groups of one byte.
 bool bytesOf(const QStringList &groups, int count, int base, quint64 *value)
 {
     *value = 0;
@@ -119,7 +120,7 @@ void writeBoolean(GenApi::IBoolean *feature, const QString &text)
     feature->SetValue(isTrue(text), true);
 }
 
-/// By its name; some tools write its number.
+/// Accepts the entry's name, and its number, which some tools write.
 GenApi::IEnumEntry *entryOf(GenApi::IEnumeration *feature, const QString &text)
 {
     if (GenApi::IEnumEntry *entry = feature->GetEntryByName(toUtf8(text.trimmed())))
@@ -314,7 +315,7 @@ QString FeatureValue::reason(GenApi::IValue *feature, const GenICam::GenericExce
             return range.isEmpty() ? description : range;
         }
     } catch (const GenICam::GenericException &) {
-        // The camera has said enough.
+        // The error of the camera is sufficient.
     }
     return description;
 }

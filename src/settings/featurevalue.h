@@ -10,28 +10,28 @@ namespace OrvGui {
 
 /// Values of features as text.
 ///
-/// Functions that read or write throw GenICam's exceptions, wait for the camera, and may be called
+/// Functions that read or write block for the camera, throw GenICam's exceptions, and may be called
 /// on any thread.
 class FeatureValue
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::FeatureValue)
 
 public:
-    /// Whether the feature has a value that can be kept: no category and no command.
+    /// Whether the feature has a value that can be saved: false for categories and commands.
     static bool exists(GenApi::IValue *feature);
 
-    /// The exact value, as settings files have it.
+    /// The exact value in the format of settings files.
     static QString text(GenApi::IValue *feature);
 
-    /// Sets it to such a text, or to the text of another tool.
+    /// Sets the value from such a text, also from one that another tool has written.
     static void write(GenApi::IValue *feature, const QString &text);
 
-    /// The value as the feature tree shows it.
+    /// The value in the format of the feature tree.
     static QString shownText(GenApi::IValue *feature);
     static void writeShown(GenApi::IValue *feature, const QString &text);
 
-    /// Whether two texts of files are the same value. Without a feature, a text that looks like a
-    /// number is one. Never throws, and reads nothing from the camera.
+    /// Whether two texts of files are the same value. Without a feature, texts that look like
+    /// numbers are compared as numbers. Never throws, and reads nothing from the camera.
     static bool areSame(GenApi::IValue *feature, const QString &left, const QString &right);
 
     /// The reason why the camera refused the read or write, for the user.

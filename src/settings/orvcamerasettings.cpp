@@ -3,8 +3,8 @@
 
 #include "base/genicamstring.h"
 #include "settings/featurevalue.h"
-#include "settings/settingselectors.h"
 #include "settings/settingscomparison.h"
+#include "settings/settingselectors.h"
 #include "settings/settingsorder.h"
 #include "settings/settingsreader.h"
 #include "settings/settingswriter.h"
@@ -54,7 +54,7 @@ void addDifferences(const SettingDifferences &differences, Result *result)
         result->differences.append({one.feature, one.left, one.right});
 }
 
-/// The settings of the file that the camera does not save.
+/// The settings of the file that the camera would not save.
 Settings others(const Settings &ofFile, const Settings &ofCamera)
 {
     QSet<QString> saved;
@@ -83,7 +83,7 @@ void takeMissing(GenApi::INodeMap &map, Settings *settings, QStringList *missing
     *settings = found;
 }
 
-/// Null, and a reason, when there is no such feature or it is of another kind.
+/// Null, and a reason, when there is no such feature or it has another type.
 GenApi::IValue *featureOf(GenApi::INodeMap &map, const QString &name, QString *error)
 {
     auto *feature = dynamic_cast<GenApi::IValue *>(map.GetNode(toUtf8(name)));
@@ -160,7 +160,8 @@ Result OrvCameraSettings::compare(GenApi::INodeMap &map, const QString &fileName
     SettingsReader reader(map, std::move(progress));
     const SettingsReader::Result read = reader.readAll();
     Result result = resultOf(read);
-    result.problems.clear(); // a setting that cannot be read is a difference if the file has it
+    // A setting in the file that cannot be read is reported as a difference.
+    result.problems.clear();
     addNotPutBack(read.notPutBack, &result);
     Settings ofFile = resolvedSettings(file.lines, map);
     Settings ofCamera = resolvedSettings(read.settings, map);

@@ -54,11 +54,11 @@ public:
 
     struct Result
     {
-        /// The reason why the operation was not done or not completed, as text for the user; empty
-        /// on success.
+        /// The reason why the operation failed or is incomplete, as text for the user; empty on
+        /// success.
         QString error;
         bool isCancelled = false;
-        bool isOfOtherModel = false; ///< the error is that the file is of another model
+        bool isOfOtherModel = false; ///< the error is caused by the model
 
         int count = 0;             ///< number of values saved, or present in the camera now
         QVector<Problem> problems; ///< values that could not be read, or were refused
@@ -85,7 +85,7 @@ public:
     static Result load(GenApi::INodeMap &map, const QString &fileName, Models models = SameModel,
                        Progress progress = {});
 
-    /// Compares a file with a camera. Features that the camera lacks are in `missing`.
+    /// Compares a file with a camera. `missing` contains the features that the camera lacks.
     static Result compare(GenApi::INodeMap &map, const QString &fileName, Progress progress = {});
 
     /// Compares two files.

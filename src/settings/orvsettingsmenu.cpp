@@ -87,9 +87,9 @@ private:
     QWidget *const m_window;
     QMenu m_userSets;
     QPointer<SettingsJob> m_job;
-    QList<QPointer<QDialog>> m_questions; ///< which end with the camera
+    QList<QPointer<QDialog>> m_questions; ///< they are closed when the camera is removed
     QList<QPointer<QDialog>> m_results;
-    Settings m_before; ///< of the last load
+    Settings m_before; ///< the values before the last load
 };
 
 namespace {
@@ -198,7 +198,7 @@ void OrvSettingsMenuPrivate::askForFile(QFileDialog::AcceptMode mode, const QStr
     show(dialog, &m_questions);
 }
 
-/// Runs one operation at a time: the dialog with the progress blocks others.
+/// Runs one operation at a time: its progress dialog blocks the menu.
 void OrvSettingsMenuPrivate::run(const QString &text, const SettingsJob::Work &work,
                                  const Done &done)
 {
@@ -360,7 +360,7 @@ void OrvSettingsMenuPrivate::write(const QString &text, const Settings &settings
         });
 }
 
-/// No step of the journal, which does not repeat writes that are refused at first; "Put Back" does.
+/// Not a step of the journal, because the journal does not repeat refused writes; "Put Back" does.
 void OrvSettingsMenuPrivate::journalWritten(const SettingsWriter::Result &result,
                                             bool isPuttingBack)
 {
@@ -406,7 +406,7 @@ void OrvSettingsMenuPrivate::showWritten(const SettingsWriter::Result &result, b
         QPushButton *button = dialog->addButton(tr("Put Back"));
         button->setObjectName(QStringLiteral("putBackButton"));
         button->setToolTip(tr("Gives the camera the values that it had before"));
-        // Never enabled again: the values to put back may then be another camera's.
+        // Not enabled again: the former values may then belong to another camera.
         QObject::connect(putBackAction, &QAction::changed, button, [=] {
             button->setEnabled(button->isEnabled() && putBackAction->isEnabled());
         });

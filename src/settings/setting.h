@@ -9,14 +9,14 @@
 
 namespace OrvGui {
 
-/// The value of a feature, as in a line of a settings file.
+/// The value of a feature, as a line of a settings file has it.
 struct Setting
 {
     /// Names and values of selectors, the outermost first.
     using Selection = QVector<QPair<QString, QString>>;
 
     QString name;
-    Selection selection; ///< of the value; empty for the present values of the selectors
+    Selection selection; ///< empty for the present selection
     QString value;       ///< null when it is not known
     int line = 0;        ///< in the file, from 1; 0 for none
 

@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-/// By label; of several lines for the same the last counts.
+/// Maps by label; of several lines with the same label the last counts.
 QHash<QString, const Setting *> byLabel(const Settings &settings)
 {
     QHash<QString, const Setting *> found;

@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-/// More positions than cameras have entries in a look-up table.
+/// Larger than the look-up table of any real camera.
 constexpr int64_t mostPositions = 65536;
 
 QStringList positionsOfInteger(GenApi::IInteger *selector)
@@ -39,8 +39,8 @@ QStringList positionsOfInteger(GenApi::IInteger *selector)
     return positions;
 }
 
-/// A position may be of no use any more, and still be the one that was found.
-/// One that could not be moved is where it was.
+/// For a selector that refuses to be restored: its former value may no longer be valid, but it may
+/// still have that value, because the move has failed.
 bool isAt(GenApi::IValue *selector, const QString &value)
 {
     try {
@@ -107,14 +107,14 @@ void SettingSelectors::move(GenApi::IValue *selector, const QString &value)
     if (FeatureValue::areSame(selector, FeatureValue::text(selector), value))
         return;
     const SelectorDetour detour;
-    moved.isAway = true; // also after a write that was not answered
+    moved.isAway = true; // set even if the write gets no answer
     FeatureValue::write(selector, value);
 }
 
 QString SettingSelectors::select(const Setting::Selection &selection)
 {
     m_isUnanswered = false;
-    // In the order in which they are restored.
+    // Stored in the order in which they are restored.
     std::vector<GenApi::IValue *> selectors;
     for (const auto &position : selection) {
         selectors.push_back(settingOf(m_map, position.first));
@@ -160,7 +160,7 @@ QStringList SettingSelectors::putBack()
     for (Moved &moved : m_moved) {
         if (!moved.isAway)
             continue;
-        // A write that was not answered may have arrived, and the answer got lost.
+        // Repeated, because the camera may have executed a write without an answer.
         if (!isPutBack(moved.selector, moved.original, true) &&
             !isPutBack(moved.selector, moved.original, false) &&
             !isAt(moved.selector, moved.original))

@@ -13,16 +13,16 @@
 
 namespace OrvGui {
 
-/// All values of a selector that the camera offers now. Throws the exceptions of GenICam.
+/// All values of a selector that are available at present. Throws GenICam's exceptions.
 QStringList positionsOf(GenApi::IValue *selector);
 
-/// The feature of that name that has a value; null when there is none.
+/// The feature of that name, if it has a value; otherwise null.
 GenApi::IValue *settingOf(GenApi::INodeMap &map, const QString &name);
 
-/// Moves selectors of a camera, and moves them back at its end.
+/// Moves selectors of a camera, and restores them in its destructor.
 ///
-/// Views of the features are not notified while the selectors are moved, and once when they are
-/// restored.
+/// While the selectors are moved, views of the features are not notified; when they are restored,
+/// views are notified once.
 class SettingSelectors
 {
 public:
@@ -34,19 +34,19 @@ public:
     /// not be restored.
     void move(GenApi::IValue *selector, const QString &value);
 
-    /// The same for the whole selection. Null on success, otherwise the reason of the failure.
+    /// Does the same for a whole selection. Null on success, otherwise the reason of the failure.
     QString select(const Setting::Selection &selection);
 
-    /// Whether the camera has not answered during the last `select`.
+    /// Whether the camera did not answer during the last `select`.
     bool isUnanswered() const { return m_isUnanswered; }
 
-    /// The former value of the selector; null for one that was not moved.
+    /// The original value of the selector; null for a selector that was not moved.
     QString original(GenApi::IValue *selector) const;
 
     /// Keeps the selector at its present value.
     void keep(GenApi::IValue *selector);
 
-    /// Restores the selectors. Returns the names of those that the camera has refused.
+    /// Restores the selectors. Returns the names of those that the camera refuses to restore.
     QStringList putBack();
 
 private:

@@ -17,7 +17,7 @@ constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 constexpr char deviceMark[] = "Device = ";
 constexpr char deviceEnd[] = " -- ";
 
-/// For messages: a damaged file can have very long lines.
+/// Truncates a text for messages: a damaged file may have very long lines.
 QString shown(const QString &text)
 {
     return cameraText(text, 60);
@@ -85,7 +85,7 @@ SettingsFile SettingsFile::fromBytes(const QByteArray &bytes, QString *error)
     return {};
 }
 
-/// Returns the error of the line.
+/// Returns the error in the line.
 QString SettingsFile::addLine(const QByteArray &bytes, int number)
 {
     const QString text = QString::fromUtf8(bytes);
@@ -178,7 +178,7 @@ bool SettingsFile::write(const QString &fileName, QString *error) const
     const QByteArray bytes = toBytes();
     const QFileInfo existing(fileName);
     if (existing.exists() && !existing.isFile() && !existing.isDir()) {
-        // A device or a pipe must not be replaced with a file.
+        // A device file or a pipe must not be replaced.
         QFile target(fileName);
         if (target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size() &&
             target.flush())
@@ -187,7 +187,7 @@ bool SettingsFile::write(const QString &fileName, QString *error) const
         return false;
     }
     QSaveFile file(fileName);
-    // Only flush() fails when the disk is full.
+    // A full disk is reported by flush() only.
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
         file.commit())
         return true;

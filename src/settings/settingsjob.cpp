@@ -18,7 +18,7 @@ namespace {
 constexpr int delayOfDialog = 300; // ms until the dialog is shown
 constexpr int progressPeriod = 50; // ms
 
-/// Stays open until the operation has ended: after "Cancel", too, selectors may be moved.
+/// Stays open until the operation has ended, even after "Cancel", because selectors may be moved.
 class ProgressDialog : public QDialog
 {
 public:
@@ -31,7 +31,7 @@ public:
 SettingsJob::SettingsJob(const QString &text, Work work, QWidget *window)
     : QObject(window), m_text(text), m_window(window)
 {
-    // Until the dialog does it.
+    // The dialog does it when it is shown.
     QApplication::instance()->installEventFilter(this);
     QTimer::singleShot(delayOfDialog, this, [this] { show(); });
     m_thread = std::thread([this, work = std::move(work)] {
@@ -85,7 +85,7 @@ void SettingsJob::show()
     layout->addWidget(buttons);
 
     const auto showProgress = [=] {
-        bar->setRange(0, m_total); // without a range it is busy
+        bar->setRange(0, m_total); // without a range the bar shows an undetermined progress
         bar->setValue(m_done);
     };
     auto *timer = new QTimer(m_dialog);

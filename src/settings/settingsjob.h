@@ -14,12 +14,12 @@ class QProgressBar;
 
 namespace OrvGui {
 
-/// Runs an operation on a camera on a thread of its own, so that windows stay responsive. When it
-/// takes longer, a dialog shows the progress and lets the user cancel; it blocks the program's
-/// other windows, because selectors may be moved.
+/// Runs an operation on a camera on a separate thread, so that windows stay responsive. When it
+/// takes long, a modal dialog shows the progress and lets the user cancel; the program's other
+/// windows are blocked, because selectors may be moved.
 ///
-/// Destroying the object cancels, and waits until the operation has ended: at most for one answer
-/// of the camera and for restoring the selectors.
+/// The destructor cancels, and blocks until the operation has ended: at most for one answer of the
+/// camera and for restoring the selectors.
 class SettingsJob : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// The operation is done or was cancelled, and its dialog is closed.
+    /// The operation is done or cancelled, and its dialog is closed.
     void finished();
 
 protected:

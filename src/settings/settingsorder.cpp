@@ -11,7 +11,7 @@ namespace OrvGui {
 
 namespace {
 
-/// The part of the positions so far that applies to a feature with these selectors.
+/// The part of the selection so far that applies to a feature with these selectors.
 Setting::Selection selectionOf(GenApi::IValue *feature, const QHash<QString, QString> &positions)
 {
     Setting::Selection selection;
@@ -28,7 +28,7 @@ bool isCalledSelector(const QString &name)
     return name.contains(QLatin1String("Selector")) || name.endsWith(QLatin1String("Index"));
 }
 
-/// The selectors whose position is not the same for all occurrences of a feature.
+/// The selectors whose value differs between the occurrences of a feature.
 QStringList varying(const QVector<QHash<QString, QString>> &occurrences, const QStringList &all)
 {
     QStringList names;
@@ -84,7 +84,7 @@ Settings resolvedSettings(const Settings &lines)
             if (!selectors.contains(line.name))
                 selectors << line.name;
             if (lastLine.value(line.name) == i)
-                settings.append(line); // not every feature with such a name selects anything
+                settings.append(line); // a feature with such a name need not be a selector
             continue;
         }
         occurrences[line.name].append(positions);

@@ -70,7 +70,7 @@ QString nameOf(GenApi::IValue *feature)
     return fromUtf8(feature->GetNode()->GetName());
 }
 
-/// The name without case and punctuation: vendors spell their names in several ways.
+/// The name without case and punctuation, because vendors spell their names in several ways.
 QString essence(const QString &device)
 {
     QString text;
@@ -96,7 +96,7 @@ bool SettingsReader::reportProgress()
     return !m_result.isCancelled;
 }
 
-/// In as few transfers as possible; a failure shows when the value is read.
+/// Caches the values in as few transfers as possible; an error is reported when the value is read.
 void SettingsReader::fetch(const Features &features) const
 {
     auto *lookAhead = dynamic_cast<OrvGenParam::LookAhead *>(&m_map);
@@ -140,7 +140,7 @@ SettingsReader::Result SettingsReader::readAll()
             readSelected(selectors, 0, group);
         m_done += int(group.size());
     }
-    reportProgress(); // the last one may have taken long
+    reportProgress(); // after the last value, which may have taken long
     return m_result;
 }
 
@@ -151,7 +151,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     QString original;
     QStringList positions;
     try {
-        // An unavailable selector selects nothing.
+        // A selector that is not available selects nothing.
         if (!GenApi::IsReadable(selector->GetAccessMode()))
             return readAt(selectors, depth + 1, features);
         original = FeatureValue::text(selector);
@@ -181,7 +181,7 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
             continue;
         }
         m_result.settings.append(line);
-        // Views are notified of the inner ones when the outermost is restored.
+        // Restoring the outermost selector notifies views of the inner ones, too.
         const auto detour = positions.size() > 1 ? std::make_unique<SelectorDetour>() : nullptr;
         readAt(selectors, depth + 1, features);
         if (m_result.settings.size() == start + 1)
@@ -196,7 +196,8 @@ void SettingsReader::readSelected(const Features &selectors, size_t depth, const
     m_result.settings.append(last);
 }
 
-/// Null on success, otherwise the reason of the failure. One answer may get lost.
+/// Null on success, otherwise the reason of the failure. Retries once, because an answer may be
+/// lost.
 QString SettingsReader::select(const Setting::Selection &selection, SettingSelectors *moves)
 {
     QString reason = moves->select(selection);
@@ -231,7 +232,7 @@ void SettingsReader::readOne(GenApi::IValue *feature, Setting setting)
         m_result.omitted.append({setting, reason});
 }
 
-/// Null without a reason when there is no value now.
+/// Null without a reason when there is no value at present.
 QString SettingsReader::textOf(GenApi::IValue *feature, QString *reason)
 {
     for (int attempt = 0; m_result.error.isEmpty(); ++attempt) {
@@ -282,7 +283,7 @@ SettingsReader::Result SettingsReader::read(const Settings &wanted)
         QString why = reason;
         GenApi::IValue *feature = settingOf(m_map, setting.name);
         if (feature)
-            found.value = moves.original(feature); // it may be moved
+            found.value = moves.original(feature); // the selector may be moved
         if (feature && found.value.isNull() && why.isEmpty())
             found.value = textOf(feature, &why);
         if (!why.isEmpty())
@@ -315,7 +316,7 @@ bool SettingsReader::isSameModel(const QString &device)
 {
     if (device.isEmpty())
         return true;
-    // Other tools name the description's model.
+    // Other tools write the model name of the description.
     const QString model = device.section(QStringLiteral("::"), -1);
     const QString own = this->device();
     return essence(device) == essence(own) ||

@@ -13,9 +13,9 @@
 
 namespace OrvGui {
 
-/// Reads settings from a camera. Selectors are moved through all their values and restored.
+/// Reads settings from a camera. Moves selectors through all their values, and restores them.
 ///
-/// Waits for the camera; may be used on any thread. Nothing throws.
+/// Blocks for the camera; may be used on any thread. Throws nothing.
 class SettingsReader
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::SettingsReader)
@@ -25,25 +25,25 @@ public:
     {
         Settings settings;
         SettingProblems omitted; ///< features that could not be read
-        QStringList notPutBack;  ///< selectors that were not restored
-        QString error;           ///< not empty when the other members are of no use
+        QStringList notPutBack;  ///< selectors that could not be restored
+        QString error;           ///< if not empty, the other members are meaningless
         bool isCancelled = false;
     };
 
     explicit SettingsReader(GenApi::INodeMap &map, SettingsProgress progress = {});
 
-    /// All streamable features, as the lines of a file: in the order in which they are to be
-    /// written, the values of selectors in lines of their own.
+    /// All streamable features, as the lines of a file: in the order in which they must be written,
+    /// with separate lines for the values of selectors.
     Result readAll();
 
     /// The camera's values of these settings, in the same order. A setting that cannot be read has
     /// no value.
     Result read(const Settings &wanted);
 
-    /// "Vendor::Model", as files name the camera.
+    /// "Vendor::Model", the name of the camera in files.
     QString device();
 
-    /// Whether a file names such a camera, or none.
+    /// Whether a file is of such a camera, or names none.
     bool isSameModel(const QString &device);
 
 private:

@@ -53,7 +53,7 @@ QVariant SettingsTable::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return literally(cameraText(cell));
     case Qt::FontRole: {
-        QFont font; // not paler: that would be hard to read
+        QFont font; // the same colour as the others, for readability
         font.setItalic(true);
         return cell.isNull() ? QVariant(font) : QVariant();
     }

@@ -17,8 +17,8 @@ namespace OrvGui {
 
 namespace {
 
-constexpr int widestColumn = 60; // characters; the user can widen it
-constexpr int mostRows = 18;     // at first; the user can enlarge the dialog
+constexpr int widestColumn = 60; // characters, initially
+constexpr int mostRows = 18;     // initially
 
 } // namespace
 

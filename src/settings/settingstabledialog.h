@@ -12,26 +12,26 @@ class QTreeView;
 
 namespace OrvGui {
 
-/// Shows a message about features, with a table of them that can be copied.
+/// Shows a message about features, with a table that can be copied.
 class SettingsTableDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Is deleted when it is closed.
+    /// The dialog deletes itself when it is closed.
     SettingsTableDialog(const QString &title, QWidget *parent);
 
-    /// Without rows there is no table.
+    /// Without rows the table is hidden.
     void setContents(const QString &text, const QStringList &headers,
                      const SettingsTable::Rows &rows);
 
-    /// Accepts the dialog.
+    /// Adds a button that accepts the dialog.
     QPushButton *addAcceptButton(const QString &text);
 
-    /// Leaves it open.
+    /// Adds a button that leaves the dialog open.
     QPushButton *addButton(const QString &text);
 
-    /// Rejects it. There are no more buttons after it.
+    /// Adds a button that rejects the dialog. It must be the last one.
     void addCloseButton(bool isCancel = false);
 
 private:

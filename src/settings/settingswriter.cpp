@@ -13,7 +13,7 @@ namespace OrvGui {
 
 namespace {
 
-/// One answer may get lost.
+/// Retries a write once, because an answer may be lost.
 constexpr int mostTimeouts = 2;
 
 Settings settingsOf(const SettingProblems &problems)
@@ -64,7 +64,7 @@ SettingsWriter::Result SettingsWriter::write(const Settings &settings)
     return m_result;
 }
 
-/// Returns the refused settings, without those that are not repeated.
+/// Returns the refused settings that are worth repeating.
 SettingProblems SettingsWriter::pass(const Settings &settings)
 {
     SettingProblems refused;
@@ -79,7 +79,7 @@ SettingProblems SettingsWriter::pass(const Settings &settings)
             refused.append({setting, reason});
         }
     }
-    // A setting without a selection is for the original one.
+    // A setting without a selection applies to the original one.
     noteAway(m_moves.putBack());
     return refused;
 }
@@ -95,7 +95,7 @@ QString SettingsWriter::attempt(const Setting &setting)
     GenApi::IValue *feature = settingOf(m_map, setting.name);
     const QString reason = attempt(feature, setting.value);
     if (reason.isEmpty() && isSelector(feature))
-        m_moves.keep(feature); // its place is a setting itself
+        m_moves.keep(feature); // the position of the selector is a setting itself
     return reason;
 }
 
@@ -118,7 +118,7 @@ QString SettingsWriter::attempt(GenApi::IValue *feature, const QString &value)
     return reason.isEmpty() || isThere(feature, value) ? QString() : reason;
 }
 
-/// A setting that cannot be written, but has the value already, is done.
+/// A setting that is not writable, but has the value already, counts as written.
 bool SettingsWriter::isThere(GenApi::IValue *feature, const QString &value)
 {
     try {
@@ -171,7 +171,7 @@ SettingProblems SettingsWriter::differing(const Settings &settings)
         if (value.isNull() ||
             FeatureValue::areSame(settingOf(m_map, setting.name), value, setting.value))
             continue;
-        // The last of several lines for the same counts.
+        // Of several lines for the same setting the last counts.
         const bool isRepeated =
             std::any_of(settings.begin() + i + 1, settings.end(), [&](const Setting &later) {
                 return later.name == setting.name && later.selection == setting.selection;

@@ -9,10 +9,10 @@
 namespace OrvGui {
 
 /// Writes settings to a camera in their order. Refused settings are written again as long as the
-/// camera accepts further ones. Then all are compared with the camera, because a value may depend
-/// on values that are written after it; those that have changed are written once more.
+/// camera accepts further ones. Then all settings are compared with the camera, because a value may
+/// depend on values that are written after it; those that differ are written once more.
 ///
-/// Waits for the camera; may be used on any thread. Nothing throws.
+/// Blocks for the camera; may be used on any thread. Throws nothing.
 class SettingsWriter
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::SettingsWriter)
@@ -20,18 +20,18 @@ class SettingsWriter
 public:
     struct Result
     {
-        int written = 0; ///< number of settings that the camera has now
+        int written = 0; ///< number of settings that the camera has at the end
         Settings taken;  ///< in the order in which the camera has accepted them
         SettingProblems refused;
-        Settings missing;       ///< of features that the camera does not have
-        QStringList notPutBack; ///< selectors that were not restored
-        QString error;          ///< the reason of an early end; otherwise empty
+        Settings missing;       ///< settings of features that the camera lacks
+        QStringList notPutBack; ///< selectors that could not be restored
+        QString error;          ///< the reason of an early end, or empty
         bool isCancelled = false;
     };
 
     explicit SettingsWriter(GenApi::INodeMap &map, SettingsProgress progress = {});
 
-    /// The settings have their selections.
+    /// The settings must include their selections.
     Result write(const Settings &settings);
 
 private:
@@ -49,7 +49,7 @@ private:
     const SettingsProgress m_progress;
     SettingSelectors m_moves;
     Result m_result;
-    int m_timeouts = 0; ///< in succession
+    int m_timeouts = 0; ///< consecutive ones
     int m_done = 0;
     int m_total = 0;
 };

@@ -31,7 +31,7 @@ GenApi::IEnumeration *UserSets::enumeration(const char *name) const
 GenApi::IEnumeration *UserSets::starter() const
 {
     GenApi::IEnumeration *found = enumeration("UserSetDefault");
-    return found ? found : enumeration("UserSetDefaultSelector"); // its name before SFNC 2.0
+    return found ? found : enumeration("UserSetDefaultSelector"); // name before SFNC 2.0
 }
 
 QStringList UserSets::entriesOf(GenApi::IEnumeration *enumeration)

@@ -8,7 +8,7 @@
 
 namespace OrvGui {
 
-/// The user sets: settings that a camera stores itself.
+/// The user sets: settings that the camera stores in its own memory.
 class UserSets
 {
     Q_DECLARE_TR_FUNCTIONS(OrvGui::UserSets)
@@ -16,21 +16,21 @@ class UserSets
 public:
     explicit UserSets(GenApi::INodeMap &map) : m_map(map) {}
 
-    // What the camera's description offers; no transfer.
+    // The features that the camera's description contains; no transfer.
     bool canLoad() const { return has("UserSetLoad"); }
     bool canSave() const { return has("UserSetSave"); }
     bool canStartWith() const { return starter() != nullptr; }
     bool exist() const { return canLoad() || canSave() || canStartWith(); }
 
-    /// The names of all sets, and of those that it can start with; no transfer.
+    /// The names of all sets, and of those that the camera can start with; no transfer.
     QStringList names() const;
     QStringList startNames() const;
 
-    /// The set that it starts with; empty when that is not known without a transfer.
+    /// The set that the camera starts with; empty when that is not cached.
     QString knownStart() const;
 
-    // Empty when it is done, otherwise why it is not. These wait for the camera, and may be called
-    // on any thread.
+    // Return an empty text on success, otherwise the reason of the failure. They block for the
+    // camera, and may be called on any thread.
     QString load(const QString &name) { return execute("UserSetLoad", name); }
     QString save(const QString &name) { return execute("UserSetSave", name); }
     QString startWith(const QString &name);

@@ -8,9 +8,9 @@ class QVBoxLayout;
 class QWidget;
 
 /**
- * The layout of a compound widget: a row of parts, with a caption to the left of it and one above.
+ * The layout of a compound widget: a row of widgets, with captions to its left and above.
  *
- * The captions come into being with their first text and hide while they have none.
+ * A caption is created with its first text, and hidden while its text is empty.
  */
 struct CaptionedRow
 {

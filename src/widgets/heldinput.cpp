@@ -18,8 +18,9 @@ QList<Kind *> partsOf(QWidget *widget)
     return parts;
 }
 
-/// What a slider repeats while its groove is held can only be ended from within its class; it goes
-/// on after a release, too, if that came while the first step was being taken.
+/// Ends the repetition of steps while the groove of a slider is held, for which QAbstractSlider has
+/// only protected functions. Without that, the repetition also continues after a release during the
+/// first step.
 class RepeatedStep : public QAbstractSlider
 {
 public:
@@ -34,7 +35,7 @@ void releaseMouse(QWidget *widget)
 {
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
-    // For this widget only: an event that is sent goes on to the parents if it is ignored.
+    // Sent to this widget only; QApplication would pass an ignored event to the parents.
     static_cast<QObject *>(widget)->event(&release);
 }
 

@@ -37,7 +37,7 @@ bool read(const QSpinBox *box, const QString &text, int *number)
 
 bool read(const QDoubleSpinBox *box, const QString &text, double *number)
 {
-    // Where groups are shown, a point may be the sign between them.
+    // In a locale with group separators the point may be one.
     const bool localeFirst = box->isGroupSeparatorShown();
     bool ok = false;
     *number = localeFirst ? box->locale().toDouble(text, &ok) : text.toDouble(&ok);

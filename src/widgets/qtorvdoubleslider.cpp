@@ -36,8 +36,8 @@ public:
     double singleStep = 1.0;
     quint32 rangeChanges = 0;
 
-    // More than 1 where there are more steps than positions. The value last set is kept then, as
-    // long as the slider stands where it has been put.
+    // Greater than 1 when there are more steps than positions. The value that was set last is kept
+    // then, until the slider moves from the position that belongs to it.
     double stepsPerPosition = 1.0;
     double placedValue = 0.0;
     int placedPosition = -1;
@@ -141,8 +141,8 @@ void QtOrvDoubleSlider::setRange(double min, double max)
     d->minimum = min;
     d->maximum = max;
     d->writeLabels();
-    // A slot may set another range, which has been announced then. Comparing the ends does not show
-    // that: NaN equals nothing.
+    // A slot may have set another range, which has been announced then. Comparing the limits does
+    // not detect that, because NaN does not equal itself.
     const quint32 change = ++d->rangeChanges;
     d->setInnerRange();
     if (d->rangeChanges == change)
@@ -283,7 +283,7 @@ bool QtOrvDoubleSlider::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::FocusOut)
         return QFrame::eventFilter(watched, event);
 
-    // The slider does not get to see the event, yet its focus frame has to go.
+    // The slider does not receive the event, but its focus frame must be repainted.
     d->slider->update();
     emit focusOut();
     return true;

@@ -13,9 +13,9 @@ class QtOrvDoubleSliderPrivate;
 /**
  * A floating-point slider with labels for its two ends.
  *
- * Use it for gains and other real numbers. A position of its inner QSlider is one single step,
- * counted from the minimum; the last position is the maximum, even where that is not a whole number
- * of steps away. value() after setValue() is therefore the value of the nearest position.
+ * Use it for gains and other real numbers. One position of its inner QSlider is one single step,
+ * counted from the minimum; the last position is the maximum, even if its distance is not a whole
+ * number of steps. value() after setValue() is therefore the value of the nearest position.
  *
  * Any number is a legal argument. With a minimum above the maximum the slider cannot be moved, and
  * with a step of 0 it has only its two ends. Use it on the GUI thread only.

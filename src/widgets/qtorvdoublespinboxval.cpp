@@ -52,7 +52,7 @@ double QtOrvDoubleSpinBoxVal::doValidation(double value) const
 
 void QtOrvDoubleSpinBoxVal::setLineEditText(const QString &text)
 {
-    // The spin box takes over every text that its line edit announces.
+    // The spin box commits every text that its line edit announces.
     const QSignalBlocker blocker(lineEdit());
     lineEdit()->setText(text);
 }
@@ -93,7 +93,7 @@ void QtOrvDoubleSpinBoxVal::keyPressEvent(QKeyEvent *event)
 
 void QtOrvDoubleSpinBoxVal::focusOutEvent(QFocusEvent *event)
 {
-    // The focus that a menu borrows comes back.
+    // The focus returns after a menu.
     if (event->reason() == Qt::PopupFocusReason && hasFocus()) {
         lineEdit()->event(event);
         return;

@@ -26,7 +26,7 @@ QtOrvGainSlider::QtOrvGainSlider(QWidget *parent)
     : QWidget(parent), d(new QtOrvGainSliderPrivate(this))
 {
     ValueAccessibility::install();
-    setFocusProxy(d->slider); // the first one in the tab order
+    setFocusProxy(d->slider); // the first widget in the tab order
 }
 
 QtOrvGainSlider::~QtOrvGainSlider() = default;

@@ -51,7 +51,7 @@ public:
     int lastValue = 0;
     KeyStep pendingKeyStep = NoStep;
     int valueBeforeKey = 0;
-    bool isPlacing = false; // the slider is moved to a value that is announced afterwards
+    bool isPlacing = false; // the slider is being moved to a value that is announced afterwards
     Connections connections;
 };
 
@@ -130,14 +130,14 @@ void QtOrvSliderPrivate::setInnerRange()
 
 void QtOrvSliderPrivate::setInnerStep()
 {
-    // QSlider takes the absolute value, which the lowest int does not have.
+    // The lowest int has no absolute value, which QSlider uses.
     const int innerStep = qMax(singleStep, -std::numeric_limits<int>::max());
     slider->setSingleStep(scaleType == QtOrvSlider::ScaleLinear ? innerStep : 1);
 }
 
 void QtOrvSliderPrivate::place(int value)
 {
-    // Only the move that a key makes may be stretched to a whole step.
+    // Only a move by a key may be extended to a whole step.
     pendingKeyStep = NoStep;
     slider->setValue(positionOf(value));
     lastPosition = slider->value();
@@ -162,7 +162,7 @@ void QtOrvSliderPrivate::moveOneStep(int from, int sign)
         const QScopedValueRollback<bool> placing(isPlacing, true);
         place(value);
     }
-    // From an end of its travel no further key would move the slider.
+    // At an end of the slider no further key would move it.
     if (slider->value() == (sign > 0 ? slider->maximum() : slider->minimum()))
         value = sign > 0 ? maximum : minimum;
     if (value != lastValue)
@@ -198,8 +198,8 @@ QtOrvSliderPrivate::KeyStep QtOrvSliderPrivate::keyStepOf(int key) const
 void QtOrvSliderPrivate::noteKey(int key)
 {
     pendingKeyStep = keyStepOf(key);
-    // A position with several values means the one announced, unless a new range or scale has come
-    // in between.
+    // When several values share a position, the value is the announced one, unless the range or
+    // scale has changed since.
     const bool isAnnounced = positionOf(lastValue) == slider->value();
     valueBeforeKey = isAnnounced ? snapped(lastValue) : currentValue();
 }
@@ -384,7 +384,7 @@ bool QtOrvSlider::eventFilter(QObject *watched, QEvent *event)
     d->endUnseenInput(event);
     switch (event->type()) {
     case QEvent::FocusOut:
-        // The slider does not get to see the event, yet its focus frame has to go.
+        // The slider does not receive the event, but its focus frame must be repainted.
         d->slider->update();
         emit focusOut();
         return true;

@@ -25,7 +25,7 @@ QtOrvSliderSpinBox::QtOrvSliderSpinBox(QWidget *parent)
     : QWidget(parent), d(new QtOrvSliderSpinBoxPrivate(this))
 {
     ValueAccessibility::install();
-    setFocusProxy(d->slider); // the first one in the tab order
+    setFocusProxy(d->slider); // the first widget in the tab order
 }
 
 QtOrvSliderSpinBox::~QtOrvSliderSpinBox() = default;

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// What can be used of the screen that the point is on.
+/// The available area of the screen that contains the point.
 QRect screenAt(const QPoint &point)
 {
     const QList<QScreen *> screens = QGuiApplication::screens();
@@ -27,8 +27,8 @@ QRect screenAt(const QPoint &point)
     return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
-/// Window managers don't give the focus to a tool tip; it has to be taken past them. A Wayland
-/// compositor gives it to popups only, and no window can grab it.
+/// Window managers do not focus tool tips, so the window must bypass the window manager. A Wayland
+/// compositor focuses popups only, and windows cannot grab the focus.
 Qt::WindowFlags sliderWindowFlags()
 {
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
@@ -59,7 +59,7 @@ public:
 
     QToolButton *const button;
     bool sliderSized = false;
-    QElapsedTimer sinceFocusOut; // of the slider, with the mouse on the button
+    QElapsedTimer sinceFocusOut; // of the slider, by a press on the button
     bool isClosingClick = false;
 };
 
@@ -81,8 +81,8 @@ QtOrvSpinBoxPrivate::QtOrvSpinBoxPrivate(QtOrvSpinBox *q, Qt::Orientation orient
     inner->addWidget(button, 0);
     row->addLayout(inner, 1);
 
-    // Before the slider becomes a window: Qt 6 puts a widget that gets a focus proxy in front of
-    // its first child in the tab order, which must not be that of another window.
+    // Set before the slider becomes a window: Qt 6 inserts a widget that gets a focus proxy before
+    // its first child in the tab order, which must not be in another window.
     q->setFocusProxy(spinBox);
 
     slider->setWindowFlags(sliderWindowFlags());
@@ -115,9 +115,9 @@ void QtOrvSpinBoxPrivate::openSlider()
     slider->setLayoutDirection(button->layoutDirection());
     if (!sliderSized)
         slider->resize(suitableSliderSize());
-    slider->move(sliderCorner()); // where a compositor looks only once
+    slider->move(sliderCorner()); // compositors read the position only once
     slider->show();
-    slider->move(sliderCorner()); // as large as it really is
+    slider->move(sliderCorner()); // again, with the final size
     if (canBeActivated(*slider))
         slider->activateWindow();
     slider->setFocus(Qt::PopupFocusReason);
@@ -154,7 +154,7 @@ QPoint QtOrvSpinBoxPrivate::sliderCorner() const
     if (slider->orientation() == Qt::Vertical)
         corner = QPoint(anchor.left(), above >= first.y() ? above : below);
     else if (beside < first.x() || beside > last.x())
-        corner.setY(below <= last.y() ? below : above); // the other side is that of the number
+        corner.setY(below <= last.y() ? below : above); // the number is on the other side
     return QPoint(qMax(first.x(), qMin(corner.x(), last.x())),
                   qMax(first.y(), qMin(corner.y(), last.y())));
 }
@@ -179,7 +179,7 @@ bool QtOrvSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
             break;
         }
     }
-    // The press that takes the focus off the slider has closed it already.
+    // The press has moved the focus, which has closed the slider already.
     const bool isPress =
         event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     if (watched == button && isPress) {

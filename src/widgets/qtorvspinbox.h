@@ -21,9 +21,9 @@ class QtOrvSpinBoxVal;
  * release. Where the scale of the slider is not linear the spin box holds the exact value and the
  * slider is at the nearest position.
  *
- * A vertical slider opens above the button, a horizontal one beside it, and either below it where
- * the screen has no room for that. It closes on loss of focus, with Escape, Return or Tab, and with
- * a second click on the button.
+ * A vertical slider opens above the button, a horizontal one beside it, and either of them below it
+ * if the screen has no room there. It closes when it loses the focus, with Escape, Return or Tab,
+ * and with a second click on the button.
  *
  * Use it on the GUI thread only.
  */

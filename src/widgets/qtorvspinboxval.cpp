@@ -43,7 +43,7 @@ int QtOrvSpinBoxVal::doValidation(int value) const
 
 void QtOrvSpinBoxVal::setLineEditText(const QString &text)
 {
-    // The spin box takes over every text that its line edit announces.
+    // The spin box commits every text that its line edit announces.
     const QSignalBlocker blocker(lineEdit());
     lineEdit()->setText(text);
 }
@@ -82,7 +82,7 @@ void QtOrvSpinBoxVal::keyPressEvent(QKeyEvent *event)
 
 void QtOrvSpinBoxVal::focusOutEvent(QFocusEvent *event)
 {
-    // The focus that a menu borrows comes back.
+    // The focus returns after a menu.
     if (event->reason() == Qt::PopupFocusReason && hasFocus()) {
         lineEdit()->event(event);
         return;

@@ -49,7 +49,7 @@ void SliderFace::arrange(Qt::Orientation orientation, QFrame *frame)
     }
 }
 
-// A label aligns its text by the direction of the text, and a number always goes left to right.
+// A label aligns its text by the direction of the text, and numbers are left to right.
 void SliderFace::alignLabels()
 {
     Qt::Alignment forMax = Qt::AlignHCenter;
@@ -64,11 +64,11 @@ void SliderFace::alignLabels()
 
 void SliderFace::endUnseenInput(const QEvent *event)
 {
-    // A groove starts to repeat only when its first step has been taken, and a slot may
-    // have hidden or disabled the slider by then.
+    // A groove starts to repeat after its first step only, and a slot may have hidden or disabled
+    // the slider by then.
     const bool repeats =
         event->type() == QEvent::Timer && !(slider->isVisible() && slider->isEnabled());
-    // A slider that was disabled and is enabled again still follows the mouse that holds its
+    // A slider that is disabled and enabled again still follows the mouse button that holds its
     // handle.
     const bool isBack = event->type() == QEvent::EnabledChange && slider->isEnabled();
     if (event->type() != QEvent::Hide && !isBack && !repeats)

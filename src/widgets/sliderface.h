@@ -9,7 +9,7 @@ class QLabel;
 class QSlider;
 
 /**
- * What a value slider looks like: an inner slider with a label at either end.
+ * The layout of a value slider: an inner slider with a label at either end.
  *
  * The base of the private parts of QtOrvSlider and QtOrvDoubleSlider. The frame owns the widgets.
  */
@@ -17,13 +17,18 @@ struct SliderFace
 {
     SliderFace(Qt::Orientation orientation, QFrame *frame);
 
-    /** Turns the slider, aligns the labels and lays the frame out anew. */
+    /** Sets the orientation, aligns the labels and rebuilds the layout. */
     void arrange(Qt::Orientation orientation, QFrame *frame);
 
-    /** Aligns the labels with the ends of the slider, as its orientation and direction have it. */
+    /**
+     * Aligns the labels with the ends of the slider, according to its orientation and direction.
+     */
     void alignLabels();
 
-    /** Given the slider's events, ends a drag or a repeated step whose end the slider can't see. */
+    /**
+     * Filters the slider's events; ends a drag or a repeated step when the slider will not see its
+     * end.
+     */
     void endUnseenInput(const QEvent *event);
 
     QLabel *maxLabel;

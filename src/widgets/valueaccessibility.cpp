@@ -21,7 +21,7 @@
 
 namespace {
 
-/// The property of a list whose accessible name counts.
+/// The property of a list that uses its accessible name.
 constexpr char named[] = "orvNamed";
 
 QString shown(const QtOrvSlider *slider)
@@ -69,7 +69,7 @@ bool isPartOwner(const QObject *object)
            qobject_cast<const QtOrvDoubleSlider *>(object);
 }
 
-// The interface of one widget; the value is that of the value widget that it is or is a part of.
+// The interface of a widget; its value is that of the value widget that it is or belongs to.
 template<class Source>
 class ValueInterface : public QAccessibleWidget, public QAccessibleValueInterface
 {
@@ -103,7 +103,7 @@ public:
     }
 
 private:
-    // A part has the name of what it is a part of, unless it has one of its own.
+    // A part without a name has that of its value widget.
     QString name() const
     {
         if (!widget()->accessibleName().isEmpty())
@@ -120,8 +120,8 @@ private:
     Source *const m_source;
 };
 
-// Qt hands out the text interface of a line edit, except to the one of a spin box, which it knows
-// by its name and leaves to the interface of the spin box.
+// Qt returns the text interface of a line edit, except for the one of a spin box. It recognises
+// that one by its object name, and leaves it to the interface of the spin box.
 QAccessibleInterface *lineEditInterface(QWidget *spinBox)
 {
     auto *edit = spinBox->findChild<QLineEdit *>();
@@ -132,7 +132,7 @@ QAccessibleInterface *lineEditInterface(QWidget *spinBox)
     return interface;
 }
 
-// The spin box in a compound widget; Qt's own interface serves the free-standing ones.
+// The spin box in a compound widget; other spin boxes have Qt's own interface.
 template<class SpinBox>
 class SpinBoxInterface : public ValueInterface<SpinBox>
 {
@@ -151,10 +151,10 @@ public:
     }
 
 private:
-    QAccessibleInterface *const m_edit; // owned by Qt, as long as the line edit lives
+    QAccessibleInterface *const m_edit; // owned by Qt, as long as the line edit exists
 };
 
-// The button that opens the slider, named by what it is a part of, too.
+// The button that opens the slider, also with the name of its value widget.
 class ButtonInterface : public QAccessibleWidget
 {
 public:
@@ -275,7 +275,7 @@ QAccessibleInterface *createForSpinBox(QObject *object)
     return box && isCompound(box->parent()) ? new SpinBoxInterface<SpinBox>(box) : nullptr;
 }
 
-// May run while a widget is still under construction: it must not ask it anything.
+// May be called while a widget is under construction, so it must not call the widget's functions.
 QAccessibleInterface *create(const QString &, QObject *object)
 {
     using Creator = QAccessibleInterface *(*)(QObject *);

@@ -8,7 +8,7 @@ namespace ValueGrid {
 
 qint64 truncated(double number)
 {
-    // 2^63 itself, the first double above the range: the largest int64 has no double of its own.
+    // 2^63, the first double above the range; the largest int64 has no exact double.
     constexpr double limit = 9223372036854775808.0;
     if (number >= limit)
         return std::numeric_limits<qint64>::max();

@@ -18,13 +18,13 @@ int toInt(qint64 number);
 int toInt(double number);
 
 /**
- * The grid value next to \a value: minimum plus a multiple of \a step, at most \a maximum. From
- * half a step (rounded down) on it is the next one up. The two ends are never moved, and a step of
- * 0 leads to the minimum.
+ * The grid value nearest to \a value: minimum plus a multiple of \a step, at most \a maximum. Half
+ * a step (rounded down) is rounded up. The two ends are not moved, and a step of 0 gives the
+ * minimum.
  */
 int snapped(int value, int minimum, int maximum, int step);
 
-/** What \a distance exceeds a whole number of steps by, in steps; 0 when there is no telling. */
+/** The remainder of \a distance after whole steps, in steps; 0 when it cannot be determined. */
 double stepFraction(double distance, double step);
 
 } // namespace ValueGrid

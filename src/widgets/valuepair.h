@@ -10,30 +10,29 @@
 #include <QString>
 
 /**
- * Keeps a spin box and a slider in step, and emits the signals of their owner, the compound
- * widget.
+ * Synchronises a spin box and a slider, and emits the signals of their owner, the compound widget.
  *
- * The base of the private parts of the compound widgets. Its connections end with it: the spin box
- * and the slider live a little longer and may still emit signals (a spin box that loses the focus
- * takes over what was typed).
+ * The base of the private parts of the compound widgets. Its connections end with it, because the
+ * spin box and the slider are destroyed later and may still emit signals (a spin box that loses the
+ * focus commits its text).
  *
- * \tparam T what the value is, int or double.
+ * \tparam T the type of the value, int or double.
  */
 template<class Owner, class SpinBox, class Slider, class T>
 class ValuePair : public CaptionedRow
 {
 public:
-    /** How the spin box takes over a value of the slider. */
+    /** How the spin box gets a value of the slider. */
     using TakeOver = void (*)(SpinBox *, T);
 
-    /** Adds a spin box to \a sliderWidget; the Tab key reaches them in this order. */
+    /** Adds a spin box to \a sliderWidget; it comes first in the tab order. */
     ValuePair(Owner *widget, Slider *sliderWidget)
         : CaptionedRow(widget), slider(sliderWidget), spinBox(new SpinBox(widget)), m_owner(widget)
     {
         spinBox->setObjectName(QStringLiteral("spinbox"));
     }
 
-    /** Makes the connections; called once the parts have their first range. */
+    /** Makes the connections; called when both have their first range. */
     void join(TakeOver takeOver)
     {
         QObject::connect(slider, &Slider::rangeChanged, spinBox, &SpinBox::setRange);
@@ -81,8 +80,8 @@ public:
     SpinBox *const spinBox;
 
 private:
-    // In the linear scale each value has a position, and the slider decides (it snaps to the grid).
-    // Elsewhere its nearest position must not replace the value.
+    // In the linear scale each value has a position, and the slider determines the value, because
+    // it snaps to the grid. In the others its nearest position must not replace the value.
     static bool hasPositionPerValue(const QtOrvSlider *slider)
     {
         return slider->scaleType() == QtOrvSlider::ScaleLinear;
@@ -113,7 +112,7 @@ private:
             slider->setValue(value);
         else
             changeSlider([] {});
-        // A value that has been replaced since is not reported.
+        // A value that has been replaced in the meantime is not announced.
         if (spinBox->value() == value)
             emit m_owner->valueChanged(spinBox->text());
         if (spinBox->value() == value)
@@ -121,7 +120,7 @@ private:
     }
 
     Owner *const m_owner;
-    bool m_isDragged = false; // the user holds the slider: the spin box shows its value, no more
-    bool m_isMovingSlider = false; // the spin box moves the slider
+    bool m_isDragged = false;      // during a drag the spin box only shows the slider's value
+    bool m_isMovingSlider = false; // the spin box is moving the slider
     Connections m_connections;
 };
