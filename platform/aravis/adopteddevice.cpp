@@ -17,7 +17,7 @@ struct TextRegister
     uint32_t size;
 };
 
-/// Where a camera says who it is.
+/// The registers with a camera's identity.
 struct IdentityRegisters
 {
     TextRegister vendor, model, version, serial, userName;
@@ -29,13 +29,13 @@ constexpr IdentityRegisters usb3Vision{
 
 constexpr uint64_t gevMacAddress = 0x08;
 
-/// One register after the other, until one is not answered.
+/// Reads the registers one by one, until one is not answered.
 class RegisterReader
 {
 public:
     explicit RegisterReader(ArvDevice *device) : m_device(device) {}
 
-    /// Valid UTF-8 for all bytes that the camera can send.
+    /// Valid UTF-8 for any bytes from the camera.
     std::string text(const TextRegister &place)
     {
         std::string bytes(place.size, '\0');
@@ -118,7 +118,7 @@ std::shared_ptr<const std::string> AdoptedDevice::description() const
 
 std::unique_ptr<OrvCameraIo::Port> AdoptedDevice::openPort() const
 {
-    // Once lost, only the program that has opened it can get control of it again.
+    // Once control is lost, only the program that opened the device can regain it.
     return std::make_unique<ArvPort>(m_device, [self = *this] {
         const bool isBack = self.kind() == Kind::GigEVision && self.isController();
         return isBack ? self.m_device : nullptr;

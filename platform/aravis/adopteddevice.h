@@ -11,13 +11,13 @@ typedef struct _ArvDevice ArvDevice;
 namespace OrvAravis {
 
 /// A device that the host has opened with Aravis and continues to use. The host keeps control and
-/// the stream; its registers are used, and a reference to it is held. May be used on any thread.
+/// the stream; this class uses the registers and holds a reference to the device. Thread-safe.
 class AdoptedDevice
 {
 public:
     enum class Kind { GigEVision, Usb3Vision, Other };
 
-    /// What the camera says of itself; empty where it says nothing, or does not answer.
+    /// The identity of the camera; a text is empty if the camera lacks it or does not answer.
     struct Identity
     {
         std::string id; ///< the MAC address, or vendor and serial number
@@ -36,10 +36,10 @@ public:
     /// False while another program has control of the camera.
     bool isController() const;
 
-    /// Asks the camera.
+    /// Reads the identity from the camera.
     Identity identity() const;
 
-    /// Null when the device has none.
+    /// The GenICam description; null if the device has none.
     std::shared_ptr<const std::string> description() const;
 
     std::unique_ptr<OrvCameraIo::Port> openPort() const;

@@ -16,10 +16,10 @@ namespace OrvAravis {
 
 namespace {
 
-/// A register that every camera has: the version of its protocol.
+/// A register of every camera: the version of its protocol.
 constexpr uint64_t versionRegister = 0;
 
-/// Of GigE Vision cameras; one that was switched off and on does not know its controller any more.
+/// A register of GigE Vision cameras. It is cleared when the camera restarts.
 constexpr uint64_t controlPrivilegeRegister = 0x0a00;
 constexpr uint8_t controlPrivilegeMask = 0x3;
 
@@ -53,12 +53,12 @@ void ArvPort::attach(std::shared_ptr<ArvDevice> device)
     m_device = std::move(device);
     m_isSilent = false;
     m_hasControl = ARV_IS_GV_DEVICE(m_device.get()) && isController(m_device.get());
-    // Emitted on a thread of the device, possibly while this object goes.
+    // Emitted on a thread of the device, possibly during the destruction of this object.
     m_isControlLost = std::make_shared<std::atomic<bool>>(false);
     m_signal = g_signal_connect_data(m_device.get(), "control-lost", G_CALLBACK(controlLost),
                                      new Flag(m_isControlLost), destroyFlag, GConnectFlags(0));
     auto thread = std::make_unique<DeviceThread>(m_device);
-    const std::lock_guard<std::mutex> lock(m_mutex); // released before the former thread ends
+    const std::lock_guard<std::mutex> lock(m_mutex); // released before the previous thread ends
     m_thread.swap(thread);
     if (m_isInterrupted)
         m_thread->interrupt();
@@ -107,8 +107,7 @@ OrvCameraIo::Port::Presence ArvPort::probe()
 {
     if (*m_isControlLost || (m_hasControl && !isController(m_device.get())))
         return Presence::Forgotten;
-    // Aravis asks by itself whether the camera is there; only what has just failed is worth a
-    // transfer.
+    // Aravis monitors the connection itself, so a transfer is needed only after a failed one.
     if (!m_isSilent)
         return Presence::Answers;
     const uint64_t address = m_hasControl ? controlPrivilegeRegister : versionRegister;

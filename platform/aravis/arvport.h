@@ -9,13 +9,13 @@
 
 namespace OrvAravis {
 
-/// The registers of a device of Aravis, which transfers them one by one. The device counts as lost
-/// when Aravis says so.
+/// The registers of a device of Aravis, transferred one by one. The device counts as disconnected
+/// when Aravis reports that.
 class ArvPort final : public OrvCameraIo::Port
 {
 public:
-    /// For a lost device: the device that represents the camera now, which may be the same; null
-    /// when the camera is not there.
+    /// For a disconnected device: returns the device that represents the camera now, which may be
+    /// the same one; null when the camera is not connected.
     using Reopen = std::function<std::shared_ptr<ArvDevice>()>;
 
     ArvPort(std::shared_ptr<ArvDevice> device, Reopen reopen);
@@ -44,7 +44,7 @@ private:
     std::unique_ptr<DeviceThread> m_thread;
     bool m_isInterrupted = false;
     std::atomic<bool> m_isWordNumber{false};
-    bool m_hasControl = false; ///< of a GigE Vision camera, when the device was attached
+    bool m_hasControl = false; ///< of a GigE Vision camera, at the time of attaching
     bool m_isSilent = false;   ///< the last transfer had no answer
 };
 

@@ -11,18 +11,18 @@ typedef struct _GError GError;
 
 namespace OrvAravis {
 
-/// Keeps Aravis from writing to the standard error output; what matters to us becomes a status. The
-/// variable with which users ask for its messages keeps its effect. To be called before anything
-/// else of Aravis, any number of times.
+/// Prevents Aravis from writing to the standard error output; relevant errors are reported as a
+/// status. The environment variable with which users request Aravis's messages still works. Call it
+/// before any other function of Aravis; it may be called repeatedly.
 void quieten();
 
 /// Frees the error; null means success.
 OrvCameraIo::Status takeStatus(GError *error);
 
-/// False when it is known that the device has no control of its camera, so that it can only read.
+/// False when the device is known not to have control of its camera, so that it can only read.
 bool isController(ArvDevice *device);
 
-/// Another reference to a device.
+/// Adds a reference to a device.
 std::shared_ptr<ArvDevice> shared(ArvDevice *device);
 
 /// The device's GenICam description; null when it has none.

@@ -35,7 +35,7 @@ Status writeNumber(ArvDevice *device, const Transfer &transfer)
     return takeStatus(error);
 }
 
-/// Waits as long as Aravis does.
+/// Blocks until Aravis's time-out.
 Status perform(ArvDevice *device, Transfer &transfer)
 {
     const bool isRead = transfer.kind == Transfer::Kind::Read;
@@ -54,13 +54,13 @@ Status perform(ArvDevice *device, Transfer &transfer)
 
 struct DeviceThread::State
 {
-    std::shared_ptr<ArvDevice> device; ///< the thread's
+    std::shared_ptr<ArvDevice> device; ///< used by the thread
 
-    std::mutex mutex; ///< guards what follows
+    std::mutex mutex; ///< guards the members below
     std::condition_variable changed;
     Transfer transfer;
     Status status = Status::NoAnswer;
-    bool isBusy = false; ///< `transfer` belongs to the thread
+    bool isBusy = false; ///< the thread is using `transfer`
     bool isInterrupted = false;
     bool isStopping = false;
     bool isAbandoned = false;

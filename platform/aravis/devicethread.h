@@ -20,32 +20,32 @@ struct Transfer
 
     Kind kind = Kind::Read;
     uint64_t address = 0;
-    std::vector<uint8_t> bytes; ///< of a read as many as are wanted
-    bool isNumber = false;      ///< four bytes as a number, most significant first
+    std::vector<uint8_t> bytes; ///< for a read, the number of bytes to read
+    bool isNumber = false;      ///< four bytes that are a number, most significant first
 };
 
-/// A device of Aravis whose transfers run on a thread of their own, since Aravis's time-outs are
-/// longer than callers may be kept waiting.
+/// A device of Aravis whose transfers run on a separate thread, because Aravis's time-outs are
+/// longer than callers may be blocked.
 class DeviceThread
 {
 public:
     explicit DeviceThread(std::shared_ptr<ArvDevice> device);
 
-    /// Gives the device back. Waits for that, unless a transfer is under way or the device was
-    /// abandoned.
+    /// Releases the device. Blocks until that is done, unless a transfer is running or the device
+    /// was abandoned.
     ~DeviceThread();
     DeviceThread(const DeviceThread &) = delete;
     DeviceThread &operator=(const DeviceThread &) = delete;
 
-    /// Waits until the transfer is done, for at most so long; then its status is `NoAnswer`, and so
-    /// are those of the next ones until it has ended.
+    /// Blocks until the transfer is done, but no longer than the budget. After a time-out its
+    /// status is `NoAnswer`, and later transfers fail in the same way until it has ended.
     OrvCameraIo::Status carryOut(Transfer &transfer, std::chrono::milliseconds budget);
 
-    /// Ends the waiting, for good. May be called on any thread.
+    /// Ends the present wait and all later ones. Thread-safe.
     void interrupt();
 
-    /// Has the destructor not wait: Aravis says goodbye to a camera, which takes seconds when that
-    /// does not answer.
+    /// The destructor will not block: Aravis closes the connection to a camera, which takes seconds
+    /// when the camera does not answer.
     void abandon();
 
 private:

@@ -15,8 +15,8 @@ namespace {
 
 using Failure = OpenedUsbCamera::Failure;
 
-/// Aravis keeps one list of USB cameras and no lock for it; devices come back on their own threads.
-/// Only this interface is asked, never Aravis as a whole, which would search all networks too.
+/// Aravis has one list of USB cameras without a lock, and devices reconnect on their own threads.
+/// Only this interface is searched; a search by Aravis as a whole would include all networks.
 std::mutex usbMutex;
 
 std::string text(const char *text)
@@ -24,7 +24,7 @@ std::string text(const char *text)
     return text ? text : "";
 }
 
-/// The caller holds the lock.
+/// Precondition: the caller holds the lock.
 std::vector<UsbCamera> present(ArvInterface *usb)
 {
     arv_interface_update_device_list(usb);
@@ -38,7 +38,7 @@ std::vector<UsbCamera> present(ArvInterface *usb)
     return cameras;
 }
 
-/// Null with the reason in `failure`.
+/// Returns null, and the reason in `failure`, on failure.
 std::shared_ptr<ArvDevice> openDevice(const std::string &id, Failure &failure)
 {
     const std::lock_guard<std::mutex> lock(usbMutex);
@@ -63,7 +63,7 @@ std::shared_ptr<ArvDevice> openDevice(const std::string &id, Failure &failure)
     return nullptr;
 }
 
-/// Null when it is not there, or is another one by now.
+/// Returns null when the camera is not connected, or when another one is.
 std::shared_ptr<ArvDevice> reopenDevice(const std::string &id, const std::string &description)
 {
     Failure failure = Failure::None;

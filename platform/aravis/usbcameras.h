@@ -10,10 +10,10 @@
 
 namespace OrvAravis {
 
-/// A USB3 Vision camera of this machine. What it does not say is empty.
+/// A USB3 Vision camera of this machine. Texts that the camera lacks are empty.
 struct UsbCamera
 {
-    std::string id; ///< the same for one camera at all times
+    std::string id; ///< never changes for one camera
     std::string vendor;
     std::string model;
     std::string serial;
@@ -23,14 +23,15 @@ std::vector<UsbCamera> findUsbCameras();
 
 struct OpenedUsbCamera
 {
-    using Failure = OrvCameraIo::OpenFailure; ///< `Busy` for every refusal: USB does not say why
+    /// `Busy` for every refusal, because USB gives no reason.
+    using Failure = OrvCameraIo::OpenFailure;
 
     Failure failure = Failure::Gone;
-    std::unique_ptr<OrvCameraIo::Port> port;        ///< null when it failed
-    std::shared_ptr<const std::string> description; ///< likewise
+    std::unique_ptr<OrvCameraIo::Port> port;        ///< null on failure
+    std::shared_ptr<const std::string> description; ///< null on failure
 };
 
-/// `id` is a `UsbCamera::id`. May be called on any thread.
+/// `id` is a `UsbCamera::id`. Thread-safe.
 OpenedUsbCamera openUsbCamera(const std::string &id);
 
 } // namespace OrvAravis

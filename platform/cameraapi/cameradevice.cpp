@@ -39,7 +39,7 @@ CameraDevice *CameraDevice::open(std::shared_ptr<void> owner, DeviceInfo &info,
     try {
         if (accessMode == AccessMonitor)
             makeReadOnly(connection->nodeMap());
-        // Not a smart pointer of the standard: the destructor is the device's own affair.
+        // Not a standard smart pointer, because the destructor is private.
         return new CameraDevice(std::move(owner), info, std::move(connection), homeThread);
     } catch (const GenICam::GenericException &) {
         error = ErrorBadDescription;
@@ -62,7 +62,7 @@ CameraDevice::~CameraDevice()
 {
     m_connection->setListener(nullptr);
     m_poller.reset();
-    // Windows that still show the parameters are notified that these are not available any more.
+    // Notifies windows that still show the parameters that these are not available any more.
     if (m_isConnected)
         m_array.detach(ErrorGone);
 }
@@ -96,7 +96,7 @@ void CameraDevice::poll()
     try {
         m_connection->poll(elapsed.count());
     } catch (const GenICam::GenericException &) {
-        // A node that cannot be polled now may be at the next turn.
+        // A node that cannot be polled now may succeed the next time.
     }
 }
 
@@ -131,7 +131,7 @@ int32_t CameraDevice::UnregisterEvent(int32_t eventCode, DeviceEventCallback cal
             return ErrorNotFound;
         m_registrations.erase(found);
     }
-    // A call that is under way on the watching thread may be of this callback.
+    // The watching thread may be calling this callback.
     const std::lock_guard<std::recursive_mutex> wait(m_emitting);
     return Success;
 }

@@ -16,15 +16,15 @@
 
 namespace OrvCam {
 
-/// An opened camera of any kind: its parameters, and what happens to it. While the camera is lost
-/// they answer with an error; its connection looks for it, and everything goes on when it is back.
-/// Must not be released from inside a notification or event of its own.
+/// An opened camera of any kind: its parameters and its events. While the camera is disconnected
+/// the parameters return an error and the connection searches for it; they work again when it is
+/// back. Do not release the device from inside one of its notifications or events.
 class CameraDevice final : public Device, private OrvCameraIo::RegisterIoListener
 {
 public:
     /// Opens the camera; null with the reason in `error`. `owner` is kept alive as long as the
-    /// device, for the sake of `info`. `homeThread` is the one that runs the default GLib main
-    /// context.
+    /// device, because `info` belongs to it. `homeThread` is the one that runs the default GLib
+    /// main context.
     static CameraDevice *open(std::shared_ptr<void> owner, DeviceInfo &info,
                               const std::shared_ptr<CameraConnector> &connector, int32_t accessMode,
                               int32_t &error, const OpenProgress &progress = {},
@@ -70,7 +70,7 @@ private:
 
     mutable std::mutex m_mutex; ///< guards the registrations
     std::vector<Registration> m_registrations;
-    std::recursive_mutex m_emitting; ///< held while event callbacks run
+    std::recursive_mutex m_emitting; ///< locked while event callbacks run
 };
 
 } // namespace OrvCam

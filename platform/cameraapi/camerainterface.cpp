@@ -17,7 +17,7 @@ namespace Limits = OrvCameraIo::Limits;
 
 namespace {
 
-/// Nothing is lost when it is not released: not everybody does that with a list that is of no use.
+/// A static list, so that callers that do not release an empty list cause no leak.
 class EmptyList final : public DeviceInfoList
 {
 public:
@@ -37,12 +37,12 @@ CameraInterface::CameraInterface(CameraSystem &system, std::string description,
 
 void CameraInterface::setDescription(const std::string &description)
 {
-    // The text stays where it is when nothing has changed.
+    // An unchanged text keeps its address.
     if (description != m_description)
         m_description = description;
 }
 
-/// Null when none of the known cameras is gone.
+/// Null when none of the known cameras is absent.
 CameraInterface::Known *CameraInterface::longestGone()
 {
     Known *longest = nullptr;
@@ -54,7 +54,7 @@ CameraInterface::Known *CameraInterface::longestGone()
     return longest;
 }
 
-/// Makes a new camera known; where it is.
+/// Adds a record for a new camera and returns its index.
 std::size_t CameraInterface::placeFor(DeviceFacts &&facts)
 {
     auto connector = makeConnector(facts);
@@ -83,7 +83,8 @@ int32_t CameraInterface::RefreshDevices(bool *changed, uint32_t timeoutMs)
     ++m_search;
     bool differs = false;
     std::set<std::size_t> places;
-    std::map<std::string, DeviceFacts> added; // answers come in any order, these get one by id
+    // The answers arrive in any order; the records are created in the order of the ids.
+    std::map<std::string, DeviceFacts> added;
     for (DeviceFacts &facts : found) {
         const auto known = m_places.find(facts.id);
         if (known == m_places.end()) {

@@ -16,10 +16,10 @@ namespace OrvCam {
 
 class CameraSystem;
 
-/// What every interface does with the cameras that it finds: it keeps a record of each and hands
-/// out those that are there, in the order in which they were first seen. Records that were handed
-/// out must stay; when there are `Limits::knownCameras`, a new camera gets that of the one that has
-/// been gone the longest.
+/// The common part of all interfaces: keeps a record of each camera that was found, and lists the
+/// present ones in the order in which they were first found. Records that were handed out must stay
+/// valid. When there are `Limits::knownCameras`, a new camera gets the record of the camera that
+/// has been absent the longest.
 class CameraInterface : public Interface
 {
 public:
@@ -40,20 +40,20 @@ public:
 protected:
     void setDescription(const std::string &description);
 
-    /// Looks for cameras, for at most so long. Returns an `ErrorCode`.
+    /// Searches for cameras within the time-out. Returns an `ErrorCode`.
     virtual int32_t discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found) = 0;
 
-    /// For a camera that is seen for the first time.
+    /// Creates the connector of a new camera.
     virtual std::shared_ptr<CameraConnector> makeConnector(const DeviceFacts &facts) = 0;
 
-    /// `present()` is up to date again.
+    /// Called when `present()` has been updated.
     virtual void refreshed() {}
 
 private:
     struct Known
     {
         std::unique_ptr<DeviceRecord> record;
-        uint64_t lastSeen; ///< number of the search
+        uint64_t lastSeen; ///< the number of the search that found it last
     };
 
     std::size_t placeFor(DeviceFacts &&facts);
@@ -63,7 +63,7 @@ private:
     std::string m_description;
     const int32_t m_transportKind;
     std::vector<Known> m_known;
-    std::unordered_map<std::string, std::size_t> m_places; ///< in `m_known`, by camera id
+    std::unordered_map<std::string, std::size_t> m_places; ///< indexes in `m_known` by camera id
     std::vector<DeviceRecord *> m_present;
     uint64_t m_search = 0;
 };

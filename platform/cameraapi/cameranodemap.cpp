@@ -5,7 +5,7 @@ namespace OrvCam {
 
 namespace {
 
-/// A fetch as the public interface has it.
+/// Adapts a fetch to the public interface.
 class HeldRequest final : public OrvGenParam::LookAhead::Request
 {
 public:

@@ -10,13 +10,13 @@
 
 namespace OrvCam {
 
-/// The node map of an open camera: it can be looked at without transfers.
+/// The node map of an open camera, with look-ahead.
 class CameraNodeMap final : public OrvDescription::NodeMap, public OrvGenParam::LookAhead
 {
 public:
     using OrvDescription::NodeMap::NodeMap;
 
-    /// Whether the camera is lost. May be called on any thread.
+    /// Whether the camera is disconnected. Thread-safe.
     bool isGone() const { return m_isGone; }
     void setGone(bool isGone) { m_isGone = isGone; }
 

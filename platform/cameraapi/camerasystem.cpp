@@ -47,7 +47,7 @@ CameraSystem *CameraSystem::acquire(Maker make)
 
 void CameraSystem::Release()
 {
-    std::shared_ptr<CameraSystem> last; // outlives the lock
+    std::shared_ptr<CameraSystem> last; // destroyed after the lock is released
     const std::lock_guard<std::mutex> lock(systemMutex);
     if (theSystem.get() == this && --users == 0)
         last.swap(theSystem);

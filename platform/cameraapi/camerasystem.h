@@ -10,8 +10,8 @@
 
 namespace OrvCam {
 
-/// A camera system. It lives as long as a program or an open device uses it: the last release only
-/// takes it from the former.
+/// A camera system. It exists as long as a program or an open device uses it: the last release only
+/// drops the program's reference.
 class CameraSystem : public System, public std::enable_shared_from_this<CameraSystem>
 {
 public:
@@ -24,15 +24,15 @@ public:
     InterfaceList *GetInterfaceSet(uint32_t typeMask) override;
     void Release() override;
 
-    /// Looks for cameras on every interface. Returns the first error; it does not keep the cameras
-    /// of other interfaces from being found.
+    /// Searches for cameras on all interfaces. Returns the first error, but continues with the
+    /// other interfaces after it.
     int32_t refreshDevices(uint32_t timeoutMs);
 
-    /// What `refreshDevices` found, interface by interface.
+    /// The cameras that `refreshDevices` found, in the order of the interfaces.
     const std::vector<DeviceInfo *> &devices() const { return m_devices; }
 
 protected:
-    /// All interfaces that are there at this moment, always in the same order.
+    /// All interfaces that are present, always in the same order.
     virtual std::vector<CameraInterface *> interfaces() = 0;
 
 private:

@@ -21,7 +21,7 @@ const char *textOrNull(const std::optional<std::string> &text)
     return text ? text->c_str() : nullptr;
 }
 
-/// What an open camera keeps alive.
+/// The objects that an open camera keeps alive.
 struct Owner
 {
     std::shared_ptr<CameraSystem> system;
@@ -64,7 +64,7 @@ void DeviceRecord::become(DeviceFacts facts, std::shared_ptr<CameraConnector> co
 bool DeviceRecord::update(DeviceFacts facts)
 {
     const bool isSameState = m_accessState.exchange(facts.accessState) == facts.accessState;
-    // The texts stay where they are when nothing has changed.
+    // Unchanged texts keep their addresses.
     if (facts == m_facts)
         return !isSameState;
     m_facts = std::move(facts);
@@ -83,7 +83,7 @@ Device *DeviceRecord::open(int32_t accessMode, int32_t &error)
 
 DeviceOpener::Open DeviceRecord::opener()
 {
-    // The record is the system's, and stays where it is as long as that.
+    // The system owns the record, which keeps its address as long as the system exists.
     const auto owner = std::make_shared<Owner>(Owner{m_parent.system().shared_from_this(), m_use});
     return [this, owner, connector = m_connector](const Request &request) {
         Result result;

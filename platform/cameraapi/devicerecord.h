@@ -16,7 +16,7 @@ namespace OrvCam {
 
 class CameraInterface;
 
-/// What is known of one camera. A text that the camera does not have is absent.
+/// The data of one camera. A text that the camera lacks is absent.
 struct DeviceFacts
 {
     std::optional<std::string> vendor;
@@ -24,38 +24,38 @@ struct DeviceFacts
     std::optional<std::string> serial;
     std::optional<std::string> version;
     std::optional<std::string> userName;
-    std::string id;     ///< unique in the system, never changes for one camera
-    std::string remark; ///< something unusual that a user should know of, in English; may be empty
+    std::string id;     ///< unique in the system and constant for one camera
+    std::string remark; ///< a remark for the user about something unusual, in English; may be empty
     int32_t accessState = AccessUnknown;
 
     bool operator==(const DeviceFacts &other) const;
     bool operator!=(const DeviceFacts &other) const { return !(*this == other); }
 
-    /// The model and, to tell like ones apart, what the user calls it or else its serial number;
-    /// then the remark.
+    /// The model with the user-defined name or, without one, the serial number, to distinguish
+    /// cameras of the same model; then the remark.
     std::string displayName() const;
 };
 
-/// The camera record that every interface of this library hands out.
+/// The camera record of all interfaces of this library.
 class DeviceRecord final : public DeviceInfo, public DeviceOpener
 {
 public:
     DeviceRecord(CameraInterface &parent, DeviceFacts facts,
                  std::shared_ptr<CameraConnector> connector);
 
-    /// As of the last discovery.
+    /// As of the last search.
     const DeviceFacts &facts() const { return m_facts; }
 
-    /// Takes over what a discovery found out; true when it differs from what was known.
+    /// Updates the record from a search; returns true when anything has changed.
     bool update(DeviceFacts facts);
 
-    /// Is the record of another camera from now on. Not while it is in use.
+    /// Reuses the record for another camera. Precondition: it is not in use.
     void become(DeviceFacts facts, std::shared_ptr<CameraConnector> connector);
 
     /// The camera is open or being opened.
     bool isInUse() const { return m_use.use_count() > 1; }
 
-    /// For a change between two discoveries. Leaves the texts alone; may be called on any thread.
+    /// For a change between two searches. Does not change texts; thread-safe.
     void setAccessState(int32_t state) { m_accessState = state; }
 
     /// Opens the camera; null with the reason in `error`.
@@ -78,8 +78,8 @@ private:
     DeviceFacts m_facts;
     std::atomic<int32_t> m_accessState;
     std::string m_displayName;
-    std::shared_ptr<CameraConnector> m_connector; ///< null when it cannot be opened at all
-    const std::shared_ptr<void> m_use;            ///< shared with those who open or have opened it
+    std::shared_ptr<CameraConnector> m_connector; ///< null when the camera cannot be opened at all
+    const std::shared_ptr<void> m_use; ///< shared with all users that open it or have opened it
 };
 
 } // namespace OrvCam

@@ -7,7 +7,7 @@
 
 namespace OrvCam {
 
-/// One of the lists that are handed to callers, who release them; `List` is its interface.
+/// A list that callers get and release; `List` is its interface.
 template<class List, class Entry>
 class EntryList final : public List
 {

@@ -29,7 +29,7 @@ namespace {
     }
 }
 
-/// Of "DeviceSelector", when the selected camera is gone.
+/// The value of "DeviceSelector" when the selected camera is absent.
 constexpr int64_t noRow = -1;
 
 } // namespace
@@ -156,8 +156,8 @@ void GevParameters::networkChanged()
         node->changed();
 }
 
-/// Keeps a camera selected, wherever it is listed now. No other one takes its place unasked, also
-/// none with the same MAC address.
+/// Keeps a camera selected when its row changes. No other camera becomes selected implicitly, not
+/// even one with the same MAC address.
 void GevParameters::follow(const GevAddresses &camera)
 {
     std::vector<std::size_t> same;
@@ -173,7 +173,7 @@ void GevParameters::follow(const GevAddresses &camera)
         m_selector->changed();
 }
 
-/// What was to be forced on cameras that are gone.
+/// Removes the addresses to force on absent cameras.
 void GevParameters::forgetOthers()
 {
     std::set<uint64_t> present;

@@ -20,11 +20,11 @@ struct GevAddresses
     uint32_t mask = 0;
     uint32_t gateway = 0;
 
-    /// True when the addresses lie in the same subnet, as the adapter sees it.
+    /// True when the addresses are in the same subnet with the adapter's mask.
     bool reaches(const GevAddresses &camera) const;
 };
 
-/// What the parameters of a GigE Vision interface show.
+/// The data and operations behind the parameters of a GigE Vision interface.
 class GevNetwork
 {
 public:
@@ -32,21 +32,21 @@ public:
 
     virtual GevAddresses adapter() const = 0;
 
-    /// Of the cameras that are there, in the order of the interface's list.
+    /// The present cameras, in the order of the interface's list.
     virtual std::vector<GevAddresses> cameras() const = 0;
 
-    /// Gives the camera of that MAC address a new address, mask and gateway and waits until it
-    /// answers there. Returns an `ErrorCode`.
+    /// Forces a new address, mask and gateway on the camera with that MAC address, and blocks until
+    /// the camera answers with it. Returns an `ErrorCode`.
     virtual int32_t forceIp(const GevAddresses &wanted) = 0;
 };
 
 /// The parameters of a GigE Vision interface: its own addresses, those of the camera that
-/// "DeviceSelector" selects, and the addresses to force on that camera. What is to be forced is
-/// kept for each camera, as long as it is there, and is the camera's present configuration until it
-/// is set.
+/// "DeviceSelector" selects, and the addresses to force on that camera. The addresses to force are
+/// stored for each camera while it is present; initially they are the camera's present ones.
 ///
-/// The selection follows its camera when the list of cameras changes. When the camera is no longer
-/// there, "DeviceSelector" is -1 and what depends on it cannot be read, until a camera is selected.
+/// The selection follows its camera when the list of cameras changes. When the camera is absent,
+/// "DeviceSelector" is -1 and the parameters that depend on it cannot be read until a camera is
+/// selected.
 class GevParameters
 {
 public:
@@ -54,7 +54,7 @@ public:
 
     OrvGenParam::Array &array() { return m_array; }
 
-    /// To be called when the adapter, the list of cameras or a camera's address may have changed.
+    /// Call it when the adapter, the list of cameras or a camera's address may have changed.
     void networkChanged();
 
 private:
@@ -74,7 +74,7 @@ private:
 
     GevNetwork &m_network;
     std::vector<GevAddresses> m_cameras;
-    int64_t m_row = 0;                         ///< of the selected one
+    int64_t m_row = 0;                         ///< of the selected camera
     std::map<uint64_t, GevAddresses> m_forced; ///< by MAC address
     std::vector<OrvGenApi::DeclaredInteger *> m_adapterNodes;
     std::vector<OrvGenApi::DeclaredInteger *> m_cameraNodes;

@@ -14,7 +14,7 @@ std::string firstNonEmpty(const GenICam::gcstring &text, const GenICam::gcstring
     return (text.empty() ? otherwise : text).c_str();
 }
 
-/// Never fails, since it is asked after a failure.
+/// Never fails, because it is called after a failure.
 bool isAvailable(const INode &node)
 {
     try {
@@ -59,7 +59,7 @@ NodeAccess::~NodeAccess()
     try {
         m_node.DeregisterCallback(m_callback);
     } catch (...) {
-        // A node that cannot let go of a callback cannot be helped from here.
+        // A failure to deregister a callback cannot be handled here.
     }
 }
 

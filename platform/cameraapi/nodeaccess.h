@@ -14,19 +14,19 @@
 
 namespace OrvGenParam {
 
-/// The `OrvCam::ErrorCode` of the exception that is being handled, which came from that node.
+/// The `OrvCam::ErrorCode` of the exception being handled, which the node has thrown.
 int32_t codeOfException(const GenApi::INode &node);
 
-/// What the parameters of one array have in common.
+/// The common state of the parameters of an array.
 struct ArrayState
 {
     GenApi::INodeMap &nodeMap;
     const std::thread::id homeThread;           ///< where sinks are called
-    std::atomic<int32_t> gone{OrvCam::Success}; ///< otherwise the answer to every call
+    std::atomic<int32_t> gone{OrvCam::Success}; ///< if not `Success`, every call returns it
 };
 
-/// The part of a parameter that does not depend on its kind: a node, looked after so that nothing
-/// it throws gets out, and the sinks that want to know about it.
+/// The type-independent part of a parameter: a node, whose exceptions become error codes, and the
+/// sinks that are notified of its changes.
 class NodeAccess
 {
 public:
@@ -40,13 +40,13 @@ public:
     const std::string &description() const { return m_description; }
     SinkRegistrations &sinks() { return m_sinks; }
 
-    /// The sink is notified of changes from now on, even when the value is never read.
+    /// Notifies the sink of changes from now on, even when the value is never read.
     void addSink(ParamEventSink *sink);
 
-    /// NI when it cannot be found out.
+    /// NI when it cannot be determined.
     GenApi::EAccessMode accessMode() const;
 
-    /// Runs the function and answers an `OrvCam::ErrorCode`.
+    /// Runs the function and returns an `OrvCam::ErrorCode`.
     template<class Function>
     int32_t attempt(Function function) const
     {
@@ -56,13 +56,13 @@ public:
             function();
             return OrvCam::Success;
         } catch (const OrvGenApi::NotYetKnown &) {
-            throw; // the caller does not wait for the camera
+            throw; // look-ahead: the value is not cached
         } catch (...) {
             return codeOfException(m_node);
         }
     }
 
-    /// Answers what the function does, or `T()` when it fails.
+    /// Returns the result of the function, or `T()` when it fails.
     template<class T, class Function>
     T get(int32_t *error, Function function) const
     {
@@ -73,7 +73,7 @@ public:
         return code == OrvCam::Success ? value : T();
     }
 
-    /// Tells the sinks: at once on the home thread, else through the main context.
+    /// Notifies the sinks: at once on the home thread, otherwise through the main context.
     void notify();
 
 private:

@@ -13,29 +13,27 @@
 
 namespace OrvGenParam {
 
-/// The parameters of a node map, whichever implementation it is of: every feature that is an
-/// integer, a float, an enumeration, a boolean, a command or a string. The node map must outlive
-/// the array.
+/// The parameters of a node map of any implementation: each feature that is an integer, a float, an
+/// enumeration, a boolean, a command or a string. The node map must outlive the array.
 ///
-/// Each parameter has one callback at its node. A change made on the array's home thread is passed
-/// on to the sinks at once. One made on any other thread is passed on by the default GLib main
-/// context, with high priority and, however many changes there were until the context comes to it,
-/// once per parameter; the home thread is expected to be the one that runs that context, as a
-/// program's GUI thread does. What is still on its way when the parameter goes is dropped.
+/// Each parameter has one callback at its node. A change on the array's home thread is passed on to
+/// the sinks at once. A change on another thread is passed on through the default GLib main
+/// context, with high priority; several changes of a parameter before that are one notification.
+/// The home thread should be the one that runs that context, as a program's GUI thread does.
+/// Pending notifications are dropped when the parameter is destroyed.
 class NodeMapArray final : public Array
 {
 public:
-    /// Reads no values, only what the description says. Throws what the nodes throw.
+    /// Reads no values, only data of the description. Throws the exceptions of the nodes.
     explicit NodeMapArray(GenApi::INodeMap &nodeMap,
                           std::thread::id homeThread = std::this_thread::get_id());
     ~NodeMapArray() override;
 
-    /// Has every call from now on answer `code`, without asking the node map, and notifies the
-    /// sinks. For a camera that is no longer there. May be called on any thread.
+    /// Makes every call return `code` without accessing the node map, and notifies the sinks. For a
+    /// camera that is disconnected. Thread-safe.
     void detach(int32_t code);
 
-    /// Takes that back and notifies the sinks: the camera is there again. May be called on any
-    /// thread.
+    /// Reverts that and notifies the sinks: the camera is connected again. Thread-safe.
     void attach() { detach(OrvCam::Success); }
 
     uint32_t GetCount() const override;
@@ -56,7 +54,7 @@ private:
     struct Entry
     {
         std::unique_ptr<Param> param;
-        NodeAccess *access; ///< the parameter's own
+        NodeAccess *access; ///< of the parameter
     };
 
     void add(GenApi::INode &node);

@@ -15,7 +15,7 @@
 
 namespace OrvGenParam {
 
-/// A parameter of one kind over the node that has its value.
+/// A parameter of one type for the node with its value.
 template<class Kind, class Value, ParamType type>
 class NodeParam : public Kind
 {

@@ -8,11 +8,11 @@
 
 namespace OrvCam {
 
-/// An open camera whose registers and description are known: its node map.
+/// An open camera with a port and a description: creates its node map.
 class PortConnection final : public CameraConnection
 {
 public:
-    /// Throws `RuntimeException` when the description cannot be used.
+    /// Throws `RuntimeException` for an invalid description.
     PortConnection(std::unique_ptr<OrvCameraIo::Port> port, const std::string &description);
 
     GenApi::INodeMap &nodeMap() override { return m_nodeMap; }
@@ -23,14 +23,14 @@ private:
     CameraNodeMap m_nodeMap;
 };
 
-/// What a transport hands over of a camera that it has opened.
+/// The result of a transport that has opened a camera.
 struct OpenedCamera
 {
     std::unique_ptr<OrvCameraIo::Port> port; ///< null on failure
     std::shared_ptr<const std::string> description;
 };
 
-/// A connector of a transport, which knows ports only.
+/// A connector for a transport that supplies ports.
 class PortConnector : public CameraConnector
 {
 public:
@@ -38,7 +38,7 @@ public:
                                            int32_t &error) final;
 
 protected:
-    /// The `ErrorCode` goes to `error`. May throw what the platform's rooms throw.
+    /// Stores the `ErrorCode` in `error`. May throw the exceptions of the transports.
     virtual OpenedCamera openPort(int32_t accessMode, const OpenProgress &progress,
                                   int32_t &error) = 0;
 };

@@ -55,10 +55,10 @@ struct SinkRegistrations::Sinks
         callAll();
     }
 
-    Param *const param; ///< to be used only while there are links
+    Param *const param; ///< valid only while there are links
     std::mutex mutex;   ///< never held while a sink is called
     std::vector<Link> links;
-    bool isPending = false; ///< the main context has still to come to it
+    bool isPending = false; ///< the main context has not processed the request yet
 };
 
 SinkRegistrations::SinkRegistrations(Param *param) : m_sinks(std::make_shared<Sinks>(param)) {}
@@ -110,7 +110,7 @@ bool SinkRegistrations::isEmpty() const
 
 void SinkRegistrations::notify()
 {
-    // A sink may destroy the parameter and with it this object.
+    // A sink may destroy the parameter, and with it this object.
     const std::shared_ptr<Sinks> sinks = m_sinks;
     sinks->callAll();
 }

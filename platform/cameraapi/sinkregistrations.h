@@ -7,9 +7,9 @@
 
 namespace OrvGenParam {
 
-/// The sinks of one parameter. Adding, removing, notifying and destroying either end are safe at
-/// any time and on any thread, also from inside a notification. When `remove` or the destructor
-/// returns, no call is running on another thread and none will come.
+/// The sinks of one parameter. All functions are thread-safe and may be called from inside a
+/// notification; sinks and registrations may be destroyed at any time. When `remove` or the
+/// destructor returns, no call is running on another thread and none will follow.
 ///
 /// A notification on one thread waits for one of the same sink on another; do not hold a lock that
 /// a sink needs while removing it.
@@ -22,19 +22,19 @@ public:
     SinkRegistrations(const SinkRegistrations &) = delete;
     SinkRegistrations &operator=(const SinkRegistrations &) = delete;
 
-    /// A sink that is there already stays there once; null is ignored.
+    /// Adding a sink again has no effect; null is ignored.
     void add(ParamEventSink *sink);
 
-    /// A sink that is not there is ignored.
+    /// A sink that is not registered is ignored.
     void remove(ParamEventSink *sink);
 
     bool isEmpty() const;
 
-    /// Calls every sink that is registered when its turn comes, on this thread.
+    /// Calls, on this thread, every sink that is still registered at its turn.
     void notify();
 
-    /// Has the default GLib main context do so. Requests that it has not come to yet become one;
-    /// one that it comes to after the parameter's end does nothing.
+    /// Requests the same from the default GLib main context. Pending requests are merged; a request
+    /// that is processed after the parameter's destruction has no effect.
     void notifyLater();
 
 private:

@@ -12,26 +12,26 @@ namespace OrvCameraIo {
 
 namespace {
 
-/// References are not nearly as deep.
+/// More than the depth of references in any description.
 constexpr int maxRounds = 100;
 
-/// A fetch can take longer than a value counts as known that the camera changes by itself. For so
-/// long what it has read counts as known nevertheless.
+/// A fetch may take longer than the time for which a volatile value counts as cached. Values that
+/// it has read count as cached for this time after its end.
 constexpr std::chrono::seconds fetchedAge{1};
 
 } // namespace
 
-/// What the rounds need; empty after the end.
+/// The objects that the rounds use; empty after the destruction.
 struct FetchAhead::Access
 {
     OrvGenApi::NodeMapBase *map = nullptr;
     RegisterIo *io = nullptr;
 
-    // Of the last fetch that has ended.
+    // Of the last completed fetch.
     uint64_t lastAskedAt = 0;
     std::chrono::steady_clock::time_point lastEnd;
 
-    /// Lets all functions look, and returns what they miss.
+    /// Calls all functions without transfers, and returns the registers that are missing.
     std::vector<RegisterRange> missing(const std::vector<Ask> &asks, uint64_t askedAt) const
     {
         Question question(Question::Kind::Looking);
@@ -40,7 +40,7 @@ struct FetchAhead::Access
             try {
                 map->look(question, ask);
             } catch (const GenICam::GenericException &) {
-                // That a node fails is known by now.
+                // The failure of the node is cached, too.
             }
         }
         std::vector<RegisterRange> ranges = std::move(question.missing);
@@ -95,7 +95,7 @@ private:
 
 namespace {
 
-/// The caller's hold on a request.
+/// The request as the caller holds it.
 class Holder final : public Request
 {
 public:

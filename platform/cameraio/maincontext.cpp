@@ -10,8 +10,8 @@ namespace OrvCameraIo::MainContext {
 
 namespace {
 
-/// What one thread hands over to another. GLib's locks put the two in order; the thread sanitizer
-/// does not see those, but this.
+/// A value that one thread passes to another. GLib's locks already order the two accesses, but the
+/// thread sanitizer does not know them.
 template<typename Value>
 class HandedOver
 {
@@ -21,7 +21,7 @@ public:
         m_isReady.store(true, std::memory_order_release);
     }
 
-    /// On the thread that it was handed over to.
+    /// Called on the receiving thread.
     const Value &get() const
     {
         while (!m_isReady.load(std::memory_order_acquire)) {
@@ -80,16 +80,16 @@ void run(unsigned durationMs)
 
 struct Timer::State
 {
-    std::recursive_mutex mutex; ///< recursive: a tick may end the timer
-    std::function<void()> tick; ///< empty after the end
+    std::recursive_mutex mutex; ///< recursive, because a tick may destroy the timer
+    std::function<void()> tick; ///< empty after the destruction
 };
 
 Timer::Timer(unsigned periodMs, std::function<void()> tick) : m_state(std::make_shared<State>())
 {
     m_state->tick = std::move(tick);
     using Held = HandedOver<std::shared_ptr<State>>;
-    // The source removes itself at its next turn after the end: destroying it from here would race
-    // with the context that is about to call it.
+    // The source removes itself at its next call after the destruction: destroying it here would
+    // race with the context that is about to call it.
     g_timeout_add_full(
         G_PRIORITY_DEFAULT, periodMs,
         [](void *data) -> gboolean {

@@ -6,19 +6,18 @@
 
 namespace OrvCameraIo::MainContext {
 
-// The default GLib main context, on which all notifications arrive. Qt's event loop on Linux runs
-// it, so what is posted arrives on the thread that draws. All functions may be called on any
-// thread.
+// The default GLib main context, through which all notifications pass. Qt's event loop on Linux
+// runs it, so posted calls arrive on the GUI thread. All functions are thread-safe.
 
-/// Has `call` called once, soon.
+/// Schedules one call of `call`.
 void post(std::function<void()> call);
 
-/// Runs the context for so many milliseconds, 0 for what is ready. Does nothing when another thread
-/// is running it.
+/// Runs the context for that number of milliseconds; 0 for pending events only. Does nothing when
+/// another thread is running it.
 void run(unsigned durationMs);
 
-/// Calls `tick` every `periodMs` as long as the object lives. When the destructor returns, no call
-/// is under way on another thread and none will come; it may be called from inside `tick`.
+/// Calls `tick` every `periodMs` while the object exists. When the destructor returns, no call is
+/// running on another thread and none will follow; it may be called from inside `tick`.
 class Timer
 {
 public:

@@ -3,15 +3,15 @@
 
 namespace OrvCameraIo {
 
-/// Why a camera cannot be opened.
+/// The reason why a camera cannot be opened.
 enum class OpenFailure {
     None,
-    Gone, ///< it does not answer or is not plugged in, or its adapter does not exist any more
-    WrongSubnet,    ///< it has no address that can be reached through the adapter
+    Gone, ///< the camera does not answer or is not plugged in, or its adapter no longer exists
+    WrongSubnet,    ///< the camera has no address that can be reached through the adapter
     Busy,           ///< another program has control; for reading only: exclusive control
-    BadDescription, ///< it has none, or none that can be used
+    BadDescription, ///< the description is missing or unusable
     Cancelled,
-    Failed ///< it refuses something else
+    Failed ///< refused for another reason
 };
 
 } // namespace OrvCameraIo

@@ -9,10 +9,11 @@
 
 namespace OrvCameraIo {
 
-/// What was last transferred of each register, failures included.
+/// The last transfer of each register, including failures.
 ///
-/// Registers may overlap: a camera may answer part of a longer one with something else, so each is
-/// known by itself. Only writing one outdates what overlaps it. Not thread safe.
+/// Each register is cached separately even if registers overlap, because a camera may answer a part
+/// of a longer register with something else. Writing a register invalidates those that overlap it.
+/// Not thread-safe.
 class RegisterCache
 {
 public:
@@ -20,19 +21,19 @@ public:
     {
         Status status = Status::NoAnswer;
         std::vector<uint8_t> bytes;
-        uint64_t moment = 0; ///< when the transfer began, on the logical clock
+        uint64_t moment = 0; ///< the logical time at which the transfer began
         Clock::time_point time;
     };
 
-    /// Null when nothing is known.
+    /// Null when the register is not cached.
     const Entry *find(const RegisterRange &range) const;
 
     void store(const RegisterRange &range, Entry entry);
 
-    /// Forgets all that overlaps the range, itself too.
+    /// Invalidates all registers that overlap the range, including itself.
     void forgetOverlapping(const RegisterRange &range);
 
-    /// Forgets what was not answered; what is in `refused` becomes `Failed` instead.
+    /// Drops registers without an answer; those in `refused` become `Failed` instead.
     void forgetUnanswered(const std::set<RegisterRange> &refused);
 
     void clear();

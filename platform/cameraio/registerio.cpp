@@ -25,11 +25,12 @@ struct Job
     std::vector<RegisterWrite> writes;
     std::size_t writesDone = 0;
 
-    std::recursive_mutex calling; ///< guards `done`; recursive, as it may drop its own request
-    std::function<void()> done;   ///< of a request that is not waited for
+    /// Guards `done`; recursive, because `done` may drop its own request.
+    std::recursive_mutex calling;
+    std::function<void()> done; ///< for a request that does not block
 
     Status status = Status::Done; ///< of the writes
-    unsigned progress = 0;        ///< changes whenever a command has ended
+    unsigned progress = 0;        ///< changes after each command
     std::atomic<bool> isDropped{false};
     bool isDone = false;
 };
@@ -75,7 +76,7 @@ public:
 
     const std::unique_ptr<Port> port;
 
-    mutable std::mutex mutex; ///< guards what follows, up to the blank line
+    mutable std::mutex mutex; ///< guards the members up to the blank line
     RegisterCache cache;
     uint64_t clock = 0;
     Transactions transactions;
@@ -84,17 +85,17 @@ public:
     bool isSilent = false; ///< the last command got no answer
     bool isLost = false;
     bool isStopping = false;
-    std::vector<RegisterRange> sentInVain; ///< got no answer since the camera fell silent
-    std::set<RegisterRange> suspects;      ///< went unanswered though the camera was there
+    std::vector<RegisterRange> sentInVain; ///< no answer since the camera became silent
+    std::set<RegisterRange> suspects;      ///< no answer although the camera was there
     int probesInVain = 0;                  ///< since the last answer
     Clock::time_point lastAnswer = Clock::now();
     Clock::time_point lastCommand = Clock::now();
     Clock::time_point lastReopening;
 
-    std::condition_variable wake;     ///< the I/O thread
-    std::condition_variable progress; ///< those who wait
+    std::condition_variable wake;     ///< wakes the I/O thread
+    std::condition_variable progress; ///< wakes the callers
     std::mutex onPort;                ///< held while an immediate port is used
-    std::recursive_mutex telling;     ///< held while the listener is called
+    std::recursive_mutex telling;     ///< locked while the listener is called
     RegisterIoListener *listener = nullptr;
     std::thread thread;
 };
@@ -167,8 +168,8 @@ void RegisterIo::Private::failAll()
     }
 }
 
-/// How many of the next registers are read in one go. One that may be what the camera does not
-/// answer goes by itself.
+/// The number of registers to read next in one command. A register that may never be answered is
+/// read alone.
 std::size_t RegisterIo::Private::chunkSize(const Job &job) const
 {
     const auto first = job.reads.begin() + static_cast<std::ptrdiff_t>(job.readsDone);
@@ -195,7 +196,7 @@ void RegisterIo::Private::readChunk(std::unique_lock<std::mutex> &lock, Job &job
     for (std::size_t i = 0; i < count; ++i)
         batch[i].range = job.reads[job.readsDone + i];
     transfer(lock, batch);
-    // What there was no time for comes next.
+    // Registers that were left out for lack of time come next.
     const auto unread =
         std::stable_partition(batch.begin(), batch.end(), [](const ReadTransfer &read) {
             return read.status != Status::NotSent;
@@ -218,7 +219,7 @@ void RegisterIo::Private::transfer(std::unique_lock<std::mutex> &lock,
     lastCommand = time;
     bool hasAnswer = false;
     std::vector<RegisterRange> inVain;
-    // Unless a command was in vain, the port has had no time for what it has left out.
+    // Without a failed command, the port left registers out for lack of time only.
     const bool isWithoutFailure =
         std::all_of(batch.begin(), batch.end(), [](const ReadTransfer &read) {
             return isAnswer(read.status) || read.status == Status::NotSent;
@@ -276,7 +277,7 @@ Status RegisterIo::Private::write(std::unique_lock<std::mutex> &lock, const Regi
     return status;
 }
 
-/// The bytes that are written: those of the register where the mask leaves them alone.
+/// The bytes to write: those of the register outside the mask.
 Status RegisterIo::Private::baseOf(std::unique_lock<std::mutex> &lock, const RegisterWrite &wanted,
                                    std::vector<uint8_t> &bytes)
 {
@@ -323,8 +324,8 @@ void RegisterIo::Private::answered(std::unique_lock<std::mutex> &lock)
     if (!isSilent)
         return;
     isSilent = false;
-    // A register that stays unanswered by itself while the camera is there is refused in this way:
-    // asking for it again and again would cost a second each time.
+    // A register without an answer, although the camera answers others, counts as refused: reading
+    // it again would cost a second each time.
     std::set<RegisterRange> refused;
     for (const RegisterRange &range : sentInVain) {
         if (wasThere && !suspects.insert(range).second && sentInVain.size() == 1)
@@ -395,7 +396,7 @@ void RegisterIo::Private::lookForLost(std::unique_lock<std::mutex> &lock, Port::
     notify(lock, &RegisterIoListener::found);
 }
 
-// Those who ask
+// The callers
 
 bool RegisterIo::Private::hasUsable(const RegisterRange &range, uint64_t since) const
 {
@@ -496,7 +497,7 @@ public:
     ~JobRequest() override
     {
         m_job->isDropped = true;
-        // Not before a call that is under way has returned.
+        // Blocks until a running call has returned.
         const std::lock_guard<std::recursive_mutex> calling(m_job->calling);
     }
 

@@ -11,52 +11,52 @@
 
 namespace OrvCameraIo {
 
-/// How much was asked of a port.
+/// The number of registers that were transferred.
 struct Transactions
 {
     uint64_t reads = 0;  ///< registers
     uint64_t writes = 0; ///< registers
 };
 
-/// A request that was not waited for; destroying it drops it.
+/// A request that does not block; destroying it drops it.
 class Request
 {
 public:
     virtual ~Request() = default;
 };
 
-/// What happens to a camera. All calls come on the I/O thread and must return soon.
+/// Receives events of a camera. All calls are made on the I/O thread and must return soon.
 class RegisterIoListener
 {
 public:
     virtual ~RegisterIoListener() = default;
 
-    /// The camera answers again after commands of it had failed for want of an answer.
+    /// The camera answers again after commands without an answer.
     virtual void answersAgain() {}
 
-    /// The camera counts as lost.
+    /// The camera counts as disconnected.
     virtual void lost() {}
 
-    /// The lost camera is back. What was known of its registers is forgotten already.
+    /// The camera is connected again. The register cache has been cleared.
     virtual void found() {}
 };
 
-/// The registers of an open camera: what is known of them, and the thread that transfers them.
+/// The registers of an open camera: a cache, and the thread that transfers them.
 ///
-/// Looking never waits. Transfers run on the I/O thread (an immediate port's on the thread that
-/// asks), in the order of the requests, those with a waiting caller first. Results are known to
-/// all from the moment they arrive. All functions may be called on any thread.
+/// Reading the cache never blocks. Transfers run on the I/O thread (for an immediate port on the
+/// calling thread), in the order of the requests, blocking ones first. Results are in the cache as
+/// soon as they arrive. All functions are thread-safe.
 class RegisterIo
 {
 public:
     explicit RegisterIo(std::unique_ptr<Port> port);
 
-    /// Fails what is waited for, drops the rest, closes the port.
+    /// Makes blocking requests fail, drops the others, closes the port.
     ~RegisterIo();
     RegisterIo(const RegisterIo &) = delete;
     RegisterIo &operator=(const RegisterIo &) = delete;
 
-    /// Null for none. When this returns, no call of the former listener is under way.
+    /// Null for none. When this returns, no call of the previous listener is running.
     void setListener(RegisterIoListener *listener);
 
     void setHints(const PortHints &hints);
@@ -67,11 +67,11 @@ public:
     /// See `Port::isWordNumber`.
     bool isWordNumber() const;
 
-    /// A moment that is later than everything transferred so far and earlier than every transfer
-    /// that begins from now on.
+    /// A logical time that is later than all transfers so far and earlier than every transfer that
+    /// begins from now on.
     uint64_t now();
 
-    /// What is known of a register.
+    /// The cached data of a register.
     struct Known
     {
         bool isKnown = false;
@@ -79,31 +79,31 @@ public:
         std::vector<uint8_t> bytes;
     };
 
-    /// What was transferred at or after `since`, and within the last `maxAge`; zero means any
-    /// age. Exactly the register that was transferred: part of a longer one may be another register
-    /// to the camera.
+    /// The result that was transferred at or after `since`, and within the last `maxAge`; zero
+    /// means any age. Only a transfer of exactly that register counts, because a part of a longer
+    /// one may be another register to the camera.
     Known look(const RegisterRange &range, uint64_t since,
                std::chrono::milliseconds maxAge = std::chrono::milliseconds::zero()) const;
 
-    /// Has the registers read, and returns when each of them has a result or its budget has passed.
-    /// At once while the camera is silent: the results are `NoAnswer`.
+    /// Reads the registers, and returns when each has a result or its budget has passed. While the
+    /// camera is silent it returns at once with `NoAnswer`.
     void read(const std::vector<RegisterRange> &ranges);
 
-    /// The same without waiting; `done` is called on the I/O thread unless the request is dropped
-    /// before.
+    /// The same without blocking; `done` is called on the I/O thread, but not after the request has
+    /// been dropped.
     std::unique_ptr<Request> readLater(std::vector<RegisterRange> ranges,
                                        std::function<void()> done);
 
-    /// Writes in order, each only when those before it succeeded; returns when all is done.
+    /// Writes in order, each only after the previous ones succeeded; returns when all are done.
     Status write(const std::vector<OrvGenApi::RegisterWrite> &writes);
 
-    /// Forgets everything.
+    /// Clears the cache.
     void forgetAll();
 
     bool isSilent() const;
     bool isLost() const;
 
-    /// Since the beginning.
+    /// Since the construction.
     Transactions transactions() const;
 
 private:

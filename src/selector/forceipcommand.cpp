@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Cancelling has no effect before the command has started (milliseconds).
+/// The interval of repeated cancelling in ms; cancelling has no effect before the command starts.
 const unsigned long giveUpAgain = 20;
 
 } // namespace

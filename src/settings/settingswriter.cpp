@@ -13,7 +13,7 @@ namespace OrvGui {
 
 namespace {
 
-/// Retries a write once, because an answer may be lost.
+/// The number of consecutive time-outs that ends the writing; a single answer may be lost.
 constexpr int mostTimeouts = 2;
 
 Settings settingsOf(const SettingProblems &problems)

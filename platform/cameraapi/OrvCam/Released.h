@@ -5,7 +5,7 @@
 
 namespace OrvCam {
 
-/// Deletes what the library hands out: calls `Release`, unless the pointer is null.
+/// A deleter for objects of the library: calls `Release`, unless the pointer is null.
 struct Releaser
 {
     template<class Object>

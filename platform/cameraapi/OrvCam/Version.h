@@ -6,7 +6,7 @@
 #include <stdint.h>
 
 /*
- * The version that a program is compiled against. docs/versions.md describes its guarantees.
+ * The version at compile time. docs/versions.md describes its guarantees.
  *
  *     #if ORVCAMERAAPI_VERSION >= ORVCAMERAAPI_VERSION_NUMBER(1, 4, 0)
  */

@@ -15,8 +15,8 @@ namespace OrvGenParam {
 ///
 /// A read is described by a function that calls nodes of the map. It may call any node, but must
 /// only read. Within `look` and `fetch` such a call causes no transfer. When a value is not cached,
-/// the call throws an exception that derives from no class. The function must let it pass
-/// (`catch (...)` would break it). The function may be run several times.
+/// the call throws an exception that derives from no class. The function must not catch it (`catch
+/// (...)` would). The function may be called several times.
 class ORVCAMERAAPI_EXPORT LookAhead
 {
 public:
@@ -29,8 +29,8 @@ public:
         virtual ~Request() = default;
     };
 
-    /// Runs the function. True when all values that it reads were cached, false when it was left
-    /// before its end. GenICam exceptions pass through. A value that the camera changes by itself
+    /// Calls the function. Returns true when all values that it reads were cached, false when it
+    /// was aborted. GenICam exceptions pass through. A value that the camera changes by itself
     /// counts as cached when it is at most a second old, or was read by a fetch that ended within
     /// the last second.
     virtual bool look(const Ask &ask) const = 0;
@@ -38,7 +38,7 @@ public:
     /// Reads the values that the functions need in the background, in as few transfers as possible,
     /// until all of them are cached. The functions run on the calling thread, which must be the one
     /// that runs the default GLib main context. `done` is called from that context, never within
-    /// this call. It is not called when the request was destroyed before.
+    /// this call. It is not called after the request has been destroyed.
     virtual std::unique_ptr<Request> fetch(std::vector<Ask> asks, std::function<void()> done) = 0;
 
     /// The same, but blocks until all values are cached.
