@@ -64,7 +64,7 @@ std::optional<EDisplayNotation> notationOf(std::optional<std::string_view> text)
     return std::nullopt;
 }
 
-/// What the description of the node says, otherwise what the node says that the number comes from.
+/// The representation in the description of the node, otherwise that of the node with its value.
 ERepresentation representationOf(const NodeLinks &links, Node *delegate)
 {
     if (const auto own = representationOf(stated(links, "Representation")))
@@ -191,7 +191,8 @@ void DescribedCommand::execute()
     Question *question = Question::current(map());
     const std::size_t before = question ? question->writes.size() : 0;
     source().setInteger(valueToWrite());
-    // The camera goes on from here by itself: what was just written is no longer what it holds.
+    // The camera changes the register when it executes the command, so the written value is not
+    // cached.
     for (std::size_t i = before; question && i < question->writes.size(); ++i)
         question->writes[i].isKept = false;
 }

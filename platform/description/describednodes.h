@@ -18,7 +18,7 @@
 
 namespace OrvDescription {
 
-/// The limits that the description of the node itself states, as a number or through a node.
+/// The limits in the description of the node itself, as numbers or references.
 template<typename T>
 struct StatedLimit
 {
@@ -37,7 +37,7 @@ struct StatedLimits
     std::vector<T> validValues;
 };
 
-/// A node with a number behind it.
+/// A node with a numeric value.
 template<typename Base>
 class NumberNode : public DescribedNode<Base>
 {
@@ -49,10 +49,10 @@ public:
 protected:
     GenApi::EAccessMode ownAccessMode() const override { return source().accessMode(); }
 
-    /// Throws when the description gives the node no value that could be had.
+    /// Throws when the description gives the node no usable value.
     NumberSource &source() const;
 
-    /// The node that the number is, or null.
+    /// The node that supplies the number, or null.
     OrvGenApi::Node *delegate() const
     {
         return m_source && !this->links().isUnusable ? m_source->delegate() : nullptr;
@@ -138,7 +138,7 @@ class DescribedCommand : public NumberNode<OrvGenApi::CommandNode>
 public:
     using NumberNode::NumberNode;
 
-    /// What executing writes.
+    /// The value that executing writes.
     StatedLimit<int64_t> commandValue;
 
 protected:
@@ -149,7 +149,7 @@ private:
     int64_t valueToWrite();
 };
 
-/// A text: stated by the description, of another node, or in a register.
+/// A text: a constant, that of another node, or that of a register.
 class DescribedString : public DescribedNode<OrvGenApi::StringNode>
 {
 public:
@@ -172,7 +172,7 @@ public:
 
     int64_t GetAddress(bool verify = false) override;
 
-    /// A long register's text is that of its first bytes and an ellipsis.
+    /// The text of a long register is that of its first bytes with an ellipsis.
     GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
 
 protected:
@@ -191,7 +191,7 @@ public:
     using DescribedNode::DescribedNode;
 };
 
-/// A node that has no value: a port, and elements that the node map has no use for.
+/// A node without a value: a port, or an element that the node map does not use.
 class PlainNode : public DescribedNode<OrvGenApi::Node>
 {
 public:
@@ -204,7 +204,7 @@ private:
     GenApi::EInterfaceType m_type;
 };
 
-/// Stands in a category for a feature that the description lists there and describes nowhere.
+/// A placeholder in a category for a feature that is listed there but not described.
 class MissingFeature : public DescribedNode<OrvGenApi::ValueNode<GenApi::IValue>>
 {
 public:

@@ -25,7 +25,8 @@ public:
     std::shared_ptr<const Description> get(std::string_view xml, const std::string &source)
     {
         const std::size_t hash = std::hash<std::string_view>()(xml);
-        // Reading under the lock: several cameras of a kind are often opened at once.
+        // Parsed under the lock: cameras with the same description are often opened at the same
+        // time.
         const std::lock_guard<std::mutex> lock(m_mutex);
         const auto range = m_descriptions.equal_range(hash);
         for (auto entry = range.first; entry != range.second;) {
@@ -84,7 +85,7 @@ std::string_view Description::keep(std::string_view text)
     if (text.empty())
         return {};
     if (text.size() > blockSize / 4) {
-        // A block of its own, in front of the one that is being filled.
+        // A long text gets a block of its own, before the one that is being filled.
         auto block = std::make_unique<char[]>(text.size());
         std::memcpy(block.get(), text.data(), text.size());
         const std::string_view kept(block.get(), text.size());

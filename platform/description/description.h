@@ -14,21 +14,21 @@ namespace OrvDescription {
 
 struct DescriptionProperty;
 
-/// What few elements inside a node have.
+/// Properties that few elements of a node have.
 struct DescriptionExtras
 {
     std::string_view name;                       ///< the attribute "Name"
     std::string_view index;                      ///< the attribute "Index"
     std::string_view offset;                     ///< the attribute "Offset"
     std::string_view pOffset;                    ///< the attribute "pOffset"
-    std::vector<DescriptionProperty> properties; ///< of an address formula written in place
+    std::vector<DescriptionProperty> properties; ///< of an address formula inside the element
 };
 
 /// One element inside a node of a description, for example `<pVariable Name="X">Width</pVariable>`.
 struct DescriptionProperty
 {
     std::string_view tag;
-    std::string_view text; ///< without surrounding blanks
+    std::string_view text; ///< without surrounding white space
     const DescriptionExtras *extras = nullptr;
 
     std::string_view name() const { return extras ? extras->name : std::string_view(); }
@@ -51,37 +51,37 @@ struct DescriptionNode
     /// The first property of that tag, or null.
     const DescriptionProperty *find(std::string_view wanted) const;
 
-    /// Its text, or the fallback.
+    /// The text of that property, or the fallback.
     std::string_view text(std::string_view wanted, std::string_view fallback = {}) const;
 };
 
-/// A GenICam device description as it is written: what it says of each node, nothing computed. It
-/// never changes, so that the node maps of several cameras and threads can share it; all views of
-/// texts are views of its own memory.
+/// A parsed GenICam device description: the properties of each node, without any evaluation. It is
+/// immutable, so that node maps of several cameras and threads can share it. All string views refer
+/// to its own memory.
 class Description
 {
 public:
-    /// Throws `RuntimeException` when the text is no device description or beyond what
-    /// `OrvCameraIo::Limits` allow; the message is one line and begins with `source` and, where
-    /// known, the line number. A document type definition is refused, so there are no entities but
-    /// those that every document has, and nothing outside of the text is ever read.
+    /// Throws `RuntimeException` when the text is not a device description or exceeds
+    /// `OrvCameraIo::Limits`; the message is one line and begins with `source` and, if known, the
+    /// line number. A document type definition is refused, so there are only predefined entities,
+    /// and nothing outside of the text is read.
     Description(std::string_view xml, const std::string &source);
     Description(const Description &) = delete;
     Description &operator=(const Description &) = delete;
 
-    /// The one in use with the same text, otherwise a new one. Throws as above.
+    /// Returns a description in use with the same text, otherwise a new one. Throws as above.
     static std::shared_ptr<const Description> shared(std::string_view xml,
                                                      const std::string &source);
 
-    /// As it was read.
+    /// The original text.
     const std::string &xml() const { return m_xml; }
 
     std::string_view modelName() const { return m_modelName; }
     int schemaMajorVersion() const { return m_schemaMajorVersion; }
     int schemaMinorVersion() const { return m_schemaMinorVersion; }
 
-    /// Entries of enumerations directly behind their enumeration, entries of structured registers
-    /// in place of the structure, with the structure's properties behind their own.
+    /// The entries of an enumeration follow it; the entries of a structured register replace it,
+    /// with its properties after their own.
     const std::vector<DescriptionNode> &nodes() const { return m_nodes; }
 
 private:

@@ -42,8 +42,8 @@ int toVersion(std::string_view text)
     return value && *value >= 0 && *value < 1000 ? static_cast<int>(*value) : 1;
 }
 
-/// Keeps quiet what the library would print because it has no parser at hand that takes it, such as
-/// what it dislikes of an encoding.
+/// Suppresses messages that libxml2 prints itself when no parser is involved, for instance about
+/// encodings.
 class Quiet
 {
 public:
@@ -102,7 +102,7 @@ struct DescriptionReader::Callbacks
         handler.ignorableWhitespace = characters;
         handler.cdataBlock = characters;
         handler.internalSubset = documentType;
-        // Errors are fetched at the end; without a handler the library prints them.
+        // Errors are fetched at the end; without a handler libxml2 would print them.
         handler.serror = [](void *, auto *) {};
         return handler;
     }
@@ -130,7 +130,7 @@ void DescriptionReader::read()
     if (!parser)
         fail(m_source, "this is not XML");
     m_parser = parser.get();
-    // Nothing but the characters that each document may name: there are no other entities.
+    // Only predefined entities, because there are no others.
     xmlCtxtUseOptions(m_parser, XML_PARSE_NONET | XML_PARSE_NOENT);
     *m_parser->sax = Callbacks::all();
     m_parser->userData = this;
@@ -182,7 +182,7 @@ std::string_view DescriptionReader::keepTrimmed(std::string_view text)
 
 std::string_view DescriptionReader::attribute(int count, Attributes attributes, const char *name)
 {
-    // Each is its name, prefix and namespace, begin and end of its value.
+    // Each attribute has five pointers: name, prefix, namespace, and begin and end of its value.
     for (int i = 0; i < count; ++i, attributes += 5) {
         if (!attributes[1] && view(attributes[0]) == name)
             return keep({reinterpret_cast<const char *>(attributes[3]),
@@ -210,7 +210,8 @@ DescriptionReader::Kind DescriptionReader::kindOf(std::string_view tag, std::str
     case Kind::Entry:
         return Kind::Property;
     case Kind::Property:
-        // No property holds another one of its own kind; deeper nesting is a vendor's
+        // A property does not contain another one of its own kind; deeper nesting is a vendor's
+        // extension and is ignored.
         // extension and is not read.
         return parent.tag == "IntSwissKnife" ? Kind::Property : Kind::Ignored;
     case Kind::Ignored:

@@ -12,8 +12,7 @@ struct _xmlParserCtxt;
 
 namespace OrvDescription {
 
-/// Reads the text of a description into a `Description`, in one pass and without a tree of
-/// elements.
+/// Parses the text of a description into a `Description`, in one pass and without an element tree.
 class DescriptionReader
 {
 public:
@@ -23,19 +22,19 @@ public:
     void read();
 
 private:
-    /// What libxml2 calls.
+    /// Callbacks of libxml2.
     struct Callbacks;
 
     enum class Kind {
         Container, ///< of nodes
-        Structure, ///< registers that lie at one address
+        Structure, ///< registers at one address
         Node,
         Entry, ///< a node inside an enumeration or a structure
         Property,
         Ignored
     };
 
-    /// An element that has begun and not ended yet.
+    /// An open element.
     struct Element
     {
         Kind kind = Kind::Ignored;
@@ -69,12 +68,12 @@ private:
     _xmlParserCtxt *m_parser = nullptr;
     std::string m_failure;
     std::vector<Element> m_elements;
-    std::string m_text; ///< of the innermost element
+    std::string m_text; ///< of the innermost open element
     std::vector<DescriptionNode>
         m_pending; ///< a node and its entries, or the entries of a structure
     std::vector<DescriptionProperty> m_common; ///< of a structure's entries
     std::size_t m_properties = 0;
-    std::unordered_set<std::string_view> m_known; ///< short texts, most of which occur often
+    std::unordered_set<std::string_view> m_known; ///< common short texts, which are stored once
 };
 
 } // namespace OrvDescription

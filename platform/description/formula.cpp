@@ -18,7 +18,7 @@ namespace OrvDescription {
 
 namespace {
 
-// Results beyond 64 bits lose their upper bits, as in the camera's own processor.
+// Results are truncated to 64 bits, as in the processor of a camera.
 
 int64_t wrapped(uint64_t bits)
 {
@@ -40,7 +40,7 @@ int64_t remainder(int64_t dividend, int64_t divisor)
     return divisor == -1 ? 0 : dividend % divisor;
 }
 
-// Of the count of a shift its lower six bits matter, as to a processor.
+// The count of a shift is modulo 64, as in processors.
 
 int64_t shiftedLeft(int64_t value, int64_t count)
 {
@@ -71,7 +71,7 @@ double rounded(double value, int64_t digits)
     return std::isfinite(result) ? result : value;
 }
 
-/// Integers when both are, unless the result has no room in one.
+/// The result is an integer if both operands are, unless it overflows.
 FormulaNumber sum(FormulaNumber left, FormulaNumber right)
 {
     int64_t result = 0;
@@ -133,7 +133,7 @@ int64_t FormulaNumber::toInteger() const
     return static_cast<int64_t>(real);
 }
 
-/// One evaluation of a formula.
+/// An evaluation of a formula.
 class Formula::Evaluation
 {
 public:
@@ -161,7 +161,7 @@ public:
     }
 
 private:
-    /// Does a step and returns the number of the next one.
+    /// Executes a step and returns the number of the next one.
     std::size_t run(std::size_t number, FormulaCode::Step step)
     {
         switch (step.op) {
@@ -195,7 +195,7 @@ private:
 
     std::size_t choose(std::size_t number, FormulaCode::Step step)
     {
-        // Neither side is computed before it is known which one counts.
+        // Neither side is evaluated before the condition is known.
         if (!m_top->isKnown())
             return m_formula.m_code.steps[step.operand - 1].operand;
         const bool isTrue = m_top->isTrue();
@@ -203,14 +203,15 @@ private:
         return isTrue ? number + 1 : step.operand;
     }
 
-    /// One round of transfers then fetches all that may be missing, not one for each condition.
+    /// Makes one round of transfers fetch all registers that may be needed, instead of one per
+    /// condition.
     void lookAtRest()
     {
         for (std::size_t use = 0; use < m_variables.size(); ++use) {
             try {
                 variable(use);
             } catch (const GenICam::GenericException &) {
-                // It may not count.
+                // The side may not be needed.
             }
         }
     }
@@ -367,7 +368,7 @@ private:
     const Formula &m_formula;
     const Look &m_look;
     const bool m_isInteger;
-    std::array<FormulaNumber, 16> m_fewNumbers; ///< the first place stays empty
+    std::array<FormulaNumber, 16> m_fewNumbers; ///< the first element is unused
     std::vector<FormulaNumber> m_manyNumbers;
     FormulaNumber *m_top = m_fewNumbers.data();
     std::vector<std::optional<FormulaNumber>> m_variables;

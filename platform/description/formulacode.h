@@ -25,19 +25,19 @@ struct FormulaNumber
     bool isKnown() const { return kind != Kind::Unknown; }
     bool isReal() const { return kind == Kind::Real; }
 
-    /// Towards 0; the nearest end of the range for what lies beyond it, 0 for what is no number.
+    /// Truncates toward 0; returns the nearest limit for a number out of range, and 0 for NaN.
     int64_t toInteger() const;
     double toReal() const { return isReal() ? real : static_cast<double>(integer); }
     bool isTrue() const { return isReal() ? real != 0 : integer != 0; }
 };
 
-/// A formula after parsing: operations on a stack of numbers, in the order in which they are done.
+/// A parsed formula: operations on a stack of numbers, in the order of execution.
 struct FormulaCode
 {
     enum class Op : uint8_t {
         Number,   ///< pushes one of `numbers`
-        Variable, ///< pushes what one of `uses` asks for
-        // Take one number.
+        Variable, ///< pushes the number for one of `uses`
+        // Unary operations
         Negate,
         Complement,
         Truth, ///< 1 or 0
@@ -57,7 +57,7 @@ struct FormulaCode
         Floor,
         Ceil,
         Round,
-        // Take two.
+        // Binary operations
         RoundTo,
         Power,
         Multiply,
@@ -76,9 +76,9 @@ struct FormulaCode
         BitAnd,
         BitXor,
         BitOr,
-        // Go on at another place.
-        And,    ///< unless the topmost number is true; otherwise it is taken away
-        Or,     ///< unless it is false
+        // Jumps
+        And,    ///< jumps unless the topmost number is true; otherwise pops it
+        Or,     ///< jumps unless it is false; otherwise pops it
         Choose, ///< unless it is true; in front of that place a `Jump` leads to the end of the
                 ///< choice
         Jump
@@ -90,8 +90,8 @@ struct FormulaCode
         uint32_t operand;
     };
 
-    /// A number of a variable: which of the declared ones, and what of it, such as "Max"; empty for
-    /// its value.
+    /// A number of a variable: the index of the variable, and the property, such as "Max"; empty
+    /// for the value.
     struct Use
     {
         uint32_t variable;
@@ -104,7 +104,7 @@ struct FormulaCode
     std::size_t stackSize = 0;
     bool callsFunctions = false;
 
-    /// Something is divided by what may be 0.
+    /// There is a division whose divisor may be 0.
     bool canFail = false;
 };
 

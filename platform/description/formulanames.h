@@ -9,8 +9,8 @@
 
 namespace OrvDescription {
 
-/// What identifiers stand for in the formulas of one node. The texts must live as long as what is
-/// made of them.
+/// The meanings of the identifiers in the formulas of one node. The texts must live as long as the
+/// formulas.
 class FormulaNames
 {
 public:
@@ -19,7 +19,7 @@ public:
     struct Meaning
     {
         Kind kind;
-        std::size_t variable; ///< its number, in the order of declaration
+        std::size_t variable; ///< index in the order of declaration
         std::string_view text;
     };
 
@@ -31,7 +31,8 @@ public:
     const Meaning *find(std::string_view name) const;
 
 private:
-    std::unordered_map<std::string_view, Meaning> m_meanings; ///< the first declaration counts
+    /// The first declaration of a name is used.
+    std::unordered_map<std::string_view, Meaning> m_meanings;
     std::size_t m_variables = 0;
 };
 

@@ -18,13 +18,13 @@ struct Operator
 {
     std::string_view token;
     FormulaCode::Op op;
-    int level; ///< those of a higher level are done first
+    int level; ///< operators of a higher level bind tighter
     bool isRightToLeft = false;
 };
 
 constexpr int highestLevel = 11;
 
-/// A token before those that it begins with.
+/// A token must come before its own prefixes.
 const Operator operators[] = {
     {"||", FormulaCode::Op::Or, 1},          {"&&", FormulaCode::Op::And, 2},
     {"|", FormulaCode::Op::BitOr, 3},        {"^", FormulaCode::Op::BitXor, 4},
@@ -72,7 +72,7 @@ bool isBlank(char c)
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-/// Some descriptions write functions in small letters.
+/// Some descriptions write function names in lower case.
 std::string capitals(std::string_view text)
 {
     std::string result(text);
@@ -81,7 +81,7 @@ std::string capitals(std::string_view text)
     return result;
 }
 
-/// The number that `text` begins with, and its length; 0 when there is none.
+/// The number at the beginning of `text`, and its length; 0 if there is none.
 std::pair<FormulaNumber, std::size_t> numberAt(std::string_view text)
 {
     const char *begin = text.data();
@@ -288,7 +288,7 @@ void FormulaParser::parseConstant(std::string_view text)
 
 void FormulaParser::parseExpression(std::string_view text)
 {
-    // Expressions that refer to each other in a circle end at the limit, too.
+    // Cyclic sub-expressions reach the limit, too.
     const Nesting nesting(*this);
     const std::string_view outerText = m_text;
     const std::size_t outerPosition = m_position;
@@ -379,7 +379,7 @@ void FormulaParser::emitNumber(FormulaNumber number)
 void FormulaParser::emitDivision(Op op, std::size_t divisor)
 {
     const FormulaCode::Step &last = m_code.steps.back();
-    // Remainders are those of integers.
+    // The remainder is an integer operation.
     const bool isSafe = m_code.steps.size() == divisor + 1 && last.op == Op::Number &&
                         m_code.numbers[last.operand].toInteger() != 0;
     m_code.canFail = m_code.canFail || !isSafe;

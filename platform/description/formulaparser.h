@@ -15,7 +15,7 @@ namespace OrvDescription {
 class FormulaParser
 {
 public:
-    /// What is wrong with a formula.
+    /// An error in a formula.
     struct Error
     {
         std::string text;
@@ -52,12 +52,12 @@ private:
     void emitDivision(Op op, std::size_t divisor);
     void leadHere(std::size_t step);
 
-    /// Counts how deep the parser is in parentheses and the like.
+    /// Counts the nesting depth of the parser.
     class Nesting;
 
     const FormulaNames &m_names;
     FormulaCode m_code;
-    std::map<std::pair<std::size_t, std::string_view>, std::size_t> m_uses; ///< their numbers
+    std::map<std::pair<std::size_t, std::string_view>, std::size_t> m_uses; ///< with their indexes
     std::string_view m_text;
     std::size_t m_position = 0;
     std::size_t m_totalSize = 0;

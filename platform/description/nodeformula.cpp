@@ -16,7 +16,7 @@ namespace OrvDescription {
 
 namespace {
 
-/// The number of the input among the variables.
+/// The index of the input among the variables.
 constexpr uint32_t inputVariable = 0;
 
 FormulaNames namesOf(const std::vector<DescriptionProperty> &properties, std::string_view inputName)

@@ -14,28 +14,27 @@ namespace OrvDescription {
 
 struct DescriptionProperty;
 
-/// A formula whose variables are nodes. One more may be a number that is given with the question.
+/// A formula whose variables are nodes. One more variable may be a number that the caller passes.
 class NodeFormula
 {
 public:
     using Input = std::function<FormulaNumber()>;
 
-    /// `properties` declare the names that the text may use, `variables` are the nodes of the
-    /// variables among them, in their order, null where there is none. `owner` must live as long as
-    /// the formula.
+    /// `properties` declare the names in the text. `variables` are the nodes of the declared
+    /// variables, in their order, null for a missing node. `owner` must live as long as the
+    /// formula.
     NodeFormula(std::string_view text, const std::vector<DescriptionProperty> &properties,
                 std::vector<OrvGenApi::Node *> variables, std::string_view owner,
                 std::string_view inputName = {});
 
-    /// False when the formula makes no sense.
+    /// False for an invalid formula.
     bool isUsable() const { return m_formula.error().empty(); }
     bool canFail() const { return m_formula.canFail(); }
 
-    /// The nodes of which the formula takes a limit or an increment, and which: "Min", "Max",
-    /// "Inc".
+    /// The nodes of which the formula uses a limit or an increment, with "Min", "Max" or "Inc".
     std::vector<std::pair<OrvGenApi::Node *, std::string_view>> limitsRead() const;
 
-    /// Throws what `Formula` and the nodes throw.
+    /// Throws the exceptions of `Formula` and of the nodes.
     int64_t integer(const Input &input = {}) const;
     double real(const Input &input = {}) const;
 

@@ -16,7 +16,7 @@ namespace OrvDescription {
 
 namespace {
 
-/// A predicate that cannot be computed leaves nothing available.
+/// A feature is not available when its predicate cannot be evaluated.
 std::optional<bool> isTrue(Node &predicate)
 {
     try {
@@ -27,7 +27,7 @@ std::optional<bool> isTrue(Node &predicate)
     return std::nullopt;
 }
 
-/// The nodes that can be reached, the first one first, each once.
+/// The reachable nodes in breadth-first order without duplicates; the first node comes first.
 std::vector<NodeLinks *> reachable(NodeLinks &first, std::vector<NodeLinks *> NodeLinks::*children)
 {
     std::vector<NodeLinks *> found = {&first};

@@ -14,48 +14,48 @@ namespace OrvDescription {
 
 struct DescriptionNode;
 
-/// What a node of a description has to do with other nodes, as the node map works it out after all
-/// nodes have been made.
+/// The relations of a described node to other nodes. The node map sets them after it has created
+/// all nodes.
 struct NodeLinks
 {
     OrvGenApi::Node *node = nullptr;
-    const DescriptionNode *description = nullptr; ///< null for what is described nowhere
-    std::size_t index = 0;                        ///< among all
+    const DescriptionNode *description = nullptr; ///< null for a node without a description
+    std::size_t index = 0;                        ///< in the node map
 
     NodeLinks *isImplemented = nullptr;
     NodeLinks *isAvailable = nullptr;
     NodeLinks *isLocked = nullptr;
     GenApi::EAccessMode imposedAccess = GenApi::RW;
 
-    /// The description makes no sense here: a reference that leads nowhere or in a circle, or to
-    /// data that come with images only.
+    /// The description of the node is unusable: it has a reference to a missing node, a cyclic one,
+    /// or one to data that only images contain.
     bool isUnusable = false;
 
     bool isValueCachable = true;
     bool areLimitsCachable = true;
     bool isAccessCachable = true;
 
-    std::vector<NodeLinks *> valueChildren;   ///< read to know the value
-    std::vector<NodeLinks *> limitChildren;   ///< read to know limits and increment
+    std::vector<NodeLinks *> valueChildren;   ///< read for the value
+    std::vector<NodeLinks *> limitChildren;   ///< read for limits and increment
     std::vector<NodeLinks *> writtenChildren; ///< written with the value
 
-    /// The register that the node is, or null.
+    /// The register node itself, or null.
     std::unique_ptr<RegisterAccess> reg;
 
-    /// Those of the three that there are.
+    /// The existing ones among the three.
     std::vector<NodeLinks *> predicates() const;
 
-    /// The node and all that are written with it.
+    /// The node and all nodes that are written with it.
     std::vector<OrvGenApi::Node *> written();
 
-    /// The node and the registers that its value comes from.
+    /// The node and the registers of its value.
     std::vector<OrvGenApi::Node *> terminals();
 
     /// The text of an element of the description.
     GenICam::gcstring text(std::string_view tag) const;
 };
 
-/// A node of a description: access mode and neighbours. `Base` is the value node.
+/// A described node: access mode and neighbours. `Base` is the value node.
 template<typename Base>
 class DescribedNode : public Base
 {
@@ -86,7 +86,7 @@ public:
 protected:
     NodeLinks &links() const { return m_links; }
 
-    /// The access mode before availability and locks are looked at.
+    /// The access mode before availability and locks are applied.
     virtual GenApi::EAccessMode ownAccessMode() const { return GenApi::RO; }
 
     GenApi::EAccessMode readAccessMode() const override;
@@ -101,15 +101,15 @@ private:
     NodeLinks &m_links;
 };
 
-/// The access mode that availability leaves of `ownMode()`.
+/// `ownMode()` restricted by the availability.
 GenApi::EAccessMode unlockedAccessMode(const NodeLinks &links,
                                        const std::function<GenApi::EAccessMode()> &ownMode);
 
-/// The one that locks leave of that.
+/// The result of that, restricted by locks.
 GenApi::EAccessMode restrictedAccessMode(const NodeLinks &links,
                                          const std::function<GenApi::EAccessMode()> &ownMode);
 
-/// Appends the neighbours that `links` knows.
+/// Appends the neighbours in `links`.
 void appendChildren(NodeLinks &links, GenApi::ELinkType linkType,
                     std::vector<OrvGenApi::Node *> &children);
 

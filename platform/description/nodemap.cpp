@@ -20,7 +20,7 @@ using OrvCameraIo::RegisterIoListener;
 
 namespace OrvDescription {
 
-/// Passes on what happens to the camera: to the map on the main context, to another listener at
+/// Forwards the events of the camera: to the map through the main context, to another listener at
 /// once.
 class NodeMap::Listener final : public RegisterIoListener
 {
@@ -53,10 +53,10 @@ public:
     }
 
 private:
-    /// The map as long as it lives.
+    /// null after the destruction of the map
     struct Target
     {
-        std::recursive_mutex mutex; ///< recursive: a listener may destroy the map
+        std::recursive_mutex mutex; ///< recursive, because a listener may destroy the map
         NodeMap *map = nullptr;
     };
 
@@ -131,7 +131,7 @@ OrvCameraIo::PortHints NodeMap::hints() const
         try {
             hints.declared.push_back(links.reg->place.range(links.node->name()));
         } catch (const GenICam::OutOfRangeException &) {
-            // No register has that length.
+            // No register has that length, so the range matches none.
         }
     }
     auto &declared = hints.declared;

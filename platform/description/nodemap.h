@@ -18,9 +18,9 @@ struct NodeLinks;
 
 /// The node map of a device description.
 ///
-/// All nodes are made when the map is made and live as long as it; that reads nothing from the
-/// camera. Values, limits and access modes are read when they are queried and kept until
-/// something that they depend on changes.
+/// All nodes are created with the map and exist as long as it; that reads nothing from the camera.
+/// Values, limits and access modes are read when they are queried, and cached until something that
+/// they depend on changes.
 class NodeMap : public OrvGenApi::NodeMapBase
 {
 public:
@@ -29,9 +29,9 @@ public:
             std::unique_ptr<OrvCameraIo::Port> port);
     ~NodeMap() override;
 
-    /// The node map of a description without a camera: registers live in memory and are 0 at the
-    /// beginning. Throws `RuntimeException` with a text of one line, which begins with `source` or
-    /// the file's name, when the description cannot be used.
+    /// The node map of a description without a camera: registers are in memory and initially 0.
+    /// Throws `RuntimeException` with a text of one line, which begins with `source` or the file
+    /// name, when the description is invalid.
     static std::unique_ptr<NodeMap> fromText(const char *xml, std::size_t size,
                                              const std::string &source);
     static std::unique_ptr<NodeMap> fromFile(const std::string &fileName);
@@ -39,14 +39,14 @@ public:
     const Description &description() const { return *m_description; }
     OrvCameraIo::RegisterIo &registers() const { return *m_registers; }
 
-    /// Since the map was made.
+    /// Since the construction of the map.
     OrvCameraIo::Transactions transactions() const { return m_registers->transactions(); }
 
-    /// A further listener to the events of the camera; null for none. When this returns, no
-    /// call of the former listener is under way.
+    /// Sets a further listener to the events of the camera; null for none. When this returns, no
+    /// call of the previous listener is running.
     void setListener(OrvCameraIo::RegisterIoListener *listener);
 
-    /// As `Poll`, in the background: see `Poller`. To be called on the thread that runs the main
+    /// As `Poll`, in the background: see `Poller`. Call it on the thread that runs the main
     /// context.
     void pollLater(int64_t elapsedMs);
 

@@ -26,7 +26,7 @@ bool isRegister(std::string_view tag)
                    {"IntReg", "MaskedIntReg", "FloatReg", "StringReg", "Register", "StructEntry"});
 }
 
-/// Elements that name a node: "p" and a capital.
+/// Elements that refer to a node: "p" and a capital letter.
 bool isReference(std::string_view tag)
 {
     return tag.size() > 1 && tag[0] == 'p' && std::isupper(static_cast<unsigned char>(tag[1]));
@@ -94,7 +94,7 @@ NodeProperties propertiesOf(const DescriptionNode &description)
     NodeProperties properties;
     properties.name = description.name;
     properties.nameSpace = description.isStandard ? Standard : Custom;
-    // Backwards, since the first element of a kind counts.
+    // In reverse order, because the first element of a kind is used.
     for (auto property = description.properties.rbegin(); property != description.properties.rend();
          ++property) {
         if (property->tag == "Visibility")
@@ -164,7 +164,7 @@ void NodeMapBuilder::build()
     for (const DescriptionNode &description : m_description.nodes())
         makeNode(description);
     breakCategoryCircles();
-    // Connecting a category may add a placeholder.
+    // Connecting a category may append a placeholder.
     const std::size_t described = m_map.m_links->size();
     for (std::size_t i = 0; i < described; ++i)
         connect((*m_map.m_links)[i]);
@@ -198,7 +198,7 @@ NodeLinks *NodeMapBuilder::linksOf(std::string_view name) const
 void NodeMapBuilder::makeNode(const DescriptionNode &description)
 {
     if (NodeLinks *first = linksOf(description.name)) {
-        // Described twice: it is not clear which description is meant.
+        // Two nodes have this name, and it is not clear which one is meant.
         if (first->description->tag != "Category" && description.tag != "EnumEntry")
             first->isUnusable = true;
         return;
@@ -329,13 +329,13 @@ void NodeMapBuilder::connectCategory(NodeLinks &links)
     }
 }
 
-/// What is known of a category while all of them are walked through.
+/// The state of a category during the walk over all of them.
 struct NodeMapBuilder::CategoryState
 {
     bool isOpen = false;
     bool isDone = false;
-    int depth = 0;        ///< of the categories in it
-    std::size_t rows = 0; ///< in it and in the categories in it
+    int depth = 0;        ///< the depth of its subcategories
+    std::size_t rows = 0; ///< including those of its subcategories
 };
 
 void NodeMapBuilder::breakCategoryCircles()
@@ -371,7 +371,7 @@ void NodeMapBuilder::breakCategoryCircles(const NodeLinks &first,
         const CategoryState &inner = states[child->index];
         if (!inner.isOpen && !inner.isDone) {
             --state.rows;
-            --next; // once more when the child is done
+            --next; // resume after the child
             open.emplace_back(child, 0);
         } else if (inner.isOpen || inner.depth + 1 >= Limits::categoryDepth ||
                    state.rows + inner.rows > Limits::nodeCount) {
@@ -394,7 +394,7 @@ void NodeMapBuilder::connectRegister(NodeLinks &links)
     links.reg->format = formatOf(description);
     connectPlace(links, links.reg->place);
 
-    // Ports of chunks and events have no data but those that come with images.
+    // Data of the ports for chunks and events exist only with images.
     const DescriptionProperty *port = description.find("pPort");
     const NodeLinks *portLinks = port ? linksOf(port->text) : nullptr;
     if (!portLinks || !portLinks->description)
@@ -487,8 +487,8 @@ std::unique_ptr<NodeFormula> NodeMapBuilder::newFormula(NodeLinks &links, std::s
     return formula;
 }
 
-/// Follows the way that the question for a limit takes: what the node states, or what its value
-/// comes from states.
+/// Adds the references that a query of a limit follows: those of the node, then those of the nodes
+/// with its value.
 void NodeMapBuilder::addLimitsRead(ReferenceGraph &graph, const LimitRead &read) const
 {
     std::set<std::string_view> wanted = {read.which};
@@ -512,7 +512,7 @@ void NodeMapBuilder::addLimitsRead(ReferenceGraph &graph, const LimitRead &read)
                 graph.addLimit(*read.reader, *child);
         }
         if (description && isOneOf(description->tag, {"Converter", "IntConverter"}))
-            wanted.insert({"Min", "Max"}); // either may become the other
+            wanted.insert({"Min", "Max"}); // the conversion may swap them
         limited = written.empty() ? nullptr : written.front();
     }
 }

@@ -14,8 +14,8 @@
 
 namespace OrvDescription {
 
-/// Makes the nodes of a node map out of its description, in two passes: first all nodes, then what
-/// they have to do with each other.
+/// Creates the nodes of a node map from its description, in two passes: first all nodes, then their
+/// relations.
 class NodeMapBuilder
 {
 public:
@@ -32,7 +32,7 @@ private:
     void adopt(NodeLinks &links, std::unique_ptr<OrvGenApi::Node> node);
     NodeLinks *linksOf(std::string_view name) const;
 
-    // A name that leads nowhere makes the node that refers to it unusable.
+    // A reference to a missing node makes the referring node unusable.
     NodeLinks *referenced(NodeLinks &links, std::string_view name);
     NodeLinks *referencedBy(NodeLinks &links, std::string_view tag);
     OrvGenApi::Node *nodeReferencedBy(NodeLinks &links, std::string_view tag);
@@ -64,7 +64,7 @@ private:
     void breakCategoryCircles();
     void breakCategoryCircles(const NodeLinks &first, std::vector<CategoryState> &states);
 
-    /// A formula takes a limit of a node.
+    /// A formula uses a limit of a node.
     struct LimitRead
     {
         NodeLinks *reader;
@@ -79,7 +79,7 @@ private:
     std::unordered_map<std::string_view, NodeLinks *> m_byName;
     std::vector<LimitRead> m_limitsRead;
     std::set<std::pair<std::string_view, std::string_view>>
-        m_droppedFeatures; ///< category, feature
+        m_droppedFeatures; ///< category and feature
 };
 
 } // namespace OrvDescription

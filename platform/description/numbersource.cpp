@@ -260,13 +260,13 @@ double FormulaSource::real()
     return m_isInteger ? static_cast<double>(m_formula->integer()) : m_formula->real();
 }
 
-/// Has the value of a variable read together with what the access modes of others need.
+/// Reads a variable together with the data that access modes need.
 void FormulaSource::lookAt(Node &variable)
 {
     try {
         rawReal(variable);
     } catch (const GenICam::GenericException &) {
-        // It may not count for the result.
+        // The result may not depend on it.
     }
 }
 
@@ -322,7 +322,7 @@ EAccessMode ConverterSource::accessMode()
     const EAccessMode mode = m_node.GetAccessMode();
     if (!m_from->canFail() || !IsReadable(mode) || hasValue())
         return mode;
-    return mode == RW ? WO : NA; // writing may give it a value again
+    return mode == RW ? WO : NA; // writing may make the value valid again
 }
 
 int64_t ConverterSource::integer()
@@ -358,12 +358,12 @@ std::optional<double> ConverterSource::converted(double rawValue)
     };
     try {
         double value = m_from->real(raw);
-        // Beyond its range an integer formula comes back at the other end; no limit does.
+        // An integer formula overflows beyond its range, so there is no limit on that side.
         if (m_isInteger && std::abs(value) < 9.2e18)
             value = static_cast<double>(m_from->integer(raw));
         return std::isfinite(value) ? std::optional<double>(value) : std::nullopt;
     } catch (const GenICam::RuntimeException &) {
-        return std::nullopt; // such as a reciprocal at 0: no limit on that side
+        return std::nullopt; // for instance a reciprocal at 0: no limit on that side
     }
 }
 

@@ -14,8 +14,8 @@
 
 namespace OrvDescription {
 
-/// Where the number behind an integer, float, boolean, enumeration or command node comes from.
-/// Values are unchecked; a question to the node map is being answered.
+/// The source of the number of an integer, float, boolean, enumeration or command node. Values are
+/// not checked. Called while a query of the node map is evaluated.
 class NumberSource
 {
 public:
@@ -27,7 +27,7 @@ public:
     virtual void setInteger(int64_t value) = 0;
     virtual void setReal(double value) = 0;
 
-    /// The limits that come with the source; those of the node's own stand above them.
+    /// The limits of the source; those of the node itself have priority.
     virtual int64_t minInteger() { return INT64_MIN; }
     virtual int64_t maxInteger() { return INT64_MAX; }
     virtual double minReal();
@@ -35,16 +35,16 @@ public:
     virtual std::optional<int64_t> incInteger() { return std::nullopt; }
     virtual std::optional<double> incReal() { return std::nullopt; }
 
-    /// The node that unit, representation and the like come from when the node has none itself.
+    /// The node that supplies the unit, the representation and the like when the node has none.
     virtual OrvGenApi::Node *delegate() const { return nullptr; }
 
 protected:
-    /// False when the number cannot be computed at the moment, such as a quotient whose divisor is
-    /// 0: that is not a failure of the camera, there just is no value.
+    /// False when the number is undefined at present, such as a quotient whose divisor is 0. That
+    /// is not a failure of the camera.
     bool hasValue();
 };
 
-/// The number of another node, and of others that get a copy when it is written.
+/// The number of another node; further nodes get a copy when it is written.
 class ReferenceSource : public NumberSource
 {
 public:
@@ -68,7 +68,7 @@ private:
     std::vector<OrvGenApi::Node *> m_copies;
 };
 
-/// One of several numbers, chosen by the value of an index node.
+/// One of several numbers, selected by the value of an index node.
 class IndexedSource : public NumberSource
 {
 public:
@@ -98,7 +98,7 @@ private:
     std::unique_ptr<NumberSource> m_default;
 };
 
-/// A number that the description states.
+/// A constant of the description.
 class FixedSource : public NumberSource
 {
 public:
@@ -136,11 +136,11 @@ private:
     bool m_isReal;
 };
 
-/// A number computed from others; it cannot be set.
+/// A number computed from others; it is read-only.
 class FormulaSource : public NumberSource
 {
 public:
-    /// `isInteger` says what the formula computes with.
+    /// `isInteger` selects the arithmetic of the formula.
     FormulaSource(std::unique_ptr<NodeFormula> formula, std::vector<OrvGenApi::Node *> variables,
                   bool isInteger);
 
@@ -158,13 +158,13 @@ private:
     bool m_isInteger;
 };
 
-/// A number that is another one converted, by a formula for each direction.
+/// A number converted from another one, with a formula for each direction.
 class ConverterSource : public NumberSource
 {
 public:
     enum class Slope { Increasing, Decreasing, Varying, Automatic };
 
-    /// `isInteger` says what the formulas compute with.
+    /// `isInteger` selects the arithmetic of the formulas.
     ConverterSource(OrvGenApi::Node &node, std::unique_ptr<NodeFormula> from,
                     std::unique_ptr<NodeFormula> to, Slope slope, bool isLinear, bool isInteger);
 

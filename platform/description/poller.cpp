@@ -68,7 +68,7 @@ void Poller::poll(int64_t elapsedMs)
         startReading(due);
 }
 
-/// The registers that are to be read; those that are not looked at are outdated.
+/// Returns the registers to read; invalidates features that are not in use.
 std::vector<NodeLinks *> Poller::takeDue(int64_t elapsedMs)
 {
     std::vector<NodeLinks *> due;
@@ -114,7 +114,7 @@ std::vector<NodeLinks *> Poller::takeRefused(int64_t elapsedMs)
     return refused;
 }
 
-/// What the feature's value needs counts as looked at; what was never read is noted.
+/// Marks the registers of the feature's value as in use, and notes those that were never read.
 void Poller::lookAt(const Feature &feature)
 {
     Question question(Question::Kind::Looking);
@@ -123,12 +123,12 @@ void Poller::lookAt(const Feature &feature)
             if (auto *value = dynamic_cast<GenApi::IValue *>(feature.node))
                 value->ToString();
         } catch (const GenICam::GenericException &) {
-            // It has no value at the moment.
+            // There is no value at present.
         }
     });
     m_missing.insert(m_missing.end(), question.missing.begin(), question.missing.end());
     if (!question.missing.empty())
-        feature.node->keepPolled(); // a reference may lead on
+        feature.node->keepPolled(); // a reference may refer to another polled node
 }
 
 void Poller::startReading(const std::vector<NodeLinks *> &registers)
@@ -162,14 +162,14 @@ void Poller::notifyChanged()
         if (now.status == pending.before.status && now.bytes == pending.before.bytes)
             continue;
         if (isRefusal(pending.before.status) && now.status == Status::Done)
-            m_refusalPause = Limits::refusalPause.count(); // so may others be
+            m_refusalPause = Limits::refusalPause.count(); // others may be refused, too
         pending.links->reg->setLookedAt(false);
         changed.push_back(pending.links->node);
     }
     m_request.reset();
     if (changed.empty())
         return;
-    // What was read is known already; only what depends on it is outdated.
+    // The new contents are cached already; only dependents are invalidated.
     m_map.enterChange();
     m_map.changed(changed);
     m_map.leaveChange();

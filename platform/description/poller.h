@@ -12,18 +12,18 @@ namespace OrvDescription {
 
 struct NodeLinks;
 
-/// Polls the features of a node map that have a polling time: their registers are read in the
-/// background, all that are due in one batch. Only those whose bytes have changed are notified and
-/// outdate what depends on them.
+/// Polls the features of a node map that have a polling time: reads their registers in the
+/// background, all that are due in one batch. Only features whose bytes have changed are notified,
+/// and their dependents invalidated.
 ///
-/// A feature is polled as long as it is looked at, that is, as long as its value is queried after
-/// each change, or while it is kept polled (`Node::keepPolled`). Another one is outdated when its
-/// time is up, so that the next query reaches the camera.
+/// A feature is polled while it is in use, that is, while its value is queried after each change,
+/// or while it is kept polled (`Node::keepPolled`). Other features are invalidated when their
+/// polling time has expired, so that the next query reads the camera.
 ///
 /// A register that the camera has refused is read again from time to time, whether it is polled or
-/// not: a camera that was busy, or in some other state, is not so for good.
+/// not, because a busy camera or another state of it is temporary.
 ///
-/// Belongs to the thread that runs the main context.
+/// Use it on the thread that runs the main context.
 class Poller
 {
 public:
@@ -33,18 +33,18 @@ public:
     Poller(const Poller &) = delete;
     Poller &operator=(const Poller &) = delete;
 
-    /// So many ms have passed since the last call.
+    /// `elapsedMs` milliseconds have passed since the last call.
     void poll(int64_t elapsedMs);
 
 private:
     struct Feature
     {
         OrvGenApi::Node *node = nullptr;
-        std::vector<NodeLinks *> registers; ///< that its value is computed from
+        std::vector<NodeLinks *> registers; ///< those of its value
         int64_t sincePolled = 0;            ///< ms
     };
 
-    /// A register that is being read, and what was known of it before.
+    /// A register that is being read, and its previous contents.
     struct Pending
     {
         NodeLinks *links = nullptr;
@@ -61,13 +61,13 @@ private:
     OrvGenApi::NodeMapBase &m_map;
     std::deque<NodeLinks> &m_links;
     OrvCameraIo::RegisterIo &m_io;
-    int64_t m_sinceRefused = 0; ///< ms since those that were refused were read again
-    int64_t m_refusalPause;     ///< ms until they are the next time
+    int64_t m_sinceRefused = 0; ///< ms since refused registers were read again
+    int64_t m_refusalPause;     ///< ms until they are read again
     std::vector<Feature> m_features;
-    std::vector<OrvGenApi::RegisterRange> m_missing; ///< of what is to be polled and was never read
-    std::vector<Pending> m_pending;                  ///< empty unless a batch is under way
+    std::vector<OrvGenApi::RegisterRange> m_missing; ///< registers to poll that were never read
+    std::vector<Pending> m_pending;                  ///< empty unless a batch is being read
     std::unique_ptr<OrvCameraIo::Request> m_request;
-    const std::shared_ptr<Poller *> m_self; ///< null after the end
+    const std::shared_ptr<Poller *> m_self; ///< null after the destruction
 };
 
 } // namespace OrvDescription

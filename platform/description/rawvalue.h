@@ -7,9 +7,9 @@
 
 namespace OrvDescription {
 
-// The numbers that nodes are computed from: the value of another node of any interface, read or
-// stored without any check of access or range and without a notification. The caller holds the lock
-// of the node map. A node that has no number throws `RuntimeException`.
+// The values of nodes as numbers, for nodes that are computed from them: of any interface, without
+// checks of access or range and without notifications. Precondition: the caller holds the lock of
+// the node map. A node without a number throws `RuntimeException`.
 
 int64_t rawInteger(OrvGenApi::Node &node);
 double rawReal(OrvGenApi::Node &node);
@@ -19,7 +19,7 @@ void setRawReal(OrvGenApi::Node &node, double value);
 /// True when the node's own value is a floating-point number.
 bool isReal(const OrvGenApi::Node &node);
 
-/// The nearest integer; the nearest end of the range for numbers beyond it.
+/// The nearest integer; the nearest limit for a number out of range.
 int64_t toInteger(double value);
 
 } // namespace OrvDescription

@@ -25,7 +25,7 @@ void ReferenceGraph::finish()
     findCachable(order);
 }
 
-/// The nodes that are not computed from themselves, each behind those that it is computed from.
+/// The nodes outside of cycles, in topological order: each after those that it is computed from.
 std::vector<NodeLinks *> ReferenceGraph::childrenFirst() const
 {
     std::vector<std::size_t> pending(m_nodes.size());
@@ -77,7 +77,7 @@ void ReferenceGraph::findUnusable(const std::vector<NodeLinks *> &order)
     }
     for (NodeLinks &links : m_nodes) {
         if (depths[links.index] < 0)
-            links.isUnusable = true; // in a circle, or computed from one
+            links.isUnusable = true; // in a cycle, or computed from a node in one
     }
 }
 
@@ -97,7 +97,7 @@ void ReferenceGraph::findCachable(const std::vector<NodeLinks *> &order)
     for (NodeLinks *links : order) {
         if (links->isUnusable)
             continue;
-        // Limits and access come from where the value comes from, too.
+        // Limits and access mode have the same source as the value.
         const NodeLinks *source =
             links->writtenChildren.empty() ? nullptr : links->writtenChildren.front();
         links->areLimitsCachable = links->isValueCachable && areCachable(links->limitChildren) &&

@@ -9,10 +9,9 @@
 
 namespace OrvDescription {
 
-/// What follows from all references of a description together: nodes that are computed from
-/// themselves, from something unusable or over too many others are unusable, and what is computed
-/// from a register that must not be cached must not be cached either. Takes time in proportion to
-/// the number of references.
+/// Properties that result from all references of a description: nodes that depend on themselves, on
+/// an unusable node or on too many nodes are unusable, and nodes that depend on a register that
+/// must not be cached must not be cached either. Takes linear time in the number of references.
 class ReferenceGraph
 {
 public:
@@ -20,13 +19,13 @@ public:
     {
     }
 
-    /// A limit of a node is read in order to know the value of another one.
+    /// A limit of a node is read for the value of another one.
     void addLimit(const NodeLinks &reader, NodeLinks &limit)
     {
         m_limits[reader.index].push_back(&limit);
     }
 
-    /// Sets what the nodes say of themselves.
+    /// Sets the properties of the nodes.
     void finish();
 
 private:

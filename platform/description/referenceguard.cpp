@@ -12,7 +12,7 @@ namespace OrvDescription {
 namespace {
 
 thread_local int depth = 0;
-thread_local int steps = 0; ///< since the depth was 0
+thread_local int steps = 0; ///< since the depth was last 0
 
 } // namespace
 

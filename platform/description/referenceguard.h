@@ -3,8 +3,8 @@
 
 namespace OrvDescription {
 
-/// Lives while a node follows a reference to another one. References that lead in a circle, too far
-/// or to too many nodes end with a `RuntimeException`.
+/// Exists while a node follows a reference to another one. Throws a `RuntimeException` for cyclic
+/// references, and for chains that are too deep or visit too many nodes.
 class ReferenceGuard
 {
 public:

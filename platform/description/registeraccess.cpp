@@ -18,7 +18,7 @@ namespace OrvDescription {
 
 namespace {
 
-/// What was read so long ago is new enough for those who only look at it.
+/// The maximum age of a result for a look-ahead.
 constexpr std::chrono::milliseconds lookedAtAge{1000};
 
 } // namespace

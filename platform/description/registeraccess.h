@@ -16,32 +16,32 @@
 
 namespace OrvDescription {
 
-/// One register of a description, while a question to its node map is being answered: reading looks
-/// at what is known, writing notes what is to be written.
+/// A register of a description during a query of its node map: reads use the cache, writes are
+/// noted in the query.
 class RegisterAccess
 {
 public:
-    /// `name` is that of the node and lives as long as the object.
+    /// `name` is that of the node, and must live as long as the object.
     RegisterAccess(const OrvGenApi::NodeMapBase &map, OrvCameraIo::RegisterIo &io,
                    std::string_view name, GenApi::ECachingMode mode, GenApi::EAccessMode access);
 
     RegisterPlace place;
     RegisterCodec::Format format;
 
-    /// What was read up to now is outdated.
+    /// Invalidates previous reads.
     void markStale() { m_staleSince = m_io.now(); }
 
-    /// Whether the last read failed for want of an answer; asking resets it.
+    /// Whether the last read failed without an answer; the call resets the flag.
     bool takeUnanswered() { return std::exchange(m_wasUnanswered, false); }
 
     /// Whether the camera has refused the last read.
     bool wasRefused() const { return m_wasRefused; }
 
-    /// Whether the value has been queried since this was set to false.
+    /// Whether the value has been queried since the flag was cleared.
     bool isLookedAt() const { return m_isLookedAt; }
     void setLookedAt(bool isLookedAt) { m_isLookedAt = isLookedAt; }
 
-    /// Where it was read last, and what is known of it, unless that is outdated.
+    /// The range that was read last, and its cached contents unless they are invalid.
     std::pair<OrvGenApi::RegisterRange, OrvCameraIo::RegisterIo::Known> known() const;
 
     int64_t integer();
@@ -49,14 +49,14 @@ public:
     std::string text();
     RegisterCodec::Bytes bytes();
 
-    /// No more than so many from the beginning.
+    /// Reads at most that many bytes from the beginning.
     RegisterCodec::Bytes firstBytes(int64_t count);
 
     void setInteger(int64_t value);
     void setReal(double value);
     void setText(const std::string &value);
 
-    /// What is left out stays as it is.
+    /// Bits outside the mask keep their values.
     void setBytes(const RegisterCodec::Bytes &bytes);
 
     int64_t minInteger() const;
@@ -84,11 +84,11 @@ private:
     bool m_wasUnanswered = false;
     bool m_wasRefused = false;
     bool m_isLookedAt = false;
-    OrvGenApi::RegisterRange m_lastRange; ///< that was read; shorter than the register for a text
+    OrvGenApi::RegisterRange m_lastRange; ///< the last read; shorter than the register for a text
     uint64_t m_staleSince = 0;
 };
 
-/// Throws the GenICam exception that fits a transfer that has failed.
+/// Throws the GenICam exception for a failed transfer.
 [[noreturn]] void throwFailure(OrvCameraIo::Status status, std::string_view node);
 
 } // namespace OrvDescription

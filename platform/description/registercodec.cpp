@@ -32,7 +32,8 @@ Bytes bytesOfUnsigned(uint64_t value, std::size_t size, bool isBigEndian)
     return bytes;
 }
 
-/// The bits of a number: where they begin, counted from the least significant one, and how many.
+/// The bits of a number: the position of the lowest one, from the least significant bit, and the
+/// count.
 struct Bits
 {
     unsigned first;

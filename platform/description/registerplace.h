@@ -14,7 +14,7 @@
 
 namespace OrvDescription {
 
-/// Where a register lies and how long it is, both of which may depend on nodes.
+/// The address and the length of a register, both of which may depend on nodes.
 class RegisterPlace
 {
 public:
@@ -30,13 +30,13 @@ public:
     void setLength(int64_t bytes) { m_length = bytes; }
     void setLength(OrvGenApi::Node &bytes) { m_lengthNode = &bytes; }
 
-    /// Both are known without asking anything.
+    /// Address and length do not depend on nodes.
     bool isFixed() const;
 
     uint64_t address() const;
 
-    /// In bytes; throws `OutOfRangeException` when it is less than `smallest` or no register is
-    /// that long. `owner` is the node's name, for the message.
+    /// In bytes; throws `OutOfRangeException` when it is less than `smallest` or longer than any
+    /// register. `owner` is the node's name, for the message.
     uint32_t length(std::string_view owner, int64_t smallest = 1) const;
 
     /// Both.

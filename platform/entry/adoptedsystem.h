@@ -6,7 +6,7 @@
 
 namespace OrvCam {
 
-/// A device of Aravis that its program shares with us, as the only camera of an interface.
+/// The interface whose only camera is a device of Aravis that the host shares.
 class AdoptedInterface final : public CameraInterface
 {
 public:
@@ -21,8 +21,8 @@ private:
     const OrvAravis::AdoptedDevice m_device;
 };
 
-/// A camera system of its own for a device that is no result of a search. It lives as long as the
-/// device that is opened from it.
+/// A separate camera system for a device that was not found by a search. It exists as long as the
+/// device.
 class AdoptedSystem final : public CameraSystem
 {
 public:

@@ -7,7 +7,7 @@
 
 namespace OrvCam {
 
-/// Opens one GigE Vision camera, wherever it is on its adapter's network by then.
+/// Opens one GigE Vision camera, at its present address on the adapter's network.
 class GvConnector final : public PortConnector
 {
 public:

@@ -106,7 +106,7 @@ OrvGenParam::Array *GvInterface::GetParamArray(int32_t *error)
 
 int32_t GvInterface::discover(uint32_t timeoutMs, std::vector<DeviceFacts> &found)
 {
-    if (m_isForcing) // that thread uses what this would change
+    if (m_isForcing) // the other thread uses the members that this would change
         return ErrorBusy;
     auto result = m_search.camerasOf(m_adapter.name, std::chrono::milliseconds(timeoutMs));
     m_addresses.clear();
@@ -155,7 +155,7 @@ int32_t GvInterface::forceIp(const GevAddresses &wanted)
         if (m_addresses.at(record->facts().id).mac == wanted.mac)
             concerned.push_back(record);
     }
-    // The command names the camera by its MAC address and would change each of them.
+    // The command addresses the camera by its MAC address and would change all of them.
     if (concerned.size() != 1)
         return concerned.empty() ? ErrorGone : ErrorNotAvailable;
 

@@ -17,11 +17,11 @@ namespace OrvCam {
 class GvInterface final : public CameraInterface, public AddressForcing, private GevNetwork
 {
 public:
-    /// The search is that of all network adapters and outlives the interface.
+    /// `search` covers all network adapters and must outlive the interface.
     GvInterface(CameraSystem &system, OrvGigEVision::NetworkAdapter adapter,
                 OrvGigEVision::NetworkSearch &search);
 
-    /// Takes over what may have changed: addresses come and go, and so does the carrier.
+    /// Updates the adapter: its addresses and its carrier may have changed.
     void setAdapter(OrvGigEVision::NetworkAdapter adapter);
 
     OrvGenParam::Array *GetParamArray(int32_t *error = nullptr) override;
@@ -41,9 +41,10 @@ private:
     OrvGigEVision::NetworkSearch &m_search;
     OrvGigEVision::NetworkAdapter m_adapter;
     std::map<std::string, GevAddresses> m_addresses; ///< of the last search, by camera id
-    std::size_t m_unlisted = 0;                      ///< cameras beyond those listed, likewise
-    std::atomic<bool> m_isForcing{false};            ///< an address, on another thread
-    std::atomic<bool> m_isGivenUp{false};            ///< that
+    /// The number of cameras beyond the listed ones, of the last search.
+    std::size_t m_unlisted = 0;
+    std::atomic<bool> m_isForcing{false}; ///< an address is being forced on another thread
+    std::atomic<bool> m_isGivenUp{false}; ///< the forcing was cancelled
     GevParameters m_parameters;
 };
 

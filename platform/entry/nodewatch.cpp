@@ -25,13 +25,13 @@ struct OrvGenParamWatch::State
             known->keepPolled();
     }
 
-    std::atomic<OrvGenApiNode *> node; ///< null after its end
+    std::atomic<OrvGenApiNode *> node; ///< null after the destruction of the node
     const std::thread::id homeThread = std::this_thread::get_id();
     OrvGenParam::SinkRegistrations sinks{nullptr};
     GenApi::CallbackHandleType handle = 0;
 };
 
-/// What the node owns. It notifies the watch of the node's end, too.
+/// The callback that the node owns. Its destruction signals the end of the node.
 class OrvGenParamWatch::Callback final : public GenApi::CNodeCallback
 {
 public:
@@ -42,7 +42,7 @@ public:
 
     void operator()(GenApi::ECallbackType type) const override
     {
-        const std::shared_ptr<State> state = m_state; // the call may end the watch
+        const std::shared_ptr<State> state = m_state; // the call may destroy the watch
         if (type == m_type)
             state->changed();
     }
@@ -72,12 +72,12 @@ OrvGenParamWatch::~OrvGenParamWatch()
         if (auto *node = m_state->node.load())
             node->DeregisterCallback(m_state->handle);
     } catch (...) {
-        // A node that cannot let go of a callback cannot be helped from here.
+        // A failure to deregister the callback cannot be handled here.
     }
 }
 
 void OrvGenParamWatch::OnParameterUpdate(OrvGenParam::Param *)
 {
     if (auto *node = m_state->node.load())
-        m_changed(node, m_userData); // this object may be gone now
+        m_changed(node, m_userData); // may destroy this object
 }

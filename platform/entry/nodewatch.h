@@ -8,13 +8,13 @@
 #include <memory>
 #include <thread>
 
-/// Calls a C function for the changes of one node, on the thread that made the watch.
+/// Calls a C function on changes of a node, on the thread that created the watch.
 struct OrvGenParamWatch final : public OrvGenParam::ParamEventSink
 {
 public:
     OrvGenParamWatch(OrvGenApiNode &node, OrvGenParamChanged changed, void *userData);
 
-    /// May be run from inside the call.
+    /// May be called from inside the function.
     ~OrvGenParamWatch() override;
 
     void OnParameterUpdate(OrvGenParam::Param *) override;

@@ -14,7 +14,7 @@
 
 namespace {
 
-// What C programs and C++ programs call the same.
+// The same types for C programs and C++ programs.
 constexpr bool equal(int32_t c, int32_t cpp)
 {
     return c == cpp;
@@ -214,7 +214,7 @@ OrvGenApiNodeMap *OrvGenParam_LoadDescription(const char *fileName, char *reason
 
 void OrvGenParam_ReleaseNodeMap(OrvGenApiNodeMap *nodeMap)
 {
-    // A camera has one of a class that derives from this, and owns it.
+    // A node map of a camera derives from this class, and is owned by the camera.
     if (nodeMap && typeid(*nodeMap) == typeid(OrvDescription::NodeMap))
         delete nodeMap;
 }

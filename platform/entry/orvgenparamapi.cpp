@@ -16,7 +16,7 @@ using namespace GenApi;
 
 namespace {
 
-// What C programs and C++ programs call the same.
+// The same types for C programs and C++ programs.
 constexpr bool equal(int32_t c, int32_t cpp)
 {
     return c == cpp;
@@ -61,7 +61,7 @@ bool isGone(const INode &node)
     return map && map->isGone();
 }
 
-/// Inside a catch clause.
+/// Precondition: inside a catch clause.
 std::string reasonOfException()
 {
     try {
@@ -75,7 +75,7 @@ std::string reasonOfException()
     }
 }
 
-/// Runs the function and answers what came of it.
+/// Runs the function and returns the error code.
 template<class Function>
 int32_t attempt(const OrvGenApiNode *node, Function function)
 {
@@ -95,7 +95,7 @@ int32_t failAsOtherKind(const INode &node)
                 std::string("'") + node.GetName().c_str() + "' is of another kind");
 }
 
-/// The same with a node that must be of that interface and whose camera must be there.
+/// The same for a node that must have the interface, and whose camera must be connected.
 template<class Value, class Function>
 int32_t with(OrvGenApiNode *node, Function use)
 {
@@ -117,7 +117,7 @@ void store(T *to, T value)
         *to = value;
 }
 
-/// A text that a caller wants to have.
+/// Copies a text to the caller's buffer.
 struct TextBuffer
 {
     TextBuffer(char *to, size_t room, size_t *wholeLength)
@@ -140,7 +140,7 @@ struct TextBuffer
     size_t *const length;
 };
 
-/// A text that only the description decides.
+/// A text that depends on the description only.
 template<class Get>
 int32_t describe(OrvGenApiNode *node, TextBuffer buffer, Get get)
 {
@@ -185,7 +185,7 @@ int32_t kindOf(const INode &node)
     }
 }
 
-/// Hands out a list of nodes; `list` answers it.
+/// Copies the list of nodes that `list` returns.
 template<class List>
 size_t copyNodes(OrvGenApiNode **nodes, size_t capacity, List list)
 {

@@ -11,26 +11,26 @@
  *         OrvGenParam_GetFloat(exposure, &value) == OrvCam_Success)
  *         printf("%f\n", value);
  *
- * A parameter is a node. It belongs to its node map, is not to be released, and stays valid as long
- * as the node map, that of a camera as long as the device. While the camera is unplugged every
- * function that needs it answers OrvCam_ErrorGone.
+ * A parameter is a node. It belongs to its node map, must not be released, and stays valid as long
+ * as the node map; that of a camera exists as long as the device. While the camera is unplugged
+ * every function that accesses it returns OrvCam_ErrorGone.
  *
- * Functions that can fail return OrvCam_Success or an error of orvcameraapi.h, and set what they
- * were to answer to 0 or "" then: OrvCam_ErrorInvalidArgument for null in place of a node or of a
- * text that is to be written, OrvCam_ErrorNotFound for a node of another kind. What they answer
- * goes where their last arguments point; any of these may be null. No function throws.
+ * Functions that can fail return OrvCam_Success or an error of orvcameraapi.h. On failure they set
+ * their results to 0 or "". The error is OrvCam_ErrorInvalidArgument for null in place of a node or
+ * of a text to write, OrvCam_ErrorNotFound for a node of another kind. Results are stored through
+ * the last arguments, any of which may be null. No function throws.
  *
- * Texts are UTF-8. One that is answered is written to `text`, which has room for `size` bytes: cut
- * in front of the first character that has no room, and always with a 0 at its end. Its whole
- * length in bytes, without the 0, goes to *length. So a text that is cut has a length of `size` or
- * more; to ask for the length alone, give null and 0.
+ * Texts are UTF-8. A result is copied to `text`, which has room for `size` bytes. It is truncated
+ * between characters if necessary, and always ends with a 0. Its full length in bytes, without the
+ * 0, is stored in *length, so a truncated text has a length of `size` or more. To query the length
+ * alone, pass null and 0.
  *
- * Lists of nodes are written to `nodes`, which has room for `capacity` of them, or is null with a
- * capacity of 0. The result is how many there are, which can be more than there is room for.
+ * Lists of nodes are copied to `nodes`, which has room for `capacity` of them, or is null with a
+ * capacity of 0. The result is the full number of nodes, which may exceed the capacity.
  *
- * Reading waits for the camera when the value is not known, writing always does. All functions may
- * be called on any thread, where they wait for those of other threads at the same camera; only what
- * is said about watching is different.
+ * Reading blocks for the camera when the value is not cached, writing always does. All functions
+ * are thread-safe; they wait for calls of other threads on the same camera. Only watches are bound
+ * to a thread.
  */
 
 #include <orvcameraapi.h>
@@ -57,7 +57,7 @@ enum {
     OrvGenParam_KindOther = 9     /* without a value; treat further numbers likewise */
 };
 
-/* OrvGenParam_GetVisibility: whom a parameter is meant for. */
+/* OrvGenParam_GetVisibility: the audience of a parameter. */
 enum {
     OrvGenParam_VisibilityBasic = 0,
     OrvGenParam_VisibilityExpert = 1,
@@ -65,7 +65,7 @@ enum {
     OrvGenParam_VisibilityInvisible = 3
 };
 
-/* OrvGenParam_GetAccess: what can be done at this moment; from 2 on it is available. */
+/* OrvGenParam_GetAccess: the present access; from 2 on the parameter is available. */
 enum {
     OrvGenParam_AccessNotImplemented = 0,
     OrvGenParam_AccessNotAvailable = 1,
@@ -74,20 +74,20 @@ enum {
     OrvGenParam_AccessReadWrite = 4
 };
 
-/* What a code means, in English, for an unknown one, too. Static: valid for ever, never null. */
+/* The meaning of an error code in English, also for an unknown one. A static text, never null. */
 ORVCAMERAAPI_EXPORT const char *OrvCam_GetErrorText(int32_t error);
 
 /*
- * Why the last function of this header that failed on the calling thread did so, in English, with
- * the camera's reason and the names that matter; "" before the first. Valid until the next function
- * of this header fails on the same thread. Functions that succeed leave it as it is.
+ * The reason of the last failure of a function of this header on the calling thread, in English,
+ * with the camera's reason and the relevant names; "" before the first. Valid until the next
+ * function of this header fails on the same thread. Functions that succeed do not change it.
  */
 ORVCAMERAAPI_EXPORT const char *OrvCam_GetLastErrorMessage(void);
 
 /*
- * Runs the default GLib main context for so many milliseconds, 0 for what is waiting to be run: for
- * programs that neither do so themselves nor run the event loop of Qt. Changes that come from the
- * camera are noticed only while it runs. On the thread that opened the camera.
+ * Runs the default GLib main context for that number of milliseconds, 0 for pending events only.
+ * For programs that neither run the context nor the event loop of Qt. Changes by the camera are
+ * noticed only while it runs. Call it on the thread that opened the camera.
  */
 ORVCAMERAAPI_EXPORT void OrvCam_ProcessEvents(uint32_t durationMs);
 
@@ -99,14 +99,14 @@ ORVCAMERAAPI_EXPORT OrvGenApiNode *OrvGenParam_FindNode(OrvGenApiNodeMap *nodeMa
 ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetFeatures(OrvGenApiNodeMap *nodeMap, OrvGenApiNode **nodes,
                                                    size_t capacity);
 
-/* What a category lists, parameters and categories, in that order; none for another kind. */
+/* The entries of a category, parameters and categories, in that order; none for another kind. */
 ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetCategoryFeatures(OrvGenApiNode *category,
                                                            OrvGenApiNode **nodes, size_t capacity);
 
 /*
  * The entries of an enumeration, available or not, in the order of the description; none for
- * another kind. An entry's symbolic name and number are read like those of an enumeration, its
- * availability is its access.
+ * another kind. The symbolic name and number of an entry are read like those of an enumeration; its
+ * access states whether it is available.
  */
 ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetEntries(OrvGenApiNode *enumeration, OrvGenApiNode **nodes,
                                                   size_t capacity);
@@ -115,8 +115,8 @@ ORVCAMERAAPI_EXPORT size_t OrvGenParam_GetEntries(OrvGenApiNode *enumeration, Or
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetKind(const OrvGenApiNode *node);
 
 /*
- * What the description says; these texts never change. The display name is the name where the
- * description gives none. The unit is "" for a number without one, and for other kinds.
+ * Texts of the description, which never change. Without a display name it is the name. The unit is
+ * "" for a number without one, and for other kinds.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetName(OrvGenApiNode *node, char *text, size_t size,
                                                 size_t *length);
@@ -130,7 +130,7 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetUnit(OrvGenApiNode *node, char *text,
                                                 size_t *length);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetVisibility(OrvGenApiNode *node, int32_t *visibility);
 
-/* May ask the camera. OrvCam_ErrorGone, and not available, while it is unplugged. */
+/* May read from the camera. OrvCam_ErrorGone, and not available, while it is unplugged. */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetAccess(OrvGenApiNode *node, int32_t *access);
 
 /* Integers, and enumerations by the number of an entry; also the number of an entry itself. */
@@ -149,36 +149,36 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetFloat(OrvGenApiNode *node, double val
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetFloatLimits(OrvGenApiNode *node, double *min,
                                                        double *max, double *increment);
 
-/* 0 and 1; every other number that is set counts as 1. */
+/* 0 and 1; any other number counts as 1. */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetBoolean(OrvGenApiNode *node, int32_t *value);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetBoolean(OrvGenApiNode *node, int32_t value);
 
 /*
- * An enumeration by the symbolic name of an entry; "" when the camera's value belongs to none. Also
+ * An enumeration by the symbolic name of an entry; "" when the camera's value has no entry. Also
  * the name of an entry itself.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetSymbolic(OrvGenApiNode *node, char *text, size_t size,
                                                     size_t *length);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetSymbolic(OrvGenApiNode *node, const char *symbolic);
 
-/* Text parameters. *maxLength is in bytes, without a 0. */
+/* Text parameters. *maxLength is in bytes, without the terminating 0. */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetString(OrvGenApiNode *node, char *text, size_t size,
                                                   size_t *length);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetString(OrvGenApiNode *node, const char *value);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetMaxLength(OrvGenApiNode *node, int64_t *maxLength);
 
 /*
- * The value of any kind as text, as settings files have it: decimal numbers with a point, or "0x"
- * and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names. Commands
- * cannot be set.
+ * The value of any kind as text, in the format of settings files: decimal numbers with a point, or
+ * "0x" and hexadecimal digits, "1" and "0" or "true" and "false" for booleans, symbolic names.
+ * Commands cannot be set.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_GetValueText(OrvGenApiNode *node, char *text, size_t size,
                                                      size_t *length);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_SetValueText(OrvGenApiNode *node, const char *value);
 
 /*
- * Waits until the camera has taken a command, not until it has carried it out; *isDone is 1 when it
- * has, else 0, and asks the camera.
+ * Blocks until the camera has accepted a command, not until it has finished. *isDone is 1 when it
+ * has finished, otherwise 0; that reads from the camera.
  */
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_Execute(OrvGenApiNode *node);
 ORVCAMERAAPI_EXPORT int32_t OrvGenParam_IsDone(OrvGenApiNode *node, int32_t *isDone);
@@ -189,19 +189,19 @@ ORVCAMERAAPI_EXPORT int32_t OrvGenParam_IsDone(OrvGenApiNode *node, int32_t *isD
  * context. A change made on that thread calls it at once, from inside the function that makes the
  * change. Changes by the camera or by other threads are collected and reported from the context.
  *
- * `changed` may call any function, OrvGenParam_Unwatch for its own watch, too, but must not release
- * the device or node map, nor throw.
+ * `changed` may call any function, including OrvGenParam_Unwatch for its own watch, but must not
+ * release the device or node map, nor throw.
  *
  * Null on failure, with the reason in *error unless error is null. The caller owns the watch and
- * ends it with OrvGenParam_Unwatch on the same thread; that may be done after the end of the node
- * map, with which the calls end.
+ * destroys it with OrvGenParam_Unwatch on the same thread. The calls end with the node map, but the
+ * watch must be destroyed nevertheless.
  */
 typedef struct OrvGenParamWatch OrvGenParamWatch;
 typedef void (*OrvGenParamChanged)(OrvGenApiNode *node, void *userData);
 ORVCAMERAAPI_EXPORT OrvGenParamWatch *
 OrvGenParam_Watch(OrvGenApiNode *node, OrvGenParamChanged changed, void *userData, int32_t *error);
 
-/* No call comes after this. Null is ignored. */
+/* No calls are made afterwards. Null is ignored. */
 ORVCAMERAAPI_EXPORT void OrvGenParam_Unwatch(OrvGenParamWatch *watch);
 
 #ifdef __cplusplus

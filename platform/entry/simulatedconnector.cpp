@@ -40,7 +40,7 @@ OpenedCamera SimulatedConnector::openPort(int32_t accessMode, const OpenProgress
     if (error != Success)
         return {};
     try {
-        // The port keeps the camera open.
+        // The port keeps the camera alive.
         return {SimulatedCamera(m_camera->identity).port(), SimulatedCamera::description()};
     } catch (const GenICam::AccessException &) {
         error = ErrorBusy;

@@ -9,7 +9,7 @@ namespace OrvCam {
 
 struct SimulatedEntry;
 
-/// Opens a simulated camera, or refuses to as its access state says.
+/// Opens a simulated camera, or refuses to according to its access state.
 class SimulatedConnector final : public PortConnector
 {
 public:

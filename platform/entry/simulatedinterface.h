@@ -12,18 +12,18 @@
 
 namespace OrvCam {
 
-/// A simulated camera as it looks from outside, whether it is open or not.
+/// The visible data of a simulated camera, whether it is open or not.
 struct SimulatedEntry
 {
     OrvSimulation::CameraIdentity identity;
     int32_t accessState = AccessReadWrite; ///< while this program has not opened it
-    bool isNameless = false;               ///< says nothing about itself
+    bool isNameless = false;               ///< it reports no texts
 
     std::string id() const;
 };
 
-/// An interface of the simulated system. With an adapter's addresses it is a GigE Vision interface
-/// with its parameters.
+/// An interface of the simulated system. With the addresses of an adapter it is a GigE Vision
+/// interface with its parameters.
 class SimulatedInterface final : public CameraInterface, private GevNetwork
 {
 public:
@@ -32,7 +32,7 @@ public:
 
     void setAdapter(const GevAddresses &adapter);
 
-    /// Has the interface return null in place of its cameras.
+    /// Makes the interface return null in place of its cameras.
     void refuseToList() { m_refusesToList = true; }
 
     DeviceInfoList *GetDeviceInfoSet() override;

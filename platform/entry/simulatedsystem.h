@@ -7,9 +7,9 @@
 
 namespace OrvCam {
 
-/// A camera system without hardware that sends nothing anywhere. It shows all that a real one may:
-/// three kinds of interface, one of them without cameras and one that cannot list any, and cameras
-/// in every access state and with names of every sort.
+/// A camera system without hardware and network access. It covers the variety of real ones: three
+/// kinds of interface, one of them without cameras and one that cannot list any, and cameras with
+/// every access state and all kinds of names.
 class SimulatedSystem final : public CameraSystem
 {
 public:

@@ -10,8 +10,8 @@ namespace {
 
 constexpr const char replacement[] = "\xEF\xBF\xBD";
 
-/// What a first byte says: how many bytes the character has, and the limits of the second one,
-/// which keep out overlong forms, surrogates and numbers beyond the last character.
+/// The first byte of a character determines its number of bytes and the limits of the second byte,
+/// which exclude overlong forms, surrogates and numbers beyond the last character.
 struct Lead
 {
     unsigned char first;
@@ -37,7 +37,7 @@ bool isWithin(unsigned char byte, unsigned char min, unsigned char max)
     return byte >= min && byte <= max;
 }
 
-/// The length of the character that begins there; 0 for none.
+/// The length of the character that begins there; 0 for an invalid one.
 std::size_t characterAt(const std::string &bytes, std::size_t start)
 {
     const unsigned char first = at(bytes, start);

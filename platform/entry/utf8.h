@@ -5,10 +5,10 @@
 
 namespace OrvCam {
 
-/// Valid UTF-8 of what a camera has sent: each byte that is part of no character becomes U+FFFD.
+/// Makes bytes from a camera valid UTF-8: each byte that is not part of a character becomes U+FFFD.
 std::string validUtf8(const std::string &bytes);
 
-/// Copies the characters that have room, in whole, and a 0. Does nothing without room for the 0.
+/// Copies as many whole characters as fit, and a 0. Does nothing without room for the 0.
 void copyUtf8(const std::string &text, char *to, std::size_t size);
 
 } // namespace OrvCam

@@ -13,8 +13,8 @@
 
 namespace OrvGenApi {
 
-/// What every node of a `DeclaredNodeMap` can do beyond its interface. The changes made here
-/// invalidate dependents and call callbacks.
+/// Common functions of the nodes of a `DeclaredNodeMap`. Changes through them invalidate dependents
+/// and call callbacks.
 template<typename Base>
 class DeclaredNode : public Base
 {
@@ -40,7 +40,7 @@ private:
     GenApi::EAccessMode m_access = GenApi::RW;
 };
 
-/// An integer whose value a pair of functions fetches and stores.
+/// An integer with a function to read and one to write its value.
 class DeclaredInteger : public DeclaredNode<IntegerNode>
 {
 public:
@@ -50,7 +50,7 @@ public:
     void bind(
         std::function<int64_t()> get, std::function<void(int64_t)> set = [](int64_t) {});
 
-    /// May break the current value.
+    /// The current value may become invalid.
     void setLimits(int64_t min, int64_t max);
     void setRepresentation(GenApi::ERepresentation representation);
 
@@ -73,7 +73,7 @@ private:
     GenApi::ERepresentation m_representation = GenApi::PureNumber;
 };
 
-/// A command that is done at once.
+/// A command that completes immediately.
 class DeclaredCommand : public DeclaredNode<CommandNode>
 {
 public:
@@ -101,8 +101,8 @@ protected:
 /// A complete node map whose nodes are declared in C++: for the parameters of interfaces, which
 /// have no description.
 ///
-/// Declare the nodes first, then hand the map to clients. Nodes are readable and writable unless
-/// set otherwise; what else a description would say is set through `properties()`.
+/// Declare the nodes before clients get the map. Nodes are readable and writable unless set
+/// otherwise; other properties of a description are set through `properties()`.
 class DeclaredNodeMap : public NodeMapBase
 {
 public:
@@ -111,13 +111,13 @@ public:
 
     DeclaredCategory &root() { return *m_root; }
 
-    /// The category of that name, made below "Root" when it does not exist.
+    /// The category of that name, which is created below "Root" if it does not exist.
     DeclaredCategory &category(const std::string &name);
     DeclaredCategory &addCategory(const std::string &name, const std::string &parent = "Root");
 
-    /// Adds a node of the class `T` at the end of that category, which is made when it does not
-    /// exist. An empty `category` lists the node nowhere. Throws `LogicalErrorException` when the
-    /// name is taken.
+    /// Adds a node of the class `T` at the end of that category, which is created if it does not
+    /// exist. With an empty `category` the node is not listed. Throws `LogicalErrorException` when
+    /// the name is in use.
     template<typename T, typename... Args>
     T &add(const std::string &name, const std::string &category, Args &&...args);
 

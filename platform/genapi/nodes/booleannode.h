@@ -5,7 +5,7 @@
 
 namespace OrvGenApi {
 
-/// A switch with its checks and cache.
+/// A Boolean with its checks and cache.
 class BooleanNode : public ValueNode<GenApi::IBoolean>
 {
 public:

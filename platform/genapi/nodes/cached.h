@@ -11,13 +11,12 @@
 
 namespace OrvGenApi {
 
-/// A result that is computed when it is first queried and kept until it is dropped. A failure is
-/// kept like a value: asking again must not cost the camera another transaction. A time-out is not:
-/// it passes by itself when the camera answers again, and no caller waits for it twice, since the
-/// registers of a silent camera fail at once.
+/// A result that is computed by the first query and cached until it is dropped. A failure is
+/// cached, too, so that another query costs no transfer. A time-out is not: it is temporary, and
+/// causes no second wait, because the registers of a silent camera fail at once.
 ///
-/// What is not yet known is not computed twice in a round of a question: many nodes may need it,
-/// and each would find all that is missing again.
+/// A missing result is computed only once per round of a query: many nodes may depend on it, and
+/// each would find the same registers missing.
 template<typename T>
 class Cached
 {

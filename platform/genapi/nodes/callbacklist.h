@@ -22,12 +22,12 @@ public:
     /// Takes ownership.
     GenApi::CallbackHandleType add(GenApi::CNodeCallback *callback);
 
-    /// Destroys the callback; false when the handle is unknown. With `mayWait`, waits for a call
-    /// that another thread is in the middle of.
+    /// Destroys the callback; false for an unknown handle. With `mayWait`, blocks until a call that
+    /// is running on another thread has returned.
     bool remove(GenApi::CallbackHandleType handle, bool mayWait);
 
-    /// Calls every callback that was registered when the call began and is still registered when
-    /// its turn comes. A GenICam exception of one does not keep the others from being called.
+    /// Calls every callback that was registered at the beginning and is still registered at its
+    /// turn. A GenICam exception of one does not prevent the calls of the others.
     void call(GenApi::ECallbackType type);
 
     bool isEmpty() const;

@@ -32,7 +32,8 @@ protected:
 
 private:
     std::vector<Node *> m_features;
-    GenApi::FeatureList_t m_values; ///< the same; clients ask for them all the time
+    /// The same as `IValue`, cached because clients query them often.
+    GenApi::FeatureList_t m_values;
 };
 
 } // namespace OrvGenApi

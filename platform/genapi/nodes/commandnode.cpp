@@ -20,7 +20,7 @@ void CommandNode::Execute(bool verify)
 bool CommandNode::IsDone(bool)
 {
     if (!Question::current(map())) {
-        // Only what the command itself is read from: nothing has happened to its dependents.
+        // Only the sources of the command: its dependents have not changed.
         const AutoLock lock(map().GetLock());
         for (Node *node : writtenNodes()) {
             node->dropRegister();

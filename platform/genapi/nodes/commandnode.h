@@ -5,7 +5,7 @@
 
 namespace OrvGenApi {
 
-/// A command of the camera. As text it is "1" while it is being executed, "0" otherwise.
+/// A command of the camera. Its text is "1" while it is being executed, otherwise "0".
 class CommandNode : public ValueNode<GenApi::ICommand>
 {
 public:
@@ -16,7 +16,7 @@ public:
     bool IsDone(bool verify = true) override;
     GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
 
-    /// Executes; the text does not matter.
+    /// Executes the command; the text is ignored.
     void FromString(const GenICam::gcstring &text, bool verify = true) override;
     bool IsValueCacheValid() const override { return false; }
     GenApi::EInterfaceType GetPrincipalInterfaceType() const override
@@ -27,7 +27,7 @@ public:
 protected:
     virtual void execute() = 0;
 
-    /// Asks the camera, never a cache.
+    /// Reads from the camera, not from a cache.
     virtual bool readIsDone() = 0;
 };
 

@@ -8,7 +8,7 @@
 
 namespace OrvGenApi {
 
-/// What the description says of an entry of an enumeration.
+/// The properties of an entry of an enumeration.
 struct EnumEntryProperties
 {
     std::string symbolic;
@@ -29,7 +29,7 @@ public:
     bool IsSelfClearing() override { return m_entry.selfClearing; }
     GenICam::gcstring ToString(bool verify = false, bool ignoreCache = false) override;
 
-    /// Always throws: an entry is chosen through its enumeration.
+    /// Always throws: an entry is selected through its enumeration.
     void FromString(const GenICam::gcstring &text, bool verify = true) override;
     bool IsValueCacheValid() const override { return true; }
     GenApi::EInterfaceType GetPrincipalInterfaceType() const override

@@ -14,14 +14,14 @@ EAccessMode combinedAccessMode(EAccessMode left, EAccessMode right)
     if (left == NI || right == NI)
         return NI;
     if (!IsReadable(left) && !IsWritable(left))
-        return NA; // also a node whose access mode depends on itself
+        return NA; // includes a node whose access mode depends on itself
     if (!IsReadable(right) && !IsWritable(right))
         return NA;
     if (left == RW)
         return right;
     if (right == RW || left == right)
         return left;
-    return NA; // one only reads, the other only writes
+    return NA; // one is read-only, the other write-only
 }
 
 Node::Node(NodeMapBase &map, NodeProperties properties)
@@ -96,7 +96,7 @@ void Node::GetChildren(NodeList_t &children, ELinkType linkType) const
 {
     std::vector<Node *> nodes;
     if (linkType == ctDependingNodes) {
-        // Changing the node changes what it is written through as well.
+        // A change of the node also changes the nodes through which it is written.
         auto *self = const_cast<Node *>(this);
         nodes = m_map.closure(self->writtenNodes());
         nodes.erase(std::remove(nodes.begin(), nodes.end(), self), nodes.end());

@@ -14,7 +14,7 @@ namespace OrvGenApi {
 
 class NodeMapBase;
 
-/// What the description of a node says once and for all.
+/// The constant properties of a node.
 struct NodeProperties
 {
     std::string name;
@@ -30,9 +30,9 @@ struct NodeProperties
     bool deprecated = false;
 };
 
-/// Base of every node: identity, access mode, place in the dependency graph and callbacks. The
-/// classes derived from it implement the value interfaces with their checks and caches; where a
-/// value comes from is left to the classes derived from those.
+/// Base of all nodes: identity, access mode, position in the dependency graph and callbacks.
+/// Derived classes implement the value interfaces with their checks and caches; classes derived
+/// from those supply the values.
 class Node : public virtual GenApi::INode, public virtual GenApi::ISelector
 {
 public:
@@ -46,23 +46,24 @@ public:
     const NodeProperties &properties() const { return m_properties; }
     NodeMapBase &map() const { return m_map; }
 
-    /// Forgets what is cached of this node alone.
+    /// Drops the caches of this node alone.
     virtual void dropCache();
 
-    /// Forgets what the node keeps of the camera's memory. For registers; nothing otherwise.
+    /// Drops the cached contents of the register. Does nothing for other nodes.
     virtual void dropRegister() {}
 
-    /// Has the node, and what its value comes from, polled although the value is not read: a
-    /// client waits for its changes.
+    /// Makes the node, and the nodes of its value, be polled even if the value is not read, because
+    /// a client waits for changes.
     void keepPolled();
 
-    /// Whether that was called since the last call of this one.
+    /// Whether `keepPolled` was called since the last call of this function.
     bool takePollWanted() { return std::exchange(m_isPollWanted, false); }
 
-    /// The nodes whose contents change when this one is written, this one first.
+    /// The nodes whose values change when this one is written, this one first.
     virtual std::vector<Node *> writtenNodes() { return {this}; }
 
-    /// The nodes that must be forgotten for the next read to ask the camera, this one first.
+    /// The nodes whose caches must be dropped for the next query to read the camera, this one
+    /// first.
     virtual std::vector<Node *> terminalNodes() { return {this}; }
 
     // INode
@@ -97,27 +98,26 @@ public:
     void GetSelectingFeatures(GenApi::FeatureList_t &features) const override;
 
 protected:
-    /// The access mode before what was imposed. Called with the lock held; the result is cached
-    /// when `accessIsCachable()`.
+    /// The access mode before it is restricted by `ImposeAccessMode`. Called with the lock held;
+    /// the result is cached when `accessIsCachable()`.
     virtual GenApi::EAccessMode readAccessMode() const = 0;
 
-    /// The same before it is known whether the node is locked against writing.
+    /// The same before a lock against writing is applied.
     virtual GenApi::EAccessMode readUnlockedAccessMode() const { return readAccessMode(); }
     virtual bool accessIsCachable() const { return true; }
     virtual bool valueIsCachable() const { return IsCachable(); }
     virtual bool limitsAreCachable() const { return true; }
 
-    /// The neighbours other than those that the dependency graph knows.
+    /// The neighbours other than those of the dependency graph.
     virtual void collectChildren(std::vector<Node *> &children, GenApi::ELinkType linkType) const;
 
-    /// A lock against writing may still be unknown, so that the value is looked up together with
-    /// it.
+    /// The lock against writing may be missing, too, so the value is looked up together with it.
     void requireReadable() const;
     void requireWritable() const;
 
-    /// Runs a check and a write under the lock, which is released while the camera is talked to,
-    /// forgets what the write has changed and calls the callbacks. A write that fails may have got
-    /// through in part: everything is forgotten too, but no callback is called.
+    /// Runs a check and a write under the lock, which is released during the transfer, drops the
+    /// caches that depend on it and calls the callbacks. A failed write may have changed some
+    /// registers: the caches are dropped, too, but no callback is called.
     template<typename Check, typename Write>
     void write(Check check, Write write);
 
@@ -130,10 +130,10 @@ private:
 
     NodeMapBase &m_map;
     NodeProperties m_properties;
-    std::size_t m_index = 0; ///< position in the node map
+    std::size_t m_index = 0; ///< index in the node map
     bool m_isFeature = false;
     bool m_isPollWanted = false;
-    bool m_isToBeNotified = false; ///< is in the map's list
+    bool m_isToBeNotified = false; ///< it is in the map's list of changed nodes
     GenApi::EAccessMode m_imposedAccess = GenApi::RW;
     GenApi::EVisibility m_imposedVisibility = GenApi::Beginner;
     int64_t m_sincePolled = 0; ///< ms
@@ -146,7 +146,7 @@ private:
     CallbackList m_callbacks;
 };
 
-/// The narrower of two access modes.
+/// The more restrictive of two access modes.
 GenApi::EAccessMode combinedAccessMode(GenApi::EAccessMode left, GenApi::EAccessMode right);
 
 } // namespace OrvGenApi

@@ -16,8 +16,8 @@ bool contains(const std::vector<Node *> &nodes, const Node *node)
     return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
 }
 
-/// Each of the two lists has the other node. The shorter one is searched, so that a node with very
-/// many neighbours costs no more than one with few.
+/// Each node is in the list of the other one. The shorter list is searched, so that a node with
+/// very many neighbours does not slow down the others.
 bool areLinked(const std::vector<Node *> &list, const Node &node,
                const std::vector<Node *> &otherList, const Node &otherNode)
 {
@@ -125,8 +125,8 @@ void NodeMapBase::forget(const std::vector<Node *> &nodes) const
     for (Node *node : nodes)
         node->dropRegister();
     for (Node *node : closure(nodes)) {
-        // What a register depends on is where it lies or when it changes: either way its contents
-        // are another's or outdated.
+        // A register depends on nodes that determine its address or invalidate it; either way its
+        // cached contents are invalid.
         node->dropRegister();
         node->dropCache();
     }
@@ -154,7 +154,8 @@ void NodeMapBase::carryOut(Question &) {}
 
 void NodeMapBase::fetchAgain(Question &question, int round) const
 {
-    // References are not nearly as deep: something changes faster than it can be read.
+    // More than the depth of references in any description: a register changes faster than it can
+    // be read.
     constexpr int maxRounds = 1000;
     if (round == maxRounds)
         throw GenICam::RuntimeException("The camera's registers do not come to rest", __FILE__,
@@ -166,7 +167,7 @@ void NodeMapBase::fetchAgain(Question &question, int round) const
 
 void NodeMapBase::interruptChange(const std::function<void()> &call)
 {
-    // Changes that other threads make in between are not part of this one.
+    // Changes by other threads in between are not part of this one.
     const int depth = std::exchange(m_changeDepth, 0);
     m_lock.Unlock();
     const auto resume = [&] {
@@ -193,7 +194,7 @@ void NodeMapBase::changed(const std::vector<Node *> &nodes)
     const std::set<const Node *> written(nodes.begin(), nodes.end());
     const auto all = closure(nodes);
     for (Node *node : all) {
-        // The registers just written know their contents; those that depend on them do not.
+        // The registers just written are cached; those that depend on them are invalid.
         if (written.count(node) == 0)
             node->dropRegister();
         node->dropCache();

@@ -13,8 +13,8 @@
 
 namespace OrvGenApi {
 
-/// The part of a node map that does not depend on the source of the values: the nodes and their
-/// names, the dependency graph, the lock, changes with their callbacks, and polling.
+/// The part of a node map that does not depend on the source of the values: nodes, names, the
+/// dependency graph, the lock, changes with their callbacks, and polling.
 class NodeMapBase : public GenApi::INodeMap
 {
 public:
@@ -30,43 +30,43 @@ public:
     /// A change of `source` will invalidate `dependent`.
     void addDependency(Node &source, Node &dependent);
 
-    /// The selector decides which of its several values `selected` has.
+    /// The selector determines which of several values `selected` has.
     void addSelection(Node &selector, Node &selected);
     void markAsFeature(Node &node) { node.m_isFeature = true; }
 
-    /// The nodes, then all that depend on them, directly or not, in the map's order; each once.
+    /// The nodes, then all direct and indirect dependents, in the map's order and without
+    /// duplicates.
     std::vector<Node *> closure(const std::vector<Node *> &nodes) const;
 
     /// The nodes that refer to this one.
     std::vector<Node *> parentsOf(const Node &node) const;
 
-    /// Forgets the nodes' values, what they read them from, and all that depends on either.
+    /// Drops the caches of the nodes, of their sources, and of all nodes that depend on either.
     void invalidate(const std::vector<Node *> &nodes) const;
 
-    /// As `invalidate`, then calls the callbacks: for values that changed in the camera.
+    /// The same, then calls the callbacks: for values that changed in the camera.
     void notifyChanged(const std::vector<Node *> &nodes);
 
-    /// Answers a question: returns what `compute` does, which runs under the lock and looks at what
-    /// is known. What it finds missing is fetched without the lock, and it runs again. Within
-    /// another question of this thread it is part of that one.
+    /// Evaluates a query: returns the result of `compute`, which runs under the lock and uses
+    /// cached data. Missing data are fetched without the lock, and `compute` runs again. Inside
+    /// another query of this thread it is part of that one.
     template<typename Compute>
     auto answer(Compute compute) const -> decltype(compute());
 
-    /// As `answer`, but fetches nothing: false when something was missing, which has been noted in
-    /// the question.
+    /// As `answer`, but fetches nothing: returns false when data are missing, which have been noted
+    /// in the query.
     template<typename Compute>
     bool look(Question &question, Compute compute) const;
 
-    /// As `invalidate` for the one node, unless it is part of a question: that has been asked
-    /// already.
+    /// As `invalidate` for one node, except inside a query, which has read the node already.
     void refresh(Node &node) const;
 
-    // For nodes that are being written: between `enterChange`, which takes the lock, and the
-    // matching `leaveChange`, which releases it, changes are reported. The callbacks that want the
-    // lock released run when the outermost change is left.
+    // For nodes that are being written. Changes are collected between `enterChange`, which takes
+    // the lock, and the matching `leaveChange`, which releases it. Callbacks outside the lock run
+    // when the outermost change ends.
     void enterChange();
 
-    /// Between the two: runs `compute` like `answer` does, carries out the writes that it notes.
+    /// Inside a change: runs `compute` as `answer` does, and executes the writes that it notes.
     template<typename Compute>
     void computeInChange(Compute compute);
 
@@ -87,12 +87,12 @@ protected:
     /// Throws `LogicalErrorException` when the name is taken.
     void adopt(std::unique_ptr<Node> node);
 
-    /// Gets what the question found missing; a failure to get it is a result, too. Called without
-    /// the lock. Maps whose nodes keep their values themselves have nothing to do.
+    /// Fetches the missing data of the query; a failure is a result, too. Called without the lock.
+    /// Not needed in maps whose nodes store their values themselves.
     virtual void fetchMissing(Question &question) const;
 
-    /// Carries out the writes of the question; throws what became of the first one that failed.
-    /// Called without the lock.
+    /// Executes the writes of the query; throws the error of the first one that failed. Called
+    /// without the lock.
     virtual void carryOut(Question &question);
 
 private:
@@ -104,9 +104,11 @@ private:
     std::string m_deviceName;
     mutable GenApi::CLock m_lock;
     std::vector<std::unique_ptr<Node>> m_nodes;
-    std::unordered_map<std::string_view, Node *> m_byName; ///< the nodes keep their names
+    /// The keys refer to the names in the nodes.
+    std::unordered_map<std::string_view, Node *> m_byName;
     int m_changeDepth = 0;
-    std::vector<Node *> m_toNotify; ///< outside the lock, when the outermost change is left
+    /// Nodes to notify outside the lock, when the outermost change ends.
+    std::vector<Node *> m_toNotify;
 };
 
 template<typename Compute>

@@ -147,8 +147,8 @@ bool isOnIncrement(double value, double minimum, double increment)
 {
     if (!(increment > 0))
         return true;
-    // A multiple of the increment is rarely exact: what counts is to be nearer to one than any
-    // rounding error.
+    // A multiple of the increment is rarely exact; the distance to one must be within the rounding
+    // error.
     const double steps = (value - minimum) / increment;
     return std::abs(steps - std::round(steps)) < 1e-6 * std::max(1.0, std::abs(steps));
 }

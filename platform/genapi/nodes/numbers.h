@@ -13,8 +13,7 @@ namespace OrvGenApi {
 /// bytes, by representation.
 std::string integerToText(int64_t value, GenApi::ERepresentation representation);
 
-/// The reverse; takes every one of these forms, for any representation. Nothing when the text
-/// is none of them.
+/// The reverse; accepts all of these forms for any representation. Empty for any other text.
 std::optional<int64_t> integerFromText(const std::string &text);
 
 /// A number as text, independent of the locale. `precision` is the number of significant digits
@@ -26,11 +25,11 @@ std::optional<double> floatFromText(const std::string &text);
 std::string numberText(int64_t value);
 std::string numberText(double value);
 
-/// True for equal numbers; floating-point numbers may differ by what rounding does to them.
+/// True for equal numbers; floating-point numbers may differ by rounding errors.
 bool areSame(int64_t left, int64_t right);
 bool areSame(double left, double right);
 
-/// The text without blanks around it.
+/// The text without surrounding white space.
 std::string trimmed(const std::string &text);
 
 /// True when `value` is `minimum` plus a multiple of `increment`, computed without overflow.

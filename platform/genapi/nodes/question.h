@@ -13,24 +13,24 @@ namespace OrvGenApi {
 
 class NodeMapBase;
 
-/// Thrown while a question is answered: something must be fetched first. What it is has been noted
-/// in the question. Deliberately no exception of GenICam, so that no code that survives the failure
-/// of a node takes it for one; nothing may keep it as a result.
+/// Thrown during a query when data must be fetched first, which have been noted in the query.
+/// Deliberately not a GenICam exception, so that no code handles it as the failure of a node; it
+/// must never be cached as a result.
 struct NotYetKnown
 {
 };
 
-/// A question to a node map while it is being answered, on the thread that asked.
+/// A query of a node map, on the thread that makes it.
 ///
-/// Answering is computing only: nodes look at what is known. What is missing is noted here and
-/// `NotYetKnown` is thrown; after it was fetched, without the lock, the question is answered from
-/// the start. What a write means for the camera is noted here, too, and carried out afterwards.
+/// The evaluation uses cached data only. Missing data are noted and `NotYetKnown` is thrown; after
+/// they were fetched, without the lock, the evaluation starts again. Writes are noted, too, and
+/// executed after the evaluation.
 class Question
 {
 public:
     enum class Kind {
-        Waiting, ///< what is missing will be fetched
-        Looking  ///< the caller accepts "not yet", and values a second old
+        Waiting, ///< missing data will be fetched
+        Looking  ///< missing data are allowed, and volatile values may be a second old
     };
 
     explicit Question(Kind kind) : m_kind(kind) { beginRound(); }
@@ -39,25 +39,25 @@ public:
 
     Kind kind() const { return m_kind; }
 
-    /// The one that this thread is answering for that map, or null.
+    /// The query of that map that this thread is evaluating, or null.
     static Question *current(const NodeMapBase &map);
 
-    /// Between two rounds nothing becomes known to the question. To be called
-    /// when what was missing has been fetched.
+    /// Starts a round; during a round no further data become available. Call it when the missing
+    /// data have been fetched.
     void beginRound();
 
-    /// A number for the round of the innermost question that this thread is answering; 0 when there
-    /// is none. No two rounds have the same.
+    /// The number of the round of this thread's innermost query; 0 without one. No two rounds have
+    /// the same number.
     static uint64_t currentRound();
 
     std::vector<RegisterRange> missing;
     std::vector<RegisterWrite> writes;
 
-    /// The moment at which it was asked, in the terms of the map's register cache; 0 while no
-    /// register that must not be older than the question has been read.
+    /// The logical time of the query in the register cache; 0 until a register is read that must
+    /// not be older than the query.
     uint64_t askedAt = 0;
 
-    /// Makes a question the current one of this thread as long as it lives.
+    /// Makes a query the current one of this thread while an instance exists.
     class Scope
     {
     public:
@@ -79,8 +79,7 @@ private:
     uint64_t m_round = 0;
 };
 
-/// Lets several things be looked at before `NotYetKnown` is passed on, so that one round fetches
-/// what all of them need.
+/// Delays `NotYetKnown` so that one round fetches the data for several lookups.
 class Gather
 {
 public:
@@ -94,7 +93,7 @@ public:
         }
     }
 
-    /// Throws `NotYetKnown` when something was missing.
+    /// Throws `NotYetKnown` when data are missing.
     void finish() const
     {
         if (m_isIncomplete)

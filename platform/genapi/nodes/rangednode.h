@@ -13,8 +13,8 @@
 
 namespace OrvGenApi {
 
-/// A number with limits, an increment or a list of valid values: what integers and floating-point
-/// numbers have in common. `Interface` is `IInteger` or `IFloat`, `T` its number, `List` its list
+/// The common part of integers and floating-point numbers: a number with limits, an increment or a
+/// list of valid values. `Interface` is `IInteger` or `IFloat`, `T` its number, `List` its list
 /// type.
 template<typename Interface, typename T, typename List>
 class RangedNode : public ValueNode<Interface>
@@ -134,7 +134,7 @@ protected:
     virtual T readMin() = 0;
     virtual T readMax() = 0;
 
-    /// Nothing when every value within the limits is valid.
+    /// Empty when every value within the limits is valid.
     virtual std::optional<T> readInc() = 0;
 
     /// Empty when the feature has no list of valid values.
@@ -169,7 +169,7 @@ private:
         gather([&] { inc = increment(); });
         gather.finish();
         const auto [min, max] = bounds();
-        if (!(value >= min)) // what is not a number is not in any range
+        if (!(value >= min)) // NaN is in no range
             fail("is below the minimum " + numberText(min));
         if (value > max)
             fail("is above the maximum " + numberText(max));

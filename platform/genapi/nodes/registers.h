@@ -7,7 +7,7 @@
 
 namespace OrvGenApi {
 
-/// A register: where it lies, and how long it is in bytes.
+/// A register: its address and its length in bytes.
 struct RegisterRange
 {
     uint64_t address = 0;
@@ -23,25 +23,25 @@ struct RegisterRange
     }
 };
 
-/// A register that is to be written, whole or in part.
+/// A write to a register, complete or partial.
 struct RegisterWrite
 {
     uint64_t address = 0;
     std::vector<uint8_t> bytes;
 
-    /// Which bits of `bytes` count; the others keep what the register holds. Empty for all of them.
+    /// The bits of `bytes` to write; the others keep their values. Empty for all of them.
     std::vector<uint8_t> mask;
 
-    /// For a masked write: what was read of the register before this moment is outdated.
+    /// For a masked write: the time before which cached contents are too old.
     uint64_t staleSince = 0;
 
     /// For a masked write: the register cannot be read, so the other bits become 0.
     bool isWriteOnly = false;
 
-    /// False for a register that does not keep what is written: what it holds must be read.
+    /// False for a register that may change what is written, so that it must be read back.
     bool isKept = true;
 
-    /// The name of the node, for messages; it lives as long as the node.
+    /// The name of the node, for messages; owned by the node.
     std::string_view node = {};
 };
 
