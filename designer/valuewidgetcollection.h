@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-/** The plugin: all value widgets, for Qt Designer and QUiLoader. */
+/** The plugin: a collection of all value widgets, for Qt Designer and QUiLoader. */
 class ValueWidgetCollection : public QObject, public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT

@@ -5,17 +5,17 @@
 #include <QString>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
-/** What Qt Designer has to know of one value widget. */
+/** The description of one value widget for Qt Designer. */
 struct ValueWidgetDescription
 {
     QString className;
     QString toolTip;
     QString whatsThis;
-    QSize size; ///< On the form, when it has just been dropped there.
+    QSize size; ///< The initial size on a form.
     QWidget *(*create)(QWidget *parent);
 };
 
-/** Offers one value widget in Qt Designer; its icon and its header are named like the class. */
+/** Provides one value widget to Qt Designer; its icon and its header are named like the class. */
 class ValueWidgetInterface : public QDesignerCustomWidgetInterface
 {
 public:

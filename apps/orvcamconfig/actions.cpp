@@ -13,11 +13,12 @@ using OrvGui::OrvCameraSettings;
 
 namespace {
 
-constexpr int64_t largestExact = int64_t(1) << 53; ///< of the integers that JSON's numbers can hold
+/// The integers up to which JSON numbers are exact.
+constexpr int64_t largestExact = int64_t(1) << 53;
 
 volatile std::sig_atomic_t isInterrupted = 0;
 
-/// The first one ends in good order, the second at once.
+/// The first signal ends the program cleanly, the second one at once.
 void noteInterrupt(int number)
 {
     isInterrupted = 1;
@@ -29,12 +30,12 @@ bool mayContinue(int, int)
     return !isInterrupted;
 }
 
-/// A value in a line of its own.
+/// A value as a single line.
 QString column(QString text)
 {
     for (const QChar lineBreak : {QChar('\n'), QChar('\r'), QChar('\t')})
         text.replace(lineBreak, ' ');
-    return OrvGui::printable(text); // a terminal obeys control characters
+    return OrvGui::printable(text); // a terminal interprets control characters
 }
 
 QString word(Action::Kind kind)
@@ -113,8 +114,9 @@ bool ActionRunner::run(const Action &action)
         isDone = execute(action.subject, &result);
         break;
     case Action::Save:
-        isDone = useFile(action, &result,
-                         [&] { return OrvCameraSettings::save(m_map, action.subject, mayContinue); });
+        isDone = useFile(action, &result, [&] {
+            return OrvCameraSettings::save(m_map, action.subject, mayContinue);
+        });
         break;
     case Action::Load:
         isDone = useFile(action, &result, [&] {
@@ -125,8 +127,9 @@ bool ActionRunner::run(const Action &action)
         });
         break;
     case Action::Compare:
-        isDone = useFile(action, &result,
-                         [&] { return OrvCameraSettings::compare(m_map, action.subject, mayContinue); });
+        isDone = useFile(action, &result, [&] {
+            return OrvCameraSettings::compare(m_map, action.subject, mayContinue);
+        });
         break;
     }
     result["ok"] = isDone;
@@ -154,7 +157,7 @@ bool ActionRunner::get(const QString &feature, QJsonObject *result)
     return true;
 }
 
-/// Numbers and booleans as such, all else as the tree shows it.
+/// Numbers and booleans as JSON types, other values as the tree shows them.
 QJsonValue ActionRunner::typed(const QString &feature, const QString &text) const
 {
     try {
@@ -222,7 +225,7 @@ bool ActionRunner::useFile(const Action &action, QJsonObject *json, Act act)
     json->insert("missing", QJsonArray::fromStringList(result.missing));
     if (action.kind == Action::Compare)
         json->insert("differences", differencesOf(result));
-    // A file is also saved when the camera does not tell some of its values.
+    // A file is also saved when some values of the camera cannot be read.
     const bool isPartly = action.kind == Action::Save && error.isEmpty();
     return isPartly || (result.isComplete() && result.differences.isEmpty());
 }

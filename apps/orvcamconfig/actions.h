@@ -11,11 +11,11 @@
 #include <QStringList>
 #include <QTextStream>
 
-/// Carries out actions with a node map, one after the other.
+/// Executes actions with a node map, one after the other.
 ///
-/// What only reads goes on after a failure; after a change that was refused nothing more is done,
-/// since it could rely on it. An interrupt (SIGINT, SIGTERM) ends the action under way once its
-/// selectors are back.
+/// Actions that only read continue after a failure. After a refused change no further action is
+/// executed, because it might depend on the change. An interrupt (SIGINT, SIGTERM) ends the running
+/// action after its selectors are restored.
 class ActionRunner
 {
     Q_DECLARE_TR_FUNCTIONS(ActionRunner)
@@ -23,20 +23,20 @@ class ActionRunner
 public:
     enum Models { SameModel, AnyModel };
 
-    /// `models` says of which cameras files are loaded.
+    /// `models` selects the camera models whose files are loaded.
     ActionRunner(GenApi::INodeMap &map, Models models);
     ~ActionRunner();
 
-    /// False when something was refused, or differs from a file.
+    /// Returns false when something was refused, or differs from a file.
     bool run(const Actions &actions);
 
-    /// The results: names and values, differences; a tab between the columns.
+    /// The results: names and values, or differences; the columns are separated by tabs.
     QString text() const { return m_text; }
 
-    /// What was refused and why, one a line.
+    /// The refusals with their reasons, one per line.
     QStringList complaints() const { return m_complaints; }
 
-    /// All of it as a document.
+    /// All of it as a JSON document.
     QByteArray json(const QString &camera) const;
 
 private:

@@ -44,7 +44,7 @@ std::vector<OrvCam::DeviceInfo *> foundCameras(OrvCam::Interface &interface)
 
 bool isCalled(const OrvCam::DeviceInfo &info, const QString &name)
 {
-    // A MAC address is written in either case.
+    // MAC addresses may be in upper or lower case.
     if (name.compare(QString::fromUtf8(info.GetId()), Qt::CaseInsensitive) == 0)
         return true;
     for (const char *text : {info.GetSerial(), info.GetUserName(), info.GetDisplayName()}) {
@@ -54,7 +54,7 @@ bool isCalled(const OrvCam::DeviceInfo &info, const QString &name)
     return false;
 }
 
-/// Empty when the camera has none. `row` is the camera's place on its interface.
+/// Empty when the camera has none. `row` is the camera's index on its interface.
 QString addressOf(OrvCam::Interface &interface, int row)
 {
     OrvGenParam::Array *parameters = interface.GetTransportKind() == OrvCam::TransportGigEVision
@@ -89,7 +89,7 @@ QString accessWord(int32_t state)
     }
 }
 
-/// Without anything that would look like the end of a field or line.
+/// Replaces characters that look like the end of a field or line.
 QString field(const char *text)
 {
     QString plain = QString::fromUtf8(text);

@@ -6,11 +6,11 @@
 #include <QString>
 #include <QTextStream>
 
-/// Looks for the camera of that identifier, serial number or name; without a name, for the first
-/// that can be used. Null when there is none, with `error` one line.
+/// Searches for the camera with that identifier, serial number or name or, without a name, for the
+/// first usable one. Null when there is none, with a one-line `error`.
 OrvCam::DeviceInfo *findCamera(OrvCam::System &system, const QString &name, QString *error);
 
-/// Looks for cameras and prints one a line: the identifier (MAC address, or vendor and serial
-/// number), the name, the IPv4 address (empty for a camera without one) and the access, with tabs
-/// between them. Returns how many there are.
+/// Searches for cameras and prints one per line: the identifier (MAC address, or vendor and serial
+/// number), the name, the IPv4 address (empty for a camera without one) and the access, separated
+/// by tabs. Returns the number of cameras.
 int printCameras(OrvCam::System &system, QTextStream &out);

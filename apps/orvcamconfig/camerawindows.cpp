@@ -75,10 +75,10 @@ CameraWindows::~CameraWindows()
 {
     m_configuration.disconnect(this);
     m_settingsMenu->setNodeMap(nullptr);
-    m_tree.clearParams(); // the device may be the configuration window's own
+    m_tree.clearParams(); // the device may belong to the configuration window
 }
 
-/// Behind "Connect" and "Disconnect".
+/// After the entries "Connect" and "Disconnect".
 void CameraWindows::addSettingsMenu()
 {
     auto *menu = m_configuration.findChild<QMenu *>(QStringLiteral("menuMenu"));

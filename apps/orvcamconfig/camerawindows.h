@@ -17,34 +17,34 @@
 class QAction;
 class QSettings;
 
-/// The windows of one camera: the configuration window and the browser of all its features, which
-/// always shows the camera that the other has, and is opened from its "View" menu.
+/// The windows of one camera: the configuration window, and the browser of all its features, which
+/// always shows the camera of the configuration window and is opened from its "View" menu.
 ///
-/// While the user has several cameras open, each in a program of its own, all windows have the
-/// camera's name in their titles.
+/// While the user has several cameras open, each in a process of its own, the titles of all windows
+/// contain the camera's name.
 ///
-/// Below "Connect" in the configuration window's menu are the entries for settings files and user
-/// sets.
+/// The configuration window's menu has entries for settings files and user sets below "Connect".
 ///
-/// The places of the windows, which of them are open and what is unfolded in the tree are kept in
-/// the settings from one run to the next. Without a place, or with one that is on no screen any
-/// more, the windows open beside each other.
+/// The settings store the positions of the windows, which of them are open, and the expanded
+/// categories of the tree. Without a stored position, or with one outside of all screens, the
+/// windows open beside each other.
 class CameraWindows : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Takes the device over. The settings must outlive the windows; null for none. Without a level
-    /// for the tree, it is that of the last run.
+    /// Takes ownership of the device. The settings must outlive the windows; null for none. Without
+    /// a level for the tree, the level of the previous run is used.
     CameraWindows(OrvCam::Released<OrvCam::Device> device, QSettings *settings,
                   std::optional<OrvGui::Visibility> level = {});
     ~CameraWindows() override;
 
-    /// Shows what was open at the end of the last run, the configuration window in any case.
+    /// Shows the windows that were open at the end of the previous run, and the configuration
+    /// window in any case.
     void show();
 
     /// Opens a dialog of the configuration window: trigger, pulse, strobe, output, color, frames or
-    /// about. Null, and a reason, when the camera has no use for it.
+    /// about. Returns null, and a reason, when the camera lacks its features.
     QWidget *openDialog(const QString &name, QString *error);
 
     OrvGui::OrvCamConfig &configuration() { return m_configuration; }
@@ -67,12 +67,13 @@ private:
     QSettings *const m_settings;
     OrvGui::OrvFeatureBrowser m_tree;
     OrvGui::OrvCamConfig m_configuration;
-    OrvGui::OrvSettingsMenu *m_settingsMenu; ///< a child of that
-    QHash<QWidget *, QString> m_titles;      ///< of the configuration's windows, without a camera
+    OrvGui::OrvSettingsMenu *m_settingsMenu; ///< a child of the configuration window
+    /// Of the configuration window and its dialogs, without a camera.
+    QHash<QWidget *, QString> m_titles;
     QString m_camera;
     std::unique_ptr<OpenCameras> m_openCameras; ///< null without settings
     QAction *m_treeAction;
     bool m_isConfigurationPlaced = false;
     bool m_isTreePlaced = false;
-    bool m_isTreeRemembered = false; ///< it looks as it was left
+    bool m_isTreeRemembered = false; ///< the tree has its state of the previous run
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The cell of the model that answers when the camera has: what a view is given says "not yet".
+/// The cell of the source model, which blocks for the camera; the view's model returns "not yet".
 QModelIndex sourceOf(QModelIndex cell)
 {
     while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(cell.model()))
@@ -21,7 +21,7 @@ QString cellText(const QModelIndex &cell)
     QString text = sourceOf(cell).data().toString();
     for (const QChar lineBreak : {QChar('\n'), QChar('\r'), QChar('\t')})
         text.replace(lineBreak, ' ');
-    return OrvGui::printable(text); // a terminal obeys control characters
+    return OrvGui::printable(text); // a terminal interprets control characters
 }
 
 void collect(const QAbstractItemModel &model, const QModelIndex &parent,

@@ -6,10 +6,10 @@
 #include <QAbstractItemModel>
 #include <QTextStream>
 
-/// Prints the rows of a tree, one a line: two blanks of indentation per level, the name, a tab, the
-/// value. Line breaks inside a text become blanks. Waits for the values of a camera.
+/// Prints the rows of a tree, one per line: an indentation of two spaces per level, the name, a
+/// tab, the value. Line breaks inside a text become spaces. Blocks for the values of a camera.
 void printFeatures(const QAbstractItemModel &model, QTextStream &out,
                    const QModelIndex &parent = QModelIndex(), int level = 0);
 
-/// Reads what printing the rows of that node map takes, in as few transfers as possible.
+/// Reads the values for printing the rows of that node map, in as few transfers as possible.
 void fetchFeatures(const QAbstractItemModel &model, GenApi::INodeMap *nodeMap);

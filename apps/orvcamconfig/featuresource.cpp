@@ -60,7 +60,8 @@ public:
 
 private:
     OrvCam::Released<OrvCam::Device> m_device;
-    GenApi::INodeMap *const m_map; ///< the device's, also after the camera has vanished
+    /// Of the device; not null, even after the camera has been disconnected.
+    GenApi::INodeMap *const m_map;
     const bool m_isReadOnly;
 };
 

@@ -11,11 +11,11 @@
 
 class OpeningLine;
 
-/// Opens a camera, whose system must outlive the device, while a dialog shows how far that has
-/// come. Null on failure, with `error` one line, which is empty when the user has cancelled.
+/// Opens a camera, whose system must outlive the device, with a progress dialog. Returns null on
+/// failure, with a one-line `error`, which is empty when the user has cancelled.
 OrvCam::Released<OrvCam::Device> openDevice(OrvCam::DeviceInfo &camera, QString *error);
 
-/// The features that the program shows, and what keeps them alive.
+/// The features that the program shows, with the owner of their node map.
 class FeatureSource
 {
     Q_DECLARE_TR_FUNCTIONS(FeatureSource)
@@ -26,26 +26,26 @@ public:
     /// Never null.
     virtual GenApi::INodeMap *nodeMap() const = 0;
 
-    /// Where the features come from, for a window's title.
+    /// The name of the camera or file, for a window's title.
     virtual QString title() const = 0;
 
-    /// One line about what a user may not expect; usually empty.
+    /// A one-line remark about something unexpected; usually empty.
     virtual QString warning() const { return QString(); }
 
-    /// Opens a camera as `openDevice` does; one that another program controls for reading.
+    /// Opens a camera as `openDevice` does, but read-only if another program controls it.
     static std::unique_ptr<FeatureSource> openCamera(OrvCam::DeviceInfo &camera, QString *error);
 
-    /// The same without a dialog: a terminal shows how far it has come. An opening that does not
-    /// come on for a minute fails.
+    /// The same with progress output on a terminal in place of a dialog. Fails when there is no
+    /// progress for a minute.
     static std::unique_ptr<FeatureSource> openCameraForText(OrvCam::DeviceInfo &camera,
                                                             QString *error);
 
-    /// Takes over an opened camera, whose system must outlive it. Null, with `error` one line,
-    /// when it has vanished since.
+    /// Takes ownership of an opened camera, whose system must outlive it. Returns null, with a
+    /// one-line `error`, when it has been disconnected in the meantime.
     static std::unique_ptr<FeatureSource> ofDevice(OrvCam::Released<OrvCam::Device> device,
                                                    bool isReadOnly, QString *error);
 
-    /// Reads a description. Null on failure, with `error` one line.
+    /// Reads a description. Returns null on failure, with a one-line `error`.
     static std::unique_ptr<FeatureSource> openDescription(const QString &fileName, QString *error);
 
 private:

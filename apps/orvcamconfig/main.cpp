@@ -36,7 +36,7 @@ int fail(ExitStatus status, const QString &message)
     return status;
 }
 
-/// Ends the program for help and version. Needs no display.
+/// Handles the help and version options, and exits. Needs no display.
 Options readOptions(int argc, char **argv, QString *error, QString *complaint)
 {
     QCoreApplication application(argc, argv);
@@ -52,7 +52,7 @@ WindowSystem::Need displayFor(const Options &options)
     return options.screenshot.isEmpty() ? WindowSystem::Need::Windows : WindowSystem::Need::Picture;
 }
 
-/// Gives `print` a stream whose text goes to the standard output, in UTF-8.
+/// Calls `print` with a stream to the standard output, in UTF-8.
 template<typename Print>
 int printText(Print print)
 {
@@ -67,7 +67,7 @@ int printText(Print print)
     return isPrinted ? Success : fail(Failure, QObject::tr("The output failed."));
 }
 
-/// Shows the window, and saves a picture of it as soon as it has been painted.
+/// Shows the window, and saves a screenshot when it has been painted.
 int takePicture(QWidget &window, const QString &fileName)
 {
     window.show();
@@ -138,7 +138,7 @@ int showDescription(const Options &options)
     return source ? showFeatures(*source, options) : fail(Failure, error);
 }
 
-/// The configuration window and the tree. A picture does not depend on earlier runs.
+/// Shows the configuration window and the tree. A screenshot does not depend on earlier runs.
 int configure(OrvCam::Released<OrvCam::Device> device, const Options &options)
 {
     const bool isPicture = !options.screenshot.isEmpty();
@@ -168,7 +168,7 @@ int configureCamera(OrvCam::System &system, const Options &options)
     OrvCam::Released<OrvCam::Device> device = camera ? openDevice(*camera, &error) : nullptr;
     if (device)
         return configure(std::move(device), options);
-    return error.isEmpty() ? Success : fail(Failure, error); // or cancelled
+    return error.isEmpty() ? Success : fail(Failure, error); // empty when the user has cancelled
 }
 
 int showCamera(OrvCam::System &system, const Options &options)
@@ -180,7 +180,7 @@ int showCamera(OrvCam::System &system, const Options &options)
     const auto source = camera ? open(*camera, &error) : nullptr;
     if (source)
         return showFeatures(*source, options);
-    return error.isEmpty() ? Success : fail(Failure, error); // or cancelled
+    return error.isEmpty() ? Success : fail(Failure, error); // empty when the user has cancelled
 }
 
 /// False when the picker has no such camera.
@@ -198,7 +198,7 @@ bool select(const OrvGui::OrvCameraSelectorDialog &picker, const OrvCam::DeviceI
     return false;
 }
 
-/// Lets the user pick until a camera can be opened.
+/// Runs the picker until a camera can be opened.
 int pickCamera(OrvCam::System &system, const Options &options)
 {
     QString error;
@@ -257,7 +257,8 @@ int run(const Options &options)
 
 int main(int argc, char **argv)
 {
-    QApplication::setOrganizationName(QStringLiteral("orvcamconfig")); // names the settings' folder
+    // Determines the folder of the settings.
+    QApplication::setOrganizationName(QStringLiteral("orvcamconfig"));
     QApplication::setApplicationName(QStringLiteral("orvcamconfig"));
     QApplication::setApplicationVersion(QStringLiteral(ORVCAMERAGUIAPI_VERSION_TEXT));
 

@@ -32,7 +32,7 @@ bool OpenCameras::areSeveral() const
     for (const QString &name : m_folder.entryList(QDir::Files)) {
         QLockFile lock(m_folder.filePath(name));
         lock.setStaleLockTime(0);
-        if (!lock.tryLock(0)) // a lock whose program has ended is not held
+        if (!lock.tryLock(0)) // a lock whose process has ended can be taken
             ++count;
     }
     return count > 1;

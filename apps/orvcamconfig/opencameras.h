@@ -8,25 +8,25 @@
 
 #include <memory>
 
-/// Knows whether the user has cameras open in other programs of this kind, too.
+/// Detects whether the user has cameras open in other processes of this program.
 ///
-/// Each open camera has a locked file in a folder that the programs share. What a program leaves
-/// there that was killed does not count.
+/// Each open camera has a locked file in a folder that the processes share. Files of killed
+/// processes do not count.
 class OpenCameras : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The folder is made when it is missing.
+    /// Creates the folder if it is missing.
     explicit OpenCameras(const QString &folder);
 
-    /// Whether the camera of this object is one of the open ones; not at first.
+    /// Whether the camera of this object is open; initially not.
     void setOpen(bool isOpen);
 
     bool areSeveral() const;
 
 Q_SIGNALS:
-    /// What `areSeveral` answers may have changed.
+    /// The result of `areSeveral` may have changed.
     void changed();
 
 private:

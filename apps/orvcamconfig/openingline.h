@@ -5,8 +5,8 @@
 #include <QElapsedTimer>
 #include <QString>
 
-/// A line on the terminal that shows the progress of opening a camera, as long as the object
-/// lives; without a terminal there is none. Knows when an opening stands still.
+/// A line on the terminal that shows the progress of opening a camera while an instance exists;
+/// nothing is printed without a terminal. Detects an opening without progress.
 class OpeningLine
 {
     Q_DECLARE_TR_FUNCTIONS(OpeningLine)
@@ -19,7 +19,8 @@ public:
     OpeningLine(const OpeningLine &) = delete;
     OpeningLine &operator=(const OpeningLine &) = delete;
 
-    /// Shows the share of the description that has come; -1 for none. False when it stands still.
+    /// Shows the downloaded share of the description; -1 for none. Returns false when there is no
+    /// progress for too long.
     bool show(int percent);
     bool standsStill() const;
 

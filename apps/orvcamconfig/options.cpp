@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Has the parser pass over what Qt takes from the command line by itself.
+/// Declares Qt's own options, so that the parser accepts them.
 void addOptionsOfQt(QCommandLineParser &parser)
 {
     const auto add = [&parser](const char *name, const QString &value) {
@@ -24,7 +24,7 @@ void addOptionsOfQt(QCommandLineParser &parser)
           "plugin", "qwindowgeometry", "qwindowicon", "qwindowtitle", "session", "style",
           "stylesheet", "title", "visual"})
         add(name, QStringLiteral("VALUE"));
-    // With one hyphen or two.
+    // Both may begin with one hyphen or two.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
 }
 
@@ -32,7 +32,7 @@ void addOptionsOfQt(QCommandLineParser &parser)
 struct Declaration
 {
     const char *name;
-    const char *value; ///< what the help calls its value; null when it takes none
+    const char *value; ///< the value's name in the help; null for an option without one
     const char *help;
 };
 
@@ -107,7 +107,7 @@ QStringList listOf(const char *const (&texts)[count])
 
 const char *const actionNames[] = {"get", "set", "execute", "save", "load", "compare"};
 
-/// Which of these an argument is, with one hyphen or two; -1 for none.
+/// The index of the option that an argument names, with one hyphen or two; -1 for none.
 int actionOf(const QString &argument)
 {
     QString name = argument.section(QLatin1Char('='), 0, 0);
@@ -120,8 +120,8 @@ int actionOf(const QString &argument)
     return -1;
 }
 
-/// "--get A B" as "--get A --get B", likewise for "--set": the parser does not say where among the
-/// options other arguments were.
+/// Converts "--get A B" to "--get A --get B", and "--set" likewise: the parser does not report the
+/// positions of other arguments among the options.
 QStringList withOneValueEach(const QStringList &arguments)
 {
     QStringList expanded;
@@ -141,7 +141,7 @@ QStringList withOneValueEach(const QStringList &arguments)
     return expanded;
 }
 
-/// In the order given. `error` is left alone when all make sense.
+/// In the given order. `error` is unchanged when all are valid.
 Actions actionsOf(const QCommandLineParser &parser, QString *error)
 {
     Actions actions;
@@ -180,7 +180,7 @@ void declare(QCommandLineParser &parser)
     addOptionsOfQt(parser);
 }
 
-/// The first option that lacks the value it needs.
+/// The first option whose required value is missing.
 QString optionWithoutValue(const QCommandLineParser &parser)
 {
     for (const Declaration &declaration : declarations) {
@@ -191,7 +191,7 @@ QString optionWithoutValue(const QCommandLineParser &parser)
     return QString();
 }
 
-/// What the parsed arguments say, on the assumption that they make sense.
+/// The options from the parsed arguments, which must be consistent.
 class CommandLine
 {
     Q_DECLARE_TR_FUNCTIONS(Options)
@@ -200,7 +200,7 @@ public:
     explicit CommandLine(const QCommandLineParser &parser) : m_parser(parser) {}
 
     Options options(QString *error) const;
-    /// Why the options make no sense together; empty when they do.
+    /// The reason why the options are inconsistent; empty when they are consistent.
     QString contradiction(const Options &options) const;
 
 private:

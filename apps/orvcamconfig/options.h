@@ -15,8 +15,9 @@ struct Options
 public:
     enum class Window { Tree, Picker, Main };
 
-    Window window = Window::Tree; ///< the first to be shown
-    QString dialog; ///< to be opened with the main window: its name in the option; empty for none
+    Window window = Window::Tree; ///< the first window to show
+    /// The dialog to open with the main window, by its name in the option; empty for none.
+    QString dialog;
     bool simulate = false;
     bool listCameras = false;
     bool listFeatures = false;
@@ -24,14 +25,13 @@ public:
         camera; ///< identifier, serial number or name; in the tree, empty for the first usable one
     QString description;   ///< file name; empty for a camera
     QString screenshot;    ///< file name; empty for none
-    Actions actions;       ///< to be carried out without a window
+    Actions actions;       ///< actions to execute without a window
     bool json = false;     ///< the results of the actions as JSON
     bool anyModel = false; ///< for settings files
     int visibility = 0;    ///< 0 Basic, 1 Expert, 2 Guru
     bool isVisibilityGiven = false;
 
-    /// Reads the arguments, the program's name first. Answers "--help" and "--version" and ends
-    /// the program. For anything that makes no sense, `error` is one line and the result is of no
-    /// use.
+    /// Reads the arguments; the first one is the program's name. Handles "--help" and "--version"
+    /// and exits. For invalid arguments, `error` is one line and the result is meaningless.
     static Options fromArguments(const QStringList &arguments, QString *error);
 };

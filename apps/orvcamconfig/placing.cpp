@@ -10,11 +10,11 @@
 
 namespace {
 
-// Of a feature tree, in lines of text.
+// The size of a feature tree in lines of text.
 constexpr int treeWidth = 38;
 constexpr int treeHeight = 47;
 
-/// A window beside another may be narrower than it wants to be, but no more than this.
+/// The smallest share of its preferred width that a window beside another one may get.
 int leastWidth(int wanted)
 {
     return wanted * 2 / 3;
@@ -25,7 +25,7 @@ QString geometryKey(const QString &name)
     return name + QStringLiteral("/geometry");
 }
 
-/// `saveGeometry` keeps it as well, but does not say it.
+/// `saveGeometry` stores it as well, but not in a readable form.
 QString placeKey(const QString &name)
 {
     return name + QStringLiteral("/place");
@@ -74,7 +74,7 @@ void Placing::centerWith(QWidget *window, int otherWidth)
 {
     const QRect room = OrvGui::roomFor(window);
     const QSize size = wantedSize(window).boundedTo(room.size());
-    int width = room.width(); // from the edge on, if there is no room for both
+    int width = room.width(); // at the edge of the screen, if there is no room for both
     if (size.width() + leastWidth(otherWidth) <= room.width())
         width = qMin(size.width() + otherWidth, room.width());
     const int left = QGuiApplication::isRightToLeft()

@@ -7,29 +7,29 @@
 class QSettings;
 class QWidget;
 
-/// Where the program's windows open: always inside the available area of a screen.
+/// Places the program's windows: always inside the available area of a screen.
 namespace Placing {
 
-/// The size for a feature tree; it grows with the font, up to the size of the screen.
+/// The size for a feature tree, which grows with the font up to the size of the screen.
 QSize treeSize(const QWidget *tree);
 
-/// In the middle of the screen.
+/// The centre of the screen.
 void center(QWidget *window);
 
-/// In such a way that a window of that width beside it is in the middle together with it; at the
-/// edge of a screen that has no room for both.
+/// A position such that the window and another one of that width beside it are centred together; at
+/// the edge of a screen that has no room for both.
 void centerWith(QWidget *window, int otherWidth);
 
-/// Beside a window, if there is room for two thirds of the width: on the right, or else on the left
-/// (in languages that are written from the right, the other way round). Otherwise at the edge of
-/// the screen, partly over the other window.
+/// A position beside a window, if there is room for two thirds of the width: on the right,
+/// otherwise on the left (reversed in right-to-left languages). Otherwise at the edge of the
+/// screen, partly over the other window.
 void beside(QWidget *window, const QWidget *other);
 
-/// Keeps the place of a window under that name.
+/// Stores the position of a window under that name.
 void save(const QWidget *window, QSettings *settings, const QString &name);
 
-/// Takes the window to the place that is kept under that name. False if there is none, or if it is
-/// for the most part on no screen any more.
+/// Moves the window to the position stored under that name. Returns false if there is none, or if
+/// most of it is outside of all screens.
 bool restore(QWidget *window, const QSettings *settings, const QString &name);
 
 } // namespace Placing

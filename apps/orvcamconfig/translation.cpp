@@ -20,8 +20,8 @@ bool install(QCoreApplication &application, const QLocale &locale, const QString
 
 void translate(QCoreApplication &application)
 {
-    // Asked for one language after the other: to QTranslator a locale of "English, else German"
-    // means German, as there is no file for the language that the texts are written in.
+    // Tries each language separately, because QTranslator takes a locale of "English, then German"
+    // for German: there is no file for English, the language of the source texts.
     for (const QString &name : QLocale::system().uiLanguages()) {
         const QLocale locale(name);
         if (locale.language() == QLocale::English || locale.language() == QLocale::C)

@@ -3,7 +3,7 @@
 
 class QCoreApplication;
 
-/// Lets the application speak the user's language, where there is a translation. The locale decides
-/// (LANGUAGE, LC_ALL, LC_MESSAGES, LANG); the texts are English otherwise. Call it before the first
-/// text is made.
+/// Installs the translation for the user's language, if there is one. The locale decides (LANGUAGE,
+/// LC_ALL, LC_MESSAGES, LANG); otherwise the texts are English. Call it before the first text is
+/// created.
 void translate(QCoreApplication &application);

@@ -17,7 +17,7 @@ bool isOffscreen()
     return qgetenv(platformVariable) == "offscreen";
 }
 
-/// What is held while Qt looks for a display: it aborts the program when it finds none.
+/// Buffers messages while Qt opens a display: it aborts the program when it finds none.
 struct Attempt
 {
     struct Message
@@ -52,7 +52,7 @@ void holdMessage(QtMsgType type, const QMessageLogContext &, const QString &text
         giveUp();
 }
 
-/// A picture has no window manager to complain about.
+/// Without a window manager, warnings about it are of no use for a screenshot.
 void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (!text.startsWith(QLatin1String("This plugin does not support ")))
@@ -61,8 +61,7 @@ void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const Q
         std::abort();
 }
 
-/// Qt looks for an X server unless the session says what it is; not every compositor makes it do
-/// so.
+/// Qt opens an X server unless the session states its type; not every compositor does.
 bool isWaylandAlone()
 {
     return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
@@ -95,7 +94,7 @@ WindowSystem::WindowSystem(int &argc, char **argv, Need need, const QString &com
 
 WindowSystem::~WindowSystem() = default;
 
-/// Qt complains of a session without a folder for its sockets.
+/// Qt warns about a session without a folder for its sockets.
 void WindowSystem::goOffscreen()
 {
     if (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))

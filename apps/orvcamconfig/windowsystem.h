@@ -7,16 +7,16 @@
 
 class QTemporaryDir;
 
-/// Where the program's windows go: onto a display, or, when only text or a picture is wanted and
-/// there is none, into memory. One per program.
+/// The display for the program's windows or, when only text or a screenshot is requested and there
+/// is none, an offscreen one. One instance per program.
 class WindowSystem
 {
 public:
     enum class Need { Windows, Picture, Text };
 
-    /// Ends the program with one line and status 1 when windows are needed and cannot be shown.
-    /// The line is `complaint`, with Qt's reason for its "%1". A picture is then taken offscreen:
-    /// the program is started again for that.
+    /// Exits with one line and status 1 when windows are needed and cannot be shown. The line is
+    /// `complaint`, with Qt's reason for its "%1". For a screenshot, the program is started again
+    /// with an offscreen display.
     WindowSystem(int &argc, char **argv, Need need, const QString &complaint);
     ~WindowSystem();
 

@@ -42,7 +42,7 @@ struct NodeLinks
     /// The register node itself, or null.
     std::unique_ptr<RegisterAccess> reg;
 
-    /// The existing ones among the three.
+    /// The predicates that exist, of the three possible ones.
     std::vector<NodeLinks *> predicates() const;
 
     /// The node and all nodes that are written with it.

@@ -131,7 +131,7 @@ OrvCameraIo::PortHints NodeMap::hints() const
         try {
             hints.declared.push_back(links.reg->place.range(links.node->name()));
         } catch (const GenICam::OutOfRangeException &) {
-            // No register has that length, so the range matches none.
+            // The length is invalid, so the register is left out.
         }
     }
     auto &declared = hints.declared;

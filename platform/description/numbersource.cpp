@@ -358,7 +358,7 @@ std::optional<double> ConverterSource::converted(double rawValue)
     };
     try {
         double value = m_from->real(raw);
-        // An integer formula overflows beyond its range, so there is no limit on that side.
+        // Integer arithmetic would overflow there; the limit is the floating-point result.
         if (m_isInteger && std::abs(value) < 9.2e18)
             value = static_cast<double>(m_from->integer(raw));
         return std::isfinite(value) ? std::optional<double>(value) : std::nullopt;

@@ -128,7 +128,7 @@ void Poller::lookAt(const Feature &feature)
     });
     m_missing.insert(m_missing.end(), question.missing.begin(), question.missing.end());
     if (!question.missing.empty())
-        feature.node->keepPolled(); // a reference may refer to another polled node
+        feature.node->keepPolled(); // the missing data may refer to further registers
 }
 
 void Poller::startReading(const std::vector<NodeLinks *> &registers)

@@ -56,7 +56,7 @@ public:
     void setReal(double value);
     void setText(const std::string &value);
 
-    /// Bits outside the mask keep their values.
+    /// Bytes beyond the given ones keep their values.
     void setBytes(const RegisterCodec::Bytes &bytes);
 
     int64_t minInteger() const;

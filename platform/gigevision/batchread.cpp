@@ -25,7 +25,7 @@ void setWords(ReadTransfer &read, const uint32_t *words)
 
 } // namespace
 
-/// Some neighbours of a group.
+/// Consecutive items of a group.
 struct BatchRead::Items
 {
     const std::size_t *first;
@@ -41,7 +41,7 @@ struct BatchRead::Answer
 {
     Status status = Status::NoAnswer;
     bool isBusy = false;
-    std::size_t done = 0; ///< registers that are read although the command was refused
+    std::size_t done = 0; ///< the number of registers that were read before the refusal
 };
 
 void BatchRead::run()
@@ -64,7 +64,7 @@ void BatchRead::run()
         readAll(memory, plan.memory);
 }
 
-/// Asked before each command.
+/// Called before each command.
 bool BatchRead::isTimeUp() const
 {
     return Clock::now() >= m_end &&
@@ -72,7 +72,7 @@ bool BatchRead::isTimeUp() const
                        [](const ReadTransfer &read) { return read.status != Status::NotSent; });
 }
 
-/// Otherwise the result is clear already.
+/// Returns false for a range that cannot be read, and sets its result.
 bool BatchRead::isWithinReach(ReadTransfer &read) const
 {
     read.status = Status::NotSent;
@@ -137,7 +137,7 @@ BatchRead::Result BatchRead::afterRefusal(const Kind &kind, const Items &items,
     if (answer.isBusy)
         return readEachAlone(items.from(answer.done));
 
-    // The register at which the camera stopped: is it that one, or the command?
+    // Determines whether the camera refuses that register or the command.
     const std::size_t done = answer.done;
     const Items rest = items.from(done + 1);
     const bool isKnown = done > 0 && done < command.worked && command.tellsProgress;
@@ -149,12 +149,12 @@ BatchRead::Result BatchRead::afterRefusal(const Kind &kind, const Items &items,
         return readTogether(kind, rest) == Result::Ended ? Result::Ended : suspect;
     }
     if (done > 0) {
-        // It takes no more at a time.
+        // The camera does not accept more registers per command.
         command.limit = items.size() > 2 ? std::max<std::size_t>(done, 2) : 1;
         return readTogether(kind, rest);
     }
-    // The camera does not say, so the rest is tried in halves, after a pair of registers when it
-    // may not take this command at all.
+    // The camera does not report the refused register, so the rest is tried in halves. A pair is
+    // tried first if the camera may not support this command at all.
     const std::size_t half = (rest.size() + 1) / 2;
     const std::size_t first = command.worked > 1 ? half : std::min<std::size_t>(half, 2);
     const Result result =

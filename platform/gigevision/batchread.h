@@ -8,20 +8,21 @@
 
 namespace OrvGigEVision {
 
-/// What has been found out about commands that read several registers.
+/// The camera's support of a command that reads several registers.
 struct BatchCommand
 {
-    std::size_t limit = SIZE_MAX; ///< the number of registers up to which the camera takes it
-    std::size_t worked = 0;       ///< as many registers were once read by one
-    bool tellsProgress = false;   ///< a refusal says which register is refused
+    std::size_t limit = SIZE_MAX; ///< the largest number of registers that the camera accepts
+    std::size_t worked = 0;       ///< the largest number of registers that one command has read
+    /// An answer to a refused command contains the registers before the refused one.
+    bool tellsProgress = false;
 };
 
-/// What is known of a camera that matters for reading its registers.
+/// The properties of a camera that are relevant for reading its registers.
 struct ReadKnowledge
 {
     bool isWordNumber = false;
     bool canConcatenate = false;
-    bool isOrderKnown = false; ///< memory and numbers are known to have the same order of bytes
+    bool isOrderKnown = false; ///< the byte order of memory and numbers is known to be the same
     ReadableMemory memory;
     BatchCommand registers;
     BatchCommand memoryBlock;
@@ -33,16 +34,15 @@ struct ReadKnowledge
     }
 };
 
-/// Reads the registers of one batch, or as many of them as there is time for: the others are left
-/// with the status `NotSent`.
+/// Reads the registers of a batch, or as many as time allows; the others keep the status `NotSent`.
 ///
-/// When the camera refuses a command for several registers, they are read in smaller groups, in the
-/// end one by one, and what is learnt from that is kept in the knowledge: that a register is
-/// refused, or that the camera does not take this command for so many registers.
+/// When the camera refuses a command for several registers, they are read in smaller groups,
+/// finally one by one. The results are stored in the knowledge: that a register is refused, or that
+/// the camera does not accept this command for so many registers.
 class BatchRead
 {
 public:
-    /// No command begins after `end`, unless no register has a result yet.
+    /// No command begins after `end`, except when no register has a result yet.
     BatchRead(GvcpChannel &channel, ReadKnowledge &knowledge,
               std::vector<OrvCameraIo::ReadTransfer> &batch, Clock::time_point end)
         : m_channel(channel)
@@ -61,7 +61,7 @@ private:
     enum class Result {
         Complete,
         SomeRefused,
-        Ended ///< by a command without an answer, or for want of time
+        Ended ///< by a command without an answer, or by lack of time
     };
     using Transfer = Answer (BatchRead::*)(const Items &items);
 

@@ -22,7 +22,7 @@ using Progress = std::function<void(std::size_t, std::size_t)>;
 
 constexpr std::size_t blockSize = Gvcp::maxMemorySize;
 
-/// A single block that gets lost for good must not cost the whole download.
+/// A single block that is lost repeatedly must not make the whole download fail.
 constexpr int attempts = 2;
 
 bool readBlock(GvcpChannel &channel, uint32_t address, uint32_t size, std::string &bytes,
@@ -30,7 +30,7 @@ bool readBlock(GvcpChannel &channel, uint32_t address, uint32_t size, std::strin
 {
     // Memory is read in words.
     const uint32_t start = address & ~3u;
-    const uint32_t end = (address + size + 3) & ~3u; // 0 behind the last word
+    const uint32_t end = (address + size + 3) & ~3u; // 0 after the last word
     std::string words(end - start, '\0');
     auto *data = reinterpret_cast<uint8_t *>(&words[0]);
     GvcpChannel::Reply reply;
@@ -44,8 +44,8 @@ bool readBlock(GvcpChannel &channel, uint32_t address, uint32_t size, std::strin
     return true;
 }
 
-/// The grid in which a description is read. The first block is shorter when it is not aligned, so
-/// that all others are.
+/// The blocks in which a description is read. The first one is shorter when the description is not
+/// aligned, so that all others are.
 std::vector<std::pair<std::size_t, std::size_t>> blocksOf(const DescriptionUrl &url)
 {
     std::vector<std::pair<std::size_t, std::size_t>> blocks;
@@ -61,7 +61,7 @@ std::string untilZero(const std::string &bytes)
     return bytes.substr(0, bytes.find('\0'));
 }
 
-/// Cameras of a kind that are open at the same time share one text.
+/// Cameras with the same description that are open at the same time share its text.
 std::shared_ptr<const std::string> shared(std::string text)
 {
     static std::mutex mutex;
@@ -80,7 +80,7 @@ std::shared_ptr<const std::string> shared(std::string text)
     return result;
 }
 
-/// Reading one description.
+/// Reads one description.
 class Fetch
 {
 public:
@@ -94,7 +94,7 @@ public:
         m_result.mark.urlRegister = urlRegister;
     }
 
-    /// The mark of the description; false when there is none.
+    /// Reads the fingerprint of the description; returns false when there is none.
     bool readMark();
 
     FetchedDescription run(const Progress &progress);
@@ -232,7 +232,7 @@ FetchedDescription fetchDescription(GvcpChannel &channel, const Gvcp::Identity &
         return first;
     FetchedDescription second =
         Fetch(channel, identity, Gvcp::SecondUrl, isCancelled).run(progress);
-    // Most cameras have one URL only; what is wrong with that is worth saying.
+    // Most cameras have one URL only, so its error is the relevant one.
     if (second.failure == Failure::Unusable)
         second.message = first.message;
     return second;

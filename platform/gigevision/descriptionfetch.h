@@ -10,7 +10,7 @@
 
 namespace OrvGigEVision {
 
-/// Identifies a camera's description without all of its bytes.
+/// A fingerprint of a camera's description, from a part of its bytes.
 struct DescriptionMark
 {
     std::string vendor;
@@ -19,7 +19,7 @@ struct DescriptionMark
     uint32_t urlRegister = 0;
     std::string url;
     std::string firstBlock;
-    std::string lastBlock; ///< empty when the first one is all there is
+    std::string lastBlock; ///< empty when there is only one block
 
     bool operator==(const DescriptionMark &other) const;
 };
@@ -29,16 +29,16 @@ struct FetchedDescription
     enum class Failure { None, NoAnswer, Cancelled, Unusable };
 
     Failure failure = Failure::Unusable;
-    std::string message; ///< why, in English
+    std::string message; ///< the reason of a failure, in English
 
-    /// Null when it failed. The text of another camera's description that is the same.
+    /// Null on failure. Shared with other cameras that have the same description.
     std::shared_ptr<const std::string> text;
     DescriptionMark mark;
 };
 
-/// Reads the description of the camera, which says that it is `identity`: from where the first URL
-/// points or, when that is of no use, the second. One that is kept and has not changed is not read
-/// again but for its first and last block, and one that is read is kept.
+/// Reads the description of the camera with the given `identity`: from the location of the first
+/// URL or, if that fails, the second. A stored description is verified by its first and last block
+/// and not read again; a description that was read is stored.
 FetchedDescription
 fetchDescription(GvcpChannel &channel, const Gvcp::Identity &identity,
                  const std::function<void(std::size_t done, std::size_t total)> &progress,

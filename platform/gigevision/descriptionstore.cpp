@@ -28,7 +28,7 @@ namespace {
 
 constexpr char magic[] = "OrvCamera description 1\n";
 
-/// What has been half written for so long was left behind, in seconds.
+/// The age in seconds at which an incomplete file counts as abandoned.
 constexpr std::time_t abandonedAfter = 3600;
 
 class FileDescriptor
@@ -64,7 +64,7 @@ std::string hexadecimal(uint64_t number)
     return text;
 }
 
-/// The parts with their lengths in front, so that no two keys look the same.
+/// The parts with their lengths, so that different keys have different texts.
 std::string keyText(const DescriptionStore::Key &key)
 {
     std::string text;
@@ -79,7 +79,7 @@ std::string fileName(const DescriptionStore::Key &key)
     return hexadecimal(checksum(keyText(key)));
 }
 
-/// What a file with that description begins with.
+/// The beginning of a file with that description.
 std::string headerText(const DescriptionStore::Key &key, const std::string &bytes)
 {
     return magic + keyText(key) + hexadecimal(checksum(bytes)) + '\n';
@@ -92,7 +92,7 @@ void makeFolders(const std::string &path)
     mkdir(path.c_str(), 0700);
 }
 
-/// -1 unless it is a folder of this user, reached by no link of another one.
+/// -1 unless the directory belongs to this user and is not a link of another one.
 int openFolder(const std::string &path)
 {
     struct stat link = {};
@@ -107,7 +107,7 @@ int openFolder(const std::string &path)
     return folder;
 }
 
-/// Nothing unless the file has exactly that size and is this user's.
+/// Empty unless the file has exactly that size and belongs to this user.
 std::optional<std::string> contentsOf(int file, std::size_t size)
 {
     struct stat facts = {};
@@ -147,7 +147,7 @@ struct KeptFile
     uint64_t size;
     timespec lastUse;
 
-    bool operator<(const KeptFile &other) const // the one used last is the first
+    bool operator<(const KeptFile &other) const // the most recently used one first
     {
         return std::tie(other.lastUse.tv_sec, other.lastUse.tv_nsec, other.name) <
                std::tie(lastUse.tv_sec, lastUse.tv_nsec, name);
@@ -159,14 +159,14 @@ bool isName(const std::string &name)
     return name.size() == 16 && name.find_first_not_of("0123456789abcdef") == std::string::npos;
 }
 
-/// As `keep` names a file while it writes it.
+/// The name of a file that is being written.
 bool isTemporaryName(const std::string &name)
 {
     return name.size() > 18 && name[0] == '.' && isName(name.substr(1, 16)) && name[17] == '.' &&
            name.find_first_not_of("0123456789.", 17) == std::string::npos;
 }
 
-/// The user may have pointed us to a folder with files of other programs.
+/// The folder may contain files of other programs.
 bool isDescription(int folder, const std::string &name)
 {
     const FileDescriptor file(
@@ -176,7 +176,7 @@ bool isDescription(int folder, const std::string &name)
            std::equal(std::begin(start), std::end(start), magic);
 }
 
-/// The descriptions in the folder. What has been half written for long is removed.
+/// The descriptions in the folder. Abandoned incomplete files are removed.
 std::vector<KeptFile> keptFiles(int folder)
 {
     std::vector<KeptFile> files;
@@ -197,7 +197,7 @@ std::vector<KeptFile> keptFiles(int folder)
     return files;
 }
 
-/// Removes what is too much. Who is reading one of the files can read on.
+/// Removes files beyond the limits. A process that is reading one of them is not affected.
 void prune(int folder, const std::string &newest)
 {
     std::vector<KeptFile> files = keptFiles(folder);
@@ -216,7 +216,7 @@ void prune(int folder, const std::string &newest)
 
 DescriptionStore DescriptionStore::ofUser()
 {
-    // A program with more rights than its user must not write where that user says.
+    // A setuid program must not write to a folder that its user has named.
     if (const char *named = secure_getenv("ORVCAM_DESCRIPTION_CACHE"))
         return DescriptionStore(named);
     const char *cache = secure_getenv("XDG_CACHE_HOME");

@@ -7,16 +7,16 @@
 
 namespace OrvGigEVision {
 
-/// The descriptions that cameras have sent, kept in a folder so that they are not sent again.
+/// The descriptions that cameras have sent, stored in a folder so that they are not sent again.
 ///
-/// Files that are damaged, that belong to another user or whose name fits by chance only count as
-/// missing. Nothing throws, and what cannot be kept is not. When there are more than
-/// `Limits::keptDescriptions`, or they hold more than `Limits::keptSize`, those used longest ago
-/// are removed. No other files in the folder are touched.
+/// Files that are damaged, belong to another user or only have a matching name count as missing.
+/// Nothing throws, and failures to store are ignored. When there are more than
+/// `Limits::keptDescriptions`, or they have more than `Limits::keptSize`, those used longest ago
+/// are removed. No other files in the folder are changed.
 class DescriptionStore
 {
 public:
-    /// What a description is kept for.
+    /// The key under which a description is stored.
     struct Key
     {
         std::string vendor;
@@ -26,15 +26,15 @@ public:
         uint32_t size = 0;
     };
 
-    /// With an empty name there is no folder, and nothing is kept.
+    /// With an empty name there is no folder, and nothing is stored.
     explicit DescriptionStore(std::string folder) : m_folder(std::move(folder)) {}
 
-    /// The user's: in the folder that ORVCAM_DESCRIPTION_CACHE names, without that variable in
-    /// "orvcameraapi" below the user's folder for such things.
+    /// The user's store: in the folder of the environment variable ORVCAM_DESCRIPTION_CACHE or,
+    /// without it, in "orvcameraapi" in the user's cache folder.
     static DescriptionStore ofUser();
 
-    /// The `key.size` bytes as the camera has sent them, which counts as use. Whether it would send
-    /// the same is for the caller to find out.
+    /// The `key.size` bytes as the camera has sent them; counts as use. The caller must verify that
+    /// the camera still has the same.
     std::optional<std::string> find(const Key &key) const;
 
     void keep(const Key &key, const std::string &bytes) const;

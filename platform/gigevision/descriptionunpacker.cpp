@@ -32,7 +32,7 @@ bool startsWith(const std::string &bytes, const std::string &start)
 
 bool looksLikeXml(const std::string &bytes)
 {
-    // UTF-16 begins with a byte order mark, UTF-8 may.
+    // UTF-16 begins with a byte order mark, UTF-8 may begin with one.
     if (startsWith(bytes, "\xFE\xFF") || startsWith(bytes, "\xFF\xFE"))
         return true;
     const auto first =
@@ -44,7 +44,7 @@ UnpackedDescription xmlText(std::string bytes, const std::string &otherwise)
 {
     if (!looksLikeXml(bytes))
         return {std::string(), otherwise};
-    // Cameras fill their memory up. The second half of a last UTF-16 character may be 0, though.
+    // Cameras pad their memory. The second half of the last UTF-16 character may be 0, however.
     const bool isWide = startsWith(bytes, "\xFE\xFF") || startsWith(bytes, "\xFF\xFE");
     const auto last = bytes.find_last_not_of('\0');
     const auto length = last == std::string::npos ? 0 : last + 1;
@@ -61,8 +61,8 @@ bool isXmlName(std::string name)
            name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 
-/// True when the directory may have so many entries that reading it is an effort. Counts what each
-/// entry begins with, since the number in the archive can be a lie.
+/// True when the directory may have too many entries. Counts the signatures of entries, because the
+/// number in the archive may be wrong.
 bool hasManyEntries(const std::string &bytes)
 {
     static const std::string mark = "PK\1\2";
@@ -85,7 +85,7 @@ Archive openArchive(const std::string &bytes)
     return archive;
 }
 
-/// The files in the archive, folders left out; nothing when something is wrong with one of them.
+/// The files in the archive without folders; nothing if one of them is invalid.
 std::vector<zip_stat_t> filesIn(zip_t *archive)
 {
     std::vector<zip_stat_t> files;
@@ -113,7 +113,7 @@ UnpackedDescription unpackFile(zip_t *archive, const zip_stat_t &facts)
     const std::unique_ptr<zip_file_t, Closer> file(zip_fopen_index(archive, facts.index, 0));
     if (!file)
         return {std::string(), damaged};
-    // Not as long as the archive claims before it proves to be.
+    // Allocated step by step, because the size in the archive may be wrong.
     std::string text;
     std::vector<char> part(64 << 10);
     zip_int64_t size = 0;

@@ -5,18 +5,17 @@
 
 namespace OrvGigEVision {
 
-/// The text of a description that is XML or a zip archive, which is recognized by its content.
+/// Unpacks a description that is XML or a zip archive, which is recognised by its content.
 struct UnpackedDescription
 {
-    std::string text; ///< XML, at least it looks like it
+    std::string text; ///< XML by its first characters
 
-    /// Why there is none, in English; empty when there is one.
+    /// The reason of a failure, in English; empty on success.
     std::string problem;
 };
 
-/// An archive must hold one file, or one whose name ends in ".xml", and at most
-/// `Limits::archiveEntries` in all. What would become longer than `Limits::descriptionSize` is not
-/// unpacked.
+/// An archive must contain one file, or one whose name ends in ".xml", and at most
+/// `Limits::archiveEntries` in all. A file of more than `Limits::descriptionSize` is not unpacked.
 UnpackedDescription unpackDescription(const std::string &bytes);
 
 } // namespace OrvGigEVision

@@ -24,7 +24,7 @@ bool startsWithLocal(const std::string &text)
            });
 }
 
-/// Up to 16 hexadecimal digits and nothing else.
+/// Up to 16 hexadecimal digits and no other characters.
 std::optional<uint64_t> hexadecimal(const std::string &text)
 {
     const auto isDigit = [](char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; };
@@ -58,7 +58,7 @@ DescriptionUrl DescriptionUrl::parse(const std::string &text)
         return url;
     }
 
-    // The name may hold anything, a question mark included, so it is read from the end.
+    // Parsed from the end, because the name may contain any characters, even a question mark.
     const auto second = whole.rfind(';');
     const auto first = second == std::string::npos || second == 0 ? std::string::npos
                                                                   : whole.rfind(';', second - 1);
@@ -78,7 +78,7 @@ DescriptionUrl DescriptionUrl::parse(const std::string &text)
         url.problem = "The camera's description is empty or too long: " + quotable(whole) + '.';
         return url;
     }
-    // Words are read, so the last one has to end within the address space, too.
+    // The memory is read in words, so the last word must also be in the address space.
     const uint64_t end = (*address + *size + 3) & ~uint64_t(3);
     if (*address > 0xFFFFFFFF || end > uint64_t(1) << 32) {
         url.problem =

@@ -6,21 +6,21 @@
 
 namespace OrvGigEVision {
 
-/// Where a camera holds its description: "Local:NAME;ADDRESS;SIZE", as its URL registers say.
+/// The location of a description: "Local:NAME;ADDRESS;SIZE" in the URL registers of a camera.
 struct DescriptionUrl
 {
-    std::string text; ///< as the camera has it
+    std::string text; ///< the original text
     uint32_t address = 0;
-    uint32_t size = 0; ///< never 0, and within `Limits::downloadSize`
+    uint32_t size = 0; ///< from 1 to `Limits::downloadSize`
 
-    /// Why it is of no use, in English; empty when it is fine.
+    /// The reason why the URL is unusable, in English; empty if it is usable.
     std::string problem;
 
-    /// Anything that does not lie in the camera's own memory is a problem.
+    /// A location outside of the camera's own memory is a problem.
     static DescriptionUrl parse(const std::string &text);
 };
 
-/// A text of a camera as it can stand in a message: short, and without control characters.
+/// A text of a camera for use in a message: truncated, and without control characters.
 std::string quotable(const std::string &text);
 
 } // namespace OrvGigEVision

@@ -18,16 +18,16 @@ namespace {
 
 using Discoveries = std::vector<std::unique_ptr<Discovery>>;
 
-/// Everything is queried several times, since packets get lost: cameras in every other one of
-/// these rounds, their controllers in each.
+/// Packets get lost, so commands are repeated: discovery in every other one of these rounds, the
+/// query of the controllers in each.
 constexpr int rounds = 4;
 
-/// The answers of one adapter that are taken before it is the others' turn.
+/// The number of answers of an adapter that are processed before those of the next one.
 constexpr int answersInARow = 64;
 
 Control controlByPrivilege(const Gvcp::Acknowledge &answer)
 {
-    // A camera that is under exclusive control does not even let others read.
+    // A camera under exclusive control also refuses reads.
     if (answer.status == Gvcp::StatusAccessDenied)
         return Control::Taken;
     const auto values = Gvcp::parseRegisters(answer, 1);
@@ -36,7 +36,7 @@ Control controlByPrivilege(const Gvcp::Acknowledge &answer)
     return values->front() & Gvcp::controlPrivilegeMask ? Control::Taken : Control::Free;
 }
 
-/// Two cameras with one MAC address are still two.
+/// Two cameras with the same MAC address are distinguished.
 std::string keyOf(const GvCamera &camera)
 {
     return camera.name() + '\n' + ipText(camera.identity.ip) + '\n' + camera.identity.serial;

@@ -17,29 +17,29 @@ struct AdapterCameras
 {
     NetworkAdapter adapter;
 
-    /// Each once, at most `Limits::camerasPerAdapter`.
+    /// Without duplicates, at most `Limits::camerasPerAdapter`.
     std::vector<GvCamera> cameras;
 
-    /// The number of those beyond.
+    /// The number of cameras beyond those.
     std::size_t unlisted = 0;
 };
 
-/// One search for cameras behind one adapter. The caller decides when it sends and how long it
-/// takes answers; see `NetworkSearch`.
+/// One search for cameras on one adapter. The caller determines when it sends and how long it
+/// receives; see `NetworkSearch`.
 class Discovery
 {
 public:
     explicit Discovery(const NetworkAdapter &adapter);
 
-    /// A descriptor that is readable when there is something to take.
+    /// A descriptor that is readable when answers are pending.
     int descriptor() const { return m_socket.descriptor(); }
 
     void askWhoIsThere();
 
-    /// Asks the cameras found so far, except those that have answered this already.
+    /// Queries the controllers of the cameras found so far, except of those that have answered.
     void askWhoControls();
 
-    /// Takes what has come in, but not everything of a flood. Asks a new camera who controls it.
+    /// Processes pending answers, up to a limit. Queries the controller of each new camera.
     void takeAnswers();
 
     AdapterCameras result() const;
@@ -54,13 +54,13 @@ private:
     const uint16_t m_discoveryId;
     std::vector<GvCamera> m_cameras;
     std::unordered_map<std::string, std::size_t> m_positions; ///< by identity
-    std::unordered_set<std::size_t> m_unlisted;               ///< hashes of the same
-    std::unordered_map<uint16_t, std::size_t> m_asked;        ///< camera by the id of the question
+    std::unordered_set<std::size_t> m_unlisted; ///< hashes of the identities of further cameras
+    /// Index of the camera by the id of the query.
+    std::unordered_map<uint16_t, std::size_t> m_asked;
 };
 
-/// Looks behind all of these adapters at once, and takes exactly so long, but no time at all when
-/// none of them is connected. What comes later is not waited for. The results are in the order of
-/// the adapters.
+/// Searches all of these adapters at the same time, for exactly that duration, or not at all when
+/// none of them is connected. The results are in the order of the adapters.
 std::vector<AdapterCameras> discoverCameras(const std::vector<NetworkAdapter> &adapters,
                                             std::chrono::milliseconds time);
 

@@ -14,10 +14,10 @@ namespace OrvGigEVision {
 
 namespace {
 
-/// After so long without an answer, a command may have been lost.
+/// The time after which an unanswered command may have been lost.
 constexpr milliseconds repetition{100};
 
-/// Forcing a configuration on a camera and looking for it there.
+/// Forces a configuration on a camera and searches for it.
 class Forcing
 {
 public:
@@ -60,7 +60,8 @@ void Forcing::ask()
     if (!m_isAcknowledged && now >= m_nextCommand) {
         m_socket.broadcast(Gvcp::forceIpCommand(m_forceId, m_wanted.mac, m_wanted.ip, m_wanted.mask,
                                                 m_wanted.gateway));
-        // Less and less often, since it may restart a camera whose acknowledge does not get here.
+        // At increasing intervals, because the command may restart a camera whose acknowledge gets
+        // lost.
         m_nextCommand = now + m_interval;
         m_interval *= 2;
     }
@@ -76,7 +77,7 @@ std::optional<ForceResult> Forcing::listen(Clock::time_point until)
             continue;
         if (answer->status != Gvcp::StatusSuccess)
             return ForceResult::Refused;
-        // It may be silent for seconds while it changes its address.
+        // The camera may be silent for seconds while it changes its address.
         m_isAcknowledged = true;
         m_end = Clock::now() + Limits::forcedIpBudget;
     }

@@ -10,8 +10,8 @@
 
 namespace OrvGigEVision {
 
-/// The camera with that id, as soon as it answers; nothing when it does not in time. Who controls
-/// it is not asked.
+/// Returns the camera with that id as soon as it answers, or nothing after the time-out. Its
+/// controller is not queried.
 std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::string &id,
                                    std::chrono::milliseconds time,
                                    const std::function<bool()> &isCancelled = nullptr);
@@ -19,12 +19,12 @@ std::optional<GvCamera> findCamera(const NetworkAdapter &adapter, const std::str
 enum class ForceResult {
     Done,
     Refused,
-    NotSeen ///< the camera has not answered with the new configuration in time
+    NotSeen ///< no answer with the new configuration in time
 };
 
-/// Gives the camera of that MAC address a new configuration and waits until it answers with it:
-/// `Limits::forcedIpBudget` from when it acknowledges the command, which is repeated until then. A
-/// camera that does neither is given up earlier; a cancelled one counts as not seen.
+/// Forces a new configuration on the camera with that MAC address, and blocks until it answers with
+/// it: for `Limits::forcedIpBudget` after it has acknowledged the command, which is repeated until
+/// then. Fails earlier when the camera does neither. A cancelled call counts as not seen.
 ForceResult forceIp(const NetworkAdapter &adapter, uint64_t mac, uint32_t ip, uint32_t mask,
                     uint32_t gateway, const std::function<bool()> &isCancelled = nullptr);
 

@@ -8,29 +8,29 @@
 #include <string>
 #include <vector>
 
-/// The bytes of the GigE Vision control protocol: the commands that this library sends, and their
-/// answers. Addresses are numbers whose most significant byte is the first one on the wire.
+/// Encodes and decodes the packets of the GigE Vision control protocol: the commands of this
+/// library and their answers. Addresses are numbers whose most significant byte is the first one on
+/// the wire.
 namespace OrvGigEVision::Gvcp {
 
-/// Where cameras listen.
+/// The port of cameras.
 constexpr uint16_t port = 3956;
 
-/// The longest packet that a camera may send.
+/// The largest packet of a camera.
 constexpr std::size_t maxPacketSize = 576;
 
-/// The most bytes that one command reads or writes as memory, and the most registers that one
-/// reads.
+/// The largest number of bytes of a memory command, and of registers of a read command.
 constexpr uint32_t maxMemorySize = 536;
 constexpr std::size_t maxRegisters = maxMemorySize / 4;
 
-/// Registers that every camera has, those of 4 bytes unless noted.
+/// Registers of all cameras, of 4 bytes unless noted.
 enum Register : uint32_t {
     FirstUrl = 0x0200, ///< a text of `urlSize` bytes
     SecondUrl = 0x0400,
     Capability = 0x0934,
     HeartbeatTimeout = 0x0938, ///< milliseconds
     ControlPrivilege = 0x0A00,
-    FirstOfMaker = 0xA000 ///< from here on, registers are what the description says
+    FirstOfMaker = 0xA000 ///< start of the registers that only the description defines
 };
 constexpr uint32_t urlSize = 512;
 
@@ -44,12 +44,12 @@ constexpr uint32_t controlPrivilegeMask = 0x3; ///< set while a client has contr
 
 using Packet = std::vector<uint8_t>;
 
-// The commands. `id` must not be 0; the answer repeats it.
+// The commands. `id` must not be 0; the answer contains it.
 
-/// Asks every camera that it reaches who it is.
+/// Requests the identity of every camera that receives it.
 Packet discoveryCommand(uint16_t id);
 
-/// Has the camera of that MAC address change its configuration, until it is switched off.
+/// Sets the configuration of the camera with that MAC address until it is switched off.
 Packet forceIpCommand(uint16_t id, uint64_t mac, uint32_t ip, uint32_t mask, uint32_t gateway);
 
 /// One to `maxRegisters` registers of 4 bytes; several only with `canConcatenate`.
@@ -61,7 +61,7 @@ struct RegisterValue
     uint32_t value;
 };
 
-/// Likewise; at most half as many.
+/// The same; at most half as many.
 Packet writeRegistersCommand(uint16_t id, const std::vector<RegisterValue> &values);
 
 /// Address and size must be multiples of 4, the size at most `maxMemorySize`.
@@ -92,11 +92,11 @@ enum Status : uint16_t {
     StatusBusy = 0x8007
 };
 
-/// What every answer begins with. `payload` points into the packet.
+/// The header of an answer. `payload` points into the packet.
 struct Acknowledge
 {
     uint16_t status;
-    uint16_t answer; ///< an `Answer`, or something else
+    uint16_t answer; ///< an `Answer` or an unknown number
     uint16_t id;
     const uint8_t *payload;
     std::size_t size;
@@ -107,11 +107,11 @@ struct Acknowledge
     }
 };
 
-/// Nothing when the bytes are no answer, fewer than they claim to be, or more, unless they are
-/// filled up with zeros.
+/// Nothing when the bytes are not an answer, shorter than stated, or longer, unless the rest is
+/// zeros.
 std::optional<Acknowledge> parseAcknowledge(const uint8_t *data, std::size_t size);
 
-/// Who a camera says it is. Texts are the bytes on the wire, without the padding.
+/// The identity of a camera. Texts are the bytes on the wire without padding.
 struct Identity
 {
     uint64_t mac = 0;
@@ -126,17 +126,17 @@ struct Identity
     std::string userName;
 };
 
-/// Nothing when it is too short.
+/// Nothing for a payload that is too short.
 std::optional<Identity> parseIdentity(const Acknowledge &answer);
 
-/// The values of `count` registers; of a refused command those that were read before the camera
-/// came to the one that it refused. Nothing when the camera cannot mean that.
+/// The values of `count` registers; for a refused command, those of the registers before the
+/// refused one. Nothing for an invalid answer.
 std::optional<std::vector<uint32_t>> parseRegisters(const Acknowledge &answer, std::size_t count);
 
-/// The `size` bytes that were read at the address; null when the answer holds something else.
+/// The `size` bytes that were read at the address; null for an invalid answer.
 const uint8_t *parseMemory(const Acknowledge &answer, uint32_t address, uint32_t size);
 
-/// How long the camera will take for its answer.
+/// The time that the camera needs for its answer.
 std::optional<std::chrono::milliseconds> parsePending(const Acknowledge &answer);
 
 } // namespace OrvGigEVision::Gvcp

@@ -13,10 +13,10 @@ namespace Limits = OrvCameraIo::Limits;
 
 namespace {
 
-/// A camera that answers nonsense so often will not do better.
+/// The number of malformed answers after which a command fails.
 constexpr int nonsenseLimit = 3;
 
-/// Of the questions that a camera has not answered yet; later ones take their place.
+/// The most unanswered probes whose ids are stored; newer ones replace older ones.
 constexpr std::size_t mostOpenQuestions = 16;
 
 Status statusOf(uint16_t code)
@@ -47,16 +47,17 @@ struct GvcpChannel::Command
     Gvcp::Answer answer;
     Clock::time_point deadline;
 
-    /// Takes what the answer holds; false when it cannot be the answer to this command. A command
-    /// without it succeeds by its status alone.
+    /// Processes the content of an answer; returns false when it cannot belong to this command. A
+    /// command without this function succeeds by its status alone.
     std::function<bool(const Gvcp::Acknowledge &answer, Reply &reply)> take = nullptr;
 
     bool isRepeated = true;
-    bool isQuestion = false; ///< the answer to an earlier question is one to it, too
-    bool isMeasured = true;  ///< what the camera takes for a write says nothing of the network
+    bool isQuestion = false; ///< a probe: an answer to an earlier probe is sufficient
+    /// False for a write, whose duration in the camera says nothing about the network.
+    bool isMeasured = true;
 };
 
-/// How far a command has got.
+/// The progress of a command.
 struct GvcpChannel::State
 {
     const Clock::time_point start = Clock::now();
@@ -190,7 +191,7 @@ GvcpChannel::Reply GvcpChannel::transfer(const Command &command)
     return state.reply;
 }
 
-/// True with the answer, false when it is time for a repetition.
+/// Returns true with the answer, false when it is time for a repetition.
 bool GvcpChannel::await(const Command &command, State &state)
 {
     auto until = command.deadline;

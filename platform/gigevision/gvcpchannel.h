@@ -10,36 +10,36 @@
 
 namespace OrvGigEVision {
 
-/// Has one camera carry out commands, one at a time. An unanswered command is repeated, with the
-/// same id, so that the camera can tell it from a new one; PENDING_ACK makes the wait longer, up to
-/// the command's budget. Answers that are malformed, late or from elsewhere are skipped.
+/// Sends commands to one camera, one at a time. An unanswered command is repeated with the same id,
+/// so that the camera can recognise it; PENDING_ACK extends the time-out, up to the command's
+/// budget. Answers that are malformed, late or from another sender are ignored.
 ///
-/// To be used by one thread at a time. Nothing throws.
+/// Not thread-safe. Throws nothing.
 class GvcpChannel
 {
 public:
     GvcpChannel(const NetworkAdapter &adapter, uint32_t camera);
 
-    /// The camera has another address, or the adapter has.
+    /// Call it when the address of the camera or of the adapter has changed.
     void setCamera(const NetworkAdapter &adapter, uint32_t camera);
 
-    /// Ends the command that is under way, and every later one at once, with the status `Closed`.
-    /// May be called on any thread.
+    /// Aborts the running command, and every later one at once, with the status `Closed`.
+    /// Thread-safe.
     void interrupt() { m_socket.interrupt(); }
 
-    /// What became of a command.
+    /// The result of a command.
     struct Reply
     {
         OrvCameraIo::Status status = OrvCameraIo::Status::NoAnswer;
-        bool isBusy = false;     ///< refused for now only
-        bool wasPending = false; ///< the camera has asked for more time
+        bool isBusy = false;     ///< refused temporarily
+        bool wasPending = false; ///< the camera has requested more time
         std::vector<uint32_t> values;
 
         bool isDone() const { return status == OrvCameraIo::Status::Done; }
     };
 
-    /// `addresses` as `Gvcp::readRegistersCommand` takes them. When the camera refuses, `values`
-    /// are those of the registers before the one that it refuses.
+    /// `addresses` as for `Gvcp::readRegistersCommand`. When the camera refuses, `values` are those
+    /// of the registers before the refused one.
     Reply readRegisters(const std::vector<uint32_t> &addresses);
     Reply writeRegisters(const std::vector<Gvcp::RegisterValue> &values);
     Reply writeRegister(uint32_t address, uint32_t value)
@@ -47,17 +47,17 @@ public:
         return writeRegisters({{address, value}});
     }
 
-    /// Address and size as `Gvcp::readMemoryCommand` takes them.
+    /// Address and size as for `Gvcp::readMemoryCommand`.
     Reply readMemory(uint32_t address, uint32_t size, uint8_t *bytes);
     Reply writeMemory(uint32_t address, const uint8_t *bytes, uint32_t size,
                       Clock::time_point deadline);
 
-    /// Asks for a register that is asked for again and again, without any repetition. A slow camera
-    /// may answer the question before this one.
+    /// Reads a register that is polled, without repetitions. An answer to an earlier `ask` is
+    /// accepted, because the camera may be slow.
     Reply ask(uint32_t address, std::chrono::milliseconds time);
 
-    /// Writes a register without waiting for the answer; sends the command twice in case one is
-    /// lost.
+    /// Writes a register without waiting for the answer; sends the command twice, because one may
+    /// get lost.
     void writeRegisterBlindly(uint32_t address, uint32_t value);
 
     struct Counters
@@ -86,7 +86,7 @@ private:
     Clock::time_point m_lastAnswer = Clock::now();
 
     std::vector<uint16_t> m_openQuestions; ///< the ids of unanswered `ask`s, the oldest first
-    uint32_t m_questioned = 0;             ///< the register that they ask for
+    uint32_t m_questioned = 0;             ///< the register of `ask`
 };
 
 } // namespace OrvGigEVision

@@ -21,7 +21,7 @@ void enable(int socket, int level, int option)
     setsockopt(socket, level, option, &on, sizeof on);
 }
 
-/// The control data that goes with a packet: the adapter, and this machine's address on it.
+/// The control data of a packet: the adapter, and this machine's address on it.
 union ControlData {
     cmsghdr header; // aligns
     char bytes[CMSG_SPACE(sizeof(in_pktinfo))];
@@ -59,10 +59,10 @@ GvcpSocket::GvcpSocket(const NetworkAdapter &adapter)
     enable(m_socket, IPPROTO_IP, IP_PKTINFO);
     const int manyAnswers = 1 << 20;
     setsockopt(m_socket, SOL_SOCKET, SO_RCVBUF, &manyAnswers, sizeof manyAnswers);
-    // Bound to the adapter's address, it would not get what is broadcast.
+    // Bound to the adapter's address, the socket would not receive broadcasts.
     sockaddr_in any{};
     any.sin_family = AF_INET;
-    // Should it fail, the first packet that is sent binds the socket.
+    // If this fails, the first packet that is sent binds the socket.
     static_cast<void>(bind(m_socket, reinterpret_cast<const sockaddr *>(&any), sizeof any));
 }
 
@@ -97,7 +97,7 @@ void GvcpSocket::broadcast(const Gvcp::Packet &packet)
 {
     for (const auto &own : m_adapter.addresses)
         sendFrom(own.ip, packet, own.broadcast());
-    // Without an address of its own on this adapter, the system takes another one or 0.0.0.0.
+    // Without an address on this adapter, the system uses another one or 0.0.0.0.
     const uint32_t ownIp =
         m_adapter.addresses.empty() ? INADDR_ANY : m_adapter.addresses.front().ip;
     sendFrom(ownIp, packet, INADDR_BROADCAST);
@@ -133,7 +133,7 @@ void GvcpSocket::sendFrom(uint32_t ownIp, const Gvcp::Packet &packet, uint32_t i
 
 std::optional<Gvcp::Acknowledge> GvcpSocket::receive(Clock::time_point until)
 {
-    // A flood must not keep us or the caller here, even one that always has a packet ready.
+    // Limited, so that a flood of packets does not block the caller.
     while (Clock::now() < until) {
         pollfd waiting[] = {{m_socket, POLLIN, 0}, {m_wake, POLLIN, 0}};
         poll(waiting, 2, millisecondsUntil(until));

@@ -12,9 +12,9 @@ namespace OrvGigEVision {
 
 using Clock = std::chrono::steady_clock;
 
-/// Talks to the cameras behind one network adapter, and to no others: each packet names the adapter
-/// it leaves by, and what comes in by another one is dropped. That takes no privileges. Answers
-/// sent to the adapter's address and those broadcast by cameras of a foreign subnet both arrive.
+/// Communicates with the cameras on one network adapter only: each packet is sent through this
+/// adapter, and packets received by another one are dropped. That needs no privileges. Receives
+/// answers to the adapter's address, and broadcasts by cameras of a foreign subnet.
 ///
 /// Nothing throws; when the system refuses a socket or a packet, there are no answers.
 class GvcpSocket
@@ -25,40 +25,39 @@ public:
     GvcpSocket(const GvcpSocket &) = delete;
     GvcpSocket &operator=(const GvcpSocket &) = delete;
 
-    /// Drops from now on what comes from any other address.
+    /// Drops packets from any other address from now on.
     void listenOnlyTo(uint32_t camera) { m_onlyFrom = camera; }
 
-    /// The same adapter may have other addresses by now. The socket stays the same to cameras.
+    /// Updates the addresses of the same adapter. The socket stays the same for cameras.
     void setAdapter(const NetworkAdapter &adapter) { m_adapter = adapter; }
 
-    /// Ends the wait for an answer that is under way, and lets none begin any more. May be called
-    /// on any thread.
+    /// Aborts a running wait for an answer and all later ones. Thread-safe.
     void interrupt();
     bool isInterrupted() const { return m_isInterrupted; }
 
     /// A new number for a command; never 0.
     uint16_t nextId();
 
-    /// Sends nothing to an address that the adapter does not reach.
+    /// Sends nothing to an address that is not reachable through the adapter.
     void send(const Gvcp::Packet &packet, uint32_t camera);
 
-    /// To every camera, also in other subnets than the adapter's.
+    /// Sends to every camera, including those in other subnets than the adapter's.
     void broadcast(const Gvcp::Packet &packet);
 
-    /// The next well-formed answer, valid until the next call; nothing when the time is up. What
-    /// else comes in is skipped and does not make the wait longer.
+    /// The next well-formed answer, valid until the next call; nothing after the time-out. Other
+    /// packets are ignored and do not extend the wait.
     std::optional<Gvcp::Acknowledge> receive(Clock::time_point until);
 
-    // For those who wait for several sockets at once
+    // For waiting for several sockets at once
 
     /// Readable while `hasPacket`.
     int descriptor() const { return m_socket; }
     bool hasPacket() const;
 
-    /// The packet that has come in; nothing when it is to be skipped, or there is none.
+    /// The pending packet; nothing when it is to be ignored, or there is none.
     std::optional<Gvcp::Acknowledge> take();
 
-    /// Where the last answer came from.
+    /// The sender of the last answer.
     uint32_t sender() const { return m_sender; }
 
 private:
@@ -66,7 +65,7 @@ private:
 
     NetworkAdapter m_adapter;
     int m_socket = -1;
-    int m_wake = -1; ///< readable as soon as it is interrupted
+    int m_wake = -1; ///< readable after an interrupt
     std::atomic<bool> m_isInterrupted{false};
     std::optional<uint32_t> m_onlyFrom;
     uint16_t m_lastId;

@@ -19,26 +19,26 @@ struct OpenResult
 
     Failure failure = Failure::Failed;
 
-    /// Why it failed, in English, plain text; empty otherwise.
+    /// The reason of a failure, in English, plain text; otherwise empty.
     std::string message;
 
-    /// Null when it failed.
+    /// Null on failure.
     std::unique_ptr<GvPort> port;
 
-    /// The XML text, of which nothing has been checked but its length. Cameras of a kind that are
-    /// open at the same time share it. Null when it failed.
+    /// The XML text, of which only the length has been checked. Cameras with the same description
+    /// that are open at the same time share it. Null on failure.
     std::shared_ptr<const std::string> description;
 };
 
-/// The share of the description that has come, in bytes. Called on the thread that opens, and not
-/// at all when a kept description is used.
+/// Reports the number of downloaded bytes of the description. Called on the opening thread, and not
+/// when a stored description is used.
 using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
-/// Waits until the camera is open or cannot be; it is looked for on the adapter's network, in any
-/// subnet. `adapterName` is a `NetworkAdapter::name`, `cameraId` a `GvCamera::id`. Both
-/// functions may be null; `isCancelled` is asked before each command.
+/// Blocks until the camera is open or has failed; searches for it on the adapter's network, in any
+/// subnet. `adapterName` is a `NetworkAdapter::name`, `cameraId` a `GvCamera::id`. Both functions
+/// may be null; `isCancelled` is called before each command.
 ///
-/// The port's control has to be kept alive from then on, by `probe`.
+/// Afterwards the caller must keep control alive by `probe`.
 OpenResult openCamera(const std::string &adapterName, const std::string &cameraId, OpenMode mode,
                       const Progress &progress = nullptr,
                       const std::function<bool()> &isCancelled = nullptr);

@@ -36,7 +36,7 @@ Status GvPort::takeControl()
 {
     const auto present = m_channel.readRegisters({Gvcp::ControlPrivilege});
     if (!isAnswer(present.status) || present.status == Status::AccessDenied)
-        return present.status; // exclusive control keeps readers out, too
+        return present.status; // exclusive control also refuses reads
     if (m_mode == OpenMode::Monitor)
         return Status::Done;
     const bool isTaken = present.isDone() && (present.values.front() & Gvcp::controlPrivilegeMask);
@@ -47,7 +47,7 @@ Status GvPort::takeControl()
     m_hasControl = taken.isDone();
     if (!m_hasControl)
         return taken.status;
-    // A camera that does not let it be changed has one of its own.
+    // A camera with a read-only time-out uses its own.
     const auto heartbeat = m_channel.writeRegister(
         Gvcp::HeartbeatTimeout, static_cast<uint32_t>(Limits::heartbeat.count()));
     return isAnswer(heartbeat.status) ? Status::Done : heartbeat.status;
@@ -100,7 +100,7 @@ Status GvPort::writeWords(uint32_t address, const std::vector<uint8_t> &bytes)
 
 OrvCameraIo::Port::Presence GvPort::probe()
 {
-    // After that long a silence the camera has given control back, perhaps to another program.
+    // After such a long silence the camera has released control, and another program may have it.
     const bool wasForgotten =
         m_mode == OpenMode::Control && Clock::now() - m_channel.lastAnswer() > Limits::heartbeat;
     const auto reply = m_channel.ask(Gvcp::ControlPrivilege, Limits::keepAlivePeriod);

@@ -11,19 +11,19 @@
 namespace OrvGigEVision {
 
 enum class OpenMode {
-    Control, ///< reads and writes; no other client can write as long as the port exists
-    Monitor  ///< reads; another client may have control
+    Control, ///< read and write; no other client can write while the port exists
+    Monitor  ///< read only; another client may have control
 };
 
-/// The registers of a GigE Vision camera. Made by `openCamera`.
+/// The registers of a GigE Vision camera. Created by `openCamera`.
 class GvPort final : public OrvCameraIo::Port
 {
 public:
-    /// A camera that has answered through this adapter and can be reached; it is asked nothing yet.
+    /// For a camera that has answered through this adapter and is reachable; sends nothing yet.
     /// `cameraId` is a `GvCamera::id`.
     GvPort(const NetworkAdapter &adapter, std::string cameraId, uint32_t camera, OpenMode mode);
 
-    /// Gives control back, without waiting for an answer.
+    /// Releases control without waiting for an answer.
     ~GvPort() override;
     GvPort(const GvPort &) = delete;
     GvPort &operator=(const GvPort &) = delete;
@@ -31,10 +31,10 @@ public:
     OpenMode mode() const { return m_mode; }
     GvcpChannel &channel() { return m_channel; }
 
-    /// Takes control, or sees whether reading is allowed, and learns what the camera can.
+    /// Takes control, or checks whether reading is allowed, and reads the camera's capabilities.
     OrvCameraIo::Status connect();
 
-    /// What `reopen` has to find again.
+    /// The data for `reopen`.
     void setDescription(const DescriptionMark &mark) { m_description = mark; }
 
     std::size_t batchSize() const override { return Gvcp::maxRegisters; }
@@ -60,10 +60,10 @@ private:
     bool m_hasControl = false;
 };
 
-/// The adapter of that name, as it is now.
+/// The present state of the adapter with that name.
 std::optional<NetworkAdapter> adapterCalled(const std::string &name);
 
-/// How long a camera is looked for that is expected to be there.
+/// The time-out of a search for a camera that should be there.
 constexpr std::chrono::milliseconds searchTime{1000};
 
 } // namespace OrvGigEVision

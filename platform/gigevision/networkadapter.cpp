@@ -53,14 +53,14 @@ void addTo(NetworkAdapter &adapter, const ifaddrs &entry)
     }
 }
 
-/// An address with a label of its own ("eth0:1") belongs to the adapter before the colon.
+/// An address with a label ("eth0:1") belongs to the adapter before the colon.
 std::string adapterName(const char *label)
 {
     const std::string name = label;
     return name.substr(0, name.find(':'));
 }
 
-/// What the system says of one adapter; empty when that fails.
+/// The properties of an adapter; empty on failure.
 std::vector<char> linkFacts(int index)
 {
     struct
@@ -84,7 +84,7 @@ std::vector<char> linkFacts(int index)
     return answer;
 }
 
-/// True when another adapter, such as a bridge, takes all that comes in.
+/// True when another adapter, such as a bridge, receives all its packets.
 bool isEnslaved(int index)
 {
     const std::vector<char> answer = linkFacts(index);
@@ -121,7 +121,7 @@ bool NetworkAdapter::Address::reaches(uint32_t other) const
     if (!isUnicast || other == ip || ((other ^ ip) & mask) != 0)
         return false;
     const uint32_t hostBits = ~mask;
-    if (hostBits <= 1) // the two ends of a cable
+    if (hostBits <= 1) // a point-to-point link
         return true;
     return (other & hostBits) != 0 && (other & hostBits) != hostBits;
 }

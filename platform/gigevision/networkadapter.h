@@ -22,19 +22,19 @@ struct NetworkAdapter
         bool reaches(uint32_t other) const;
     };
 
-    std::string name; ///< as the system calls it, "eth0"
-    int index = 0;    ///< likewise
+    std::string name; ///< the system's name, such as "eth0"
+    int index = 0;    ///< the system's index
     uint64_t mac = 0;
     bool isConnected = false; ///< has a carrier
     std::vector<Address> addresses;
 
-    /// The address from which `camera` is reached; null when it is in none of the subnets, when it
-    /// is no host's, or this machine's own on this adapter.
+    /// The adapter's address from which `camera` is reachable; null when it is in none of the
+    /// subnets, not a host address, or this machine's own address on this adapter.
     const Address *addressFor(uint32_t camera) const;
 };
 
-/// The adapters that are up and can broadcast to a network beyond this machine, in the system's
-/// order; also those without an IPv4 address, except when they only serve a bridge or a bond.
+/// The adapters that are up and can broadcast to a network outside of this machine, in the system's
+/// order. Includes those without an IPv4 address, but not the ports of a bridge or a bond.
 std::vector<NetworkAdapter> networkAdapters();
 
 /// "192.168.0.1"

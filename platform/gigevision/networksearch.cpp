@@ -5,7 +5,7 @@ namespace OrvGigEVision {
 
 namespace {
 
-/// After that, cameras are looked for anew.
+/// The time after which results of a search are too old.
 constexpr std::chrono::milliseconds newFor{500};
 
 } // namespace

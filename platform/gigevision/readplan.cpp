@@ -14,7 +14,7 @@ using Groups = std::vector<Items>;
 
 namespace {
 
-/// Beyond that, a register is a text or a table, which some cameras hold back from READREG.
+/// A longer register is a text or a table, which some cameras do not return by READREG.
 constexpr uint32_t mostWords = 4;
 
 bool isFewWords(const RegisterRange &range)
@@ -26,7 +26,7 @@ Groups registerGroups(const std::vector<ReadTransfer> &batch, const Items &items
                       const ReadableMemory &memory)
 {
     Groups groups;
-    Groups refused; // a command would end at each of them
+    Groups refused; // groups of one refused register each
     std::size_t words = Gvcp::maxRegisters;
     for (const std::size_t item : items) {
         if (memory.isRefused(batch[item].range)) {

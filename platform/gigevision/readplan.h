@@ -9,7 +9,7 @@
 
 namespace OrvGigEVision {
 
-/// Memory that may be read although it is not requested: that of declared registers, without those
+/// The memory that may be read without being requested: that of declared registers, except those
 /// that the camera refuses.
 class ReadableMemory
 {
@@ -20,7 +20,7 @@ public:
     void accepted(const OrvCameraIo::RegisterRange &range);
     bool isRefused(const OrvCameraIo::RegisterRange &range) const { return m_refused.count(range); }
 
-    /// Whether all bytes from one address up to another are readable.
+    /// Whether all bytes of an address range are readable.
     bool covers(uint64_t from, uint64_t to) const;
 
 private:
@@ -34,30 +34,31 @@ private:
         uint64_t start;
         uint64_t end;
     };
-    mutable std::vector<Stretch> m_stretches; ///< ordered, none touches another
+    mutable std::vector<Stretch> m_stretches; ///< sorted, with gaps in between
     mutable bool m_isMerged = true;
 };
 
-/// Which commands read a batch of registers. The registers are given by their place in the batch.
+/// Distributes a batch of registers over commands. Registers are identified by their index in the
+/// batch.
 struct ReadPlan
 {
     struct Rules
     {
         bool isWordNumber = false;
         bool canConcatenate = false;
-        bool canSplit = false; ///< a longer register is its words, one behind the other
+        bool canSplit = false; ///< a longer register may be read word by word
 
-        /// Whether words are read by READREG rather than as memory.
+        /// Whether words are read by READREG or as memory.
         bool usesRegisters() const { return isWordNumber || canConcatenate; }
     };
 
     ReadPlan(const std::vector<OrvCameraIo::ReadTransfer> &batch,
              const std::vector<std::size_t> &items, Rules rules, const ReadableMemory &readable);
 
-    /// What one READREG reads, unless one item is read alone.
+    /// The registers of one READREG, unless one is read alone.
     std::vector<std::vector<std::size_t>> registers;
 
-    /// What one READMEM reads, likewise; ordered by address.
+    /// The registers of one READMEM, sorted by address.
     std::vector<std::vector<std::size_t>> memory;
 
     /// Whether a register of this size at this address is a word, which READREG can read.

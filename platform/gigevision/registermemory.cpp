@@ -63,7 +63,7 @@ Status write(GvcpChannel &channel, uint32_t address, const std::vector<uint8_t> 
                                                data.data() + done, part, until);
         if (!reply.isDone())
             return reply.status;
-        until = deadline(); // the budget is that of one command
+        until = deadline(); // each command has a budget of its own
     }
     return Status::Done;
 }

@@ -5,11 +5,11 @@
 
 namespace OrvGigEVision {
 
-/// Reads and writes registers of any address and length as memory, which cameras know in words of
+/// Reads and writes registers of any address and length as memory, which cameras access in words of
 /// 4 bytes and in blocks only. The range must end within 32 bits.
 namespace RegisterMemory {
 
-/// The words that a range lies in. `end` may be 2^32.
+/// The words that contain a range. `end` may be 2^32.
 struct Words
 {
     uint64_t start;
@@ -22,7 +22,7 @@ Words wordsOf(const OrvCameraIo::RegisterRange &range);
 OrvCameraIo::Status read(GvcpChannel &channel, const OrvCameraIo::RegisterRange &range,
                          std::vector<uint8_t> &bytes);
 
-/// What shares a word with the register is read first and stays as it is.
+/// Reads the other bytes of the words first, and writes them back unchanged.
 OrvCameraIo::Status write(GvcpChannel &channel, uint32_t address,
                           const std::vector<uint8_t> &bytes);
 

@@ -12,11 +12,11 @@ using OrvCameraIo::Status;
 
 namespace {
 
-/// A register that changes all the time proves nothing, so others are tried, too.
+/// The number of comparisons; a register that changes all the time is not conclusive.
 constexpr int mostLooks = 4;
 
-/// A camera that does not concatenate may have to be asked for each register of a batch, and others
-/// wait until that is over.
+/// The time limit of a batch. A camera without concatenation may need a command for each register,
+/// and other callers wait for its end.
 constexpr std::chrono::milliseconds longestBatch{100};
 
 std::vector<uint8_t> reversed(std::vector<uint8_t> bytes)
@@ -90,8 +90,8 @@ void RegisterReader::readInTime(std::vector<ReadTransfer> &batch)
     BatchRead(m_channel, m_knowledge, batch, Clock::now() + longestBatch).run();
 }
 
-/// The registers that every camera has may be the same both ways while those of its maker are not.
-/// True when a register of the batch shows that they differ.
+/// Compares registers of the maker, because the bootstrap registers may be the same in both ways
+/// while these are not. Returns true when a register of the batch has different byte orders.
 bool RegisterReader::compareViews(const std::vector<ReadTransfer> &batch, bool wasRegister)
 {
     const auto tells = [](const ReadTransfer &read) {
@@ -108,7 +108,7 @@ bool RegisterReader::compareViews(const std::vector<ReadTransfer> &batch, bool w
     return order == Order::Reversed;
 }
 
-/// Reads the word in the other way than it was read.
+/// Reads the word by the other command and compares.
 RegisterReader::Order RegisterReader::orderOf(uint32_t address, const std::vector<uint8_t> &bytes,
                                               bool wasRegister)
 {

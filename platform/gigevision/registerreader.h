@@ -9,17 +9,17 @@
 
 namespace OrvGigEVision {
 
-/// Reads a camera's registers, and finds out how it wants that done.
+/// Reads a camera's registers, and detects the commands and the byte order that it supports.
 class RegisterReader
 {
 public:
     explicit RegisterReader(GvcpChannel &channel) : m_channel(channel) {}
 
-    /// Asks the camera what it can, and looks at one register in both ways that there are. False
-    /// when it does not answer.
+    /// Reads the camera's capabilities, and compares a register read by both commands. Returns
+    /// false when the camera does not answer.
     bool lookAtCamera();
 
-    /// May be called on any thread; holds for the next batch.
+    /// Thread-safe; takes effect with the next batch.
     void setHints(const OrvCameraIo::PortHints &hints);
 
     /// See `OrvCameraIo::Port::isWordNumber`.
@@ -47,7 +47,7 @@ private:
     std::atomic<bool> m_isWordNumber{false};
     std::mutex m_mutex;
     std::optional<OrvCameraIo::PortHints> m_newHints; ///< guarded by the mutex
-    int m_looks = 0; ///< how often one of the camera's registers was read in both ways
+    int m_looks = 0; ///< the number of registers that were read by both commands
 };
 
 } // namespace OrvGigEVision

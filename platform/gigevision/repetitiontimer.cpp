@@ -14,7 +14,7 @@ using Duration = RepetitionTimer::Duration;
 constexpr Duration shortest = OrvCameraIo::Limits::shortestRepetition;
 constexpr Duration longest = OrvCameraIo::Limits::readBudget / 2;
 
-/// Packets get lost one by one; only a longer silence means that the camera has too much to do.
+/// Single packets get lost; a longer silence means that the camera is overloaded.
 constexpr int evenRepetitions = 4;
 
 } // namespace
@@ -28,7 +28,7 @@ Duration RepetitionTimer::interval(int repetitions) const
 void RepetitionTimer::answered(Duration elapsed, int repetitions)
 {
     if (repetitions > 0) {
-        // Which of the commands was answered is not known. If it was the first one, the interval
+        // It is not known which of the commands was answered. If it was the first one, the interval
         // was too short, and would stay so without a measurement.
         m_interval = std::clamp(elapsed * 3 / 2, m_interval, longest);
         return;

@@ -5,20 +5,20 @@
 
 namespace OrvGigEVision {
 
-/// Tells after which time an unanswered command is repeated, from the round trips so far.
+/// Computes the time after which an unanswered command is repeated, from previous round trips.
 class RepetitionTimer
 {
 public:
     using Duration = std::chrono::microseconds;
 
-    /// The time to wait for an answer after the command was sent, and repeated so many times.
+    /// The time to wait for an answer after the given number of repetitions.
     Duration interval(int repetitions) const;
 
-    /// A command was answered so long after it was sent first.
+    /// A command was answered that long after it was first sent.
     void answered(Duration elapsed, int repetitions);
 
 private:
-    Duration m_smoothed{0}; ///< 0 as long as nothing was measured
+    Duration m_smoothed{0}; ///< 0 without a measurement
     Duration m_deviation{0};
     Duration m_interval = std::chrono::milliseconds(100);
 };

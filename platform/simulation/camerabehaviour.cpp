@@ -27,7 +27,7 @@ constexpr double balanceTimeConstants[] = {2.0, 0.7, 0.25};
 constexpr std::uint32_t triggerSourcePulseGenerator = 2;
 constexpr double pulseGrids[] = {1e-6, 1e-5, 1e-4, 1e-3};
 
-// One bit a line in LineStatusAll.
+// One bit per line in LineStatusAll.
 constexpr std::uint32_t firstOutputLine = 2;
 enum OutputSource : std::uint32_t { OutputPulseGenerator = 5, OutputUser = 6 };
 
@@ -112,7 +112,7 @@ void CameraBehaviour::saveUserSet()
         m_userSets[selected] = readSettings();
 }
 
-// A random walk that is drawn back to the working temperature, in steps of a second at most.
+// A random walk with a drift to the working temperature, in steps of at most a second.
 void CameraBehaviour::driftTemperature(double seconds)
 {
     std::normal_distribution<double> noise(0.0, temperatureNoise);
@@ -173,7 +173,7 @@ void CameraBehaviour::generatePulses(double seconds)
     const bool isBurst = m_memory.read(PulseGenMode) != 0;
     const std::uint32_t burst = m_memory.read(PulseGenNumPulses);
     const std::uint32_t before = m_pulseCount;
-    // A pulse counts when its period is over; the small part makes up for rounding.
+    // A pulse counts at the end of its period; the epsilon compensates for rounding.
     const double pulses = std::floor(m_pulsesTime / period + 1e-6);
     m_pulseCount = static_cast<std::uint32_t>(std::min(pulses, isBurst ? burst : 4294967295.0));
     m_pulseCount = std::max(m_pulseCount, before);
@@ -186,7 +186,7 @@ void CameraBehaviour::generatePulses(double seconds)
         m_triggerCount += m_pulseCount - before;
 }
 
-// In seconds, at least one step of the grid and rounded up to it.
+// In seconds, at least one step of the grid and rounded up to the grid.
 double CameraBehaviour::pulseTime(Address address) const
 {
     const double grid = pulseGrids[std::min(m_memory.read(PulseGenGranularity), 3U)];

@@ -8,18 +8,18 @@
 
 namespace OrvSimulation {
 
-/// What the simulated camera does by itself while time passes.
+/// The activity of the simulated camera while time passes.
 ///
-/// It looks at the registers that the host has written, and writes those that a camera changes:
-/// commands that are done, what it measures, white balance, the pulse generator. The same seed and
-/// the same calls give the same camera. Make it when the memory holds its start values.
+/// Reads the registers that the host has written, and writes those that a camera changes: completed
+/// commands, measurements, white balance, the pulse generator. Deterministic for a seed and a
+/// sequence of calls. Create it when the memory has its start values.
 class CameraBehaviour
 {
 public:
     CameraBehaviour(CameraMemory &memory, std::uint32_t seed);
 
-    /// Lets \a seconds pass. With 0 only what the host has asked for since the last call is done;
-    /// a negative time counts as 0.
+    /// Advances the time by \a seconds. With 0 only requests of the host since the last call are
+    /// executed; a negative time counts as 0.
     void advance(double seconds);
 
 private:

@@ -6,10 +6,10 @@
 
 namespace OrvSimulation {
 
-/// Who a simulated camera says it is.
+/// The identity of a simulated camera.
 ///
-/// Texts are UTF-8 and cut to the length of their register, given in bytes. Addresses are numbers
-/// whose most significant byte is the first group of the usual notation.
+/// Texts are UTF-8, truncated to the length of their register, which is given in bytes. Addresses
+/// are numbers whose most significant byte is the first group of the usual notation.
 struct CameraIdentity
 {
     std::string serial = "SIM-0001";                                ///< 15; also in its name

@@ -11,8 +11,8 @@ namespace OrvSimulation {
 
 /// The registers of a simulated camera, as the camera itself reads and writes them.
 ///
-/// It knows the byte order (most significant first) and nothing about the meaning of a register.
-/// Addresses outside of it are a programming error: they read as 0 and writing them does nothing.
+/// It implements the byte order (most significant first), but not the meaning of registers.
+/// Addresses outside of it are a programming error: reads return 0 and writes have no effect.
 class CameraMemory
 {
 public:
@@ -33,7 +33,7 @@ public:
     void write64(Address address, std::uint64_t value);
     void writeFloat(Address address, float value);
 
-    /// Fills the whole register, which ends with at least one 0: a longer text is cut.
+    /// Fills the whole register, which ends with at least one 0; a longer text is truncated.
     void writeText(Address address, const std::string &text, std::size_t length);
 
     std::vector<unsigned char> readBlock(Address address, std::size_t length) const;

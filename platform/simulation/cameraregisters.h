@@ -3,14 +3,14 @@
 
 #include <cstdint>
 
-/// Where the registers of the simulated camera lie; simulatedcamera.xml says the same to the host.
+/// The register addresses of the simulated camera; they must agree with simulatedcamera.xml.
 ///
-/// A register is named like its node in the description, without the ending "Reg".
+/// A register is named like its node in the description, without the suffix "Reg".
 namespace OrvSimulation::Registers {
 
 using Address = std::uint32_t;
 
-// Bootstrap registers, as GigE Vision lays them out
+// Bootstrap registers, as defined by GigE Vision
 constexpr Address GevVersion = 0x0000;
 constexpr Address GevDeviceMode = 0x0004;
 constexpr Address GevMACAddress = 0x0008;
@@ -80,7 +80,7 @@ constexpr Address StreamBufferDepth = 0x12B0;
 constexpr Address FrameSelector = 0x1400;
 constexpr Address UserSetSelector = 0x1414;
 
-// Commands, and switches that are part of no user set
+// Commands, and switches that are not in user sets
 constexpr Address TimestampLatch = 0x1500;
 constexpr Address TriggerSoftware = 0x1504;
 constexpr Address UserSetLoad = 0x1508;
@@ -88,7 +88,7 @@ constexpr Address UserSetSave = 0x150C;
 constexpr Address ServiceKey = 0x1510;
 constexpr Address PulseGenEnable = 0x1520;
 
-// What the camera measures
+// Measurements
 constexpr Address CurrentTemperature = 0x1600;
 constexpr Address DeviceTemperature = 0x1604;
 constexpr Address UpTime = 0x1608;

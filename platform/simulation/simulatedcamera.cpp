@@ -34,7 +34,7 @@ std::set<std::string> &openSerials()
     return serials;
 }
 
-// Holds a serial number as long as it lives.
+// Reserves a serial number while an instance exists.
 class Registration
 {
 public:
@@ -70,7 +70,7 @@ CameraMemory switchedOn(const CameraIdentity &identity)
     return memory;
 }
 
-// The same serial number always gives the same camera (FNV-1a).
+// The seed is a hash of the serial number (FNV-1a).
 std::uint32_t seedOf(const std::string &serial)
 {
     std::uint32_t hash = 2166136261U;
@@ -81,7 +81,7 @@ std::uint32_t seedOf(const std::string &serial)
 
 } // namespace
 
-// The memory and the behaviour, which hosts and the timer use on different threads.
+// The memory and the behaviour, which are used by hosts and by the timer on different threads.
 class SimulatedCamera::Innards
 {
 public:
@@ -134,7 +134,7 @@ private:
     CameraMemory m_memory;
     CameraBehaviour m_behaviour;
     Clock::time_point m_lastTick = Clock::now();
-    OrvCameraIo::MainContext::Timer m_timer; ///< the last: it uses all the others
+    OrvCameraIo::MainContext::Timer m_timer; ///< last, because it uses all the others
 };
 
 class SimulatedCamera::Connection final : public OrvCameraIo::Port

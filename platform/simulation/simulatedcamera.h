@@ -12,15 +12,15 @@
 
 namespace OrvSimulation {
 
-/// A camera that lives in this process: registers, a GenICam description, and a life of its own.
+/// A camera inside this process: registers, a GenICam description, and behaviour.
 ///
-/// Use it wherever a camera is wanted and none is at hand. Its registers are reached through ports
-/// as a real camera's are, so everything above them works as with a real one. As long as the object
-/// or a port of it exists, the camera is open, and time passes in it whenever the default GLib main
-/// context runs: its temperature drifts, white balance follows the scene, bursts end.
+/// Use it in place of a real camera. Its registers are accessed through ports like those of a real
+/// camera, so all layers above work in the same way. While the object or a port of it exists, the
+/// camera is open, and its time passes whenever the default GLib main context runs: its temperature
+/// drifts, white balance follows the scene, bursts end.
 ///
-/// Cameras with different serial numbers are independent of each other. All functions may be called
-/// on any thread.
+/// Cameras with different serial numbers are independent of each other. All functions are
+/// thread-safe.
 class SimulatedCamera
 {
 public:
@@ -34,20 +34,20 @@ public:
     SimulatedCamera(const SimulatedCamera &) = delete;
     SimulatedCamera &operator=(const SimulatedCamera &) = delete;
 
-    /// A way to the registers; there may be several. The camera has carried out what a write
-    /// commands before it acknowledges it.
+    /// Creates a port to the registers; there may be several. The camera executes a command before
+    /// it acknowledges the write.
     std::unique_ptr<OrvCameraIo::Port> port() const;
 
-    /// Who the camera is: what it was made with, whatever has been written to it since.
+    /// The identity with which the camera was created, independent of later writes.
     const CameraIdentity &identity() const;
 
-    /// Lets \a seconds pass in the camera, without waiting for the clock.
+    /// Advances the time in the camera by \a seconds, without waiting.
     void advance(double seconds);
 
     /// Whether a camera with this serial number is open in this process.
     static bool isOpen(const std::string &serial);
 
-    /// The GenICam description that every simulated camera hands out, XML in UTF-8.
+    /// The GenICam description of every simulated camera, XML in UTF-8.
     static std::shared_ptr<const std::string> description();
 
 private:

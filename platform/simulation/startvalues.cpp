@@ -17,7 +17,7 @@ struct StartValue
     std::uint32_t value;
 };
 
-// Registers that are not listed start at 0.
+// Registers that are not listed are 0.
 constexpr StartValue startValues[] = {
     {GevVersion, 0x00010002},
     {GevDeviceMode, 0x80000001},      // big endian, UTF-8
@@ -103,7 +103,7 @@ constexpr FrameStartValue frameStartValues[] = {
     {FrameWdrE3, 200, 60},
 };
 
-// Where the description would lie if it were fetched from the camera; hosts show this text.
+// The location of the description, if it were read from the camera; hosts display this text.
 std::string descriptionUrl()
 {
     char url[64];
@@ -143,7 +143,7 @@ void writeFrames(CameraMemory &memory)
     }
 }
 
-// Every table hands its 8 bit index through to 12 bits.
+// Every table maps its 8-bit index to 12 bits without a change.
 void writeLookUpTables(CameraMemory &memory)
 {
     for (std::uint32_t table = 0; table < LookUpTableCount; ++table) {

@@ -6,8 +6,8 @@
 
 namespace OrvSimulation {
 
-/// Fills the memory of a camera that has just been made with what a real one holds when it is
-/// switched on for the first time.
+/// Initialises the memory of a new camera with the values of a real camera that is switched on for
+/// the first time.
 void writeStartValues(CameraMemory &memory, const CameraIdentity &identity);
 
 } // namespace OrvSimulation
