@@ -78,7 +78,7 @@ CameraWindows::~CameraWindows()
     m_tree.clearParams(); // the device may belong to the configuration window
 }
 
-/// After the entries "Connect" and "Disconnect".
+/// Inserts the entries after "Connect" and "Disconnect".
 void CameraWindows::addSettingsMenu()
 {
     auto *menu = m_configuration.findChild<QMenu *>(QStringLiteral("menuMenu"));

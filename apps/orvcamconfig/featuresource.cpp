@@ -96,7 +96,7 @@ std::unique_ptr<FeatureSource> FeatureSource::openCameraForText(OrvCam::DeviceIn
 {
     OpeningLine progress(QString::fromUtf8(camera.GetId()));
     auto source = open(camera, &progress, error);
-    if (progress.standsStill())
+    if (progress.hasStalled())
         *error = tr("The camera '%1' has sent nothing new for %2 seconds.")
                      .arg(QString::fromUtf8(camera.GetId()))
                      .arg(OpeningLine::longestStandstill / 1000);

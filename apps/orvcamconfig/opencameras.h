@@ -20,7 +20,7 @@ public:
     /// Creates the folder if it is missing.
     explicit OpenCameras(const QString &folder);
 
-    /// Whether the camera of this object is open; initially not.
+    /// Sets whether the camera of this object is open; initially false.
     void setOpen(bool isOpen);
 
     bool areSeveral() const;

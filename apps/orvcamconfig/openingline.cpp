@@ -37,10 +37,10 @@ bool OpeningLine::show(int percent)
             << clearedLine
             << tr("Opening the camera '%1': %2 %").arg(m_camera).arg(std::max(percent, 0));
     }
-    return !standsStill();
+    return !hasStalled();
 }
 
-bool OpeningLine::standsStill() const
+bool OpeningLine::hasStalled() const
 {
     return m_sinceChange.hasExpired(longestStandstill);
 }

@@ -22,7 +22,7 @@ public:
     /// Shows the downloaded share of the description; -1 for none. Returns false when there is no
     /// progress for too long.
     bool show(int percent);
-    bool standsStill() const;
+    bool hasStalled() const;
 
 private:
     const QString m_camera;

@@ -14,7 +14,7 @@ namespace {
 constexpr int treeWidth = 38;
 constexpr int treeHeight = 47;
 
-/// The smallest share of its preferred width that a window beside another one may get.
+/// The smallest width of a window beside another one, for its preferred width.
 int leastWidth(int wanted)
 {
     return wanted * 2 / 3;

@@ -52,7 +52,7 @@ void holdMessage(QtMsgType type, const QMessageLogContext &, const QString &text
         giveUp();
 }
 
-/// Without a window manager, warnings about it are of no use for a screenshot.
+/// Drops warnings of the offscreen platform, which are irrelevant for a screenshot.
 void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (!text.startsWith(QLatin1String("This plugin does not support ")))
@@ -61,7 +61,7 @@ void dropMessagesOfOffscreen(QtMsgType type, const QMessageLogContext &, const Q
         std::abort();
 }
 
-/// Qt opens an X server unless the session states its type; not every compositor does.
+/// Qt tries X unless the session states that it is Wayland; not every compositor sets that.
 bool isWaylandAlone()
 {
     return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&

@@ -43,7 +43,7 @@ void CameraInterface::setDescription(const std::string &description)
 }
 
 /// Null when none of the known cameras is absent.
-CameraInterface::Known *CameraInterface::longestGone()
+CameraInterface::Known *CameraInterface::longestAbsent()
 {
     Known *longest = nullptr;
     for (Known &known : m_known) {
@@ -59,10 +59,10 @@ std::size_t CameraInterface::placeFor(DeviceFacts &&facts)
 {
     auto connector = makeConnector(facts);
     const std::string id = facts.id;
-    Known *reused = m_known.size() < Limits::knownCameras ? nullptr : longestGone();
+    Known *reused = m_known.size() < Limits::knownCameras ? nullptr : longestAbsent();
     if (reused) {
         m_places.erase(reused->record->facts().id);
-        reused->record->become(std::move(facts), std::move(connector));
+        reused->record->reuseFor(std::move(facts), std::move(connector));
         reused->lastSeen = m_search;
         return m_places[id] = static_cast<std::size_t>(reused - m_known.data());
     }

@@ -57,7 +57,7 @@ private:
     };
 
     std::size_t placeFor(DeviceFacts &&facts);
-    Known *longestGone();
+    Known *longestAbsent();
 
     CameraSystem &m_system;
     std::string m_description;

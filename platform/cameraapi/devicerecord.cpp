@@ -55,7 +55,7 @@ DeviceRecord::DeviceRecord(CameraInterface &parent, DeviceFacts facts,
 {
 }
 
-void DeviceRecord::become(DeviceFacts facts, std::shared_ptr<CameraConnector> connector)
+void DeviceRecord::reuseFor(DeviceFacts facts, std::shared_ptr<CameraConnector> connector)
 {
     update(std::move(facts));
     m_connector = std::move(connector);

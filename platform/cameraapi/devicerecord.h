@@ -50,7 +50,7 @@ public:
     bool update(DeviceFacts facts);
 
     /// Reuses the record for another camera. Precondition: it is not in use.
-    void become(DeviceFacts facts, std::shared_ptr<CameraConnector> connector);
+    void reuseFor(DeviceFacts facts, std::shared_ptr<CameraConnector> connector);
 
     /// The camera is open or being opened.
     bool isInUse() const { return m_use.use_count() > 1; }

@@ -85,9 +85,9 @@ public:
     bool isSilent = false; ///< the last command got no answer
     bool isLost = false;
     bool isStopping = false;
-    std::vector<RegisterRange> sentInVain; ///< no answer since the camera became silent
-    std::set<RegisterRange> suspects;      ///< no answer although the camera was there
-    int probesInVain = 0;                  ///< since the last answer
+    std::vector<RegisterRange> unansweredRanges; ///< no answer since the camera became silent
+    std::set<RegisterRange> suspects;            ///< no answer although the camera was there
+    int unansweredProbes = 0;                    ///< since the last answer
     Clock::time_point lastAnswer = Clock::now();
     Clock::time_point lastCommand = Clock::now();
     Clock::time_point lastReopening;
@@ -95,7 +95,7 @@ public:
     std::condition_variable wake;     ///< wakes the I/O thread
     std::condition_variable progress; ///< wakes the callers
     std::mutex onPort;                ///< held while an immediate port is used
-    std::recursive_mutex telling;     ///< locked while the listener is called
+    std::recursive_mutex notifying;   ///< locked while the listener is called
     RegisterIoListener *listener = nullptr;
     std::thread thread;
 };
@@ -218,7 +218,7 @@ void RegisterIo::Private::transfer(std::unique_lock<std::mutex> &lock,
     const auto time = Clock::now();
     lastCommand = time;
     bool hasAnswer = false;
-    std::vector<RegisterRange> inVain;
+    std::vector<RegisterRange> unansweredNow;
     // Without a failed command, the port left registers out for lack of time only.
     const bool isWithoutFailure =
         std::all_of(batch.begin(), batch.end(), [](const ReadTransfer &read) {
@@ -232,15 +232,15 @@ void RegisterIo::Private::transfer(std::unique_lock<std::mutex> &lock,
             read.status = Status::Failed;
         hasAnswer |= isAnswer(read.status);
         if (read.status == Status::NoAnswer)
-            inVain.push_back(read.range);
+            unansweredNow.push_back(read.range);
         if (read.status == Status::NotSent)
             read.status = Status::NoAnswer;
         if (read.status != Status::Done)
             read.bytes.clear();
         cache.store(read.range, {read.status, read.bytes, moment, time});
     }
-    if (!inVain.empty())
-        unanswered(inVain);
+    if (!unansweredNow.empty())
+        unanswered(unansweredNow);
     else if (hasAnswer)
         answered(lock);
 }
@@ -309,7 +309,7 @@ void RegisterIo::Private::notify(std::unique_lock<std::mutex> &lock,
 {
     lock.unlock();
     {
-        const std::lock_guard<std::recursive_mutex> guard(telling);
+        const std::lock_guard<std::recursive_mutex> guard(notifying);
         if (listener)
             (listener->*event)();
     }
@@ -319,19 +319,19 @@ void RegisterIo::Private::notify(std::unique_lock<std::mutex> &lock,
 void RegisterIo::Private::answered(std::unique_lock<std::mutex> &lock)
 {
     lastAnswer = Clock::now();
-    const bool wasThere = probesInVain == 0;
-    probesInVain = 0;
+    const bool wasThere = unansweredProbes == 0;
+    unansweredProbes = 0;
     if (!isSilent)
         return;
     isSilent = false;
     // A register without an answer, although the camera answers others, counts as refused: reading
     // it again would cost a second each time.
     std::set<RegisterRange> refused;
-    for (const RegisterRange &range : sentInVain) {
-        if (wasThere && !suspects.insert(range).second && sentInVain.size() == 1)
+    for (const RegisterRange &range : unansweredRanges) {
+        if (wasThere && !suspects.insert(range).second && unansweredRanges.size() == 1)
             refused.insert(range);
     }
-    sentInVain.clear();
+    unansweredRanges.clear();
     cache.forgetUnanswered(refused);
     notify(lock, &RegisterIoListener::answersAgain);
 }
@@ -339,7 +339,7 @@ void RegisterIo::Private::answered(std::unique_lock<std::mutex> &lock)
 void RegisterIo::Private::unanswered(const std::vector<RegisterRange> &ranges)
 {
     isSilent = true;
-    sentInVain.insert(sentInVain.end(), ranges.begin(), ranges.end());
+    unansweredRanges.insert(unansweredRanges.end(), ranges.begin(), ranges.end());
 }
 
 void RegisterIo::Private::probe(std::unique_lock<std::mutex> &lock)
@@ -358,9 +358,9 @@ void RegisterIo::Private::probe(std::unique_lock<std::mutex> &lock)
         answered(lock);
         return;
     }
-    ++probesInVain;
-    const bool isGone =
-        lastCommand - lastAnswer >= Limits::lostAfter && probesInVain >= Limits::lostAfterProbes;
+    ++unansweredProbes;
+    const bool isGone = lastCommand - lastAnswer >= Limits::lostAfter &&
+                        unansweredProbes >= Limits::lostAfterProbes;
     if (presence == Port::Presence::Silent && !isGone)
         return;
     isSilent = true;
@@ -388,8 +388,8 @@ void RegisterIo::Private::lookForLost(std::unique_lock<std::mutex> &lock, Port::
         return;
     isLost = false;
     isSilent = false;
-    probesInVain = 0;
-    sentInVain.clear();
+    unansweredProbes = 0;
+    unansweredRanges.clear();
     suspects.clear();
     lastAnswer = Clock::now();
     cache.clear();
@@ -443,7 +443,7 @@ RegisterIo::~RegisterIo()
 
 void RegisterIo::setListener(RegisterIoListener *listener)
 {
-    const std::lock_guard<std::recursive_mutex> lock(d->telling);
+    const std::lock_guard<std::recursive_mutex> lock(d->notifying);
     d->listener = listener;
 }
 

@@ -156,11 +156,11 @@ void FormulaParser::parseChoices()
         parseChoices();
         require(":");
         jumps.push_back(emit(Op::Jump, -1));
-        leadHere(choose);
+        setJumpTarget(choose);
         parseBinary(1);
     }
     for (const std::size_t jump : jumps)
-        leadHere(jump);
+        setJumpTarget(jump);
 }
 
 void FormulaParser::parseBinary(int lowestLevel)
@@ -187,7 +187,7 @@ void FormulaParser::parseBinary(int lowestLevel)
         }
         if (isLogical) {
             emit(Op::Truth, 0);
-            leadHere(jump);
+            setJumpTarget(jump);
         } else if (found->op == Op::Divide || found->op == Op::Remainder) {
             emitDivision(found->op, operand);
         } else {
@@ -386,7 +386,7 @@ void FormulaParser::emitDivision(Op op, std::size_t divisor)
     emit(op, -1);
 }
 
-void FormulaParser::leadHere(std::size_t step)
+void FormulaParser::setJumpTarget(std::size_t step)
 {
     m_code.steps[step].operand = static_cast<uint32_t>(m_code.steps.size());
 }

@@ -50,7 +50,7 @@ private:
     std::size_t emit(Op op, int change, std::size_t operand = 0);
     void emitNumber(FormulaNumber number);
     void emitDivision(Op op, std::size_t divisor);
-    void leadHere(std::size_t step);
+    void setJumpTarget(std::size_t step);
 
     /// Counts the nesting depth of the parser.
     class Nesting;

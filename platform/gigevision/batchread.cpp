@@ -48,7 +48,7 @@ void BatchRead::run()
 {
     std::vector<std::size_t> items;
     for (std::size_t i = 0; i < m_batch.size(); ++i) {
-        if (isWithinReach(m_batch[i]))
+        if (checkRange(m_batch[i]))
             items.push_back(i);
     }
     const ReadPlan plan(m_batch, items, m_rules, m_knowledge.memory);
@@ -73,7 +73,7 @@ bool BatchRead::isTimeUp() const
 }
 
 /// Returns false for a range that cannot be read, and sets its result.
-bool BatchRead::isWithinReach(ReadTransfer &read) const
+bool BatchRead::checkRange(ReadTransfer &read) const
 {
     read.status = Status::NotSent;
     read.bytes.clear();
@@ -140,12 +140,12 @@ BatchRead::Result BatchRead::afterRefusal(const Kind &kind, const Items &items,
     // Determines whether the camera refuses that register or the command.
     const std::size_t done = answer.done;
     const Items rest = items.from(done + 1);
-    const bool isKnown = done > 0 && done < command.worked && command.tellsProgress;
+    const bool isKnown = done > 0 && done < command.worked && command.reportsProgress;
     const Result suspect = isKnown ? refuse(items[done], answer.status) : readAlone(items[done]);
     if (suspect == Result::Ended)
         return suspect;
     if (suspect == Result::SomeRefused) {
-        command.tellsProgress = command.tellsProgress || done > 0;
+        command.reportsProgress = command.reportsProgress || done > 0;
         return readTogether(kind, rest) == Result::Ended ? Result::Ended : suspect;
     }
     if (done > 0) {

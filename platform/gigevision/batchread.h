@@ -14,7 +14,7 @@ struct BatchCommand
     std::size_t limit = SIZE_MAX; ///< the largest number of registers that the camera accepts
     std::size_t worked = 0;       ///< the largest number of registers that one command has read
     /// An answer to a refused command contains the registers before the refused one.
-    bool tellsProgress = false;
+    bool reportsProgress = false;
 };
 
 /// The properties of a camera that are relevant for reading its registers.
@@ -72,7 +72,7 @@ private:
     };
 
     bool isTimeUp() const;
-    bool isWithinReach(OrvCameraIo::ReadTransfer &read) const;
+    bool checkRange(OrvCameraIo::ReadTransfer &read) const;
     Result readTogether(const Kind &kind, const Items &items);
     Result readInParts(const Kind &kind, const Items &items, std::size_t first, std::size_t others);
     Result afterRefusal(const Kind &kind, const Items &items, const Answer &answer);

@@ -64,18 +64,18 @@ Discovery::Discovery(const NetworkAdapter &adapter)
 {
 }
 
-void Discovery::askWhoIsThere()
+void Discovery::sendDiscovery()
 {
     m_socket.broadcast(Gvcp::discoveryCommand(m_discoveryId));
 }
 
-void Discovery::askWhoControls()
+void Discovery::queryControllers()
 {
     for (std::size_t i = 0; i < m_cameras.size(); ++i)
-        askWhoControls(i);
+        queryControllers(i);
 }
 
-void Discovery::askWhoControls(std::size_t camera)
+void Discovery::queryControllers(std::size_t camera)
 {
     if (!m_cameras[camera].isReachable || m_cameras[camera].control != Control::Unknown)
         return;
@@ -112,7 +112,7 @@ void Discovery::meet(const GvCamera &camera)
     }
     m_positions[key] = m_cameras.size();
     m_cameras.push_back(camera);
-    askWhoControls(m_cameras.size() - 1);
+    queryControllers(m_cameras.size() - 1);
 }
 
 void Discovery::learnControl(const Gvcp::Acknowledge &answer)
@@ -153,8 +153,8 @@ std::vector<AdapterCameras> discoverCameras(const std::vector<NetworkAdapter> &a
     for (int round = 0; round < rounds; ++round) {
         for (const auto &discovery : discoveries) {
             if (round % 2 == 0)
-                discovery->askWhoIsThere();
-            discovery->askWhoControls();
+                discovery->sendDiscovery();
+            discovery->queryControllers();
         }
         takeAnswers(discoveries, start + time * (round + 1) / rounds);
     }

@@ -34,10 +34,10 @@ public:
     /// A descriptor that is readable when answers are pending.
     int descriptor() const { return m_socket.descriptor(); }
 
-    void askWhoIsThere();
+    void sendDiscovery();
 
     /// Queries the controllers of the cameras found so far, except of those that have answered.
-    void askWhoControls();
+    void queryControllers();
 
     /// Processes pending answers, up to a limit. Queries the controller of each new camera.
     void takeAnswers();
@@ -47,7 +47,7 @@ public:
 private:
     void meet(const GvCamera &camera);
     void learnControl(const Gvcp::Acknowledge &answer);
-    void askWhoControls(std::size_t camera);
+    void queryControllers(std::size_t camera);
 
     const NetworkAdapter m_adapter;
     GvcpSocket m_socket;

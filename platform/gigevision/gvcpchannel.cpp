@@ -14,7 +14,7 @@ namespace Limits = OrvCameraIo::Limits;
 namespace {
 
 /// The number of malformed answers after which a command fails.
-constexpr int nonsenseLimit = 3;
+constexpr int malformedAnswerLimit = 3;
 
 /// The most unanswered probes whose ids are stored; newer ones replace older ones.
 constexpr std::size_t mostOpenQuestions = 16;
@@ -62,7 +62,7 @@ struct GvcpChannel::State
 {
     const Clock::time_point start = Clock::now();
     int repetitions = 0;
-    int nonsense = 0;
+    int malformedAnswers = 0;
     Reply reply;
 };
 
@@ -187,7 +187,7 @@ GvcpChannel::Reply GvcpChannel::transfer(const Command &command)
         ++state.repetitions;
         ++m_counters.repetitions;
     }
-    state.reply.status = state.nonsense > 0 ? Status::Failed : Status::NoAnswer;
+    state.reply.status = state.malformedAnswers > 0 ? Status::Failed : Status::NoAnswer;
     return state.reply;
 }
 
@@ -216,7 +216,7 @@ bool GvcpChannel::accept(const Gvcp::Acknowledge &answer, const Command &command
 {
     if (command.take && !command.take(answer, state.reply)) {
         state.reply.status = Status::Failed;
-        return ++state.nonsense >= nonsenseLimit;
+        return ++state.malformedAnswers >= malformedAnswerLimit;
     }
     if (command.isQuestion) {
         const auto open = std::find(m_openQuestions.begin(), m_openQuestions.end(), answer.id);

@@ -29,7 +29,7 @@ Status GvPort::connect()
     const Status status = takeControl();
     if (status != Status::Done)
         return status;
-    return m_reader.lookAtCamera() ? Status::Done : Status::NoAnswer;
+    return m_reader.readCapabilities() ? Status::Done : Status::NoAnswer;
 }
 
 Status GvPort::takeControl()

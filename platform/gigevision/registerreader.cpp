@@ -13,7 +13,7 @@ using OrvCameraIo::Status;
 namespace {
 
 /// The number of comparisons; a register that changes all the time is not conclusive.
-constexpr int mostLooks = 4;
+constexpr int maxComparisons = 4;
 
 /// The time limit of a batch. A camera without concatenation may need a command for each register,
 /// and other callers wait for its end.
@@ -33,7 +33,7 @@ std::vector<uint8_t> bytesOf(uint32_t word)
 
 } // namespace
 
-bool RegisterReader::lookAtCamera()
+bool RegisterReader::readCapabilities()
 {
     const auto reply = m_channel.readRegisters({Gvcp::Capability});
     m_capability = reply.isDone() ? reply.values.front() : 0;
@@ -79,7 +79,7 @@ void RegisterReader::read(std::vector<ReadTransfer> &batch)
     const bool usesRegisters = m_knowledge.rules().usesRegisters();
     readInTime(batch);
     const bool wantsToKnow = m_hasHints && !isWordNumber() && !m_knowledge.isOrderKnown;
-    if (wantsToKnow && m_looks < mostLooks && compareViews(batch, usesRegisters)) {
+    if (wantsToKnow && m_comparisons < maxComparisons && compareViews(batch, usesRegisters)) {
         setWordNumber();
         readInTime(batch);
     }
@@ -94,14 +94,14 @@ void RegisterReader::readInTime(std::vector<ReadTransfer> &batch)
 /// while these are not. Returns true when a register of the batch has different byte orders.
 bool RegisterReader::compareViews(const std::vector<ReadTransfer> &batch, bool wasRegister)
 {
-    const auto tells = [](const ReadTransfer &read) {
+    const auto isConclusive = [](const ReadTransfer &read) {
         return read.status == Status::Done && ReadPlan::isWord(read.range) &&
                read.range.address >= Gvcp::FirstOfMaker && read.bytes != reversed(read.bytes);
     };
-    const auto read = std::find_if(batch.begin(), batch.end(), tells);
+    const auto read = std::find_if(batch.begin(), batch.end(), isConclusive);
     if (read == batch.end())
         return false;
-    ++m_looks;
+    ++m_comparisons;
     const auto address = static_cast<uint32_t>(read->range.address);
     const Order order = orderOf(address, read->bytes, wasRegister);
     m_knowledge.isOrderKnown = order == Order::Same;

@@ -17,7 +17,7 @@ public:
 
     /// Reads the camera's capabilities, and compares a register read by both commands. Returns
     /// false when the camera does not answer.
-    bool lookAtCamera();
+    bool readCapabilities();
 
     /// Thread-safe; takes effect with the next batch.
     void setHints(const OrvCameraIo::PortHints &hints);
@@ -47,7 +47,7 @@ private:
     std::atomic<bool> m_isWordNumber{false};
     std::mutex m_mutex;
     std::optional<OrvCameraIo::PortHints> m_newHints; ///< guarded by the mutex
-    int m_looks = 0; ///< the number of registers that were read by both commands
+    int m_comparisons = 0; ///< the number of registers that were read by both commands
 };
 
 } // namespace OrvGigEVision

@@ -24,7 +24,7 @@ QByteArray platformInWayland()
 
 /// Sends Qt's requests to a Wayland compositor. Qt's own event loop sends them before it waits; a
 /// host's event loop does not.
-void keepTalkingToCompositor(QApplication *application)
+void flushWaylandRequests(QApplication *application)
 {
     const int intervalMs = 20;
     auto *timer = new QTimer(application);
@@ -53,7 +53,7 @@ void ensureApplication()
     if (!platform.isEmpty())
         qunsetenv(platformVariable); // programs that the host starts must not inherit it
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        keepTalkingToCompositor(application);
+        flushWaylandRequests(application);
 }
 
 } // namespace OrvGui

@@ -351,11 +351,11 @@ void OrvFeatureBrowserPrivate::narrow()
     if (!isNarrowed) {
         showCounts(nullptr);
         if (shown && before)
-            giveBack();
+            restoreLook();
         return;
     }
     if (!before)
-        remember();
+        storeLook();
     FeatureSearch::Features wanted = shown->marks().changedFeatures();
     if (words.isEmpty()) {
         showCounts(nullptr);
@@ -387,7 +387,7 @@ void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wante
     OrvGenParamTreeViewPrivate::of(*view).describeCurrent();
 }
 
-void OrvFeatureBrowserPrivate::remember()
+void OrvFeatureBrowserPrivate::storeLook()
 {
     // The tree's own state would read all rows, which would delay typing.
     Look look;
@@ -404,7 +404,7 @@ void OrvFeatureBrowserPrivate::remember()
     isUnfoldingOutdated = true;
 }
 
-void OrvFeatureBrowserPrivate::giveBack()
+void OrvFeatureBrowserPrivate::restoreLook()
 {
     OrvGenParamTreeViewPrivate::of(*view).endEditing();
     if (!shown || !before)

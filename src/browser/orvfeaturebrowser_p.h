@@ -51,8 +51,8 @@ public:
 
     void narrow();
     void showNarrowed(const FeatureSearch::Features &wanted);
-    void remember();
-    void giveBack();
+    void storeLook();
+    void restoreLook();
     void spanCategories();
     void showCounts(const FeatureSearch::Result *result);
     void showHigherLevel();

@@ -111,7 +111,7 @@ private:
     void setDigitalGain(double factor);
     DigitalGain::Parts gainOf(double factor) const;
 
-    void catchUp();
+    void updateAfterWrites();
     void showAll();
 
     QtOrvSpinBox *areaBox(AreaPresets::Side side) const;
@@ -564,7 +564,7 @@ void OrvCamConfigFrameABDialogPrivate::setExposureTime(int time)
         if (writing.isOver())
             return;
     }
-    catchUp();
+    updateAfterWrites();
 }
 
 void OrvCamConfigFrameABDialogPrivate::readDigitalGain()
@@ -602,7 +602,7 @@ void OrvCamConfigFrameABDialogPrivate::setDigitalGain(double factor)
         if (writing.isOver())
             return;
     }
-    catchUp();
+    updateAfterWrites();
 }
 
 /// The box rounds its limits; the exact ones are the camera's.
@@ -615,7 +615,7 @@ DigitalGain::Parts OrvCamConfigFrameABDialogPrivate::gainOf(double factor) const
 }
 
 /// Called after several writes.
-void OrvCamConfigFrameABDialogPrivate::catchUp()
+void OrvCamConfigFrameABDialogPrivate::updateAfterWrites()
 {
     reader().whenKnown(this, this,
                        areaParams() + FeatureReader::Params{exposure.param(ExposureTime::Lines),
@@ -669,7 +669,7 @@ void OrvCamConfigFrameABDialogPrivate::setArea(AreaPresets::Preset preset)
                 break; // the next step depends on this one
         }
     }
-    catchUp();
+    updateAfterWrites();
 }
 
 void OrvCamConfigFrameABDialogPrivate::showArea()

@@ -200,7 +200,7 @@ void OrvGenParamTreeViewPrivate::applyLevel(GenParamTreeVisibilityFilterProxyMod
     if (!alive) // a host has replaced the tree in its handler of the write
         return;
     const int level = ui->cbVisibility->currentIndex();
-    leaveRowsThatGo(level);
+    moveToVisibleRow(level);
     ui->treeView->scheduleDelayedItemsLayout();
     proxy->setFilterVisibility(level);
     // When a whole category is hidden, Qt removes the current row without a signal.
@@ -228,17 +228,17 @@ void OrvGenParamTreeViewPrivate::endEditing()
 }
 
 // Moves the current row to the next one that stays visible, or the previous one, or the category.
-void OrvGenParamTreeViewPrivate::leaveRowsThatGo(int level)
+void OrvGenParamTreeViewPrivate::moveToVisibleRow(int level)
 {
     const QModelIndex current = ui->treeView->currentIndex();
-    const auto goes = [level](const QModelIndex &row) {
+    const auto isHidden = [level](const QModelIndex &row) {
         return row.isValid() && !GenParamTreeVisibilityFilterProxyModel::isShownAt(level, row);
     };
-    if (!goes(current))
+    if (!isHidden(current))
         return;
     const auto firstThatStays = [&](int step) {
         QModelIndex row = current;
-        while (goes(row))
+        while (isHidden(row))
             row = row.sibling(row.row() + step, current.column());
         return row;
     };

@@ -48,7 +48,7 @@ public:
     void spanCategories();
     void applyLevel(GenParamTreeVisibilityFilterProxyModel *proxy);
     void endEditing();
-    void leaveRowsThatGo(int level);
+    void moveToVisibleRow(int level);
     void describeCurrent();
 
     void saveState();

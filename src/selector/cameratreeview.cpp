@@ -19,7 +19,7 @@ bool CameraTreeView::isWithoutCameras(const QModelIndex &index) const
     return index.isValid() && model()->hasChildren(index) && model()->rowCount(index) == 0;
 }
 
-void CameraTreeView::lookAgain(const QModelIndex &interface)
+void CameraTreeView::searchAgain(const QModelIndex &interface)
 {
     const WaitCursor waiting;
     collapse(interface);
@@ -46,7 +46,7 @@ void CameraTreeView::mousePressEvent(QMouseEvent *event)
     const QModelIndex index = indexAt(event->pos());
     if (event->button() == Qt::LeftButton && isWithoutCameras(index) &&
         !visualRect(index).contains(event->pos())) {
-        lookAgain(index);
+        searchAgain(index);
         return;
     }
     QTreeView::mousePressEvent(event);
@@ -57,14 +57,14 @@ void CameraTreeView::mouseDoubleClickEvent(QMouseEvent *event)
     const QPersistentModelIndex index = indexAt(event->pos());
     QTreeView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && isWithoutCameras(index))
-        lookAgain(index);
+        searchAgain(index);
 }
 
 void CameraTreeView::keyPressEvent(QKeyEvent *event)
 {
     const int opening = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
     if (event->key() == opening && isWithoutCameras(currentIndex())) {
-        lookAgain(currentIndex());
+        searchAgain(currentIndex());
         return;
     }
     QTreeView::keyPressEvent(event);

@@ -21,5 +21,5 @@ protected:
 
 private:
     bool isWithoutCameras(const QModelIndex &index) const;
-    void lookAgain(const QModelIndex &interface);
+    void searchAgain(const QModelIndex &interface);
 };

@@ -9,7 +9,7 @@
 namespace {
 
 /// The interval of repeated cancelling in ms; cancelling has no effect before the command starts.
-const unsigned long giveUpAgain = 20;
+const unsigned long cancelInterval = 20;
 
 } // namespace
 
@@ -25,7 +25,7 @@ ForceIpCommand::~ForceIpCommand()
     const WaitCursor waiting;
     do
         giveUp();
-    while (!wait(giveUpAgain));
+    while (!wait(cancelInterval));
 }
 
 void ForceIpCommand::giveUp()

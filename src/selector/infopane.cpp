@@ -26,11 +26,11 @@ InfoPane::InfoPane(QTreeView *view) : m_view(view)
 /// Fits the columns. Before the view was shown the values' column did not have its final width.
 void InfoPane::viewShown()
 {
-    if (m_isUnshown && m_view->model() && hasOwnWidth()) {
+    if (m_wasHidden && m_view->model() && hasOwnWidth()) {
         halveColumns();
         showTextsWhole();
     }
-    m_isUnshown = false;
+    m_wasHidden = false;
 }
 
 int InfoPane::heightOf(int rows) const
@@ -52,7 +52,7 @@ void InfoPane::clear()
     if (!facts)
         return;
     const int width = m_view->columnWidth(labelColumn);
-    const bool isPreliminary = m_isUnshown && hasOwnWidth();
+    const bool isPreliminary = m_wasHidden && hasOwnWidth();
     if (width != 0 && !isPreliminary)
         m_width = width;
     setTreeViewModel(m_view, nullptr);
@@ -70,7 +70,7 @@ void InfoPane::show(QStandardItemModel *facts)
         halveColumns();
     if (m_width == 0 || hasOwnWidth())
         showTextsWhole();
-    m_isUnshown = !m_view->isVisible();
+    m_wasHidden = !m_view->isVisible();
 }
 
 /// False for a width that the user has set.

@@ -42,6 +42,6 @@ private:
     QTreeView *m_view;
     int m_width = 0;          ///< of the labels' column, when facts were shown last
     int m_ownWidth = 0;       ///< the width that the pane has set itself
-    bool m_isUnshown = false; ///< the facts were set while the view was hidden
+    bool m_wasHidden = false; ///< the facts were set while the view was hidden
     Connections m_connections;
 };

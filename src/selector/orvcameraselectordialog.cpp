@@ -165,8 +165,8 @@ public:
     OrvCameraSelectorDialogPrivate(OrvCameraSelectorDialog *dialog, OrvCam::System *system);
 
     void connectSignals();
-    void growWithFont();
-    void divide();
+    void fitToFont();
+    void distributeHeight();
     void expandAll();
     void rescan();
 
@@ -226,11 +226,11 @@ OrvCameraSelectorDialogPrivate::OrvCameraSelectorDialogPrivate(OrvCameraSelector
     const int textWidth = FormFit::textWidth(ui->setIpBtn, setIpText);
     ui->setIpBtn->setMinimumWidth(
         qMax(textWidth + buttonTextMargin, ui->setIpBtn->sizeHint().width()));
-    growWithFont();
+    fitToFont();
     ui->cameraTreeView->setModel(model);
     connectSignals();
     expandAll();
-    divide();
+    distributeHeight();
 }
 
 void OrvCameraSelectorDialogPrivate::connectSignals()
@@ -257,7 +257,7 @@ void OrvCameraSelectorDialogPrivate::connectSignals()
 }
 
 /// Enlarges the dialog for large fonts; the size in the form is for an ordinary one.
-void OrvCameraSelectorDialogPrivate::growWithFont()
+void OrvCameraSelectorDialogPrivate::fitToFont()
 {
     const int line = q->fontMetrics().height();
     const QSize wanted = q->size().expandedTo(QSize(linesOfWidth, linesOfHeight) * line);
@@ -266,7 +266,7 @@ void OrvCameraSelectorDialogPrivate::growWithFont()
 
 /// Distributes the height: all of the device pane and some rows of the tree first, then the
 /// interface pane; the tree gets the rest.
-void OrvCameraSelectorDialogPrivate::divide()
+void OrvCameraSelectorDialogPrivate::distributeHeight()
 {
     const int interfaceHeight = interfacePane->heightOf(interfaceFacts);
     const int deviceHeight = devicePane->heightOf(deviceFacts);

@@ -87,7 +87,7 @@ private:
     QWidget *const m_window;
     QMenu m_userSets;
     QPointer<SettingsJob> m_job;
-    QList<QPointer<QDialog>> m_questions; ///< they are closed when the camera is removed
+    QList<QPointer<QDialog>> m_dialogs; ///< they are closed when the camera is removed
     QList<QPointer<QDialog>> m_results;
     Settings m_before; ///< the values before the last load
 };
@@ -165,7 +165,7 @@ OrvSettingsMenuPrivate::~OrvSettingsMenuPrivate()
 void OrvSettingsMenuPrivate::end()
 {
     delete m_job;
-    destroyAll(&m_questions);
+    destroyAll(&m_dialogs);
 }
 
 void OrvSettingsMenuPrivate::setNodeMap(GenApi::INodeMap *newMap)
@@ -195,7 +195,7 @@ void OrvSettingsMenuPrivate::askForFile(QFileDialog::AcceptMode mode, const QStr
     dialog->setNameFilters({tr("Camera settings (*.pfs)"), tr("All files (*)")});
     dialog->setDefaultSuffix(QStringLiteral("pfs"));
     QObject::connect(dialog, &QFileDialog::fileSelected, q, std::move(then));
-    show(dialog, &m_questions);
+    show(dialog, &m_dialogs);
 }
 
 /// Runs one operation at a time: its progress dialog blocks the menu.
@@ -242,7 +242,7 @@ void OrvSettingsMenuPrivate::ask(const QString &text, const QString &yes, const 
     box->setTextFormat(Qt::PlainText);
     const QAbstractButton *button = box->addButton(yes, QMessageBox::AcceptRole);
     QObject::connect(button, &QAbstractButton::clicked, q, [=] { then(); });
-    show(box, &m_questions);
+    show(box, &m_dialogs);
 }
 
 void OrvSettingsMenuPrivate::save(const QString &fileName)
@@ -341,7 +341,7 @@ void OrvSettingsMenuPrivate::showPreview(const std::shared_ptr<Preview> &preview
         }
         write(tr("Writing the settings to the camera..."), preview->settings, false);
     });
-    show(dialog, &m_questions);
+    show(dialog, &m_dialogs);
 }
 
 void OrvSettingsMenuPrivate::write(const QString &text, const Settings &settings,
