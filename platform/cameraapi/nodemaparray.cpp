@@ -37,7 +37,7 @@ void NodeMapArray::add(INode &node)
     case intfIString:
         return addAs<NodeString, IString>(node);
     default:
-        return; // categories, registers and entries are no parameters
+        return; // categories, registers and entries are not parameters
     }
 }
 

@@ -164,8 +164,8 @@ void DescriptionReader::stop(const std::string &why)
 
 std::string_view DescriptionReader::keep(std::string_view text)
 {
-    constexpr std::size_t longestThatOccursOften = 48;
-    if (text.size() > longestThatOccursOften)
+    constexpr std::size_t longestCommonText = 48;
+    if (text.size() > longestCommonText)
         return m_description.keep(text);
     const auto known = m_known.find(text);
     return known != m_known.end() ? *known : *m_known.insert(m_description.keep(text)).first;

@@ -163,7 +163,7 @@ void NodeMapBuilder::build()
     m_byName.reserve(m_description.nodes().size());
     for (const DescriptionNode &description : m_description.nodes())
         makeNode(description);
-    breakCategoryCircles();
+    breakCategoryCycles();
     // Connecting a category may append a placeholder.
     const std::size_t described = m_map.m_links->size();
     for (std::size_t i = 0; i < described; ++i)
@@ -338,17 +338,16 @@ struct NodeMapBuilder::CategoryState
     std::size_t rows = 0; ///< including those of its subcategories
 };
 
-void NodeMapBuilder::breakCategoryCircles()
+void NodeMapBuilder::breakCategoryCycles()
 {
     std::vector<CategoryState> states(m_map.m_links->size());
     for (const NodeLinks &links : *m_map.m_links) {
         if (links.description->tag == "Category" && !states[links.index].isDone)
-            breakCategoryCircles(links, states);
+            breakCategoryCycles(links, states);
     }
 }
 
-void NodeMapBuilder::breakCategoryCircles(const NodeLinks &first,
-                                          std::vector<CategoryState> &states)
+void NodeMapBuilder::breakCategoryCycles(const NodeLinks &first, std::vector<CategoryState> &states)
 {
     std::vector<std::pair<const NodeLinks *, std::size_t>> open = {{&first, 0}};
     while (!open.empty()) {

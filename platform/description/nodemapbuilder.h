@@ -61,8 +61,8 @@ private:
     void connectLimits(NodeLinks &links, Described &node, T (*parse)(std::string_view));
 
     struct CategoryState;
-    void breakCategoryCircles();
-    void breakCategoryCircles(const NodeLinks &first, std::vector<CategoryState> &states);
+    void breakCategoryCycles();
+    void breakCategoryCycles(const NodeLinks &first, std::vector<CategoryState> &states);
 
     /// A formula uses a limit of a node.
     struct LimitRead

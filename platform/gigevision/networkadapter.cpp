@@ -85,7 +85,7 @@ std::vector<char> linkFacts(int index)
 }
 
 /// True when another adapter, such as a bridge, receives all its packets.
-bool isEnslaved(int index)
+bool isPortOfBridge(int index)
 {
     const std::vector<char> answer = linkFacts(index);
     nlmsghdr header = {};
@@ -109,7 +109,7 @@ bool isUseful(const NetworkAdapter &adapter)
 {
     if (adapter.index == 0)
         return false;
-    return !adapter.addresses.empty() || (adapter.mac != 0 && !isEnslaved(adapter.index));
+    return !adapter.addresses.empty() || (adapter.mac != 0 && !isPortOfBridge(adapter.index));
 }
 
 } // namespace

@@ -82,10 +82,10 @@ std::uint32_t seedOf(const std::string &serial)
 } // namespace
 
 // The memory and the behaviour, which are used by hosts and by the timer on different threads.
-class SimulatedCamera::Innards
+class SimulatedCamera::Private
 {
 public:
-    explicit Innards(const CameraIdentity &id)
+    explicit Private(const CameraIdentity &id)
         : identity(id)
         , m_registration(id.serial)
         , m_memory(switchedOn(id))
@@ -140,7 +140,7 @@ private:
 class SimulatedCamera::Connection final : public OrvCameraIo::Port
 {
 public:
-    explicit Connection(std::shared_ptr<Innards> camera) : m_camera(std::move(camera)) {}
+    explicit Connection(std::shared_ptr<Private> camera) : m_camera(std::move(camera)) {}
 
     bool isImmediate() const override { return true; }
 
@@ -157,11 +157,11 @@ public:
     }
 
 private:
-    const std::shared_ptr<Innards> m_camera;
+    const std::shared_ptr<Private> m_camera;
 };
 
 SimulatedCamera::SimulatedCamera(const CameraIdentity &identity)
-    : d(std::make_shared<Innards>(identity))
+    : d(std::make_shared<Private>(identity))
 {
 }
 

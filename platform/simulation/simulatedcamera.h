@@ -51,10 +51,10 @@ public:
     static std::shared_ptr<const std::string> description();
 
 private:
-    class Innards;
+    class Private;
     class Connection;
 
-    const std::shared_ptr<Innards> d; ///< shared with the ports
+    const std::shared_ptr<Private> d; ///< shared with the ports
 };
 
 } // namespace OrvSimulation

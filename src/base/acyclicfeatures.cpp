@@ -16,7 +16,7 @@ GenApi::FeatureList_t listOf(const GenApi::ICategory &category)
 
 } // namespace
 
-void AcyclicFeatures::cutCircles(GenApi::ICategory &root)
+void AcyclicFeatures::breakCycles(GenApi::ICategory &root)
 {
     m_cuts.clear();
     std::map<const GenApi::IValue *, State> states;

@@ -11,12 +11,12 @@
 ///
 /// A description may contain cycles of categories, in which a recursive walk would not end. A cycle
 /// is broken where a depth-first walk from the root, in row order, would return to a category that
-/// it is inside of. Cycles that arise after `cutCircles` are not detected.
+/// it is inside of. Cycles that arise after `breakCycles` are not detected.
 class AcyclicFeatures
 {
 public:
     /// Finds the cycles in all categories below this one.
-    void cutCircles(GenApi::ICategory &root);
+    void breakCycles(GenApi::ICategory &root);
 
     /// The features in the order of the description. Empty when the category cannot be read.
     GenApi::FeatureList_t of(const GenApi::ICategory &category) const;

@@ -41,7 +41,7 @@ GenApi::EInterfaceType typeOf(GenApi::IValue *feature)
     return feature->GetNode()->GetPrincipalInterfaceType();
 }
 
-bool isForPeople(GenApi::IValue *feature)
+bool isForUsers(GenApi::IValue *feature)
 {
     return feature->GetNode()->GetVisibility() <= GenApi::Guru;
 }
@@ -108,12 +108,12 @@ void FeatureMenu::addSelection()
         return; // the description contradicts itself
     }
     for (GenApi::IValue *selector : selectors) {
-        if (isForPeople(selector))
+        if (isForUsers(selector))
             addWay(this, tr("Go to %1").arg(titleOf(selector)), selector);
     }
     QVector<GenApi::IValue *> selected;
     for (GenApi::IValue *feature : others) {
-        if (isForPeople(feature))
+        if (isForUsers(feature))
             selected.append(feature);
     }
     if (!selected.isEmpty()) {
@@ -143,7 +143,7 @@ void FeatureMenu::addTable(GenApi::IValue *selector, const QVector<GenApi::IValu
     const QModelIndex place = m_shown.place(selector);
     const bool isLocked =
         place.isValid() && !(place.sibling(place.row(), 1).flags() & Qt::ItemIsEditable);
-    if (isLocked || !isForPeople(selector))
+    if (isLocked || !isForUsers(selector))
         return;
     addAction(tr("Values by %1…").arg(titleOf(selector)), this, [this, selector, features] {
         emit tableWanted(selector, features);

@@ -32,8 +32,8 @@ namespace {
 
 constexpr int nameColumn = 0;
 
-/// A search expands at most so many rows.
-constexpr int maxUnfolded = 1000;
+/// The most rows that a search expands.
+constexpr int maxExpanded = 1000;
 
 // In the tree's state text.
 constexpr char pathEnd[] = "&lt;";
@@ -100,7 +100,7 @@ OrvFeatureBrowserPrivate::OrvFeatureBrowserPrivate(OrvFeatureBrowser *browser)
     const auto followLevel = [this] {
         if (shown)
             spanCategories();
-        isUnfoldingOutdated = true;
+        isExpansionOutdated = true;
         narrow();
     };
     QObject::connect(levels, levelChanged, q, followLevel, Qt::QueuedConnection);
@@ -365,7 +365,7 @@ void OrvFeatureBrowserPrivate::narrow()
         wanted =
             onlyChangedAction->isChecked() ? wanted.intersect(result.features) : result.features;
     }
-    if (isUnfoldingOutdated || !shown->isNarrowedTo(wanted))
+    if (isExpansionOutdated || !shown->isNarrowedTo(wanted))
         showNarrowed(wanted);
     tree().viewport()->update(); // the highlights in the names have changed
 }
@@ -379,10 +379,10 @@ void OrvFeatureBrowserPrivate::showNarrowed(const FeatureSearch::Features &wante
     shown->narrow(wanted);
     tree().collapseAll();
     tree().scheduleDelayedItemsLayout();
-    for (const QModelIndex &category : shown->foundCategories(maxUnfolded))
+    for (const QModelIndex &category : shown->foundCategories(maxExpanded))
         tree().expand(category);
     spanCategories();
-    isUnfoldingOutdated = false;
+    isExpansionOutdated = false;
     // The current row may have been removed.
     OrvGenParamTreeViewPrivate::of(*view).describeCurrent();
 }
@@ -401,7 +401,7 @@ void OrvFeatureBrowserPrivate::storeLook()
     look.isCurrentFavourite = shown->isBelowFavourites(tree().currentIndex());
     look.scrollPosition = tree().verticalScrollBar()->value();
     before = std::move(look);
-    isUnfoldingOutdated = true;
+    isExpansionOutdated = true;
 }
 
 void OrvFeatureBrowserPrivate::restoreLook()
@@ -471,7 +471,7 @@ void OrvFeatureBrowserPrivate::showCounts(const FeatureSearch::Result *result)
 void OrvFeatureBrowserPrivate::showHigherLevel()
 {
     view->setVisibility(static_cast<Visibility>(higherLevel));
-    isUnfoldingOutdated = true;
+    isExpansionOutdated = true;
     narrow();
 }
 
@@ -720,7 +720,7 @@ void OrvFeatureBrowser::loadState(const char *state)
 
 bool OrvFeatureBrowser::restoreState(const char *state)
 {
-    return d->restoreState(QByteArray(state)); // a copy: the text may be our own
+    return d->restoreState(QByteArray(state)); // a copy: the text may be `d->text`
 }
 
 QTreeView *OrvFeatureBrowser::treeView() const

@@ -120,7 +120,7 @@ public:
         int scrollPosition = 0;
     };
     std::optional<Look> before; ///< set while the tree is filtered
-    bool isUnfoldingOutdated = false;
+    bool isExpansionOutdated = false;
 };
 
 } // namespace OrvGui

@@ -32,7 +32,7 @@ public:
     };
 
     /// Call it first, before other threads use the object: breaks the cycles below the root.
-    void cutCircles(GenApi::ICategory &root) { m_features.cutCircles(root); }
+    void breakCycles(GenApi::ICategory &root) { m_features.breakCycles(root); }
 
     GenApi::FeatureList_t listOf(const GenApi::ICategory &category) const
     {

@@ -88,7 +88,7 @@ void GenParamTreeModelPrivate::Init(GenParamTreeModel *model)
     try {
         const GenApi::CCategoryPtr root = CategoryFromIndex(QModelIndex());
         if (root)
-            places.cutCircles(*root);
+            places.breakCycles(*root);
         RegisterCallbackForChildren(root);
     } catch (...) {
         DeRegisterCallbacks();

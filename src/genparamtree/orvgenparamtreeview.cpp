@@ -236,15 +236,15 @@ void OrvGenParamTreeViewPrivate::moveToVisibleRow(int level)
     };
     if (!isHidden(current))
         return;
-    const auto firstThatStays = [&](int step) {
+    const auto firstVisible = [&](int step) {
         QModelIndex row = current;
         while (isHidden(row))
             row = row.sibling(row.row() + step, current.column());
         return row;
     };
-    QModelIndex next = firstThatStays(1);
+    QModelIndex next = firstVisible(1);
     if (!next.isValid())
-        next = firstThatStays(-1);
+        next = firstVisible(-1);
     ui->treeView->setCurrentIndex(next.isValid() ? next : current.parent());
 }
 

@@ -43,7 +43,7 @@ void merge(GenApi::IValue *feature, TreeLookAhead::Extent extent,
     merged = std::max(merged, extent);
 }
 
-void askForCell(GenApi::IValue *feature)
+void readCell(GenApi::IValue *feature)
 {
     featureText(feature, GenParamTreeModelPrivate::valueData(feature, Qt::DisplayRole), QLocale());
 }
@@ -77,7 +77,7 @@ void addEntries(GenApi::IEnumeration *enumeration, std::vector<Ask> *asks)
 /// Adds a separate function for each value that can be read independently of the others.
 void addAsks(GenApi::IValue *feature, TreeLookAhead::Extent extent, std::vector<Ask> *asks)
 {
-    asks->push_back([feature] { askForCell(feature); });
+    asks->push_back([feature] { readCell(feature); });
     // The access mode of a cell depends on locks, its value does not.
     if (feature->GetNode()->GetPrincipalInterfaceType() != GenApi::intfICommand)
         asks->push_back([feature] { feature->ToString(); });

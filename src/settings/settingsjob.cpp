@@ -15,7 +15,7 @@ namespace OrvGui {
 
 namespace {
 
-constexpr int delayOfDialog = 300; // ms until the dialog is shown
+constexpr int dialogDelay = 300;   // ms until the dialog is shown
 constexpr int progressPeriod = 50; // ms
 
 /// Stays open until the operation has ended, even after "Cancel", because selectors may be moved.
@@ -33,7 +33,7 @@ SettingsJob::SettingsJob(const QString &text, Work work, QWidget *window)
 {
     // The dialog does it when it is shown.
     QApplication::instance()->installEventFilter(this);
-    QTimer::singleShot(delayOfDialog, this, [this] { show(); });
+    QTimer::singleShot(dialogDelay, this, [this] { show(); });
     m_thread = std::thread([this, work = std::move(work)] {
         work([this](int done, int total) {
             m_done = done;

@@ -27,7 +27,7 @@ public:
     explicit StreamableFeatures(GenApi::INodeMap &map)
     {
         if (auto *root = dynamic_cast<GenApi::ICategory *>(map.GetNode("Root"))) {
-            m_tree.cutCircles(*root);
+            m_tree.breakCycles(*root);
             addCategory(*root);
         }
         GenApi::NodeList_t nodes;
@@ -71,7 +71,7 @@ QString nameOf(GenApi::IValue *feature)
 }
 
 /// The name without case and punctuation, because vendors spell their names in several ways.
-QString essence(const QString &device)
+QString normalizedName(const QString &device)
 {
     QString text;
     for (const QChar character : device) {
@@ -319,9 +319,9 @@ bool SettingsReader::isSameModel(const QString &device)
     // Other tools write the model name of the description.
     const QString model = device.section(QStringLiteral("::"), -1);
     const QString own = this->device();
-    return essence(device) == essence(own) ||
-           essence(model) == essence(own.section(QStringLiteral("::"), -1)) ||
-           essence(model) == essence(fromUtf8(m_map.GetDeviceName()));
+    return normalizedName(device) == normalizedName(own) ||
+           normalizedName(model) == normalizedName(own.section(QStringLiteral("::"), -1)) ||
+           normalizedName(model) == normalizedName(fromUtf8(m_map.GetDeviceName()));
 }
 
 } // namespace OrvGui
