@@ -90,7 +90,7 @@ public:
     virtual Status write(uint64_t address, const std::vector<uint8_t> &bytes) = 0;
 
     enum class Presence {
-        Answers,  ///< and has kept its state
+        Answers,  ///< an answer, and the connection is as before
         Silent,   ///< no answer
         Forgotten ///< answers, but this connection has lost control
     };

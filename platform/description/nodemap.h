@@ -24,7 +24,7 @@ struct NodeLinks;
 class NodeMap : public OrvGenApi::NodeMapBase
 {
 public:
-    /// A node map of a camera whose registers are behind the port.
+    /// The node map of a camera, whose registers are accessed through the port.
     NodeMap(std::shared_ptr<const Description> description,
             std::unique_ptr<OrvCameraIo::Port> port);
     ~NodeMap() override;

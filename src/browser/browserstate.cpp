@@ -15,7 +15,7 @@ constexpr char ownMark[] = "&amp;B";
 const QLatin1String searchKey("searchTexts");
 const QLatin1String favouritesKey("favourites");
 
-/// The digits behind the first mark; null without one.
+/// The digits after the first mark; null without a mark.
 QByteArray numberAfter(const QByteArray &text, const char *mark)
 {
     const int start = int(text.indexOf(mark));
@@ -30,7 +30,7 @@ QByteArray numberAfter(const QByteArray &text, const char *mark)
     return QByteArray(text.constData() + first, end - first);
 }
 
-/// Whether the tree can read the number behind the mark. There may be none, or no mark.
+/// Whether the tree can parse the number after the mark. A missing number or mark is valid.
 bool isNumberAt(const QByteArray &text, const char *mark)
 {
     const QByteArray digits = numberAfter(text, mark);
