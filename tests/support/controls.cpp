@@ -14,8 +14,8 @@ bool isVisiblePart(const QWidget &window, const QWidget *widget)
     return widget && widget->window() == &window && widget->isVisible();
 }
 
-// What a screen reader says: the label's name, or else the object's own. To some objects the own
-// name is what they show.
+// The name that a screen reader reads: that of the label, or else the object's own. The own name of
+// a combo box may be only its current value.
 QString spokenName(QAccessibleInterface &interface)
 {
     for (const auto &relation : interface.relations(QAccessible::Label)) {
@@ -39,12 +39,12 @@ public:
         if (!isVisiblePart(m_window, widget))
             return;
         const QString name = spokenName(*interface);
-        // Views never say that they can get the focus.
+        // The accessible states of views lack the focusable flag.
         const bool isFocusable =
             interface->state().focusable || qobject_cast<QAbstractItemView *>(widget);
         if (isFocusable && !widget->isWindow())
             listen(*widget, *interface, group, name);
-        // Their parts speak for the whole, or are rows.
+        // Parts of these represent the whole control, and children of views are rows.
         const QAccessible::Role role = interface->role();
         if (role == QAccessible::SpinBox || role == QAccessible::ComboBox)
             return;
@@ -79,10 +79,10 @@ private:
     }
 
     const QWidget &m_window;
-    QMap<QString, QString> m_known; ///< group, name and role to widget
+    QMap<QString, QString> m_known; ///< widget by group, name and role
 };
 
-/// Of letters to what answers to them.
+/// Finds letters that several actions or widgets share.
 class Mnemonics
 {
 public:

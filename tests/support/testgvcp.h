@@ -82,7 +82,7 @@ inline uint32_t number(const std::string &bytes, std::size_t offset, std::size_t
     return value;
 }
 
-/// `value` in `size` bytes, which can be more than it has.
+/// `value` in `size` bytes, which may be more than its type has.
 inline std::string bytesOf(uint64_t value, std::size_t size = 4)
 {
     std::string bytes(size, '\0');
