@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Markup, a line break, and marks that turn the writing direction.
+/// Markup, a line break, and control characters for the writing direction.
 const char *const evil = "<img src=x><h1>E\nvil\u202Egnp.exe\u2028";
 
 QByteArray inXml(const char *text)
@@ -82,7 +82,7 @@ QStringList cellsOf(const QAbstractItemView &view)
     return texts;
 }
 
-/// All that a widget shows, with what it would be taken for markup of.
+/// Checks all texts of a widget; none may be laid out as markup.
 void check(const QWidget &widget)
 {
     QStringList texts{widget.windowTitle(), widget.toolTip(), widget.accessibleDescription()};
@@ -119,7 +119,7 @@ void check(const QWidget &widget)
 
 } // namespace
 
-/// A camera whose texts contain markup and control characters. ORV_PICTURES=FOLDER keeps a picture
+/// Cameras whose texts contain markup and control characters. ORV_PICTURES=FOLDER saves a picture
 /// of each window.
 class TestCameraTexts : public QObject
 {
@@ -193,7 +193,7 @@ void TestCameraTexts::windows()
     }
 }
 
-/// The dialogs during the opening of a camera, and after its failure.
+/// The progress dialog while a camera is opened, and the message after a failure.
 void TestCameraTexts::failure()
 {
     (*m_camera)->setMood("delay", 300);

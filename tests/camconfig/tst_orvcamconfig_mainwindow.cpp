@@ -19,13 +19,13 @@ using OrvGui::OrvCamConfig;
 
 namespace {
 
-/// The cameras that the picker offers, in its first interface.
+/// The cameras on the first interface of the picker.
 struct World
 {
     World() { system.interfaces.entries = {&interface}; }
 
     PluggableCamera &camera(int i) { return i == 0 ? first : second; }
-    /// Handed out and not released.
+    /// Devices that were handed out and not released.
     int systems() const { return opened - system.released; }
 
     PluggableCamera first{"First"};
@@ -44,7 +44,7 @@ World *theWorld = nullptr;
 
 } // namespace
 
-// The library calls these instead of those of the camera access library.
+// Replacements for the functions of the camera access library.
 
 OrvCamSystem *OrvCam_GetSystem(void)
 {
@@ -85,7 +85,7 @@ QString statusOf(const QWidget &window)
     return child<QLabel>(window, "lblStatusText").text();
 }
 
-/// Lets the window's second be over.
+/// Triggers the window's timer of one second.
 void tick(const QWidget &window)
 {
     QMetaObject::invokeMethod(window.findChild<QTimer *>("refreshTimer"), "timeout");
@@ -130,7 +130,7 @@ struct Simulation : SimulatedDevice
     OrvGenParam::Array &array = *device.array;
 };
 
-/// Picks the camera with that row in the picker; cancels for -1.
+/// Picks the camera in that row of the picker; -1 cancels.
 ModalVisitor::Action picking(int row)
 {
     return [row](QDialog &picker) {
@@ -143,7 +143,7 @@ ModalVisitor::Action picking(int row)
     };
 }
 
-/// Writes down which windows are shown.
+/// Records which windows are shown.
 class ShownWindows : public QObject
 {
 public:
@@ -159,7 +159,7 @@ public:
     }
 };
 
-/// A main window, two cameras and a host, and what has to be true of them.
+/// A main window, two cameras and a host, with their invariants.
 class Scenario
 {
 public:
@@ -182,7 +182,7 @@ public:
         theWorld = nullptr;
     }
 
-    /// False when that cannot happen now.
+    /// Returns false if the action is not possible in the current state.
     bool perform(const QString &word)
     {
         const int i = word.endsWith('x') || word.size() < 2 ? -1 : word[1].digitValue();
@@ -268,7 +268,7 @@ private:
         return true;
     }
 
-    int current = -1; ///< the camera that the window works with, also while it is unplugged
+    int current = -1; ///< the window's camera, even while it is unplugged
     bool isOwn = false;
     OrvCam::Device *signalled = nullptr;
 };
@@ -313,7 +313,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QCOMPARE(simulation.get("FrameAB_Selector"), QString("FrameA"));
     QVERIFY(!isDimmed(window, 'A') && !isDimmed(window, 'B'));
 
-    // Within a second, by itself, and only the frame that is addressed.
+    // The window updates within a second, but only the selected frame.
     simulation.set("Frame_ExposureLines", "77");
     a = selectedColumn(simulation.array);
     QVERIFY(!shows());
@@ -327,7 +327,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     tick(window);
     QVERIFY(shows());
 
-    // Only frame A is output, but frame B is addressed: neither is shown in the other's column.
+    // Frame A is output, frame B is selected: neither is shown in the other's column.
     simulation.set("FrameMode", "FrameA");
     simulation.set("Frame_Height", "256");
     tick(window);
@@ -384,12 +384,12 @@ void TestOrvCamConfigMainWindow::keepsPendingInput()
     QCOMPARE(clocks->cleanText(), QString("11"));
     QCOMPARE(editor->cleanText(), QString("45"));
 
-    // Nothing has been written; what is entered now goes to frame A.
+    // Nothing has been written yet; the number goes to frame A when it is committed.
     QTest::keyClick(clocks, Qt::Key_Return);
     QCOMPARE(simulation.array.GetIntegerValue("Frame_ExposureClocks"), int64_t(11));
     simulation.select("FrameB");
     QVERIFY(simulation.array.GetIntegerValue("Frame_ExposureClocks") != 11);
-    QCOMPARE(tabs.currentIndex(), 1); // notifications are followed again
+    QCOMPARE(tabs.currentIndex(), 1); // the tabs follow notifications again
 }
 
 void TestOrvCamConfigMainWindow::lockedSelector()
@@ -400,10 +400,10 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     selector.setAccessMode(GenApi::RO);
     NodeMapDevice device(map);
     const OrvCamConfig window(&device);
-    QCOMPARE(columnOf(window, 'A'), QString("   ")); // not the values of frame B
+    QCOMPARE(columnOf(window, 'A'), QString("   ")); // must not be the values of frame B
     QCOMPARE(columnOf(window, 'B'), QString(" 125.00 8000 "));
 
-    // Locked when it has been moved: all go by the frame that the camera stays with.
+    // The selector is locked after it has moved: all windows show the frame that is now selected.
     Simulation simulation;
     simulation.set("FrameMode", "FrameA");
     OrvCamConfig stuck(&simulation.device);
@@ -429,7 +429,7 @@ void TestOrvCamConfigMainWindow::lockedSelector()
              simulation.get("Frame_ExposureLines"));
     QCOMPARE(changes.count(), 1);
 
-    // Given up while a dialog says so: no other dialog gets it afterwards.
+    // The device is removed while an error box is open: no other dialog gets it afterwards.
     selector.setAccessMode(GenApi::RW);
     selector.onWrite(throwRefusal);
     map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}});
@@ -437,7 +437,7 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     ErrorBoxes boxes;
     boxes.whileOpen = [&] { stuck.SetDevice(nullptr); };
     stuck.show();
-    child<QPushButton>(stuck, "pushBtnFrameAB").click(); // one that is not seen selects nothing
+    child<QPushButton>(stuck, "pushBtnFrameAB").click(); // a hidden dialog selects no frame
     stuck.SetDevice(&refusing);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(!stuck.device());
@@ -466,7 +466,7 @@ void TestOrvCamConfigMainWindow::cameraWithOneFrame()
         action(window, "actionFrame_A_B").trigger();
     QVERIFY(!button.isVisible());
 
-    // Each field is explained, also without the camera's feature.
+    // Every field has a tool tip, also without the camera's feature.
     const QString toolTip = child<QLineEdit>(window, "lineEditFtmFrameA").toolTip();
     QVERIFY(toolTip.contains("Frame time") && toolTip.contains("CurrentFrameTime"));
     QCOMPARE(child<QLabel>(window, "lblFtm").toolTip(), toolTip);
@@ -556,7 +556,7 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
         const auto isOpen = [&] { return dialog.isVisible() && button.isChecked(); };
         const auto isClosed = [&] { return !dialog.isVisible() && !button.isChecked(); };
         QVERIFY(view.isChecked() && button.isVisible() && isClosed());
-        for (int times = 0; times < 2; ++times) { // the keys that open it do not close it
+        for (int times = 0; times < 2; ++times) { // the shortcut never closes it
             window.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&window));
             QTest::keyClick(&window, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
@@ -575,7 +575,7 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
         QVERIFY(isClosed() && button.isVisible());
         button.click();
     }
-    // With the window all its dialogs are closed, and can be opened again.
+    // Closing the window closes its dialogs, which can be opened again later.
     action(window, "actionQuit").trigger();
     QVERIFY(!window.isVisible());
     for (const QDialog *dialog : window.findChildren<QDialog *>())
@@ -585,9 +585,9 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
 
 void TestOrvCamConfigMainWindow::ownership_data()
 {
-    // What happens, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx the host
+    // The steps, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx: the host
     // sets a device of its own, or none; d disconnects; u0, u1 unplug and p0, p1 plug in a camera;
-    // r0, r1 the host releases its device.
+    // r0, r1: the host releases its device.
     QTest::addColumn<QString>("story");
     for (const char *story :
          {"c0 d", "c0 c0", "c0 c1", "c0 cx", "c0 u0 p0", "c0 u0 c1 p0", "c0 u0 d p0", "c0 u0 h1 p0",
@@ -651,7 +651,7 @@ void TestOrvCamConfigMainWindow::cameraThatCannotBeOpened()
     ModalVisitor user({picking(0)});
     action(*scenario.window, "actionConnect").trigger();
     QCOMPARE(statusOf(*scenario.window), QString("Disconnected"));
-    // An error box that does not block.
+    // A non-modal error box.
     auto *box = scenario.window->findChild<QMessageBox *>();
     QVERIFY(box && box->isVisible() && box->text().contains("First"));
     box->button(QMessageBox::Ok)->click();
@@ -720,7 +720,7 @@ void TestOrvCamConfigMainWindow::showFunctions()
             QCOMPARE(windows.names, QStringList(function.window));
             QCOMPARE(QApplication::topLevelWidgets(), before);
         }
-        // The camera has no sink left to notify, and can go.
+        // The camera has no sinks left and can be destroyed.
         for (const char *mode : {"FrameA", "DualVideo"})
             simulation.set("FrameMode", mode);
         for (const char *mode : {"On", "Off"})
