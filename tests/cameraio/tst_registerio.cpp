@@ -14,19 +14,19 @@ using std::chrono::milliseconds;
 
 namespace {
 
-/// A camera of 4-byte registers, as a test wants it.
+/// A camera with 4-byte registers and adjustable faults.
 struct Camera
 {
     std::atomic<bool> isThere{true};
     std::atomic<bool> isForgetful{false};
     std::atomic<int> delayMs{0};
-    std::atomic<std::size_t> inTime{SIZE_MAX}; ///< registers of a batch that there is time for
+    std::atomic<std::size_t> inTime{SIZE_MAX}; ///< registers of a batch within the time limit
     std::atomic<int> commands{0};
     std::atomic<int> reopenings{0};
 
-    std::mutex mutex; ///< guards what follows
+    std::mutex mutex; ///< protects the following members
     std::map<uint64_t, std::vector<uint8_t>> memory;
-    std::set<uint64_t> mute; ///< addresses that are never answered
+    std::set<uint64_t> mute; ///< addresses without an answer
     std::vector<std::size_t> batches;
 
     std::vector<uint8_t> at(uint64_t address)
@@ -139,7 +139,7 @@ void TestRegisterIo::cachesTransferredRegisters()
     QCOMPARE(io.look(word(0), 0).bytes, (std::vector<uint8_t>{1, 2, 3, 4}));
     QCOMPARE(io.look({0, 2}, 0).bytes, (std::vector<uint8_t>{1, 2}));
 
-    // Writing outdates what overlaps it, and is known itself.
+    // A write invalidates overlapping ranges and stores the range that was written.
     QCOMPARE(io.write({{2, {7, 7, 7, 7}, {}}}), Status::Done);
     QVERIFY(!io.look(word(0), 0).isKnown);
     QVERIFY(io.look({0, 2}, 0).isKnown);
@@ -171,7 +171,7 @@ void TestRegisterIo::fieldsShareOneRegister()
     other.join();
     QCOMPARE(camera.at(0), (std::vector<uint8_t>{0xA0, 0, 0, 0x50}));
 
-    // A known register may be outdated: it is read before a field of it is written.
+    // A cached register may be stale: it is read again before one of its fields is written.
     io.read({word(0)});
     camera.memory[0][1] = 9;
     RegisterWrite write{0, {0x01, 0, 0, 0}, {0x0F, 0, 0, 0}};
@@ -196,7 +196,7 @@ void TestRegisterIo::waitingCallersGoFirst()
     QVERIFY(io.look(word(1000), 0).isKnown);
     QVERIFY(!isDone);
     QTRY_VERIFY(isDone);
-    QCOMPARE(camera.commands.load(), 11); // ten of four registers, and the other one
+    QCOMPARE(camera.commands.load(), 11); // ten commands of four registers, and the other register
 }
 
 void TestRegisterIo::remainderIsReadNext()
@@ -215,7 +215,7 @@ void TestRegisterIo::remainderIsReadNext()
     QCOMPARE(camera.batches, (std::vector<std::size_t>{4, 4, 4, 1}));
     QCOMPARE(io.transactions().reads, uint64_t(10));
 
-    // Silence is something else.
+    // Silence, in contrast, ends the reading.
     camera.isThere = false;
     io.read({word(100), word(104), word(108), word(112)});
     QCOMPARE(camera.batches.size(), std::size_t(5));

@@ -23,13 +23,18 @@ private slots:
 
 void TestRegisterCodec::integers()
 {
-    enum { Little = 0, Big = 1, Signed = 2, Highest = 4 }; // Highest: that is where bit 0 is
+    enum {
+        Little = 0,
+        Big = 1,
+        Signed = 2,
+        Highest = 4
+    }; // Highest: the number of the register's highest bit is 0
     const struct
     {
         int format;
         Bytes bytes;
         int64_t value, smallest, largest;
-        Bytes mask; ///< of a bit field, which these are
+        Bytes mask; ///< of a bit field
         int64_t first, last;
     } rows[] = {
         {Little, {0xFE}, 254, 0, 255, {}, 0, 0},

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <programonscreen.h>
 
-/// The Python host as used on a screen.
+/// The Python host on a screen.
 class TestPythonHost : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ void TestPythonHost::showsThePickedCamera()
     const auto isWhite = [&](const QPoint &point) {
         return picture().pixel(point) == QColor(Qt::white).rgb();
     };
-    QTRY_VERIFY(isWhite({320, 400})); // where the list of features is
+    QTRY_VERIFY(isWhite({320, 400})); // the place of the list of features
 
     m_host.screen.resize(m_window, QSize(900, 500));
     QTRY_COMPARE(picture().size(), QSize(900, 500));

@@ -3,7 +3,7 @@
 
 #include <memorynodemap.h>
 
-/// The features of a small but realistic camera, of every type and kind of access.
+/// The features of a small but realistic camera: all types and access modes.
 class SampleNodeMap : public OrvGenApi::MemoryNodeMap
 {
 public:
