@@ -7,7 +7,7 @@
 //
 // For each number of features (5000, 20000 and 100000 by default) the program prints three figures:
 // - the processor time of the GUI thread for the call and for all the event handling that it
-// causes, painting included; other programs have no influence on it;
+//   causes, painting included; other programs have no influence on it;
 // - the same time per feature, which should not grow with the number of features;
 // - the longest time for which the event loop was blocked without using the processor.
 // The features are in 100 categories by default; the options set the number of categories, or the

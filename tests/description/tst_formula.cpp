@@ -113,10 +113,10 @@ QString realOf(Names &names, const QByteArray &text)
 /// - choices, && and ||: Aravis evaluates all operands, so it fails if the unused one divides by 0;
 /// - conditions: Aravis converts them to integers, so a number between -1 and 1 is false;
 /// - the range of integers: powers and literals beyond 64 bits, and sums and products in
-/// floating-point formulas, which Aravis computes with 64 bits if both operands are integers;
+///   floating-point formulas, which Aravis computes with 64 bits if both operands are integers;
 /// - NaN: its integer value is 0 here and the smallest integer in Aravis;
 /// - syntax that Aravis lacks: "==", "!=", ".5", POW, negative constants, undeclared parts of
-/// variables, expressions within expressions;
+///   variables, expressions within expressions;
 /// - ROUND within a longer formula, where Aravis miscounts its arguments;
 /// - syntax that only Aravis accepts: functions without parentheses, ":1".
 class Generator

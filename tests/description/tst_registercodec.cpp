@@ -28,7 +28,8 @@ void TestRegisterCodec::integers()
         Big = 1,
         Signed = 2,
         Highest = 4
-    }; // Highest: the number of the register's highest bit is 0
+    }; // Highest: bit 0 is the highest one // Highest: the number of the register's highest bit is
+       // 0
     const struct
     {
         int format;

@@ -42,7 +42,8 @@ struct TranslationFile
     QVector<Message> messages;
 
 private:
-    /// The element's text, in which what XML cannot say is spelled `<byte value="xd"/>`.
+    /// The element's text. Characters that XML cannot represent are written as `<byte
+    /// value="xd"/>`.
     static QString readText(QXmlStreamReader &xml)
     {
         QString text;

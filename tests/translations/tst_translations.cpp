@@ -26,8 +26,7 @@ namespace {
 const QChar Open(0xab);  // «
 const QChar Close(0xbb); // »
 
-/// The words that no translation has: a boolean value, as the model has it for the tree to word,
-/// and the micro sign.
+/// Words without translation: the micro sign, and boolean values, which only the tree translates.
 const QStringList names = {QStringLiteral("true"), QStringLiteral("false"), QString(QChar(0x3bc))};
 
 QStringList translationFiles()
@@ -39,7 +38,7 @@ QStringList translationFiles()
     return files;
 }
 
-/// What must be the same in a text and its translation, in order of its name.
+/// The parts that a translation must keep, sorted.
 QStringList fixedParts(const QString &text)
 {
     static const QRegularExpression part("%L?\\d|</?\\w+>|&(?=\\w)|\\n|--\\w+");
@@ -50,8 +49,8 @@ QStringList fixedParts(const QString &text)
     return parts;
 }
 
-/// Encloses each translated text in marks, but for what stands in the place of "%1". A text that
-/// the translation files do not have under its class stays as it is.
+/// Encloses translated texts in marks, but not the arguments in place of "%1". Texts that are
+/// missing from the translation files under their class are not marked.
 class Marker : public QTranslator
 {
 public:
@@ -79,7 +78,7 @@ private:
     QSet<QPair<QString, QString>> m_known;
 };
 
-/// What the camera and the system say of themselves.
+/// The texts that come from the camera and the system.
 class CameraTexts
 {
 public:
@@ -113,7 +112,8 @@ public:
         }
     }
 
-    /// A step to undo has the feature's name and GenICam's notation of two values.
+    /// The text of a step to undo consists of a feature's name and two values in GenICam's
+    /// notation.
     bool contains(const QString &text) const
     {
         const bool isStep = text.contains(QStringLiteral(" \u2192 "));
@@ -126,7 +126,7 @@ private:
 
 } // namespace
 
-/// That the translations are complete, and that no text gets past them.
+/// Every text is translated, and the translations are complete.
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -172,7 +172,7 @@ void TestTranslations::cleanupTestCase()
         m_system->Release();
 }
 
-/// The first camera that can be opened; notes the texts of all on the way.
+/// The first camera that can be opened. Records the texts of all cameras.
 OrvCam::Device *TestTranslations::openCamera()
 {
     OrvCam::Device *device = nullptr;
@@ -218,7 +218,7 @@ void TestTranslations::filesAreUpToDate()
     }
 }
 
-// Nothing is missing, neither in the files nor in what the library makes of them.
+// The files are complete, and so are the translations compiled into the library.
 void TestTranslations::filesAreFinished()
 {
     QCOMPARE(translationFiles().size(), 2);
@@ -267,7 +267,7 @@ void TestTranslations::programSpeaksTheLanguage()
     }
 }
 
-/// Those of the texts that are neither translated nor the camera's.
+/// The texts that are neither translated nor from the camera.
 QStringList TestTranslations::strangers(const QStringList &texts) const
 {
     static const QRegularExpression marked(QString("%1[^%1%2]*%2").arg(Open).arg(Close));
@@ -284,7 +284,7 @@ QStringList TestTranslations::strangers(const QStringList &texts) const
     for (const QString &text : texts) {
         for (const QString &part : text.mid(text.indexOf('|') + 1).split(marked)) {
             bool isFine = isKnown(part.trimmed());
-            if (!isFine) { // a list
+            if (!isFine) { // may be a list
                 const auto all = [](const QStringList &parts, const auto &isFineToo) {
                     return std::all_of(parts.begin(), parts.end(), isFineToo);
                 };
@@ -308,7 +308,7 @@ void TestTranslations::check(const QWidget &window)
     m_strangers << strangers(texts);
 }
 
-/// Also with each of its toggle buttons pressed, which may change its text.
+/// Repeats the check with toggle buttons pressed, which may change their texts.
 template<typename Dialog>
 void TestTranslations::checkDialog()
 {
@@ -380,7 +380,7 @@ void TestTranslations::everyTextIsTranslated()
     {
         OrvGui::OrvCamConfig window(m_device);
         window.show();
-        check(window); // the information dialog is its child
+        check(window); // includes the information dialog, a child
         window.SetDevice(nullptr);
         check(window);
     }

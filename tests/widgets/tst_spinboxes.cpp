@@ -10,7 +10,7 @@
 struct Hand
 {
     const char *name;
-    void (*move)(QAbstractSpinBox *box); ///< null: what is typed counts at once
+    void (*move)(QAbstractSpinBox *box); ///< null: typing alone commits
     bool isTaken;
 };
 
@@ -64,7 +64,7 @@ void TestSpinBoxes::snapsRealValues()
         double maximum, step, wanted, validated;
     } rows[] = {
         {2.0, 0.25, 1.3, 1.25}, {2.0, 0.25, 1.4, 1.5}, {2.0, 0.25, 1.375, 1.5},
-        {2.0, 0.3, 1.95, 1.9}, // a step that does not divide
+        {2.0, 0.3, 1.95, 1.9}, // a step that does not divide the range
         {2.1, 0.4, 2.05, 2.1},  {2.0, 0.3, 2.0, 2.0},  {2.0, 0.25, 9.0, 2.0},
         {2.0, 0.0, 1.7, 1.7},   {2.0, 0.0, 2.7, 2.0},
     };
@@ -136,7 +136,7 @@ void TestSpinBoxes::waitsForEnter()
 
     box.selectAll();
     QTest::keyClicks(&box, "13");
-    QCOMPARE(changes, (QList<QVariantList>{{1}, {13}})); // QSpinBox itself takes each digit
+    QCOMPARE(changes, (QList<QVariantList>{{1}, {13}})); // QSpinBox itself commits each digit
     box.setValue(40);
     changes.clear();
 
@@ -158,7 +158,7 @@ void TestSpinBoxes::waitsForEnter()
     QCOMPARE(box.value(), 16);
 }
 
-// Without a text, types what the box shows for the number.
+// The default text is the box's own text for the number.
 template<class Box, class T>
 void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number, QString text)
 {
@@ -232,13 +232,13 @@ void TestSpinBoxes::acceptsPendingText()
             checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, 2.5, "2.5");
         }
     }
-    // The sign of another locale is not taken for one between thousands.
+    // The decimal sign of another locale must not be taken for a group separator.
     checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.move, false}, 2.5, "2,5");
 }
 
 void TestSpinBoxes::leavesEnterToTheBaseClass()
 {
-    // What the base class makes of a text that is never acceptable: it goes back to the value.
+    // The base class restores the value if the text is not acceptable.
     QtOrvSpinBoxVal box;
     box.setSuffix(" ms");
     box.setValue(40);
