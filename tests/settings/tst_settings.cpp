@@ -278,7 +278,7 @@ void TestSettings::selectors()
     SmallCamera camera;
     QCOMPARE(OrvCameraSettings::save(camera, path("a.pfs")).count, 7);
     const QByteArray saved = read(path("a.pfs"));
-    QVERIFY2(saved.startsWith(head + "# Device = Small\n"), saved.constData());
+    QVERIFY2(saved.startsWith(QByteArray(head + "# Device = Small\n")), saved.constData());
     QVERIFY2(
         saved.endsWith("GainSelector\tRed\nPhaseIndex\t1\nGain\t1.5\nPhaseIndex\t2\nGain\t2.5\n"
                        "PhaseIndex\t2\nGainSelector\tBlue\nPhaseIndex\t1\nGain\t0.1\n"

@@ -128,7 +128,7 @@ public:
         }
         if (usable.isEmpty())
             return;
-        use(*usable[below(usable.size())]);
+        use(*usable[below(int(usable.size()))]);
         ++m_clicks;
     }
 
@@ -185,7 +185,7 @@ private:
         if (!dialog)
             return;
         const auto buttons = dialog->findChildren<QAbstractButton *>();
-        const int chosen = below(buttons.size() + 1);
+        const int chosen = below(int(buttons.size()) + 1);
         const QPointer<QWidget> open(dialog);
         if (chosen < buttons.size() && buttons[chosen]->isVisible())
             QTest::mouseClick(buttons[chosen], Qt::LeftButton);
