@@ -71,7 +71,7 @@ class TestOrvCameraGuiApi : public QObject
 
 private slots:
     void cleanup();
-    void makesTheApplication();
+    void createsTheApplication();
     void windowTitles_data();
     void windowTitles();
     void stateLevelAndLanguage();
@@ -98,7 +98,7 @@ void TestOrvCameraGuiApi::cleanup()
     QVERIFY(QGuiApplication::topLevelWindows().isEmpty());
 }
 
-void TestOrvCameraGuiApi::makesTheApplication()
+void TestOrvCameraGuiApi::createsTheApplication()
 {
     qputenv("ORVCAM_SIMULATION", "1");
     QVERIFY(!QCoreApplication::instance());

@@ -47,10 +47,10 @@ class TestCameraWindows : public QObject
 
 private slots:
     void initTestCase();
-    void showTheSameCamera();
-    void followTheConfiguration();
+    void windowsShowTheSameCamera();
+    void treeFollowsConfiguration();
     void settingsMenu();
-    void namedWhileSeveralAreOpen();
+    void titlesNameTheCamera();
     void layoutIsRestored();
     void damagedSettings();
     void treeBesideMainWindow_data();
@@ -83,7 +83,7 @@ void TestCameraWindows::initTestCase()
     QVERIFY(m_camera);
 }
 
-void TestCameraWindows::showTheSameCamera()
+void TestCameraWindows::windowsShowTheSameCamera()
 {
     CameraWindows windows(open(), nullptr);
     windows.show();
@@ -115,7 +115,7 @@ void TestCameraWindows::showTheSameCamera()
     QVERIFY(!windows.tree().isVisible());
 }
 
-void TestCameraWindows::followTheConfiguration()
+void TestCameraWindows::treeFollowsConfiguration()
 {
     CameraWindows windows(open(), nullptr);
     windows.show();
@@ -162,7 +162,7 @@ void TestCameraWindows::settingsMenu()
     QVERIFY(!action(windows, "actionUserSets").isVisible());
 }
 
-void TestCameraWindows::namedWhileSeveralAreOpen()
+void TestCameraWindows::titlesNameTheCamera()
 {
     const QTemporaryDir folder;
     QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);

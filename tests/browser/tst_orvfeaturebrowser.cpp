@@ -125,14 +125,14 @@ class TestOrvFeatureBrowser : public QObject
 private slots:
     void searchOfManyFeatures();
     void searchEndRestoresTree();
-    void higherLevel();
+    void switchesToHigherLevel();
     void favourites();
     void savedState();
-    void changes();
+    void changedFeatures();
     void undo();
     void undoWhileTyping();
     void changesOfOtherWindows();
-    void refusals();
+    void refusedWrites();
     void contextMenu();
     void selectorTable();
     void otherParameters();
@@ -208,7 +208,7 @@ void TestOrvFeatureBrowser::searchEndRestoresTree()
     QCOMPARE(expansion(shown.tree), before);
 }
 
-void TestOrvFeatureBrowser::higherLevel()
+void TestOrvFeatureBrowser::switchesToHigherLevel()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -329,7 +329,7 @@ void TestOrvFeatureBrowser::savedState()
     QVERIFY(second.restoreState(second.saveState()));
 }
 
-void TestOrvFeatureBrowser::changes()
+void TestOrvFeatureBrowser::changedFeatures()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -476,7 +476,7 @@ void TestOrvFeatureBrowser::changesOfOtherWindows()
     QVERIFY(!shown.toolTip("Gain").contains("Earlier"));
 }
 
-void TestOrvFeatureBrowser::refusals()
+void TestOrvFeatureBrowser::refusedWrites()
 {
     SampleNodeMap map;
     Shown shown(map);

@@ -128,8 +128,8 @@ class TestCameraTexts : public QObject
 private slots:
     void initTestCase();
     void cleanupTestCase() { m_camera.reset(); }
-    void windows();
-    void failure();
+    void windowsShowPlainText();
+    void failureShowsPlainText();
 
 private:
     static void checkWindow(QWidget &window, const QString &name);
@@ -159,7 +159,7 @@ void TestCameraTexts::checkWindow(QWidget &window, const QString &name)
         check(*widget);
 }
 
-void TestCameraTexts::windows()
+void TestCameraTexts::windowsShowPlainText()
 {
     OrvGui::OrvCameraSelectorDialog picker(m_camera->system.get());
     auto *cameras = picker.findChild<QTreeView *>("cameraTreeView");
@@ -194,7 +194,7 @@ void TestCameraTexts::windows()
 }
 
 /// The progress dialog while a camera is opened, and the message after a failure.
-void TestCameraTexts::failure()
+void TestCameraTexts::failureShowsPlainText()
 {
     (*m_camera)->setMood("delay", 300);
     OrvGui::OrvCamConfigOpening opening(*m_camera->info, OrvCam::AccessControl);

@@ -313,10 +313,10 @@ private Q_SLOTS:
     void initTestCase();
     void withoutACamera();
     void afterACameraWithOneFrame();
-    void formerCameraIsLeft();
+    void formerCameraIsReleased();
     void exposureTimeIsSplit();
-    void exposureTimeAtOddCameras_data();
-    void exposureTimeAtOddCameras();
+    void exposureTimeOfUnusualCameras_data();
+    void exposureTimeOfUnusualCameras();
     void fixedPeriodIsConverted();
     void gainIsSplit();
     void draggingWritesOnceAtTheEnd();
@@ -388,7 +388,7 @@ void TestFrameABDialog::afterACameraWithOneFrame()
     }
 }
 
-void TestFrameABDialog::formerCameraIsLeft()
+void TestFrameABDialog::formerCameraIsReleased()
 {
     // The output mode unbinds the last feature, too.
     for (const char *feature :
@@ -440,7 +440,7 @@ void TestFrameABDialog::exposureTimeIsSplit()
     }
 }
 
-void TestFrameABDialog::exposureTimeAtOddCameras_data()
+void TestFrameABDialog::exposureTimeOfUnusualCameras_data()
 {
     QTest::addColumn<qint64>("clock");
     QTest::addColumn<qint64>("lineTime");
@@ -456,7 +456,7 @@ void TestFrameABDialog::exposureTimeAtOddCameras_data()
     QTest::newRow("negative line time") << 160LL << -1LL << 0 << 20LL << 30LL << 0;
 }
 
-void TestFrameABDialog::exposureTimeAtOddCameras()
+void TestFrameABDialog::exposureTimeOfUnusualCameras()
 {
     QFETCH(qint64, clock);
     QFETCH(qint64, lineTime);

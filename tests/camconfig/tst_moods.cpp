@@ -113,13 +113,13 @@ private slots:
     void cleanupTestCase();
     void init();
     void cleanup();
-    void opening_data() { addMoods({0, 1, 3}); }
-    void opening();
-    void working_data() { addMoods({2}); }
-    void working();
-    void reconnecting_data() { addMoods({4}); }
-    void reconnecting();
-    void unplugging();
+    void faultsWhileOpening_data() { addMoods({0, 1, 3}); }
+    void faultsWhileOpening();
+    void faultsWhileShown_data() { addMoods({2}); }
+    void faultsWhileShown();
+    void faultsWhileReconnecting_data() { addMoods({4}); }
+    void faultsWhileReconnecting();
+    void interruptionsLeakNothing();
 
 private:
     static bool isLong() { return qgetenv("ORV_MOODS") == "all"; }
@@ -281,7 +281,7 @@ bool TestMoods::connectCamera(const char *mood)
     return m_window->device() && QApplication::activeModalWidget() == nullptr;
 }
 
-void TestMoods::opening()
+void TestMoods::faultsWhileOpening()
 {
     QFETCH(QByteArray, mood);
     const bool isOpen = connectCamera(mood.constData());
@@ -292,7 +292,7 @@ void TestMoods::opening()
     checkIsAsBefore();
 }
 
-void TestMoods::working()
+void TestMoods::faultsWhileShown()
 {
     QFETCH(QByteArray, mood);
     m_camera->setMood(mood.constData());
@@ -308,7 +308,7 @@ void TestMoods::working()
              qPrintable(QString::number(watch.longestWait())));
 }
 
-void TestMoods::reconnecting()
+void TestMoods::faultsWhileReconnecting()
 {
     QFETCH(QByteArray, mood);
     LoopWatch watch;
@@ -324,7 +324,7 @@ void TestMoods::reconnecting()
 }
 
 /// A leak per interruption would be about 2 MiB of nodes and cache, a socket, and a thread.
-void TestMoods::unplugging()
+void TestMoods::interruptionsLeakNothing()
 {
     const int times = isLong() ? 20 : 1;
     Usage before;

@@ -83,7 +83,7 @@ private slots:
     void cleanupTestCase() { m_wire.reset(); }
     void cleanup() { m_camera->setMood("delay", 0); }
     void showsProgress();
-    void cancels();
+    void openingCanBeCancelled();
     void reportsReason();
     void changesDuringOpening_data();
     void changesDuringOpening();
@@ -150,7 +150,7 @@ void TestOpening::showsProgress()
     QVERIFY2(longest < 50, qPrintable(QString::number(longest)));
 }
 
-void TestOpening::cancels()
+void TestOpening::openingCanBeCancelled()
 {
     m_camera->setMood("delay", 50);
     QElapsedTimer timer;

@@ -286,8 +286,8 @@ private slots:
     void cameraWithOneFrame();
     void information();
     void buttonsAndView();
-    void ownership_data();
-    void ownership();
+    void releasesOnlyItsOwnDevices_data();
+    void releasesOnlyItsOwnDevices();
     void pickedInTheConstructor();
     void cameraThatCannotBeOpened();
     void destroyedWhilePicking();
@@ -583,7 +583,7 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
     QVERIFY(!child<QPushButton>(window, "pushBtnPulse").isChecked());
 }
 
-void TestOrvCamConfigMainWindow::ownership_data()
+void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices_data()
 {
     // The steps, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx: the host
     // sets a device of its own, or none; d disconnects; u0, u1 unplug and p0, p1 plug in a camera;
@@ -605,7 +605,7 @@ void TestOrvCamConfigMainWindow::ownership_data()
     }
 }
 
-void TestOrvCamConfigMainWindow::ownership()
+void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices()
 {
     QFETCH(QString, story);
     Scenario scenario;

@@ -186,30 +186,30 @@ class TestStrobeOutputColor : public QObject
     Q_OBJECT
 
 private slots:
-    void bothWays_data();
-    void bothWays();
-    void withoutCamera();
-    void closing();
+    void changesGoBothWays_data();
+    void changesGoBothWays();
+    void disabledWithoutCamera();
+    void closingIsSignalled();
     void tabOrder();
 
-    void strobePicture();
-    void pictureFollowsTheForm();
-    void smallScreen();
+    void pictureShowsReferences();
+    void pictureFollowsColoursAndFont();
+    void fitsASmallScreen();
 
-    void missingCoefficient();
-    void unity();
+    void missingCoefficientDisablesControls();
+    void unityButtons();
     void automaticWhiteBalance();
     void statisticsOfOtherCamera();
 };
 
-void TestStrobeOutputColor::bothWays_data()
+void TestStrobeOutputColor::changesGoBothWays_data()
 {
     QTest::addColumn<const Control *>("control");
     for (const Control &control : controls)
         QTest::newRow(control.name) << &control;
 }
 
-void TestStrobeOutputColor::bothWays()
+void TestStrobeOutputColor::changesGoBothWays()
 {
     QFETCH(const Control *, control);
     Camera camera;
@@ -235,7 +235,7 @@ void TestStrobeOutputColor::bothWays()
 }
 
 // Only the controls of the missing coefficient are disabled.
-void TestStrobeOutputColor::missingCoefficient()
+void TestStrobeOutputColor::missingCoefficientDisablesControls()
 {
     for (const char *color : {"Red", "Green", "Blue"}) {
         Camera camera(QByteArray(color) + "Coefficient");
@@ -250,7 +250,7 @@ void TestStrobeOutputColor::missingCoefficient()
     }
 }
 
-void TestStrobeOutputColor::withoutCamera()
+void TestStrobeOutputColor::disabledWithoutCamera()
 {
     Camera camera;
     for (Which which : all) {
@@ -274,7 +274,7 @@ void TestStrobeOutputColor::withoutCamera()
     }
 }
 
-void TestStrobeOutputColor::closing()
+void TestStrobeOutputColor::closingIsSignalled()
 {
     Camera camera;
     for (Which which : all) {
@@ -334,7 +334,7 @@ void TestStrobeOutputColor::tabOrder()
     }
 }
 
-void TestStrobeOutputColor::strobePicture()
+void TestStrobeOutputColor::pictureShowsReferences()
 {
     Camera camera;
     auto dialog = open(Strobe, &camera.device);
@@ -364,7 +364,7 @@ void TestStrobeOutputColor::strobePicture()
     QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
 }
 
-void TestStrobeOutputColor::pictureFollowsTheForm()
+void TestStrobeOutputColor::pictureFollowsColoursAndFont()
 {
     Camera camera;
     const auto dialog = open(Strobe, &camera.device);
@@ -395,7 +395,7 @@ void TestStrobeOutputColor::pictureFollowsTheForm()
             QTest::qWaitFor([&] { return label->width() >= label->sizeHint().width(); }));
 }
 
-void TestStrobeOutputColor::smallScreen()
+void TestStrobeOutputColor::fitsASmallScreen()
 {
     const QFont before = QApplication::font();
     QFont large = before;
@@ -419,7 +419,7 @@ void TestStrobeOutputColor::smallScreen()
     QApplication::setFont(before);
 }
 
-void TestStrobeOutputColor::unity()
+void TestStrobeOutputColor::unityButtons()
 {
     Camera camera;
     const auto dialog = open(Color, &camera.device);

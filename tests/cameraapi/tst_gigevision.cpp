@@ -26,8 +26,8 @@ private slots:
     void camerasComeAndGo();
     void badDescription();
     void allAdaptersAtOnce();
-    void linkIsDown();
-    void withoutAddress();
+    void adapterWithoutLink();
+    void adapterWithoutAddress();
     void sharedMacAddress();
     void manyCamerasComeAndGo();
     void malformedAnswers_data();
@@ -219,7 +219,7 @@ void TestGigEVision::allAdaptersAtOnce()
     QVERIFY(camerasOf(*second).empty());
 }
 
-void TestGigEVision::linkIsDown()
+void TestGigEVision::adapterWithoutLink()
 {
     TestCamera camera(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
     Interface *first = interface("orv0");
@@ -236,7 +236,7 @@ void TestGigEVision::linkIsDown()
     QCOMPARE(first->GetDescription(), "orv0 (10.1.0.1)");
 }
 
-void TestGigEVision::withoutAddress()
+void TestGigEVision::adapterWithoutAddress()
 {
     TestCamera camera(m_first->cameraSettings(0x020000000001, "169.254.7.21"));
     CameraNetwork::run("ip", "addr flush dev orv0");

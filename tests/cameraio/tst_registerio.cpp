@@ -122,11 +122,11 @@ private slots:
     void fieldsShareOneRegister();
     void waitingCallersGoFirst();
     void remainderIsReadNext();
-    void aDroppedRequestIsNotAnswered();
+    void droppedRequestIsNotAnswered();
     void lostCameraCostsOneTimeout();
     void unansweredRegisterIsSkipped();
-    void aLostCameraIsFound_data();
-    void aLostCameraIsFound();
+    void lostCameraIsFound_data();
+    void lostCameraIsFound();
 };
 
 void TestRegisterIo::cachesTransferredRegisters()
@@ -224,7 +224,7 @@ void TestRegisterIo::remainderIsReadNext()
     io.setListener(nullptr);
 }
 
-void TestRegisterIo::aDroppedRequestIsNotAnswered()
+void TestRegisterIo::droppedRequestIsNotAnswered()
 {
     Camera camera;
     camera.delayMs = 5;
@@ -285,14 +285,14 @@ void TestRegisterIo::unansweredRegisterIsSkipped()
     io.setListener(nullptr);
 }
 
-void TestRegisterIo::aLostCameraIsFound_data()
+void TestRegisterIo::lostCameraIsFound_data()
 {
     QTest::addColumn<bool>("isForgetful");
     QTest::newRow("it still knows us") << false;
     QTest::newRow("it was switched off and on") << true;
 }
 
-void TestRegisterIo::aLostCameraIsFound()
+void TestRegisterIo::lostCameraIsFound()
 {
     QFETCH(bool, isForgetful);
     Camera camera;

@@ -239,11 +239,11 @@ class TestFormula : public QObject
 
 private slots:
     void randomFormulas();
-    void results_data();
-    void results();
-    void errors_data();
-    void errors();
-    void limits();
+    void formulaResults_data();
+    void formulaResults();
+    void formulaErrors_data();
+    void formulaErrors();
+    void formulaLimits();
     void unknownVariables_data();
     void unknownVariables();
 };
@@ -280,7 +280,7 @@ void TestFormula::randomFormulas()
     QVERIFY2(compared > 12000, QByteArray::number(compared));
 }
 
-void TestFormula::results_data()
+void TestFormula::formulaResults_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("integer");
@@ -322,7 +322,7 @@ void TestFormula::results_data()
     row("1e300", "9223372036854775807", "1e+300");
 }
 
-void TestFormula::results()
+void TestFormula::formulaResults()
 {
     QFETCH(QByteArray, text);
     Names names;
@@ -330,7 +330,7 @@ void TestFormula::results()
     QTEST(realOf(names, text), "real");
 }
 
-void TestFormula::errors_data()
+void TestFormula::formulaErrors_data()
 {
     QTest::addColumn<QByteArray>("text");
     const QByteArrayList texts =
@@ -345,7 +345,7 @@ void TestFormula::errors_data()
     QTest::newRow("too long") << QByteArray(200000, '1').replace("1", "1+") + "1";
 }
 
-void TestFormula::errors()
+void TestFormula::formulaErrors()
 {
     QFETCH(QByteArray, text);
     Names names;
@@ -355,7 +355,7 @@ void TestFormula::errors()
     QCOMPARE(names.asked, QList<int>());
 }
 
-void TestFormula::limits()
+void TestFormula::formulaLimits()
 {
     Names names;
     const int depth = OrvCameraIo::Limits::formulaDepth - 1;

@@ -94,7 +94,7 @@ class TestNodeMap : public QObject
     Q_OBJECT
 
 private slots:
-    void badFiles();
+    void invalidFiles();
     void interfacesFollowTheElement();
     void propertiesOfNodes();
     void orderOfTheFile();
@@ -121,7 +121,7 @@ private slots:
     void unusedChangesEndPolling();
 };
 
-void TestNodeMap::badFiles()
+void TestNodeMap::invalidFiles()
 {
     const QTemporaryDir folder;
     for (const QString &name : {folder.filePath("missing.xml"), folder.path()}) {

@@ -10,8 +10,8 @@ private slots:
     void init();
     void cleanup() { m_host.end(); }
     void showsThePickedCamera();
-    void ends_data();
-    void ends();
+    void exitStatus_data();
+    void exitStatus();
 
 private:
     ProgramOnScreen m_host;
@@ -52,7 +52,7 @@ void TestPythonHost::showsThePickedCamera()
     QCOMPARE(m_host.status(), 0);
 }
 
-void TestPythonHost::ends_data()
+void TestPythonHost::exitStatus_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<int>("status");
@@ -60,7 +60,7 @@ void TestPythonHost::ends_data()
     QTest::newRow("read-only camera") << QString("Down ").repeated(9) + "Return" << 1;
 }
 
-void TestPythonHost::ends()
+void TestPythonHost::exitStatus()
 {
     QFETCH(QString, keys);
     m_host.press(keys.split(' '));

@@ -42,8 +42,8 @@ class TestNodes : public QObject
 private slots:
     void stringsAndPointers();
     void namesAndOrder();
-    void checks();
-    void extremes();
+    void writesAreChecked();
+    void extremeValues();
     void restrictions();
     void texts_data();
     void texts();
@@ -90,7 +90,7 @@ void TestNodes::namesAndOrder()
     QVERIFY(throws<GenICam::LogicalErrorException>([&] { map.addInteger("A"); }));
 }
 
-void TestNodes::checks()
+void TestNodes::writesAreChecked()
 {
     MemoryNodeMap map;
     auto &width = map.addInteger("Width");
@@ -127,7 +127,7 @@ void TestNodes::checks()
     QVERIFY(throws<GenICam::OutOfRangeException>([&] { mode.ToString(); }));
 }
 
-void TestNodes::extremes()
+void TestNodes::extremeValues()
 {
     MemoryNodeMap map;
     auto &node = map.addInteger("Width");

@@ -86,12 +86,12 @@ private slots:
     void featureListedTwice();
     void changedCategories();
     void changedLongCategory();
-    void circles();
+    void circularCategories();
     void names();
     void values_data();
     void values();
     void unreadableNodes();
-    void write();
+    void writesValues();
     void refusedWrites();
     void commands();
     void descriptions_data();
@@ -216,7 +216,7 @@ void TestGenParamTreeModel::changedLongCategory()
 
 // A category within itself is omitted where the traversal would enter it again; other rows are
 // shown.
-void TestGenParamTreeModel::circles()
+void TestGenParamTreeModel::circularCategories()
 {
     OrvGenApi::MemoryNodeMap map;
     auto &a = map.addCategory("A");
@@ -338,7 +338,7 @@ void TestGenParamTreeModel::unreadableNodes()
     QCOMPARE(heightCell.data().toInt(), 1024);
 }
 
-void TestGenParamTreeModel::write()
+void TestGenParamTreeModel::writesValues()
 {
     const struct
     {

@@ -135,13 +135,13 @@ private slots:
     void scrollingAndSearching();
     void choosingWithTheMouse();
     void listOpensOnce();
-    void clickElsewhere();
+    void clickElsewhereEndsEditing();
     void untouchedEditors();
     void levelWhileEditing();
     void writesUserChangesOnly();
 
-    void dragging();
-    void draggingLimits();
+    void dragsColumnWidths();
+    void columnBorders();
 
     void savedState();
     void restoredState();
@@ -151,8 +151,8 @@ private slots:
     void nodeMapDestroyedWhileEditing();
     void parametersReplacedByWrite();
     void changedOnAnotherThread();
-    void readsOnlyWhatIsSeen();
-    void levelKeepsThePlace();
+    void readsVisibleRowsOnly();
+    void levelKeepsCurrentRow();
     void levelOfALargeTree();
     void brokenCategories();
 };
@@ -499,7 +499,7 @@ void TestOrvGenParamTreeView::listOpensOnce()
     }
 }
 
-void TestOrvGenParamTreeView::clickElsewhere()
+void TestOrvGenParamTreeView::clickElsewhereEndsEditing()
 {
     MemoryTree shown;
     auto &width = shown.map.integer("Width");
@@ -711,7 +711,7 @@ void TestOrvGenParamTreeView::writesUserChangesOnly()
     QVERIFY(!driver.cell("FirmwareKey").isValid());
 }
 
-void TestOrvGenParamTreeView::dragging()
+void TestOrvGenParamTreeView::dragsColumnWidths()
 {
     MemoryTree shown;
     TreeDriver &driver = shown.driver;
@@ -741,7 +741,7 @@ void TestOrvGenParamTreeView::dragging()
     }
 }
 
-void TestOrvGenParamTreeView::draggingLimits()
+void TestOrvGenParamTreeView::columnBorders()
 {
     MemoryTree shown;
     TreeDriver &driver = shown.driver;
@@ -946,7 +946,7 @@ void TestOrvGenParamTreeView::changedOnAnotherThread()
 }
 
 // Rows that have been visible have been read once; other rows have not been read.
-void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
+void TestOrvGenParamTreeView::readsVisibleRowsOnly()
 {
     OrvGenApi::MemoryNodeMap map("Many");
     std::vector<OrvGenApi::MemoryInteger *> features;
@@ -995,7 +995,7 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
     QCOMPARE(total(), int(features.size()));
 }
 
-void TestOrvGenParamTreeView::levelKeepsThePlace()
+void TestOrvGenParamTreeView::levelKeepsCurrentRow()
 {
     OrvGenApi::MemoryNodeMap map("Places");
     for (int i = 0; i < 60; ++i) {

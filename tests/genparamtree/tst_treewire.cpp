@@ -65,8 +65,8 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void readingDoesNotBlock();
-    void writing();
-    void selection();
+    void editorWritesOnce();
+    void editorFollowsSelection();
 
 private:
     template<typename Editor>
@@ -239,7 +239,7 @@ void TestTreeWire::readingDoesNotBlock()
     }
 }
 
-void TestTreeWire::writing()
+void TestTreeWire::editorWritesOnce()
 {
     tree().setCurrentIndex(cell("Width", 0));
     tree().setCurrentIndex(cell("Width"));
@@ -258,7 +258,7 @@ void TestTreeWire::writing()
 }
 
 /// Selecting another frame changes the value in an open editor.
-void TestTreeWire::selection()
+void TestTreeWire::editorFollowsSelection()
 {
     const QPersistentModelIndex selector(valueCell(*model(), "FrameAB_Selector"));
     const QPersistentModelIndex level(valueCell(*model(), "Frame_BlackLevel"));

@@ -41,13 +41,13 @@ class TestGvcp : public QObject
     Q_OBJECT
 
 private slots:
-    void identity();
-    void commands();
-    void answers();
-    void everyTruncation();
+    void parsesIdentity();
+    void buildsCommands();
+    void parsesAnswers();
+    void rejectsTruncatedPackets();
 };
 
-void TestGvcp::identity()
+void TestGvcp::parsesIdentity()
 {
     const QByteArray packet = discoveryAnswer();
     QCOMPARE(packet.size(), 256);
@@ -72,7 +72,7 @@ void TestGvcp::identity()
     QVERIFY(!parse(packet + "trailing bytes"));
 }
 
-void TestGvcp::commands()
+void TestGvcp::buildsCommands()
 {
     const auto hex = [](const Gvcp::Packet &packet) {
         return QByteArray(reinterpret_cast<const char *>(packet.data()),
@@ -91,7 +91,7 @@ void TestGvcp::commands()
                                                                            "0000001001020304"));
 }
 
-void TestGvcp::answers()
+void TestGvcp::parsesAnswers()
 {
     const QByteArray packet = QByteArray::fromHex("0000 0081 0008 0007 12345678 00000009");
     const auto answer = parse(packet);
@@ -116,7 +116,7 @@ void TestGvcp::answers()
     QVERIFY(!Gvcp::parsePending(*parse(QByteArray::fromHex("0000 0089 0000 0007"))));
 }
 
-void TestGvcp::everyTruncation()
+void TestGvcp::rejectsTruncatedPackets()
 {
     // With an adapted length field as well, which makes the header valid, but not the contents.
     QVERIFY(!parse(QByteArray::fromHex("0000 0003 ffff 1234 00"))); // wrong length

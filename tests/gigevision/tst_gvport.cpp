@@ -44,20 +44,20 @@ private slots:
     void contradictoryIdentities_data();
     void contradictoryIdentities();
     void controlIsReadAgain();
-    void openTwice_data();
-    void openTwice();
-    void keptButNotUsed_data();
-    void keptButNotUsed();
-    void keptForAWhile();
-    void urls_data();
-    void urls();
-    void archives_data();
-    void archives();
-    void failures();
-    void control();
-    void batches_data();
-    void batches();
-    void aLongBatchIsLeftEarly();
+    void descriptionIsDownloadedOnce_data();
+    void descriptionIsDownloadedOnce();
+    void cachedDescriptionIsInvalid_data();
+    void cachedDescriptionIsInvalid();
+    void cacheSizeIsLimited();
+    void descriptionUrls_data();
+    void descriptionUrls();
+    void descriptionArchives_data();
+    void descriptionArchives();
+    void openingFailures();
+    void controlPrivilege();
+    void batchesArePacked_data();
+    void batchesArePacked();
+    void longBatchIsLeftEarly();
     void refusedRegisters_data();
     void refusedRegisters();
     void registersOfAllShapes();
@@ -66,9 +66,9 @@ private slots:
     void networkFaults_data();
     void networkFaults();
     void lostPackets();
-    void probing();
-    void interrupted();
-    void reopen();
+    void probesPresence();
+    void interruptEndsTransfers();
+    void reopensTheSameCamera();
 
 private:
     TestCamera::Settings describedCamera(int lines) const;
@@ -234,7 +234,7 @@ void TestGvPort::controlIsReadAgain()
 
 // Opening
 
-void TestGvPort::openTwice_data()
+void TestGvPort::descriptionIsDownloadedOnce_data()
 {
     QTest::addColumn<bool>("isZipped");
     QTest::addColumn<uint32_t>("address");
@@ -245,7 +245,7 @@ void TestGvPort::openTwice_data()
     QTest::newRow("not aligned, to the last byte") << true << 0xFFFF0002u << 200;
 }
 
-void TestGvPort::openTwice()
+void TestGvPort::descriptionIsDownloadedOnce()
 {
     QFETCH(bool, isZipped);
     QFETCH(uint32_t, address);
@@ -287,7 +287,7 @@ void TestGvPort::openTwice()
     QVERIFY(camera.counters().readMemory <= 4);
 }
 
-void TestGvPort::keptButNotUsed_data()
+void TestGvPort::cachedDescriptionIsInvalid_data()
 {
     QTest::addColumn<QString>("change");
     for (const char *change : {"version", "first block", "last block", "damaged file", "link",
@@ -295,7 +295,7 @@ void TestGvPort::keptButNotUsed_data()
         QTest::newRow(change) << change;
 }
 
-void TestGvPort::keptButNotUsed()
+void TestGvPort::cachedDescriptionIsInvalid()
 {
     QFETCH(QString, change);
     const QTemporaryDir directory;
@@ -343,7 +343,7 @@ void TestGvPort::keptButNotUsed()
     QVERIFY(camera.counters().readMemory <= 4);
 }
 
-void TestGvPort::keptForAWhile()
+void TestGvPort::cacheSizeIsLimited()
 {
     const QTemporaryDir directory;
     const auto withAge = [&](const QString &name, std::time_t seconds) {
@@ -376,7 +376,7 @@ void TestGvPort::keptForAWhile()
     QVERIFY(foreign.exists());
 }
 
-void TestGvPort::urls_data()
+void TestGvPort::descriptionUrls_data()
 {
     QTest::addColumn<QByteArray>("first");
     QTest::addColumn<QByteArray>("second");
@@ -413,7 +413,7 @@ void TestGvPort::urls_data()
     bad("no memory there", "Local:camera.xml;D0000000;100");
 }
 
-void TestGvPort::urls()
+void TestGvPort::descriptionUrls()
 {
     QFETCH(QByteArray, first);
     QFETCH(QByteArray, second);
@@ -441,7 +441,7 @@ void TestGvPort::urls()
     QTRY_COMPARE(camera.privilege(), 0u);
 }
 
-void TestGvPort::archives_data()
+void TestGvPort::descriptionArchives_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("problem");
@@ -481,7 +481,7 @@ void TestGvPort::archives_data()
     row("nothing", std::string(100, '\0'), "neither");
 }
 
-void TestGvPort::archives()
+void TestGvPort::descriptionArchives()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, problem);
@@ -496,7 +496,7 @@ void TestGvPort::archives()
     }
 }
 
-void TestGvPort::failures()
+void TestGvPort::openingFailures()
 {
     QElapsedTimer timer;
     timer.start();
@@ -525,7 +525,7 @@ void TestGvPort::failures()
     QCOMPARE(lost.failure, Failure::Gone);
 }
 
-void TestGvPort::control()
+void TestGvPort::controlPrivilege()
 {
     auto settings = describedCamera(20);
     settings.heartbeat = 60000;
@@ -562,7 +562,7 @@ void TestGvPort::control()
 
 // Reading
 
-void TestGvPort::batches_data()
+void TestGvPort::batchesArePacked_data()
 {
     QTest::addColumn<bool>("canConcatenate");
     QTest::addColumn<bool>("isWordNumber");
@@ -591,7 +591,7 @@ void TestGvPort::batches_data()
                           << all << 4;
 }
 
-void TestGvPort::batches()
+void TestGvPort::batchesArePacked()
 {
     QFETCH(bool, canConcatenate);
     QFETCH(bool, isWordNumber);
@@ -616,7 +616,7 @@ void TestGvPort::batches()
     QCOMPARE(int(camera.counters().transfers()), commands);
 }
 
-void TestGvPort::aLongBatchIsLeftEarly()
+void TestGvPort::longBatchIsLeftEarly()
 {
     auto settings = describedCamera(20);
     settings.canConcatenate = false;
@@ -868,7 +868,7 @@ void TestGvPort::lostPackets()
 
 // Loss and reconnection
 
-void TestGvPort::probing()
+void TestGvPort::probesPresence()
 {
     TestCamera camera(describedCamera(20));
     const auto opened = open();
@@ -901,7 +901,7 @@ void TestGvPort::probing()
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
 }
 
-void TestGvPort::interrupted()
+void TestGvPort::interruptEndsTransfers()
 {
     TestCamera camera(describedCamera(20));
     auto opened = open();
@@ -927,7 +927,7 @@ void TestGvPort::interrupted()
     QTRY_COMPARE(camera.privilege(), 0u);
 }
 
-void TestGvPort::reopen()
+void TestGvPort::reopensTheSameCamera()
 {
     const QTemporaryDir directory;
     qputenv("ORVCAM_DESCRIPTION_CACHE", directory.path().toUtf8());

@@ -96,20 +96,20 @@ class TestFeatureJournal : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void valueTypes_data();
-    void valueTypes();
-    void selectors();
-    void refusals();
+    void undoOfEachType_data();
+    void undoOfEachType();
+    void undoWithSelectors();
+    void refusedUndo();
     void nodeMapIsDestroyed();
-    void gestures();
-    void frameDialog();
-    void typing();
-    void window();
+    void gesturesAreOneStep();
+    void undoInFrameDialog();
+    void undoWhileTyping();
+    void windowsShareOneJournal();
     void sampleRing();
     void historyChart();
 };
 
-void TestFeatureJournal::valueTypes_data()
+void TestFeatureJournal::undoOfEachType_data()
 {
     QTest::addColumn<QByteArray>("feature");
     QTest::addColumn<QVariant>("value");
@@ -128,7 +128,7 @@ void TestFeatureJournal::valueTypes_data()
                           << QString("UserName a %1 &b\uFFFD<i>").arg(arrow);
 }
 
-void TestFeatureJournal::valueTypes()
+void TestFeatureJournal::undoOfEachType()
 {
     QFETCH(QByteArray, feature);
     QFETCH(QVariant, value);
@@ -157,7 +157,7 @@ void TestFeatureJournal::valueTypes()
     QVERIFY(!journal->canRedo());
 }
 
-void TestFeatureJournal::selectors()
+void TestFeatureJournal::undoWithSelectors()
 {
     Map map;
     const auto journal = FeatureJournal::of(&map);
@@ -217,7 +217,7 @@ void TestFeatureJournal::selectors()
     QVERIFY(!journal->canUndo());
 }
 
-void TestFeatureJournal::refusals()
+void TestFeatureJournal::refusedUndo()
 {
     Map map;
     const auto journal = FeatureJournal::of(&map);
@@ -317,7 +317,7 @@ void TestFeatureJournal::nodeMapIsDestroyed()
 }
 
 /// A drag, a held button and a held key are one step each; each click is a step.
-void TestFeatureJournal::gestures()
+void TestFeatureJournal::gesturesAreOneStep()
 {
     SimulatedDevice camera;
     OrvCamConfigColorDialog dialog(&camera.device);
@@ -373,7 +373,7 @@ void TestFeatureJournal::gestures()
 }
 
 /// The writes of the frame dialog, both its own and those of the mapper, for each frame.
-void TestFeatureJournal::frameDialog()
+void TestFeatureJournal::undoInFrameDialog()
 {
     SimulatedDevice camera;
     camera.set("FrameMode", "DualVideo");
@@ -426,7 +426,7 @@ void TestFeatureJournal::frameDialog()
 }
 
 /// The keys undo typing first; after a commit they undo writes.
-void TestFeatureJournal::typing()
+void TestFeatureJournal::undoWhileTyping()
 {
     SimulatedDevice camera;
     OrvCamConfigColorDialog dialog(&camera.device);
@@ -459,7 +459,7 @@ void TestFeatureJournal::typing()
 
 /// All windows of a camera share one journal. The captions open the values that the window has
 /// read.
-void TestFeatureJournal::window()
+void TestFeatureJournal::windowsShareOneJournal()
 {
     SimulatedDevice camera;
     OrvCamConfig window(&camera.device);

@@ -109,9 +109,9 @@ class TestLooks : public QObject
 private slots:
     void initTestCase();
     void findsFaults();
-    void windows_data();
-    void windows();
-    void editors();
+    void windowsHaveNoFaults_data();
+    void windowsHaveNoFaults();
+    void editorsHaveNames();
     void cleanupTestCase();
 
 private:
@@ -393,7 +393,7 @@ Window TestLooks::makeDifferences()
     return dialog;
 }
 
-void TestLooks::windows_data()
+void TestLooks::windowsHaveNoFaults_data()
 {
     QTest::addColumn<int>("condition");
     QTest::addColumn<QString>("name");
@@ -409,7 +409,7 @@ void TestLooks::windows_data()
     }
 }
 
-void TestLooks::windows()
+void TestLooks::windowsHaveNoFaults()
 {
     QFETCH(int, condition);
     QFETCH(QString, name);
@@ -440,7 +440,7 @@ void TestLooks::windows()
 }
 
 /// The accessible name of each editor is that of its feature.
-void TestLooks::editors()
+void TestLooks::editorsHaveNames()
 {
     change(conditions[0]);
     const Window window = makeTree();

@@ -17,11 +17,11 @@ class TestCameraSelectorDialog : public QObject
 private slots:
     void init();
     void cleanup() { m_dialog.reset(); }
-    void opens();
-    void looksOncePerExpansion();
+    void initialState();
+    void scansOncePerExpansion();
     void accessStates();
     void interfaceKinds();
-    void panes();
+    void panesShowProperties();
     void unreadableRows();
     void rescan();
     void wrongListSizes();
@@ -30,9 +30,9 @@ private slots:
     void forcesAddress();
     void warnsOfBadAddress();
     void reportsWrongAddress();
-    void rowsMoved();
+    void camerasEnumeratedElsewhere();
     void waitsForCamera();
-    void forcingFails();
+    void failedForcing();
     void destroyedDuringDialogs();
 
 private:
@@ -153,7 +153,7 @@ bool TestCameraSelectorDialog::force(const QList<ModalVisitor::Action> &dialogs)
     return visitor.isDone();
 }
 
-void TestCameraSelectorDialog::opens()
+void TestCameraSelectorDialog::initialState()
 {
     open();
     QCOMPARE(m_dialog->windowTitle(), QString("Select camera"));
@@ -172,7 +172,7 @@ void TestCameraSelectorDialog::opens()
     QCOMPARE(tree()->currentIndex(), interfaceRow(0));
 }
 
-void TestCameraSelectorDialog::looksOncePerExpansion()
+void TestCameraSelectorDialog::scansOncePerExpansion()
 {
     open();
     const auto looks = [this] {
@@ -268,7 +268,7 @@ void TestCameraSelectorDialog::interfaceKinds()
     }
 }
 
-void TestCameraSelectorDialog::panes()
+void TestCameraSelectorDialog::panesShowProperties()
 {
     open();
     const QStringList network = {
@@ -535,7 +535,7 @@ void TestCameraSelectorDialog::reportsWrongAddress()
 }
 
 /// Another part of the program has enumerated the cameras again.
-void TestCameraSelectorDialog::rowsMoved()
+void TestCameraSelectorDialog::camerasEnumeratedElsewhere()
 {
     const auto swap = [this] {
         std::swap(m_network->cameras.entries[0], m_network->cameras.entries[1]);
@@ -615,7 +615,7 @@ void TestCameraSelectorDialog::waitsForCamera()
     QVERIFY(!m_dialog && m_parameters->writes.contains("GevDeviceForceIP"));
 }
 
-void TestCameraSelectorDialog::forcingFails()
+void TestCameraSelectorDialog::failedForcing()
 {
     const struct
     {

@@ -20,8 +20,8 @@ class TestSelectCamera : public QObject
 
 private slots:
     void initTestCase();
-    void foreignParent();
-    void noSuchParent();
+    void opensOnForeignWindow();
+    void opensWithInvalidParent();
 
 private:
     OrvCam::System *m_system = nullptr;
@@ -35,7 +35,7 @@ void TestSelectCamera::initTestCase()
 }
 
 /// With a parent window that belongs to a program without Qt.
-void TestSelectCamera::foreignParent()
+void TestSelectCamera::opensOnForeignWindow()
 {
     XView x;
     const QRect place(200, 150, 900, 700);
@@ -65,7 +65,7 @@ void TestSelectCamera::foreignParent()
     }
 }
 
-void TestSelectCamera::noSuchParent()
+void TestSelectCamera::opensWithInvalidParent()
 {
     const ModalVisitor visitor({[](QDialog &dialog) {
         QVERIFY(QGuiApplication::primaryScreen()->geometry().contains(dialog.geometry()));

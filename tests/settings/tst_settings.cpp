@@ -112,18 +112,18 @@ class TestSettings : public QObject
 
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
-    void files_data();
-    void files();
+    void fileFormat_data();
+    void fileFormat();
     void valuesInFiles_data();
     void valuesInFiles();
     void selectors();
-    void refusals();
+    void refusedValues();
     void otherModels();
     void simulatedCamera();
     void twoFiles();
     void cancelled();
     void cFunctions();
-    void menu();
+    void settingsMenu();
     void userSets();
     void transfersOfGigECamera();
 
@@ -145,7 +145,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-void TestSettings::files_data()
+void TestSettings::fileFormat_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("expected"); // labels and values; or the error with its line
@@ -174,7 +174,7 @@ void TestSettings::files_data()
     row("too large", head + QByteArray(int(SettingsFile::largestSize), '#'), "too large");
 }
 
-void TestSettings::files()
+void TestSettings::fileFormat()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, expected);
@@ -342,7 +342,7 @@ void TestSettings::selectors()
     QVERIFY(camera.isPutBack());
 }
 
-void TestSettings::refusals()
+void TestSettings::refusedValues()
 {
     SmallCamera camera;
     camera.addInteger("Locked", 3).setAccessMode(GenApi::RO);
@@ -502,7 +502,7 @@ void TestSettings::cFunctions()
     QVERIFY(report[0]);
 }
 
-void TestSettings::menu()
+void TestSettings::settingsMenu()
 {
     SmallCamera camera;
     QWidget window;

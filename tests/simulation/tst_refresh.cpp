@@ -36,7 +36,7 @@ class TestRefresh : public QObject
 private slots:
     void init();
     void cleanup();
-    void aSelectorRefreshesWhatItSelects();
+    void selectorRefreshesSelectedFeatures();
     void everyVisibleChangeIsReported_data();
     void everyVisibleChangeIsReported();
     void pollingRefreshesPolledFeatures();
@@ -77,7 +77,7 @@ QSet<QString> TestRefresh::refreshedBy(const std::function<void()> &change)
     return names;
 }
 
-void TestRefresh::aSelectorRefreshesWhatItSelects()
+void TestRefresh::selectorRefreshesSelectedFeatures()
 {
     GenApi::CEnumerationPtr selector(m_map->GetNode("LUTSelector"));
     const QSet<QString> refreshed = refreshedBy([&] { selector->FromString("Red"); });

@@ -134,8 +134,8 @@ class TestTranslations : public QObject
 private slots:
     void initTestCase();
     void filesAreUpToDate();
-    void filesAreFinished();
-    void programSpeaksTheLanguage();
+    void filesAreComplete();
+    void programFollowsTheLocale();
     void everyTextIsTranslated();
     void cleanupTestCase();
 
@@ -219,7 +219,7 @@ void TestTranslations::filesAreUpToDate()
 }
 
 // The files are complete, and so are the translations compiled into the library.
-void TestTranslations::filesAreFinished()
+void TestTranslations::filesAreComplete()
 {
     QCOMPARE(translationFiles().size(), 2);
     for (const QString &file : translationFiles()) {
@@ -238,7 +238,7 @@ void TestTranslations::filesAreFinished()
     }
 }
 
-void TestTranslations::programSpeaksTheLanguage()
+void TestTranslations::programFollowsTheLocale()
 {
     const QString english = "The level of detail: basic, expert or guru.";
     const QString german = "Der Umfang: basic, expert oder guru.";

@@ -19,12 +19,12 @@ class TestSpinBoxes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void snaps();
+    void snapsIntegers();
     void snapsRealValues();
     void extremeNumbers();
     void snapsValuesOfAnySource();
     void waitsForEnter();
-    void acceptsPendingText();
+    void commitsPendingText();
     void leavesEnterToTheBaseClass();
 
 private:
@@ -33,7 +33,7 @@ private:
                           QString text = QString());
 };
 
-void TestSpinBoxes::snaps()
+void TestSpinBoxes::snapsIntegers()
 {
     const struct
     {
@@ -192,7 +192,7 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number,
     QVERIFY2(hand.isTaken || box.text() == before, what);
 }
 
-void TestSpinBoxes::acceptsPendingText()
+void TestSpinBoxes::commitsPendingText()
 {
     using Box = QAbstractSpinBox;
     const Hand tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
