@@ -64,7 +64,7 @@ void letPass(int milliseconds)
 }
 
 /// Runs a call that waits for the cameras on another thread, so that the event loop is not blocked.
-void beside(const std::function<void()> &call)
+void runOnOtherThread(const std::function<void()> &call)
 {
     std::atomic<bool> isDone{false};
     std::thread thread([&] {
@@ -310,10 +310,12 @@ void Acts::interrupt()
 {
     for (const bool isSwitchedOff : {false, true}) {
         m_disconnected = m_reconnected = 0;
-        beside([&] { isSwitchedOff ? m_cameras.switchOff() : m_cameras.setSilent(true); });
+        runOnOtherThread(
+            [&] { isSwitchedOff ? m_cameras.switchOff() : m_cameras.setSilent(true); });
         for (int waited = 0; m_disconnected < count() && waited < timeout; waited += 10)
             letPass(10);
-        beside([&] { isSwitchedOff ? m_cameras.switchOn() : m_cameras.setSilent(false); });
+        runOnOtherThread(
+            [&] { isSwitchedOff ? m_cameras.switchOn() : m_cameras.setSilent(false); });
         for (int waited = 0; m_reconnected < count() && waited < timeout; waited += 10)
             letPass(10);
         for (int waited = 0; !isComplete() && waited < timeout; waited += 10)

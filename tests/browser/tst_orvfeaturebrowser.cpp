@@ -253,12 +253,12 @@ void TestOrvFeatureBrowser::favourites()
     QSignalSpy changed(&shown.model(), &QAbstractItemModel::dataChanged);
     QVERIFY(shown.model().setData(starred, 6.0));
     QCOMPARE(other.data().toDouble(), 6.0);
-    const auto isTold = [&](const QModelIndex &cell) {
+    const auto isNotified = [&](const QModelIndex &cell) {
         return std::any_of(changed.begin(), changed.end(), [&](const QList<QVariant> &arguments) {
             return arguments.at(0).toModelIndex().parent() == cell.parent();
         });
     };
-    QVERIFY(isTold(starred) && isTold(other));
+    QVERIFY(isNotified(starred) && isNotified(other));
 
     // An open editor writes its value and closes when its row is removed.
     shown.browser.setVisibility(OrvGui::Basic);

@@ -20,12 +20,12 @@ using OrvGui::OrvCamConfig;
 namespace {
 
 /// The cameras on the first interface of the picker.
-struct World
+struct OfferedCameras
 {
-    World() { system.interfaces.entries = {&interface}; }
+    OfferedCameras() { system.interfaces.entries = {&interface}; }
 
     PluggableCamera &camera(int i) { return i == 0 ? first : second; }
-    /// Devices that were handed out and not released.
+    /// Systems that were handed out and not released.
     int systems() const { return opened - system.released; }
 
     PluggableCamera first{"First"};
@@ -40,7 +40,7 @@ struct World
     FakeSystem system;
 };
 
-World *theWorld = nullptr;
+OfferedCameras *offeredCameras = nullptr;
 
 } // namespace
 
@@ -48,18 +48,18 @@ World *theWorld = nullptr;
 
 OrvCamSystem *OrvCam_GetSystem(void)
 {
-    if (!theWorld)
+    if (!offeredCameras)
         return nullptr;
-    ++theWorld->opened;
-    return &theWorld->system;
+    ++offeredCameras->opened;
+    return &offeredCameras->system;
 }
 
 OrvCamDevice *OrvCam_CreateDevice(OrvCamDeviceInfo *info, int32_t *error, int32_t accessMode)
 {
     if (error || accessMode != OrvCam::AccessControl)
         qFatal("Not how a device is to be created");
-    return CountedDevice::open(theWorld->camera(info == &theWorld->firstInfo ? 0 : 1), *info,
-                               theWorld->homeThread);
+    return CountedDevice::open(offeredCameras->camera(info == &offeredCameras->firstInfo ? 0 : 1),
+                               *info, offeredCameras->homeThread);
 }
 
 namespace {
@@ -165,7 +165,7 @@ class Scenario
 public:
     Scenario()
     {
-        theWorld = &world;
+        offeredCameras = &offered;
         ModalVisitor user({picking(-1)});
         window.reset(new OrvCamConfig(nullptr));
         QObject::connect(window.get(), &OrvCamConfig::deviceChanged,
@@ -179,7 +179,7 @@ public:
             if (host)
                 host->Release();
         }
-        theWorld = nullptr;
+        offeredCameras = nullptr;
     }
 
     /// Returns false if the action is not possible in the current state.
@@ -199,7 +199,7 @@ public:
         case 'r':
             return releaseByHost(i);
         default:
-            world.camera(i).isPlugged = word[0] == 'p';
+            offered.camera(i).isPlugged = word[0] == 'p';
             return true;
         }
     }
@@ -207,12 +207,12 @@ public:
     void check()
     {
         for (int i = 0; i < 2; ++i) {
-            const auto &counts = CountedDevice::counts(world.camera(i));
+            const auto &counts = CountedDevice::counts(offered.camera(i));
             QCOMPARE(counts.open, (hosts[i] ? 1 : 0) + (current == i && isOwn ? 1 : 0));
             QCOMPARE(counts.events, current == i ? 2 : 0);
         }
-        const bool isConnected = current >= 0 && world.camera(current).isPlugged;
-        const QString status = isConnected ? world.camera(current).name : "Disconnected";
+        const bool isConnected = current >= 0 && offered.camera(current).isPlugged;
+        const QString status = isConnected ? offered.camera(current).name : "Disconnected";
         QTRY_VERIFY((tick(*window), statusOf(*window) == status));
         QCOMPARE(window->device() != nullptr, isConnected);
         QCOMPARE(signalled, window->device());
@@ -225,19 +225,19 @@ public:
     {
         window.reset();
         QCOMPARE(signalled, static_cast<OrvCam::Device *>(nullptr));
-        QCOMPARE(world.systems(), 0);
+        QCOMPARE(offered.systems(), 0);
         for (int i = 0; i < 2; ++i)
-            QCOMPARE(CountedDevice::counts(world.camera(i)).open, hosts[i] ? 1 : 0);
+            QCOMPARE(CountedDevice::counts(offered.camera(i)).open, hosts[i] ? 1 : 0);
     }
 
-    World world;
+    OfferedCameras offered;
     std::unique_ptr<OrvCamConfig> window;
     OrvCam::Device *hosts[2] = {};
 
 private:
     void connectTo(int i)
     {
-        current = i >= 0 && world.camera(i).isPlugged && !hosts[i] ? i : -1;
+        current = i >= 0 && offered.camera(i).isPlugged && !hosts[i] ? i : -1;
         isOwn = true;
         ModalVisitor user({picking(i)});
         action(*window, "actionConnect").trigger();
@@ -249,8 +249,8 @@ private:
     bool setByHost(int i)
     {
         if (i >= 0 && !hosts[i]) {
-            hosts[i] =
-                CountedDevice::open(world.camera(i), i == 0 ? world.firstInfo : world.secondInfo);
+            hosts[i] = CountedDevice::open(offered.camera(i),
+                                           i == 0 ? offered.firstInfo : offered.secondInfo);
             if (!hosts[i])
                 return false;
         }
@@ -588,32 +588,32 @@ void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices_data()
     // The steps, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx: the host
     // sets a device of its own, or none; d disconnects; u0, u1 unplug and p0, p1 plug in a camera;
     // r0, r1: the host releases its device.
-    QTest::addColumn<QString>("story");
-    for (const char *story :
+    QTest::addColumn<QString>("steps");
+    for (const char *steps :
          {"c0 d", "c0 c0", "c0 c1", "c0 cx", "c0 u0 p0", "c0 u0 c1 p0", "c0 u0 d p0", "c0 u0 h1 p0",
           "c0 h1", "h0 c1", "h0 u0 p0", "h0 u0 hx p0", "h0 d", "h0 h0 u0 p0 u0", "h0 hx u0 h0 p0"})
-        QTest::newRow(story) << story;
+        QTest::newRow(steps) << steps;
 
     const QStringList words = {"c0", "c1", "cx", "h0", "h1", "hx", "d",
                                "u0", "u1", "p0", "p1", "r0", "r1"};
     for (unsigned seed = 1; seed <= 6; ++seed) {
         std::mt19937 random(seed);
-        QStringList story;
+        QStringList steps;
         for (int i = 0; i < 40; ++i)
-            story << words[int(random() % unsigned(words.size()))];
-        QTest::newRow(qPrintable(QString::number(seed))) << story.join(' ');
+            steps << words[int(random() % unsigned(words.size()))];
+        QTest::newRow(qPrintable(QString::number(seed))) << steps.join(' ');
     }
 }
 
 void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices()
 {
-    QFETCH(QString, story);
+    QFETCH(QString, steps);
     Scenario scenario;
-    for (const QString &word : story.split(' ')) {
+    for (const QString &word : steps.split(' ')) {
         if (scenario.perform(word))
             scenario.check();
         if (QTest::currentTestFailed()) {
-            qWarning("with \"%s\" in: %s", qPrintable(word), qPrintable(story));
+            qWarning("with \"%s\" in: %s", qPrintable(word), qPrintable(steps));
             return;
         }
     }
@@ -622,22 +622,22 @@ void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices()
 
 void TestOrvCamConfigMainWindow::pickedInTheConstructor()
 {
-    World world;
-    theWorld = &world;
+    OfferedCameras offered;
+    offeredCameras = &offered;
     {
         ModalVisitor user({picking(1)});
         OrvCamConfig window(nullptr);
         QVERIFY(user.isDone());
         QCOMPARE(statusOf(window), QString("Second"));
-        QCOMPARE(CountedDevice::counts(world.second).open, 1);
-        QCOMPARE(world.systems(), 1);
+        QCOMPARE(CountedDevice::counts(offered.second).open, 1);
+        QCOMPARE(offered.systems(), 1);
         for (QDialog *dialog : window.findChildren<OrvGui::OrvCamConfigDialog *>())
             QVERIFY(dialog->isEnabled());
     }
-    QCOMPARE(CountedDevice::counts(world.second).open, 0);
-    QCOMPARE(world.systems(), 0);
+    QCOMPARE(CountedDevice::counts(offered.second).open, 0);
+    QCOMPARE(offered.systems(), 0);
 
-    theWorld = nullptr; // there is no camera system
+    offeredCameras = nullptr; // there is no camera system
     const OrvCamConfig window(nullptr);
     QCOMPARE(statusOf(window), QString("Disconnected"));
     for (QDialog *dialog : window.findChildren<OrvGui::OrvCamConfigDialog *>())
@@ -647,7 +647,7 @@ void TestOrvCamConfigMainWindow::pickedInTheConstructor()
 void TestOrvCamConfigMainWindow::cameraThatCannotBeOpened()
 {
     Scenario scenario;
-    scenario.world.first.isPlugged = false;
+    scenario.offered.first.isPlugged = false;
     ModalVisitor user({picking(0)});
     action(*scenario.window, "actionConnect").trigger();
     QCOMPARE(statusOf(*scenario.window), QString("Disconnected"));
@@ -665,8 +665,8 @@ void TestOrvCamConfigMainWindow::destroyedWhilePicking()
     ModalVisitor user({[&](QDialog &) { scenario.window.reset(); }});
     action(*scenario.window, "actionConnect").trigger();
     QVERIFY(!scenario.window && user.isDone());
-    QCOMPARE(CountedDevice::counts(scenario.world.first).open, 0);
-    QCOMPARE(scenario.world.systems(), 0);
+    QCOMPARE(CountedDevice::counts(scenario.offered.first).open, 0);
+    QCOMPARE(scenario.offered.systems(), 0);
 }
 
 void TestOrvCamConfigMainWindow::twoWindowsOnOneCamera()
@@ -674,19 +674,19 @@ void TestOrvCamConfigMainWindow::twoWindowsOnOneCamera()
     Scenario scenario;
     QVERIFY(scenario.perform("h0"));
     auto other = std::make_unique<OrvCamConfig>(scenario.hosts[0]);
-    QCOMPARE(CountedDevice::counts(scenario.world.first).events, 4);
+    QCOMPARE(CountedDevice::counts(scenario.offered.first).events, 4);
     const auto both = [&](const char *text) {
         tick(*scenario.window);
         tick(*other);
         return statusOf(*scenario.window) == text && statusOf(*other) == text;
     };
     QVERIFY(both("First"));
-    scenario.world.first.isPlugged = false;
+    scenario.offered.first.isPlugged = false;
     QTRY_VERIFY(both("Disconnected"));
-    scenario.world.first.isPlugged = true;
+    scenario.offered.first.isPlugged = true;
     QTRY_VERIFY(both("First"));
     other.reset();
-    QCOMPARE(CountedDevice::counts(scenario.world.first).events, 2);
+    QCOMPARE(CountedDevice::counts(scenario.offered.first).events, 2);
     scenario.check();
     scenario.end();
 }
@@ -705,8 +705,8 @@ void TestOrvCamConfigMainWindow::showFunctions()
                      {ShowStrobeDialog, "OrvGui::OrvCamConfigStrobeDialog"},
                      {ShowTriggerDialog, "OrvGui::OrvCamConfigTriggerDialog"}};
     const QWidgetList before = QApplication::topLevelWidgets();
-    World world;
-    theWorld = &world;
+    OfferedCameras offered;
+    offeredCameras = &offered;
     Simulation simulation;
     for (const auto &function : functions) {
         for (OrvCam::Device *device : QList<OrvCam::Device *>{&simulation.device, nullptr}) {
@@ -725,13 +725,13 @@ void TestOrvCamConfigMainWindow::showFunctions()
             simulation.set("FrameMode", mode);
         for (const char *mode : {"On", "Off"})
             simulation.set("TriggerMode", mode);
-        OrvCam::Device *counted = CountedDevice::open(world.first, world.firstInfo);
+        OrvCam::Device *counted = CountedDevice::open(offered.first, offered.firstInfo);
         function.show(counted, 0);
-        QCOMPARE(CountedDevice::counts(world.first).events, 0);
+        QCOMPARE(CountedDevice::counts(offered.first).events, 0);
         counted->Release();
     }
-    QCOMPARE(world.systems(), 0);
-    theWorld = nullptr;
+    QCOMPARE(offered.systems(), 0);
+    offeredCameras = nullptr;
 }
 
 QTEST_MAIN(TestOrvCamConfigMainWindow)

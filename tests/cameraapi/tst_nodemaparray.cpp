@@ -323,15 +323,15 @@ void TestNodeMapArray::sinksChangeRegistrations()
     QVERIFY(!doomed);
     QCOMPARE(late.count, 1); // for the nested change
 
-    Sink *suicidal = nullptr;
-    suicidal = new Sink([&](Param *) {
-        Sink *&self = suicidal; // deleting the sink destroys the captures
+    Sink *selfDestroying = nullptr;
+    selfDestroying = new Sink([&](Param *) {
+        Sink *&self = selfDestroying; // deleting the sink destroys the captures
         delete self;
         self = nullptr;
     });
-    width->RegisterEventSink(suicidal);
+    width->RegisterEventSink(selfDestroying);
     camera.width.change(64);
-    QVERIFY(!suicidal);
+    QVERIFY(!selfDestroying);
     camera.width.change(80);
     QCOMPARE(late.count, 3);
 }

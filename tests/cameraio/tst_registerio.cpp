@@ -95,7 +95,7 @@ private:
     Camera &m_camera;
 };
 
-struct Story : RegisterIoListener
+struct EventCounter : RegisterIoListener
 {
     std::atomic<int> answers{0};
     std::atomic<int> losses{0};
@@ -204,8 +204,8 @@ void TestRegisterIo::remainderIsReadNext()
     Camera camera;
     camera.inTime = 3;
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     std::vector<RegisterRange> page;
     for (uint64_t i = 0; i < 10; ++i)
         page.push_back(word(4 * i));
@@ -245,8 +245,8 @@ void TestRegisterIo::lostCameraCostsOneTimeout()
 {
     Camera camera;
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     camera.isThere = false;
     io.read({word(0)});
     QCOMPARE(io.look(word(0), 0).status, Status::NoAnswer);
@@ -257,11 +257,11 @@ void TestRegisterIo::lostCameraCostsOneTimeout()
     QCOMPARE(io.look(word(4), 0).status, Status::NoAnswer);
 
     camera.isThere = true;
-    QTRY_COMPARE(story.answers.load(), 1);
+    QTRY_COMPARE(events.answers.load(), 1);
     QVERIFY(!io.look(word(0), 0).isKnown && !io.look(word(4), 0).isKnown);
     io.read({word(4)});
     QCOMPARE(io.look(word(4), 0).status, Status::Done);
-    QCOMPARE(story.losses.load(), 0);
+    QCOMPARE(events.losses.load(), 0);
     io.setListener(nullptr);
 }
 
@@ -270,8 +270,8 @@ void TestRegisterIo::unansweredRegisterIsSkipped()
     Camera camera;
     camera.mute = {8};
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     const std::vector<RegisterRange> page{word(0), word(4), word(8), word(12)};
     for (int round = 0; round < 6 && io.look(word(8), 0).status != Status::Failed; ++round) {
         io.read(page);
@@ -281,7 +281,7 @@ void TestRegisterIo::unansweredRegisterIsSkipped()
     io.read({word(0), word(4), word(12)});
     for (uint64_t address : {0, 4, 12})
         QCOMPARE(io.look(word(address), 0).status, Status::Done);
-    QCOMPARE(story.losses.load(), 0);
+    QCOMPARE(events.losses.load(), 0);
     io.setListener(nullptr);
 }
 
@@ -297,18 +297,18 @@ void TestRegisterIo::lostCameraIsFound()
     QFETCH(bool, isForgetful);
     Camera camera;
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     io.read({word(0)});
     camera.isThere = false;
-    QTRY_COMPARE(story.losses.load(), 1);
+    QTRY_COMPARE(events.losses.load(), 1);
     QVERIFY(io.isLost());
     io.read({word(4)});
     QCOMPARE(io.look(word(4), 0).status, Status::NoAnswer);
 
     camera.isForgetful = isForgetful;
     camera.isThere = true;
-    QTRY_COMPARE(story.finds.load(), 1);
+    QTRY_COMPARE(events.finds.load(), 1);
     QVERIFY(!io.look(word(0), 0).isKnown);
     io.read({word(0)});
     QCOMPARE(io.look(word(0), 0).status, Status::Done);

@@ -76,7 +76,7 @@ struct ShowCounter : QObject
 };
 
 /// Input of a user to a feature, and its effect. `inputWhilePolling()` interprets the script.
-struct Hands
+struct Input
 {
     const char *feature = nullptr;
     const char *script = nullptr;
@@ -115,7 +115,7 @@ void changeByCamera(OrvGenApi::Node &node)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Hands)
+Q_DECLARE_METATYPE(Input)
 
 class TestOrvGenParamTreeView : public QObject
 {
@@ -342,8 +342,8 @@ void TestOrvGenParamTreeView::initialColumnWidths()
 
 void TestOrvGenParamTreeView::inputWhilePolling_data()
 {
-    QTest::addColumn<Hands>("row");
-    const auto row = [](const char *name, const Hands &hands) { QTest::newRow(name) << hands; };
+    QTest::addColumn<Input>("row");
+    const auto row = [](const char *name, const Input &input) { QTest::newRow(name) << input; };
     row("integer", {"Width", "click 640 Return", "640"});
     row("hexadecimal", {"GevDeviceModeCapability", "click c Return", "0xC"});
     row("float", {"ExposureTime", "click 512.5 Return", "512.5"});
@@ -386,7 +386,7 @@ void TestOrvGenParamTreeView::inputWhilePolling_data()
 // typed slowly.
 void TestOrvGenParamTreeView::inputWhilePolling()
 {
-    QFETCH(Hands, row);
+    QFETCH(Input, row);
     MemoryTree shown;
     TreeDriver &driver = shown.driver;
     shown.map.integer("Width").change(16);

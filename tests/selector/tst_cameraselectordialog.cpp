@@ -175,17 +175,17 @@ void TestCameraSelectorDialog::initialState()
 void TestCameraSelectorDialog::scansOncePerExpansion()
 {
     open();
-    const auto looks = [this] {
+    const auto scans = [this] {
         return QList<size_t>{m_network->refreshes.size(), m_usb->refreshes.size(),
                              m_empty->refreshes.size(), m_unlisted->refreshes.size()};
     };
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 1, 1}));
     // The view lays out its rows again.
     m_dialog->setStyleSheet("QTreeView { font-size: 15pt; }");
     QTest::qWait(50);
     m_dialog->resize(700, 900);
     QTest::qWait(50);
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 1, 1}));
 
     // The user scans an interface without cameras and one with cameras.
     const auto arrow = [this](int row) {
@@ -198,17 +198,17 @@ void TestCameraSelectorDialog::scansOncePerExpansion()
     click(2);
     click(0);
     click(0);
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 1}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 2, 1}));
     tree()->setCurrentIndex(interfaceRow(3));
     QTest::keyClick(tree(), Qt::Key_Right);
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 2}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 2, 2}));
     m_empty->add("Late");
     QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
                        tree()->visualRect(interfaceRow(2)).center());
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 3, 2}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 3, 2}));
     QCOMPARE(tree()->model()->rowCount(interfaceRow(2)), 1);
     QTest::keyClick(m_dialog.get(), Qt::Key_F5);
-    QCOMPARE(looks(), (QList<size_t>{2, 2, 4, 3}));
+    QCOMPARE(scans(), (QList<size_t>{2, 2, 4, 3}));
 }
 
 void TestCameraSelectorDialog::accessStates()
@@ -598,13 +598,13 @@ void TestCameraSelectorDialog::waitsForCamera()
     QVERIFY(!m_parameters->writes.contains("GevDeviceForceIP"));
     QVERIFY(!okButton()->isEnabled() && !setIpButton()->isEnabled() &&
             !rescanButton()->isEnabled());
-    const size_t looks = m_network->refreshes.size();
+    const size_t scans = m_network->refreshes.size();
     tree()->setCurrentIndex(networkCamera(0));
     QCOMPARE(deviceFacts().size(), 7);
     tree()->collapse(interfaceRow(2));
     tree()->expand(interfaceRow(2));
     QTest::keyClick(m_dialog.get(), Qt::Key_F5);
-    QCOMPARE(m_network->refreshes.size(), looks);
+    QCOMPARE(m_network->refreshes.size(), scans);
     QCOMPARE(m_empty->refreshes.size(), size_t(1));
     QTRY_VERIFY(setIpButton()->isEnabled() && okButton()->isEnabled() &&
                 rescanButton()->isEnabled());

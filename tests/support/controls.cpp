@@ -16,7 +16,7 @@ bool isVisiblePart(const QWidget &window, const QWidget *widget)
 
 // The name that a screen reader reads: that of the label, or else the object's own. The own name of
 // a combo box may be only its current value.
-QString spokenName(QAccessibleInterface &interface)
+QString accessibleName(QAccessibleInterface &interface)
 {
     for (const auto &relation : interface.relations(QAccessible::Label)) {
         if (relation.first && relation.first->role() == QAccessible::StaticText)
@@ -28,22 +28,22 @@ QString spokenName(QAccessibleInterface &interface)
     return isContent ? QString() : name;
 }
 
-class Listener
+class NameChecker
 {
 public:
-    explicit Listener(const QWidget &window) : m_window(window) {}
+    explicit NameChecker(const QWidget &window) : m_window(window) {}
 
     void visit(QAccessibleInterface *interface, const QString &group)
     {
         auto *widget = interface ? qobject_cast<QWidget *>(interface->object()) : nullptr;
         if (!isVisiblePart(m_window, widget))
             return;
-        const QString name = spokenName(*interface);
+        const QString name = accessibleName(*interface);
         // The accessible states of views lack the focusable flag.
         const bool isFocusable =
             interface->state().focusable || qobject_cast<QAbstractItemView *>(widget);
         if (isFocusable && !widget->isWindow())
-            listen(*widget, *interface, group, name);
+            checkName(*widget, *interface, group, name);
         // Parts of these represent the whole control, and children of views are rows.
         const QAccessible::Role role = interface->role();
         if (role == QAccessible::SpinBox || role == QAccessible::ComboBox)
@@ -66,8 +66,8 @@ private:
         }
     }
 
-    void listen(const QWidget &widget, QAccessibleInterface &interface, const QString &group,
-                const QString &name)
+    void checkName(const QWidget &widget, QAccessibleInterface &interface, const QString &group,
+                   const QString &name)
     {
         if (name.isEmpty())
             faults << Looks::nameOf(widget) + " has no name";
@@ -122,14 +122,14 @@ QStringList sharedIn(const QMenu &menu)
 
 QString spokenNameOf(QWidget &control)
 {
-    return spokenName(*QAccessible::queryAccessibleInterface(&control));
+    return accessibleName(*QAccessible::queryAccessibleInterface(&control));
 }
 
 QStringList namelessOf(QWidget &window)
 {
-    Listener listener(window);
-    listener.visit(QAccessible::queryAccessibleInterface(&window), QString());
-    return listener.faults;
+    NameChecker checker(window);
+    checker.visit(QAccessible::queryAccessibleInterface(&window), QString());
+    return checker.faults;
 }
 
 QStringList tabOrderFaultsOf(QWidget &window)

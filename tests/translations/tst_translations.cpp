@@ -141,7 +141,7 @@ private slots:
 
 private:
     OrvCam::Device *openCamera();
-    QStringList strangers(const QStringList &texts) const;
+    QStringList untranslated(const QStringList &texts) const;
     void check(const QWidget &window);
     template<typename Dialog>
     void checkDialog();
@@ -149,7 +149,7 @@ private:
     OrvCam::System *m_system = nullptr;
     OrvCam::Device *m_device = nullptr;
     CameraTexts m_cameraTexts;
-    QStringList m_strangers;
+    QStringList m_untranslated;
     int m_checked = 0;
 };
 
@@ -268,7 +268,7 @@ void TestTranslations::programFollowsTheLocale()
 }
 
 /// The texts that are neither translated nor from the camera.
-QStringList TestTranslations::strangers(const QStringList &texts) const
+QStringList TestTranslations::untranslated(const QStringList &texts) const
 {
     static const QRegularExpression marked(QString("%1[^%1%2]*%2").arg(Open).arg(Close));
     static const QRegularExpression letter("\\pL");
@@ -305,7 +305,7 @@ void TestTranslations::check(const QWidget &window)
 {
     const QStringList texts = textsOf(window);
     m_checked += int(texts.size());
-    m_strangers << strangers(texts);
+    m_untranslated << untranslated(texts);
 }
 
 /// Repeats the check with toggle buttons pressed, which may change their texts.
@@ -327,7 +327,7 @@ void TestTranslations::everyTextIsTranslated()
     Marker marker;
     QVERIFY(QCoreApplication::installTranslator(&marker));
     int32_t code = OrvCam::Success;
-    QCOMPARE(strangers(textsOf(QLabel("Value <b>of</b> what"))).size(), 1);
+    QCOMPARE(untranslated(textsOf(QLabel("Value <b>of</b> what"))).size(), 1);
 
     {
         OrvGui::OrvGenParamTreeView view(m_device->GetParamArray(&code), nullptr);
@@ -391,10 +391,10 @@ void TestTranslations::everyTextIsTranslated()
     checkDialog<OrvGui::OrvCamConfigOutputDialog>();
     checkDialog<OrvGui::OrvCamConfigColorDialog>();
     qInfo("%d texts", m_checked);
-    m_strangers.removeDuplicates();
-    for (const QString &text : m_strangers)
+    m_untranslated.removeDuplicates();
+    for (const QString &text : m_untranslated)
         qWarning("not translated: %s", qPrintable(text));
-    QVERIFY(m_strangers.isEmpty());
+    QVERIFY(m_untranslated.isEmpty());
 }
 
 QTEST_MAIN(TestTranslations)

@@ -7,11 +7,11 @@
 
 #include <limits>
 
-struct Hand
+struct Action
 {
     const char *name;
-    void (*move)(QAbstractSpinBox *box); ///< null: typing alone commits
-    bool isTaken;
+    void (*run)(QAbstractSpinBox *box); ///< null: typing alone commits
+    bool isCommitted;
 };
 
 class TestSpinBoxes : public QObject
@@ -29,8 +29,8 @@ private Q_SLOTS:
 
 private:
     template<class Box, class T>
-    static void checkHand(const QLocale &locale, const Hand &hand, T number,
-                          QString text = QString());
+    static void checkAction(const QLocale &locale, const Action &action, T number,
+                            QString text = QString());
 };
 
 void TestSpinBoxes::snapsIntegers()
@@ -160,7 +160,7 @@ void TestSpinBoxes::waitsForEnter()
 
 // The default text is the box's own text for the number.
 template<class Box, class T>
-void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number, QString text)
+void TestSpinBoxes::checkAction(const QLocale &locale, const Action &action, T number, QString text)
 {
     QWidget window;
     Box box;
@@ -175,7 +175,7 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number,
         text = box.text();
     box.setValue(40);
     const QString before = box.text();
-    box.setValidateTyping(!hand.move);
+    box.setValidateTyping(!action.run);
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -183,19 +183,19 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number,
     box.selectAll();
     for (const QChar sign : text)
         QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, sign, Qt::NoModifier);
-    if (hand.move) {
+    if (action.run) {
         QCOMPARE(box.value(), T(40));
-        hand.move(&box);
+        action.run(&box);
     }
-    const QByteArray what = QString("%1, %2: ").arg(locale.name(), text).toUtf8() + hand.name;
-    QVERIFY2(box.value() == (hand.isTaken ? number : T(40)), what);
-    QVERIFY2(hand.isTaken || box.text() == before, what);
+    const QByteArray what = QString("%1, %2: ").arg(locale.name(), text).toUtf8() + action.name;
+    QVERIFY2(box.value() == (action.isCommitted ? number : T(40)), what);
+    QVERIFY2(action.isCommitted || box.text() == before, what);
 }
 
 void TestSpinBoxes::commitsPendingText()
 {
     using Box = QAbstractSpinBox;
-    const Hand tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
+    const Action tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
     const auto click = [](Box *box) {
         QTest::mouseClick(box->window()->layout()->itemAt(1)->widget(), Qt::LeftButton);
     };
@@ -214,7 +214,7 @@ void TestSpinBoxes::commitsPendingText()
         menu.close();
         QTest::keyClick(box, Qt::Key_Return);
     };
-    const Hand hands[] = {
+    const Action actions[] = {
         {"typing", nullptr, true},
         {"Return", [](Box *box) { QTest::keyClick(box, Qt::Key_Return); }, true},
         tab,
@@ -226,14 +226,14 @@ void TestSpinBoxes::commitsPendingText()
         {"read-only", lock, false},
     };
     for (const char *name : {"C", "de_DE", "fr_FR", "ar_EG"}) {
-        for (const Hand &hand : hands) {
-            checkHand<QtOrvSpinBoxVal>(QLocale(name), hand, -1234);
-            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, -1234.25);
-            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, 2.5, "2.5");
+        for (const Action &action : actions) {
+            checkAction<QtOrvSpinBoxVal>(QLocale(name), action, -1234);
+            checkAction<QtOrvDoubleSpinBoxVal>(QLocale(name), action, -1234.25);
+            checkAction<QtOrvDoubleSpinBoxVal>(QLocale(name), action, 2.5, "2.5");
         }
     }
     // The decimal sign of another locale must not be taken for a group separator.
-    checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.move, false}, 2.5, "2,5");
+    checkAction<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.run, false}, 2.5, "2,5");
 }
 
 void TestSpinBoxes::leavesEnterToTheBaseClass()

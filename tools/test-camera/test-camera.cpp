@@ -241,7 +241,7 @@ void printLog(TestCamera &camera)
 }
 
 /// Executes a line of standard input. Returns false if the program should end.
-bool obey(const Cameras &cameras, const std::string &line)
+bool execute(const Cameras &cameras, const std::string &line)
 {
     const auto [command, value] = split(line, ' ');
     if (command == "quit")
@@ -278,7 +278,7 @@ bool readCommands(const Cameras &cameras, std::string &pending, bool &isRunning)
     for (auto end = pending.find('\n'); end != std::string::npos && isRunning;
          end = pending.find('\n')) {
         try {
-            isRunning = obey(cameras, pending.substr(0, end));
+            isRunning = execute(cameras, pending.substr(0, end));
         } catch (const std::exception &error) {
             std::cerr << error.what() << std::endl;
         }
