@@ -101,9 +101,6 @@ double longestWait(const QByteArray &mood)
 ///
 /// By default each fault but every sixth is tested, in one situation each. ORV_MOODS=all (by hand)
 /// tests all faults in all situations, which takes some minutes.
-///
-/// Five of six moods come, in one situation each; with ORV_MOODS=all (by hand) all in all, which
-/// takes some minutes.
 class TestMoods : public QObject
 {
     Q_OBJECT

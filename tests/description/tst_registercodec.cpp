@@ -28,7 +28,7 @@ void TestRegisterCodec::integers()
         Big = 1,
         Signed = 2,
         Highest = 4
-    }; // Highest: bit 0 is the highest one // Highest: the number of the register's highest bit is
+    }; // Highest: bit 0 is the highest bit
        // 0
     const struct
     {
