@@ -23,13 +23,8 @@ private slots:
 
 void TestRegisterCodec::integers()
 {
-    enum {
-        Little = 0,
-        Big = 1,
-        Signed = 2,
-        Highest = 4
-    }; // Highest: bit 0 is the highest bit
-       // 0
+    // Highest: bit 0 is the most significant bit.
+    enum { Little = 0, Big = 1, Signed = 2, Highest = 4 };
     const struct
     {
         int format;
