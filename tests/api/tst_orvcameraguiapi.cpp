@@ -36,7 +36,7 @@ struct Features : OrvGenApi::MemoryNodeMap
     }
 };
 
-/// Counts refused window moves, which the library leaves to its host to handle.
+/// Counts the X server's refusals to reparent a window that the library passes on to the host.
 struct Refusals : QAbstractNativeEventFilter
 {
     using Result = std::conditional_t<(QT_VERSION < 0x060000), long, qintptr>;

@@ -153,7 +153,7 @@ void edit(QWidget *widget)
     }
 }
 
-/// The last control of the dialog in tab order.
+/// A control near the end of the dialog.
 const char *lastOf(Which which)
 {
     const char *name = nullptr;
