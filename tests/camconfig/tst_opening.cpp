@@ -100,6 +100,8 @@ private:
 
 void TestOpening::initTestCase()
 {
+    // With Qt 6 the close of the last window would leave an event that ends later event loops.
+    QApplication::setQuitOnLastWindowClosed(false);
     m_wire = std::make_unique<WireCamera>(ORV_DESCRIPTION, [](TestCamera::Settings &settings) {
         settings.fillsRegisters = true;
         settings.serial = "SLOW";
