@@ -424,8 +424,8 @@ void TestFrameABDialog::exposureTimeIsSplit()
     QCOMPARE(camera.writes(), writes);
     QTest::keyClick(dialog.editor("spBoxExpTime"), Qt::Key_Return);
 
-    // Showing a time that exceeds the period must not shorten it. The longest time of a period needs
-    // more lines than the camera allows.
+    // Showing a time that exceeds the period must not shorten it. The longest time of a period
+    // needs more lines than the camera allows.
     camera.set("Frame_ExposureLines", 5000);
     camera.turn("Frame_FixedFramePeriodEnable", true);
     camera.set("Frame_FixedFramePeriodValue", 100);

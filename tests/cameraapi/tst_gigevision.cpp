@@ -104,7 +104,8 @@ void TestGigEVision::adaptersAndCameras()
     waitForCamera("orv0", "FIRST");
     waitForCamera("orv1", "SECOND");
 
-    QCOMPARE(interfacesOf(*m_system).size(), size_t(3)); // no loopback, and USB at the end
+    QCOMPARE(interfacesOf(*m_system).size(),
+             size_t(3)); // USB is the last one; loopback is not listed
     QCOMPARE(interfacesOf(*m_system).back()->GetTransportKind(), int32_t(TransportUsb3Vision));
     QVERIFY(camerasOf(*interfacesOf(*m_system).back()).empty());
     int64_t subnet = 0x0A010000;

@@ -311,7 +311,7 @@ void TestNodeMapArray::sinksChangeRegistrations()
         param->UnregisterEventSink(&removed);
         doomed.reset();
         param->UnregisterEventSink(&actor);
-        array.SetIntegerValue("Width", 48); // notifies from within a notification
+        array.SetIntegerValue("Width", 48); // a nested notification
     });
     width->RegisterEventSink(&actor);
     width->RegisterEventSink(doomed.get());

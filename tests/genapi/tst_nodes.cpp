@@ -240,7 +240,7 @@ void TestNodes::writesInvalidateDependents()
     auto &other = map.addInteger("Other");
     middle.dependsOn(source);
     last.dependsOn(middle);
-    source.dependsOn(last); // a circle of invalidation is harmless
+    source.dependsOn(last); // circular invalidation must end
     for (auto *node : {&source, &middle, &last, &other})
         node->GetValue();
     source.SetValue(1);

@@ -9,7 +9,7 @@ class SampleNodeMap : public OrvGenApi::MemoryNodeMap
 public:
     SampleNodeMap();
 
-    /// As `node`, but of the class that the test knows the node to be.
+    /// Like `node`, but returns the node as the given class.
     template<typename T>
     T &get(const char *name) const
     {

@@ -775,7 +775,7 @@ void TestGvPort::twoViews()
     QCOMPARE(wordOf(read(*opened.port, words(4))[2]), 99u);
 }
 
-// A camera that misbehaves
+// Misbehaving cameras
 
 void TestGvPort::networkFaults_data()
 {

@@ -277,8 +277,8 @@ private:
     int64_t m_address = 0;
 };
 
-/// A node map whose nodes keep their values, for tests of misbehaving cameras. Each
-/// `addX` adds a node to a category as `add` does.
+/// A node map with the values in memory, for tests of misbehaving cameras. Each `addX` adds a node
+/// to a category like `add`.
 class MemoryNodeMap : public DeclaredNodeMap
 {
 public:

@@ -15,7 +15,7 @@
 #include <vector>
 
 /// A GigE Vision camera for tests and benchmarks, which can be made to misbehave. It has the
-/// bootstrap registers, a sparse register space and a description, knows control privilege and
+/// bootstrap registers, a sparse register space and a description, supports control privilege and
 /// heartbeat, and sends no pictures. It shares no code with what it tests.
 ///
 /// Run it in a network namespace (orv_add_test(... NETNS ...)), where any 127.x.y.z is an address
@@ -67,11 +67,11 @@ public:
         bool canConcatenate = true; ///< the capability bit, and READREG with several addresses
         TestCameraMemory::Unknown unknownRegisters = TestCameraMemory::Unknown::Refused;
         bool fillsRegisters = false; ///< calls TestCameraMemory::fill() with the description
-        uint32_t heartbeat = 3000;   ///< ms until control is lost without a command
+        uint32_t heartbeat = 3000;   ///< ms without a command until control is lost
         bool broadcasts = false;     ///< broadcasts its answers to discovery and forced IP
     };
 
-    /// Throws std::runtime_error when the address is in use, or there is no such namespace.
+    /// Throws std::runtime_error if the address is in use, or if the namespace does not exist.
     explicit TestCamera(const Settings &settings);
     ~TestCamera();
     TestCamera(const TestCamera &) = delete;
@@ -97,12 +97,13 @@ public:
 
     /// @name Registers
     /// @{
-    uint32_t reg(uint32_t address); ///< as READREG gives it, 0 when there is none
+    uint32_t reg(uint32_t address); ///< as READREG returns it; 0 if it does not exist
     void setRegister(uint32_t address, uint32_t value);
     std::string bytes(uint32_t address, uint32_t size); ///< as READMEM returns them
     void setBytes(uint32_t address, const std::string &bytes);
-    void addBlock(uint32_t address, const std::string &bytes); ///< read-only, a second description
-    void addTwoViews(uint32_t first, uint32_t last);           ///< see TestCameraMemory
+    void addBlock(uint32_t address,
+                  const std::string &bytes);         ///< read-only, such as a second description
+    void addTwoViews(uint32_t first, uint32_t last); ///< see TestCameraMemory
     void countUp(uint32_t address, int milliseconds, uint32_t step = 1);
     /// @}
 

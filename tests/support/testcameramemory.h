@@ -35,10 +35,10 @@ public:
     void addBlock(uint32_t address, std::string bytes);
     bool isBlock(uint32_t address) const;
 
-    /// Makes a register of every address that the description gives in an <Address> element, with
-    /// a small number from 0 to 6 that differs from the next register's: an integer in the
-    /// register's byte order, a float with .5 behind, or the text "T3". What exists keeps its
-    /// value.
+    /// Creates a register at the address in each <Address> element of the description. Its value
+    /// contains a number from 0 to 6 that differs from the next register's: an integer in the
+    /// register's byte order, a float such as 3.5, or a text such as "T3". Existing registers keep
+    /// their values.
     void fill(const std::string &description);
 
     /// READMEM and WRITEMEM see the bytes of these words in reverse order.

@@ -12,10 +12,10 @@ struct TestCameraBehaviour
     int delay = 0;       ///< before every answer; several commands are answered independently
     int writeDelay = 0;  ///< in addition, for an answer to a write
     int requestLoss = 0; ///< requests that never arrive
-    int answerLoss = 0;  ///< answers that never arrive, while the command is carried out
-    uint32_t seed = 1;   ///< for what gets lost: the same seed loses the same packets
+    int answerLoss = 0;  ///< answers that never arrive although the command is executed
+    uint32_t seed = 1;   ///< selects the lost packets; the same seed loses the same ones
     int duplicates = 0;  ///< further copies of each answer
-    int reorder = 0;     ///< every other answer comes this much later
+    int reorder = 0;     ///< additional delay of every other answer
 
     int silence = 0; ///< no reaction from now on for this long; -1: for ever
 

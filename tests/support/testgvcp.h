@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-/// GVCP as a TestCamera speaks it: big-endian numbers behind a header of 8 bytes.
+/// GVCP for a TestCamera: big-endian numbers after a header of 8 bytes.
 namespace TestGvcp {
 
 constexpr uint16_t gvcpPort = 3956;

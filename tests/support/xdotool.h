@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <QtTest>
 
-// A user at the keyboard and the mouse of the X server.
+// Keyboard and mouse input through the X server.
 
 inline void xdotool(const QStringList &arguments)
 {

@@ -5,7 +5,7 @@
 #include <QVector>
 #include <QXmlStreamReader>
 
-/// The messages of a Qt Linguist file.
+/// Reads the messages of a Qt Linguist file.
 struct TranslationFile
 {
     struct Message
