@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds, and opens the program on a simulated camera. Without a display
-# it leaves PNG pictures of the windows in build/demo/pictures instead and prints where.
+# Installs missing packages, builds, and opens the program on a simulated camera. Without a display
+# it saves PNG pictures of the windows in build/demo/pictures and prints their paths.
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Installs what is missing, builds and runs every test: first as developers build; a short set for
-# Qt 6; then with clang's address and undefined-behaviour sanitizers, where the fuzzers have a short
-# turn, too.
+# Installs missing packages, builds, and runs every test: first in the developers' configuration;
+# then a short set with Qt 6; then with clang's address and undefined-behaviour sanitizers,
+# including a short run of the fuzzers.
 # Two tests run at a time: first those over the wire, which measure waits and must not run beside
 # tests that keep a processor busy, then all others. Arguments go to ctest.
 #   ORV_PRESET=dev ./test.sh    tests one preset only
@@ -26,7 +26,7 @@ trap 'rm -f "$log"' EXIT
 failed=
 for preset in $presets; do
     echo "test.sh: preset $preset"
-    # Line numbers are all that a backtrace takes; the rest doubles the time of compiling and linking.
+    # Backtraces need line numbers only; full debug information doubles the build time.
     cmake --preset "$preset" -DORV_PRECOMPILE_HEADERS=ON -DCMAKE_C_FLAGS_RELWITHDEBINFO="$flags" \
         -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="$flags" >"$log" 2>&1 || { cat "$log" >&2; echo "test.sh: cmake failed" >&2; exit 1; }
     cmake --build --preset "$preset" || { echo "test.sh: the build failed" >&2; exit 1; }

@@ -17,9 +17,9 @@
 
 #include <memory>
 
-/// The main window on a GigE Vision camera of a network of our own, with all its dialogs and a
-/// feature tree open. For programs that run in a network namespace; a camera that is not found ends
-/// the program.
+/// The main window on a GigE Vision camera in a private network, with all its dialogs and a feature
+/// tree open. For programs that run in a network namespace; the program ends if the camera is not
+/// found.
 class AllWindows
 {
 public:
@@ -40,7 +40,6 @@ public:
         }
     }
 
-    /// Starts the camera, and the machine that it runs on knows it again.
     void plugIn() { m_camera = m_network.startCamera(QStringLiteral("PLUG"), m_description); }
     void unplug() { m_camera.reset(); }
 
@@ -56,7 +55,7 @@ public:
     }
 
 private:
-    /// Lets the window's own picker find the camera, however long it takes to come up.
+    /// Waits until the window's own picker lists the camera, without a time limit.
     OrvGui::OrvCamConfig *pickedWindow()
     {
         int attempts = 0;
@@ -78,7 +77,7 @@ private:
                 qFatal("The camera does not come up");
             for (QAbstractButton *button : buttons->buttons()) {
                 if (buttons->buttonRole(button) == QDialogButtonBox::ActionRole)
-                    button->click(); // looks again
+                    button->click(); // scans again
             }
         });
         user.start(100);

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 //
-// For how long does the feature tree keep a program from answering its user?
+// How long does the feature tree block the user interface?
 //
 //   blocked-time [--categories COUNT | --width FEATURES] [FEATURES ...]
 //   tests/support/with-netns.sh blocked-time --camera MS [...]
 //
-// For each number of features, by default 5000, 20000 and 100000: the work from the call to the end
-// of what it causes in the event loop, painting included. It is the GUI thread's processor time, so
-// that other programs do not count. The second figure is the time per feature, which should not
-// grow with their number, the third one the longest time for which the thread did not work and did
-// not get to its event loop either. The features are in 100 categories, in a given number of
-// categories, or in categories of a given number of features.
+// For each number of features (5000, 20000 and 100000 by default) the program prints three figures:
+// - the processor time of the GUI thread for the call and for all the event handling that it
+//   causes, painting included; other programs have no influence on it;
+// - the same time per feature, which should not grow with the number of features;
+// - the longest time for which the event loop was blocked without using the processor.
+// The features are in 100 categories by default; the options set the number of categories, or the
+// number of features per category.
 //
-// The node map is in memory, or that of a GigE Vision camera that answers after so many
-// milliseconds. What is read from the camera after a call is part of what the call causes. A write
-// waits for its answer.
+// The node map is in memory, or that of a GigE Vision camera that answers after MS milliseconds.
+// Reads from the camera that follow a call belong to the call. A write waits for its answer.
 
 #include "guimeter.h"
 #include "largedescription.h"
@@ -43,7 +43,7 @@ namespace {
 
 constexpr int notificationCount = 200;
 
-/// A given number of features of all types and levels, spread over the categories.
+/// The given number of features, of all types and levels, distributed over the categories.
 class LargeNodeMap : public OrvGenApi::MemoryNodeMap
 {
 public:
@@ -56,7 +56,7 @@ public:
             addFeature(i);
     }
 
-    /// The integer features, which are those that notify: a quarter of all.
+    /// The integer features (a quarter of all), which send notifications.
     const std::vector<OrvGenApi::MemoryInteger *> &integers() const { return m_integers; }
 
 private:
@@ -93,7 +93,7 @@ private:
     std::vector<OrvGenApi::MemoryInteger *> m_integers;
 };
 
-/// A camera with the same features in a network of its own.
+/// A camera with the same features, in a private network.
 class LargeCamera
 {
 public:
@@ -128,7 +128,7 @@ private:
 class Benchmark
 {
 public:
-    /// Without a delay the features are in memory.
+    /// Without a delay, the features are in memory.
     Benchmark(int features, int categories, std::optional<int> delay)
         : m_features(features), m_pause(delay ? 200 + 6 * *delay : 0)
     {
@@ -159,7 +159,7 @@ public:
         measure("expandAll at Guru", [&] { tree->expandAll(); });
         measure("level Guru to Basic, expandAll", [&] { view->setVisibility(OrvGui::Basic); });
         measure("level Basic to Guru, expandAll", [&] { view->setVisibility(OrvGui::Guru); });
-        // expandAll makes Qt remember every single row as expanded, a user only the categories.
+        // expandAll() makes Qt record every row as expanded; a user expands only categories.
         measure("collapse, expand each category", [&] {
             tree->collapseAll();
             for (int row = 0; row < tree->model()->rowCount(); ++row)
@@ -197,7 +197,7 @@ private:
                                    .arg(m_meter.take().longestWait, 5, 'f', 1);
     }
 
-    /// Spread over all of the tree, in a row: the tree is repainted only after the last.
+    /// Notifies features all over the tree in one go; the tree is repainted once, after the last.
     void notify()
     {
         const std::vector<OrvGenApi::MemoryInteger *> &integers = m_memory->integers();
@@ -208,7 +208,7 @@ private:
     }
 
     const int m_features;
-    const int m_pause; ///< ms, for what is read from the camera
+    const int m_pause; ///< ms, for the reads from the camera
     std::unique_ptr<LargeNodeMap> m_memory;
     std::unique_ptr<LargeCamera> m_camera;
     GuiMeter m_meter;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// What does each thing that a user does cost on the cable, and does the window wait for it?
+// Which commands does each user action send, and does the window wait for their answers?
 //
 //   tests/support/with-netns.sh camera-acts [OPTIONS] [DESCRIPTION.xml ...]
 //
-// Opens cameras with the descriptions (that of the simulated camera by default) through the windows
-// and does one thing after the other with them: the feature tree (open, show, expand, page,
-// repaint, write, idle, silence, return, second open) and the configuration window with all its
+// Opens cameras with the given descriptions (by default the simulated camera's) through the windows
+// and performs the actions one by one: on the feature tree (open, show, expand, page, repaint,
+// write, idle, silence, reconnection, second opening) and on the configuration window with all its
 // dialogs. Prints a table for each window, description and condition; docs/performance.md explains
 // the columns and shows a run.
 
@@ -63,8 +63,8 @@ void letPass(int milliseconds)
     loop.exec();
 }
 
-/// A delay of the cameras, which is not the window's.
-void beside(const std::function<void()> &call)
+/// Runs a call that waits for the cameras on another thread, so that the event loop is not blocked.
+void runOnOtherThread(const std::function<void()> &call)
 {
     std::atomic<bool> isDone{false};
     std::thread thread([&] {
@@ -76,15 +76,15 @@ void beside(const std::function<void()> &call)
     thread.join();
 }
 
-/// The same thing done several times: to each camera, or page by page.
+/// The measurements of one action, repeated for each camera or for each page.
 struct Row
 {
     QString name;
     int times = 0;
     Traffic traffic;
-    double worstRatio = 0; ///< of commands to packed ones
+    double worstRatio = 0; ///< of commands to packed commands
     QString worst;
-    qint64 longestTime = 0; ///< ms until it was done
+    qint64 longestTime = 0; ///< ms until the action was complete
     GuiMeter::Gaps gaps;
 };
 
@@ -103,11 +103,11 @@ protected:
     using Act = std::function<void()>;
     using IsDone = std::function<bool()>;
 
-    /// The window's acts, as soon as its cameras are open.
+    /// Performs the window's actions once its cameras are open.
     virtual void runWindow() = 0;
     virtual bool isComplete() = 0;
     virtual void closeWindow() = 0;
-    /// Whether the window has what it shows read on the thread that opens the camera.
+    /// Whether the window's contents are read on the thread that opens the camera.
     virtual bool preparesCameras() const { return false; }
 
     OrvCam::Device &device(int camera) { return *m_devices[static_cast<std::size_t>(camera)]; }
@@ -115,7 +115,7 @@ protected:
 
     void measure(Row &row, const Act &act, const IsDone &isDone);
     void measure(const char *name, const Act &act, const IsDone &isDone);
-    /// Once for each camera.
+    /// Measures an action for each camera.
     void measureEach(const char *name, const std::function<void(int)> &act);
     static void print(const Row &row);
 
@@ -174,7 +174,7 @@ void Acts::measure(Row &row, const Act &act, const IsDone &isDone)
         letPass(10);
     }
     row.longestTime = qMax(row.longestTime, timer.elapsed());
-    letPass(100 + 4 * m_cameras.condition().delay); // what comes after it
+    letPass(100 + 4 * m_cameras.condition().delay); // for the reads that follow
     const GuiMeter::Gaps gaps = m_meter.take();
     row.gaps.longest = qMax(row.gaps.longest, gaps.longest);
     row.gaps.work = qMax(row.gaps.work, gaps.work);
@@ -285,7 +285,7 @@ void Acts::idle()
                         << " % of a core |\n";
 }
 
-/// Of all but the cameras and the meter, in per cent of one core.
+/// The processor time of all threads except the cameras' and the meter's, in per cent of one core.
 double Acts::processorShare()
 {
     const auto used = [this] {
@@ -304,15 +304,18 @@ double Acts::processorShare()
     return share;
 }
 
-/// Silence that leaves the control of the camera with us, and a camera that was switched off.
+/// Interrupts the connection twice: by silence, which leaves the control privilege in place, and by
+/// switching the camera off, which does not.
 void Acts::interrupt()
 {
     for (const bool isSwitchedOff : {false, true}) {
         m_disconnected = m_reconnected = 0;
-        beside([&] { isSwitchedOff ? m_cameras.switchOff() : m_cameras.setSilent(true); });
+        runOnOtherThread(
+            [&] { isSwitchedOff ? m_cameras.switchOff() : m_cameras.setSilent(true); });
         for (int waited = 0; m_disconnected < count() && waited < timeout; waited += 10)
             letPass(10);
-        beside([&] { isSwitchedOff ? m_cameras.switchOn() : m_cameras.setSilent(false); });
+        runOnOtherThread(
+            [&] { isSwitchedOff ? m_cameras.switchOn() : m_cameras.setSilent(false); });
         for (int waited = 0; m_reconnected < count() && waited < timeout; waited += 10)
             letPass(10);
         for (int waited = 0; !isComplete() && waited < timeout; waited += 10)
@@ -325,7 +328,7 @@ void Acts::measureInterruptions()
 {
     const auto threads = [] { return int(threadIds().size()); };
     const auto usage = [this] {
-        m_cameras.takeTraffic(); // the cameras remember it
+        m_cameras.takeTraffic(); // empties the cameras' logs, which use memory
         return Usage::now();
     };
     for (int i = 0; i < 2; ++i) // until caches are full
@@ -347,7 +350,7 @@ void Acts::measureInterruptions()
                         << QString::number(gaps.longestWait, 'f', 1) << " | |\n";
 }
 
-/// A feature tree.
+/// The actions on a feature tree.
 class TreeActs : public Acts
 {
 public:
@@ -434,7 +437,7 @@ QModelIndex TreeActs::writableRow(QTreeView &tree)
     return QModelIndex();
 }
 
-/// Writes the value that a feature has already.
+/// Writes the current value of a feature again.
 void TreeActs::write()
 {
     QTreeView &first = tree(0);
@@ -449,7 +452,7 @@ void TreeActs::write()
             [this] { return isComplete(); });
 }
 
-/// The configuration window with all its dialogs.
+/// The actions on the configuration window with all its dialogs.
 class ConfigurationActs : public Acts
 {
 public:
@@ -525,7 +528,7 @@ void ConfigurationActs::showDialogs()
     print(row);
 }
 
-/// The window notices within a second.
+/// The window reacts within a second.
 void ConfigurationActs::selectMode(const char *mode)
 {
     auto *modes = part<QComboBox>(0, "cmBoxFrameMode");

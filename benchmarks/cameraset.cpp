@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int mostRegisters = 134; // of one READREG
+constexpr int mostRegisters = 134; // limit of one READREG
 
 TestCameraBehaviour behaviourFor(const Condition &condition, unsigned seed)
 {
@@ -26,10 +26,10 @@ TestCameraBehaviour behaviourFor(const Condition &condition, unsigned seed)
     return behaviour;
 }
 
-/// The simulated camera's registers, in place of small numbers that are not consistent.
+/// Copies the simulated camera's registers, whose values are consistent with each other.
 void fillLikeSimulation(TestCamera &camera)
 {
-    const uint32_t first = 0x1000; // of its own registers
+    const uint32_t first = 0x1000; // of the camera's own registers
     const uint32_t end = 0x10000;
     const OrvSimulation::SimulatedCamera simulation;
     std::vector<OrvCameraIo::ReadTransfer> registers;

@@ -11,24 +11,24 @@
 #include <memory>
 #include <vector>
 
-/// How many cameras there are, and how they answer.
+/// The number of cameras and the quality of the connection.
 struct Condition
 {
     int cameras = 1;
     int delay = 0; ///< ms, of each answer
-    int loss = 0;  ///< per cent of the commands or of their answers
+    int loss = 0;  ///< per cent of the commands and of the answers
 };
 
-/// The traffic of all cameras together. A repeated command counts again.
+/// The traffic of all cameras. A repeated command counts again.
 struct Traffic
 {
     unsigned commands = 0;
-    unsigned packed = 0; ///< commands in which the same registers could have been read and written
-    double polls = 0;    ///< per second, of the registers that were read, as described
-    unsigned notPolled = 0; ///< commands with a register that is not described as polled
+    unsigned packed = 0; ///< the least number of commands for the same registers
+    double polls = 0; ///< per second, as the description declares for the registers that were read
+    unsigned notPolled = 0; ///< commands with a register that is not declared as polled
 };
 
-/// Cameras with one description in a network of their own, and the system that finds them.
+/// Cameras with one description in a private network, and the system that finds them.
 class CameraSet
 {
 public:
@@ -38,16 +38,16 @@ public:
     const Condition &condition() const { return m_condition; }
     const std::vector<OrvCam::DeviceInfo *> &records() const { return m_records; }
 
-    /// Since the last call of either.
+    /// Returns the traffic since the last call of this function or of `takeUnpolledTraffic()`.
     Traffic takeTraffic();
-    /// The same without what is polled.
+    /// The same without the polled registers.
     Traffic takeUnpolledTraffic();
 
     void setSilent(bool isSilent);
     void switchOff();
     void switchOn();
 
-    /// Threads of the cameras, which are no part of what is measured.
+    /// Whether the thread belongs to a camera and must not be measured.
     bool isCameraThread(int id) const;
 
 private:
@@ -67,5 +67,5 @@ private:
 /// The ids of this process's threads.
 std::vector<int> threadIds();
 
-/// Milliseconds that the thread has been on a processor; 0 when there is no such thread.
+/// The processor time of the thread in milliseconds; 0 if it does not exist.
 double processorTime(int thread);

@@ -68,7 +68,7 @@ GuiMeter::Clocks GuiMeter::now()
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     Clocks clocks;
     clocks.work = double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-    // Linux's scheduler: nanoseconds on a processor, nanoseconds ready to run, time slices.
+    // The scheduler's figures: nanoseconds on a processor, nanoseconds ready to run, time slices.
     if (std::FILE *file = std::fopen("/proc/thread-self/schedstat", "r")) {
         double ready = 0;
         if (std::fscanf(file, "%*s %lf", &ready) == 1)

@@ -4,8 +4,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 
-/// Measures on the thread that makes it for how long a timer of 5 ms does not get its turn, and
-/// what the thread did in that time: work, wait for a processor, or wait for something else.
+/// Measures how late the ticks of a 5 ms timer are on the current thread, and what the thread did
+/// in between: use the processor, wait for a free processor, or wait for something else.
 class GuiMeter : public QObject
 {
     Q_OBJECT
@@ -14,14 +14,13 @@ public:
     /// In milliseconds.
     struct Gaps
     {
-        double longest = 0;     ///< between two turns
-        double work = 0;        ///< the most processor time of the thread between two turns
-        double longestWait = 0; ///< the longest part of a gap that was neither work nor the want of
-                                ///< a free processor; what the timer itself waits is not counted
-        double beyond = 0;      ///< the sum of what was beyond 5 ms
+        double longest = 0;     ///< between two ticks
+        double work = 0;        ///< the most processor time of the thread between two ticks
+        double longestWait = 0; ///< the longest wait other than for a processor or the timer
+        double beyond = 0;      ///< the sum of all times beyond 5 ms
     };
 
-    /// In milliseconds, of the thread.
+    /// Times of the thread in milliseconds.
     struct Clocks
     {
         double work = 0;     ///< processor time
@@ -32,7 +31,7 @@ public:
 
     GuiMeter();
 
-    /// Since the last call.
+    /// Returns the measurements since the last call.
     Gaps take();
 
     void setEnabled(bool isEnabled);

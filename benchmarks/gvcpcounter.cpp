@@ -14,7 +14,7 @@
 namespace {
 
 const quint16 GvcpPort = 3956;
-const quint32 ControlChannelPrivilege = 0x0a00; // read again and again as a heartbeat
+const quint32 ControlChannelPrivilege = 0x0a00; // read periodically as a heartbeat
 
 quint16 word(const QByteArray &bytes, int offset)
 {
@@ -70,7 +70,7 @@ GvcpCounter::GvcpCounter(const char *adapter)
     setsockopt(m_socket, SOL_SOCKET, SO_RCVBUF, &size, sizeof size);
     sockaddr_ll address{};
     address.sll_family = AF_PACKET;
-    address.sll_protocol = htons(ETH_P_ALL); // otherwise what goes out is not seen
+    address.sll_protocol = htons(ETH_P_ALL); // ETH_P_IP would miss outgoing packets
     address.sll_ifindex = static_cast<int>(if_nametoindex(adapter));
     if (bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0) {
         close(m_socket);
@@ -96,7 +96,7 @@ QList<GvcpCommand> GvcpCounter::take()
                      reinterpret_cast<sockaddr *>(&from), &size);
         if (received < 0)
             return commands;
-        // On the loopback device every packet is seen on its way in, too.
+        // The loopback device delivers every packet a second time, as an incoming one.
         if (from.sll_pkttype == PACKET_OUTGOING && from.sll_protocol == htons(ETH_P_IP))
             parse(packet.left(static_cast<int>(received)), commands);
     }

@@ -24,8 +24,8 @@ struct GvcpCommand
     bool isRead() const { return kind == ReadRegister || kind == ReadMemory; }
 };
 
-/// Listens on a network adapter, by default the loopback device, to what clients send to GigE
-/// Vision cameras. Needs to be root of its network namespace.
+/// Records the commands that clients send to GigE Vision cameras over a network adapter, by default
+/// the loopback device. Requires root rights in its network namespace.
 class GvcpCounter
 {
 public:
@@ -36,18 +36,17 @@ public:
 
     bool isListening() const { return m_socket >= 0; }
 
-    /// The register and memory commands since the last call, those left out that keep the control
-    /// channel alive.
+    /// The register and memory commands since the last call, except heartbeats.
     QList<GvcpCommand> take();
 
 private:
     int m_socket;
 };
 
-/// How many of the commands read, or write.
+/// The number of read commands, or of write commands.
 int readsIn(const QList<GvcpCommand> &commands);
 int writesIn(const QList<GvcpCommand> &commands);
 
-/// The registers that are read more than once, as text. Another size makes another register, also
-/// where it overlaps.
+/// The registers that are read more than once, as text. An access of another size counts as another
+/// register, even where the two overlap.
 QString registersReadTwice(const QList<GvcpCommand> &commands);

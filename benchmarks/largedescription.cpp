@@ -4,7 +4,7 @@
 namespace {
 
 constexpr int firstAddress = 0x10000000;
-constexpr int registerSize = 8; // of the largest, a text
+constexpr int registerSize = 8; // of the largest register, a text
 
 std::string element(const std::string &tag, const std::string &text)
 {

@@ -4,8 +4,9 @@
 #include <string>
 #include <vector>
 
-/// A description of a given number of features of all types and levels, spread over categories.
-/// Each is a register; a quarter of them, the integers, depend on the feature "Selector".
+/// A description with a given number of features of all types and levels, distributed over
+/// categories. Each feature is a register; the integers, a quarter of all, depend on the feature
+/// "Selector".
 class LargeDescription
 {
 public:

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 //
-// What does the main window cost while it is idle?
+// What traffic does the main window cause while it is idle?
 //
 //   main-window-idle [SECONDS]
 //
-// Opens the main window, all its dialogs and the feature tree on a fake GigE Vision camera with our
-// description, and counts on the wire what is read and written in that time, 30 seconds by default,
-// with what registers it is and how often. Also prints for how long the GUI thread was busy without
-// a break at most. Needs a network namespace: tests/support/with-netns.sh main-window-idle.
+// Opens the main window, all its dialogs and the feature tree on a fake GigE Vision camera with the
+// simulated camera's description. Counts the reads and writes on the wire for 30 seconds (or
+// SECONDS), with their registers and rates, and prints the longest time for which the GUI thread
+// was busy. Needs a network namespace: tests/support/with-netns.sh main-window-idle.
 //
-// It is 12.7 transactions a second, whether dialogs and tree are open or not, and all of them are
-// what the description wants to be polled: whether the pulse generator runs (0x1520, five times a
-// second), white balance and its three coefficients (0x1200 and following, every 600 ms each) and
-// the temperature (0x1600, once a second). The window's own second reads from what is cached. The
-// GUI thread is busy for about 10 ms at most. What keeps the connection alive is not counted.
+// The result is 12.7 transactions a second, whether dialogs and tree are open or not. All are polls
+// that the description declares: the pulse generator's state (0x1520, every 200 ms), white balance
+// and its three coefficients (from 0x1200, every 600 ms each) and the temperature (0x1600, every
+// second). The window's own timer, of one second, reads from the cache. The GUI thread is busy for
+// 10 ms at most. Heartbeats are not counted.
 
 #include "allwindows.h"
 #include "gvcpcounter.h"
@@ -25,7 +25,7 @@
 
 namespace {
 
-/// The longest time in which a timer of a millisecond did not get its turn.
+/// Measures the longest delay of a timer of one millisecond.
 class BlockMeter : public QObject
 {
 public:
@@ -87,7 +87,7 @@ int main(int argc, char **argv)
         return 1;
     }
     BlockMeter meter;
-    letPass(3); // the windows are painted, and have requested what they show
+    letPass(3); // until the windows are painted and have requested their values
     counter.take();
     meter.takeLongest();
 

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # on-the-wire.sh BUILD_DIR
-# Runs tree-transactions against a fake GigE Vision camera with our description, in a network
-# namespace of their own.
+# Runs tree-transactions against a fake GigE Vision camera with the simulated camera's description,
+# in a private network namespace.
 set -eu
 build=$(CDPATH= cd -- "$1" && pwd)
 root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)

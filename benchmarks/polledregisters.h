@@ -5,6 +5,6 @@
 #include <map>
 #include <string>
 
-/// The registers that a description declares as polled, by address, each with its
-/// period in milliseconds. Those whose address is computed are left out.
+/// The registers that a description declares as polled: address and period in milliseconds.
+/// Registers with a computed address are left out.
 std::map<uint32_t, int> polledRegisters(const std::string &description);

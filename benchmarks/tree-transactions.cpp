@@ -5,13 +5,13 @@
 //   tree-transactions [DESCRIPTION.xml ...]
 //   tree-transactions --address IPV4
 //
-// For the simulated camera and for each description, or for a GigE Vision camera: the transactions
-// of reading all cells for the first time and again, and those of writing each writable value back
-// to itself and reading all cells after that. A camera needs about a millisecond for each, so the
-// counts are what a user feels; the times only say what this machine adds to them.
+// For each description (by default the simulated camera's) or for a GigE Vision camera, counts the
+// transactions of reading all cells twice, and those of writing each writable value back and
+// reading all cells again. A transaction takes a camera about a millisecond, so the counts
+// determine what a user notices; the printed times are only this machine's share.
 //
-// The transactions of a camera with an address are counted on the wire, which must be the loopback
-// device; on-the-wire.sh sets such a network up.
+// With --address, transactions are counted on the loopback device; on-the-wire.sh sets up such a
+// network.
 
 // Before Qt, whose keywords are names in GLib.
 #include <arv.h>
@@ -61,17 +61,17 @@ void collectWritable(const QAbstractItemModel &model, const QModelIndex &parent,
     }
 }
 
-/// Where transactions are counted.
+/// Counts transactions.
 class Meter
 {
 public:
     virtual ~Meter() = default;
 
-    /// Since the last call.
+    /// Returns the number since the last call.
     virtual OrvCameraIo::Transactions take() = 0;
 };
 
-/// At the node map's port.
+/// Counts at the node map's port.
 class PortMeter : public Meter
 {
 public:
@@ -91,7 +91,7 @@ private:
     OrvCameraIo::Transactions m_last;
 };
 
-/// On the loopback device.
+/// Counts on the loopback device.
 class WireMeter : public Meter
 {
 public:

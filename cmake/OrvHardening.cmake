@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-# Hardening of everything that is built: what compiler and linker can do against the abuse of faults
-# in memory. Options that they do not know are left out; tests/packaging reads the result from the files.
+# Compiler and linker options that make memory faults harder to exploit, for all targets.
+# Unsupported options are left out; tests/packaging checks the resulting files.
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES C CXX)
 
-# Sets `result` to true when these flags of the compiler optimise; the last one counts.
+# Sets `result` to true if these compiler flags optimise; the last level counts.
 function(orv_optimises flags result)
     string(REGEX MATCHALL "(^| )-O[0-9a-z]*" levels "${flags}")
     list(POP_BACK levels level)
@@ -16,7 +16,7 @@ function(orv_optimises flags result)
     endif()
 endfunction()
 
-# Fortified functions take an optimising compiler, and hide faults from sanitizers.
+# Fortified functions require optimisation, and hide faults from sanitizers.
 function(orv_find_fortification result)
     set(found "")
     if(NOT "${CMAKE_CXX_FLAGS}" MATCHES "-fsanitize|_FORTIFY_SOURCE")
@@ -28,7 +28,7 @@ function(orv_find_fortification result)
             string(TOUPPER "${type}" upper)
             orv_optimises("${CMAKE_CXX_FLAGS} ${CMAKE_CXX_FLAGS_${upper}}" optimises)
             if(optimises)
-                # Some compilers define another level by themselves.
+                # Some compilers define another level by default.
                 list(APPEND found "$<$<CONFIG:${type}>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
             endif()
         endforeach()
@@ -37,7 +37,7 @@ function(orv_find_fortification result)
 endfunction()
 
 orv_find_fortification(ORV_HARDENING_COMPILE_OPTIONS)
-# -fcf-protection is of x86, -mbranch-protection of ARM.
+# -fcf-protection is for x86, -mbranch-protection for ARM.
 foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection=full
         -mbranch-protection=standard)
     string(MAKE_C_IDENTIFIER "ORV_COMPILER_HAS${flag}" known)

@@ -1,24 +1,23 @@
 # SPDX-License-Identifier: MIT
-# What other projects need to find and use the installed libraries.
+# Installation of the libraries for use in other projects.
 include(CMakePackageConfigHelpers)
 
-# install(), unless a project of which this is a part installs nothing of it.
+# install(), unless a parent project installs nothing of this one.
 macro(orv_install)
     if(ORV_INSTALL)
         install(${ARGN})
     endif()
 endmacro()
 
-# Where a target finds our libraries, in the build folder and installed. It must be the same in
-# both: to be able to replace one by the other CMake would put an empty element into the list, and
-# that is the current directory.
+# The run path to the libraries, which must be the same in the build folder and installed. To
+# replace one by the other, CMake would add an empty element, which means the current directory.
 function(orv_set_runpath target path)
     set_target_properties(${target} PROPERTIES
         INSTALL_RPATH "${path}" BUILD_WITH_INSTALL_RPATH ON)
 endfunction()
 
-# A library that others link, as OrvCameraGuiApi::<name> in CMake (in this build tree, too) and <pc>
-# in pkg-config. Its headers are in a folder of that name, and so is its package for CMake.
+# Installs a library, as OrvCameraGuiApi::<name> for CMake (in this build tree as well) and <pc> for
+# pkg-config. The folder of its headers and its CMake package have the same name.
 function(orv_install_library target name pc pcFile)
     add_library(OrvCameraGuiApi::${name} ALIAS ${target})
     if(NOT name STREQUAL target) # a program in this build tree need not know which Qt it is
@@ -33,7 +32,7 @@ function(orv_install_library target name pc pcFile)
     install(TARGETS ${target} EXPORT ${name}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
     set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-    # Found by way of the file itself, so that the installation can be moved.
+    # Relative to the .pc file, so that the installation can be moved.
     file(RELATIVE_PATH ORV_PREFIX_FROM_PKGCONFIG "/${folder}" "/")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/${pcFile}" "${PROJECT_BINARY_DIR}/${pc}.pc" @ONLY)
     install(FILES "${PROJECT_BINARY_DIR}/${pc}.pc" DESTINATION ${folder})

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
 # Precompiled headers for the library and the tests of windows, which include most of Qt's widgets;
-# they take half as long to compile with them. Off by default: ccache serves several build folders
-# only without them, and only without them is a missing include found.
+# they halve the compile time. Off by default, since they prevent ccache from sharing results
+# between build folders, and hide missing includes.
 
-# For a test that links Qt's widgets. The headers are compiled once for all of these.
+# For a test that links Qt's widgets. All these tests share one set of headers.
 function(orv_precompile_test target)
     if(NOT ORV_PRECOMPILE_HEADERS)
         return()
@@ -22,12 +22,13 @@ function(orv_precompile_test target)
             "$<$<COMPILE_LANGUAGE:CXX>:<QtTest$<ANGLE-R>>"
             "$<$<COMPILE_LANGUAGE:C>:<stddef.h$<ANGLE-R>>")
     endif()
-    # Qt 6 has the folder of a test among its flags, so only one folder has use of the headers.
+    # With Qt 6, the compiler flags contain the folder of a test, so only one folder can use the
+    # headers.
     get_target_property(folder orv_precompiled_test BINARY_DIR)
     if(ORV_QT_MAJOR_VERSION EQUAL 6 AND NOT folder STREQUAL CMAKE_CURRENT_BINARY_DIR)
         return()
     endif()
-    # Some tests have it from a library that they link; the flags must be the same for all.
+    # Some tests inherit the flag from a library; the flags must be the same in all tests.
     target_compile_options(${target} PRIVATE -pthread)
     target_precompile_headers(${target} REUSE_FROM orv_precompiled_test)
 endfunction()

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-# What every target of the project has in common.
+# Common settings of all targets.
 
-# The generation of Qt to build for, and what carries its number. The library of the second one is
-# another library, to be installed beside that of the first.
+# The major version of Qt, and the names that contain it. The library for Qt 6 is a separate one,
+# which can be installed beside that for Qt 5.
 if(ORV_QT_MAJOR_VERSION EQUAL 5)
     set(ORV_QT_MINIMUM 5.5)
     set(ORV_GUI_NAME OrvCameraGuiApi)
@@ -16,8 +16,8 @@ else()
 endif()
 set(ORV_QT Qt${ORV_QT_MAJOR_VERSION})
 
-# Finds parts of Qt. In the build of another project the targets are made known to that one, too,
-# since it links them with the libraries. A macro, as Qt's commands need the variables it sets.
+# Finds parts of Qt. The targets are made global for a parent project, which links them with the
+# libraries. A macro, because Qt's commands need the variables it sets.
 macro(orv_find_qt)
     set(orv_new_parts "")
     foreach(part ${ARGN})
@@ -38,22 +38,22 @@ function(orv_target_defaults target)
         -Wall -Wextra -Wpedantic -Wshadow -Wcast-align -Wformat=2 -Wundef -Wconversion
         -Wno-sign-conversion
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
-        # GenApi's interfaces have virtual assignments, which every implicit one hides from gcc 13
-        # on. Clang, which the fuzzers' preset uses, finds what is hidden by mistake.
+        # GenApi's interfaces have virtual assignments, which implicit ones hide; gcc 13 and later
+        # warn. Clang, which the preset fuzz uses, reports functions that are hidden by mistake.
         $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-overloaded-virtual>
         $<$<BOOL:${ORV_WERROR}>:-Werror>)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x050500)
 endfunction()
 
-# Has a library export, under versions, what its version script names.
+# Exports the versioned names in a library's version script.
 function(orv_export_only target script)
     target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
     set_target_properties(${target} PROPERTIES LINK_DEPENDS "${script}")
 endfunction()
 
-# The target orv_genapi: where the GenApi interface headers come from. Ours by default, those of a
-# genuine SDK when ORV_GENICAM_ROOT names one.
+# The target orv_genapi provides the GenApi interface headers: by default this platform's, or those
+# of the SDK in ORV_GENICAM_ROOT.
 function(orv_add_genapi_headers)
     add_library(orv_genapi INTERFACE)
     if(ORV_GENICAM_ROOT)
@@ -74,11 +74,11 @@ check_linker_flag(CXX -fuse-ld=lld ORV_LINKS_WITH_LLD)
 
 # orv_add_test(NAME [XVFB] [NETNS] [STARTS_PROGRAMS] [THREADS] [TIMEOUT seconds] SOURCES file...
 #              [LIBRARIES target...])
-# A QtTest program, run offscreen; with XVFB under a virtual X server, with NETNS in a network
-# namespace of its own and with the label wire. STARTS_PROGRAMS (implied by NETNS) says that it
-# starts others, which can't be done in the emulator that runs the tests of another processor.
-# THREADS says that the thread sanitizer has something to look at: target tests-with-threads, label
-# threads. It fails after TIMEOUT, 120 unless given; the emulator is given ten times as long.
+# Adds a QtTest program that runs offscreen. XVFB: it runs under a virtual X server. NETNS: it runs
+# in a network namespace of its own and has the label wire. STARTS_PROGRAMS (implied by NETNS): it
+# starts other programs, which the emulator for another processor cannot do. THREADS: it is of
+# interest for the thread sanitizer (target tests-with-threads, label threads). TIMEOUT: 120 by
+# default, ten times as long in the emulator.
 function(orv_add_test name)
     cmake_parse_arguments(arg "XVFB;NETNS;STARTS_PROGRAMS;THREADS" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
@@ -86,11 +86,11 @@ function(orv_add_test name)
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     orv_target_defaults(${name})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} ${ORV_QT}::Test)
-    # Most tests contain all objects of the library, which lld links five times faster.
+    # Most tests link all objects of the library, which takes lld a fifth of the time.
     if(ORV_LINKS_WITH_LLD)
         target_link_options(${name} PRIVATE -fuse-ld=lld)
     endif()
-    # Headers of GLib must come before those of Qt.
+    # GLib's headers must come before Qt's.
     if(arg_LIBRARIES MATCHES "orv_gui_objects|OrvCameraGuiApi" AND NOT arg_LIBRARIES MATCHES ORV_ARAVIS)
         orv_precompile_test(${name})
     endif()
@@ -101,8 +101,8 @@ function(orv_add_test name)
     set(command ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}>)
     if(arg_XVFB)
         set(command "${PROJECT_SOURCE_DIR}/tests/support/with-xvfb.sh" ${command})
-        # Qt's X plugin, which is unloaded at the end, leaves memory of libX11 behind. Only when
-        # libX11 stays can a sanitizer name its functions.
+        # Qt's X plugin leaks memory of libX11 when it is unloaded. A sanitizer can name the
+        # functions only if libX11 stays loaded.
         target_link_options(${name} PRIVATE LINKER:--no-as-needed)
         target_link_libraries(${name} PRIVATE X11)
     endif()
@@ -113,7 +113,7 @@ function(orv_add_test name)
     if(arg_NETNS)
         set_property(TEST ${name} APPEND PROPERTY LABELS wire)
     endif()
-    # Only one X server at a time finds a free number.
+    # X servers that start at the same time may choose the same number.
     if(arg_XVFB)
         set_tests_properties(${name} PROPERTIES RESOURCE_LOCK x-server)
     endif()

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Doxygen's marks for the comments of the C headers, which are plain C otherwise. The first one is
-# about the file.
+# Adds Doxygen's marks to the comments of the C headers, which are plain C otherwise. The first
+# comment describes the file.
 0,/^\/\*$/s//\/** \\file/
 s,^/\*$,/**,
 2,$s,^/\* \([^*]\),/** \1,

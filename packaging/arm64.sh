@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Builds for 64-bit ARM in build/arm64, with Debian's cross compiler and its libraries for arm64,
+# Cross-compiles for 64-bit ARM in build/arm64, with Debian's compiler and its libraries for arm64,
 # and runs the tests in an emulator (qemu-user). Adds the architecture arm64 to this machine's
 # packages. Arguments go to ctest.
 set -eu
@@ -33,8 +33,8 @@ features=$(wc -l <"$log")
 [ "$features" -gt 150 ] || die "the program lists only $features features"
 echo "  lists $features features of the simulated camera"
 
-# What the emulator tells a program of its children is not to be relied on: a process id of -1 would
-# have a test kill everything, so the tests get process ids of their own as well.
+# The emulator may report wrong ids of child processes. A test that kills the id -1 would kill all
+# processes, so the tests run in a process namespace of their own.
 echo "left out, because they start other programs or make networks, which the emulator gets wrong:"
 ctest --test-dir "$build" --show-only -L starts-programs | sed -n 's/.*Test *#[0-9]*: /  /p'
 isolate="unshare --pid --fork --kill-child"

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # build-debian.sh [FOLDER]
-# Builds the Debian packages of what is committed, checks them with lintian, and leaves them in
-# FOLDER, build/debian unless another is named. What the folder held before is removed.
+# Builds the Debian packages of the committed sources in FOLDER (build/debian), and checks them with
+# lintian. Removes the former contents of FOLDER.
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)

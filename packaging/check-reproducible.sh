@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Builds the Debian packages of what is committed twice, in folders of different names, at different
-# times, in different time zones and languages, and compares them: they must be the same bit for bit.
-# Leaves both below build/reproducible.
+# Builds the Debian packages of the committed sources twice, in folders of different names, at
+# different times, in different time zones and languages. Fails unless all files are identical. The
+# packages are left in build/reproducible.
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # setup-debian.sh [LIST]
-# Installs the missing ones of the packages in a list beside this script, debian-packages.txt
-# unless another is named. Does nothing when none is.
+# Installs missing packages from a list in the folder of this script (debian-packages.txt). Does
+# nothing if all are installed.
 set -eu
 
 say() { echo "setup: $*" >&2; }
@@ -13,7 +13,7 @@ here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
 
 command -v dpkg-query >/dev/null 2>&1 || die "this is not a Debian system: dpkg-query is missing"
 
-# By itself, or as a part of another one: a later Debian may have put the two together.
+# The package may be part of another one in a later Debian release.
 is_installed() {
     status=$(dpkg-query -W -f '${Status}' "$1" 2>/dev/null || true)
     [ "$status" = "install ok installed" ] && return 0
@@ -38,7 +38,7 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 say "installing$missing"
 export DEBIAN_FRONTEND=noninteractive
-# Unsigned or unreachable third-party sources must not stop us: only Debian's own are needed.
+# Unsigned or unreachable third-party sources are ignored: all packages are Debian's own.
 $as_root apt-get update >"$log" 2>&1 || true
 # shellcheck disable=SC2086
 if ! $as_root env DEBIAN_FRONTEND=noninteractive \

@@ -1,9 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Makes the icons and pictures of the library out of the SVG drawings beside this script. Run it
-# after a change of a drawing and commit what it makes: building needs no converter.
-# The pictures are for hosts: the dialogs draw them anew (src/camconfig/diagramdrawing.cpp).
-# Takes the Debian packages librsvg2-bin, icoutils, netpbm and fonts-dejavu-core.
+# Creates the icons and pictures of the library from the SVG drawings in this folder. Run it after a
+# change of a drawing and commit the results, so that building needs no converter. The pictures are
+# for hosts; the dialogs draw theirs (src/camconfig/diagramdrawing.cpp). Needs the Debian packages
+# librsvg2-bin, icoutils, netpbm and fonts-dejavu-core.
 set -eu
 
 here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
@@ -13,7 +13,7 @@ done
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# The largest size first: it is the one that a QPixmap takes.
+# The largest size first, because QPixmap uses the first one.
 icon() {
     set -- "$1"
     for size in 128 64 48 32 24 16; do

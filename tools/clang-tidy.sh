@@ -1,9 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # clang-tidy.sh [BUILD_FOLDER [FOLDER...]]
-# Runs clang-tidy with the checks of .clang-tidy over the sources below the folders (platform, src,
-# apps, examples, designer), as BUILD_FOLDER (build/dev) compiles them. The build must be up to date:
-# the sources include headers that it makes.
+# Runs clang-tidy with the checks of .clang-tidy on the sources in the folders (by default platform,
+# src, apps, examples, designer), as compiled in BUILD_FOLDER (build/dev). The build must be up to
+# date, because the sources include generated headers.
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
@@ -17,7 +17,7 @@ die() { echo "clang-tidy.sh: $*" >&2; exit 1; }
 
 files=$(mktemp)
 trap 'rm -f "$files"' EXIT
-# Only what is compiled: some sources are for other configurations.
+# Sources for other configurations are not in the compile commands.
 git ls-files -- "$@" | grep '\.cpp$' | while read -r file; do
     if grep -q "\"file\": \"$root/$file\"" "$build/compile_commands.json"; then echo "$file"; fi
 done >"$files"

@@ -1,9 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # update.sh [FOLDER]
-# Brings the .ts files here, or copies of them in another folder, up to date with the texts in the
-# sources. Then translate what is new with Qt Linguist. Texts are noted without their line numbers,
-# so that only a changed text changes a file.
+# Updates the .ts files, or copies of them in FOLDER, from the texts in the sources. Translate the
+# new texts with Qt Linguist afterwards. The files have no line numbers, so they change only with
+# the texts.
 set -eu
 
 root=$(CDPATH= cd -- "$(dirname -- "$0")/.." && pwd)
@@ -17,8 +17,8 @@ trap 'rm -f "$log"' EXIT
     -I src \
     src apps -ts "$folder"/orvcameraguiapi_*.ts >"$log" 2>&1 </dev/null ||
     { cat "$log" >&2; exit 1; }
-# A text without its class would not be found when the program runs. What else lupdate says is about
-# C++ that it does not understand.
+# A text without its class would not be found at run time. lupdate's other warnings are about C++
+# that it does not understand.
 if grep -e 'without context' -e 'lacks Q_OBJECT' "$log" >&2; then
     exit 1
 fi

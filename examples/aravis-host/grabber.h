@@ -7,21 +7,21 @@ typedef struct _ArvCamera ArvCamera;
 typedef struct _ArvDevice ArvDevice;
 typedef struct _ArvStream ArvStream;
 
-/// Takes images from a camera with Aravis, and only counts them: what happens to them is up to you.
+/// Takes images from a camera with Aravis and counts them; a real program would process them here.
 class Grabber
 {
 public:
-    /// Opens the camera of that identifier and starts it. Throws `std::runtime_error`.
+    /// Opens the camera with that identifier and starts acquisition. Throws `std::runtime_error`.
     explicit Grabber(const std::string &cameraId);
 
-    /// Stops the camera.
+    /// Stops acquisition.
     ~Grabber();
     Grabber(const Grabber &) = delete;
     Grabber &operator=(const Grabber &) = delete;
 
     ArvDevice *device() const;
 
-    /// Takes what has come since the last call; returns how many images there have been so far.
+    /// Takes the images since the last call; returns the number of all images so far.
     int takeImages();
 
 private:

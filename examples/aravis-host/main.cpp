@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// A program that takes images with Aravis and at the same time shows the features of that camera:
-// in a tree, or in the configuration window.
+// A program that takes images with Aravis and shows the features of the same camera: in a tree, or
+// in the configuration window.
 //
 //   aravis-host [--main] [CAMERA]
 //
-// CAMERA is an identifier of Aravis's, as "arv-tool-0.8" lists it; without one, Aravis's own fake
-// camera is taken.
+// CAMERA is an Aravis identifier, as "arv-tool-0.8" lists it; the default is Aravis's own fake
+// camera.
 
 // Before Qt, whose keywords are names in GLib.
 #include <arv.h>
@@ -53,7 +53,7 @@ int show(Grabber &grabber, bool isMain)
     timer.start(50);
     window->show();
     return QApplication::exec();
-} // the window goes before the device, and both before the camera
+} // the window is destroyed before the device, and both before the camera
 
 } // namespace
 

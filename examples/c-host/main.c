@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * A program that knows nothing of Qt: it makes its windows with Xlib and shows the features of a
- * camera in one of them. README.md says what it has to do for that.
+ * A program without Qt: it creates its windows with Xlib and shows the features of a camera in one
+ * of them. README.md explains the steps.
  *
  *   c-host             the first camera that can be controlled
  *   c-host --simulate  a simulated one
@@ -20,7 +20,7 @@ typedef struct
 {
     Display *display;
     Window window; /* the program's own window, with a line of text at its top */
-    Window panel;  /* a part of it, handed to the tree */
+    Window panel;  /* a child window for the tree */
     GC gc;
     Atom deleteWindow;
     int closed;
@@ -54,7 +54,7 @@ static int openWindow(Host *host)
     host->panel = createPanel(host, width, height);
     XMapWindow(host->display, host->panel);
     XMapWindow(host->display, host->window);
-    XSync(host->display, False); /* the X server must know the panel before others use it */
+    XSync(host->display, False); /* the panel must exist before another connection uses it */
     return 1;
 }
 
@@ -92,7 +92,7 @@ static void handleEvent(Host *host, const XEvent *event)
     }
 }
 
-/* Only has to end the wait: the events are read in the loop. */
+/* Only ends the wait; the loop reads the events. */
 static gboolean wakeUp(gint fd, GIOCondition condition, gpointer data)
 {
     (void)fd;
@@ -107,7 +107,7 @@ static gboolean onSignal(gpointer data)
     return G_SOURCE_CONTINUE;
 }
 
-/* Qt does all its work, the tree's included, in the default GLib main context. */
+/* The default GLib main context runs all of Qt, including the tree. */
 static void run(Host *host)
 {
     g_unix_fd_add(ConnectionNumber(host->display), G_IO_IN, wakeUp, NULL);
@@ -144,14 +144,14 @@ static void showCamera(Host *host, OrvCamDevice *camera)
     OrvGuiParamTreeView *tree = CreateGenParamTreeViewForArrayA(OrvCam_GetParamArray(camera, NULL),
                                                                 "Features", host->panel);
     run(host);
-    DestroyGenParamTreeView(tree); /* before what it shows and where it lives */
+    DestroyGenParamTreeView(tree); /* before the camera and the panel */
 }
 
 int main(int argc, char **argv)
 {
     if (argc > 1 && strcmp(argv[1], "--simulate") == 0)
         setenv("ORVCAM_SIMULATION", "1", 1);
-    setenv("QT_QPA_PLATFORM", "xcb", 1); /* Qt must speak X, too, also in a Wayland session */
+    setenv("QT_QPA_PLATFORM", "xcb", 1); /* Qt must use X as well, even in a Wayland session */
 
     Host host;
     memset(&host, 0, sizeof host);

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""A program with a Tk window: lets the user pick a camera and shows its features in that window."""
+"""A program with a Tk window. The user picks a camera; the window shows its features."""
 import argparse
 import os
 import signal
@@ -20,7 +20,7 @@ class Host:
         self.window.protocol("WM_DELETE_WINDOW", self.window.quit)
         self.caption = tkinter.Label(self.window, text="This line is Tk's.", anchor="w")
         self.caption.pack(fill="x", padx=8, pady=8)
-        # A plain frame: one that is a container has ideas of its own about the size of its contents.
+        # A plain frame: a container frame would resize its contents.
         self.panel = tkinter.Frame(self.window)
         self.panel.pack(fill="both", expand=True, padx=8, pady=(0, 8))
         # The X server must know the windows before others use them.
@@ -37,7 +37,7 @@ class Host:
         tree = camera.show("tree", "Features", wait=False, parent=self.panel.winfo_id())
         self.let_qt_work()
         self.window.mainloop()
-        tree.close()  # before the frame where it lives
+        tree.close()  # before its frame
 
     def let_qt_work(self):
         orvcamera.process_events()
@@ -68,7 +68,7 @@ def main():
         os.environ["ORVCAM_SIMULATION"] = "1"
     if options.libraries:
         os.environ["ORVCAMERA_LIBRARIES"] = options.libraries
-    os.environ["QT_QPA_PLATFORM"] = "xcb"  # as Tk, also in a Wayland session
+    os.environ["QT_QPA_PLATFORM"] = "xcb"  # as Tk does, even in a Wayland session
     return run()
 
 

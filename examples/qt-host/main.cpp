@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A Qt program with two feature trees side by side, here of two simulated cameras. It saves what is
-// expanded, the column widths and the levels when its window is closed, and restores them the next
-// time.
+// A Qt program with two feature trees side by side, here of two simulated cameras. It saves the
+// expanded categories, the column widths and the levels when its window is closed, and restores
+// them at the next start.
 //
 //   qt-host [SETTINGS.ini]
 #include "twotrees.h"
@@ -49,7 +49,7 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("OrvCameraGuiApi"));
     QApplication::setApplicationName(QStringLiteral("qt-host"));
 
-    qputenv("ORVCAM_SIMULATION", "1"); // leave this out to see real cameras
+    qputenv("ORVCAM_SIMULATION", "1"); // remove this line to use real cameras
     const OrvCam::Released<OrvCam::System> system(OrvCam_GetSystem());
     const std::vector<OrvCam::Released<OrvCam::Device>> cameras = openCameras(system.get(), 2);
 
@@ -57,7 +57,7 @@ int main(int argc, char **argv)
     std::unique_ptr<QSettings> settings(arguments.size() > 1
                                             ? new QSettings(arguments.at(1), QSettings::IniFormat)
                                             : new QSettings);
-    // Declared last: the trees must go before the cameras.
+    // Declared last: the trees must be destroyed before the cameras.
     TwoTrees window(parametersOf(cameras[0]), parametersOf(cameras[1]), *settings);
     window.setWindowTitle(QApplication::translate("main", "Two cameras"));
     window.show();

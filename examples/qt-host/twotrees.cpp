@@ -31,7 +31,7 @@ TwoTrees::TwoTrees(OrvGenParam::Array *left, OrvGenParam::Array *right, QSetting
 
     resize(1000, 640);
     restoreGeometry(m_settings.value(QLatin1String(geometryKey)).toByteArray());
-    // Before the trees are shown for the first time: then they keep the restored column widths.
+    // Before the trees are shown for the first time, so that they keep the restored column widths.
     restore(*m_left, QLatin1String(leftKey));
     restore(*m_right, QLatin1String(rightKey));
 }
@@ -40,10 +40,10 @@ void TwoTrees::restore(OrvGui::OrvGenParamTreeView &tree, const QString &key)
 {
     const QByteArray state = m_settings.value(key).toByteArray();
     try {
-        tree.loadState(state.constData()); // the level first:
-        tree.loadState(state.constData()); // what was expanded may not be shown at another one
+        tree.loadState(state.constData()); // restores the level,
+        tree.loadState(state.constData()); // and now the categories that are visible at that level
     } catch (const std::logic_error &) {
-        // The stored state is not one of a tree; the tree opens without it.
+        // The stored text is not a tree's state; the tree keeps its defaults.
     }
 }
 

@@ -12,8 +12,7 @@ namespace OrvGui {
 class OrvGenParamTreeView;
 }
 
-/// A window with the feature trees of two cameras side by side, which looks the next time as it was
-/// left.
+/// A window with the feature trees of two cameras side by side. It restores its last state.
 class TwoTrees : public QWidget
 {
     Q_OBJECT

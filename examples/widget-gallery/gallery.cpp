@@ -52,7 +52,7 @@ QString written(double value)
     return withoutGroups().toString(value, 'f', 3);
 }
 
-// A label that always shows the widget's value, as wide as the widest one.
+// A label that shows the widget's current value and is wide enough for every value.
 template<class Widget, class T>
 QLabel *createValueLabel(Widget *widget, void (Widget::*changed)(T))
 {
@@ -202,7 +202,7 @@ QWidget *Gallery::createSpinBoxes()
     return box;
 }
 
-// The first one has room beside its button, the second one above.
+// The first widget has room beside its button, the second one above it.
 QWidget *Gallery::createPopUps()
 {
     auto *box = new QGroupBox(QStringLiteral("QtOrvSpinBox"));
@@ -296,7 +296,7 @@ void Gallery::setRightToLeft(bool on)
     findChild<QCheckBox *>(QStringLiteral("rightToLeft"))->setChecked(on);
 }
 
-// All widgets call these two properties the same.
+// All value widgets have these two properties under the same names.
 void Gallery::setSnapping(bool on)
 {
     for (QWidget *widget : findChildren<QWidget *>())

@@ -10,7 +10,7 @@ class QtOrvSpinBox;
 
 /**
  * Shows every value widget in every orientation and scale, each with its value beside it, and
- * switches for what they have in common.
+ * switches for their common properties.
  */
 class Gallery : public QWidget
 {
@@ -19,7 +19,7 @@ class Gallery : public QWidget
 public:
     explicit Gallery(QWidget *parent = nullptr);
 
-    /** A picture of the whole, with the sliders that pop up drawn where they do. */
+    /** A picture of all widgets, with the pop-up sliders at their positions. */
     QPixmap picture();
 
 public Q_SLOTS:

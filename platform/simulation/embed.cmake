@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # cmake -DINPUT=file -DOUTPUT=file.cpp -DHEADER=file.h -DNAME=symbol -P embed.cmake
-# Turns a file into a C++ source that holds its bytes as NAME, with their number as NAMESize; both
-# are declared in HEADER.
+# Converts a file to a C++ source with its bytes as NAME and their number as NAMESize, both declared
+# in HEADER.
 file(READ "${INPUT}" hex HEX)
 string(LENGTH "${hex}" digits)
 math(EXPR size "${digits} / 2")

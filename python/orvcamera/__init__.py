@@ -11,10 +11,11 @@
         camera.save("settings.txt")
         camera.show()                            # the configuration window
 
-``orvcamera.simulated()`` gives cameras to try it with. What fails raises ``orvcamera.Error``.
+``orvcamera.simulated()`` returns simulated cameras to try this with. Failures raise
+``orvcamera.Error``.
 
-Nothing but windows takes a display. All calls are made on one thread. The libraries are looked for
-where the system has them, or in the folder that the environment variable ORVCAMERA_LIBRARIES names.
+Only windows need a display. All calls must be made on one thread. The libraries are loaded from the
+system's folders, or from the folder in the environment variable ORVCAMERA_LIBRARIES.
 """
 from ._cameras import (Camera, CameraInfo, cameras, process_events, select_camera, set_language,
                        shut_down, simulated)
@@ -25,6 +26,6 @@ __all__ = ["Camera", "CameraInfo", "Description", "Entry", "Error", "Feature", "
            "Subscription", "cameras", "process_events", "select_camera", "set_language",
            "shut_down", "simulated"]
 
-for _name in __all__:  # as tracebacks and help() are to call them
+for _name in __all__:  # the module name in tracebacks and help()
     if isinstance(globals()[_name], type):
         globals()[_name].__module__ = __name__

@@ -13,7 +13,7 @@ from ._native import Error, cam, decode
 MONITOR, CONTROL = 1, 2
 
 _system: Optional[int] = None
-_generation = 0  # of the system; what an earlier one has found is gone
+_generation = 0  # of the system; cameras of earlier generations are invalid
 _open_cameras: "Set[Camera]" = set()
 
 
@@ -28,7 +28,7 @@ def _get_system() -> int:
 
 
 def shut_down() -> None:
-    """Closes all cameras with their windows, and the camera system. Runs at the end by itself."""
+    """Closes all cameras with their windows, and the camera system. Called at exit."""
     global _system, _generation
     for camera in list(_open_cameras):
         camera.close()
@@ -42,9 +42,9 @@ atexit.register(shut_down)
 
 
 class CameraInfo:
-    """A camera that was found. Its texts are as of that search, empty where it says nothing.
+    """A camera that was found. Its texts date from that search; missing texts are empty.
 
-    Attributes: ``id`` (names it among all: MAC address, or vendor and serial number),
+    Attributes: ``id`` (unique: MAC address, or vendor and serial number),
     ``display_name``, ``vendor``, ``model``, ``serial``, ``version``, ``user_name``, ``interface``,
     and ``access`` (1 free, 2 read-only, 3 in use, 1001 address outside the subnet, else unknown).
     """
@@ -70,7 +70,7 @@ class CameraInfo:
 
 
 def cameras(timeout: float = 0.2) -> List[CameraInfo]:
-    """Looks for cameras for that many seconds. Interfaces that fail are left out."""
+    """Searches for cameras for ``timeout`` seconds. Interfaces that fail are skipped."""
     system = _get_system()
     cam.OrvCam_RefreshDevices(system, max(0, min(int(timeout * 1000), 2**32 - 1)))
     count = cam.OrvCam_GetDeviceCount(system)
@@ -79,9 +79,9 @@ def cameras(timeout: float = 0.2) -> List[CameraInfo]:
 
 
 def simulated() -> List[CameraInfo]:
-    """Uses simulated cameras from now on, which send nothing anywhere, and returns them.
+    """Switches to simulated cameras, which use no network, and returns them.
 
-    ``RuntimeError`` while a camera is open. What was found before is no longer valid.
+    Raises ``RuntimeError`` while a camera is open. Cameras found earlier become invalid.
     """
     if _open_cameras:
         raise RuntimeError("close the cameras first")
@@ -104,11 +104,11 @@ class Camera(NodeMap):
     """An open camera: a mapping of its features by name.
 
     ``camera`` is a ``CameraInfo``, or the id, serial number, user name or display name of a camera
-    to look for; without it the first free one is opened. With ``control=False`` it can only be
-    read, also while another program has control. Raises ``Error``.
+    to search for; the default is the first free camera. With ``control=False`` the camera can only
+    be read, even while another program has control. Raises ``Error``.
 
-    It stays open until ``close``, the end of its ``with`` block or that of the program. Call all of
-    it on one thread.
+    It stays open until ``close``, the end of its ``with`` block or the end of the program. All
+    methods must be called on one thread.
     """
 
     def __init__(self, camera: Union[CameraInfo, str, None] = None, control: bool = True) -> None:
@@ -158,8 +158,8 @@ class Camera(NodeMap):
 
 
 def select_camera(title: str = "", parent: int = 0) -> Optional[CameraInfo]:
-    """Has the user pick a camera in a dialog; None when the dialog is cancelled. ``parent`` is the
-    native id of a window that the dialog stands above."""
+    """Lets the user pick a camera in a dialog; returns None if the user cancels. ``parent`` is the
+    native id of the dialog's parent window."""
     text = _native.encode(title)
     _native.need_application()
     handle = _native.gui.SelectCameraA(_get_system(), text, parent)
@@ -167,9 +167,9 @@ def select_camera(title: str = "", parent: int = 0) -> Optional[CameraInfo]:
 
 
 def process_events(seconds: float = 0.0) -> int:
-    """Lets windows and callbacks work for so long; returns how many windows are open.
+    """Processes events for ``seconds``; returns the number of open windows.
 
-    Changes that a camera makes by itself are noticed only in here. Needs no display.
+    Changes by the camera itself are noticed only during this call. Needs no display.
     """
     milliseconds = max(0, min(int(seconds * 1000), 2**31 - 1))
     if _native.has_application:
@@ -179,9 +179,9 @@ def process_events(seconds: float = 0.0) -> int:
 
 
 def set_language(language: Optional[str]) -> None:
-    """Chooses the language of windows opened from now on ("de", "ja", "en"; None for the locale's).
+    """Sets the language of windows opened later ("de", "ja", "en"; None for the locale's).
 
-    Takes a display, as windows do. ``ValueError`` for a language without a translation.
+    Needs a display. Raises ``ValueError`` for a language without a translation.
     """
     code = None if language is None else _native.encode(language)
     _native.need_application()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Features: the parameters of a camera, and the maps they are found in."""
+"""Features, which are the parameters of a camera, and the maps that contain them."""
 import ctypes
 import operator
 import os
@@ -21,16 +21,16 @@ Value = Union[int, float, bool, str]
 
 
 class Entry(NamedTuple):
-    """An entry of an enumeration, as it was when ``Feature.entries`` was read."""
+    """An entry of an enumeration. Its attributes date from the call of ``Feature.entries``."""
 
-    name: str  #: what ``Feature.value`` is when it is chosen
-    display_name: str  #: to show a user
+    name: str  #: the ``Feature.value`` that selects it
+    display_name: str  #: for the user
     value: int
-    available: bool  #: it can be chosen at this moment
+    available: bool  #: whether it can be chosen at the moment
 
 
 class Subscription:
-    """A callback for changes, which ends with ``cancel`` or a ``with`` block."""
+    """A subscription to changes. It ends with ``cancel`` or a ``with`` block."""
 
     def __init__(self, feature: "Feature", callback: Callable[["Feature"], Any]) -> None:
         self._function = _native.CHANGED(lambda node, data: callback(feature))
@@ -41,7 +41,7 @@ class Subscription:
             check(error.value)
 
     def cancel(self) -> None:
-        """No call comes after this; may be called from inside the callback, and again."""
+        """Ends the callbacks. May be called in the callback, and repeatedly."""
         handle, self._handle = self._handle, None
         if handle:
             cam.OrvGenParam_Unwatch(handle)
@@ -56,8 +56,8 @@ class Subscription:
 class Feature:
     """A parameter, or a category of them. Made by ``camera["Name"]``; valid until it is closed.
 
-    What fails raises ``Error``. Reading a value that is not known, and every write, waits for the
-    camera.
+    Failures raise ``Error``. Every write waits for the camera, and so does reading a value
+    that is not cached.
     """
 
     def __init__(self, owner: "NodeMap", node: int) -> None:
@@ -82,7 +82,7 @@ class Feature:
 
     @property
     def display_name(self) -> str:
-        """The name to show a user."""
+        """The name for the user."""
         return ask_text("OrvGenParam_GetDisplayName", self._handle)
 
     @property
@@ -95,7 +95,7 @@ class Feature:
 
     @property
     def unit(self) -> str:
-        """The unit of ``value``, ``min`` and ``max``; empty for none."""
+        """The unit of ``value``, ``min`` and ``max``; empty if there is none."""
         return ask_text("OrvGenParam_GetUnit", self._handle)
 
     @property
@@ -113,7 +113,7 @@ class Feature:
 
     @property
     def available(self) -> bool:
-        """It can be used at this moment; perhaps it can only be read, or only be written."""
+        """Whether it can be used at the moment; it may be read-only or write-only."""
         return self._access() > NOT_AVAILABLE
 
     @property
@@ -187,7 +187,7 @@ class Feature:
 
     @property
     def text(self) -> str:
-        """The value of any kind as text, as settings files have it. Commands cannot be set."""
+        """The value of any kind as text, in the form of settings files. Commands cannot be set."""
         return ask_text("OrvGenParam_GetValueText", self._handle)
 
     @text.setter
@@ -207,7 +207,7 @@ class Feature:
 
     @property
     def min(self) -> Any:
-        """The least value of an integer or float at this moment."""
+        """The current minimum of an integer or float."""
         return self._limits()[0]
 
     @property
@@ -216,12 +216,12 @@ class Feature:
 
     @property
     def increment(self) -> Any:
-        """Values are ``min`` plus a multiple of this; 0.0 for a float without."""
+        """Values are ``min`` plus a multiple of this; 0.0 for a float without an increment."""
         return self._limits()[2]
 
     @property
     def max_length(self) -> int:
-        """Of a text, in bytes of UTF-8."""
+        """The maximum length of a text, in bytes of UTF-8."""
         return ask_integer("OrvGenParam_GetMaxLength", self._handle, c_int64)
 
     @property
@@ -235,13 +235,13 @@ class Feature:
 
     @property
     def features(self) -> List["Feature"]:
-        """What a category lists: features and categories."""
+        """The features and categories in a category."""
         nodes = ask_nodes("OrvGenParam_GetCategoryFeatures", self._handle)
         return [Feature(self._owner, node) for node in nodes]
 
     def execute(self, timeout: Optional[float] = None) -> None:
-        """Executes a command. With a time-out in seconds, waits until the camera has carried it
-        out, and raises ``Error`` with the code ``TIMEOUT`` when it has not by then."""
+        """Executes a command. With a time-out in seconds, waits until the camera has executed it;
+        raises ``Error`` with the code ``TIMEOUT`` if that takes longer."""
         check(cam.OrvGenParam_Execute(self._handle))
         if timeout is None:
             return
@@ -253,16 +253,16 @@ class Feature:
 
     @property
     def done(self) -> bool:
-        """Whether the camera has carried out a command; asks the camera."""
+        """Whether the camera has executed a command. Reads from the camera."""
         return bool(ask_integer("OrvGenParam_IsDone", self._handle))
 
     def on_change(self, callback: Callable[["Feature"], Any]) -> Subscription:
         """Has ``callback(feature)`` called after every change of value, limits or availability.
 
-        It is called on the thread that calls this, the one that opened the camera: at once for
-        changes made on that thread, from ``orvcamera.process_events`` for all others, also those
-        that the camera makes. What it raises goes to ``sys.unraisablehook``. It must not close the
-        camera or a window.
+        The callback runs on the thread that opened the camera, which must also call this method:
+        immediately for changes on that thread, and in ``orvcamera.process_events`` for all others,
+        including those by the camera itself. Its exceptions go to ``sys.unraisablehook``. It must
+        not close the camera or a window.
         """
         return self._owner._keep(Subscription(self, callback))
 
@@ -274,7 +274,7 @@ M = TypeVar("M", bound="NodeMap")
 
 
 class NodeMap:
-    """Features by name. The common part of ``Camera`` and ``Description``."""
+    """Features by name. The base class of ``Camera`` and ``Description``."""
 
     def __init__(self) -> None:
         self._map: Optional[int] = None
@@ -301,7 +301,7 @@ class NodeMap:
         self._map = None
 
     def close(self) -> None:
-        """Ends it, with its windows and callbacks. A second call does nothing."""
+        """Closes it with its windows and callbacks. A second call does nothing."""
         raise NotImplementedError
 
     def __enter__(self: M) -> M:
@@ -317,7 +317,7 @@ class NodeMap:
         return Feature(self, node) if node else None
 
     def __getitem__(self, name: str) -> Feature:
-        """The feature of that name; ``KeyError`` when there is none."""
+        """The feature of that name; raises ``KeyError`` if there is none."""
         feature = self.get(name)
         if feature is None:
             raise KeyError(name)
@@ -339,16 +339,17 @@ class NodeMap:
 
     @property
     def root(self) -> Feature:
-        """The category that all others are in."""
+        """The category that contains all others."""
         return self["Root"]
 
     def save(self, path: Union[str, "os.PathLike[str]"]) -> List[str]:
-        """Writes all settings to a file. Returns a line for each that could not be read."""
+        """Writes all settings to a file. Returns a line for each feature that could not be read."""
         return self._settings("SaveCameraSettings", path)
 
     def load(self, path: Union[str, "os.PathLike[str]"], any_model: bool = False) -> List[str]:
-        """Writes the settings of a file to the camera. Returns a line for each that was refused or
-        that the camera lacks. A file of another model raises ``Error``, unless ``any_model``."""
+        """Writes the settings of a file to the camera. Returns a line for each setting
+        that was refused or that the camera lacks. Raises ``Error`` for a file of another model,
+        unless ``any_model`` is True."""
         return self._settings("LoadCameraSettings", path, 1 if any_model else 0)
 
     def _settings(self, name: str, path: Any, *options: int) -> List[str]:
@@ -383,7 +384,7 @@ class NodeMap:
 
 
 class Description(NodeMap):
-    """The features of a device description file (XML) without a camera, in memory, all 0."""
+    """The features of a device description file (XML) without a camera. All values start at 0."""
 
     def __init__(self, path: Union[str, "os.PathLike[str]"]) -> None:
         super().__init__()

@@ -7,7 +7,7 @@ from typing import Any, Dict, List, Optional, Tuple
 
 FOLDER_VARIABLE = "ORVCAMERA_LIBRARIES"
 
-#: Without any of them Qt ends the program when it makes its application.
+#: If none of them is set, Qt ends the program when the application object is created.
 DISPLAY_VARIABLES = ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")
 
 CHANGED = ctypes.CFUNCTYPE(None, c_void_p, c_void_p)
@@ -16,7 +16,7 @@ _TEXT = (c_int32, c_void_p, c_char_p, c_size_t, POINTER(c_size_t))
 _NODES = (c_size_t, c_void_p, POINTER(c_void_p), c_size_t)
 _REPORT = (c_char_p, c_size_t)
 
-#: Result, then arguments. Without them ctypes would cut pointers to 32 bits.
+#: Types of result and arguments. Without them ctypes would truncate pointers to 32 bits.
 _CAMERA_FUNCTIONS: Dict[str, Tuple[Any, ...]] = {
     "OrvCam_GetSystem": (c_void_p,),
     "OrvCam_ReleaseSystem": (None, c_void_p),
@@ -90,7 +90,7 @@ for _kind in ("GenParamTreeView", "FeatureBrowser"):
 
 
 class Library:
-    """A library that is loaded when its first function is needed."""
+    """A library that is loaded when its first function is used."""
 
     def __init__(self, names: Tuple[str, ...], functions: Dict[str, Tuple[Any, ...]]) -> None:
         self._names = names
@@ -118,15 +118,15 @@ class Library:
 
 
 cam = Library(("libOrvCameraApi.so.1",), _CAMERA_FUNCTIONS)
-#: There is one for each Qt; to this module they are the same.
+#: There is one library for each version of Qt; this module works with both.
 gui = Library(("libOrvCameraGuiApi.so.1", "libOrvCameraGuiApiQt6.so.1"), _GUI_FUNCTIONS)
 
 
 class Error(Exception):
-    """What a camera, or the library, has refused.
+    """A failure that the camera or the library has reported.
 
-    ``code`` is an error number of orvcameraapi.h (-1 to -11), ``text`` says in English what
-    happened, with the reason where there is one.
+    ``code`` is an error number of orvcameraapi.h (-1 to -11), ``text`` describes
+    the failure in English, with the reason if there is one.
     """
 
     FAILED = -1
@@ -152,7 +152,7 @@ def decode(text: Optional[bytes]) -> str:
 
 
 def encode(text: str) -> bytes:
-    """For C, where a text ends at the first 0."""
+    """Encodes a text for C, where a text ends at the first 0."""
     if "\0" in text:
         raise ValueError("a text must not contain a 0 character")
     return text.encode("utf-8")
@@ -165,7 +165,7 @@ def check(code: int) -> None:
 
 
 def ask_text(name: str, handle: int) -> str:
-    """The text that the function of that name answers, however long it is."""
+    """The text that the function of that name returns, of any length."""
     function = getattr(cam, name)
     length = c_size_t(0)
     size = 256
@@ -200,7 +200,7 @@ has_application = False
 
 
 def need_application() -> None:
-    """To be called before functions that make Qt's application."""
+    """Must be called before functions that create Qt's application object."""
     global has_application
     if not has_application and not any(os.environ.get(name) for name in DISPLAY_VARIABLES):
         raise Error(Error.FAILED, "There is no display")

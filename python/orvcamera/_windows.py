@@ -5,7 +5,7 @@ from typing import Any, Optional, TypeVar
 
 from ._native import Error, decode, encode, gui, need_application
 
-#: Window: functions that open and close it, and what the names of its state functions contain.
+#: For each window: functions that open and close it, and a part of its state functions' names.
 _KINDS = {
     "tree": ("CreateGenParamTreeViewForNodemapA", "DestroyGenParamTreeView", "GenParamTreeView"),
     "browser": ("CreateFeatureBrowserForNodemapA", "DestroyFeatureBrowser", "FeatureBrowser"),
@@ -16,7 +16,7 @@ W = TypeVar("W", bound="Window")
 
 
 class Window:
-    """An open window of a camera. Ends with ``close``, a ``with`` block, or its camera."""
+    """An open window of a camera. Closed by ``close``, a ``with`` block, or with its camera."""
 
     def __init__(self, owner: Any, kind: str, title: str, parent: int) -> None:
         if kind not in _KINDS:
@@ -36,13 +36,13 @@ class Window:
 
     @property
     def is_open(self) -> bool:
-        """False after ``close``; a window that the user has closed still counts as open."""
+        """False after ``close``. A window that the user has closed still counts as open."""
         return self._handle is not None
 
     def wait(self) -> None:
         """Runs until the user has closed all windows of this module."""
         while gui.OrvCameraGuiApi_ProcessEvents(100) > 0:
-            pass  # between two calls Python sees Ctrl+C
+            pass  # Python handles Ctrl+C between two calls
 
     def close(self) -> None:
         handle, self._handle = self._handle, None
@@ -58,7 +58,7 @@ class Window:
 
     @property
     def state(self) -> str:
-        """What is expanded and at which level, to be stored and set again."""
+        """The expanded categories and the level, as a text to be saved and restored."""
         handle = self._open()
         return decode(getattr(gui, f"Save{self._state}State")(handle))
 
@@ -70,7 +70,7 @@ class Window:
 
     @property
     def visibility(self) -> int:
-        """The level of what is shown: 0 basic, 1 expert, 2 guru."""
+        """The level of the shown features: 0 basic, 1 expert, 2 guru."""
         handle = self._open()
         return int(getattr(gui, f"Get{self._state}Visibility")(handle))
 

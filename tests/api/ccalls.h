@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT */
 #pragma once
 
-/* What a C program does, compiled as C. */
+/* Calls of a C program, compiled as C. */
 
 #include <orvcameraguiapi.h>
 

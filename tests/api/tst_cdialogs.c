@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * A host in C, with a main loop of GLib, that opens every dialog there is a function for: none of
- * them blocks, and what is watched is watched afterwards, too. On a simulated camera.
+ * A host in C with a GLib main loop opens every dialog on a simulated camera. No function may
+ * block, and notifications must still arrive afterwards.
  */
 #include <orvcameraguiapi.h>
 #include <orvgenparamapi.h>
@@ -24,7 +24,7 @@ static void noteChange(OrvGenApiNode *node, void *userData)
     ++changesSeen;
 }
 
-/* Watches what changes by itself. */
+/* Watches a feature that the camera changes continuously. */
 static OrvGenParamWatch *startWatching(OrvCamDevice *device)
 {
     OrvGenApiNodeMap *map = OrvGenParam_GetNodeMap(OrvCam_GetParamArray(device, NULL), NULL);

@@ -36,7 +36,7 @@ struct Features : OrvGenApi::MemoryNodeMap
     }
 };
 
-/// Counts the X server's refusals to move a window that the library has left to its host.
+/// Counts the X server's refusals to reparent a window that the library passes on to the host.
 struct Refusals : QAbstractNativeEventFilter
 {
     using Result = std::conditional_t<(QT_VERSION < 0x060000), long, qintptr>;
@@ -53,7 +53,7 @@ struct Refusals : QAbstractNativeEventFilter
     int count = 0;
 };
 
-/// A node map that fails when a tree registers with its features.
+/// A node map that throws when a tree registers for its features.
 struct BrokenFeatures : Features
 {
     GenApi::INode *GetNode(const GenICam::gcstring &) const override
@@ -64,14 +64,14 @@ struct BrokenFeatures : Features
 
 } // namespace
 
-/// The library in a program that is not a Qt program: no application is made here.
+/// The library in a program without Qt: the test creates no application object.
 class TestOrvCameraGuiApi : public QObject
 {
     Q_OBJECT
 
 private slots:
     void cleanup();
-    void makesTheApplication();
+    void createsTheApplication();
     void windowTitles_data();
     void windowTitles();
     void stateLevelAndLanguage();
@@ -91,14 +91,14 @@ private:
     XView m_screen;
 };
 
-// All windows of a test are gone.
+// Every test has closed its windows.
 void TestOrvCameraGuiApi::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
     QVERIFY(QGuiApplication::topLevelWindows().isEmpty());
 }
 
-void TestOrvCameraGuiApi::makesTheApplication()
+void TestOrvCameraGuiApi::createsTheApplication()
 {
     qputenv("ORVCAM_SIMULATION", "1");
     QVERIFY(!QCoreApplication::instance());
@@ -168,8 +168,7 @@ void TestOrvCameraGuiApi::sourcesWithoutFeatures()
     }
 }
 
-// The picture of the host's window is that of the tree at each size of the window.
-// For hosts that cannot call methods.
+// The functions for hosts that cannot call methods.
 void TestOrvCameraGuiApi::stateLevelAndLanguage()
 {
     Features map;
@@ -235,20 +234,20 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
 
     Features map;
     DestroyGenParamTreeView(
-        CreateGenParamTreeViewForNodemapA(nullptr, "", 0)); // for the application
+        CreateGenParamTreeViewForNodemapA(nullptr, "", 0)); // creates the application
     Refusals refusals;
     IOrvGenParamTreeView *view = CreateGenParamTreeViewForNodemapA(&map, "Inside", panel);
     tree(view).expandAll();
     QTRY_VERIFY(shows(panel, view));
     QCOMPARE(widget(view).size(), QSize(600, 400));
 
-    // A window manager may set another size later.
+    // A window manager may change the size later.
     m_screen.resize(static_cast<xcb_window_t>(widget(view).winId()), QSize(320, 240));
     QCOMPARE(m_screen.picture(panel).pixel(599, 399), panelColour);
     QTRY_VERIFY(shows(panel, view));
     QCOMPARE(widget(view).size(), QSize(600, 400));
 
-    // A browser is created and destroyed.
+    // Another window embeds and destroys a browser.
     const xcb_window_t other =
         m_screen.makeWindow(m_screen.screen().root, QRect(710, 0, 350, 500), panelColour);
     Features otherMap;
@@ -263,13 +262,13 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
         QTRY_VERIFY(shows(panel, view));
     }
 
-    // The host's windows are where they were, and the host still paints what is its own.
+    // The host's windows are in place, and the host still paints its own area.
     QCOMPARE(m_screen.children(host), QList<xcb_window_t>{panel});
     QCOMPARE(m_screen.geometry(panel), QRect(20, 30, 500, 300));
     QCOMPARE(m_screen.picture(host).pixel(19, 29), hostColour);
     QCOMPARE(m_screen.picture(host).pixel(521, 331), hostColour);
 
-    // The library takes no more refusals than it causes.
+    // The library handles only the refusals that it has caused.
     QCOMPARE(refusals.count, 0);
     {
         const std::unique_ptr<QWindow> outer(QWindow::fromWinId(host));
@@ -279,7 +278,7 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
         outer->setParent(nullptr);
     }
 
-    // Removed at once, also in a host without an event loop.
+    // The tree is removed at once, even if the host runs no event loop.
     DestroyGenParamTreeView(view);
     QVERIFY(m_screen.children(panel).isEmpty());
     QCOMPARE(m_screen.children(host), QList<xcb_window_t>{panel});
@@ -287,7 +286,7 @@ void TestOrvCameraGuiApi::insideAnotherWindow()
     m_screen.destroy(host);
 }
 
-// A wrong window id of a host gives an invisible tree.
+// An invalid window id results in an invisible tree.
 void TestOrvCameraGuiApi::missingForeignWindow()
 {
     Features map;
@@ -303,7 +302,7 @@ void TestOrvCameraGuiApi::missingForeignWindow()
     DestroyGenParamTreeView(view);
 }
 
-// Events that arrive together with an answer are reported, too.
+// Events that arrive together with a reply are not lost.
 void TestOrvCameraGuiApi::resizeDuringQueryIsReported()
 {
     const xcb_window_t window =

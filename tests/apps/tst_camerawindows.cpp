@@ -19,13 +19,13 @@ QAction &action(CameraWindows &windows, const char *name)
     return *found;
 }
 
-/// Where windows may be.
+/// The area in which windows may be placed.
 QRect screenArea()
 {
     return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
-/// An opened camera that has vanished since.
+/// The device of a camera that has been disconnected.
 class Vanished final : public FakeDevice
 {
 public:
@@ -47,10 +47,10 @@ class TestCameraWindows : public QObject
 
 private slots:
     void initTestCase();
-    void showTheSameCamera();
-    void followTheConfiguration();
+    void windowsShowTheSameCamera();
+    void treeFollowsConfiguration();
     void settingsMenu();
-    void namedWhileSeveralAreOpen();
+    void titlesNameTheCamera();
     void layoutIsRestored();
     void damagedSettings();
     void treeBesideMainWindow_data();
@@ -83,7 +83,7 @@ void TestCameraWindows::initTestCase()
     QVERIFY(m_camera);
 }
 
-void TestCameraWindows::showTheSameCamera()
+void TestCameraWindows::windowsShowTheSameCamera()
 {
     CameraWindows windows(open(), nullptr);
     windows.show();
@@ -92,7 +92,7 @@ void TestCameraWindows::showTheSameCamera()
     windows.tree().setVisibility(OrvGui::Guru);
     QAbstractItemModel *model = windows.tree().treeView()->model();
 
-    // From a dialog to the tree, and back.
+    // From the dialog to the tree, and from the tree to the dialog.
     auto *box = windows.configuration().findChild<QCheckBox *>("chBoxTriggerEnable");
     QCOMPARE(valueCell(*model, "TriggerMode").data().toString(), QString("Off"));
     box->click();
@@ -100,7 +100,7 @@ void TestCameraWindows::showTheSameCamera()
     QVERIFY(model->setData(valueCell(*model, "TriggerMode"), 0));
     QVERIFY(!box->isChecked());
 
-    // What was changed in one can be undone in the other.
+    // A change made in one window can be undone in the other.
     const auto isBold = [&](const char *feature) {
         const QModelIndex cell = valueCell(*model, feature);
         return cell.siblingAtColumn(0).data(Qt::FontRole).value<QFont>().bold();
@@ -115,24 +115,24 @@ void TestCameraWindows::showTheSameCamera()
     QVERIFY(!windows.tree().isVisible());
 }
 
-void TestCameraWindows::followTheConfiguration()
+void TestCameraWindows::treeFollowsConfiguration()
 {
     CameraWindows windows(open(), nullptr);
     windows.show();
     windows.tree().treeView()->expandAll();
-    QVERIFY(!open()); // it has the camera to itself
+    QVERIFY(!open()); // the windows have exclusive access
     QPointer<QAbstractItemModel> model = windows.tree().treeView()->model();
 
     action(windows, "actionDisconnect").trigger();
     QVERIFY(!model || model->rowCount() == 0);
     {
-        const OrvCam::Released<OrvCam::Device> device = open(); // others can have it now
+        const OrvCam::Released<OrvCam::Device> device = open(); // the camera is free now
         QVERIFY(device);
-        // The host of the configuration window may give it another one.
+        // The host of the configuration window may set another device.
         windows.configuration().SetDevice(device.get());
         model = windows.tree().treeView()->model();
         QVERIFY(model && model->rowCount() > 5);
-        QVERIFY(windows.tree().treeView()->isExpanded(model->index(0, 0))); // as it was left
+        QVERIFY(windows.tree().treeView()->isExpanded(model->index(0, 0))); // as before
         windows.configuration().SetDevice(nullptr);
     }
     QCOMPARE(windows.tree().windowTitle(), QString("Features"));
@@ -162,7 +162,7 @@ void TestCameraWindows::settingsMenu()
     QVERIFY(!action(windows, "actionUserSets").isVisible());
 }
 
-void TestCameraWindows::namedWhileSeveralAreOpen()
+void TestCameraWindows::titlesNameTheCamera()
 {
     const QTemporaryDir folder;
     QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
@@ -207,7 +207,7 @@ void TestCameraWindows::layoutIsRestored()
         action(windows, "actionPulse").trigger();
         windows.tree().close();
         QVERIFY(!action(windows, "actionFeatureTree").isChecked());
-        // Also when the camera is gone at the end.
+        // The layout is saved even if the camera is disconnected before the windows close.
         action(windows, "actionDisconnect").trigger();
         windows.configuration().close();
     }
@@ -246,7 +246,7 @@ void TestCameraWindows::damagedSettings()
         CameraWindows windows(open(), &settings);
         const QTreeView *view = windows.tree().treeView();
         for (int row = 0; row < 5; ++row)
-            QVERIFY(view->isExpanded(view->model()->index(row, 0))); // as without any
+            QVERIFY(view->isExpanded(view->model()->index(row, 0))); // the default
     }
 }
 
@@ -255,7 +255,7 @@ void TestCameraWindows::treeBesideMainWindow_data()
     QTest::addColumn<QRect>("main");
     QTest::addColumn<int>("width");
     QTest::addColumn<bool>("isRightToLeft");
-    QTest::addColumn<int>("side"); // 1 right, -1 left, 0 over it
+    QTest::addColumn<int>("side"); // 1 right, -1 left, 0 above the main window
     const int all = screenArea().width();
     const QRect middle(all / 2 - 100, 100, 200, 100);
     QTest::newRow("room on both sides") << middle << all / 4 << false << 1;

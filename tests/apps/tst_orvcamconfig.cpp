@@ -37,7 +37,7 @@ Result run(const QStringList &arguments, Display display = NoDisplay)
 
 } // namespace
 
-/// The program as used in a shell.
+/// The program on the command line.
 class TestOrvCamConfig : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ void TestOrvCamConfig::listsCameras()
     QCOMPARE(lines.size(), 10);
     for (const QString &line : lines)
         QCOMPARE(line.count('\t'), 3);
-    // What comes first in a line names the camera for the other options; its serial number, too.
+    // Other options accept the first field of a line as the camera's name, and the serial number.
     const QString id = lines.at(1).section('\t', 0, 0);
     for (const QString &name : {id, id.toLower(), QString("SIM-0002")}) {
         const Result named = run({"--simulate", "--list-features", "--camera", name});
@@ -144,7 +144,7 @@ void TestOrvCamConfig::reportsFailures_data()
     row("--nonsense", 2, "nonsense");
     for (const char *line : {"--xml ", "--screenshot ", "--camera ", "--list-features --xml="})
         row(line, 2, "needs a value");
-    row("-platform offscreen --simulate --camera Nobody", 1, unknownCamera); // an option of Qt's
+    row("-platform offscreen --simulate --camera Nobody", 1, unknownCamera); // an option of Qt
     row("--simulate stray", 2, "stray");
     row("--simulate --visibility all", 2, "all");
     row("--simulate --xml a.xml", 2, "--xml");
@@ -191,7 +191,7 @@ void TestOrvCamConfig::savesPictures()
         QCOMPARE(result.status, 0);
         const QImage picture(fileName);
         QVERIFY(picture.width() > 300 && picture.height() > 300);
-        // A window with something in it has more than a handful of colours.
+        // A window with contents has more than a handful of colours.
         QSet<QRgb> colours;
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x)
@@ -213,7 +213,7 @@ void TestOrvCamConfig::runsActions()
                                  "Text\t\u00c4hre \u03b2\nDetail\t1.5\n"));
     QCOMPARE(result.status, 0);
 
-    // What only reads goes on after a failure; a change that was refused is the end.
+    // Reading continues after a failure; a refused change ends the program.
     result = run(start + QStringList({"--get", "None", "Nowhere", "Hex", "--set", "Flag=maybe",
                                       "--get", "Flag"}));
     QCOMPARE(result.out, QString("Hex\tFF\n"));
@@ -261,14 +261,14 @@ void TestOrvCamConfig::settingsFiles()
     QVERIFY(!QJsonDocument::fromJson(result.out.toUtf8()).isNull());
 }
 
-// A compositor that is named but not there: the complaint is that of Wayland, not that of X.
+// The Wayland server does not exist: the error message must be Wayland's, not X's.
 void TestOrvCamConfig::waylandWithoutX()
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove("DISPLAY");
     environment.remove("QT_QPA_PLATFORM");
-    environment.remove("QT_LOGGING_RULES"); // which may hide the complaint
+    environment.remove("QT_LOGGING_RULES"); // may suppress the message
     environment.insert("WAYLAND_DISPLAY", "wayland-that-is-not-there");
     environment.insert("XDG_RUNTIME_DIR", m_folder.path());
     program.setProcessEnvironment(environment);

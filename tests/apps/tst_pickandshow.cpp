@@ -3,7 +3,7 @@
 
 #include <memory>
 
-/// The program as used on a screen: from the picker to the chosen camera's features.
+/// The program on a screen: from the picker to the features of the chosen camera.
 class TestPickAndShow : public QObject
 {
     Q_OBJECT
@@ -19,14 +19,14 @@ private:
     void start(const QStringList &arguments);
 
     ProgramOnScreen m_program;
-    std::unique_ptr<QTemporaryDir> m_settings; ///< of the program, instead of the user's
+    std::unique_ptr<QTemporaryDir> m_settings; ///< used instead of the user's own
 };
 
 void TestPickAndShow::start(const QStringList &arguments)
 {
     m_settings = std::make_unique<QTemporaryDir>();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver never frees everything
+    environment.insert("QT_XCB_GL_INTEGRATION", "none"); // the driver leaks memory
     if (!arguments.contains("--simulate"))
         environment.insert("ORVCAM_SIMULATION", "1");
     environment.insert("XDG_CONFIG_HOME", m_settings->path());
@@ -59,7 +59,7 @@ void TestPickAndShow::returnsToThePicker()
     QVERIFY(
         m_program.waitForWindow(QString::fromUtf8("DualFrame 12M (T\xC3\xA9l\xC3\xA9objectif)")));
     QVERIFY(m_program.waitForWindow("CamConfig"));
-    m_program.closeWindow(); // and the tree with it
+    m_program.closeWindow(); // closes the tree, too
     QCOMPARE(m_program.status(), 0);
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 using DevicePtr = OrvCam::Released<OrvCam::Device>;
 
-/// A program that takes images with Aravis, on its own thread.
+/// A program that takes images with Aravis, on a thread of its own.
 class Host
 {
 public:
@@ -54,8 +54,8 @@ private:
 
 } // namespace
 
-/// Cameras that a host has opened with Aravis and is grabbing from: Aravis's own fake camera,
-/// served by another process in a private network namespace.
+/// Cameras that a host has opened with Aravis and is grabbing from. The camera is Aravis's own fake
+/// one, in another process in a private network namespace.
 class TestAdoptedDevice : public QObject
 {
     Q_OBJECT
@@ -115,7 +115,7 @@ void TestAdoptedDevice::sharedWhileStreaming()
     QVERIFY(params);
     QCOMPARE(params->GetIntegerValue("Width"),
              int64_t(arv_device_get_integer_feature_value(m_device, "Width", nullptr)));
-    // As fast as both can: what one writes the other reads, and no image is lost over it.
+    // Both write and read at full speed; each sees the other's values, and no image is lost.
     const int before = host.images();
     for (int step = 0; step < 24; ++step) {
         const int gain = step % 11;
@@ -163,7 +163,7 @@ void TestAdoptedDevice::unplugAndReplug()
     m_process.kill();
     m_process.waitForFinished();
 
-    // Aravis alone would wait for seconds.
+    // Aravis on its own would wait for seconds.
     QElapsedTimer timer;
     timer.start();
     QVERIFY(params->SetIntegerValue("GainRaw", 5) != OrvCam::Success);
@@ -207,7 +207,7 @@ void TestAdoptedDevice::noDevice()
     OrvCam_ReleaseSystem(system);
 }
 
-/// The simulated camera's description, read by another implementation.
+/// Another implementation reads the simulated camera's description.
 void TestAdoptedDevice::descriptionForOtherPrograms()
 {
     g_clear_object(&m_device);

@@ -19,7 +19,7 @@ using OrvGui::OrvFeatureBrowserPrivate;
 
 namespace {
 
-/// 5,000 features in 50 categories; each 50th is for gurus.
+/// 5,000 features in 50 categories; every 50th is at level Guru.
 class LargeNodeMap : public OrvGenApi::MemoryNodeMap
 {
 public:
@@ -39,7 +39,7 @@ public:
     int reads = 0;
 };
 
-/// A browser on the screen, and its parts.
+/// A visible browser and its parts.
 struct Shown
 {
     explicit Shown(GenApi::INodeMap &map)
@@ -77,7 +77,7 @@ struct Shown
         QTest::keyClicks(&line, text);
     }
 
-    /// Opens the context menu of the row, and triggers one of its actions.
+    /// Opens the context menu of the row and triggers one of its actions.
     void choose(const QModelIndex &row, const QString &name)
     {
         tree.scrollTo(row);
@@ -125,14 +125,14 @@ class TestOrvFeatureBrowser : public QObject
 private slots:
     void searchOfManyFeatures();
     void searchEndRestoresTree();
-    void higherLevel();
+    void switchesToHigherLevel();
     void favourites();
     void savedState();
-    void changes();
+    void changedFeatures();
     void undo();
     void undoWhileTyping();
     void changesOfOtherWindows();
-    void refusals();
+    void refusedWrites();
     void contextMenu();
     void selectorTable();
     void otherParameters();
@@ -140,7 +140,7 @@ private slots:
     void cleanupTestCase();
 };
 
-// The cost of a key is the number of features compared, read and laid out.
+// The cost of a key press is the number of features compared, read and laid out.
 void TestOrvFeatureBrowser::searchOfManyFeatures()
 {
     LargeNodeMap map;
@@ -154,7 +154,8 @@ void TestOrvFeatureBrowser::searchOfManyFeatures()
         QVERIFY(search.looks() <= rows);
         rows = qMax(0, int(search.find(shown.line.text()).features.size()));
     }
-    // 49, 149, … 4949, 490 to 499, 1490 to 1499, …, and 4900 to 4999; odd ones.
+    // "Odd" features with 49 in their number: 49, 149, … 4949, 490 to 499, 1490 to 1499, …, 4900 to
+    // 4999.
     QCOMPARE(shown.part<QLabel>("countLabel").text(), QString("%1 found").arg(rows));
     QCOMPARE(rows, 124);
     QCOMPARE(map.reads, reads);
@@ -184,7 +185,7 @@ void TestOrvFeatureBrowser::searchEndRestoresTree()
                                          "Category31", "Category41"}));
     QVERIFY(shown.tree.isExpanded(shown.model().index(0, 0)));
     QVERIFY(shown.tree.isFirstColumnSpanned(0, QModelIndex()));
-    QCOMPARE(QByteArray(shown.browser.saveState()), state); // as it is without a search
+    QCOMPARE(QByteArray(shown.browser.saveState()), state); // the same as without a search
     QTest::keyClick(&shown.line, Qt::Key_Return);
     QCOMPARE(shown.tree.currentIndex().data().toString(), QString("Feature 123"));
     QTest::keyClick(&shown.tree, Qt::Key_Escape);
@@ -195,7 +196,7 @@ void TestOrvFeatureBrowser::searchEndRestoresTree()
     for (int row = 0; row < 50; ++row)
         QVERIFY(shown.tree.isFirstColumnSpanned(row, QModelIndex()));
 
-    // A category that is found keeps what is in it; the descriptions can be left out.
+    // A matching category keeps its features. The search in descriptions can be switched off.
     shown.type("category12");
     QCOMPARE(shown.model().rowCount(), 1);
     QCOMPARE(shown.model().rowCount(shown.model().index(0, 0)), 100);
@@ -207,7 +208,7 @@ void TestOrvFeatureBrowser::searchEndRestoresTree()
     QCOMPARE(expansion(shown.tree), before);
 }
 
-void TestOrvFeatureBrowser::higherLevel()
+void TestOrvFeatureBrowser::switchesToHigherLevel()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -241,7 +242,7 @@ void TestOrvFeatureBrowser::favourites()
     shown.tree.setCurrentIndex(group);
     QCOMPARE(shown.part<QTextBrowser>("whatsThisLabel").toPlainText(), QString());
 
-    // Either row writes, and shows the written value.
+    // Both rows write the feature and show the written value.
     const QModelIndex starred = shown.model().index(0, 1, group);
     QModelIndex other;
     for (int row = 1; row < shown.model().rowCount(); ++row) {
@@ -252,14 +253,14 @@ void TestOrvFeatureBrowser::favourites()
     QSignalSpy changed(&shown.model(), &QAbstractItemModel::dataChanged);
     QVERIFY(shown.model().setData(starred, 6.0));
     QCOMPARE(other.data().toDouble(), 6.0);
-    const auto isTold = [&](const QModelIndex &cell) {
+    const auto isNotified = [&](const QModelIndex &cell) {
         return std::any_of(changed.begin(), changed.end(), [&](const QList<QVariant> &arguments) {
             return arguments.at(0).toModelIndex().parent() == cell.parent();
         });
     };
-    QVERIFY(isTold(starred) && isTold(other));
+    QVERIFY(isNotified(starred) && isNotified(other));
 
-    // An editor in a row that is removed writes and closes.
+    // An open editor writes its value and closes when its row is removed.
     shown.browser.setVisibility(OrvGui::Basic);
     QCOMPARE(shown.names(shown.model().index(0, 0)), QStringList("Gain"));
     shown.choose(shown.model().index(0, 0, shown.model().index(0, 0)), "goToGain");
@@ -279,7 +280,7 @@ void TestOrvFeatureBrowser::savedState()
     shown.action("searchTexts").setChecked(false);
     const QByteArray saved = shown.browser.saveState();
 
-    // Into one that has no features yet, and gets them later.
+    // A browser without features keeps the state and applies it when it gets its features.
     OrvFeatureBrowser second;
     QVERIFY(second.restoreState(saved));
     QCOMPARE(second.visibility(), OrvGui::Expert);
@@ -289,14 +290,15 @@ void TestOrvFeatureBrowser::savedState()
     QCOMPARE(expansion(*second.treeView()), expansion(shown.tree));
     QCOMPARE(second.treeView()->columnWidth(0), 222);
 
-    // A camera of another model has favourites of its own, and the first keeps its.
+    // Each camera model has favourites of its own.
     LargeNodeMap other;
     second.setParams(&other);
     QVERIFY(second.treeView()->model()->index(0, 0).data().toString() != "Favourites");
     second.setParams(&map);
     QCOMPARE(second.treeView()->model()->index(0, 0).data().toString(), QString("Favourites"));
 
-    // A tree reads its part; what a tree saves is read, too, and takes no favourites away.
+    // A tree restores its part of the state. A browser accepts a tree's state, and keeps its
+    // favourites.
     OrvGui::OrvGenParamTreeView tree(&map, nullptr);
     tree.setVisibility(OrvGui::Expert);
     tree.loadState(saved);
@@ -323,11 +325,11 @@ void TestOrvFeatureBrowser::savedState()
     }
     QVERIFY(!second.restoreState(nullptr));
     second.loadState("nonsense");
-    QVERIFY(second.restoreState(own)); // of a browser that never had features
+    QVERIFY(second.restoreState(own)); // saved by a browser without features
     QVERIFY(second.restoreState(second.saveState()));
 }
 
-void TestOrvFeatureBrowser::changes()
+void TestOrvFeatureBrowser::changedFeatures()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -350,7 +352,7 @@ void TestOrvFeatureBrowser::changes()
     shown.choose(shown.cell("PixelFormat", 0), "putBack");
     QCOMPARE(map.node("PixelFormat")->GetName(), GenICam::gcstring("PixelFormat"));
     QTRY_COMPARE(shown.names(shown.model().index(0, 0)), QStringList("Width"));
-    // Back by hand.
+    // The old value is written again by hand.
     QVERIFY(shown.model().setData(shown.cell("Width"), 1280));
     QTRY_VERIFY(!shown.cell("Width").isValid());
     shown.action("onlyChanged").setChecked(false);
@@ -362,7 +364,7 @@ void TestOrvFeatureBrowser::changes()
     QVERIFY(!shown.isChanged("ExposureTime") && !shown.action("putBackAll").isEnabled());
 }
 
-/// Each value where it was written, and as one step what the browser writes in one go.
+/// Undo restores each value at its selector position. A single action of the browser is one step.
 void TestOrvFeatureBrowser::undo()
 {
     SampleNodeMap map;
@@ -376,7 +378,7 @@ void TestOrvFeatureBrowser::undo()
     };
     QVERIFY(!shown.action("actionUndo").isEnabled());
     QVERIFY(shown.browser.menu()->actions().contains(&shown.action("actionRedo")));
-    set("ExposureTime", 1.0 / 3 + 100); // more digits than its text has
+    set("ExposureTime", 1.0 / 3 + 100); // more digits than the cell shows
     set("Gain", 6.0);
     set("GainSelector", 1);
     set("DeviceReset", true);
@@ -385,7 +387,7 @@ void TestOrvFeatureBrowser::undo()
     QCOMPARE(gains[0], 1.5);
     QVERIFY(!shown.isChanged("ExposureTime"));
 
-    shown.action("actionUndo").trigger(); // of putting back, the selector's place apart
+    shown.action("actionUndo").trigger(); // undoes "put back" except for the selector
     QCOMPARE(gains[0], 6.0);
     QCOMPARE(map.number("ExposureTime").GetValue(), 500.0);
     QVERIFY(shown.isChanged("ExposureTime"));
@@ -400,7 +402,7 @@ void TestOrvFeatureBrowser::undo()
     shown.action("actionUndo").trigger();
     QCOMPARE(gains[0], 1.5);
     QCOMPARE(gains[1], 3.0);
-    QCOMPARE(selector.GetIntValue(), int64_t(1)); // where it was
+    QCOMPARE(selector.GetIntValue(), int64_t(1)); // the former position
     QVERIFY(shown.toolTip("Gain").isEmpty() || !shown.toolTip("Gain").contains("Earlier"));
     shown.action("actionUndo").trigger();
     QCOMPARE(map.number("ExposureTime").GetValue(), 10000.0);
@@ -436,13 +438,13 @@ void TestOrvFeatureBrowser::undoWhileTyping()
     for (int i = 0; i < 5 && editor && editor->text() != "640"; ++i)
         keys(editor);
     QVERIFY(editor && editor->text() == "640");
-    keys(editor); // nothing is pending any more
+    keys(editor); // no input is pending, so the keys undo the last write
     QTRY_COMPARE(map.integer("Width").GetValue(), int64_t(1280));
     QVERIFY(!shown.isChanged("Width"));
-    QCoreApplication::processEvents(); // what belongs to the key
+    QCoreApplication::processEvents(); // the deferred part of the undo
 }
 
-/// Writes of other windows to the same camera are changes, too.
+/// Writes by other windows of the same camera count as changes, too.
 void TestOrvFeatureBrowser::changesOfOtherWindows()
 {
     SampleNodeMap map;
@@ -463,7 +465,7 @@ void TestOrvFeatureBrowser::changesOfOtherWindows()
     QVERIFY(!shown.isChanged("Width") && !shown.isChanged("ExposureTime"));
     QVERIFY(!shown.action("putBackAll").isEnabled());
 
-    // Replacing values in a way that cannot be undone leaves no step.
+    // Writes that cannot be undone clear the history.
     shown.action("actionRedo").trigger();
     QVERIFY(shown.action("actionRedo").isEnabled());
     journal->startAnew({{map.GetNode("Gain"), "3", "6", {{"GainSelector", "Red", "Red"}}}});
@@ -474,7 +476,7 @@ void TestOrvFeatureBrowser::changesOfOtherWindows()
     QVERIFY(!shown.toolTip("Gain").contains("Earlier"));
 }
 
-void TestOrvFeatureBrowser::refusals()
+void TestOrvFeatureBrowser::refusedWrites()
 {
     SampleNodeMap map;
     Shown shown(map);
@@ -491,7 +493,7 @@ void TestOrvFeatureBrowser::refusals()
     QVERIFY(shown.model().setData(shown.cell("Width"), 640));
     QVERIFY(!isMarked("Width"));
 
-    // A feature that cannot be restored stays changed, with the reason.
+    // A feature that cannot be restored stays changed and shows the reason.
     map.integer("Width").onWrite(
         [] { throw GenICam::RuntimeException("The camera is <b>busy</b>", __FILE__, __LINE__); });
     shown.choose(shown.cell("Width", 0), "putBack");
@@ -574,12 +576,12 @@ void TestOrvFeatureBrowser::selectorTable()
     QCOMPARE(selector.GetIntValue(), int64_t(0));
     QVERIFY(!shown.isChanged("Gain"));
     QCOMPARE(shown.toolTip("Gain"), QString("Earlier value: 3 dB (Gain Selector: Red)"));
-    enter(1, "13"); // no valid value
+    enter(1, "13"); // not a valid value
     QCOMPARE(gains[1], 12.0);
     QVERIFY(!table.item(1, 0)->icon().isNull());
     QVERIFY(!table.item(1, 0)->toolTip().isEmpty());
 
-    // The tree may be given other parameters while the table is open, even while it is read.
+    // The tree may get other parameters while the table is open, and even while the table is read.
     window->readAgain();
     shown.browser.clearParams();
     QVERIFY(!shown.browser.findChild<OrvGui::SelectorTable *>());
@@ -593,7 +595,7 @@ void TestOrvFeatureBrowser::otherParameters()
     Shown shown(map);
     QVERIFY(shown.model().setData(shown.cell("Width"), 640));
     shown.type("width");
-    shown.browser.setParams(other.get()); // the search goes on
+    shown.browser.setParams(other.get()); // the search continues
     QCOMPARE(shown.model().rowCount(), 0);
     QVERIFY(!shown.action("putBackAll").isEnabled());
     QTest::keyClick(&shown.line, Qt::Key_Escape);
@@ -631,7 +633,7 @@ void TestOrvFeatureBrowser::cFunctions()
     DestroyFeatureBrowser(browser);
 }
 
-// The button that clears a line fades in; the animation of one that has gone ends by itself.
+// Qt fades the clear button of a line edit; the animation deletes itself when it ends.
 void TestOrvFeatureBrowser::cleanupTestCase()
 {
     QTest::qWait(250);

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// The widget or action of that name, which is there.
+/// The widget or action of that name, which must exist.
 template<class T = QWidget>
 T *part(const QWidget &window, const QByteArray &name)
 {
@@ -26,7 +26,7 @@ inline void throwRefusal()
     throw GenICam::AccessException("no", __FILE__, __LINE__);
 }
 
-/// Enters a number into a spin box or into the one that the widget consists of.
+/// Types a number into a spin box, or into the one that the widget contains.
 inline void type(QWidget *widget, const QString &number, bool enter = true)
 {
     auto *spinBox = qobject_cast<QAbstractSpinBox *>(widget);
@@ -39,23 +39,23 @@ inline void type(QWidget *widget, const QString &number, bool enter = true)
         QTest::keyClick(spinBox, Qt::Key_Return);
 }
 
-/// Clicks where also the mark of a check box or of a radio button is.
+/// Clicks where check boxes and radio buttons have their marks.
 inline void click(QWidget *button)
 {
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
 }
 
-/// Turns the wheel down by a notch.
+/// Turns the wheel down by one notch.
 inline void scroll(QWidget *widget)
 {
     const QPointF point = widget->rect().center();
     QWheelEvent event(point, widget->mapToGlobal(point.toPoint()), {}, QPoint(0, -120),
                       Qt::NoButton, {}, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event); // others do not go on to the parent
+    QSpontaneKeyEvent::setSpontaneous(&event); // otherwise it does not propagate
     qApp->notify(widget, &event);
 }
 
-/// Where the handle of the slider is, to be pressed and dragged.
+/// The centre of the slider's handle.
 inline QPoint handleOf(const QSlider *slider)
 {
     QStyleOptionSlider option;
@@ -70,7 +70,7 @@ inline QPoint handleOf(const QSlider *slider)
         .center();
 }
 
-/// Drags with the left button, by as many steps as there are between the points.
+/// Presses the left button and drags it by `step`, `count` times. The button stays pressed.
 inline void dragBy(
     QSlider *slider, QPoint from, QPoint step, int count,
     const std::function<void()> &afterEach = [] {})
@@ -83,8 +83,8 @@ inline void dragBy(
     }
 }
 
-/// Closes the error boxes that appear, as a user would, and keeps their texts. Each stays open for
-/// `closeDelay` (ms), so that timers and notifications run.
+/// Closes error boxes as a user would, and records their texts. Each stays open for `closeDelay`
+/// (ms), so that timers and notifications run.
 class ErrorBoxes : public QObject
 {
 public:
@@ -116,7 +116,7 @@ private:
     QTimer m_timer;
 };
 
-/// A device with the parameters of a node map, or with none but an error.
+/// A device with the parameters of a node map, or with an error in place of parameters.
 class NodeMapDevice : public FakeDevice
 {
 public:
@@ -172,8 +172,7 @@ private:
     const QByteArray m_name;
 };
 
-/// The parameters of another array, apart from some that the camera is said to lack and from one
-/// that takes the place of its own.
+/// The parameters of another array, but some are missing and one is replaced.
 class PartialArray : public OrvGenParam::Array
 {
 public:
@@ -237,7 +236,7 @@ public:
     PartialArray part;
 };
 
-/// A camera as its node map knows it.
+/// A camera and access to its node map.
 struct DescribedDevice
 {
     explicit DescribedDevice(std::unique_ptr<OrvDescription::NodeMap> nodeMap)
@@ -245,7 +244,7 @@ struct DescribedDevice
     {
     }
 
-    /// Changes a feature as another client would, whose changes the camera reports.
+    /// Changes a feature like another client, of whose writes the camera notifies this one.
     void set(const QByteArray &feature, const QByteArray &value)
     {
         try {
@@ -259,7 +258,7 @@ struct DescribedDevice
         return GenApi::CValuePtr(map->GetNode(feature.constData()))->ToString().c_str();
     }
 
-    /// All writes to the camera since it was created.
+    /// The number of all writes to the camera since it was created.
     quint64 writes() const { return map->transactions().writes; }
 
     std::unique_ptr<OrvDescription::NodeMap> map;

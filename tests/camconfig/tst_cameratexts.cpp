@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Markup, a line break, and marks that turn the writing direction.
+/// Markup, a line break, and control characters for the writing direction.
 const char *const evil = "<img src=x><h1>E\nvil\u202Egnp.exe\u2028";
 
 QByteArray inXml(const char *text)
@@ -82,7 +82,7 @@ QStringList cellsOf(const QAbstractItemView &view)
     return texts;
 }
 
-/// All that a widget shows, with what it would be taken for markup of.
+/// Checks all texts of a widget; none may be laid out as markup.
 void check(const QWidget &widget)
 {
     QStringList texts{widget.windowTitle(), widget.toolTip(), widget.accessibleDescription()};
@@ -119,7 +119,7 @@ void check(const QWidget &widget)
 
 } // namespace
 
-/// A camera whose texts contain markup and control characters. ORV_PICTURES=FOLDER keeps a picture
+/// Cameras whose texts contain markup and control characters. ORV_PICTURES=FOLDER saves a picture
 /// of each window.
 class TestCameraTexts : public QObject
 {
@@ -128,8 +128,8 @@ class TestCameraTexts : public QObject
 private slots:
     void initTestCase();
     void cleanupTestCase() { m_camera.reset(); }
-    void windows();
-    void failure();
+    void windowsShowPlainText();
+    void failureShowsPlainText();
 
 private:
     static void checkWindow(QWidget &window, const QString &name);
@@ -159,7 +159,7 @@ void TestCameraTexts::checkWindow(QWidget &window, const QString &name)
         check(*widget);
 }
 
-void TestCameraTexts::windows()
+void TestCameraTexts::windowsShowPlainText()
 {
     OrvGui::OrvCameraSelectorDialog picker(m_camera->system.get());
     auto *cameras = picker.findChild<QTreeView *>("cameraTreeView");
@@ -193,8 +193,8 @@ void TestCameraTexts::windows()
     }
 }
 
-/// The dialogs during the opening of a camera, and after its failure.
-void TestCameraTexts::failure()
+/// The progress dialog while a camera is opened, and the message after a failure.
+void TestCameraTexts::failureShowsPlainText()
 {
     (*m_camera)->setMood("delay", 300);
     OrvGui::OrvCamConfigOpening opening(*m_camera->info, OrvCam::AccessControl);

@@ -13,7 +13,7 @@ using namespace OrvGui;
 
 namespace {
 
-/// A camera that counts what is read and written, feature by feature, and can be made to fail.
+/// A camera that counts reads and writes per feature and can be made to fail.
 struct CountingCamera
 {
     CountingCamera() { pulseMode.change(7); }
@@ -54,7 +54,7 @@ void click(const QWidget &dialog, const char *name)
     ::click(part(dialog, name));
 }
 
-/// Opens the list and clicks on the entry, as a user does.
+/// Opens the list and clicks on the entry.
 void choose(QComboBox *box, const QString &text)
 {
     const int row = box->findText(text);
@@ -62,7 +62,7 @@ void choose(QComboBox *box, const QString &text)
     QTest::mouseClick(box, Qt::LeftButton);
     const QModelIndex item = box->model()->index(row, 0);
     QVERIFY(box->view()->isVisible());
-    QTest::qWait(QApplication::doubleClickInterval() + 10); // what comes sooner only opens the list
+    QTest::qWait(QApplication::doubleClickInterval() + 10); // an earlier click only opens the list
     QTest::mouseMove(box->view()->viewport(), box->view()->visualRect(item).center());
     QTest::mouseClick(box->view()->viewport(), Qt::LeftButton, {},
                       box->view()->visualRect(item).center());
@@ -149,7 +149,7 @@ void TestFeatureDialogs::triggerRules()
         sim.set("TriggerMode", "Off");
     }
 
-    // A camera whose command does not know when it makes sense; only this very name counts.
+    // The command of this camera is always available, so the dialog's rule applies, by source name.
     CountingCamera camera;
     camera.mode.change(1);
     camera.source.change(2);
@@ -187,7 +187,7 @@ void TestFeatureDialogs::pulseDerivedValues()
     QCOMPARE(shown(), QStringList({"-1500", "0.000000"}));
     camera.period.change(3);
     QCOMPARE(shown(), QStringList({"-1497", "333333.333333"}));
-    camera.granularity.change(3); // no part of it
+    camera.granularity.change(3); // not part of the formula
     QCOMPARE(shown(), QStringList({"-1497", "333333.333333"}));
 }
 
@@ -233,7 +233,7 @@ void TestFeatureDialogs::pulseAccess()
     dialog.show();
     const auto state = [&] { return disabled(dialog, pulseNames); };
     const QStringList count = list({"spBoxNumPulses"});
-    QCOMPARE(state(), count); // nothing to count
+    QCOMPARE(state(), count); // a single pulse has no number
     sim.set("PulseGenMode", "Burst");
     QCOMPARE(state(), QStringList());
     click(dialog, "pushBtnPulseEnable");
@@ -241,7 +241,7 @@ void TestFeatureDialogs::pulseAccess()
         list({"cmBoxGranularity", "radioBtnContinious", "radioBtnSend", "spBoxNumPulses"});
     QCOMPARE(state(), whileRunning);
 
-    // The burst ends by itself, which polling finds out.
+    // The burst ends by itself; polling notices it.
     sim.camera.advance(60);
     sim.map->Poll(200);
     QVERIFY(!part<QPushButton>(dialog, "pushBtnPulseEnable")->isChecked());
@@ -253,7 +253,7 @@ void TestFeatureDialogs::pulseAccess()
 void TestFeatureDialogs::missingFeatures()
 {
     MemoryNodeMap nothing;
-    nothing.addInteger("TriggerMode"); // of another kind
+    nothing.addInteger("TriggerMode"); // has another type
     NodeMapDevice empty(nothing);
     CountingCamera full;
     full.mode.change(1);
@@ -268,7 +268,7 @@ void TestFeatureDialogs::missingFeatures()
         dialog->SetDevice(&empty);
         QVERIFY(dialog->isEnabled());
     }
-    // Nothing that the former camera had on counts for this one.
+    // The state of the former camera has no effect.
     QCOMPARE(disabled(trigger, triggerNames), list(triggerNames));
     QCOMPARE(disabled(pulse, pulseNames), list(pulseNames));
     QVERIFY(shows(pulse, "lblPulseEnable", ":/icons/res/redball.ico"));
@@ -276,7 +276,7 @@ void TestFeatureDialogs::missingFeatures()
     QCOMPARE(part<QLineEdit>(pulse, "lineEditFreq")->text(), QStringLiteral("0.000000"));
     QCOMPARE(part<QLineEdit>(pulse, "lineEditDelay")->text(), QStringLiteral("0"));
 
-    // The dialog's own rule enables boxes of which the camera knows nothing.
+    // The dialog's own rule also enables boxes whose features are missing.
     MemoryNodeMap little;
     little.addEnumeration("TriggerMode", {{"Off", 0}, {"On", 1}}).change(1);
     NodeMapDevice simple(little);

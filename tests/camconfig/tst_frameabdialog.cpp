@@ -40,7 +40,7 @@ public:
     int writes() const { return int(SimulatedDevice::writes()); }
 };
 
-/// A camera with little, which can be made to refuse.
+/// A camera with few features, which can refuse writes.
 struct PlainCamera
 {
     PlainCamera()
@@ -64,7 +64,7 @@ struct PlainCamera
     std::unique_ptr<NodeMapDevice> device;
 };
 
-/// The frame A/B dialog and how a user works with it.
+/// The frame A/B dialog and the actions of its user.
 class Dialog : public OrvCamConfigFrameABDialog
 {
 public:
@@ -79,7 +79,7 @@ public:
     bool isChecked(const char *name) const { return get<QRadioButton>(name)->isChecked(); }
     int longestTime() const { return get("spBoxExpTime")->property("maximum").toInt(); }
     int shown(const char *name) const { return get(name)->property("value").toInt(); }
-    /// What the widget shows, or the text of the checked button of a group.
+    /// The value of the widget, or the text of the checked button of a group.
     QString text(const Names &widgets) const
     {
         for (const char *name : widgets) {
@@ -135,7 +135,7 @@ public:
             QCoreApplication::processEvents();
     }
 
-    /// How the dialog differs from what the camera holds; empty when it does not.
+    /// The differences between the dialog and the camera; empty if there are none.
     QStringList differences(Camera &camera);
 
     void wantsCustom(const Area &area) { m_customArea = area; }
@@ -155,7 +155,7 @@ private:
 struct Binding
 {
     const char *feature;
-    Names widgets; ///< one, or the buttons of a group
+    Names widgets; ///< one widget, or the buttons of a group
 
     bool isOf(const QByteArray &widget) const
     {
@@ -192,7 +192,7 @@ const Binding bindings[] = {
     {"Frame_AnalogGain",
      {"radioBtnAGain1x", "radioBtnAGain2x", "radioBtnAGain4x", "radioBtnAGain8x"}}};
 
-/// Those of the bindings with widgets of a kind.
+/// The bindings to one kind of widget.
 QList<Binding> bindingsOf(const char *prefix)
 {
     QList<Binding> found;
@@ -211,7 +211,7 @@ Area areaOf(Camera &camera)
             camera.value("Frame_Width"), camera.value("Frame_Height")};
 }
 
-/// Which area of the 4096 by 3072 sensor the camera holds, as the index of its button.
+/// The index of the button that matches the area of the 4096 by 3072 sensor.
 int presetOf(Camera &camera)
 {
     const Area area = areaOf(camera);
@@ -284,7 +284,7 @@ QStringList Dialog::differences(Camera &camera)
     if (std::abs(gain() - factor) > 0.125)
         all << QString("The gain is %1, not %2").arg(gain()).arg(factor);
 
-    // Custom may stay if the user has chosen it for just that area.
+    // Custom may stay checked if the user has chosen it for exactly this area.
     if (areaOf(camera) != m_customArea)
         m_customArea = {};
     const char *const preset = presetButtons[presetOf(camera)];
@@ -313,10 +313,10 @@ private Q_SLOTS:
     void initTestCase();
     void withoutACamera();
     void afterACameraWithOneFrame();
-    void formerCameraIsLeft();
+    void formerCameraIsReleased();
     void exposureTimeIsSplit();
-    void exposureTimeAtOddCameras_data();
-    void exposureTimeAtOddCameras();
+    void exposureTimeOfUnusualCameras_data();
+    void exposureTimeOfUnusualCameras();
     void fixedPeriodIsConverted();
     void gainIsSplit();
     void draggingWritesOnceAtTheEnd();
@@ -358,7 +358,7 @@ void TestFrameABDialog::withoutACamera()
     QCOMPARE(dialog.get<QLineEdit>("lineEditFrameCurrentSize")->text(), QString());
 
     camera.device.error = OrvCam::Success;
-    for (int i = 0; i < 2; ++i) // must not double anything
+    for (int i = 0; i < 2; ++i) // a second call must not bind anything twice
         dialog.SetDevice(&camera.device);
     Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
@@ -375,7 +375,7 @@ void TestFrameABDialog::afterACameraWithOneFrame()
     Camera camera;
     camera.choose("FrameMode", "DualVideo");
     Dialog dialog(&camera.device);
-    dialog.clickTab(1); // the form stands there
+    dialog.clickTab(1); // the form moves to that tab
     for (int i = 0; i < 2; ++i) {
         dialog.SetDevice(&single);
         Dialog::processEvents();
@@ -388,9 +388,9 @@ void TestFrameABDialog::afterACameraWithOneFrame()
     }
 }
 
-void TestFrameABDialog::formerCameraIsLeft()
+void TestFrameABDialog::formerCameraIsReleased()
 {
-    // The last one is unbound by the output mode, too.
+    // The output mode unbinds the last feature, too.
     for (const char *feature :
          {"Frame_ExposureLines", "Frame_DigitalFineGain", "SensorWidth", "NumberOfFrameAs"}) {
         CountedInt number(feature);
@@ -424,8 +424,8 @@ void TestFrameABDialog::exposureTimeIsSplit()
     QCOMPARE(camera.writes(), writes);
     QTest::keyClick(dialog.editor("spBoxExpTime"), Qt::Key_Return);
 
-    // A time that is longer than the period is not shortened by being shown, and the longest time
-    // of a period is one that the camera has no lines for.
+    // Showing a time that exceeds the period must not shorten it. The longest time of a period
+    // needs more lines than the camera allows.
     camera.set("Frame_ExposureLines", 5000);
     camera.turn("Frame_FixedFramePeriodEnable", true);
     camera.set("Frame_FixedFramePeriodValue", 100);
@@ -440,7 +440,7 @@ void TestFrameABDialog::exposureTimeIsSplit()
     }
 }
 
-void TestFrameABDialog::exposureTimeAtOddCameras_data()
+void TestFrameABDialog::exposureTimeOfUnusualCameras_data()
 {
     QTest::addColumn<qint64>("clock");
     QTest::addColumn<qint64>("lineTime");
@@ -456,7 +456,7 @@ void TestFrameABDialog::exposureTimeAtOddCameras_data()
     QTest::newRow("negative line time") << 160LL << -1LL << 0 << 20LL << 30LL << 0;
 }
 
-void TestFrameABDialog::exposureTimeAtOddCameras()
+void TestFrameABDialog::exposureTimeOfUnusualCameras()
 {
     QFETCH(qint64, clock);
     QFETCH(qint64, lineTime);
@@ -499,7 +499,7 @@ void TestFrameABDialog::fixedPeriodIsConverted()
     QCOMPARE(dialog.shown(box), 10006);
     QCOMPARE(dialog.longestTime(), 10006);
 
-    // Each arrow is another number of lines, up and down again.
+    // Each key press changes the number of lines by one.
     QVector<qint64> lines;
     for (const Qt::Key key :
          {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}) {
@@ -527,18 +527,18 @@ void TestFrameABDialog::gainIsSplit()
     const int writes = camera.writes();
     camera.set(coarse, 2);
     camera.set(fine, 17);
-    QCOMPARE(dialog.gain(), 5.125); // 5.0625 on the grid of the box
+    QCOMPARE(dialog.gain(), 5.125); // 5.0625, rounded to the grid of the box
     QCOMPARE(parts(), qMakePair(Q_INT64_C(2), Q_INT64_C(17)));
     QCOMPARE(camera.writes(), writes + 2);
 
-    // An arrow leads on even where the camera knows no half steps.
+    // The arrow keys work although the camera has no half steps.
     dialog.type("spBoxDigitalGain", QStringLiteral("20"));
     for (int i = 0; i < 8; ++i)
         QTest::keyClick(dialog.editor("spBoxDigitalGain"), Qt::Key_Up);
     QCOMPARE(dialog.gain(), 21.0);
     QCOMPARE(parts(), qMakePair(Q_INT64_C(4), Q_INT64_C(20)));
 
-    // A part that the camera lacks is 0.
+    // The missing part counts as 0.
     camera.device.part.missing = {coarse};
     dialog.SetDevice(&camera.device);
     QCOMPARE(ends(), qMakePair(1.0, 1.984375));
@@ -553,7 +553,7 @@ void TestFrameABDialog::gainIsSplit()
     dialog.SetDevice(&camera.device);
     QVERIFY(!slider->isEnabled());
 
-    // The box rounds its ends, which are those of the camera.
+    // The box rounds its limits; the camera gets the exact ones.
     PlainCamera plain;
     dialog.SetDevice(plain.device.get());
     dialog.type("spBoxDigitalGain", QStringLiteral("1.984"));
@@ -582,7 +582,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     Camera camera;
     camera.turn("Frame_FixedFramePeriodEnable", true);
     Dialog dialog(&camera.device);
-    // The exposure time has its slider in a window of its own.
+    // The slider of the exposure time is a separate window.
     const int writes = camera.writes();
     auto *box = dialog.get<QtOrvSpinBox>("spBoxExpTime");
     box->toolButton()->click();
@@ -591,7 +591,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     const QPoint to(slider->width() / 2, slider->height() / 5);
     dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
     QCOMPARE(camera.writes(), writes);
-    camera.set("Frame_ExposureLines", 5); // must not disturb the user
+    camera.set("Frame_ExposureLines", 5); // must not move the handle
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
     QVERIFY(camera.value("Frame_ExposureLines") != 5);
     QVERIFY(camera.writes() <= writes + 3);
@@ -599,8 +599,7 @@ void TestFrameABDialog::draggingWritesOnceAtTheEnd()
     Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
 
-    // A handle that is let go where it was taken writes nothing, although the time and the gain
-    // that are shown are not just those of the camera.
+    // Releasing a handle without moving it writes nothing, even if the box shows a rounded value.
     PlainCamera plain;
     plain.hasPeriod.change(true);
     plain.lines.change(500);
@@ -635,20 +634,20 @@ void TestFrameABDialog::frameChangeDiscardsTyping()
         return both;
     };
 
-    // A number that is not entered counts for neither frame when the user turns to the other tab.
+    // A number that is not committed reaches neither frame when the user selects the other tab ...
     dialog.type("spBoxBlackLevel", "200", false);
     dialog.clickTab(1);
     QCOMPARE(dialog.shown("spBoxBlackLevel"), 80);
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
-    // Nor when another program does.
+    // ... or when another program does.
     dialog.type("spBoxBlackLevel", "300", false);
     camera.choose("FrameAB_Selector", "FrameA");
     Dialog::processEvents();
     VERIFY_SAME(dialog, camera);
     QCOMPARE(levels(), (QVector<qint64>{64, 80}));
 
-    // Nor does a dragged value.
+    // The same holds for a dragged value.
     auto *slider = dialog.get("spBoxBlackLevel")->findChild<QSlider *>();
     const QPoint to(slider->width() / 2, slider->height() / 2);
     dragBy(slider, handleOf(slider), to - handleOf(slider), 1);
@@ -665,7 +664,7 @@ void TestFrameABDialog::otherProgramSelectsTheOtherFrame()
     Camera camera;
     Dialog dialog(&camera.device);
     const ErrorBoxes boxes;
-    // It can read that frame; the selection is restored afterwards, once.
+    // The other program can read that frame; the dialog then restores the selection once.
     const int writes = camera.writes();
     camera.choose("FrameAB_Selector", "FrameB");
     QCOMPARE(camera.symbol("FrameAB_Selector"), QString("FrameB"));
@@ -674,7 +673,7 @@ void TestFrameABDialog::otherProgramSelectsTheOtherFrame()
     QCOMPARE(camera.writes(), writes + 2);
     VERIFY_SAME(dialog, camera);
 
-    // Two dialogs do not quarrel.
+    // Two dialogs must not restore the selection in turns for ever.
     Dialog second(&camera.device);
     camera.choose("FrameMode", "FrameB");
     Dialog::processEvents();
@@ -739,9 +738,9 @@ void TestFrameABDialog::scrollsOnASmallScreen()
     Dialog dialog(&camera.device);
     const QSize screen = dialog.windowHandle()->screen()->availableSize();
     auto *area = dialog.get<QScrollArea>("scrollArea");
-    QVERIFY(area->widget()->width() > screen.width()); // or this shows nothing
+    QVERIFY(area->widget()->width() > screen.width()); // precondition of this test
     QVERIFY(dialog.width() <= screen.width() && dialog.height() <= screen.height());
-    // The Tab key brings what it leads to into view.
+    // Tab scrolls to the next widget.
     auto *last = qobject_cast<QWidget *>(dialog.editor("spBoxWdrE3"));
     dialog.click("chBoxWdrEnable");
     dialog.editor("spBoxWdrE2")->setFocus();
@@ -775,7 +774,7 @@ void TestFrameABDialog::areaPresets()
         }
     }
 
-    // Custom stays until the area is another one; by hand a preset can be met as well.
+    // Custom stays checked until the area changes. An area entered by hand may match a preset.
     int writes = camera.writes();
     dialog.click("radioBtnCustomFrame");
     QVERIFY(dialog.isChecked("radioBtnCustomFrame"));
@@ -786,7 +785,7 @@ void TestFrameABDialog::areaPresets()
     dialog.type("spBoxFrameOffsetX", 128);
     QVERIFY(dialog.isChecked("radioBtnQFHDFrame"));
 
-    // While images are taken the size cannot be changed.
+    // The size is locked during acquisition.
     const GenApi::CIntegerPtr locked(camera.map->GetNode("TLParamsLocked"));
     locked->SetValue(1);
     QVERIFY(!dialog.isOn("radioBtnFullFrame") && !dialog.isOn("radioBtnQFHDFrame"));
@@ -795,7 +794,7 @@ void TestFrameABDialog::areaPresets()
     QVERIFY(dialog.isOn("radioBtnFullFrame") && dialog.isOn("radioBtnQFHDFrame"));
     QCOMPARE(boxes.texts, none);
 
-    // A step that is refused is the last one, each time.
+    // A preset ends at the first write that is refused.
     PlainCamera plain;
     const auto add = [&](const char *name, int value, int end) -> OrvGenApi::MemoryInteger & {
         auto &node = plain.map.addInteger(name, value);
@@ -906,14 +905,14 @@ void TestFrameABDialog::missingFeatures()
     dialog.SetDevice(&camera.device);
     const ErrorBoxes boxes;
 
-    // It is not made up for by what the dialog has had from a camera that had it.
+    // Values from a camera with the feature must not replace the missing one.
     QVERIFY(dialog.tabs()->isTabEnabled(0));
     if (dialog.isOn("spBoxExpTime"))
         QCOMPARE(dialog.longestTime(), Dialog(&camera.device).longestTime());
     for (const char *widget : widgets)
         QVERIFY2(!dialog.isOn(widget), widget);
     if (missing != "FrameAB_Selector") {
-        // The rest goes on.
+        // The other controls still work.
         dialog.type("spBoxExpTime", 500);
         dialog.click("radioBtnQFHDFrame");
         dialog.clickTab(1);
@@ -943,7 +942,7 @@ void TestFrameABDialog::refusedWrites()
     Dialog dialog(&device);
     ErrorBoxes boxes;
 
-    // What could not be written is not claimed to be the exposure time.
+    // A refused write must not show up as the exposure time.
     plain.lines.onWrite(throwRefusal);
     dialog.type("spBoxExpTime", 1000);
     QCOMPARE(boxes.texts.size(), 1);
@@ -956,15 +955,15 @@ void TestFrameABDialog::refusedWrites()
     plain.fine.onWrite(throwRefusal);
     dialog.type("spBoxDigitalGain", QStringLiteral("1.5"));
     QCOMPARE(boxes.texts.size(), 1);
-    QCOMPARE(dialog.gain(), 1.203); // of 1.25, on the grid from 1.078
+    QCOMPARE(dialog.gain(), 1.203); // 1.25 on the grid that starts at 1.078
 
-    // A frame that cannot be selected is tried once, not for ever.
+    // The selection of a frame is tried once if it is refused, not repeatedly.
     plain.selector.onWrite(throwRefusal);
     dialog.pick("cmBoxFrameMode", "FrameB");
     Dialog::processEvents();
     QCOMPARE(boxes.texts.size(), 2);
 
-    // The output mode may become another one while the user reads that.
+    // The output mode may change while the error box is open.
     boxes.whileOpen = [&] { plain.mode.change(2); };
     QTest::keyClick(dialog.get("cmBoxFrameMode"), Qt::Key_Up);
     QCOMPARE(boxes.texts.size(), 3);
@@ -978,7 +977,7 @@ void TestFrameABDialog::otherCameraDuringWrite()
     NodeMapDevice &device = *plain.device;
     Camera camera;
 
-    // While the user reads the error box, the program may turn to another camera or close down.
+    // The program may set another device, or destroy the dialog, while the error box is open.
     {
         Dialog dialog(&device);
         ErrorBoxes boxes;
@@ -995,7 +994,7 @@ void TestFrameABDialog::otherCameraDuringWrite()
     ErrorBoxes boxes;
     boxes.whileOpen = [&] {
         dialog->SetDevice(nullptr);
-        dialog->SetDevice(&device); // is not what it was any more
+        dialog->SetDevice(&device); // same device, but a new binding
     };
     dialog->type("spBoxExpTime", 1001);
     QCOMPARE(boxes.texts.size(), 1);
@@ -1022,7 +1021,7 @@ void TestFrameABDialog::otherCameraWhileAFrameIsRefused()
             ErrorBoxes boxes;
             boxes.whileOpen = [&] {
                 dialog.SetDevice(next);
-                plain.lines.change(77); // is not shown any more
+                plain.lines.change(77); // must not be shown any more
                 plain.device->Release();
             };
             dialog.SetDevice(plain.device.get());
@@ -1061,7 +1060,7 @@ class Walk
 public:
     Walk(Camera &camera, Dialog &dialog) : m_camera(camera), m_dialog(dialog) {}
 
-    /// The most that the dialog may write for it.
+    /// Performs a step; returns the permitted number of writes by the dialog.
     int step()
     {
         wrong.clear();
@@ -1069,9 +1068,9 @@ public:
     }
 
     QString what;      ///< the last step
-    int ownWrites = 0; ///< of the last step, not the dialog's
+    int ownWrites = 0; ///< writes of the last step by this class
 
-    /// How the registers differ from the number that has been entered; empty when they do not.
+    /// The differences between the registers and the entered number; empty if there are none.
     QStringList wrong;
 
 private:
@@ -1138,7 +1137,7 @@ private:
         const bool isNew = widget->property("value").toDouble() != entered;
         const bool isEnded = chance(2);
         m_dialog.type(name, QString::number(entered, 'g', 12), isEnded);
-        if (!isEnded) // the focus goes elsewhere
+        if (!isEnded) // removes the focus without committing
             m_dialog.get("lineEditFrameCurrentSize")->setFocus();
         if (isNew && m_dialog.isOn(name))
             checkRegisters(name, entered, entered == min || entered == max);
@@ -1168,7 +1167,7 @@ private:
         if (const char *feature = featureOf(name))
             expect(feature, entered);
     }
-    /// The feature that is entered as it is; null for others.
+    /// The feature that gets the entered number without conversion; null if there is none.
     static const char *featureOf(const QByteArray &widget)
     {
         static const Binding others[] = {
@@ -1208,7 +1207,7 @@ private:
         m_dialog.drag(name, double(below(100)) / 100);
         return did(QString("drag ") + name, 2);
     }
-    /// Small ones are as likely as large ones.
+    /// Small numbers are as likely as large ones.
     double portion() { return std::pow(double(below(1001)) / 1000, 1 + below(6)); }
 
     int outside()
@@ -1242,7 +1241,7 @@ private:
                                                        "Frame_FixedFramePeriodValue"})
                                            : one(bindingsOf("spBox")).feature);
         }
-        // What the dialog writes in reply comes within these writes or in the event loop.
+        // The dialog reacts to a notification within the write or later, in the event loop.
         ownWrites = qMin(m_camera.writes() - before, 1);
         return allowed;
     }
@@ -1288,10 +1287,10 @@ void TestFrameABDialog::randomWalk()
         QVERIFY2(walk.wrong.isEmpty(), qPrintable(where + ": " + walk.wrong.join("; ")));
         QVERIFY2(writes <= allowed, qPrintable(where + ": " + QString::number(writes) + " writes"));
         mostWrites = qMax(mostWrites, writes);
-        if (i % 50 == 0) // nothing goes on by itself
+        if (i % 50 == 0) // timers must not cause any writes
             QTest::qWait(1);
     }
-    // It was no walk through disabled widgets.
+    // Checks that not all the widgets were disabled.
     QVERIFY(mostWrites >= 3 && camera.writes() > 1000);
     qInfo("%d writes, at most %d in reply", camera.writes(), mostWrites);
 }

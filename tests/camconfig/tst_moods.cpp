@@ -85,8 +85,8 @@ void addWidgets(const QWidget &window, QStringList *texts)
     }
 }
 
-/// In milliseconds. The window reads what the other frame does by moving the camera's selector to
-/// it and back, and waits for that: at most ten commands.
+/// The longest permitted wait, in milliseconds. To read the other frame, the window moves the
+/// selector there and back, and waits: ten commands at most.
 double longestWait(const QByteArray &mood)
 {
     const QHash<QByteArray, int> commandTimes{
@@ -96,11 +96,11 @@ double longestWait(const QByteArray &mood)
 
 } // namespace
 
-/// A camera in every mood, while all windows that there are show it or open it: nothing crashes, is
-/// printed or waits, and as soon as the camera behaves, all is shown as before.
+/// All windows on a camera with each of its faults. They must neither crash, nor print anything,
+/// nor block; once the camera works again, they must show the same as before.
 ///
-/// Five of six moods come, in one situation each; with ORV_MOODS=all (by hand) all in all, which
-/// takes some minutes.
+/// By default each fault but every sixth is tested, in one situation each. ORV_MOODS=all (by hand)
+/// tests all faults in all situations, which takes some minutes.
 class TestMoods : public QObject
 {
     Q_OBJECT
@@ -110,13 +110,13 @@ private slots:
     void cleanupTestCase();
     void init();
     void cleanup();
-    void opening_data() { addMoods({0, 1, 3}); }
-    void opening();
-    void working_data() { addMoods({2}); }
-    void working();
-    void reconnecting_data() { addMoods({4}); }
-    void reconnecting();
-    void unplugging();
+    void faultsWhileOpening_data() { addMoods({0, 1, 3}); }
+    void faultsWhileOpening();
+    void faultsWhileShown_data() { addMoods({2}); }
+    void faultsWhileShown();
+    void faultsWhileReconnecting_data() { addMoods({4}); }
+    void faultsWhileReconnecting();
+    void interruptionsLeakNothing();
 
 private:
     static bool isLong() { return qgetenv("ORV_MOODS") == "all"; }
@@ -132,10 +132,10 @@ private:
     std::unique_ptr<OrvGui::OrvGenParamTreeView> m_tree;
     QStringList m_before;
     off_t m_stderrBefore = 0;
-    double m_longestWait = 0; ///< while a camera was opened
+    double m_longestWait = 0; ///< during the opening of a camera
 };
 
-/// Each turn takes every sixth mood.
+/// Each of the turns adds every sixth mood.
 void TestMoods::addMoods(const QVector<int> &turns)
 {
     QTest::addColumn<QByteArray>("mood");
@@ -158,7 +158,7 @@ void TestMoods::initTestCase()
     TestCamera::Settings settings = m_network->cameraSettings(0x020000000001, "10.1.0.2");
     settings.description = file.readAll().toStdString();
     settings.isZipped = true;
-    settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // those of the other frame
+    settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // for the other frame's registers
     settings.fillsRegisters = true;
     settings.serial = serial;
     m_camera = std::make_unique<TestCamera>(settings);
@@ -181,7 +181,7 @@ void TestMoods::initTestCase()
         m_tree->treeView()->expandAll();
     });
     QVERIFY(connectCamera("good"));
-    QVERIFY(connectCamera("good")); // what a form shows may be left from the camera before
+    QVERIFY(connectCamera("good")); // a form without values may show those of the first connection
     QStringList texts = shown();
     QElapsedTimer unchanged;
     unchanged.start();
@@ -250,8 +250,8 @@ void TestMoods::checkIsGone()
     QVERIFY(!model || model->rowCount() == 0);
 }
 
-/// By the window's own picker, in which the camera is found while it is good still. What goes wrong
-/// is reported in a message box.
+/// Connects with the window's own picker. The camera works until it has been found. Failures are
+/// reported in a message box.
 bool TestMoods::connectCamera(const char *mood)
 {
     std::unique_ptr<LoopWatch> watch;
@@ -273,12 +273,12 @@ bool TestMoods::connectCamera(const char *mood)
     });
     user.start(20);
     m_window->findChild<QAction *>("actionConnect")->trigger();
-    QTest::qWait(100); // a message box
+    QTest::qWait(100); // a message box may open
     m_longestWait = watch->longestWait();
     return m_window->device() && QApplication::activeModalWidget() == nullptr;
 }
 
-void TestMoods::opening()
+void TestMoods::faultsWhileOpening()
 {
     QFETCH(QByteArray, mood);
     const bool isOpen = connectCamera(mood.constData());
@@ -289,7 +289,7 @@ void TestMoods::opening()
     checkIsAsBefore();
 }
 
-void TestMoods::working()
+void TestMoods::faultsWhileShown()
 {
     QFETCH(QByteArray, mood);
     m_camera->setMood(mood.constData());
@@ -305,7 +305,7 @@ void TestMoods::working()
              qPrintable(QString::number(watch.longestWait())));
 }
 
-void TestMoods::reconnecting()
+void TestMoods::faultsWhileReconnecting()
 {
     QFETCH(QByteArray, mood);
     LoopWatch watch;
@@ -320,8 +320,8 @@ void TestMoods::reconnecting()
              qPrintable(QString::number(watch.longestWait())));
 }
 
-/// What an interruption would keep is about 2 MiB of nodes and cache, a socket, and a thread.
-void TestMoods::unplugging()
+/// A leak per interruption would be about 2 MiB of nodes and cache, a socket, and a thread.
+void TestMoods::interruptionsLeakNothing()
 {
     const int times = isLong() ? 20 : 1;
     Usage before;
@@ -332,16 +332,16 @@ void TestMoods::unplugging()
         m_camera->plugIn();
         checkIsAsBefore();
         if (i == 0)
-            before = Usage::now(); // after what is made at the first time only
+            before = Usage::now(); // after the permanent allocations of the first round
     }
     const Usage after = Usage::now();
     QVERIFY2(after.files == before.files && after.threads == before.threads, after.text().c_str());
-#ifndef __SANITIZE_ADDRESS__ // keeps what was freed
+#ifndef __SANITIZE_ADDRESS__ // keeps freed memory
     QCOMPARE(after.grownBeyond(before, times), std::string());
 #endif
 }
 
-/// What is printed is checked through a file, and shown in the end.
+/// Runs the test in a child process, checks what it prints, and prints it at the end.
 int main(int argc, char *argv[])
 {
     std::FILE *printed = std::tmpfile();

@@ -17,7 +17,7 @@ using OrvGui::SilentCamConfig;
 
 namespace {
 
-/// Measures for how long the event loop stands still.
+/// Measures the longest time for which the event loop is blocked.
 class Gaps : public QObject
 {
 public:
@@ -47,7 +47,7 @@ QDialog *progressDialog()
     return nullptr;
 }
 
-/// Once started, picks the camera in the dialog that comes.
+/// Picks the camera in the next picker dialog.
 class Picks : public QTimer
 {
 public:
@@ -73,7 +73,7 @@ private:
 
 } // namespace
 
-/// Windows with a slow camera: it is opened in the background and read in few commands.
+/// Windows on a slow camera: it is opened in the background and read with few commands.
 class TestOpening : public QObject
 {
     Q_OBJECT
@@ -83,7 +83,7 @@ private slots:
     void cleanupTestCase() { m_wire.reset(); }
     void cleanup() { m_camera->setMood("delay", 0); }
     void showsProgress();
-    void cancels();
+    void openingCanBeCancelled();
     void reportsReason();
     void changesDuringOpening_data();
     void changesDuringOpening();
@@ -118,7 +118,8 @@ OrvCamConfigOpening::Result TestOpening::open()
 
 void TestOpening::showsProgress()
 {
-    // A busy machine may hold the program up; the camera would do so every time.
+    // Repeated because load of the machine can delay the program; a fault would delay it every
+    // time.
     qint64 longest = 1000;
     for (int attempt = 0; attempt < 3 && longest >= 50; ++attempt) {
         m_camera->setMood("delay", 10);
@@ -151,7 +152,7 @@ void TestOpening::showsProgress()
     QVERIFY2(longest < 50, qPrintable(QString::number(longest)));
 }
 
-void TestOpening::cancels()
+void TestOpening::openingCanBeCancelled()
 {
     m_camera->setMood("delay", 50);
     QElapsedTimer timer;
@@ -163,7 +164,7 @@ void TestOpening::cancels()
     const OrvCamConfigOpening::Result result = open();
     QVERIFY(result.isCancelled && !result.device && timer.elapsed() < 50);
 
-    // A program without windows.
+    // Opening without a window.
     OrvCamConfigOpening opening(*m_wire->info, OrvCam::AccessControl);
     bool isSilent = true;
     int last = -1;
@@ -176,7 +177,7 @@ void TestOpening::cancels()
     QVERIFY(stopped.isCancelled && !stopped.device && isSilent);
     QCOMPARE(last, 3);
 
-    // The next one waits until the camera has been released.
+    // Opening again waits until the camera has been released.
     m_camera->setMood("delay", 0);
     const DevicePtr device(open().device);
     QVERIFY(device);
@@ -202,7 +203,7 @@ void TestOpening::changesDuringOpening_data()
         QTest::newRow(name) << QString(name);
 }
 
-/// While the main window opens the camera that was picked.
+/// Changes while the main window opens the camera that was picked.
 void TestOpening::changesDuringOpening()
 {
     QFETCH(QString, change);
@@ -248,10 +249,10 @@ void TestOpening::changesDuringOpening()
     QTRY_COMPARE(m_camera->privilege(), 0u);
 }
 
-/// Of a camera that the window opens itself both frames have been read before it is shown.
+/// If the window opens the camera itself, both frames have been read before the window shows it.
 void TestOpening::readsBothFramesFirst()
 {
-    const QTemporaryDir cache; // a second opening takes a few commands
+    const QTemporaryDir cache; // with a cache, the next opening takes only a few commands
     qputenv("ORVCAM_DESCRIPTION_CACHE", cache.path().toLocal8Bit());
     {
         const DevicePtr device(open().device);
@@ -297,7 +298,7 @@ void TestOpening::readsBothFramesFirst()
 
 void TestOpening::fewCommands()
 {
-    // As a host opens it: nothing has been read yet. The window looks at both frames.
+    // The host opens the camera, so nothing has been read. The window reads both frames.
     const DevicePtr device = m_wire->open();
     QVERIFY(device);
     OrvGenParam::Enum *const selector = device->GetParamArray()->GetEnum("FrameAB_Selector");
@@ -331,7 +332,7 @@ void TestOpening::windowsDoNotBlock()
         QVERIFY2(gaps.longest() < 50, qPrintable(QString::number(gaps.longest())));
     }
 
-    // A write takes a round trip; what it leads to is shown when it has come.
+    // A write takes one round trip; dependent values are shown when they arrive.
     OrvGenParam::Enum *const selector = device->GetParamArray()->GetEnum("FrameAB_Selector");
     auto *tabs = window.findChild<QTabWidget *>("tabFrames");
     const int other = 1 - tabs->currentIndex();
@@ -344,7 +345,7 @@ void TestOpening::windowsDoNotBlock()
     QTest::qWait(1000);
     qInfo("write: %d ms, longest gap %d ms, %u commands", int(written), int(gaps.longest()),
           m_camera->counters().transfers() - reads);
-    // A command that is under way has to end first.
+    // A command in progress ends first.
     QVERIFY2(written < 160, qPrintable(QString::number(written)));
     QVERIFY2(gaps.longest() < 170, qPrintable(QString::number(gaps.longest())));
     QCOMPARE(tabs->currentIndex(), other);

@@ -19,13 +19,13 @@ using OrvGui::OrvCamConfig;
 
 namespace {
 
-/// The cameras that the picker offers, in its first interface.
-struct World
+/// The cameras on the first interface of the picker.
+struct OfferedCameras
 {
-    World() { system.interfaces.entries = {&interface}; }
+    OfferedCameras() { system.interfaces.entries = {&interface}; }
 
     PluggableCamera &camera(int i) { return i == 0 ? first : second; }
-    /// Handed out and not released.
+    /// Systems that were handed out and not released.
     int systems() const { return opened - system.released; }
 
     PluggableCamera first{"First"};
@@ -40,26 +40,26 @@ struct World
     FakeSystem system;
 };
 
-World *theWorld = nullptr;
+OfferedCameras *offeredCameras = nullptr;
 
 } // namespace
 
-// The library calls these instead of those of the camera access library.
+// Replacements for the functions of the camera access library.
 
 OrvCamSystem *OrvCam_GetSystem(void)
 {
-    if (!theWorld)
+    if (!offeredCameras)
         return nullptr;
-    ++theWorld->opened;
-    return &theWorld->system;
+    ++offeredCameras->opened;
+    return &offeredCameras->system;
 }
 
 OrvCamDevice *OrvCam_CreateDevice(OrvCamDeviceInfo *info, int32_t *error, int32_t accessMode)
 {
     if (error || accessMode != OrvCam::AccessControl)
         qFatal("Not how a device is to be created");
-    return CountedDevice::open(theWorld->camera(info == &theWorld->firstInfo ? 0 : 1), *info,
-                               theWorld->homeThread);
+    return CountedDevice::open(offeredCameras->camera(info == &offeredCameras->firstInfo ? 0 : 1),
+                               *info, offeredCameras->homeThread);
 }
 
 namespace {
@@ -85,7 +85,7 @@ QString statusOf(const QWidget &window)
     return child<QLabel>(window, "lblStatusText").text();
 }
 
-/// Lets the window's second be over.
+/// Triggers the window's timer of one second.
 void tick(const QWidget &window)
 {
     QMetaObject::invokeMethod(window.findChild<QTimer *>("refreshTimer"), "timeout");
@@ -130,7 +130,7 @@ struct Simulation : SimulatedDevice
     OrvGenParam::Array &array = *device.array;
 };
 
-/// Picks the camera with that row in the picker; cancels for -1.
+/// Picks the camera in that row of the picker; -1 cancels.
 ModalVisitor::Action picking(int row)
 {
     return [row](QDialog &picker) {
@@ -143,7 +143,7 @@ ModalVisitor::Action picking(int row)
     };
 }
 
-/// Writes down which windows are shown.
+/// Records which windows are shown.
 class ShownWindows : public QObject
 {
 public:
@@ -159,13 +159,13 @@ public:
     }
 };
 
-/// A main window, two cameras and a host, and what has to be true of them.
+/// A main window, two cameras and a host, with their invariants.
 class Scenario
 {
 public:
     Scenario()
     {
-        theWorld = &world;
+        offeredCameras = &offered;
         ModalVisitor user({picking(-1)});
         window.reset(new OrvCamConfig(nullptr));
         QObject::connect(window.get(), &OrvCamConfig::deviceChanged,
@@ -179,10 +179,10 @@ public:
             if (host)
                 host->Release();
         }
-        theWorld = nullptr;
+        offeredCameras = nullptr;
     }
 
-    /// False when that cannot happen now.
+    /// Returns false if the action is not possible in the current state.
     bool perform(const QString &word)
     {
         const int i = word.endsWith('x') || word.size() < 2 ? -1 : word[1].digitValue();
@@ -199,7 +199,7 @@ public:
         case 'r':
             return releaseByHost(i);
         default:
-            world.camera(i).isPlugged = word[0] == 'p';
+            offered.camera(i).isPlugged = word[0] == 'p';
             return true;
         }
     }
@@ -207,12 +207,12 @@ public:
     void check()
     {
         for (int i = 0; i < 2; ++i) {
-            const auto &counts = CountedDevice::counts(world.camera(i));
+            const auto &counts = CountedDevice::counts(offered.camera(i));
             QCOMPARE(counts.open, (hosts[i] ? 1 : 0) + (current == i && isOwn ? 1 : 0));
             QCOMPARE(counts.events, current == i ? 2 : 0);
         }
-        const bool isConnected = current >= 0 && world.camera(current).isPlugged;
-        const QString status = isConnected ? world.camera(current).name : "Disconnected";
+        const bool isConnected = current >= 0 && offered.camera(current).isPlugged;
+        const QString status = isConnected ? offered.camera(current).name : "Disconnected";
         QTRY_VERIFY((tick(*window), statusOf(*window) == status));
         QCOMPARE(window->device() != nullptr, isConnected);
         QCOMPARE(signalled, window->device());
@@ -225,19 +225,19 @@ public:
     {
         window.reset();
         QCOMPARE(signalled, static_cast<OrvCam::Device *>(nullptr));
-        QCOMPARE(world.systems(), 0);
+        QCOMPARE(offered.systems(), 0);
         for (int i = 0; i < 2; ++i)
-            QCOMPARE(CountedDevice::counts(world.camera(i)).open, hosts[i] ? 1 : 0);
+            QCOMPARE(CountedDevice::counts(offered.camera(i)).open, hosts[i] ? 1 : 0);
     }
 
-    World world;
+    OfferedCameras offered;
     std::unique_ptr<OrvCamConfig> window;
     OrvCam::Device *hosts[2] = {};
 
 private:
     void connectTo(int i)
     {
-        current = i >= 0 && world.camera(i).isPlugged && !hosts[i] ? i : -1;
+        current = i >= 0 && offered.camera(i).isPlugged && !hosts[i] ? i : -1;
         isOwn = true;
         ModalVisitor user({picking(i)});
         action(*window, "actionConnect").trigger();
@@ -249,8 +249,8 @@ private:
     bool setByHost(int i)
     {
         if (i >= 0 && !hosts[i]) {
-            hosts[i] =
-                CountedDevice::open(world.camera(i), i == 0 ? world.firstInfo : world.secondInfo);
+            hosts[i] = CountedDevice::open(offered.camera(i),
+                                           i == 0 ? offered.firstInfo : offered.secondInfo);
             if (!hosts[i])
                 return false;
         }
@@ -268,7 +268,7 @@ private:
         return true;
     }
 
-    int current = -1; ///< the camera that the window works with, also while it is unplugged
+    int current = -1; ///< the window's camera, even while it is unplugged
     bool isOwn = false;
     OrvCam::Device *signalled = nullptr;
 };
@@ -286,8 +286,8 @@ private slots:
     void cameraWithOneFrame();
     void information();
     void buttonsAndView();
-    void ownership_data();
-    void ownership();
+    void releasesOnlyItsOwnDevices_data();
+    void releasesOnlyItsOwnDevices();
     void pickedInTheConstructor();
     void cameraThatCannotBeOpened();
     void destroyedWhilePicking();
@@ -313,7 +313,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     QCOMPARE(simulation.get("FrameAB_Selector"), QString("FrameA"));
     QVERIFY(!isDimmed(window, 'A') && !isDimmed(window, 'B'));
 
-    // Within a second, by itself, and only the frame that is addressed.
+    // The window updates within a second, but only the selected frame.
     simulation.set("Frame_ExposureLines", "77");
     a = selectedColumn(simulation.array);
     QVERIFY(!shows());
@@ -327,7 +327,7 @@ void TestOrvCamConfigMainWindow::showsBothFrames()
     tick(window);
     QVERIFY(shows());
 
-    // Only frame A is output, but frame B is addressed: neither is shown in the other's column.
+    // Frame A is output, frame B is selected: neither is shown in the other's column.
     simulation.set("FrameMode", "FrameA");
     simulation.set("Frame_Height", "256");
     tick(window);
@@ -384,12 +384,12 @@ void TestOrvCamConfigMainWindow::keepsPendingInput()
     QCOMPARE(clocks->cleanText(), QString("11"));
     QCOMPARE(editor->cleanText(), QString("45"));
 
-    // Nothing has been written; what is entered now goes to frame A.
+    // Nothing has been written yet; the number goes to frame A when it is committed.
     QTest::keyClick(clocks, Qt::Key_Return);
     QCOMPARE(simulation.array.GetIntegerValue("Frame_ExposureClocks"), int64_t(11));
     simulation.select("FrameB");
     QVERIFY(simulation.array.GetIntegerValue("Frame_ExposureClocks") != 11);
-    QCOMPARE(tabs.currentIndex(), 1); // notifications are followed again
+    QCOMPARE(tabs.currentIndex(), 1); // the tabs follow notifications again
 }
 
 void TestOrvCamConfigMainWindow::lockedSelector()
@@ -400,10 +400,10 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     selector.setAccessMode(GenApi::RO);
     NodeMapDevice device(map);
     const OrvCamConfig window(&device);
-    QCOMPARE(columnOf(window, 'A'), QString("   ")); // not the values of frame B
+    QCOMPARE(columnOf(window, 'A'), QString("   ")); // must not be the values of frame B
     QCOMPARE(columnOf(window, 'B'), QString(" 125.00 8000 "));
 
-    // Locked when it has been moved: all go by the frame that the camera stays with.
+    // The selector is locked after it has moved: all windows show the frame that is now selected.
     Simulation simulation;
     simulation.set("FrameMode", "FrameA");
     OrvCamConfig stuck(&simulation.device);
@@ -429,7 +429,7 @@ void TestOrvCamConfigMainWindow::lockedSelector()
              simulation.get("Frame_ExposureLines"));
     QCOMPARE(changes.count(), 1);
 
-    // Given up while a dialog says so: no other dialog gets it afterwards.
+    // The device is removed while an error box is open: no other dialog gets it afterwards.
     selector.setAccessMode(GenApi::RW);
     selector.onWrite(throwRefusal);
     map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}});
@@ -437,7 +437,7 @@ void TestOrvCamConfigMainWindow::lockedSelector()
     ErrorBoxes boxes;
     boxes.whileOpen = [&] { stuck.SetDevice(nullptr); };
     stuck.show();
-    child<QPushButton>(stuck, "pushBtnFrameAB").click(); // one that is not seen selects nothing
+    child<QPushButton>(stuck, "pushBtnFrameAB").click(); // a hidden dialog selects no frame
     stuck.SetDevice(&refusing);
     QCOMPARE(boxes.texts.size(), 1);
     QVERIFY(!stuck.device());
@@ -466,7 +466,7 @@ void TestOrvCamConfigMainWindow::cameraWithOneFrame()
         action(window, "actionFrame_A_B").trigger();
     QVERIFY(!button.isVisible());
 
-    // Each field is explained, also without the camera's feature.
+    // Every field has a tool tip, also without the camera's feature.
     const QString toolTip = child<QLineEdit>(window, "lineEditFtmFrameA").toolTip();
     QVERIFY(toolTip.contains("Frame time") && toolTip.contains("CurrentFrameTime"));
     QCOMPARE(child<QLabel>(window, "lblFtm").toolTip(), toolTip);
@@ -556,7 +556,7 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
         const auto isOpen = [&] { return dialog.isVisible() && button.isChecked(); };
         const auto isClosed = [&] { return !dialog.isVisible() && !button.isChecked(); };
         QVERIFY(view.isChecked() && button.isVisible() && isClosed());
-        for (int times = 0; times < 2; ++times) { // the keys that open it do not close it
+        for (int times = 0; times < 2; ++times) { // the shortcut never closes it
             window.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&window));
             QTest::keyClick(&window, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
@@ -575,7 +575,7 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
         QVERIFY(isClosed() && button.isVisible());
         button.click();
     }
-    // With the window all its dialogs are closed, and can be opened again.
+    // Closing the window closes its dialogs, which can be opened again later.
     action(window, "actionQuit").trigger();
     QVERIFY(!window.isVisible());
     for (const QDialog *dialog : window.findChildren<QDialog *>())
@@ -583,37 +583,37 @@ void TestOrvCamConfigMainWindow::buttonsAndView()
     QVERIFY(!child<QPushButton>(window, "pushBtnPulse").isChecked());
 }
 
-void TestOrvCamConfigMainWindow::ownership_data()
+void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices_data()
 {
-    // What happens, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx the host
+    // The steps, one word each: c0, c1 connect in the picker, cx cancels it; h0, h1, hx: the host
     // sets a device of its own, or none; d disconnects; u0, u1 unplug and p0, p1 plug in a camera;
-    // r0, r1 the host releases its device.
-    QTest::addColumn<QString>("story");
-    for (const char *story :
+    // r0, r1: the host releases its device.
+    QTest::addColumn<QString>("steps");
+    for (const char *steps :
          {"c0 d", "c0 c0", "c0 c1", "c0 cx", "c0 u0 p0", "c0 u0 c1 p0", "c0 u0 d p0", "c0 u0 h1 p0",
           "c0 h1", "h0 c1", "h0 u0 p0", "h0 u0 hx p0", "h0 d", "h0 h0 u0 p0 u0", "h0 hx u0 h0 p0"})
-        QTest::newRow(story) << story;
+        QTest::newRow(steps) << steps;
 
     const QStringList words = {"c0", "c1", "cx", "h0", "h1", "hx", "d",
                                "u0", "u1", "p0", "p1", "r0", "r1"};
     for (unsigned seed = 1; seed <= 6; ++seed) {
         std::mt19937 random(seed);
-        QStringList story;
+        QStringList steps;
         for (int i = 0; i < 40; ++i)
-            story << words[int(random() % unsigned(words.size()))];
-        QTest::newRow(qPrintable(QString::number(seed))) << story.join(' ');
+            steps << words[int(random() % unsigned(words.size()))];
+        QTest::newRow(qPrintable(QString::number(seed))) << steps.join(' ');
     }
 }
 
-void TestOrvCamConfigMainWindow::ownership()
+void TestOrvCamConfigMainWindow::releasesOnlyItsOwnDevices()
 {
-    QFETCH(QString, story);
+    QFETCH(QString, steps);
     Scenario scenario;
-    for (const QString &word : story.split(' ')) {
+    for (const QString &word : steps.split(' ')) {
         if (scenario.perform(word))
             scenario.check();
         if (QTest::currentTestFailed()) {
-            qWarning("with \"%s\" in: %s", qPrintable(word), qPrintable(story));
+            qWarning("with \"%s\" in: %s", qPrintable(word), qPrintable(steps));
             return;
         }
     }
@@ -622,22 +622,22 @@ void TestOrvCamConfigMainWindow::ownership()
 
 void TestOrvCamConfigMainWindow::pickedInTheConstructor()
 {
-    World world;
-    theWorld = &world;
+    OfferedCameras offered;
+    offeredCameras = &offered;
     {
         ModalVisitor user({picking(1)});
         OrvCamConfig window(nullptr);
         QVERIFY(user.isDone());
         QCOMPARE(statusOf(window), QString("Second"));
-        QCOMPARE(CountedDevice::counts(world.second).open, 1);
-        QCOMPARE(world.systems(), 1);
+        QCOMPARE(CountedDevice::counts(offered.second).open, 1);
+        QCOMPARE(offered.systems(), 1);
         for (QDialog *dialog : window.findChildren<OrvGui::OrvCamConfigDialog *>())
             QVERIFY(dialog->isEnabled());
     }
-    QCOMPARE(CountedDevice::counts(world.second).open, 0);
-    QCOMPARE(world.systems(), 0);
+    QCOMPARE(CountedDevice::counts(offered.second).open, 0);
+    QCOMPARE(offered.systems(), 0);
 
-    theWorld = nullptr; // there is no camera system
+    offeredCameras = nullptr; // there is no camera system
     const OrvCamConfig window(nullptr);
     QCOMPARE(statusOf(window), QString("Disconnected"));
     for (QDialog *dialog : window.findChildren<OrvGui::OrvCamConfigDialog *>())
@@ -647,11 +647,11 @@ void TestOrvCamConfigMainWindow::pickedInTheConstructor()
 void TestOrvCamConfigMainWindow::cameraThatCannotBeOpened()
 {
     Scenario scenario;
-    scenario.world.first.isPlugged = false;
+    scenario.offered.first.isPlugged = false;
     ModalVisitor user({picking(0)});
     action(*scenario.window, "actionConnect").trigger();
     QCOMPARE(statusOf(*scenario.window), QString("Disconnected"));
-    // An error box that does not block.
+    // A non-modal error box.
     auto *box = scenario.window->findChild<QMessageBox *>();
     QVERIFY(box && box->isVisible() && box->text().contains("First"));
     box->button(QMessageBox::Ok)->click();
@@ -665,8 +665,8 @@ void TestOrvCamConfigMainWindow::destroyedWhilePicking()
     ModalVisitor user({[&](QDialog &) { scenario.window.reset(); }});
     action(*scenario.window, "actionConnect").trigger();
     QVERIFY(!scenario.window && user.isDone());
-    QCOMPARE(CountedDevice::counts(scenario.world.first).open, 0);
-    QCOMPARE(scenario.world.systems(), 0);
+    QCOMPARE(CountedDevice::counts(scenario.offered.first).open, 0);
+    QCOMPARE(scenario.offered.systems(), 0);
 }
 
 void TestOrvCamConfigMainWindow::twoWindowsOnOneCamera()
@@ -674,19 +674,19 @@ void TestOrvCamConfigMainWindow::twoWindowsOnOneCamera()
     Scenario scenario;
     QVERIFY(scenario.perform("h0"));
     auto other = std::make_unique<OrvCamConfig>(scenario.hosts[0]);
-    QCOMPARE(CountedDevice::counts(scenario.world.first).events, 4);
+    QCOMPARE(CountedDevice::counts(scenario.offered.first).events, 4);
     const auto both = [&](const char *text) {
         tick(*scenario.window);
         tick(*other);
         return statusOf(*scenario.window) == text && statusOf(*other) == text;
     };
     QVERIFY(both("First"));
-    scenario.world.first.isPlugged = false;
+    scenario.offered.first.isPlugged = false;
     QTRY_VERIFY(both("Disconnected"));
-    scenario.world.first.isPlugged = true;
+    scenario.offered.first.isPlugged = true;
     QTRY_VERIFY(both("First"));
     other.reset();
-    QCOMPARE(CountedDevice::counts(scenario.world.first).events, 2);
+    QCOMPARE(CountedDevice::counts(scenario.offered.first).events, 2);
     scenario.check();
     scenario.end();
 }
@@ -705,8 +705,8 @@ void TestOrvCamConfigMainWindow::showFunctions()
                      {ShowStrobeDialog, "OrvGui::OrvCamConfigStrobeDialog"},
                      {ShowTriggerDialog, "OrvGui::OrvCamConfigTriggerDialog"}};
     const QWidgetList before = QApplication::topLevelWidgets();
-    World world;
-    theWorld = &world;
+    OfferedCameras offered;
+    offeredCameras = &offered;
     Simulation simulation;
     for (const auto &function : functions) {
         for (OrvCam::Device *device : QList<OrvCam::Device *>{&simulation.device, nullptr}) {
@@ -720,18 +720,18 @@ void TestOrvCamConfigMainWindow::showFunctions()
             QCOMPARE(windows.names, QStringList(function.window));
             QCOMPARE(QApplication::topLevelWidgets(), before);
         }
-        // The camera has no sink left to notify, and can go.
+        // The camera has no sinks left and can be destroyed.
         for (const char *mode : {"FrameA", "DualVideo"})
             simulation.set("FrameMode", mode);
         for (const char *mode : {"On", "Off"})
             simulation.set("TriggerMode", mode);
-        OrvCam::Device *counted = CountedDevice::open(world.first, world.firstInfo);
+        OrvCam::Device *counted = CountedDevice::open(offered.first, offered.firstInfo);
         function.show(counted, 0);
-        QCOMPARE(CountedDevice::counts(world.first).events, 0);
+        QCOMPARE(CountedDevice::counts(offered.first).events, 0);
         counted->Release();
     }
-    QCOMPARE(world.systems(), 0);
-    theWorld = nullptr;
+    QCOMPARE(offered.systems(), 0);
+    offeredCameras = nullptr;
 }
 
 QTEST_MAIN(TestOrvCamConfigMainWindow)

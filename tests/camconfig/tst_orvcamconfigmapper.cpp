@@ -16,7 +16,7 @@ using namespace OrvGui;
 
 namespace {
 
-/// A camera with a feature of each kind that can be bound. Not all names are ASCII.
+/// A camera with a feature of each kind that can be bound. Some names contain non-ASCII characters.
 struct Camera
 {
     Camera()
@@ -49,7 +49,7 @@ constexpr char enumText[] = "Error while setting the Quelle enumeration value!\r
 constexpr char booleanText[] = "Error while setting the Spiegel boolean value!\r\nError Code: %1";
 constexpr char commandText[] = "Error while executing the Auslösen command!\r\nError Code: %1";
 
-/// A widget of a kind that can be bound, and how a user edits it.
+/// A widget of a kind that can be bound, and the keys with which a user edits it.
 struct Control
 {
     using Map = std::function<void(OrvCamConfigMapper &, OrvGenParam::Array *)>;
@@ -68,15 +68,15 @@ struct Control
     }
 
     const char *errorText;
-    const char *property;    ///< the value
-    QPointer<QWidget> owner; ///< the widget or what contains it
-    QPointer<QWidget> input; ///< gets the keys
-    QVector<int> keys;       ///< change the first value to the edited one
+    const char *property;    ///< name of the value's property
+    QPointer<QWidget> owner; ///< the widget or its container
+    QPointer<QWidget> input; ///< the receiver of the keys
+    QVector<int> keys;       ///< they change `first` to `edited`
     qint64 first;
     qint64 edited;
-    qint64 changed; ///< by the camera
+    qint64 changed; ///< the value after a change by the camera
     Map map;
-    QPointer<QWidget> widget = owner; ///< is enabled and disabled
+    QPointer<QWidget> widget = owner; ///< the widget that is enabled and disabled
     QPointer<QButtonGroup> group = {};
 };
 
@@ -174,14 +174,14 @@ Control makeControl(int kind)
 
 const auto compoundChanged = static_cast<void (QtOrvSpinBox::*)(int)>(&QtOrvSpinBox::valueChanged);
 
-/// A control that a mapper can bind to its feature of a camera.
+/// A mapper, and a control that it can bind to a camera's feature.
 struct Bench : Camera
 {
     explicit Bench(int kindOfControl) : kind(kindOfControl), control(makeControl(kind)) {}
 
     void bind() { control.map(*mapper, array.get()); }
 
-    /// Calls the function with the feature of the control.
+    /// Calls the function with the control's feature.
     template<class Function>
     auto feature(Function function)
     {
@@ -229,7 +229,7 @@ struct Bench : Camera
     std::unique_ptr<OrvCamConfigMapper> mapper = std::make_unique<OrvCamConfigMapper>();
 };
 
-/// Two entries, of which only the second is known, with the value 0.
+/// Two entries: the first is null, the second has the value 0.
 class GapEnum final : public OrvGenParam::Enum
 {
     struct Entry final : OrvGenParam::EnumEntry
@@ -269,7 +269,7 @@ struct Choices
             controls[i].map(mappers[i], &array);
         }
     }
-    /// Whether the entry can be chosen in each of them.
+    /// Whether the entry can be chosen, for each of the controls.
     QVector<bool> isEnabled(int entry) const
     {
         const auto *items = qobject_cast<QStandardItemModel *>(box->model());
@@ -345,7 +345,7 @@ void TestOrvCamConfigMapper::changesGoBothWays()
 {
     QFETCH(int, kind);
     Bench b(kind);
-    // As a dialog that is given the same camera again and again does.
+    // A dialog does the same if it gets the same camera repeatedly.
     for (int i = 0; i < 10; ++i) {
         b.mapper->unmapAll();
         QVERIFY(!b.widget->isEnabled() || i == 0);
@@ -361,7 +361,7 @@ void TestOrvCamConfigMapper::changesGoBothWays()
     QCOMPARE(b.control.shown(), b.control.changed);
     QCOMPARE(b.writes(), 1);
 
-    // A change in one mapper is shown by another.
+    // A change made through one mapper is shown by another.
     OrvCamConfigMapper another;
     const Control twin = makeControl(kind);
     twin.map(another, b.array.get());
@@ -380,7 +380,7 @@ void TestOrvCamConfigMapper::enabledWhileWritable()
     b.control.map(*b.mapper, nullptr);
     QVERIFY(!b.widget->isEnabled());
     for (GenApi::EAccessMode mode : {GenApi::RO, GenApi::NA}) {
-        // At mapping, which keeps the state for a read-only feature, and by a notification.
+        // At mapping (a read-only feature leaves the state unchanged) and on a notification.
         for (bool wasEnabled : {true, false}) {
             b.setAccess(mode);
             b.widget->setEnabled(wasEnabled);
@@ -396,7 +396,7 @@ void TestOrvCamConfigMapper::enabledWhileWritable()
     b.setAccess(GenApi::RW);
     b.bind();
 
-    // Write-only: nothing is read, but it can be set.
+    // A write-only feature is not read, but can be set.
     const int reads = b.reads();
     b.setAccess(GenApi::WO);
     QVERIFY(b.widget->isEnabled());
@@ -423,7 +423,7 @@ void TestOrvCamConfigMapper::refusedWriteIsReported()
     b.notify();
     QCOMPARE(b.control.shown(), b.control.first);
 
-    // It works as soon as the camera does; other failures have other codes.
+    // Writing works again as soon as the camera accepts it. Other failures have other codes.
     b.onWrite({});
     b.control.edit();
     QCOMPARE(b.control.shown(), b.control.edited);
@@ -434,7 +434,8 @@ void TestOrvCamConfigMapper::refusedWriteIsReported()
     b.control.edit();
     QCOMPARE(boxes.texts, QStringList({text.arg(-5), text.arg(-4)}));
 
-    // A feature that only the camera changes. A failed read changes nothing and opens no box.
+    // A feature that only the camera changes. A failed read leaves the control unchanged and opens
+    // no box.
     b.setAccess(GenApi::RO);
     b.change(b.control.changed);
     QCOMPARE(b.control.shown(), b.control.changed);
@@ -560,7 +561,7 @@ void TestOrvCamConfigMapper::partsDestroyedInAnyOrder()
         b.control.edit();
         QCOMPARE(b.writes(), 0);
     }
-    for (bool taken : {false, true}) { // by another mapper
+    for (bool taken : {false, true}) { // mapped by another mapper as well
         Bench b(kind);
         b.bind();
         OrvCamConfigMapper another;
@@ -629,7 +630,7 @@ void TestOrvCamConfigMapper::converterChangesUnit()
         long ToControl(long value, OrvGenParam::Int *) override { return value / 2; }
         long ToDevice(long value, OrvGenParam::Int *) override { return value * 2; }
     } halves;
-    // Hosts depend on the two being the first in the table of virtual functions.
+    // Binary compatibility: the two functions are the first virtual ones.
     const auto slotOf = [](long (IOrvCamConfigIntConverter::*operation)(long, OrvGenParam::Int *)) {
         std::size_t offset = 0;
         std::memcpy(&offset, &operation, sizeof offset);
@@ -657,8 +658,8 @@ void TestOrvCamConfigMapper::converterChangesUnit()
     QCOMPARE(camera.length->GetValue(), int64_t(90));
     QCOMPARE(wide.value(), 45);
 
-    // An increment that is 0 in the unit of the widget becomes 1. A value that the widget cannot
-    // show exactly is not written back.
+    // An increment that converts to 0 becomes 1. A value that the widget cannot show exactly is not
+    // written back.
     camera.number.setIncrement(1);
     camera.number.change(91);
     QCOMPARE(wide.singleStep(), 1);
@@ -689,7 +690,8 @@ void TestOrvCamConfigMapper::dependentsFollowSpinBox()
     camera.number.setAccessMode(GenApi::RW);
     QVERIFY(isEnabled(true));
 
-    // Only the first widget is released when the name is bound to another one.
+    // When the feature is mapped to another widget, only the first widget is disabled, not its
+    // dependents.
     QtOrvSpinBox another;
     mapper.mapIntParam(camera.length, &another);
     QVERIFY(!spinBox.isEnabled() && label.isEnabled() && another.isEnabled());
@@ -716,9 +718,9 @@ void TestOrvCamConfigMapper::entriesFillControls()
         QCOMPARE(choices.isEnabled(0), QVector<bool>(3, true));
     }
     QTest::keyClick(choices.box, Qt::Key_Down);
-    QCOMPARE(camera.array->GetEnum("Quelle")->GetIntValue(), int64_t(2)); // skips the second
+    QCOMPARE(camera.array->GetEnum("Quelle")->GetIntValue(), int64_t(2)); // the next enabled one
 
-    // Unchecking writes nothing, checking writes once.
+    // Checking a button causes one write, although another button is unchecked.
     const int writes = camera.choice.writes();
     QTest::mouseClick(choices.group->button(0), Qt::LeftButton);
     QCOMPARE(camera.choice.writes(), writes + 1);
@@ -733,7 +735,7 @@ void TestOrvCamConfigMapper::entriesFillControls()
 
 void TestOrvCamConfigMapper::entriesOfNextCamera()
 {
-    // An entry of the next camera is unknown. Buttons without an entry must not keep the values of
+    // One entry of the next camera is null. Buttons without an entry must not keep the values of
     // the first camera.
     Camera camera;
     Choices choices;
@@ -754,7 +756,7 @@ void TestOrvCamConfigMapper::entriesOfNextCamera()
     QVERIFY(choices.tabs->widget(0)->isHidden());
     QCOMPARE(choices.tabs->currentIndex(), 1);
 
-    // Removed tabs are back.
+    // The removed tabs are back.
     choices.map(*camera.array);
     QCOMPARE(choices.tabs->count(), 3);
 }
@@ -805,7 +807,7 @@ void TestOrvCamConfigMapper::commandStartsTimer()
 
 void TestOrvCamConfigMapper::receiverMayMapOtherCamera()
 {
-    // While the range of the first is being shown.
+    // While the limits of the first camera are applied to the widget.
     Bench b(MapIntOrvSpinBox);
     Camera second;
     second.number.setLimits(0, 3);
@@ -841,7 +843,7 @@ void TestOrvCamConfigMapper::receiverMayEndBinding()
     b.change(2);
     QVERIFY(!b.mapper);
 
-    // By the notification that a write causes, and while the box of a refusal is open.
+    // During the notification of a write, and while the error box is open.
     bind([&] { b.mapper.reset(); });
     b.control.edit();
     QVERIFY(!b.mapper);
@@ -886,7 +888,7 @@ void TestOrvCamConfigMapper::receiverOfButtonsMayEndBinding()
 
 void TestOrvCamConfigMapper::shownValueIsNotWritten()
 {
-    // The new limits exclude the old value: values that the spin boxes show in between.
+    // The new limits exclude the old value, so the spin boxes show values in between.
     QFETCH(int, kind);
     Bench b(kind);
     b.bind();
@@ -896,9 +898,9 @@ void TestOrvCamConfigMapper::shownValueIsNotWritten()
     b.number.changed();
     QCOMPARE(b.control.shown(), 2);
     QCOMPARE(b.writes(), 0);
-    QVERIFY(!changes.isEmpty()); // other receivers are notified
+    QVERIFY(!changes.isEmpty()); // other receivers still get the signal
 
-    // A camera that changes the values that it is given.
+    // A camera that rounds written values.
     int64_t value = 2;
     b.number.bind([&] { return value; }, [&](int64_t v) { value = v / 3 * 3; });
     b.number.setLimits(0, 9);
@@ -922,7 +924,7 @@ void TestOrvCamConfigMapper::notificationKeepsTyping()
         QMetaObject::invokeMethod(b.control.input, "selectAll");
         for (char key : {'1', '2', '3'}) {
             QTest::keyClick(b.control.input, key);
-            b.number.changed(); // as a feature that is polled
+            b.number.changed(); // as polling would
         }
         QTest::keyClick(b.control.input, Qt::Key_Return);
     };
@@ -930,7 +932,7 @@ void TestOrvCamConfigMapper::notificationKeepsTyping()
     QCOMPARE(b.writes(), 1);
     QCOMPARE(b.control.shown(), 123);
 
-    // One box for a number that is refused, not one for each key.
+    // One error box per rejected number, not per key.
     b.change(5);
     b.onWrite(throwRefusal);
     const ErrorBoxes boxes;
@@ -967,7 +969,7 @@ void TestOrvCamConfigMapper::dragIsOneWrite()
         QCOMPARE(slider->value(), dragged);
         QCOMPARE(slider->maximum(), 120);
 
-        // A press without a move changes nothing.
+        // Press and release without a move.
         const QPoint there = handleOf(slider);
         QTest::mousePress(slider, Qt::LeftButton, {}, there);
         QVERIFY(slider->isSliderDown());
@@ -994,7 +996,8 @@ void TestOrvCamConfigMapper::dragEndsWithBinding()
     QCOMPARE(slider.value(), 5);
     QVERIFY(!slider.isSliderDown());
 
-    // A receiver of the new limits maps another camera: neither gets the value of the drag.
+    // A slot connected to the new limits maps another camera: neither camera gets the dragged
+    // value.
     b.setAccess(GenApi::RW);
     b.mapper->unmapAll();
     drag();
@@ -1007,7 +1010,7 @@ void TestOrvCamConfigMapper::dragEndsWithBinding()
     QCOMPARE(b.writes() + other.number.writes(), 0);
     QCOMPARE(boxes.texts.size(), 0);
 
-    // The first of the signals at the end of a drag destroys the mapper.
+    // The first signal at the end of a drag destroys the mapper.
     Bench compound(MapIntOrvSpinBox);
     compound.bind();
     connect(static_cast<QtOrvSpinBox *>(compound.widget),
@@ -1031,7 +1034,7 @@ void TestOrvCamConfigMapper::refusalReleasesHeldInput_data()
 
 void TestOrvCamConfigMapper::refusalReleasesHeldInput()
 {
-    // The box takes the mouse, so that the widget gets no release of the button.
+    // The error box grabs the mouse, so the widget gets no release of the button.
     QFETCH(bool, groove);
     Bench b(MapIntOrvSliderSpinBox);
     b.number.setLimits(0, 100);
@@ -1044,14 +1047,14 @@ void TestOrvCamConfigMapper::refusalReleasesHeldInput()
     QWidget *part = groove ? b.widget->findChild<QSlider *>() : b.control.input.data();
     const QPoint point(part->width() - 5, groove ? part->height() / 2 : 5);
 
-    ErrorBoxes boxes(1200); // longer than any delay before a repetition
+    ErrorBoxes boxes(1200); // longer than any auto-repeat delay
     QTest::mousePress(part, Qt::LeftButton, {}, point);
     QCOMPARE(boxes.texts.size(), 1);
     QTest::qWait(700);
     QCOMPARE(boxes.texts.size(), 1);
     QCOMPARE(b.writes(), 1);
 
-    // While writes are accepted, a held button goes on writing.
+    // If the writes succeed, holding the button repeats them.
     b.onWrite({});
     b.notify();
     QTest::mousePress(part, Qt::LeftButton, {}, point);

@@ -31,7 +31,7 @@ struct Control
     const char *feature;
 };
 
-/// In the order of the Tab key.
+/// In tab order.
 const Control controls[] = {
     {Strobe, "cmBoxStrobe1Mode", "Strobe1Mode"},
     {Strobe, "cmBoxStrobe1Ref", "Strobe1Reference"},
@@ -75,7 +75,8 @@ const Control controls[] = {
     {Pulse, "spBoxNumPulses", "PulseGenNumPulses"},
 };
 
-/// The simulated camera with everything on that the controls need, maybe without a feature.
+/// The simulated camera, with all functions switched on that the controls depend on, and optionally
+/// without one feature.
 struct Camera : SimulatedDevice
 {
     explicit Camera(const QByteArray &missing = QByteArray())
@@ -88,7 +89,7 @@ struct Camera : SimulatedDevice
         m_before = SimulatedDevice::writes();
     }
 
-    /// Since all that.
+    /// The number of writes since the constructor.
     int writes() const { return int(SimulatedDevice::writes() - m_before); }
 
 private:
@@ -127,7 +128,7 @@ QString textOf(const std::unique_ptr<OrvCamConfigDialog> &dialog, const QByteArr
     return part<QLabel>(*dialog, label)->text();
 }
 
-/// The value as the feature would write it.
+/// The value in the form in which the feature writes it.
 QString shown(QWidget *widget)
 {
     if (auto *combo = qobject_cast<QComboBox *>(widget))
@@ -137,7 +138,7 @@ QString shown(QWidget *widget)
     return widget->property("value").toString();
 }
 
-/// Edits a control to another value, as a user does.
+/// Edits a control to another value with keyboard and mouse.
 void edit(QWidget *widget)
 {
     if (auto *combo = qobject_cast<QComboBox *>(widget)) {
@@ -185,35 +186,35 @@ class TestStrobeOutputColor : public QObject
     Q_OBJECT
 
 private slots:
-    void bothWays_data();
-    void bothWays();
-    void withoutCamera();
-    void closing();
+    void changesGoBothWays_data();
+    void changesGoBothWays();
+    void disabledWithoutCamera();
+    void closingIsSignalled();
     void tabOrder();
 
-    void strobePicture();
-    void pictureFollowsTheForm();
-    void smallScreen();
+    void pictureShowsReferences();
+    void pictureFollowsColoursAndFont();
+    void fitsASmallScreen();
 
-    void missingCoefficient();
-    void unity();
+    void missingCoefficientDisablesControls();
+    void unityButtons();
     void automaticWhiteBalance();
     void statisticsOfOtherCamera();
 };
 
-void TestStrobeOutputColor::bothWays_data()
+void TestStrobeOutputColor::changesGoBothWays_data()
 {
     QTest::addColumn<const Control *>("control");
     for (const Control &control : controls)
         QTest::newRow(control.name) << &control;
 }
 
-void TestStrobeOutputColor::bothWays()
+void TestStrobeOutputColor::changesGoBothWays()
 {
     QFETCH(const Control *, control);
     Camera camera;
     const auto dialog = open(control->dialog, &camera.device);
-    dialog->SetDevice(&camera.device); // must not double anything
+    dialog->SetDevice(&camera.device); // a second call must not bind anything twice
     QWidget *widget = part(*dialog, control->name);
     QVERIFY(widget->isEnabled());
     const QString before = camera.get(control->feature);
@@ -230,11 +231,11 @@ void TestStrobeOutputColor::bothWays()
     QCOMPARE(shown(widget), before);
     QCOMPARE(camera.get(control->feature), before);
     QTest::qWait(5);
-    QCOMPARE(camera.writes(), 2); // its own and none in answer
+    QCOMPARE(camera.writes(), 2); // the one above, and no reply by the dialog
 }
 
-// Only what belongs to the coefficient is of no use without it.
-void TestStrobeOutputColor::missingCoefficient()
+// Only the controls of the missing coefficient are disabled.
+void TestStrobeOutputColor::missingCoefficientDisablesControls()
 {
     for (const char *color : {"Red", "Green", "Blue"}) {
         Camera camera(QByteArray(color) + "Coefficient");
@@ -249,7 +250,7 @@ void TestStrobeOutputColor::missingCoefficient()
     }
 }
 
-void TestStrobeOutputColor::withoutCamera()
+void TestStrobeOutputColor::disabledWithoutCamera()
 {
     Camera camera;
     for (Which which : all) {
@@ -262,7 +263,7 @@ void TestStrobeOutputColor::withoutCamera()
         QVERIFY(!dialog->isEnabled());
         camera.device.error = OrvCam::Success;
 
-        // The parameters cannot be had, and the device is gone.
+        // First the parameters are not available, then the device is closed.
         OrvGenApi::MemoryNodeMap nothing;
         NodeMapDevice gone(nothing);
         dialog->SetDevice(&gone);
@@ -273,7 +274,7 @@ void TestStrobeOutputColor::withoutCamera()
     }
 }
 
-void TestStrobeOutputColor::closing()
+void TestStrobeOutputColor::closingIsSignalled()
 {
     Camera camera;
     for (Which which : all) {
@@ -289,16 +290,16 @@ void TestStrobeOutputColor::closing()
             QVERIFY(!dialog->isVisible());
             QCOMPARE(closings.size(), ++expected);
         }
-        dialog->reject(); // is closed already
+        dialog->reject(); // no effect on a closed dialog
         QCOMPARE(closings.size(), expected);
 
-        // The Return key is for the numbers; it neither closes the dialog nor presses a button.
+        // Return commits numbers; it neither closes the dialog nor presses a button.
         dialog->show();
         QTest::keyClick(dialog.get(), Qt::Key_Return);
         QVERIFY(dialog->isVisible());
         QCOMPARE(camera.writes(), 0);
 
-        // A host may destroy it from inside the signal.
+        // A host may destroy the dialog in a slot of the signal.
         connect(dialog.get(), &OrvCamConfigDialog::closing, [&] { dialog.reset(); });
         dialog->close();
         QVERIFY(!dialog);
@@ -333,7 +334,7 @@ void TestStrobeOutputColor::tabOrder()
     }
 }
 
-void TestStrobeOutputColor::strobePicture()
+void TestStrobeOutputColor::pictureShowsReferences()
 {
     Camera camera;
     auto dialog = open(Strobe, &camera.device);
@@ -349,7 +350,7 @@ void TestStrobeOutputColor::strobePicture()
     camera.set("Strobe2Reference", "ReadoutStart");
     QCOMPARE(pictureOf(dialog), resource("strobe1Exp_strobe2Read"));
 
-    // A camera that lacks a reference leaves the picture as it is.
+    // If the camera lacks a reference, the picture does not change.
     camera.device.part.missing = {"Strobe2Reference"};
     dialog->SetDevice(&camera.device);
     camera.set("Strobe1Reference", "ReadoutStart");
@@ -363,7 +364,7 @@ void TestStrobeOutputColor::strobePicture()
     QCOMPARE(pictureOf(dialog), resource("strobeBothExp"));
 }
 
-void TestStrobeOutputColor::pictureFollowsTheForm()
+void TestStrobeOutputColor::pictureFollowsColoursAndFont()
 {
     Camera camera;
     const auto dialog = open(Strobe, &camera.device);
@@ -394,7 +395,7 @@ void TestStrobeOutputColor::pictureFollowsTheForm()
             QTest::qWaitFor([&] { return label->width() >= label->sizeHint().width(); }));
 }
 
-void TestStrobeOutputColor::smallScreen()
+void TestStrobeOutputColor::fitsASmallScreen()
 {
     const QFont before = QApplication::font();
     QFont large = before;
@@ -405,20 +406,20 @@ void TestStrobeOutputColor::smallScreen()
         const auto dialog = open(which, &camera.device);
         const QRect screen = dialog->windowHandle()->screen()->availableGeometry();
         QVERIFY2(screen.contains(dialog->geometry()), qPrintable(dialog->objectName()));
-        // The Tab key brings the last control into view.
+        // The Tab key scrolls to the last control.
         QWidget *last = part(*dialog, lastOf(which));
         last->setFocus(Qt::TabFocusReason);
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Backtab);
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
         QVERIFY2(!last->visibleRegion().isEmpty(), lastOf(which));
         dialog->close();
-        dialog->show(); // for the second time
+        dialog->show(); // a second time
         QVERIFY(screen.contains(dialog->geometry()));
     }
     QApplication::setFont(before);
 }
 
-void TestStrobeOutputColor::unity()
+void TestStrobeOutputColor::unityButtons()
 {
     Camera camera;
     const auto dialog = open(Color, &camera.device);
@@ -433,7 +434,7 @@ void TestStrobeOutputColor::unity()
         QCOMPARE(camera.get(feature), QStringLiteral("256"));
         QCOMPARE(camera.writes(), ++writes);
         QCOMPARE(textOf(dialog, "lbl" + QByteArray(color) + "Coef"), QStringLiteral("256"));
-        QTest::mouseClick(button, Qt::LeftButton); // it is already
+        QTest::mouseClick(button, Qt::LeftButton); // the coefficient is 256 already
         QCOMPARE(camera.writes(), writes);
     }
 }
@@ -465,7 +466,7 @@ void TestStrobeOutputColor::automaticWhiteBalance()
     QVERIFY(camera.get("BlueCoefficient") != blue);
     QCOMPARE(camera.writes(), 1);
 
-    // While the user holds a slider, the statistics go on.
+    // The statistics are updated while the user holds a slider.
     auto *spinBox = part<QtOrvSpinBox>(*dialog, "spBoxRed");
     QTest::mouseClick(spinBox->toolButton(), Qt::LeftButton);
     QSlider *slider = spinBox->slider()->slider();

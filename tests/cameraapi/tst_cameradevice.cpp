@@ -91,7 +91,7 @@ void TestCameraDevice::unplugAndReplug()
         QVERIFY(!width->IsAvailable());
         QCOMPARE(width->GetName(), "Width");
 
-        // What was handed out goes on with the camera.
+        // Objects from before the interruption work again.
         camera.isPlugged = true;
         QTRY_COMPARE(events.seen().size(), size_t(2 * round + 2));
         QCOMPARE(events.seen().back(), int32_t(EventReconnected));
@@ -140,7 +140,7 @@ void TestCameraDevice::unregisteringWaits()
             auto *self = static_cast<Slow *>(context);
             self->isRunning = true;
             QThread::msleep(50);
-            // Taking oneself out from inside is allowed.
+            // A callback may unregister itself.
             self->device->UnregisterEvent(code, dawdle, context);
             self->isRunning = false;
         }
@@ -176,11 +176,11 @@ void TestCameraDevice::polling()
     param->RegisterEventSink(&sink);
     QCOMPARE(param->GetValue(), int64_t(20));
     temperature = 21;
-    QCOMPARE(param->GetValue(), int64_t(20)); // kept until it is polled
+    QCOMPARE(param->GetValue(), int64_t(20)); // cached until the next poll
     QTRY_COMPARE(param->GetValue(), int64_t(21));
     QVERIFY(sink.count > 0);
 
-    // An unplugged camera is not polled any more; its sinks are notified once.
+    // An unplugged camera is not polled; its sinks are notified once.
     camera.isPlugged = false;
     QTRY_VERIFY(!device->IsConnected());
     QTest::qWait(50);

@@ -1,5 +1,5 @@
 /* SPDX-License-Identifier: MIT */
-/* A C program, without Qt, that finds, opens and closes simulated cameras. */
+/* A C program without Qt that finds, opens and closes simulated cameras. */
 #include <orvgenparamapi.h>
 
 #include <math.h>
@@ -65,7 +65,7 @@ static void openAndClose(OrvCamSystem *system)
     CHECK(array && error == OrvCam_Success);
     CHECK(OrvGenParam_GetNodeMap(array, &error) && error == OrvCam_Success);
 
-    /* Who looks again sees the same record in another state. */
+    /* A new enumeration keeps the record and updates its access state. */
     CHECK(OrvCam_RefreshDevices(system, 200) == OrvCam_Success);
     CHECK(OrvCam_GetAccessState(info) == OrvCam_AccessNone);
     OrvCam_ReleaseDevice(device);
@@ -73,7 +73,7 @@ static void openAndClose(OrvCamSystem *system)
     CHECK(find(system, OrvCam_AccessReadWrite) == info);
 }
 
-static void valuesOf(OrvGenApiNodeMap *map)
+static void testValues(OrvGenApiNodeMap *map)
 {
     char text[64];
     size_t length = 0;
@@ -114,7 +114,7 @@ static void valuesOf(OrvGenApiNodeMap *map)
     CHECK(OrvGenParam_SetBoolean(reverse, 7) == OrvCam_Success);
     CHECK(OrvGenParam_GetBoolean(reverse, &number) == OrvCam_Success && number == 1);
 
-    /* A text that is cut keeps its characters whole. */
+    /* A truncated text contains no partial characters. */
     CHECK(OrvGenParam_SetString(user, "a\xC3\xA9z") == OrvCam_Success);
     CHECK(OrvGenParam_GetString(user, NULL, 0, &length) == OrvCam_Success && length == 4);
     CHECK(OrvGenParam_GetString(user, text, 3, &length) == OrvCam_Success && length == 4);
@@ -130,7 +130,7 @@ static void valuesOf(OrvGenApiNodeMap *map)
     CHECK(OrvGenParam_SetValueText(OrvGenParam_FindNode(map, "UserSetLoad"), "") != 0);
 }
 
-static void listsOf(OrvGenApiNodeMap *map)
+static void testLists(OrvGenApiNodeMap *map)
 {
     OrvGenApiNode *nodes[8];
     char text[64];
@@ -160,29 +160,29 @@ struct Seen
     int calls;
 };
 
-static void seeOnce(OrvGenApiNode *node, void *userData)
+static void countOnce(OrvGenApiNode *node, void *userData)
 {
     struct Seen *seen = userData;
     CHECK(OrvGenParam_GetKind(node) == OrvGenParam_KindFloat);
     ++seen->calls;
-    OrvGenParam_Unwatch(seen->watch); /* from inside */
+    OrvGenParam_Unwatch(seen->watch); /* in the callback */
     seen->watch = NULL;
 }
 
-static void see(OrvGenApiNode *node, void *userData)
+static void countCall(OrvGenApiNode *node, void *userData)
 {
     (void)node;
     ++((struct Seen *)userData)->calls;
 }
 
-static void changesOf(OrvGenApiNodeMap *map)
+static void testWatches(OrvGenApiNodeMap *map)
 {
     int32_t error = OrvCam_ErrorFailed;
     struct Seen once = {NULL, 0};
     struct Seen all = {NULL, 0};
     OrvGenApiNode *delay = OrvGenParam_FindNode(map, "TriggerDelay");
-    once.watch = OrvGenParam_Watch(delay, seeOnce, &once, &error);
-    all.watch = OrvGenParam_Watch(delay, see, &all, NULL);
+    once.watch = OrvGenParam_Watch(delay, countOnce, &once, &error);
+    all.watch = OrvGenParam_Watch(delay, countCall, &all, NULL);
     CHECK(once.watch && error == OrvCam_Success);
     CHECK(OrvGenParam_SetFloat(delay, 1000) == OrvCam_Success);
     CHECK(OrvGenParam_SetFloat(delay, 2000) == OrvCam_Success);
@@ -201,12 +201,12 @@ static void parameters(OrvCamSystem *system)
     OrvCamDevice *device =
         OrvCam_CreateDevice(find(system, OrvCam_AccessReadWrite), NULL, OrvCam_AccessControl);
     OrvGenApiNodeMap *map = OrvGenParam_GetNodeMap(OrvCam_GetParamArray(device, NULL), NULL);
-    valuesOf(map);
-    listsOf(map);
-    changesOf(map);
-    seen.watch = OrvGenParam_Watch(OrvGenParam_FindNode(map, "Width"), see, &seen, NULL);
+    testValues(map);
+    testLists(map);
+    testWatches(map);
+    seen.watch = OrvGenParam_Watch(OrvGenParam_FindNode(map, "Width"), countCall, &seen, NULL);
     OrvCam_ReleaseDevice(device);
-    OrvGenParam_Unwatch(seen.watch); /* outlives its node */
+    OrvGenParam_Unwatch(seen.watch); /* valid after its node is destroyed */
 
     map = OrvGenParam_LoadDescription(ORV_DESCRIPTION, NULL, 0);
     CHECK(OrvGenParam_SetValueText(OrvGenParam_FindNode(map, "Height"), "no number") != 0);
@@ -242,12 +242,12 @@ static void descriptions(void)
     CHECK(map && !reason[0]);
     OrvGenParam_ReleaseNodeMap(map);
     CHECK(!OrvGenParam_LoadDescription("/no/such/folder/file.xml", reason, sizeof reason));
-    CHECK(strcmp(reason, "/no/such/folder/fil") == 0); /* cut */
+    CHECK(strcmp(reason, "/no/such/folder/fil") == 0); /* truncated */
     CHECK(!OrvGenParam_LoadDescription("/no/such/\xFF\xC3\xA4\xC3\xA4\xC3\xA4", reason, 16));
     CHECK(strcmp(reason, "/no/such/\xEF\xBF\xBD\xC3\xA4") == 0);
 }
 
-static void nothing(void)
+static void nullArguments(void)
 {
     int32_t error = OrvCam_Success;
     CHECK(OrvCam_RefreshDevices(NULL, 200) == OrvCam_ErrorInvalidArgument);
@@ -277,7 +277,7 @@ int main(void)
     parameters(system);
     noParameters();
     descriptions();
-    nothing();
+    nullArguments();
     OrvCam_ReleaseSystem(system);
     if (failures == 0)
         puts("all well");

@@ -11,8 +11,8 @@
 
 using namespace OrvCam;
 
-/// Everything that goes over a network. This machine has two adapters, 10.1.0.1 and 10.2.0.1, each
-/// with a cable to a machine of its own, 10.1.0.2 and 10.2.0.2, where cameras are started.
+/// The functions that use a network. This machine has two adapters, 10.1.0.1 and 10.2.0.1, each
+/// with a cable to another machine, 10.1.0.2 and 10.2.0.2, where cameras are started.
 class TestGigEVision : public QObject
 {
     Q_OBJECT
@@ -26,8 +26,8 @@ private slots:
     void camerasComeAndGo();
     void badDescription();
     void allAdaptersAtOnce();
-    void linkIsDown();
-    void withoutAddress();
+    void adapterWithoutLink();
+    void adapterWithoutAddress();
     void sharedMacAddress();
     void manyCamerasComeAndGo();
     void malformedAnswers_data();
@@ -104,7 +104,8 @@ void TestGigEVision::adaptersAndCameras()
     waitForCamera("orv0", "FIRST");
     waitForCamera("orv1", "SECOND");
 
-    QCOMPARE(interfacesOf(*m_system).size(), size_t(3)); // no loopback, and USB at the end
+    QCOMPARE(interfacesOf(*m_system).size(),
+             size_t(3)); // USB is the last one; loopback is not listed
     QCOMPARE(interfacesOf(*m_system).back()->GetTransportKind(), int32_t(TransportUsb3Vision));
     QVERIFY(camerasOf(*interfacesOf(*m_system).back()).empty());
     int64_t subnet = 0x0A010000;
@@ -160,7 +161,7 @@ void TestGigEVision::camerasComeAndGo()
     QCOMPARE(interface("orv0")->RefreshDevices(&changed, 200), int32_t(Success));
     QVERIFY(changed);
     QVERIFY(camerasOf(*interface("orv0")).empty());
-    QCOMPARE(info->GetSerial(), "BRIEF"); // the record is still there
+    QCOMPARE(info->GetSerial(), "BRIEF"); // the record still exists
     OrvGenParam::Array *array = interface("orv0")->GetParamArray();
     QCOMPARE(array->SetIntegerValue("DeviceSelector", 0), int32_t(ErrorNotAvailable));
 
@@ -186,7 +187,7 @@ void TestGigEVision::badDescription()
         QVERIFY(!OrvCam_CreateDevice(info, &error, AccessControl));
         QCOMPARE(error, int32_t(ErrorBadDescription));
 
-        // No connection keeps the camera busy.
+        // The failed opening leaves no connection behind.
         interface("orv0")->RefreshDevices(nullptr, 200);
         QCOMPARE(info->GetAccessState(), int32_t(AccessReadWrite));
     }
@@ -196,7 +197,7 @@ void TestGigEVision::allAdaptersAtOnce()
 {
     TestCamera::Settings settings = m_first->cameraSettings(0x020000000001, "10.1.0.2");
     settings.vendor = "Strawman\xff";
-    settings.userName = "abcdefghijklmnop"; // to the last byte
+    settings.userName = "abcdefghijklmnop"; // fills its field
     TestCamera near(settings);
     TestCamera far(m_second->cameraSettings(0x020000000002, "10.2.0.2"));
     near.setPrivilege(2);
@@ -214,12 +215,12 @@ void TestGigEVision::allAdaptersAtOnce()
     QCOMPARE(QString::fromUtf8(cameras.front()->GetVendor()), QStringLiteral("Strawman\uFFFD"));
     QVERIFY(!cameras.front()->GetSerial());
 
-    // A second question is a new one.
+    // The next enumeration sends a new discovery command.
     far.setMood("silence");
     QVERIFY(camerasOf(*second).empty());
 }
 
-void TestGigEVision::linkIsDown()
+void TestGigEVision::adapterWithoutLink()
 {
     TestCamera camera(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
     Interface *first = interface("orv0");
@@ -236,7 +237,7 @@ void TestGigEVision::linkIsDown()
     QCOMPARE(first->GetDescription(), "orv0 (10.1.0.1)");
 }
 
-void TestGigEVision::withoutAddress()
+void TestGigEVision::adapterWithoutAddress()
 {
     TestCamera camera(m_first->cameraSettings(0x020000000001, "169.254.7.21"));
     CameraNetwork::run("ip", "addr flush dev orv0");
@@ -260,7 +261,7 @@ void TestGigEVision::withoutAddress()
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessReadWrite));
 }
 
-/// The protocol cannot distinguish them.
+/// The protocol cannot distinguish cameras with the same MAC address.
 void TestGigEVision::sharedMacAddress()
 {
     TestCamera right(m_first->cameraSettings(0x020000000001, "10.1.0.2"));
@@ -282,7 +283,7 @@ void TestGigEVision::sharedMacAddress()
     QCOMPARE(error, int32_t(ErrorWrongSubnet));
 }
 
-/// What is kept of them has a limit, and what has been handed out stays.
+/// The number of records is limited, but those that were handed out stay valid.
 void TestGigEVision::manyCamerasComeAndGo()
 {
     auto settings = m_second->cameraSettings(0x020000000001, "10.2.0.2");
@@ -385,7 +386,7 @@ void TestGigEVision::forcedIpWithFaults_data()
     QTest::addColumn<int>("error");
     QTest::addColumn<int>("seconds");
     QTest::newRow("force-ip-refused") << 0 << int(ErrorAccessDenied) << 0;
-    QTest::newRow("force-ip-ignored") << 0 << int(ErrorTimeout) << 10; // but acknowledged
+    QTest::newRow("force-ip-ignored") << 0 << int(ErrorTimeout) << 10; // though acknowledged
     QTest::newRow("silence") << -1 << int(ErrorTimeout) << 5;
     QTest::newRow("request-loss") << 60 << int(Success) << 0;
     QTest::newRow("answer-loss") << 60 << int(Success) << 0;
@@ -471,7 +472,7 @@ void TestGigEVision::unplugAndReplug()
     QCOMPARE(width->SetValue(128), int32_t(Success));
     QCOMPARE(array->GetIntegerValue("Width", &error), int64_t(128));
 
-    // Control is ours again and stays so.
+    // The client has control again, and keeps it.
     QTest::qWait(4000);
     QVERIFY(device->IsConnected());
     QCOMPARE(present->SetIntegerValue("Width", 256), int32_t(Success));

@@ -16,7 +16,7 @@ using namespace OrvGenParam;
 
 namespace {
 
-/// Counts its notifications and does something at each.
+/// Counts its notifications and performs an action at each.
 class Sink : public ParamEventSink
 {
 public:
@@ -138,7 +138,7 @@ void TestNodeMapArray::values()
 
     Float *exposure = array.GetFloat("ExposureTime");
     QVERIFY(exposure->GetMin() == 0.5 && exposure->GetMax() == 1e6);
-    QCOMPARE(exposure->GetInc(&error), 0.0); // none is no error
+    QCOMPARE(exposure->GetInc(&error), 0.0); // a feature without an increment
     QCOMPARE(error, int32_t(OrvCam::Success));
     camera.exposure.setIncrement(0.25);
     QCOMPARE(exposure->GetInc(), 0.25);
@@ -176,7 +176,7 @@ void TestNodeMapArray::enumeration()
     QCOMPARE(mode->SetIntValue(1), int32_t(OrvCam::Success));
     QCOMPARE(mode->GetSymbolicValue(), "On");
 
-    // A value that belongs to no entry: there is a number, but no name.
+    // A value without an entry has a number, but no name.
     camera.mode.change(7);
     QCOMPARE(mode->GetSymbolicValue(), "");
     QVERIFY(mode->SetSymbolicValue("Nonsense") != OrvCam::Success);
@@ -281,7 +281,7 @@ void TestNodeMapArray::sinksFollowChanges()
     camera.exposure.setLimits(1, 2);
     QCOMPARE(sink.count, 3);
 
-    // The node map's lock is free when sinks are called.
+    // Sinks are called without the node map's lock.
     Sink probe([&](Param *) {
         std::thread([&] { camera.map.GetLock().Lock(), camera.map.GetLock().Unlock(); }).join();
     });
@@ -311,7 +311,7 @@ void TestNodeMapArray::sinksChangeRegistrations()
         param->UnregisterEventSink(&removed);
         doomed.reset();
         param->UnregisterEventSink(&actor);
-        array.SetIntegerValue("Width", 48); // notifies from within a notification
+        array.SetIntegerValue("Width", 48); // a nested notification
     });
     width->RegisterEventSink(&actor);
     width->RegisterEventSink(doomed.get());
@@ -321,17 +321,17 @@ void TestNodeMapArray::sinksChangeRegistrations()
     QCOMPARE(actor.count, 1);
     QCOMPARE(removed.count, 0);
     QVERIFY(!doomed);
-    QCOMPARE(late.count, 1); // of the change made from inside
+    QCOMPARE(late.count, 1); // for the nested change
 
-    Sink *suicidal = nullptr;
-    suicidal = new Sink([&](Param *) {
-        Sink *&self = suicidal; // the capture goes with the sink
+    Sink *selfDestroying = nullptr;
+    selfDestroying = new Sink([&](Param *) {
+        Sink *&self = selfDestroying; // deleting the sink destroys the captures
         delete self;
         self = nullptr;
     });
-    width->RegisterEventSink(suicidal);
+    width->RegisterEventSink(selfDestroying);
     camera.width.change(64);
-    QVERIFY(!suicidal);
+    QVERIFY(!selfDestroying);
     camera.width.change(80);
     QCOMPARE(late.count, 3);
 }
@@ -350,7 +350,7 @@ void TestNodeMapArray::destroyedInAnyOrder()
         camera.width.changed();
         QCOMPARE(survivor.count, 1);
 
-        // A sink that destroys the parameter that notifies it, with another sink still to come.
+        // A sink destroys the parameter that notifies it, before the next sink is notified.
         Sink destroyer([&](Param *) { array.reset(); });
         Sink tooLate;
         array->GetParam("Mode")->RegisterEventSink(&destroyer);
@@ -363,7 +363,7 @@ void TestNodeMapArray::destroyedInAnyOrder()
     camera.width.changed();
     QCOMPARE(survivor.count, 1);
 
-    // The node map has no references to the array; a new array starts without registrations.
+    // The node map keeps no references to the array; a new array starts without registrations.
     NodeMapArray again(camera.map);
     camera.width.changed();
     QCOMPARE(survivor.count, 1);
@@ -399,7 +399,7 @@ void TestNodeMapArray::changesOnOtherThreads()
     QTest::qWait(20);
     QCOMPARE(sink.count, 2);
 
-    // An array that was made for another thread treats this one as foreign.
+    // For an array that was created for another thread, this thread is the foreign one.
     std::thread::id elsewhere;
     std::thread([&] { elsewhere = std::this_thread::get_id(); }).join();
     NodeMapArray foreign(camera.map, elsewhere);

@@ -13,7 +13,7 @@ namespace {
 struct Network : GevNetwork
 {
     std::vector<GevAddresses> present;
-    uint64_t forced = 0; ///< the MAC address of the last camera that was given an address
+    uint64_t forced = 0; ///< the MAC address of the last camera with a forced IP
 
     GevAddresses adapter() const override { return {}; }
     std::vector<GevAddresses> cameras() const override { return present; }
@@ -61,7 +61,7 @@ void TestSimulatedSystem::forcedAddress()
     QCOMPARE(array->SetIntegerValue("GevDeviceForceIPAddress", 0xC0000240), int32_t(Success));
     QCOMPARE(array->SetIntegerValue("GevDeviceForceSubnetMask", 0xFFFFFF00), int32_t(Success));
 
-    // What is to be forced on one camera is not what is to be forced on another.
+    // Each camera has its own values to be forced.
     array->SetIntegerValue("DeviceSelector", 0);
     QCOMPARE(array->GetIntegerValue("GevDeviceForceIPAddress"),
              array->GetIntegerValue("GevDeviceIPAddress"));
@@ -75,7 +75,7 @@ void TestSimulatedSystem::forcedAddress()
     QVERIFY(device);
     QCOMPARE(array->ExecuteCommand("GevDeviceForceIP"), int32_t(ErrorAccessDenied));
 
-    // What a device belongs to stays as long as it does.
+    // A device keeps its interface and system alive.
     const std::string name = (*elsewhere)->GetDisplayName();
     m_system.reset();
     QCOMPARE(device->GetParamArray()->GetIntegerValue("GevCurrentIPAddress"), int64_t(0xC0000240));
@@ -83,7 +83,7 @@ void TestSimulatedSystem::forcedAddress()
     QVERIFY(device->GetDeviceInfo()->GetInterface()->GetDescription());
 }
 
-// The cameras are enumerated again between a selection and its use.
+// The cameras are enumerated again between the selection and its use.
 void TestSimulatedSystem::selectionFollowsItsCamera()
 {
     Network network;
@@ -100,7 +100,7 @@ void TestSimulatedSystem::selectionFollowsItsCamera()
     QCOMPARE(array.ExecuteCommand("GevDeviceForceIP"), int32_t(Success));
     QCOMPARE(network.forced, uint64_t(2));
 
-    // When it is gone, no other camera gets what was meant for it.
+    // If the selected camera vanishes, no other camera gets its address.
     network.present.pop_back();
     parameters.networkChanged();
     QCOMPARE(array.SetIntegerValue("GevDeviceForceIPAddress", 1), int32_t(ErrorAccessDenied));

@@ -14,19 +14,19 @@ using std::chrono::milliseconds;
 
 namespace {
 
-/// A camera of 4-byte registers, as a test wants it.
+/// A camera with 4-byte registers and adjustable faults.
 struct Camera
 {
     std::atomic<bool> isThere{true};
     std::atomic<bool> isForgetful{false};
     std::atomic<int> delayMs{0};
-    std::atomic<std::size_t> inTime{SIZE_MAX}; ///< registers of a batch that there is time for
+    std::atomic<std::size_t> inTime{SIZE_MAX}; ///< registers of a batch within the time limit
     std::atomic<int> commands{0};
     std::atomic<int> reopenings{0};
 
-    std::mutex mutex; ///< guards what follows
+    std::mutex mutex; ///< protects the following members
     std::map<uint64_t, std::vector<uint8_t>> memory;
-    std::set<uint64_t> mute; ///< addresses that are never answered
+    std::set<uint64_t> mute; ///< addresses without an answer
     std::vector<std::size_t> batches;
 
     std::vector<uint8_t> at(uint64_t address)
@@ -95,7 +95,7 @@ private:
     Camera &m_camera;
 };
 
-struct Story : RegisterIoListener
+struct EventCounter : RegisterIoListener
 {
     std::atomic<int> answers{0};
     std::atomic<int> losses{0};
@@ -122,11 +122,11 @@ private slots:
     void fieldsShareOneRegister();
     void waitingCallersGoFirst();
     void remainderIsReadNext();
-    void aDroppedRequestIsNotAnswered();
+    void droppedRequestIsNotAnswered();
     void lostCameraCostsOneTimeout();
     void unansweredRegisterIsSkipped();
-    void aLostCameraIsFound_data();
-    void aLostCameraIsFound();
+    void lostCameraIsFound_data();
+    void lostCameraIsFound();
 };
 
 void TestRegisterIo::cachesTransferredRegisters()
@@ -139,7 +139,7 @@ void TestRegisterIo::cachesTransferredRegisters()
     QCOMPARE(io.look(word(0), 0).bytes, (std::vector<uint8_t>{1, 2, 3, 4}));
     QCOMPARE(io.look({0, 2}, 0).bytes, (std::vector<uint8_t>{1, 2}));
 
-    // Writing outdates what overlaps it, and is known itself.
+    // A write invalidates overlapping ranges and stores the range that was written.
     QCOMPARE(io.write({{2, {7, 7, 7, 7}, {}}}), Status::Done);
     QVERIFY(!io.look(word(0), 0).isKnown);
     QVERIFY(io.look({0, 2}, 0).isKnown);
@@ -171,7 +171,7 @@ void TestRegisterIo::fieldsShareOneRegister()
     other.join();
     QCOMPARE(camera.at(0), (std::vector<uint8_t>{0xA0, 0, 0, 0x50}));
 
-    // A known register may be outdated: it is read before a field of it is written.
+    // A cached register may be stale: it is read again before one of its fields is written.
     io.read({word(0)});
     camera.memory[0][1] = 9;
     RegisterWrite write{0, {0x01, 0, 0, 0}, {0x0F, 0, 0, 0}};
@@ -196,7 +196,7 @@ void TestRegisterIo::waitingCallersGoFirst()
     QVERIFY(io.look(word(1000), 0).isKnown);
     QVERIFY(!isDone);
     QTRY_VERIFY(isDone);
-    QCOMPARE(camera.commands.load(), 11); // ten of four registers, and the other one
+    QCOMPARE(camera.commands.load(), 11); // ten commands of four registers, and the other register
 }
 
 void TestRegisterIo::remainderIsReadNext()
@@ -204,8 +204,8 @@ void TestRegisterIo::remainderIsReadNext()
     Camera camera;
     camera.inTime = 3;
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     std::vector<RegisterRange> page;
     for (uint64_t i = 0; i < 10; ++i)
         page.push_back(word(4 * i));
@@ -215,7 +215,7 @@ void TestRegisterIo::remainderIsReadNext()
     QCOMPARE(camera.batches, (std::vector<std::size_t>{4, 4, 4, 1}));
     QCOMPARE(io.transactions().reads, uint64_t(10));
 
-    // Silence is something else.
+    // Silence, in contrast, ends the reading.
     camera.isThere = false;
     io.read({word(100), word(104), word(108), word(112)});
     QCOMPARE(camera.batches.size(), std::size_t(5));
@@ -224,7 +224,7 @@ void TestRegisterIo::remainderIsReadNext()
     io.setListener(nullptr);
 }
 
-void TestRegisterIo::aDroppedRequestIsNotAnswered()
+void TestRegisterIo::droppedRequestIsNotAnswered()
 {
     Camera camera;
     camera.delayMs = 5;
@@ -245,8 +245,8 @@ void TestRegisterIo::lostCameraCostsOneTimeout()
 {
     Camera camera;
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     camera.isThere = false;
     io.read({word(0)});
     QCOMPARE(io.look(word(0), 0).status, Status::NoAnswer);
@@ -257,11 +257,11 @@ void TestRegisterIo::lostCameraCostsOneTimeout()
     QCOMPARE(io.look(word(4), 0).status, Status::NoAnswer);
 
     camera.isThere = true;
-    QTRY_COMPARE(story.answers.load(), 1);
+    QTRY_COMPARE(events.answers.load(), 1);
     QVERIFY(!io.look(word(0), 0).isKnown && !io.look(word(4), 0).isKnown);
     io.read({word(4)});
     QCOMPARE(io.look(word(4), 0).status, Status::Done);
-    QCOMPARE(story.losses.load(), 0);
+    QCOMPARE(events.losses.load(), 0);
     io.setListener(nullptr);
 }
 
@@ -270,8 +270,8 @@ void TestRegisterIo::unansweredRegisterIsSkipped()
     Camera camera;
     camera.mute = {8};
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     const std::vector<RegisterRange> page{word(0), word(4), word(8), word(12)};
     for (int round = 0; round < 6 && io.look(word(8), 0).status != Status::Failed; ++round) {
         io.read(page);
@@ -281,34 +281,34 @@ void TestRegisterIo::unansweredRegisterIsSkipped()
     io.read({word(0), word(4), word(12)});
     for (uint64_t address : {0, 4, 12})
         QCOMPARE(io.look(word(address), 0).status, Status::Done);
-    QCOMPARE(story.losses.load(), 0);
+    QCOMPARE(events.losses.load(), 0);
     io.setListener(nullptr);
 }
 
-void TestRegisterIo::aLostCameraIsFound_data()
+void TestRegisterIo::lostCameraIsFound_data()
 {
     QTest::addColumn<bool>("isForgetful");
     QTest::newRow("it still knows us") << false;
     QTest::newRow("it was switched off and on") << true;
 }
 
-void TestRegisterIo::aLostCameraIsFound()
+void TestRegisterIo::lostCameraIsFound()
 {
     QFETCH(bool, isForgetful);
     Camera camera;
     RegisterIo io(std::make_unique<FakePort>(camera));
-    Story story;
-    io.setListener(&story);
+    EventCounter events;
+    io.setListener(&events);
     io.read({word(0)});
     camera.isThere = false;
-    QTRY_COMPARE(story.losses.load(), 1);
+    QTRY_COMPARE(events.losses.load(), 1);
     QVERIFY(io.isLost());
     io.read({word(4)});
     QCOMPARE(io.look(word(4), 0).status, Status::NoAnswer);
 
     camera.isForgetful = isForgetful;
     camera.isThere = true;
-    QTRY_COMPARE(story.finds.load(), 1);
+    QTRY_COMPARE(events.finds.load(), 1);
     QVERIFY(!io.look(word(0), 0).isKnown);
     io.read({word(0)});
     QCOMPARE(io.look(word(0), 0).status, Status::Done);

@@ -55,15 +55,15 @@ class TestDescription : public QObject
     Q_OBJECT
 
 private slots:
-    void contents();
-    void refused_data();
-    void refused();
+    void descriptionContents();
+    void invalidDescriptionsAreRefused_data();
+    void invalidDescriptionsAreRefused();
     void parserPrintsNothing();
-    void limits();
+    void descriptionLimits();
     void descriptionsAreShared();
 };
 
-void TestDescription::contents()
+void TestDescription::descriptionContents()
 {
     const auto description = read(document(
         "<Group><Integer Name='A' NameSpace='Standard'><ToolTip> a &amp; <![CDATA[<b>]]> &#228; "
@@ -93,7 +93,7 @@ void TestDescription::contents()
     QCOMPARE(textOf(nodes[5].properties[0].properties()[0].text), QString("1"));
 }
 
-void TestDescription::refused_data()
+void TestDescription::invalidDescriptionsAreRefused_data()
 {
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<QString>("message");
@@ -129,7 +129,7 @@ void TestDescription::refused_data()
         "the description is too large");
 }
 
-void TestDescription::refused()
+void TestDescription::invalidDescriptionsAreRefused()
 {
     QFETCH(QByteArray, xml);
     QFETCH(QString, message);
@@ -152,7 +152,7 @@ void TestDescription::parserPrintsNothing()
     QCOMPARE(output.size(), qint64(0));
 }
 
-void TestDescription::limits()
+void TestDescription::descriptionLimits()
 {
     QCOMPARE(errorOf(document(repeated("<Group>", 31) + repeated("</Group>", 31))),
              QString("accepted"));

@@ -21,8 +21,8 @@ using OrvDescription::FormulaNumber;
 
 namespace {
 
-/// The names that all formulas here may use: variables A = 7, B = -3, D = 2.5, Z = 0 and U, which
-/// is not yet known, V with limits, constants and expressions.
+/// The names that all the formulas may use: variables A = 7, B = -3, D = 2.5, Z = 0, U (not known
+/// yet) and V (with limits), constants and expressions.
 class Names
 {
 public:
@@ -108,24 +108,23 @@ QString realOf(Names &names, const QByteArray &text)
         [&] { return QString::number(names.formula(text).real(names.looking()), 'g', 12); });
 }
 
-/// Makes formulas out of what ours and Aravis's evaluator understand alike. They differ in:
+/// Generates formulas that this library and Aravis evaluate in the same way. They differ in:
 ///
-/// - a choice, && and ||: Aravis evaluates all operands, so it fails when the one that does not
-///   count divides by 0;
-/// - conditions: to Aravis a number between -1 and 1 is false, since it makes integers of them;
-/// - the limits of integers: powers and literals beyond 64 bits, sums and products of
-///   floating-point formulas, which Aravis computes with 64 bits when both operands are integers;
-/// - what is no number: as an integer it is 0 here, the smallest one there;
-/// - what Aravis does not know: "==", "!=", ".5", POW, negative constants, parts of variables that
-///   are not declared as such, expressions within expressions;
+/// - choices, && and ||: Aravis evaluates all operands, so it fails if the unused one divides by 0;
+/// - conditions: Aravis converts them to integers, so a number between -1 and 1 is false;
+/// - the range of integers: powers and literals beyond 64 bits, and sums and products in
+///   floating-point formulas, which Aravis computes with 64 bits if both operands are integers;
+/// - NaN: its integer value is 0 here and the smallest integer in Aravis;
+/// - syntax that Aravis lacks: "==", "!=", ".5", POW, negative constants, undeclared parts of
+///   variables, expressions within expressions;
 /// - ROUND within a longer formula, where Aravis miscounts its arguments;
-/// - what is no formula here: functions without parentheses, ":1".
+/// - syntax that only Aravis accepts: functions without parentheses, ":1".
 class Generator
 {
 public:
     explicit Generator(unsigned seed) : m_random(seed) {}
 
-    /// Operands take the places of "#" after so many rounds.
+    /// Each round replaces every "#" by an operation; after `depth` rounds by an operand.
     QByteArray formula(int depth, bool withFunctions)
     {
         QByteArray text = "#";
@@ -157,7 +156,7 @@ private:
                    "(#<<(#&15)),(#>>(# & 15)),(#&15)**2,(#&15)**3,# + #,#-#,#*#,#/ #,# %#,#&#,#|#,"
                    "# ^ #,#=#,#<>#,#<#,# > #,#<=#,#>=#")
             .split(',');
-    /// Only such as have a result.
+    /// Functions with arguments for which they have a result.
     const QByteArrayList functions =
         QByteArray("SIN((#)),COS((#)),TAN((#)),ASIN(SIN((#))),ACOS(COS((#))),ATAN((#)),EXP((#)%5),"
                    "LN(1+ABS((#))),LG(1+ABS((#))),SQRT(ABS((#))),ABS((#)),SGN((#)),NEG((#)),"
@@ -240,11 +239,11 @@ class TestFormula : public QObject
 
 private slots:
     void randomFormulas();
-    void results_data();
-    void results();
-    void errors_data();
-    void errors();
-    void limits();
+    void formulaResults_data();
+    void formulaResults();
+    void formulaErrors_data();
+    void formulaErrors();
+    void formulaLimits();
     void unknownVariables_data();
     void unknownVariables();
 };
@@ -263,7 +262,7 @@ void TestFormula::randomFormulas()
 
         const auto real = ours<double>([&] { return formula.real(names.looking()); });
         if (real && std::abs(*real) > 1e15)
-            continue; // integers that overflow
+            continue; // the integer result would overflow
         const auto expectedReal = oracle.real();
         if (!expectedReal && real && choosesOperands(text))
             continue;
@@ -281,7 +280,7 @@ void TestFormula::randomFormulas()
     QVERIFY2(compared > 12000, QByteArray::number(compared));
 }
 
-void TestFormula::results_data()
+void TestFormula::formulaResults_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("integer");
@@ -323,7 +322,7 @@ void TestFormula::results_data()
     row("1e300", "9223372036854775807", "1e+300");
 }
 
-void TestFormula::results()
+void TestFormula::formulaResults()
 {
     QFETCH(QByteArray, text);
     Names names;
@@ -331,7 +330,7 @@ void TestFormula::results()
     QTEST(realOf(names, text), "real");
 }
 
-void TestFormula::errors_data()
+void TestFormula::formulaErrors_data()
 {
     QTest::addColumn<QByteArray>("text");
     const QByteArrayList texts =
@@ -346,7 +345,7 @@ void TestFormula::errors_data()
     QTest::newRow("too long") << QByteArray(200000, '1').replace("1", "1+") + "1";
 }
 
-void TestFormula::errors()
+void TestFormula::formulaErrors()
 {
     QFETCH(QByteArray, text);
     Names names;
@@ -356,7 +355,7 @@ void TestFormula::errors()
     QCOMPARE(names.asked, QList<int>());
 }
 
-void TestFormula::limits()
+void TestFormula::formulaLimits()
 {
     Names names;
     const int depth = OrvCameraIo::Limits::formulaDepth - 1;

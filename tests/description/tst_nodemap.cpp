@@ -17,7 +17,7 @@ using namespace GenApi;
 
 namespace {
 
-/// A description around some nodes. Those that every test needs are there.
+/// Wraps nodes in a description that has the nodes every test needs.
 QByteArray description(const QByteArray &nodes)
 {
     return R"(<?xml version="1.0" encoding="utf-8"?>
@@ -88,13 +88,13 @@ QStringList names(const FeatureList_t &features)
 
 } // namespace
 
-/// Descriptions without a camera, their registers in memory.
+/// Descriptions without a camera; their registers are in memory.
 class TestNodeMap : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void badFiles();
+    void invalidFiles();
     void interfacesFollowTheElement();
     void propertiesOfNodes();
     void orderOfTheFile();
@@ -121,7 +121,7 @@ private slots:
     void unusedChangesEndPolling();
 };
 
-void TestNodeMap::badFiles()
+void TestNodeMap::invalidFiles()
 {
     const QTemporaryDir folder;
     for (const QString &name : {folder.filePath("missing.xml"), folder.path()}) {
@@ -161,7 +161,7 @@ void TestNodeMap::interfacesFollowTheElement()
                                      {"Device", intfIPort},
                                      {"Unknown", intfIBase}})
         QVERIFY2(map->GetNode(name)->GetPrincipalInterfaceType() == type, name);
-    // The other interfaces of the engine's own types are not visible.
+    // The engine's other interfaces are not accessible.
     QVERIFY(!CFloatPtr(map->GetNode("Enumeration")).IsValid());
     QVERIFY(!CStringPtr(map->GetNode("Enumeration")).IsValid());
     QVERIFY(CSelectorPtr(map->GetNode("Float")).IsValid());
@@ -377,7 +377,7 @@ void TestNodeMap::variableAddresses()
     const QString steps = "Selector=0 %1=11 Selector=1 %1?0 %1=22 Selector=0 %1?11";
     for (const char *name : {"ByIndex", "ByFormula", "ByNode"})
         QCOMPARE(FeatureSteps(*map).run(steps.arg(name)), QString());
-    // An address that cannot be computed is no address: nothing may be read from elsewhere.
+    // If an address cannot be computed, nothing may be read from another address.
     integer(*map, "Selector") = 2;
     const uint64_t reads = map->transactions().reads;
     QVERIFY(textOf(*map, "ByNode").startsWith("exception: "));
@@ -532,7 +532,7 @@ void TestNodeMap::circularReferences()
         "Name='V'>Outer</pVariable><Formula>V.Max</Formula></IntSwissKnife>"
         "<Integer Name='Outer'><pValue>MaxOfMax</pValue></Integer>"
         "<Integer Name='OwnLock'><Value>1</Value><pIsLocked>OwnLock</pIsLocked></Integer>"
-        // Limits that depend on each other's values are no circle.
+        // Limits that refer to each other's values are not a circular reference.
         + intReg("WidthReg", "0") + intReg("OffsetReg", "4") +
         "<Integer Name='Width'><pValue>WidthReg</pValue><pMax>WidthMax</pMax></Integer>"
         "<Integer Name='OffsetX'><pValue>OffsetReg</pValue><pMax>OffsetMax</pMax></Integer>"
@@ -574,7 +574,7 @@ void TestNodeMap::costOfReferences()
                 .arg(i + 1)
                 .arg(i)
                 .toUtf8();
-    // Categories with more rows than can be built.
+    // A tree of these categories has more rows than memory can hold.
     for (int i = 0; i < 100; ++i)
         nodes +=
             QString(
@@ -666,7 +666,7 @@ void TestNodeMap::longRegisters()
 
 namespace {
 
-/// Memory that counts how often it is asked, and can fall silent.
+/// Memory that counts its transfers and can stop answering.
 class CountingPort : public OrvCameraIo::Port
 {
 public:
@@ -675,7 +675,7 @@ public:
         std::atomic<int> batches{0};
         std::atomic<bool> isSilent{false};
         std::vector<OrvCameraIo::RegisterRange> declared;
-        std::vector<uint64_t> reads; ///< addresses, of an immediate port
+        std::vector<uint64_t> reads; ///< addresses, of the immediate port
         OrvCameraIo::MemoryPort memory;
     };
 
@@ -722,7 +722,7 @@ std::unique_ptr<OrvDescription::NodeMap> loadWith(const QByteArray &nodes,
 
 using Addresses = std::vector<uint64_t>;
 
-/// Two features of a register that is polled, and one that depends on it.
+/// Two features of a polled register, and one that depends on it.
 struct Polled
 {
     const std::shared_ptr<CountingPort::State> state = std::make_shared<CountingPort::State>();
@@ -739,7 +739,7 @@ struct Polled
     void change(uint64_t address, uint8_t value) { state->memory.write(address, {0, 0, 0, value}); }
     Addresses takeReads() { return std::exchange(state->reads, {}); }
 
-    /// The addresses that are read, sorted: the order within a batch is open.
+    /// The addresses that were read, sorted because their order in a batch is undefined.
     Addresses poll(int64_t elapsedMs)
     {
         takeReads();
@@ -779,7 +779,7 @@ void TestNodeMap::readsInFewTransfers()
         ask();
         return state->batches - before;
     };
-    // What the formula takes besides is read with what the address is computed from.
+    // First the variables of formula and address together, then the register at the address.
     QCOMPARE(cost([&] { integer(*map, "Feature").GetValue(); }), 2);
     QCOMPARE(cost([&] { integer(*map, "Feature").GetValue(true); }), 1);
     QCOMPARE(cost([&] { access(*map, "Guarded"); }), 1);
@@ -889,13 +889,13 @@ void TestNodeMap::pollingReportsChangesOnly()
     QCOMPARE(polled.poll(100), Addresses({0}));
     polled.calls.sort();
     QCOMPARE(polled.calls, QStringList({"Dependent", "Live", "Sibling"}));
-    QCOMPARE(polled.value("Live"), int64_t(7)); // as it was polled
+    QCOMPARE(polled.value("Live"), int64_t(7)); // the polled value
     QCOMPARE(polled.value("Sibling"), int64_t(7));
     QCOMPARE(polled.takeReads(), Addresses());
     QCOMPARE(polled.value("Dependent"), int64_t(8));
     QCOMPARE(polled.poll(100), Addresses({0}));
     QCOMPARE(polled.calls, QStringList());
-    QCOMPARE(polled.poll(1000), Addresses({0, 8})); // all that are due in one batch
+    QCOMPARE(polled.poll(1000), Addresses({0, 8})); // all due registers in one batch
 }
 
 void TestNodeMap::waitingForChangesKeepsPolling()
@@ -904,7 +904,7 @@ void TestNodeMap::waitingForChangesKeepsPolling()
     CountingSink sink;
     const OrvGenParam::NodeMapArray array(*polled.map);
     array.GetInt("Live")->RegisterEventSink(&sink);
-    QCOMPARE(polled.poll(100), Addresses({0})); // so that there is something to compare with
+    QCOMPARE(polled.poll(100), Addresses({0})); // sets the value to compare with
     QCOMPARE(sink.count, 0);
     for (uint8_t i = 1; i <= 3; ++i) {
         polled.change(0, i);
@@ -922,7 +922,7 @@ void TestNodeMap::unusedChangesEndPolling()
     polled.value("Live");
     QCOMPARE(polled.poll(100), Addresses({0}));
     polled.change(0, 1);
-    QCOMPARE(polled.poll(100), Addresses({0})); // the last time, as the change is not looked at
+    QCOMPARE(polled.poll(100), Addresses({0})); // the last, as the change is not read
     polled.change(0, 2);
     QCOMPARE(polled.poll(100), Addresses());
     QCOMPARE(polled.value("Live"), int64_t(2));

@@ -23,13 +23,14 @@ private slots:
 
 void TestRegisterCodec::integers()
 {
-    enum { Little = 0, Big = 1, Signed = 2, Highest = 4 }; // Highest: that is where bit 0 is
+    // Highest: bit 0 is the most significant bit.
+    enum { Little = 0, Big = 1, Signed = 2, Highest = 4 };
     const struct
     {
         int format;
         Bytes bytes;
         int64_t value, smallest, largest;
-        Bytes mask; ///< of a bit field, which these are
+        Bytes mask; ///< of a bit field
         int64_t first, last;
     } rows[] = {
         {Little, {0xFE}, 254, 0, 255, {}, 0, 0},

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <programonscreen.h>
 
-/// The Python host as used on a screen.
+/// The Python host on a screen.
 class TestPythonHost : public QObject
 {
     Q_OBJECT
@@ -10,8 +10,8 @@ private slots:
     void init();
     void cleanup() { m_host.end(); }
     void showsThePickedCamera();
-    void ends_data();
-    void ends();
+    void exitStatus_data();
+    void exitStatus();
 
 private:
     ProgramOnScreen m_host;
@@ -34,7 +34,7 @@ void TestPythonHost::showsThePickedCamera()
     const auto isWhite = [&](const QPoint &point) {
         return picture().pixel(point) == QColor(Qt::white).rgb();
     };
-    QTRY_VERIFY(isWhite({320, 400})); // where the list of features is
+    QTRY_VERIFY(isWhite({320, 400})); // the place of the list of features
 
     m_host.screen.resize(m_window, QSize(900, 500));
     QTRY_COMPARE(picture().size(), QSize(900, 500));
@@ -52,7 +52,7 @@ void TestPythonHost::showsThePickedCamera()
     QCOMPARE(m_host.status(), 0);
 }
 
-void TestPythonHost::ends_data()
+void TestPythonHost::exitStatus_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<int>("status");
@@ -60,7 +60,7 @@ void TestPythonHost::ends_data()
     QTest::newRow("read-only camera") << QString("Down ").repeated(9) + "Return" << 1;
 }
 
-void TestPythonHost::ends()
+void TestPythonHost::exitStatus()
 {
     QFETCH(QString, keys);
     m_host.press(keys.split(' '));

@@ -12,7 +12,7 @@ using namespace OrvGenApi;
 
 namespace {
 
-/// What the callbacks of a test were called with, in order.
+/// The arguments of a test's callbacks, in order.
 struct Recorder
 {
     QStringList calls;
@@ -34,7 +34,7 @@ bool throws(Function function)
 
 } // namespace
 
-/// What all node maps have in common, shown with one whose nodes are declared here.
+/// The common functions of all node maps, tested on one whose nodes are declared here.
 class TestNodes : public QObject
 {
     Q_OBJECT
@@ -42,8 +42,8 @@ class TestNodes : public QObject
 private slots:
     void stringsAndPointers();
     void namesAndOrder();
-    void checks();
-    void extremes();
+    void writesAreChecked();
+    void extremeValues();
     void restrictions();
     void texts_data();
     void texts();
@@ -90,7 +90,7 @@ void TestNodes::namesAndOrder()
     QVERIFY(throws<GenICam::LogicalErrorException>([&] { map.addInteger("A"); }));
 }
 
-void TestNodes::checks()
+void TestNodes::writesAreChecked()
 {
     MemoryNodeMap map;
     auto &width = map.addInteger("Width");
@@ -98,7 +98,7 @@ void TestNodes::checks()
     width.setIncrement(4);
     auto &gain = map.addFloat("Gain");
     gain.setLimits(0, 1);
-    gain.setIncrement(0.1); // of which no multiple is exact
+    gain.setIncrement(0.1); // no multiple of it has an exact binary value
     auto &mode = map.addEnumeration("Mode", {{"Off", 0}, {"On", 5}, {"Auto", 7}}, 5);
     map.addString("UserName", "old").setMaxLength(4);
     map.addRegister("Table", {1, 2, 3});
@@ -127,7 +127,7 @@ void TestNodes::checks()
     QVERIFY(throws<GenICam::OutOfRangeException>([&] { mode.ToString(); }));
 }
 
-void TestNodes::extremes()
+void TestNodes::extremeValues()
 {
     MemoryNodeMap map;
     auto &node = map.addInteger("Width");
@@ -145,7 +145,7 @@ void TestNodes::extremes()
     QVERIFY(throws<GenICam::OutOfRangeException>([&] { real.SetValue(notANumber); }));
 }
 
-/// They never extend what the node allows.
+/// Restrictions never extend the range of the node.
 void TestNodes::restrictions()
 {
     MemoryNodeMap map;
@@ -215,7 +215,7 @@ void TestNodes::valuesAreReadOnce()
     node.ToString();
     QCOMPARE(node.reads(), 1);
 
-    // Nor is a camera that refuses asked again and again; that one did not answer passes.
+    // A refusal is cached, too; a time-out is not.
     node.InvalidateNode();
     node.onRead([] { throw GenICam::RuntimeException("refused", "", 0); });
     for (int i = 0; i < 3; ++i)
@@ -240,7 +240,7 @@ void TestNodes::writesInvalidateDependents()
     auto &other = map.addInteger("Other");
     middle.dependsOn(source);
     last.dependsOn(middle);
-    source.dependsOn(last); // a circle of invalidation is harmless
+    source.dependsOn(last); // circular invalidation must end
     for (auto *node : {&source, &middle, &last, &other})
         node->GetValue();
     source.SetValue(1);
@@ -288,11 +288,11 @@ void TestNodes::callbackTypes()
     QList<bool> locked;
     const auto note = [&](INode *) { locked << map.GetLock().IsHeldByThisThread(); };
     Register(&node, note, cbPostOutsideLock);
-    Register(&node, note); // inside the lock unless asked otherwise
+    Register(&node, note); // the default is inside the lock
     node.SetValue(1);
     QCOMPARE(locked, QList<bool>({true, false}));
 
-    // A write from inside a callback: its callbacks that want the lock released wait for that.
+    // A write in a callback: the callbacks outside the lock wait until the lock is released.
     auto &second = map.addInteger("Second");
     Recorder recorder;
     Register(&second, recorder, &Recorder::note, cbPostOutsideLock);
@@ -315,7 +315,7 @@ void TestNodes::failedWritesCallNothing()
     QVERIFY(throws<GenICam::AccessException>([&] { node.SetValue(2); }));
     QCOMPARE(recorder.calls, QStringList());
     QCOMPARE(node.GetValue(), int64_t(1));
-    QCOMPARE(node.reads(), 2); // something may have got through: the camera is asked again
+    QCOMPARE(node.reads(), 2); // the camera may have executed the write, so the value is read again
     QVERIFY(!map.GetLock().IsHeldByThisThread());
 }
 

@@ -3,13 +3,13 @@
 
 #include <memorynodemap.h>
 
-/// The features of a small but realistic camera, of every type and kind of access.
+/// The features of a small but realistic camera: all types and access modes.
 class SampleNodeMap : public OrvGenApi::MemoryNodeMap
 {
 public:
     SampleNodeMap();
 
-    /// As `node`, but of the class that the test knows the node to be.
+    /// Like `node`, but returns the node as the given class.
     template<typename T>
     T &get(const char *name) const
     {

@@ -5,8 +5,8 @@
 
 #include <GenApi/GenApi.h>
 
-/// A cell of the first row, depth first, that shows the feature of that name; invalid when none
-/// does.
+/// A cell of the first row, depth first, that shows the feature of that name; invalid if there is
+/// none.
 inline QModelIndex cellOf(const QAbstractItemModel &model, const QString &feature, int column,
                           const QModelIndex &parent = QModelIndex())
 {

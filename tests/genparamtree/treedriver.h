@@ -9,14 +9,14 @@
 #include <QWindow>
 #include <QtTest>
 
-/// Uses a shown tree as a user does: with a mouse and a keyboard whose events take the whole way
-/// through the window system's side of Qt.
+/// Operates a visible tree as a user does. The events of mouse and keyboard pass through the
+/// window-system layer of Qt.
 class TreeDriver
 {
 public:
     explicit TreeDriver(OrvGui::OrvGenParamTreeView &view) : m_view(view) {}
 
-    /// Opens everything, at the highest level, and waits until the user could see it.
+    /// Expands everything at the highest level and waits until it is painted.
     void show()
     {
         m_view.setVisibility(OrvGui::Guru);
@@ -54,7 +54,7 @@ public:
         QCoreApplication::processEvents();
     }
 
-    /// One notch towards the user.
+    /// Turns the wheel by one notch towards the user.
     void turnWheel(const char *feature)
     {
         const QPoint inView =
@@ -62,7 +62,7 @@ public:
         QWheelEvent event(inView, m_view.mapToGlobal(inView), QPoint(), QPoint(0, -120),
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&event);
-        qApp->notify(m_view.windowHandle(), &event); // sending it makes it another kind of event
+        qApp->notify(m_view.windowHandle(), &event); // sendEvent() would clear the flag
         QCoreApplication::processEvents();
     }
 
@@ -80,11 +80,12 @@ public:
         QCoreApplication::processEvents();
     }
 
-    /// Keys go where the window system would send them: to the open list, if there is one.
+    /// Sends keys to the widget that the window system would choose: the open list, if there is
+    /// one.
     static void press(Qt::Key key)
     {
         QTest::keyPress(receiver(), key);
-        QTest::keyRelease(receiver(), key); // the first may have closed the list
+        QTest::keyRelease(receiver(), key); // the press may have closed the list
         QCoreApplication::processEvents();
     }
     static void type(const QString &text)

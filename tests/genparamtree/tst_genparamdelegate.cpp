@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// What a delegate works on; its parts go in the reverse order.
+/// The objects that a delegate needs; they are destroyed in reverse order.
 struct Bench
 {
     SampleNodeMap map;
@@ -79,7 +79,7 @@ void TestGenParamDelegate::integerLimits()
         int spinBoxMin, spinBoxMax;
     } rows[] = {{-5, 7, -5, 7},
                 {0, 0xffffffff, 0, 0x7fffffff},               // clamped
-                {-0x100000001, 0x100000000, -1, 0x7fffffff}}; // cut off
+                {-0x100000001, 0x100000000, -1, 0x7fffffff}}; // truncated
     for (const auto &row : rows) {
         m_bench->map.integer("GevDeviceModeCapability").setLimits(row.min, row.max);
         auto *spinBox = open<QSpinBox>("GevDeviceModeCapability");
@@ -125,8 +125,8 @@ void TestGenParamDelegate::comboBoxes()
     }
 }
 
-// A combo box asks for both, in this order, for every change of its index: also for the one that
-// filling it makes. A value without an entry leaves it without a current entry.
+// A combo box emits both signals, in this order, at every change of its index, also while it is
+// filled. A value without an entry leaves it without a current entry.
 void TestGenParamDelegate::comboBoxCommitsOnChange()
 {
     QStringList asked;

@@ -27,7 +27,7 @@ QString nameOf(const QModelIndex &index)
     return index.sibling(index.row(), 0).data().toString();
 }
 
-/// All cells below an index.
+/// All the cells below an index.
 void collect(const QAbstractItemModel &model, const QModelIndex &parent, QModelIndexList &indexes)
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
@@ -36,7 +36,7 @@ void collect(const QAbstractItemModel &model, const QModelIndex &parent, QModelI
     }
 }
 
-/// The parent of each feature's first row below an index.
+/// Records the parent of each feature's first row below an index.
 void noteParents(const QAbstractItemModel &model, const QModelIndex &parent,
                  QHash<void *, QModelIndex> &parents)
 {
@@ -70,7 +70,7 @@ struct ValueCase
     const char *display = nullptr;
     bool grey = false;
     bool editable = false;
-    QVariant edit = QVariant(); ///< the text itself, unless given
+    QVariant edit = QVariant(); ///< by default the text itself
 };
 
 } // namespace
@@ -86,12 +86,12 @@ private slots:
     void featureListedTwice();
     void changedCategories();
     void changedLongCategory();
-    void circles();
+    void circularCategories();
     void names();
     void values_data();
     void values();
     void unreadableNodes();
-    void write();
+    void writesValues();
     void refusedWrites();
     void commands();
     void descriptions_data();
@@ -118,7 +118,7 @@ void TestGenParamTreeModel::structure()
         QCOMPARE(model.headerData(1, orientation).toString(), QString("Value"));
     }
 
-    // The model follows a category that gets another feature.
+    // The model shows a feature that is added to a category.
     map.addInteger("Height", 1024, "ImageFormatControl");
     const QModelIndex height = valueCell(model, "Height");
     QCOMPARE(height.row(), 4);
@@ -140,7 +140,7 @@ void TestGenParamTreeModel::featureListedTwice()
     QCOMPARE(nameOf(first.parent()), QString("Acquisition Control"));
     QCOMPARE(nameOf(second.parent()), QString("Acquisition Control"));
 
-    // One callback for each place, each of which reports the first place.
+    // One callback per row; each of them reports the first row.
     QSignalSpy changes(&model, &GenParamTreeModel::dataChanged);
     gain.changed();
     QCOMPARE(changes.count(), 2);
@@ -148,7 +148,7 @@ void TestGenParamTreeModel::featureListedTwice()
         QCOMPARE(change.at(0).toModelIndex(), first);
 }
 
-// A parent is what a search from the root finds, however the lists have changed.
+// The parent of a cell is the one that a search from the root finds, after any change of the lists.
 void TestGenParamTreeModel::changedCategories()
 {
     OrvGenApi::MemoryNodeMap map;
@@ -189,7 +189,8 @@ void TestGenParamTreeModel::changedCategories()
     }
 }
 
-// Its list is read again with its length, and in the next iteration of the event loop.
+// The model reads the list again when its length changes, and in the next iteration of the event
+// loop.
 void TestGenParamTreeModel::changedLongCategory()
 {
     OrvGenApi::MemoryNodeMap map;
@@ -213,8 +214,9 @@ void TestGenParamTreeModel::changedLongCategory()
     QCOMPARE(valueAt(999), 1000);
 }
 
-// A category in itself is left out where a walk would come back to it, and nothing else is.
-void TestGenParamTreeModel::circles()
+// A category within itself is omitted where the traversal would enter it again; other rows are
+// shown.
+void TestGenParamTreeModel::circularCategories()
 {
     OrvGenApi::MemoryNodeMap map;
     auto &a = map.addCategory("A");
@@ -318,7 +320,7 @@ void TestGenParamTreeModel::values()
     QVERIFY(!(cell.sibling(cell.row(), 0).flags() & Qt::ItemIsEditable));
 }
 
-// A node that fails makes its own cells empty and nothing else.
+// A failing node leaves its own cells empty; the other rows are shown.
 void TestGenParamTreeModel::unreadableNodes()
 {
     SampleNodeMap map;
@@ -336,7 +338,7 @@ void TestGenParamTreeModel::unreadableNodes()
     QCOMPARE(heightCell.data().toInt(), 1024);
 }
 
-void TestGenParamTreeModel::write()
+void TestGenParamTreeModel::writesValues()
 {
     const struct
     {
@@ -364,7 +366,8 @@ void TestGenParamTreeModel::write()
         const GenApi::CValuePtr node(map.GetNode(row.feature));
         QCOMPARE(QString::fromUtf8(node->ToString().c_str()), row.written);
 
-        // The node reports the change first, without naming a role; then the write does.
+        // The node reports the change first, without a role; then the model reports it with the
+        // role.
         QCOMPARE(changes.first().at(0).toModelIndex(), cell);
         QVERIFY(changes.first().at(2).value<QVector<int>>().isEmpty());
         QCOMPARE(changes.last().at(1).toModelIndex(), cell);
@@ -381,7 +384,7 @@ void TestGenParamTreeModel::refusedWrites()
         int column, role;
     } rows[] = {
         {"Width", 640, 1, Qt::DisplayRole},      {"Width", 640, 0, Qt::EditRole},
-        {"Width", 641, 1, Qt::EditRole}, // off the increment
+        {"Width", 641, 1, Qt::EditRole}, // not a multiple of the increment
         {"Width", 12800, 1, Qt::EditRole},       {"DeviceModelName", "x", 1, Qt::EditRole},
         {"TriggerDivider", 2, 1, Qt::EditRole}, // not available
         {"PixelFormat", 255, 1, Qt::EditRole},   {"PixelFormat", "Mono9", 1, Qt::EditRole},
@@ -399,7 +402,7 @@ void TestGenParamTreeModel::refusedWrites()
     }
 }
 
-// A node may throw GenICam's exceptions or others.
+// A node may throw GenICam exceptions or others.
 void TestGenParamTreeModel::commands()
 {
     SampleNodeMap map;
@@ -436,7 +439,7 @@ void TestGenParamTreeModel::descriptions_data()
         {"<i>Enumeration entries</i>:", "\"Mono8\": 17301505 (0x01080001)",
          "\"Mono12\": 17825797 (0x01100005)", "\"RGB8\": 255 (0x000000ff)"});
     row("DeviceReset", "Device Reset", "Command", {});
-    // What looks like a place marker is none, and every byte is a character.
+    // "%1" is not a place marker, and every byte is a Latin-1 character.
     row("DeviceUserID", QString("100 %1 \u00c2\u00b5"), "String", {});
 
     QTest::newRow("integer with increment")

@@ -19,7 +19,7 @@ using OrvGui::OrvGenParamTreeView;
 
 namespace {
 
-/// A shown tree of a node map in memory.
+/// A visible tree of a node map in memory.
 struct MemoryTree
 {
     MemoryTree() { driver.show(); }
@@ -30,7 +30,7 @@ struct MemoryTree
     QTreeView &tree = *view.treeView();
 };
 
-/// A category that loses features, and fails, while it is shown.
+/// A category that loses features, and fails, while it is visible.
 class BrokenCategory : public OrvGenApi::DeclaredCategory
 {
 public:
@@ -75,13 +75,13 @@ struct ShowCounter : QObject
     int count = 0;
 };
 
-/// What a user does to a feature, in the words of `TestOrvGenParamTreeView::hands`.
-struct Hands
+/// Input of a user to a feature, and its effect. `inputWhilePolling()` interprets the script.
+struct Input
 {
     const char *feature = nullptr;
     const char *script = nullptr;
-    const char *written = nullptr; ///< null for nothing
-    const char *edited = nullptr;  ///< the feature whose editor is open then; null for none
+    const char *written = nullptr; ///< null: no write
+    const char *edited = nullptr;  ///< the feature whose editor is open at the end; null: none
 };
 
 struct PaintedColours
@@ -101,10 +101,10 @@ struct PaintedColours
     }
 
     QRgb background = 0;
-    double contrast = 1; ///< of the background with what differs most from it
+    double contrast = 1; ///< the highest contrast of the background with any pixel
 };
 
-/// To a text that is longer, or shorter, than the one before.
+/// Changes the value so that its text gets longer or shorter.
 void changeByCamera(OrvGenApi::Node &node)
 {
     if (auto *integer = dynamic_cast<OrvGenApi::MemoryInteger *>(&node))
@@ -115,7 +115,7 @@ void changeByCamera(OrvGenApi::Node &node)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Hands)
+Q_DECLARE_METATYPE(Input)
 
 class TestOrvGenParamTreeView : public QObject
 {
@@ -135,13 +135,13 @@ private slots:
     void scrollingAndSearching();
     void choosingWithTheMouse();
     void listOpensOnce();
-    void clickElsewhere();
+    void clickElsewhereEndsEditing();
     void untouchedEditors();
     void levelWhileEditing();
     void writesUserChangesOnly();
 
-    void dragging();
-    void draggingLimits();
+    void dragsColumnWidths();
+    void columnBorders();
 
     void savedState();
     void restoredState();
@@ -151,8 +151,8 @@ private slots:
     void nodeMapDestroyedWhileEditing();
     void parametersReplacedByWrite();
     void changedOnAnotherThread();
-    void readsOnlyWhatIsSeen();
-    void levelKeepsThePlace();
+    void readsVisibleRowsOnly();
+    void levelKeepsCurrentRow();
     void levelOfALargeTree();
     void brokenCategories();
 };
@@ -182,7 +182,7 @@ void TestOrvGenParamTreeView::levelsAndSpans()
     QVERIFY(!tree->isFirstColumnSpanned(0, model->index(0, 0)));
     QVERIFY(!driver.cell("FirmwareKey").isValid());
 
-    // A level takes effect at once, and the model stays.
+    // A level takes effect at once; the model stays the same.
     auto *levels = view.findChild<QComboBox *>("cbVisibility");
     levels->setCurrentIndex(2);
     QCOMPARE(view.visibility(), OrvGui::Guru);
@@ -190,7 +190,7 @@ void TestOrvGenParamTreeView::levelsAndSpans()
     QCOMPARE(tree->model(), model);
     QVERIFY(tree->isFirstColumnSpanned(3, QModelIndex()));
 
-    // A new tree is made at the level that is set, and spans all that is visible then.
+    // A new tree uses the current level, and its visible categories span the columns.
     SampleNodeMap second;
     const auto selections = [&] { return int(tree->findChildren<QItemSelectionModel *>().size()); };
     const int before = selections();
@@ -213,13 +213,13 @@ void TestOrvGenParamTreeView::description()
     QCOMPARE(driver.tree().currentIndex(), driver.cell("Width", 0));
     QVERIFY(panel->toPlainText().contains("Width of the image in pixels."));
     QVERIFY(panel->toPlainText().contains("Min: 16, Max: 1280\n"));
-    shown.map.integer("Width").setLimits(16, 640); // by itself, as the camera
+    shown.map.integer("Width").setLimits(16, 640); // a change by the camera itself
     QVERIFY(panel->toPlainText().contains("Min: 16, Max: 640\n"));
 
-    shown.map.integer("Width").properties().description = "\xb5s"; // no UTF-8
+    shown.map.integer("Width").properties().description = "\xb5s"; // not valid UTF-8
     shown.map.integer("Width").changed();
     QVERIFY(panel->toPlainText().contains("\u00b5s"));
-    // What the camera says names nothing that is opened.
+    // A camera's text cannot make the panel open a file.
     QTemporaryFile picture;
     QVERIFY(picture.open() && QImage(20, 20, QImage::Format_RGB32).save(&picture, "PNG"));
     QCOMPARE(panel->loadResource(QTextDocument::ImageResource, QUrl(picture.fileName())),
@@ -285,8 +285,8 @@ void TestOrvGenParamTreeView::colours_data()
     QTest::newRow("background only") << QPalette() << "QTreeView { background-color: #1e1e1e; }";
 }
 
-// With each choice of the host's colours, every cell is legible, and a category that a higher level
-// has added has one colour.
+// Every cell must be legible with the host's colours, and a category added by a higher level must
+// have the same colour in both columns.
 void TestOrvGenParamTreeView::colours()
 {
     QFETCH(QPalette, palette);
@@ -296,7 +296,7 @@ void TestOrvGenParamTreeView::colours()
     QApplication::setPalette(palette);
     qApp->setStyleSheet(styleSheet);
     {
-        MemoryTree shown; // which goes up from the lowest level
+        MemoryTree shown; // its level changes from the lowest upwards
         const QTreeView &tree = shown.tree;
         const QImage picture = tree.viewport()->grab().toImage();
         const auto colours = [&](const char *feature, int column) {
@@ -327,7 +327,7 @@ void TestOrvGenParamTreeView::initialColumnWidths()
     const int half = tree->viewport()->width() / 2;
     QVERIFY2(qAbs(tree->columnWidth(0) - half) < 10, qPrintable(QString::number(half)));
 
-    // Only once, and not when a width was restored before.
+    // Only once, and not after a width has been restored.
     tree->setColumnWidth(0, 123);
     view.hide();
     view.show();
@@ -342,8 +342,8 @@ void TestOrvGenParamTreeView::initialColumnWidths()
 
 void TestOrvGenParamTreeView::inputWhilePolling_data()
 {
-    QTest::addColumn<Hands>("row");
-    const auto row = [](const char *name, const Hands &hands) { QTest::newRow(name) << hands; };
+    QTest::addColumn<Input>("row");
+    const auto row = [](const char *name, const Input &input) { QTest::newRow(name) << input; };
     row("integer", {"Width", "click 640 Return", "640"});
     row("hexadecimal", {"GevDeviceModeCapability", "click c Return", "0xC"});
     row("float", {"ExposureTime", "click 512.5 Return", "512.5"});
@@ -382,11 +382,11 @@ void TestOrvGenParamTreeView::inputWhilePolling_data()
     row("arrows after it", {"DeviceUserID", "name F2 a Return Down Down Up", "a"});
 }
 
-// What the user types, chooses and leaves alone is what the camera gets. Between any two keys, as
-// slow hands have them, the node is polled.
+// The camera gets the user's input only. The node is polled between any two keys, as if the user
+// typed slowly.
 void TestOrvGenParamTreeView::inputWhilePolling()
 {
-    QFETCH(Hands, row);
+    QFETCH(Input, row);
     MemoryTree shown;
     TreeDriver &driver = shown.driver;
     shown.map.integer("Width").change(16);
@@ -423,7 +423,7 @@ void TestOrvGenParamTreeView::inputWhilePolling()
         QVERIFY(driver.tree().indexWidget(driver.cell(row.edited)));
 }
 
-// Without an editor under it that was touched, the wheel scrolls; letters search the names.
+// The wheel scrolls unless it is over an editor in use; letters search the names.
 void TestOrvGenParamTreeView::scrollingAndSearching()
 {
     MemoryTree shown;
@@ -472,7 +472,7 @@ void TestOrvGenParamTreeView::choosingWithTheMouse()
     }
 }
 
-// Writing a choice, and a change by the camera, make the node report; the list must not flash.
+// The node notifies after a write and after a change by the camera; the list must not open again.
 void TestOrvGenParamTreeView::listOpensOnce()
 {
     MemoryTree shown;
@@ -485,7 +485,7 @@ void TestOrvGenParamTreeView::listOpensOnce()
         QVERIFY(comboBox);
         ShowCounter counter(comboBox->view()->window());
         driver.press(byCamera ? Qt::Key_Up : Qt::Key_Down);
-        map.enumeration("PixelFormat").changed(); // to what it was
+        map.enumeration("PixelFormat").changed(); // with the same value
         QCOMPARE(comboBox->view()->currentIndex().row(), 1 - comboBox->currentIndex());
         if (byCamera) {
             map.enumeration("PixelFormat").change(0x01080001);
@@ -499,14 +499,14 @@ void TestOrvGenParamTreeView::listOpensOnce()
     }
 }
 
-void TestOrvGenParamTreeView::clickElsewhere()
+void TestOrvGenParamTreeView::clickElsewhereEndsEditing()
 {
     MemoryTree shown;
     auto &width = shown.map.integer("Width");
     TreeDriver &driver = shown.driver;
 
-    // A click into the editor does not end it, one on another row does, and so does one in another
-    // window of the program.
+    // A click into the editor does not end editing. A click on another row does, and so does one in
+    // another window of the program.
     driver.click("Width");
     auto *spinBox = driver.editor<QSpinBox>();
     spinBox->setValue(640);
@@ -530,8 +530,8 @@ void TestOrvGenParamTreeView::clickElsewhere()
     QCOMPARE(width.GetValue(), int64_t(320));
 }
 
-// Leaving an editor writes nothing unless its user did something, whether it could show the value
-// exactly, rounded or not at all. What it shows is written when it is typed or chosen nevertheless.
+// Closing an editor without input writes nothing, whether the editor shows the value exactly,
+// rounded or not at all. If the user enters the shown value, it is written.
 void TestOrvGenParamTreeView::untouchedEditors()
 {
     const auto fail = [] { throw GenICam::TimeoutException("no answer", __FILE__, __LINE__); };
@@ -598,7 +598,7 @@ void TestOrvGenParamTreeView::untouchedEditors()
         QCOMPARE(row.value(), QString(row.after));
     }
 
-    // Without its limits, a number gets no editor.
+    // A number without limits gets no editor.
     map.integer("Width").bindMax([fail]() -> int64_t {
         fail();
         return 0;
@@ -608,7 +608,7 @@ void TestOrvGenParamTreeView::untouchedEditors()
     QVERIFY(!driver.isEditing());
 }
 
-// A level that hides what is being edited: that is written, and its neighbours are left alone.
+// A new level that hides the edited feature: the input is written, and the neighbours are not.
 void TestOrvGenParamTreeView::levelWhileEditing()
 {
     OrvGenApi::MemoryNodeMap map("Levels");
@@ -635,7 +635,7 @@ void TestOrvGenParamTreeView::levelWhileEditing()
         QCOMPARE(feature->writes(), feature == features[3] ? 1 : 0);
     QCOMPARE(features[3]->GetValue(), int64_t(77));
 
-    // A host may replace the tree in reaction to that.
+    // A host may replace the tree in a callback of this write.
     const GenApi::CallbackHandleType handle = GenApi::Register(
         features[3], [&](GenApi::INode *) { view.setParams(&next); }, GenApi::cbPostOutsideLock);
     driver.click("Feature3");
@@ -646,8 +646,8 @@ void TestOrvGenParamTreeView::levelWhileEditing()
     QVERIFY(driver.cell("Width").isValid() && !driver.cell("FirmwareKey").isValid());
 }
 
-// Not half an address, and not what the camera changes under an open list; but the smallest step of
-// a large number.
+// An incomplete address is not written, nor is a change by the camera while the list is open. The
+// smallest step of a large number is written.
 void TestOrvGenParamTreeView::writesUserChangesOnly()
 {
     SampleNodeMap map;
@@ -680,7 +680,7 @@ void TestOrvGenParamTreeView::writesUserChangesOnly()
         driver.click("Large", 0);
     }
 
-    // Nothing to choose from: that is said, and nothing is written.
+    // If no entry is available, the editor shows a message and writes nothing.
     auto &format = map.enumeration("PixelFormat");
     for (const char *entry : {"Mono8", "Mono12"})
         format.entry(entry).setAccessMode(GenApi::NA);
@@ -692,7 +692,7 @@ void TestOrvGenParamTreeView::writesUserChangesOnly()
     QVERIFY(!driver.isEditing());
     QCOMPARE(format.writes(), 0);
 
-    // A host may filter the tree further, and edit it with a delegate of its own.
+    // A host may insert another filter model and use a delegate of its own.
     QTreeView &tree = driver.tree();
     QAbstractItemModel *const model = tree.model();
     QAbstractItemDelegate *const delegate = tree.itemDelegateForColumn(1);
@@ -711,7 +711,7 @@ void TestOrvGenParamTreeView::writesUserChangesOnly()
     QVERIFY(!driver.cell("FirmwareKey").isValid());
 }
 
-void TestOrvGenParamTreeView::dragging()
+void TestOrvGenParamTreeView::dragsColumnWidths()
 {
     MemoryTree shown;
     TreeDriver &driver = shown.driver;
@@ -730,7 +730,7 @@ void TestOrvGenParamTreeView::dragging()
     QCOMPARE(tree.columnWidth(0), 10);
     tree.setColumnWidth(0, 300);
 
-    // Beside an open editor, which ends as with any other click.
+    // Dragging beside an open editor, which ends like with any other click.
     for (const char *feature : {"Width", "DeviceReset"}) {
         const int width = tree.columnWidth(0);
         driver.click(feature);
@@ -741,7 +741,7 @@ void TestOrvGenParamTreeView::dragging()
     }
 }
 
-void TestOrvGenParamTreeView::draggingLimits()
+void TestOrvGenParamTreeView::columnBorders()
 {
     MemoryTree shown;
     TreeDriver &driver = shown.driver;
@@ -779,7 +779,7 @@ void TestOrvGenParamTreeView::savedState()
     QCOMPARE(view.saveState(), "Device Control&lt;Device Control/Transport Layer&lt;"
                                "Image Format Control&lt;&amp;W250&amp;V1");
 
-    // An expanded category in a collapsed one counts.
+    // An expanded category within a collapsed one is saved.
     tree->collapse(driver.cell("DeviceControl", 0));
     QCOMPARE(view.saveState(),
              "Device Control/Transport Layer&lt;Image Format Control&lt;&amp;W250&amp;V1");
@@ -800,12 +800,12 @@ void TestOrvGenParamTreeView::restoredState()
     tree->setColumnWidth(0, 111);
     view.loadState("Device Control&lt;&amp;W0&amp;V2");
     QVERIFY(expanded("DeviceControl"));
-    QVERIFY(expanded("Device")); // for "Device" occurs in the text
+    QVERIFY(expanded("Device")); // the text contains "Device"
     QVERIFY(!expanded("ImageFormatControl"));
     QCOMPARE(tree->columnWidth(0), 111);
     QCOMPARE(view.visibility(), OrvGui::Guru);
 
-    // Expansion looks at the categories of the level that is left.
+    // The states of the categories at the former level count.
     view.setVisibility(OrvGui::Basic);
     view.loadState("Transport Layer Control&lt;Transport Layer Control/GigE Vision&lt;&amp;V1");
     QVERIFY(!expanded("DeviceControl"));
@@ -823,7 +823,7 @@ void TestOrvGenParamTreeView::restoredState()
     QVERIFY(QByteArray(view.saveState()) != state);
     view.setParams(&map);
     view.loadState(state.constData());
-    view.loadState(view.saveState()); // its own buffer
+    view.loadState(view.saveState()); // returned by the view itself
     QCOMPARE(QByteArray(view.saveState()), state);
 }
 
@@ -833,13 +833,13 @@ void TestOrvGenParamTreeView::invalidStates()
     OrvGenParamTreeView view(&map, nullptr);
     const QByteArray before(view.saveState());
     view.loadState("&amp;W");
-    view.loadState("&amp;W5000000"); // wider than a column can be
+    view.loadState("&amp;W5000000"); // exceeds the maximum width
     view.loadState("&amp;W-3");
     view.loadState("&W12&V2");
     QCOMPARE(QByteArray(view.saveState()), before);
     view.loadState("&amp;W88 and what follows&amp;V2nd");
     QCOMPARE(view.saveState(), "&amp;W88&amp;V2");
-    view.loadState("&amp;V7"); // no such level: none is selected
+    view.loadState("&amp;V7"); // an invalid level: none is selected
     QCOMPARE(view.saveState(), "&amp;W88&amp;V-1");
 
     QVERIFY_EXCEPTION_THROWN(view.loadState("&amp;Wide"), std::invalid_argument);
@@ -859,8 +859,8 @@ void TestOrvGenParamTreeView::nodeMapDestroyedWhileEditing_data()
     }
 }
 
-// The node map is destroyed right after the tree has dropped it, with an edit begun and Return
-// pressed, which Qt handles only later. The sanitizers report an access to it.
+// The node map is destroyed right after the tree has released it, while an editor is open and
+// Return is still in Qt's event queue. The sanitizers report any access to it.
 void TestOrvGenParamTreeView::nodeMapDestroyedWhileEditing()
 {
     QFETCH(QString, feature);
@@ -899,7 +899,7 @@ void TestOrvGenParamTreeView::nodeMapDestroyedWhileEditing()
     }
 }
 
-// A host may react to a change that the tree makes by giving it something else to show.
+// A host may set other parameters in a callback of a write.
 void TestOrvGenParamTreeView::parametersReplacedByWrite()
 {
     for (const char *feature : {"Width", "PixelFormat", "DeviceReset"}) {
@@ -938,16 +938,15 @@ void TestOrvGenParamTreeView::changedOnAnotherThread()
     QCOMPARE(changes.first().first().toModelIndex(), driver.cell("Width"));
     QCOMPARE(driver.text("Width"), QString("320"));
 
-    // Changes that are still on their way when the tree goes are forgotten.
+    // Pending notifications are dropped when the parameters are removed.
     std::thread([&map] { map.integer("Width").change(640); }).join();
     shown.view.clearParams();
     QCoreApplication::processEvents();
     QCOMPARE(changes.count(), 1);
 }
 
-// What costs the user's time is what is asked of the camera: a row that was on screen has been
-// read, any other has not.
-void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
+// Rows that have been visible have been read once; other rows have not been read.
+void TestOrvGenParamTreeView::readsVisibleRowsOnly()
 {
     OrvGenApi::MemoryNodeMap map("Many");
     std::vector<OrvGenApi::MemoryInteger *> features;
@@ -987,7 +986,7 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
     QTest::qWait(50);
     QCOMPARE(total(), seen);
 
-    // Scrolling reads what comes into view, once.
+    // Scrolling reads each row once, when it becomes visible.
     QScrollBar &bar = *tree.verticalScrollBar();
     for (int i = -40; i <= 40; ++i) {
         bar.setValue(bar.maximum() * qAbs(i) / 40);
@@ -996,7 +995,7 @@ void TestOrvGenParamTreeView::readsOnlyWhatIsSeen()
     QCOMPARE(total(), int(features.size()));
 }
 
-void TestOrvGenParamTreeView::levelKeepsThePlace()
+void TestOrvGenParamTreeView::levelKeepsCurrentRow()
 {
     OrvGenApi::MemoryNodeMap map("Places");
     for (int i = 0; i < 60; ++i) {
@@ -1028,7 +1027,7 @@ void TestOrvGenParamTreeView::levelKeepsThePlace()
     }
     QVERIFY(!tree.isExpanded(driver.cell("Hidden", 0)));
 
-    // Its neighbour takes the place of a row that goes.
+    // The current row moves to a neighbour when it is hidden.
     for (const auto &[before, after] :
          {std::pair{"Feature34", "Feature36"}, {"Feature59", "Feature57"}}) {
         tree.setCurrentIndex(driver.cell(before, 0));
@@ -1042,7 +1041,7 @@ void TestOrvGenParamTreeView::levelKeepsThePlace()
     QVERIFY(!tree.currentIndex().isValid());
     view.setVisibility(OrvGui::Guru);
 
-    // A feature that is in two categories stays in the one where it was.
+    // A feature in two categories stays current in the same category.
     map.category("Second").addFeature(*map.node("Feature0"));
     view.setParams(&map);
     driver.show();
@@ -1054,11 +1053,11 @@ void TestOrvGenParamTreeView::levelKeepsThePlace()
     QCOMPARE(tree.currentIndex().parent().data().toString(), QString("Second"));
 }
 
-// What a change of the level costs must not be the product of the rows that go and those that are
-// expanded: that is minutes here.
+// Changing the level must not take time proportional to hidden rows times expanded rows: with this
+// tree, that would be minutes.
 void TestOrvGenParamTreeView::levelOfALargeTree()
 {
-#ifdef ORV_ADDRESS_SANITIZER // takes a hundred times as long
+#ifdef ORV_ADDRESS_SANITIZER // a hundred times slower
     constexpr int count = 1000;
 #else
     constexpr int count = 5000;
@@ -1087,7 +1086,7 @@ void TestOrvGenParamTreeView::levelOfALargeTree()
     }
 }
 
-// What ends in Qt's event loop would end the program.
+// An exception that reaches Qt's event loop would end the program.
 void TestOrvGenParamTreeView::brokenCategories()
 {
     SampleNodeMap map;

@@ -16,7 +16,7 @@ namespace {
 constexpr int delay = 150;    // of each answer, in milliseconds
 const QChar notKnown(0x2026); // an ellipsis
 
-// Under the thread sanitizer threads wait for each other where they do not otherwise.
+// The thread sanitizer adds waits between threads.
 #ifdef __SANITIZE_THREAD__
 constexpr int longestAllowed = 10 * delay;
 #else
@@ -29,8 +29,8 @@ bool isPolled(uint32_t address)
     return polled.count(address) || (address >= 0x1600 && address < 0x1640);
 }
 
-/// What was read from the camera, and in how many commands it could have been; what is polled is
-/// left out.
+/// The commands that read from the camera, and the least number that would have been needed;
+/// polling is not counted.
 struct Traffic
 {
     unsigned commands = 0;
@@ -56,7 +56,7 @@ struct Traffic
 
 } // namespace
 
-/// The tree of a camera that takes its time.
+/// The tree of a camera with slow answers.
 class TestTreeWire : public QObject
 {
     Q_OBJECT
@@ -65,8 +65,8 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void readingDoesNotBlock();
-    void writing();
-    void selection();
+    void editorWritesOnce();
+    void editorFollowsSelection();
 
 private:
     template<typename Editor>
@@ -100,7 +100,7 @@ void TestTreeWire::initTestCase()
     });
     m_device = m_camera->open();
     QVERIFY(m_device);
-    // The time of a round trip is measured anew before commands are counted.
+    // The client measures the round trip time again before commands are counted.
     (*m_camera)->setMood("delay", delay);
     QTest::qWait(20 * delay);
 }
@@ -131,7 +131,7 @@ bool TestTreeWire::isComplete()
     });
 }
 
-/// The rows whose text is not what the model says to those who wait.
+/// The rows whose text differs from that of the source model, which waits for values.
 QString TestTreeWire::wrongTexts()
 {
     const auto *proxy = qobject_cast<QAbstractProxyModel *>(tree().model());
@@ -162,7 +162,7 @@ void TestTreeWire::readingDoesNotBlock()
         const char *name;
         std::function<void()> act;
         std::function<bool()> isDone;
-        unsigned rounds; ///< as many more commands than packed ones are needed
+        unsigned rounds; ///< permitted number of commands beyond the minimum
     };
     const std::vector<Act> acts{
         {"show",
@@ -239,7 +239,7 @@ void TestTreeWire::readingDoesNotBlock()
     }
 }
 
-void TestTreeWire::writing()
+void TestTreeWire::editorWritesOnce()
 {
     tree().setCurrentIndex(cell("Width", 0));
     tree().setCurrentIndex(cell("Width"));
@@ -257,8 +257,8 @@ void TestTreeWire::writing()
     QCOMPARE(writes, 1);
 }
 
-/// Another selection gives an open editor another value.
-void TestTreeWire::selection()
+/// Selecting another frame changes the value in an open editor.
+void TestTreeWire::editorFollowsSelection()
 {
     const QPersistentModelIndex selector(valueCell(*model(), "FrameAB_Selector"));
     const QPersistentModelIndex level(valueCell(*model(), "Frame_BlackLevel"));
@@ -277,7 +277,7 @@ void TestTreeWire::selection()
     QTRY_COMPARE(editor<QSpinBox>()->value(), 51);
     QCOMPARE(cell("Frame_BlackLevel").data().toInt(), 51);
 
-    // The tree goes while an editor waits for its value.
+    // The parameters are removed while an editor waits for its value.
     QVERIFY(model()->setData(selector, 0));
     m_view->clearParams();
     QTest::qWait(2 * delay);

@@ -7,7 +7,7 @@ using namespace OrvGigEVision;
 
 namespace {
 
-/// What a camera at 192.168.1.10 answers to discovery request 0x1234.
+/// The answer of a camera at 192.168.1.10 to discovery request 0x1234.
 QByteArray discoveryAnswer()
 {
     QByteArray answer = QByteArray::fromHex("0000 0003 00f8 1234" // header
@@ -21,7 +21,7 @@ QByteArray discoveryAnswer()
         return QByteArray(contents).leftJustified(size, '\0');
     };
     answer += text("Maker", 32) + text("Model 1", 32) + text("2.1  ", 32) + text("", 48);
-    answer += text("0123456789abcdef", 16); // fills its field to the last byte
+    answer += text("0123456789abcdef", 16); // fills the field
     answer += text("K\xc3\xa4"
                    "fer",
                    16);
@@ -41,13 +41,13 @@ class TestGvcp : public QObject
     Q_OBJECT
 
 private slots:
-    void identity();
-    void commands();
-    void answers();
-    void everyTruncation();
+    void parsesIdentity();
+    void buildsCommands();
+    void parsesAnswers();
+    void rejectsTruncatedPackets();
 };
 
-void TestGvcp::identity()
+void TestGvcp::parsesIdentity()
 {
     const QByteArray packet = discoveryAnswer();
     QCOMPARE(packet.size(), 256);
@@ -72,7 +72,7 @@ void TestGvcp::identity()
     QVERIFY(!parse(packet + "trailing bytes"));
 }
 
-void TestGvcp::commands()
+void TestGvcp::buildsCommands()
 {
     const auto hex = [](const Gvcp::Packet &packet) {
         return QByteArray(reinterpret_cast<const char *>(packet.data()),
@@ -91,7 +91,7 @@ void TestGvcp::commands()
                                                                            "0000001001020304"));
 }
 
-void TestGvcp::answers()
+void TestGvcp::parsesAnswers()
 {
     const QByteArray packet = QByteArray::fromHex("0000 0081 0008 0007 12345678 00000009");
     const auto answer = parse(packet);
@@ -100,7 +100,7 @@ void TestGvcp::answers()
     QVERIFY(!Gvcp::parseRegisters(*answer, 1));
     QVERIFY(!Gvcp::parseRegisters(*answer, 3));
 
-    // A refusal holds the values up to there, but never as many as were requested.
+    // A refusal contains the values before the refused one, so always fewer than were requested.
     const QByteArray refusal = QByteArray::fromHex("8003 0081 0004 0007 12345678");
     QCOMPARE(parse(refusal)->status, uint16_t(Gvcp::StatusInvalidAddress));
     QVERIFY(Gvcp::parseRegisters(*parse(refusal), 2) == std::vector<uint32_t>{0x12345678});
@@ -116,13 +116,13 @@ void TestGvcp::answers()
     QVERIFY(!Gvcp::parsePending(*parse(QByteArray::fromHex("0000 0089 0000 0007"))));
 }
 
-void TestGvcp::everyTruncation()
+void TestGvcp::rejectsTruncatedPackets()
 {
-    // Also with a length that fits the shorter packet: then the header is fine, the contents not.
-    QVERIFY(!parse(QByteArray::fromHex("0000 0003 ffff 1234 00"))); // claims everything
+    // With an adapted length field as well, which makes the header valid, but not the contents.
+    QVERIFY(!parse(QByteArray::fromHex("0000 0003 ffff 1234 00"))); // wrong length
     const QByteArray whole = discoveryAnswer();
     for (int size = 0; size < whole.size(); ++size) {
-        // A heap copy of exactly this size lets the sanitizer see a read beyond its end.
+        // The sanitizer detects reads beyond a heap copy of exactly this size.
         std::vector<uint8_t> part(whole.begin(), whole.begin() + size);
         QVERIFY(!Gvcp::parseAcknowledge(part.data(), part.size()));
         if (size < 8)

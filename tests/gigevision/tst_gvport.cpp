@@ -30,8 +30,7 @@ Q_DECLARE_METATYPE(Claims)
 Q_DECLARE_METATYPE(RegisterRange)
 Q_DECLARE_METATYPE(Status)
 
-/// Cameras at 10.1.0.2 and beyond, on a cable of their own, opened through "orv0", which is
-/// 10.1.0.1.
+/// Cameras at 10.1.0.2 and following, on a cable of their own, opened through "orv0" (10.1.0.1).
 class TestGvPort : public QObject
 {
     Q_OBJECT
@@ -45,20 +44,20 @@ private slots:
     void contradictoryIdentities_data();
     void contradictoryIdentities();
     void controlIsReadAgain();
-    void openTwice_data();
-    void openTwice();
-    void keptButNotUsed_data();
-    void keptButNotUsed();
-    void keptForAWhile();
-    void urls_data();
-    void urls();
-    void archives_data();
-    void archives();
-    void failures();
-    void control();
-    void batches_data();
-    void batches();
-    void aLongBatchIsLeftEarly();
+    void descriptionIsDownloadedOnce_data();
+    void descriptionIsDownloadedOnce();
+    void cachedDescriptionIsInvalid_data();
+    void cachedDescriptionIsInvalid();
+    void cacheSizeIsLimited();
+    void descriptionUrls_data();
+    void descriptionUrls();
+    void descriptionArchives_data();
+    void descriptionArchives();
+    void openingFailures();
+    void controlPrivilege();
+    void batchesArePacked_data();
+    void batchesArePacked();
+    void longBatchIsLeftEarly();
     void refusedRegisters_data();
     void refusedRegisters();
     void registersOfAllShapes();
@@ -67,9 +66,9 @@ private slots:
     void networkFaults_data();
     void networkFaults();
     void lostPackets();
-    void probing();
-    void interrupted();
-    void reopen();
+    void probesPresence();
+    void interruptEndsTransfers();
+    void reopensTheSameCamera();
 
 private:
     TestCamera::Settings describedCamera(int lines) const;
@@ -102,7 +101,7 @@ OpenResult open(OpenMode mode = OpenMode::Control)
     return openCamera("orv0", cameraId, mode);
 }
 
-/// Registers of a word each, one behind the other.
+/// Adjacent registers of one word each.
 std::vector<RegisterRange> words(uint32_t count, uint32_t step = 4)
 {
     std::vector<RegisterRange> ranges;
@@ -120,7 +119,7 @@ std::vector<ReadTransfer> read(GvPort &port, const std::vector<RegisterRange> &r
     return batch;
 }
 
-/// How many of the registers have the value that they have in the camera.
+/// The number of registers whose value was read correctly.
 int right(TestCamera &camera, const std::vector<ReadTransfer> &batch)
 {
     int count = 0;
@@ -162,7 +161,7 @@ TestCamera::Settings TestGvPort::describedCamera(int lines) const
 
 void TestGvPort::reachableSubnets_data()
 {
-    QTest::addColumn<QString>("subnet"); // of an adapter that is 10.1.0.1 in it and has 10.1.0.7
+    QTest::addColumn<QString>("subnet"); // of an adapter with 10.1.0.1 and 10.1.0.7
     QTest::addColumn<QString>("camera");
     QTest::addColumn<bool>("isReachable");
     const auto row = [](const char *subnet, const char *camera, bool isReachable) {
@@ -235,7 +234,7 @@ void TestGvPort::controlIsReadAgain()
 
 // Opening
 
-void TestGvPort::openTwice_data()
+void TestGvPort::descriptionIsDownloadedOnce_data()
 {
     QTest::addColumn<bool>("isZipped");
     QTest::addColumn<uint32_t>("address");
@@ -246,7 +245,7 @@ void TestGvPort::openTwice_data()
     QTest::newRow("not aligned, to the last byte") << true << 0xFFFF0002u << 200;
 }
 
-void TestGvPort::openTwice()
+void TestGvPort::descriptionIsDownloadedOnce()
 {
     QFETCH(bool, isZipped);
     QFETCH(uint32_t, address);
@@ -279,16 +278,16 @@ void TestGvPort::openTwice()
     QVERIFY(camera.takeCounters().readMemory <= blocks + 4);
     const auto files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
     QCOMPARE(files.size(), 1);
-    QCOMPARE(files.front().permissions() & 0x1177, 0); // nothing for others, no program
+    QCOMPARE(files.front().permissions() & 0x1177, 0); // not accessible to others, not executable
 
     const auto second = open(OpenMode::Monitor);
     QVERIFY(second.port);
-    QCOMPARE(second.description, first.description); // a kind is parsed once
+    QCOMPARE(second.description, first.description); // equal descriptions are parsed once
     QVERIFY2(camera.counters().packets <= 10, camera.counters().text().c_str());
     QVERIFY(camera.counters().readMemory <= 4);
 }
 
-void TestGvPort::keptButNotUsed_data()
+void TestGvPort::cachedDescriptionIsInvalid_data()
 {
     QTest::addColumn<QString>("change");
     for (const char *change : {"version", "first block", "last block", "damaged file", "link",
@@ -296,7 +295,7 @@ void TestGvPort::keptButNotUsed_data()
         QTest::newRow(change) << change;
 }
 
-void TestGvPort::keptButNotUsed()
+void TestGvPort::cachedDescriptionIsInvalid()
 {
     QFETCH(QString, change);
     const QTemporaryDir directory;
@@ -339,12 +338,12 @@ void TestGvPort::keptButNotUsed()
     QVERIFY(camera.takeCounters().readMemory > settings.description.size() / 536);
     if (change.contains("folder"))
         return;
-    QVERIFY(!QFileInfo(file).isSymLink()); // replaced
+    QVERIFY(!QFileInfo(file).isSymLink()); // the link has been replaced by a file
     QVERIFY(open(OpenMode::Monitor).port);
     QVERIFY(camera.counters().readMemory <= 4);
 }
 
-void TestGvPort::keptForAWhile()
+void TestGvPort::cacheSizeIsLimited()
 {
     const QTemporaryDir directory;
     const auto withAge = [&](const QString &name, std::time_t seconds) {
@@ -368,7 +367,7 @@ void TestGvPort::keptForAWhile()
     QVERIFY(foreign.open(QIODevice::WriteOnly));
     foreign.close();
     withAge("0123456789abcdef", 5000);
-    QVERIFY(store.find(key(0))); // used last
+    QVERIFY(store.find(key(0))); // now the most recently used one
     store.keep(key(1000), "x");
     QVERIFY(store.find(key(0)));
     QVERIFY(!store.find(key(1)));
@@ -377,12 +376,12 @@ void TestGvPort::keptForAWhile()
     QVERIFY(foreign.exists());
 }
 
-void TestGvPort::urls_data()
+void TestGvPort::descriptionUrls_data()
 {
     QTest::addColumn<QByteArray>("first");
     QTest::addColumn<QByteArray>("second");
     QTest::addColumn<bool>("isFine");
-    // %1 is the size.
+    // %1 is replaced by the size.
     const auto fine = [](const char *name, const QByteArray &first, const QByteArray &second = {}) {
         QTest::newRow(name) << first << second << true;
     };
@@ -414,7 +413,7 @@ void TestGvPort::urls_data()
     bad("no memory there", "Local:camera.xml;D0000000;100");
 }
 
-void TestGvPort::urls()
+void TestGvPort::descriptionUrls()
 {
     QFETCH(QByteArray, first);
     QFETCH(QByteArray, second);
@@ -442,7 +441,7 @@ void TestGvPort::urls()
     QTRY_COMPARE(camera.privilege(), 0u);
 }
 
-void TestGvPort::archives_data()
+void TestGvPort::descriptionArchives_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("problem");
@@ -473,7 +472,7 @@ void TestGvPort::archives_data()
     spoilt[good.size() / 2] = static_cast<char>(~spoilt[good.size() / 2]);
     row("spoilt", spoilt, "damaged");
     std::string lying = good;
-    lying[lying.rfind("PK\1\2") + 24] = 1; // the length in the directory
+    lying[lying.rfind("PK\1\2") + 24] = 1; // the size in the archive's directory
     row("lying", lying, "damaged");
     row("no XML in it", zipped({{"camera.xml", "%PDF-1.4"}}), "no description");
     row("empty archive", zipped({}), "");
@@ -482,12 +481,12 @@ void TestGvPort::archives_data()
     row("nothing", std::string(100, '\0'), "neither");
 }
 
-void TestGvPort::archives()
+void TestGvPort::descriptionArchives()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, problem);
     const auto unpacked = unpackDescription(bytes.toStdString());
-    if (bytes.isEmpty()) // libzip makes no archive of nothing
+    if (bytes.isEmpty()) // libzip cannot create an empty archive
         problem = "neither";
     QCOMPARE(unpacked.problem.empty(), problem.isEmpty());
     QVERIFY2(QString::fromStdString(unpacked.problem).contains(problem), unpacked.problem.c_str());
@@ -497,7 +496,7 @@ void TestGvPort::archives()
     }
 }
 
-void TestGvPort::failures()
+void TestGvPort::openingFailures()
 {
     QElapsedTimer timer;
     timer.start();
@@ -526,7 +525,7 @@ void TestGvPort::failures()
     QCOMPARE(lost.failure, Failure::Gone);
 }
 
-void TestGvPort::control()
+void TestGvPort::controlPrivilege()
 {
     auto settings = describedCamera(20);
     settings.heartbeat = 60000;
@@ -552,7 +551,7 @@ void TestGvPort::control()
     QCOMPARE(open(OpenMode::Monitor).failure, Failure::Busy);
     camera.setPrivilege(0);
 
-    // Nothing is waited for when the camera does not answer.
+    // Closing does not wait for a camera that does not answer.
     auto opened = open();
     camera.setMood("silence");
     QElapsedTimer timer;
@@ -563,7 +562,7 @@ void TestGvPort::control()
 
 // Reading
 
-void TestGvPort::batches_data()
+void TestGvPort::batchesArePacked_data()
 {
     QTest::addColumn<bool>("canConcatenate");
     QTest::addColumn<bool>("isWordNumber");
@@ -592,7 +591,7 @@ void TestGvPort::batches_data()
                           << all << 4;
 }
 
-void TestGvPort::batches()
+void TestGvPort::batchesArePacked()
 {
     QFETCH(bool, canConcatenate);
     QFETCH(bool, isWordNumber);
@@ -617,7 +616,7 @@ void TestGvPort::batches()
     QCOMPARE(int(camera.counters().transfers()), commands);
 }
 
-void TestGvPort::aLongBatchIsLeftEarly()
+void TestGvPort::longBatchIsLeftEarly()
 {
     auto settings = describedCamera(20);
     settings.canConcatenate = false;
@@ -633,7 +632,7 @@ void TestGvPort::aLongBatchIsLeftEarly()
     QCOMPARE(std::count_if(batch.begin(), batch.end(),
                            [](const auto &read) { return read.status == Status::NotSent; }),
              batch.size() - done);
-    camera.setMood("delay", 300); // longer than all the time that there is
+    camera.setMood("delay", 300); // exceeds the time limit of a batch
     batch = read(*opened.port, ranges);
     QCOMPARE(std::count_if(batch.begin(), batch.end(), isDone), 1);
 }
@@ -642,8 +641,8 @@ void TestGvPort::refusedRegisters_data()
 {
     QTest::addColumn<bool>("canConcatenate");
     QTest::addColumn<QByteArray>("mood");
-    QTest::addColumn<QVector<int>>("refused"); // of 100 registers
-    QTest::addColumn<int>("first");            // commands, at most
+    QTest::addColumn<QVector<int>>("refused"); // indexes, of 100 registers
+    QTest::addColumn<int>("first");            // limit of commands
     QTest::addColumn<int>("again");
     const QVector<int> none;
     QTest::newRow("one") << true << QByteArray() << QVector<int>{50} << 3 << 2;
@@ -687,7 +686,7 @@ void TestGvPort::refusedRegisters()
             QCOMPARE(batch[i].status, i % 2 ? Status::AccessDenied : Status::InvalidAddress);
     }
 
-    // What is refused once may be allowed later, and batches go on then.
+    // A refusal is not permanent, and batches work again after it.
     if (mood.isEmpty()) {
         camera.setMood("good");
         read(*opened.port, ranges);
@@ -718,7 +717,7 @@ void TestGvPort::registersOfAllShapes()
         }
     }
 
-    // A camera that writes registers only.
+    // A camera without WRITEMEM.
     camera.setRegister(0x0934, 0xE0000021);
     QVERIFY(opened.port->reopen([] { return false; }));
     camera.takeCounters();
@@ -743,7 +742,7 @@ void TestGvPort::registersOfAllShapes()
 void TestGvPort::twoViews_data()
 {
     QTest::addColumn<bool>("canConcatenate");
-    QTest::addColumn<bool>("isDeclared"); // by the schema, otherwise the camera shows it
+    QTest::addColumn<bool>("isDeclared"); // by the schema; otherwise detected on the camera
     QTest::addColumn<uint32_t>("from");
     QTest::newRow("schema") << false << true << firstRegister;
     QTest::newRow("found at opening") << false << false << 0u;
@@ -776,7 +775,7 @@ void TestGvPort::twoViews()
     QCOMPARE(wordOf(read(*opened.port, words(4))[2]), 99u);
 }
 
-// A camera that misbehaves
+// Misbehaving cameras
 
 void TestGvPort::networkFaults_data()
 {
@@ -830,9 +829,9 @@ void TestGvPort::networkFaults()
     QCOMPARE(batch[1].status, status);
     QVERIFY(timer.elapsed() < 1150);
     if (status == Status::NoAnswer && mood != "silence" && mood != "pending-forever")
-        return; // one way not to be answered is like another
+        return; // other faults without an answer take the same path
     const Status writing = opened.port->write(firstRegister + 4, {9, 9, 9, 9});
-    // The length of the answer to a write means nothing.
+    // The length of an answer to a write is not significant.
     QCOMPARE(writing, mood == "short" || mood == "long" ? Status::Done : status);
     QVERIFY2(timer.elapsed() < longest, QByteArray::number(timer.elapsed()).constData());
     if (status == Status::Done) {
@@ -859,7 +858,7 @@ void TestGvPort::lostPackets()
     timer.start();
     for (int i = 0; i < 100; ++i)
         QCOMPARE(right(camera, read(*opened.port, words(1))), 1);
-    // 5 ms each, and some 20 ms for each of the losses.
+    // 5 ms for each answer, and some 20 ms for each lost packet.
     const auto counters = camera.counters();
     const unsigned lost = counters.lostRequests + counters.lostAnswers;
     QVERIFY(lost > 10);
@@ -867,9 +866,9 @@ void TestGvPort::lostPackets()
     QCOMPARE(counters.repetitions + counters.lostRequests >= lost, true);
 }
 
-// Losing and finding it
+// Loss and reconnection
 
-void TestGvPort::probing()
+void TestGvPort::probesPresence()
 {
     TestCamera camera(describedCamera(20));
     const auto opened = open();
@@ -886,7 +885,7 @@ void TestGvPort::probing()
     QCOMPARE(opened.port->probe(), Presence::Silent);
     QVERIFY(timer.elapsed() < 300);
     QCOMPARE(camera.counters().packets, 1u);
-    camera.setMood("delay", 400); // slower than it is asked
+    camera.setMood("delay", 400); // exceeds the interval of the probes
     QCOMPARE(opened.port->probe(), Presence::Silent);
     for (int i = 0; i < 4; ++i) {
         QTest::qWait(200);
@@ -894,15 +893,15 @@ void TestGvPort::probing()
     }
     camera.setMood("good");
     QCOMPARE(opened.port->probe(), Presence::Answers);
-    QTest::qWait(400);      // until all has been answered
-    camera.setPrivilege(0); // switched off and on
-    opened.port->probe();   // the last of the late answers
+    QTest::qWait(400);      // until all probes have been answered
+    camera.setPrivilege(0); // as after a power cycle
+    opened.port->probe();   // receives the last delayed answer
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
     camera.setPrivilege(1);
     QCOMPARE(opened.port->probe(), Presence::Forgotten);
 }
 
-void TestGvPort::interrupted()
+void TestGvPort::interruptEndsTransfers()
 {
     TestCamera camera(describedCamera(20));
     auto opened = open();
@@ -924,11 +923,11 @@ void TestGvPort::interrupted()
     QCOMPARE(opened.port->write(firstRegister, {1, 2, 3, 4}), Status::Closed);
     QVERIFY(timer.elapsed() < 200);
     camera.setMood("good");
-    opened.port.reset(); // gives control back all the same
+    opened.port.reset(); // still releases control
     QTRY_COMPARE(camera.privilege(), 0u);
 }
 
-void TestGvPort::reopen()
+void TestGvPort::reopensTheSameCamera()
 {
     const QTemporaryDir directory;
     qputenv("ORVCAM_DESCRIPTION_CACHE", directory.path().toUtf8());
@@ -941,14 +940,14 @@ void TestGvPort::reopen()
     QCOMPARE(opened.port->probe(), Port::Presence::Silent);
     QVERIFY(!opened.port->reopen(never));
 
-    // The cable was out: control is still ours.
+    // The cable was pulled: the client still has control.
     camera->plugIn(true);
     camera->takeCounters();
     QVERIFY(opened.port->reopen(never));
     QVERIFY2(camera->counters().packets <= 11, camera->counters().text().c_str());
     QCOMPARE(right(*camera, read(*opened.port, words(1))), 1);
 
-    // It was switched off, and another program is faster.
+    // The camera was switched off, and another program takes control first.
     camera->unplug();
     camera->plugIn();
     camera->setPrivilege(2);
@@ -958,7 +957,7 @@ void TestGvPort::reopen()
     QVERIFY(opened.port->reopen(never));
     QCOMPARE(camera->privilege(), 2u);
 
-    // It has another address, and another firmware after that.
+    // The camera gets another address, and then other firmware.
     camera.reset();
     settings.address = "10.1.0.3";
     camera = std::make_unique<TestCamera>(settings);

@@ -38,7 +38,7 @@ struct Map : MemoryNodeMap
     }
     size_t place() { return size_t(tap.GetIntValue() * 2 + color.GetIntValue()); }
 
-    /// As a window writes; false when the camera refuses it.
+    /// Writes like a window. Returns false if the camera refuses the value.
     bool write(const FeatureJournal::Pointer &journal, const char *feature, const QVariant &value)
     {
         return FeatureJournal::write(journal, feature, QVariant(), value, [=] {
@@ -90,26 +90,26 @@ void processPending()
 
 } // namespace
 
-/// Writes of all windows are undone, and the last ten minutes are kept.
+/// Writes of all windows can be undone, and values of the last ten minutes are kept.
 class TestFeatureJournal : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void valueTypes_data();
-    void valueTypes();
-    void selectors();
-    void refusals();
+    void undoOfEachType_data();
+    void undoOfEachType();
+    void undoWithSelectors();
+    void refusedUndo();
     void nodeMapIsDestroyed();
-    void gestures();
-    void frameDialog();
-    void typing();
-    void window();
+    void gesturesAreOneStep();
+    void undoInFrameDialog();
+    void undoWhileTyping();
+    void windowsShareOneJournal();
     void sampleRing();
     void historyChart();
 };
 
-void TestFeatureJournal::valueTypes_data()
+void TestFeatureJournal::undoOfEachType_data()
 {
     QTest::addColumn<QByteArray>("feature");
     QTest::addColumn<QVariant>("value");
@@ -128,7 +128,7 @@ void TestFeatureJournal::valueTypes_data()
                           << QString("UserName a %1 &b\uFFFD<i>").arg(arrow);
 }
 
-void TestFeatureJournal::valueTypes()
+void TestFeatureJournal::undoOfEachType()
 {
     QFETCH(QByteArray, feature);
     QFETCH(QVariant, value);
@@ -140,7 +140,7 @@ void TestFeatureJournal::valueTypes()
     QVERIFY(map.write(journal, feature.constData(), value));
     const QString after = map.get(feature.constData());
     QVERIFY(after != before);
-    QVERIFY(map.write(journal, feature.constData(), value)); // changes nothing
+    QVERIFY(map.write(journal, feature.constData(), value)); // no change, so no step
     QCOMPARE(journal->undoText(), "Undo " + step);
     QVERIFY(!journal->canRedo());
     for (int i = 0; i < 2; ++i) {
@@ -157,11 +157,11 @@ void TestFeatureJournal::valueTypes()
     QVERIFY(!journal->canRedo());
 }
 
-void TestFeatureJournal::selectors()
+void TestFeatureJournal::undoWithSelectors()
 {
     Map map;
     const auto journal = FeatureJournal::of(&map);
-    // From each of the four places, seen from each.
+    // Undo at each of the four selector positions, of a write at each of them.
     for (int from = 0; from < 4; ++from) {
         for (int to = 0; to < 4; ++to) {
             const auto goTo = [&](int place) {
@@ -188,11 +188,11 @@ void TestFeatureJournal::selectors()
             QCOMPARE(map.gains[size_t(from)], 70);
             QCOMPARE(int(map.place()), to);
             QVERIFY(journal->undo());
-            QVERIFY(!journal->canUndo()); // moving a selector is no step
+            QVERIFY(!journal->canUndo()); // moving a selector is not recorded
         }
     }
 
-    // The detour itself sends no notification, its effect does.
+    // Moving the selectors temporarily sends no notification; the undone write does.
     map.gain.GetValue();
     map.write(journal, "Gain", 9);
     map.write(journal, "GainSelector", "Red");
@@ -209,7 +209,7 @@ void TestFeatureJournal::selectors()
     QCOMPARE(places.last(), int(map.place()));
     sum.DeregisterCallback(callback);
 
-    // An unknown value is not read, and a write that cannot be undone is no step.
+    // A value that is not cached is not read. A write that cannot be undone is not recorded.
     const int reads = map.color.reads() + map.gain.reads();
     map.color.changed();
     FeatureJournal::write(journal, "Gain", 1, 2, [] { return true; });
@@ -217,7 +217,7 @@ void TestFeatureJournal::selectors()
     QVERIFY(!journal->canUndo());
 }
 
-void TestFeatureJournal::refusals()
+void TestFeatureJournal::refusedUndo()
 {
     Map map;
     const auto journal = FeatureJournal::of(&map);
@@ -226,7 +226,7 @@ void TestFeatureJournal::refusals()
     QVERIFY(!map.write(journal, "ExposureTime", 9001));
     QVERIFY(!journal->canUndo());
 
-    // All or nothing.
+    // A group is undone completely or not at all.
     {
         const FeatureJournal::Group group(journal);
         QVERIFY(map.write(journal, "Reverse", "1") && map.write(journal, "ExposureTime", "6000") &&
@@ -242,7 +242,7 @@ void TestFeatureJournal::refusals()
     QVERIFY(journal->undo());
     QCOMPARE(map.get("Mode") + map.get("ExposureTime") + map.get("Reverse"), QString("Off50000"));
 
-    // A selector that does not move keeps the value from the wrong place, and stays.
+    // If a selector cannot be moved, undo writes nothing, and the step is kept.
     map.get("Gain");
     map.write(journal, "Gain", 50);
     map.write(journal, "TapSelector", "Right");
@@ -258,7 +258,7 @@ void TestFeatureJournal::refusals()
     QVERIFY(journal->undo());
     QCOMPARE(map.gains[0], 1);
 
-    // One that is refused for good does not keep the others back.
+    // A step that is refused permanently does not block the earlier steps.
     QWidget window;
     UndoActions actions(&window);
     actions.setJournal(journal);
@@ -305,7 +305,7 @@ void TestFeatureJournal::nodeMapIsDestroyed()
     QVERIFY(!journal->canUndo());
     QCOMPARE(journal->undoText(), QString("Undo"));
 
-    // Forgotten with the last who uses it.
+    // The journal is deleted with its last user.
     Map other;
     journal = FeatureJournal::of(&other);
     other.write(journal, "ExposureTime", 1);
@@ -316,8 +316,8 @@ void TestFeatureJournal::nodeMapIsDestroyed()
     QVERIFY(!FeatureJournal::of(&other)->canUndo());
 }
 
-/// A drag, a held button and a held key are one step each; clicks are many.
-void TestFeatureJournal::gestures()
+/// A drag, a held button and a held key are one step each; each click is a step.
+void TestFeatureJournal::gesturesAreOneStep()
 {
     SimulatedDevice camera;
     OrvCamConfigColorDialog dialog(&camera.device);
@@ -372,8 +372,8 @@ void TestFeatureJournal::gestures()
     QCOMPARE(camera.writes(), writes + 1);
 }
 
-/// What the frame dialog writes beside and through the mapper, for either frame.
-void TestFeatureJournal::frameDialog()
+/// The writes of the frame dialog, both its own and those of the mapper, for each frame.
+void TestFeatureJournal::undoInFrameDialog()
 {
     SimulatedDevice camera;
     camera.set("FrameMode", "DualVideo");
@@ -425,8 +425,8 @@ void TestFeatureJournal::frameDialog()
     }
 }
 
-/// The keys belong to what is being typed, until it counts.
-void TestFeatureJournal::typing()
+/// The keys undo typing first; after a commit they undo writes.
+void TestFeatureJournal::undoWhileTyping()
 {
     SimulatedDevice camera;
     OrvCamConfigColorDialog dialog(&camera.device);
@@ -449,7 +449,7 @@ void TestFeatureJournal::typing()
     processPending();
     QCOMPARE(camera.get("RedCoefficient"), first);
     QCOMPARE(box->text(), first);
-    undoKeys(box); // nothing is left, also not of what was typed
+    undoKeys(box); // nothing left to undo, in the text either
     QCOMPARE(box->text(), first);
     redoKeys(box);
     processPending();
@@ -457,8 +457,9 @@ void TestFeatureJournal::typing()
     QCOMPARE(box->text(), QString("300"));
 }
 
-/// One journal for all windows of a camera; the captions open what the window has read.
-void TestFeatureJournal::window()
+/// All windows of a camera share one journal. The captions open the values that the window has
+/// read.
+void TestFeatureJournal::windowsShareOneJournal()
 {
     SimulatedDevice camera;
     OrvCamConfig window(&camera.device);
@@ -473,7 +474,7 @@ void TestFeatureJournal::window()
         processPending();
         return camera.map->transactions().reads - reads;
     };
-    readsOfATurn(); // of both frames
+    readsOfATurn(); // both frames
     const auto readsWithout = readsOfATurn();
     struct Caption
     {
@@ -530,14 +531,14 @@ void TestFeatureJournal::sampleRing()
     ring.add(start + 2004 * 1000, 7);
     QVERIFY(ring.isAfterGap(ring.size() - 1));
     for (int i = 0; i < 5000; ++i)
-        ring.add(start + 2004 * 1000 + i, i); // far more than there is room for
+        ring.add(start + 2004 * 1000 + i, i); // more than the capacity
     QCOMPARE(ring.size(), int(SampleRing::capacity));
     QCOMPARE(ring.summary().max, 4999.0);
-    ring.add(start, 1); // the clock has been set back
+    ring.add(start, 1); // the clock was set back
     QCOMPARE(ring.size(), 1);
 }
 
-/// Lines where there are values, nothing where the camera was away; the keys go to each value.
+/// The chart has lines between values and gaps for disconnections; the keys select a value.
 void TestFeatureJournal::historyChart()
 {
     SampleRing ring;

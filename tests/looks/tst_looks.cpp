@@ -34,7 +34,7 @@
 
 namespace {
 
-// A host's own colours, and buttons with more room around their texts than the style's.
+// Colours of the host, and buttons with more padding than in the style.
 const char darkSheet[] =
     "QWidget { background-color: #23262b; color: #d8dade; }"
     "QPushButton, QToolButton { background-color: #3a3f47; border: 1px solid #5a606a;"
@@ -71,8 +71,8 @@ QPalette darkPalette()
 
 enum Colors { Light, Dark, DarkSheet };
 
-/// What the windows are looked at in; on a screen with several pixels for one, in few, because what
-/// differs there is only the numbers being rounded.
+/// Language, colours, font and direction in which the windows are checked. High-resolution screens
+/// need only a few of them, since only rounding differs there.
 struct Condition
 {
     const char *name;
@@ -83,7 +83,7 @@ struct Condition
     bool isForFineScreens = false;
 };
 
-// The colours are those of every language; the room for texts differs with language and size.
+// Colours do not depend on the language; the room for texts depends on language and font size.
 const Condition conditions[] = {
     {"light, en", "en"},
     {"light, de", "de", Light, 9, false, true},
@@ -101,7 +101,7 @@ using Window = std::unique_ptr<QWidget>;
 
 } // namespace
 
-/// Every window is legible, accessible and usable without a mouse, wherever it is shown.
+/// Every window must be legible, accessible and usable without a mouse, in every condition.
 class TestLooks : public QObject
 {
     Q_OBJECT
@@ -109,9 +109,9 @@ class TestLooks : public QObject
 private slots:
     void initTestCase();
     void findsFaults();
-    void windows_data();
-    void windows();
-    void editors();
+    void windowsHaveNoFaults_data();
+    void windowsHaveNoFaults();
+    void editorsHaveNames();
     void cleanupTestCase();
 
 private:
@@ -148,7 +148,7 @@ OrvCam::Device *openCamera(OrvCam::System &system)
     return device;
 }
 
-/// Numbers the picture, for those who want to see what the test sees.
+/// Saves the picture under a name that matches the fault list, if a folder is set.
 void keepPicture(QWidget &window, const QString &name)
 {
     const QString folder = qEnvironmentVariable("ORV_LOOKS_PICTURES");
@@ -159,7 +159,7 @@ void keepPicture(QWidget &window, const QString &name)
     Looks::pictureOf(window).save(QDir(folder).filePath(file + ".png"));
 }
 
-/// What is known, and to be mended elsewhere; null for other faults.
+/// Why a fault cannot be fixed here; null for other faults.
 const char *reasonFor(const QString &window, const QString &fault)
 {
     if (window == "frames" && fault.startsWith("cut: grBoxVideoAmplifier"))
@@ -167,7 +167,7 @@ const char *reasonFor(const QString &window, const QString &fault)
     return nullptr;
 }
 
-/// More of a dialog is enabled then.
+/// Enables further controls of a dialog.
 void switchOn(const QWidget &window)
 {
     for (QCheckBox *box : window.findChildren<QCheckBox *>()) {
@@ -196,7 +196,7 @@ QWidget *openedTable(QWidget &window)
                : nullptr;
 }
 
-/// What is to be looked at: the window, or what is opened from it.
+/// The widget to check: the window itself, or one that is opened from it.
 QWidget *opened(QWidget &window, const QString &name)
 {
     if (name == "about") {
@@ -217,7 +217,7 @@ QWidget *opened(QWidget &window, const QString &name)
     return &window;
 }
 
-/// A cell's column can be widened; the names of the picker's facts must be seen at once.
+/// Cut cells are acceptable, since columns can be widened, but not in the picker's panes.
 bool isTolerated(const Looks::Fault &fault)
 {
     return fault.kind == Looks::Fault::CutCell && !fault.widget.contains("InfoTreeView");
@@ -228,7 +228,7 @@ QStringList faultsOf(QWidget &window, const QString &name)
     if (!QTest::qWaitForWindowExposed(&window))
         return {name + " is not shown"};
     if (window.focusWidget())
-        window.focusWidget()->clearFocus(); // and the selection with it
+        window.focusWidget()->clearFocus(); // removes the selection, too
     QCoreApplication::processEvents();
     keepPicture(window, name);
     QStringList faults;
@@ -287,7 +287,7 @@ void TestLooks::change(const Condition &condition)
     QApplication::setPalette(condition.colors == Dark ? darkPalette() : m_lightPalette);
     QApplication::setFont(QFont("DejaVu Sans", condition.points));
     translate(QLatin1String(condition.language));
-    // The last, because a language brings a direction along.
+    // Last, because a translator sets the direction of its language.
     QApplication::setLayoutDirection(condition.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     QCoreApplication::sendPostedEvents();
     QApplication::setLayoutDirection(condition.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
@@ -305,7 +305,7 @@ void TestLooks::translate(const QString &language)
                QCoreApplication::installTranslator(m_translators.back().get());
     };
     QVERIFY(install("orvcameraguiapi", ":/translations"));
-    install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath)); // where there are
+    install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath)); // may be missing
 }
 
 Window TestLooks::make(const QString &name)
@@ -339,7 +339,7 @@ Window TestLooks::makeDialog()
     return std::make_unique<Dialog>(m_device, nullptr);
 }
 
-/// With a camera that cannot be opened, which is shown in another colour.
+/// With a camera that cannot be opened, which has another colour.
 Window TestLooks::makePicker()
 {
     auto picker = std::make_unique<OrvGui::OrvCameraSelectorDialog>(m_system);
@@ -370,7 +370,7 @@ Window TestLooks::makeTree()
     return view;
 }
 
-/// In search of something that not all levels show.
+/// With a search that has more results at higher levels.
 Window TestLooks::makeBrowser()
 {
     int32_t code = OrvCam::Success;
@@ -393,7 +393,7 @@ Window TestLooks::makeDifferences()
     return dialog;
 }
 
-void TestLooks::windows_data()
+void TestLooks::windowsHaveNoFaults_data()
 {
     QTest::addColumn<int>("condition");
     QTest::addColumn<QString>("name");
@@ -409,7 +409,7 @@ void TestLooks::windows_data()
     }
 }
 
-void TestLooks::windows()
+void TestLooks::windowsHaveNoFaults()
 {
     QFETCH(int, condition);
     QFETCH(QString, name);
@@ -439,8 +439,8 @@ void TestLooks::windows()
     QVERIFY2(faults.isEmpty(), qPrintable(all));
 }
 
-/// Each editor of the tree is named by its feature.
-void TestLooks::editors()
+/// The accessible name of each editor is that of its feature.
+void TestLooks::editorsHaveNames()
 {
     change(conditions[0]);
     const Window window = makeTree();
@@ -486,7 +486,7 @@ void TestLooks::findsFaults()
     for (const Looks::Fault &fault : Looks::faultsOf(window))
         faults << fault.toString().section(" (", 0, 0);
     faults.sort();
-    faults.removeDuplicates(); // a mnemonic parts a text
+    faults.removeDuplicates(); // a mnemonic splits a text into parts
     QCOMPARE(faults.join(", "), QString("cut: cut, off the screen: wide, pale: pale"));
     QCOMPARE(Controls::namelessOf(window), QStringList{"nameless (QComboBox) has no name"});
     QCOMPARE(Controls::tabOrderFaultsOf(window).size(), 1);

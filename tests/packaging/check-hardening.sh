@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # check-hardening.sh BUILD_DIR FORTIFIED
-# Reads from the built files whether they are hardened: every program and library, and every object
-# file that they are made of. FORTIFIED is 0 in builds that can't have fortified functions.
+# Checks that every program, library and object file of a build is hardened. FORTIFIED is 0 in
+# builds without fortified functions.
 set -eu
 build=$1
 fortified=$2
@@ -13,7 +13,8 @@ trap 'rm -f "$failures"' EXIT
 
 missing() { echo "$1: $2" >>"$failures"; }
 
-# The existing outputs of this build's rules of that name; earlier builds left other files.
+# Prints the existing outputs of the build rules of that name. Other files may be left from earlier
+# builds.
 made() {
     ninja -C "$build" -t targets all | sed -nE "s/^(.*): (C|CXX)_($1)__.*/\1/p" | while read -r file; do
         [ ! -f "$build/$file" ] || echo "$build/$file"
@@ -41,7 +42,7 @@ for file in $(made '[A-Z]*_LINKER'); do
 done
 [ "$linked" -ge 4 ] || missing "$build" "has only $linked programs and libraries"
 
-# What calls are fortified or protected depends on the code: seen in what has enough of it.
+# Not every file contains calls that are fortified or protected; these files are large enough.
 for file in $(made '[A-Z]*_LINKER' | grep -E '/(libOrvCamera[^/]*\.so\.[^/]*|orvcamconfig)$'); do
     symbols=$("$readelf" --dyn-syms -W "$file")
     echo "$symbols" | grep -q 'UND __stack_chk_fail' || missing "$file" 'has no stack protector'
@@ -51,7 +52,8 @@ for file in $(made '[A-Z]*_LINKER' | grep -E '/(libOrvCamera[^/]*\.so\.[^/]*|orv
     esac
 done
 
-# The linker drops the mark of a whole file when the C library's part of it has none.
+# Checks the object files, because the linker drops the mark of a file if the C library's part has
+# none.
 objects=0
 for file in $(made COMPILER | grep -vE '\.[gp]ch$'); do # no precompiled headers
     machine=$("$readelf" -hnW "$file")

@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # check-installation.sh SOURCE_DIR BUILD_DIR WORK_DIR [QT]
-# Installs the build, and uses it as a stranger's project would: every header on its own, the
-# libraries through pkg-config, and the examples through CMake, outside the source tree.
+# Installs the build and uses it like an independent project: each header on its own, the libraries
+# through pkg-config, and the examples through CMake, outside the source tree.
 set -eu
 source=$1
 build=$2
@@ -62,7 +62,8 @@ version=$(pkg-config --modversion "$pc")
     || fail "the headers' versions are not $version: $(cat "$work/versions")"
 echo "a C program made with pkg-config runs"
 
-# The program in the README, the first code of each language there, is an example like the others.
+# The first code block of each language in the README is a complete program; it is built like an
+# example.
 code() { awk -v "start=\`\`\`$1" '$0 == "```" { if (on) exit } on; $0 == start { on = 1 }' "$source/README.md"; }
 mkdir "$work/readme"
 code cpp >"$work/readme/main.cpp"

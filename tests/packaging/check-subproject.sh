@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # check-subproject.sh SOURCE_DIR WORK_DIR
-# Makes the libraries a part of another project's build. Nothing of that project may change by it.
-# Compiles the project's own program, but not the libraries.
+# Builds the libraries as a part of another project, whose own settings must not change. Compiles
+# that project's program, but not the libraries.
 set -eu
 source=$1
 work=$2

@@ -1,9 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # check-symbols.sh LIBRARY SYMBOLS_FILE
-# Compares what a library exports with the symbols file of its Debian package. One that is missing in
-# the library breaks programs; one that is missing in the file is either an accident or to be added
-# to it with the version that brings it (docs/versions.md). Prints the lines that differ.
+# Compares the exports of a library with the symbols file of its Debian package and prints the
+# differences. A symbol that is missing in the library breaks programs. A symbol that is missing in
+# the file is an accident, or must be added with the version that introduces it (docs/versions.md).
 set -eu
 library=$1
 symbols=$2
@@ -11,7 +11,7 @@ export LC_ALL=C
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# The linker marks ends of sections in a library for ARM. The versions themselves are of type A.
+# On ARM the linker exports symbols for the ends of sections. Symbols of type A are the versions.
 "${NM:-nm}" -D --defined-only --with-symbol-versions "$library" | awk '$2 != "A" { print $3 }' |
     sed 's/@@/@/' | grep -vE '^_*(bss_start|bss_end|end)_*(@|$)' | c++filt | sort -u >"$work/exported"
 sed -nE 's/^ (\(c\+\+\)"(.*)"|([^ ]*)) [0-9.]+$/\2\3/p' "$symbols" |

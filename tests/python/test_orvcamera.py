@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The Python module over the simulated camera."""
+"""Tests of the Python module with the simulated camera."""
 import os
 import sys
 import tempfile
@@ -52,7 +52,7 @@ class OrvCameraTest(unittest.TestCase):
         self.assert_code(Error.GONE, orvcamera.Camera, "no such camera")
         self.assert_code(Error.BAD_DESCRIPTION, orvcamera.Description, "/no/such/file.xml")
 
-    def test_what_is_told_about_features(self):
+    def test_feature_properties(self):
         delay = self.camera["TriggerDelay"]
         self.assertEqual((delay.kind, delay.unit, delay.min, delay.visibility),
                          ("float", "us", 0.0, 1))
@@ -97,7 +97,7 @@ class OrvCameraTest(unittest.TestCase):
             self.assertEqual(self.camera["Width"].value, 480)
             self.assert_code(Error.FAILED, self.camera.load, path + "-")
 
-    def test_end(self):
+    def test_closed_camera(self):
         width = self.camera["Width"]
         watch = width.on_change(print)
         features = iter(self.camera)
@@ -133,7 +133,7 @@ class OrvCameraTest(unittest.TestCase):
 
 
 class WithoutDisplayTest(unittest.TestCase):
-    def test_loads_no_windows(self):
+    def test_window_library_is_not_loaded(self):
         program = ("import orvcamera, sys; orvcamera.simulated()\n"
                    "with orvcamera.Camera() as c:\n"
                    "    c['Width'].value = 640\n"

@@ -9,8 +9,7 @@
 
 using namespace OrvCam;
 
-/// The picker on a scripted camera system: how it opens, what its panes and buttons show, and how
-/// it uses the system.
+/// The picker on a scripted camera system: opening, panes, buttons, and the calls to the system.
 class TestCameraSelectorDialog : public QObject
 {
     Q_OBJECT
@@ -18,11 +17,11 @@ class TestCameraSelectorDialog : public QObject
 private slots:
     void init();
     void cleanup() { m_dialog.reset(); }
-    void opens();
-    void looksOncePerExpansion();
+    void initialState();
+    void scansOncePerExpansion();
     void accessStates();
     void interfaceKinds();
-    void panes();
+    void panesShowProperties();
     void unreadableRows();
     void rescan();
     void wrongListSizes();
@@ -31,9 +30,9 @@ private slots:
     void forcesAddress();
     void warnsOfBadAddress();
     void reportsWrongAddress();
-    void rowsMoved();
+    void camerasEnumeratedElsewhere();
     void waitsForCamera();
-    void forcingFails();
+    void failedForcing();
     void destroyedDuringDialogs();
 
 private:
@@ -70,7 +69,7 @@ QLineEdit *field(const QDialog &dialog, const char *name)
     return dialog.findChild<QLineEdit *>(name);
 }
 
-/// Presses a button of a message, which must be that one.
+/// Checks the message box and presses a button.
 ModalVisitor::Action message(const QString &title, const QString &text,
                              QMessageBox::StandardButtons buttons,
                              QMessageBox::StandardButton pressed)
@@ -145,7 +144,7 @@ void TestCameraSelectorDialog::open()
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
 }
 
-/// True when exactly these dialogs opened.
+/// Clicks "Set IP"; returns true if exactly these dialogs opened.
 bool TestCameraSelectorDialog::force(const QList<ModalVisitor::Action> &dialogs)
 {
     const ModalVisitor visitor(dialogs);
@@ -154,7 +153,7 @@ bool TestCameraSelectorDialog::force(const QList<ModalVisitor::Action> &dialogs)
     return visitor.isDone();
 }
 
-void TestCameraSelectorDialog::opens()
+void TestCameraSelectorDialog::initialState()
 {
     open();
     QCOMPARE(m_dialog->windowTitle(), QString("Select camera"));
@@ -173,22 +172,22 @@ void TestCameraSelectorDialog::opens()
     QCOMPARE(tree()->currentIndex(), interfaceRow(0));
 }
 
-void TestCameraSelectorDialog::looksOncePerExpansion()
+void TestCameraSelectorDialog::scansOncePerExpansion()
 {
     open();
-    const auto looks = [this] {
+    const auto scans = [this] {
         return QList<size_t>{m_network->refreshes.size(), m_usb->refreshes.size(),
                              m_empty->refreshes.size(), m_unlisted->refreshes.size()};
     };
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
-    // The view arranges its rows anew.
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 1, 1}));
+    // The view lays out its rows again.
     m_dialog->setStyleSheet("QTreeView { font-size: 15pt; }");
     QTest::qWait(50);
     m_dialog->resize(700, 900);
     QTest::qWait(50);
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 1, 1}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 1, 1}));
 
-    // The user looks for cameras where there are none, and where there are.
+    // The user scans an interface without cameras and one with cameras.
     const auto arrow = [this](int row) {
         const QRect text = tree()->visualRect(interfaceRow(row));
         return QPoint(text.left() / 2, text.center().y());
@@ -199,17 +198,17 @@ void TestCameraSelectorDialog::looksOncePerExpansion()
     click(2);
     click(0);
     click(0);
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 1}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 2, 1}));
     tree()->setCurrentIndex(interfaceRow(3));
     QTest::keyClick(tree(), Qt::Key_Right);
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 2, 2}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 2, 2}));
     m_empty->add("Late");
     QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
                        tree()->visualRect(interfaceRow(2)).center());
-    QCOMPARE(looks(), (QList<size_t>{1, 1, 3, 2}));
+    QCOMPARE(scans(), (QList<size_t>{1, 1, 3, 2}));
     QCOMPARE(tree()->model()->rowCount(interfaceRow(2)), 1);
     QTest::keyClick(m_dialog.get(), Qt::Key_F5);
-    QCOMPARE(looks(), (QList<size_t>{2, 2, 4, 3}));
+    QCOMPARE(scans(), (QList<size_t>{2, 2, 4, 3}));
 }
 
 void TestCameraSelectorDialog::accessStates()
@@ -264,12 +263,12 @@ void TestCameraSelectorDialog::interfaceKinds()
         QCOMPARE(interfaceFacts(),
                  (QStringList{"Description: USB", "Type: " + texts[kind], "Version: "}));
         tree()->setCurrentIndex(camera(1, 0));
-        QCOMPARE(deviceFacts().size(), 7); // a network interface without parameters, too
+        QCOMPARE(deviceFacts().size(), 7); // an interface without parameters has no addresses
         QCOMPARE(setIpButton()->isEnabled(), kind == TransportGigEVision);
     }
 }
 
-void TestCameraSelectorDialog::panes()
+void TestCameraSelectorDialog::panesShowProperties()
 {
     open();
     const QStringList network = {
@@ -302,7 +301,7 @@ void TestCameraSelectorDialog::panes()
     tree()->setCurrentIndex(QModelIndex());
     QVERIFY(!interfacePane()->model() && !devicePane()->model());
 
-    // What was shown is gone.
+    // The models of the panes have been deleted.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     for (const QTreeView *pane : {interfacePane(), devicePane()}) {
         QVERIFY(pane->findChildren<QAbstractItemModel *>("", Qt::FindDirectChildrenOnly).isEmpty());
@@ -356,7 +355,7 @@ void TestCameraSelectorDialog::rescan()
 void TestCameraSelectorDialog::wrongListSizes()
 {
     m_network->cameras.countedAhead = 3;
-    m_usb->cameras.countedAhead = -1; // none, it says
+    m_usb->cameras.countedAhead = -1; // reports an empty list
     m_system->interfaces.countedAhead = 2;
     open();
     QCOMPARE(tree()->model()->rowCount(), 4);
@@ -415,7 +414,7 @@ void TestCameraSelectorDialog::proposesFreeAddress()
         {0xC0A8010A, 0xFFFFFF00, {0xC0A8010B, 0xC0A8010C}, "192.168.1.13"},
         {0xC0A801FE, 0xFFFFFF00, {}, "192.168.1.253"},
         {0xC0A801FE, 0xFFFFFF00, {0xC0A801FD}, "192.168.1.252"},
-        {0xC0A80102, 0xFFFFFFFC, {}, "192.168.1.1"}, // round the broadcast address
+        {0xC0A80102, 0xFFFFFFFC, {}, "192.168.1.1"}, // skips the broadcast address
         {0xC0A80102, 0xFFFFFFFC, {0xC0A80101}, "192.168.1.3"},
     };
     for (const auto &row : rows) {
@@ -462,7 +461,7 @@ void TestCameraSelectorDialog::forcesAddress()
                           "GevDeviceForceSubnetMask=4294967040", "GevDeviceForceGateway=3232235777",
                           "GevDeviceForceIP", "DeviceSelector=1"}));
     QVERIFY(deviceFacts().contains("IP Address: 192.168.1.77"));
-    // The status is that of the last scan, but the camera can be accepted.
+    // The status is that of the last scan, but the camera can be selected.
     QVERIFY(deviceFacts().contains("Access status: IP Subnet Mismatch"));
     QVERIFY(okButton()->isEnabled());
     QTest::keyClick(tree(), Qt::Key_Return);
@@ -520,7 +519,7 @@ void TestCameraSelectorDialog::reportsWrongAddress()
         QVERIFY(force({enter, read}));
         QVERIFY(m_parameters->writes.filter("Force").isEmpty());
     }
-    // Its own address, and one that another camera has when that is wanted all the same.
+    // The camera's own address, and that of another camera if the user ignores the warning.
     for (const auto &last : {QString("169.254.7.21"), QString("192.168.1.66")}) {
         m_parameters->values["GevInterfaceSubnetIPAddress"] = 0xA9FE070A;
         m_parameters->values["GevInterfaceSubnetMask"] = 0xFFFF0000;
@@ -535,8 +534,8 @@ void TestCameraSelectorDialog::reportsWrongAddress()
     }
 }
 
-/// Another part of the program has looked for cameras.
-void TestCameraSelectorDialog::rowsMoved()
+/// Another part of the program has enumerated the cameras again.
+void TestCameraSelectorDialog::camerasEnumeratedElsewhere()
 {
     const auto swap = [this] {
         std::swap(m_network->cameras.entries[0], m_network->cameras.entries[1]);
@@ -561,10 +560,10 @@ void TestCameraSelectorDialog::rowsMoved()
     open();
     swap();
     tree()->setCurrentIndex(networkCamera(1));
-    QCOMPARE(deviceFacts().size(), 7); // no addresses rather than those of another camera
+    QCOMPARE(deviceFacts().size(), 7); // without addresses, since they would be another camera's
     QVERIFY(force({failureMessage()}));
 
-    // Another window has selected another camera in between.
+    // Another window has changed the camera selector.
     init();
     open();
     tree()->setCurrentIndex(networkCamera(1));
@@ -590,21 +589,22 @@ void TestCameraSelectorDialog::waitsForCamera()
     bool isProgress = false;
     QVERIFY(
         force({accept, [&](QDialog &dialog) { isProgress = dialog.inherits("QProgressDialog"); }}));
-    QVERIFY(isProgress && turns >= 15); // the window is alive
+    QVERIFY(isProgress && turns >= 15); // the event loop runs
     QVERIFY(okButton()->isEnabled());
 
-    // The user does not wait. Nothing is asked of the camera system until it is free again.
+    // The user cancels the wait. Until the command ends, the picker does not access the camera
+    // system.
     QVERIFY(force({accept, [](QDialog &dialog) { dialog.findChild<QPushButton *>()->click(); }}));
     QVERIFY(!m_parameters->writes.contains("GevDeviceForceIP"));
     QVERIFY(!okButton()->isEnabled() && !setIpButton()->isEnabled() &&
             !rescanButton()->isEnabled());
-    const size_t looks = m_network->refreshes.size();
+    const size_t scans = m_network->refreshes.size();
     tree()->setCurrentIndex(networkCamera(0));
     QCOMPARE(deviceFacts().size(), 7);
     tree()->collapse(interfaceRow(2));
     tree()->expand(interfaceRow(2));
     QTest::keyClick(m_dialog.get(), Qt::Key_F5);
-    QCOMPARE(m_network->refreshes.size(), looks);
+    QCOMPARE(m_network->refreshes.size(), scans);
     QCOMPARE(m_empty->refreshes.size(), size_t(1));
     QTRY_VERIFY(setIpButton()->isEnabled() && okButton()->isEnabled() &&
                 rescanButton()->isEnabled());
@@ -615,7 +615,7 @@ void TestCameraSelectorDialog::waitsForCamera()
     QVERIFY(!m_dialog && m_parameters->writes.contains("GevDeviceForceIP"));
 }
 
-void TestCameraSelectorDialog::forcingFails()
+void TestCameraSelectorDialog::failedForcing()
 {
     const struct
     {
@@ -647,7 +647,7 @@ void TestCameraSelectorDialog::forcingFails()
     }
 }
 
-/// By its owner, while one of the picker's own dialogs is open.
+/// The owner destroys the picker while one of its dialogs is open.
 void TestCameraSelectorDialog::destroyedDuringDialogs()
 {
     const ModalVisitor::Action destroys = [this](QDialog &) { m_dialog.reset(); };

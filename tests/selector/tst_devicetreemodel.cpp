@@ -88,7 +88,7 @@ void TestDeviceTreeModel::listsAgainAfterEmptyResult()
     DeviceTreeModel model(m_system.get());
     model.fetchMore(QModelIndex());
     QCOMPARE(model.rowCount(), 0);
-    QCOMPARE(interfaces.released, 1); // also when it is empty
+    QCOMPARE(interfaces.released, 1); // empty lists of interfaces are released, too
     QVERIFY(model.canFetchMore(QModelIndex()));
     interfaces.entries = someInterfaces;
     model.fetchMore(QModelIndex());
@@ -97,7 +97,7 @@ void TestDeviceTreeModel::listsAgainAfterEmptyResult()
     const QModelIndex network = model.index(0, 0);
     model.fetchMore(network);
     QCOMPARE(model.rowCount(network), 0);
-    QCOMPARE(cameras.released, 0); // an empty one stays with the system
+    QCOMPARE(cameras.released, 0); // an empty list of cameras still belongs to the system
     QVERIFY(model.hasChildren(network) && model.canFetchMore(network));
     cameras.entries = someCameras;
     model.fetchMore(network);
@@ -117,9 +117,9 @@ void TestDeviceTreeModel::rescans()
 
     FakeInterface empty("Empty");
     m_system->interfaces.entries.push_back(&empty);
-    QAbstractItemModelTester tester(&model); // fetches all that it can
+    QAbstractItemModelTester tester(&model); // fetches everything
 #if QT_VERSION >= QT_VERSION_CHECK(6, 4, 0)
-    tester.setUseFetchMore(false); // it does so in the middle of a reset, too
+    tester.setUseFetchMore(false); // it would fetch during a reset
 #endif
     model.rescan();
     expandAll(model);

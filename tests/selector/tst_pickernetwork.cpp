@@ -9,7 +9,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
-/// The picker on a real network: an adapter, 10.1.0.1, with a cable to another machine.
+/// The picker on a network adapter, 10.1.0.1, with a cable to another machine.
 class TestPickerNetwork : public QObject
 {
     Q_OBJECT
@@ -39,12 +39,12 @@ void TestPickerNetwork::makesCameraReachable()
         QCOMPARE(text("nicIpLineEdit"), QString("10.1.0.1"));
         QCOMPARE(text("macAddressLineEdit"), QString("00:1B:2C:3D:4E:5F"));
         QCOMPARE(text("ipAddressLineEdit"), QString("10.1.0.2"));
-        QTest::keyClicks(QApplication::focusWidget(), "77"); // the host number is selected
+        QTest::keyClicks(QApplication::focusWidget(), "77"); // replaces the host number
         QCOMPARE(dialog.findChild<QLabel *>("ipStatusLabel")->text(),
                  QString("IP Configuration OK"));
         dialog.accept();
     }});
-    // The answer at the new address is awaited.
+    // The picker waits for an answer from the new address.
     network.runFar("ip", "addr add 10.1.0.77/24 dev " + network.farName());
     button(picker, "Set IP Address")->click();
     network.runFar("ip", "addr del 10.1.0.77/24 dev " + network.farName());

@@ -12,16 +12,16 @@
 #include <QWindow>
 #include <QtTest>
 
-/// The picker as hosts call it, on the simulated cameras and driven as a user does: xdotool presses
-/// the keys of the X server.
+/// The picker as hosts call it, with simulated cameras. xdotool sends the user's keys through the X
+/// server.
 class TestSelectCamera : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void foreignParent();
-    void noSuchParent();
+    void opensOnForeignWindow();
+    void opensWithInvalidParent();
 
 private:
     OrvCam::System *m_system = nullptr;
@@ -34,8 +34,8 @@ void TestSelectCamera::initTestCase()
     QVERIFY(m_system);
 }
 
-/// In a window of a program that knows nothing of Qt.
-void TestSelectCamera::foreignParent()
+/// With a parent window that belongs to a program without Qt.
+void TestSelectCamera::opensOnForeignWindow()
 {
     XView x;
     const QRect place(200, 150, 900, 700);
@@ -46,11 +46,11 @@ void TestSelectCamera::foreignParent()
     };
     for (int time = 0; time < 2; ++time) {
         const ModalVisitor visitor({[&](QDialog &dialog) {
-            QVERIFY(isUnharmed(1)); // in it, the container's hidden window
+            QVERIFY(isUnharmed(1)); // the child is the hidden window of the container
             QCOMPARE(x.ownerOf(static_cast<xcb_window_t>(dialog.winId())), host);
             const QPoint distance = dialog.geometry().center() - place.center();
             QVERIFY(distance.manhattanLength() <= 2);
-            dialog.activateWindow(); // there is no window manager that does
+            dialog.activateWindow(); // no window manager does this
             QVERIFY(QTest::qWaitForWindowActive(&dialog));
             press({"Down", "Down", "Return"});
             QTest::qWait(30);
@@ -65,7 +65,7 @@ void TestSelectCamera::foreignParent()
     }
 }
 
-void TestSelectCamera::noSuchParent()
+void TestSelectCamera::opensWithInvalidParent()
 {
     const ModalVisitor visitor({[](QDialog &dialog) {
         QVERIFY(QGuiApplication::primaryScreen()->geometry().contains(dialog.geometry()));

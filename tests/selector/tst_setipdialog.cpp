@@ -67,7 +67,7 @@ void TestSetIpDialog::validation()
                      QString(row.text == ok ? "color: rgb(0, 192, 0);" : "color: rgb(255, 0, 0);"));
             QVERIFY2(m_dialog->isAddressValid() == row.addressValid, row.address);
             QCOMPARE(m_dialog->isMaskValid(), row.mask == mask);
-            // Also when the address comes last.
+            // The result is the same when the address is entered last.
             field("ipAddressLineEdit")->setText("127.0.0.1");
             field("ipAddressLineEdit")->setText(row.address);
         }
@@ -83,7 +83,7 @@ void TestSetIpDialog::gatewayIsNotValidated()
     QCOMPARE(status()->text(), QString("IP Configuration OK"));
     m_dialog->setGateway(0);
     QCOMPARE(status()->text(), QString("IP Configuration OK"));
-    // With a mask of nothing a first group of zero is the only fault that is left.
+    // With an empty mask, only addresses that start with 0 are invalid.
     m_dialog->setNicNetmask(0);
     m_dialog->setNetmask(0);
     m_dialog->setIPAddress(0x00FFFFFF);

@@ -105,25 +105,25 @@ QString tableText(QDialog *dialog)
 
 } // namespace
 
-/// Settings files, from the bytes to the dialogs.
+/// Settings files: format, contents, C functions and dialogs.
 class TestSettings : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
-    void files_data();
-    void files();
+    void fileFormat_data();
+    void fileFormat();
     void valuesInFiles_data();
     void valuesInFiles();
     void selectors();
-    void refusals();
+    void refusedValues();
     void otherModels();
     void simulatedCamera();
     void twoFiles();
     void cancelled();
     void cFunctions();
-    void menu();
+    void settingsMenu();
     void userSets();
     void transfersOfGigECamera();
 
@@ -145,10 +145,10 @@ private:
     QTemporaryDir m_folder;
 };
 
-void TestSettings::files_data()
+void TestSettings::fileFormat_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("expected"); // labels and values; or the error, with its line
+    QTest::addColumn<QString>("expected"); // labels and values; or the error with its line
     const auto row = [](const char *name, const QByteArray &bytes, const char *expected) {
         QTest::newRow(name) << bytes << QString::fromUtf8(expected);
     };
@@ -174,7 +174,7 @@ void TestSettings::files_data()
     row("too large", head + QByteArray(int(SettingsFile::largestSize), '#'), "too large");
 }
 
-void TestSettings::files()
+void TestSettings::fileFormat()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, expected);
@@ -196,7 +196,7 @@ void TestSettings::valuesInFiles_data()
 {
     QTest::addColumn<QString>("feature");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("result"); // null when it is refused
+    QTest::addColumn<QString>("result"); // null if the value is refused
     const QString refused;
     int number = 0;
     const auto row = [&](const char *feature, const char *value, const QString &result) {
@@ -238,7 +238,7 @@ void TestSettings::valuesInFiles_data()
         row("Bytes", value, refused);
 }
 
-/// What a file may hold, loaded, and saved again.
+/// Loads and saves files with all kinds of contents.
 void TestSettings::valuesInFiles()
 {
     QFETCH(QString, feature);
@@ -298,7 +298,7 @@ void TestSettings::selectors()
     QCOMPARE(camera.gains, gains);
     QVERIFY(camera.isPutBack());
 
-    // The other form of lines, and a selector that is not there.
+    // The other form of lines, and a selector that does not exist.
     const Result newer = OrvCameraSettings::load(
         camera, write(head + "Gain\t{GainSelector=Red,PhaseIndex=2}\t9\n"
                              "Gain\t{GainSelector=Green}\t8\nGain\t{LineSelector=A}\t8\n"
@@ -308,21 +308,21 @@ void TestSettings::selectors()
     QCOMPARE(camera.gains[1], 9.0);
     QVERIFY(camera.isPutBack());
 
-    // A selector that is a setting itself ends as the file says.
+    // A selector that is also a setting keeps the last value in the file.
     camera.phase->properties().streamable = true;
     QVERIFY(OrvCameraSettings::load(camera, write(head + "PhaseIndex\t2\nGain\t5\nPhaseIndex\t1\n"))
                 .isComplete());
     QCOMPARE(camera.phase->GetValue(), int64_t(1));
     camera.phase->properties().streamable = false;
     camera.phase->change(2);
-    // It goes back to a position that the camera does not offer any more.
+    // A selector is restored even if the camera no longer offers its old value.
     camera.selector->entry("Blue").setAccessMode(GenApi::NA);
     QVERIFY(
         OrvCameraSettings::load(camera, write(head + "GainSelector\tRed\nGain\t5\n")).isComplete());
     QVERIFY(camera.isPutBack());
     camera.selector->entry("Blue").setAccessMode(GenApi::RW);
 
-    // Put back also when the camera fails in between.
+    // Selectors are restored even if a write fails.
     camera.gains = {{}};
     camera.gain->changed();
     int writes = 0;
@@ -342,7 +342,7 @@ void TestSettings::selectors()
     QVERIFY(camera.isPutBack());
 }
 
-void TestSettings::refusals()
+void TestSettings::refusedValues()
 {
     SmallCamera camera;
     camera.addInteger("Locked", 3).setAccessMode(GenApi::RO);
@@ -350,7 +350,7 @@ void TestSettings::refusals()
     MemoryInteger &clamped = camera.addInteger("Clamped", 3);
     clamped.bind([] { return int64_t(3); });
     camera.addCommand("Reset");
-    // The offset fits only once the width is smaller.
+    // The offset is valid only after the width has been reduced.
     const Result result = OrvCameraSettings::load(
         camera, write(head + "OffsetX\t40\nWidth\t50\nLocked\t3\nLocked\t4\nAway\t3\nClamped\t5\n"
                              "Unknown\t1\nReset\t1\n"));
@@ -464,7 +464,7 @@ void TestSettings::cancelled()
         QVERIFY(result.count <= steps);
     }
 
-    // The disk is full in the middle.
+    // The disk is full during the save.
     write(before, "a.pfs");
     rlimit usual{};
     getrlimit(RLIMIT_FSIZE, &usual);
@@ -497,12 +497,12 @@ void TestSettings::cFunctions()
     QCOMPARE(LoadCameraSettings(&camera, other.constData(), 0, report, sizeof report),
              int(OrvSettings_OtherModel));
     QCOMPARE(LoadCameraSettings(&camera, other.constData(), 1, report, 9), int(OrvSettings_Partly));
-    QCOMPARE(report, "Width: T"); // as much as fits
+    QCOMPARE(report, "Width: T"); // truncated to the buffer's size
     QCOMPARE(SaveCameraSettings(nullptr, "x", report, sizeof report), int(OrvSettings_Failed));
     QVERIFY(report[0]);
 }
 
-void TestSettings::menu()
+void TestSettings::settingsMenu()
 {
     SmallCamera camera;
     QWidget window;
@@ -527,7 +527,7 @@ void TestSettings::menu()
     QCOMPARE(tableText(dialog), QString("Width|100|60"));
     dialog->reject();
 
-    // What would change; then what was refused; then all as it was.
+    // The preview, the list of refused values, and the restored state.
     const auto journal = FeatureJournal::of(&camera);
     FeatureJournal::write(journal, "Width", 60, 61, [] { return true; });
     QVERIFY(journal->canUndo());
@@ -551,14 +551,14 @@ void TestSettings::menu()
                                         "New|1|The camera does not have it."));
     QCOMPARE(camera.width->GetValue(), int64_t(50));
     QCOMPARE(writes, QStringList("Width|60|50"));
-    QVERIFY(!journal->canUndo()); // would put back what was there before the load
+    QVERIFY(!journal->canUndo()); // undo would restore values from before the load
     dialog->findChild<QPushButton *>("putBackButton")->click();
     QVERIFY(finished.wait());
     QCOMPARE(camera.width->GetValue(), int64_t(60));
     QVERIFY2(writes.contains("Width||60"), qPrintable(writes.join('\n')));
     shown<QDialog>("SettingsResult")->reject();
 
-    // A selector that is a setting itself is put back as well.
+    // A selector that is also a setting is restored, too.
     camera.phase->properties().streamable = true;
     menu.load(write(head + "PhaseIndex\t1\nGain\t8\nPhaseIndex\t2\nGain\t9\nPhaseIndex\t1\n"));
     QVERIFY(finished.wait());
@@ -577,7 +577,7 @@ void TestSettings::menu()
     shown<QDialog>("SettingsResult")->reject();
     camera.phase->properties().streamable = false;
 
-    // Of another model after a question only; a damaged file not at all.
+    // A file of another model is loaded after a confirmation; a damaged file is not loaded.
     menu.load(write(head + "# Device = Other::Camera\nWidth\t40\n"));
     QVERIFY(finished.wait());
     QVERIFY(!shown<QDialog>("SettingsPreview") && shown<QMessageBox>());
@@ -592,7 +592,7 @@ void TestSettings::menu()
     QVERIFY(shown<QMessageBox>() && shown<QMessageBox>()->text().contains("Line 3"));
     shown<QMessageBox>()->accept();
 
-    // The camera goes in the middle.
+    // The camera is disconnected during a save.
     std::atomic<bool> isReading{false};
     std::atomic<bool> isGoing{false};
     camera.gain->onRead([&] {
@@ -603,7 +603,7 @@ void TestSettings::menu()
     camera.gain->changed();
     menu.save(path("gone.pfs"));
     QTRY_VERIFY(isReading);
-    std::thread answer([&] { // while the end of the work is waited for
+    std::thread answer([&] { // while setNodeMap() waits for the save to end
         QThread::msleep(20);
         isGoing = true;
     });
@@ -613,7 +613,7 @@ void TestSettings::menu()
     QVERIFY(shown<QMessageBox>() && !menu.actions().first()->isEnabled());
     shown<QMessageBox>()->accept();
 
-    // What was refused can still be read when the camera is gone.
+    // The list of refused values stays open after a disconnection.
     menu.setNodeMap(&camera);
     menu.load(write(head + "Width\t30\nOffsetX\t9\n"));
     QVERIFY(finished.wait());
@@ -654,9 +654,9 @@ void TestSettings::userSets()
     QVERIFY(choose(0, 1)); // load it
     QCOMPARE(OrvCameraSettings::value(*map, "TriggerMode", &error), QString("On"));
     QCOMPARE(OrvCameraSettings::value(*map, "UserSetSelector", &error), QString("Default"));
-    QVERIFY(choose(2, 2)); // start with UserSet2
+    QVERIFY(choose(2, 2)); // set UserSet2 as the default
     QCOMPARE(OrvCameraSettings::value(*map, "UserSetDefault", &error), QString("UserSet2"));
-    QVERIFY(choose(1, 0)); // the factory's set cannot be saved
+    QVERIFY(choose(1, 0)); // the factory's set is read-only
     QVERIFY(shown<QMessageBox>());
 }
 
@@ -690,7 +690,7 @@ void TestSettings::transfersOfGigECamera()
     QVERIFY(loaded.error.isEmpty() && loaded.count > 60);
     QVERIFY(OrvCameraSettings::compare(map, path("wire.pfs")).differences.isEmpty());
 
-    // It falls silent while selectors are away, where nothing but selectors is left to ask.
+    // The camera stops answering at the end, when only selectors remain to be restored.
     const QByteArray before = read(path("wire.pfs"));
     int calls = 0;
     const Result silent = OrvCameraSettings::save(map, path("wire.pfs"), [&](int, int) {

@@ -29,7 +29,7 @@ void TestCameraDescription::featuresAreDocumented()
     }
 }
 
-// What looks like a name in the sources of the dialogs is one that the camera has.
+// Every quoted feature name in the sources of the dialogs must exist in the camera.
 void TestCameraDescription::dialogsFindTheirFeatures()
 {
     QSet<QString> known{"Delay",

@@ -11,8 +11,7 @@ QString nameOf(const QModelIndex &cell)
     return cell.data(Qt::UserRole).value<GenApi::IValue *>()->GetNode()->GetName().c_str();
 }
 
-/// What a view would paint of every value cell, by feature; of a feature listed twice only the
-/// first.
+/// The painted values of all cells, by feature; only the first cell of a feature that occurs twice.
 void paintAll(const QAbstractItemModel &model, QMap<QString, QString> &cells,
               const QModelIndex &parent = QModelIndex())
 {
@@ -29,7 +28,7 @@ void paintAll(const QAbstractItemModel &model, QMap<QString, QString> &cells,
 
 } // namespace
 
-/// What follows in the tree when a feature of the simulated camera changes.
+/// The cells that change when a feature of the simulated camera changes.
 class TestRefresh : public QObject
 {
     Q_OBJECT
@@ -37,7 +36,7 @@ class TestRefresh : public QObject
 private slots:
     void init();
     void cleanup();
-    void aSelectorRefreshesWhatItSelects();
+    void selectorRefreshesSelectedFeatures();
     void everyVisibleChangeIsReported_data();
     void everyVisibleChangeIsReported();
     void pollingRefreshesPolledFeatures();
@@ -78,7 +77,7 @@ QSet<QString> TestRefresh::refreshedBy(const std::function<void()> &change)
     return names;
 }
 
-void TestRefresh::aSelectorRefreshesWhatItSelects()
+void TestRefresh::selectorRefreshesSelectedFeatures()
 {
     GenApi::CEnumerationPtr selector(m_map->GetNode("LUTSelector"));
     const QSet<QString> refreshed = refreshedBy([&] { selector->FromString("Red"); });
@@ -87,7 +86,7 @@ void TestRefresh::aSelectorRefreshesWhatItSelects()
     const QSet<QString> perFrame = refreshedBy(
         [&] { GenApi::CEnumerationPtr(m_map->GetNode("FrameAB_Selector"))->FromString("FrameB"); });
     QVERIFY(perFrame.contains("FrameAB_Selector") && perFrame.contains("Frame_BlackLevel"));
-    QVERIFY(perFrame.contains("CurrentExposureTime")); // computed from the selected frame's
+    QVERIFY(perFrame.contains("CurrentExposureTime")); // computed from the selected frame
     for (const char *other : {"PixelFormat", "RedCoefficient", "TriggerMode", "PixelClock",
                               "FrameMode", "Strobe1Delay", "GevCurrentIPAddress", "LUTValue"})
         QVERIFY2(!perFrame.contains(other), other);
@@ -124,7 +123,7 @@ void TestRefresh::everyVisibleChangeIsReported()
     });
     QVERIFY(refreshed.contains(feature));
 
-    // A view repaints what was reported. Everything else must look as it did.
+    // A view repaints only the reported cells; all other cells must be unchanged.
     m_map->InvalidateNodes();
     QMap<QString, QString> after;
     paintAll(*m_model, after);
@@ -145,7 +144,7 @@ void TestRefresh::pollingRefreshesPolledFeatures()
     QVERIFY(refreshed.contains("CurrentTemperature") && refreshed.contains("DeviceTemperature"));
     QVERIFY(!refreshed.contains("Width") && !refreshed.contains("Frame_ExposureLines"));
     paintAll(*m_model, cells);
-    // A live feature costs a transaction or less: some share a register.
+    // At most one transaction per polled feature; some share a register.
     QVERIFY(m_map->transactions().reads - reads <= uint64_t(refreshed.size()));
 }
 

@@ -21,7 +21,7 @@ CameraIdentity named(const char *serial)
     return identity;
 }
 
-/// A camera and a host of it that believes nothing that it has read before.
+/// A camera, and a host that never uses cached values.
 struct RunningCamera
 {
     explicit RunningCamera(const CameraIdentity &identity = CameraIdentity()) : camera(identity) {}
@@ -106,15 +106,15 @@ void TestSimulatedCamera::behaviour_data()
     const auto row = [](const char *name, const char *steps) {
         QTest::newRow(name) << QString(steps);
     };
-    // The description and the camera's own code each have the addresses. Those of values that may
-    // not be 0 are found by startValuesAreValid.
+    // The description and the camera's code both contain the addresses. startValuesAreValid() finds
+    // wrong addresses of values that must not be 0; this row finds the others.
     row("start values",
         "FrameAB_Selector=FrameB Strobe1Delay?100 Strobe2Reference?ReadoutStart "
         "OUT1Selector?Strobe1 AutoTrackingSpeed?Medium BlueCoefficient?384 "
         "DefectPixelThreshold?256 HotPixelCorrection?Dynamic U3VFirmwareBuildNumber?412 "
         "PixelClock?160 Frame_ExposureClocks?480 Frame_OffsetY?456 Frame_AnalogGain?x2 "
         "Frame_BlackLevel?80 GevVersionMinor?2 Frame_WdrEnable=1 Frame_WdrE3?60");
-    // What is set comes back when the limit does.
+    // A value that was limited returns when the limit allows it again.
     row("limits",
         "Frame_LineTime=700 Frame_ExposureClocks=699 SensorADCBitDepth=Bit12 Frame_LineTime?960 "
         "SensorADCBitDepth=Bit10 Frame_LineTime?700 Frame_LineTime=650 Frame_ExposureClocks?649 "
@@ -122,7 +122,7 @@ void TestSimulatedCamera::behaviour_data()
         "CurrentExposureTime?406 Frame_FixedFramePeriodEnable=0 Frame_ExposureLines?1600 "
         "SensorClockDivider=64 PixelClock?80");
 
-    // 3072 lines of the image and 38 more are read out; 160 clocks are a microsecond.
+    // The read-out has 3072 image lines and 38 others; 160 clocks are a microsecond.
     row("read-out decides", "Frame_LineTime=1000 Frame_ExposureLines=1 Frame_ExposureClocks=600 "
                             "CurrentExposureTime?10 CurrentFrameTime?19437");
     row("exposure decides", "Frame_LineTime=1000 Frame_ExposureLines=6398 Frame_ExposureClocks=0 "
@@ -178,7 +178,7 @@ void TestSimulatedCamera::behaviour()
     QCOMPARE(RunningCamera().run(steps), QString());
 }
 
-/// What no feature allows, but a register takes.
+/// Values that a feature rejects, but a register accepts.
 void TestSimulatedCamera::zeroInRegisters()
 {
     RunningCamera camera;
@@ -198,9 +198,9 @@ void TestSimulatedCamera::portsShareTheCamera()
         port->read(batch);
         return batch[0].status == OrvCameraIo::Status::Done ? int(batch[0].bytes[3]) : -1;
     };
-    QTRY_COMPARE(upTime(), 1); // time passes in the main loop
+    QTRY_COMPARE(upTime(), 1); // the main loop advances the time
 
-    // A register that is not all in the camera, and one that would be only after an overflow.
+    // A register that extends beyond the camera's, and one whose end overflows.
     for (const uint64_t address : {uint64_t(0xFFFE), UINT64_MAX - 1}) {
         std::vector<OrvCameraIo::ReadTransfer> batch{{{address, 4}, {}, {}}};
         port->read(batch);

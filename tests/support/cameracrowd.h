@@ -15,12 +15,12 @@
 #include <thread>
 #include <vector>
 
-/// A device that answers each discovery command as if there were many cameras, which may be made
-/// up. Nothing else is answered.
+/// A device that answers each discovery command for many cameras, also with invalid identities. It
+/// answers no other command.
 class CameraCrowd
 {
 public:
-    /// Who a camera claims to be.
+    /// The identity of one camera.
     struct Claim
     {
         uint64_t mac;
@@ -29,7 +29,7 @@ public:
     };
     using Claims = std::vector<Claim>;
 
-    /// `networkNamespace` is a file as for setns(2).
+    /// `networkNamespace` is the path of a namespace file; see setns(2).
     CameraCrowd(std::string networkNamespace, Claims claims)
         : m_space(std::move(networkNamespace))
         , m_claims(std::move(claims))

@@ -13,7 +13,7 @@
 
 #include <memory>
 
-/// A network adapter of this namespace with a cable to another machine: a namespace of its own, in
+/// A network adapter of this namespace with a cable to another machine (a second namespace), on
 /// which cameras and other servers can be started. For tests that run in a network namespace; a
 /// failure of the set-up ends the test program.
 class CameraNetwork
@@ -58,14 +58,14 @@ public:
 
     QString farName() const { return m_farName; }
 
-    /// The file of the other machine's namespace; see setns(2).
+    /// The path of the other machine's namespace file; see setns(2).
     QString farNamespace() const
     {
         return QStringLiteral("/proc/%1/ns/net").arg(m_machine.processId());
     }
 
-    /// For a camera on the other machine. It broadcasts its answers, as a camera does that has no
-    /// way back to the client's subnet.
+    /// Settings of a camera on the other machine. It broadcasts its answers, like a camera that has
+    /// no route to the client's subnet.
     TestCamera::Settings cameraSettings(uint64_t mac, const char *address) const
     {
         TestCamera::Settings settings;

@@ -10,7 +10,7 @@
 #include <mutex>
 #include <vector>
 
-/// Collects the events of a device.
+/// Records the events of a device.
 struct Events
 {
     Events() = default;
@@ -49,7 +49,7 @@ struct CountingSink : OrvGenParam::ParamEventSink
     int count = 0;
 };
 
-/// Everything in a list, which is released.
+/// The entries of a list; releases the list.
 template<class Entry, class List>
 std::vector<Entry *> entriesOf(List *list)
 {

@@ -1,9 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # check-genicam-root.sh SOURCE_DIR WORK_DIR
-# Builds and installs the library against headers laid out like those of a genuine GenICam SDK:
-# another release of the name spaces, and nothing that only our headers have. Then uses it in a
-# program that has nothing but the runtime of that SDK.
+# Builds and installs the library against headers in the layout of a genuine GenICam SDK, with
+# another release in the name spaces and without this platform's additions. Then uses it in a
+# program with only the SDK's runtime.
 set -eu
 source=$1
 work=$2
@@ -75,13 +75,13 @@ flags=$(PKG_CONFIG_PATH=$pkgconfig pkg-config --cflags orvcameraguiapi Qt5Widget
 ${CXX:-c++} -std=c++17 -fPIC -fsyntax-only $flags "$work/host/main.cpp" \
     || fail "a program cannot be compiled with pkg-config's flags"
 
-# A wrong folder must be reported at once.
+# A wrong folder must cause an error at once.
 if cmake -S "$source" -B "$work/wrong" -G Ninja -DORV_GENICAM_ROOT="$work/nowhere" \
     >"$work/wrong.log" 2>&1; then
     echo "a folder without headers was accepted"
     exit 1
 fi
-# CMake breaks long lines of its messages.
+# CMake wraps long lines of its messages.
 if ! tr -s ' \n' ' ' <"$work/wrong.log" | grep -qF "ORV_GENICAM_ROOT is '$work/nowhere'"; then
     echo "the folder was refused without its name:"
     cat "$work/wrong.log"

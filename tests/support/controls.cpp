@@ -14,9 +14,9 @@ bool isVisiblePart(const QWidget &window, const QWidget *widget)
     return widget && widget->window() == &window && widget->isVisible();
 }
 
-// What a screen reader says: the label's name, or else the object's own. To some objects the own
-// name is what they show.
-QString spokenName(QAccessibleInterface &interface)
+// The name that a screen reader reads: that of the label, or else the object's own. The own name of
+// a combo box may be only its current value.
+QString accessibleName(QAccessibleInterface &interface)
 {
     for (const auto &relation : interface.relations(QAccessible::Label)) {
         if (relation.first && relation.first->role() == QAccessible::StaticText)
@@ -28,23 +28,23 @@ QString spokenName(QAccessibleInterface &interface)
     return isContent ? QString() : name;
 }
 
-class Listener
+class NameChecker
 {
 public:
-    explicit Listener(const QWidget &window) : m_window(window) {}
+    explicit NameChecker(const QWidget &window) : m_window(window) {}
 
     void visit(QAccessibleInterface *interface, const QString &group)
     {
         auto *widget = interface ? qobject_cast<QWidget *>(interface->object()) : nullptr;
         if (!isVisiblePart(m_window, widget))
             return;
-        const QString name = spokenName(*interface);
-        // Views never say that they can get the focus.
+        const QString name = accessibleName(*interface);
+        // The accessible states of views lack the focusable flag.
         const bool isFocusable =
             interface->state().focusable || qobject_cast<QAbstractItemView *>(widget);
         if (isFocusable && !widget->isWindow())
-            listen(*widget, *interface, group, name);
-        // Their parts speak for the whole, or are rows.
+            checkName(*widget, *interface, group, name);
+        // Parts of these represent the whole control, and children of views are rows.
         const QAccessible::Role role = interface->role();
         if (role == QAccessible::SpinBox || role == QAccessible::ComboBox)
             return;
@@ -66,8 +66,8 @@ private:
         }
     }
 
-    void listen(const QWidget &widget, QAccessibleInterface &interface, const QString &group,
-                const QString &name)
+    void checkName(const QWidget &widget, QAccessibleInterface &interface, const QString &group,
+                   const QString &name)
     {
         if (name.isEmpty())
             faults << Looks::nameOf(widget) + " has no name";
@@ -79,10 +79,10 @@ private:
     }
 
     const QWidget &m_window;
-    QMap<QString, QString> m_known; ///< group, name and role to widget
+    QMap<QString, QString> m_known; ///< widget by group, name and role
 };
 
-/// Of letters to what answers to them.
+/// Finds letters that several actions or widgets share.
 class Mnemonics
 {
 public:
@@ -122,14 +122,14 @@ QStringList sharedIn(const QMenu &menu)
 
 QString spokenNameOf(QWidget &control)
 {
-    return spokenName(*QAccessible::queryAccessibleInterface(&control));
+    return accessibleName(*QAccessible::queryAccessibleInterface(&control));
 }
 
 QStringList namelessOf(QWidget &window)
 {
-    Listener listener(window);
-    listener.visit(QAccessible::queryAccessibleInterface(&window), QString());
-    return listener.faults;
+    NameChecker checker(window);
+    checker.visit(QAccessible::queryAccessibleInterface(&window), QString());
+    return checker.faults;
 }
 
 QStringList tabOrderFaultsOf(QWidget &window)

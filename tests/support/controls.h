@@ -6,20 +6,20 @@
 class QWidget;
 
 /// Finds accessibility faults of a window's controls: for screen readers and for use without a
-/// mouse. Each list has a line for each fault. Expects the window to be shown.
+/// mouse. Each list has one line per fault. Expects the window to be shown.
 namespace Controls {
 
-/// What a screen reader calls it; empty for a control without a name.
+/// The name that a screen reader reads; empty for a control without a name.
 QString spokenNameOf(QWidget &control);
 
-/// Those that can get the focus and have no name for a screen reader, or the same as another one of
-/// their kind in the same group.
+/// The focusable controls without a name for a screen reader, or with the name of another control
+/// of the same kind in the same group.
 QStringList namelessOf(QWidget &window);
 
-/// Where Tab goes up or back in the window.
+/// The places where Tab moves up or backwards in the window.
 QStringList tabOrderFaultsOf(QWidget &window);
 
-/// The letters that several controls answer to together with Alt, or several actions of a menu.
+/// The letters that, with Alt, activate several controls, or several actions of a menu.
 QStringList sharedMnemonicsOf(QWidget &window);
 
 } // namespace Controls

@@ -12,17 +12,17 @@
 #include <memory>
 #include <vector>
 
-// A camera system whose behaviour the test sets, also to faults that a good one never has. Its
-// objects record the calls.
+// A camera system whose behaviour the test sets, including faults that a real system never shows.
+// Its objects record the calls.
 
 /// The values of an interface's parameters, by feature name.
 class FakeParameters final : public OrvGenParam::Array
 {
 public:
     QMap<QByteArray, int64_t> values;
-    QMap<QByteArray, int32_t> errors; ///< by feature; what is neither here nor there is not found
-    QStringList writes;               ///< "feature=value", a command's name alone
-    QMap<int64_t, int64_t> addresses; ///< "GevDeviceIPAddress", by row, where it differs
+    QMap<QByteArray, int32_t> errors; ///< by feature; without value and error: not found
+    QStringList writes;               ///< "feature=value", or the name of a command
+    QMap<int64_t, int64_t> addresses; ///< "GevDeviceIPAddress" by DeviceSelector, for exceptions
     unsigned commandTime = 0;         ///< milliseconds
 
     uint32_t GetCount() const override { return 0; }
@@ -103,14 +103,14 @@ public:
     void Release() override {}
 };
 
-/// What a fake hands out as a list, and how often it did.
+/// The source of a fake's lists; counts the lists that are handed out and released.
 template<class List, class Entry>
 class FakeLists
 {
 public:
     std::vector<Entry *> entries;
-    bool isNull = false;  ///< hand out no list at all
-    int countedAhead = 0; ///< how many entries more than there are the list pretends to have
+    bool isNull = false;  ///< returns null instead of a list
+    int countedAhead = 0; ///< how much the reported count exceeds the number of entries
     int handedOut = 0;
     int released = 0;
 
@@ -167,7 +167,7 @@ public:
     FakeParameters *parameters = nullptr;
     int32_t parametersError = OrvCam::Success;
     FakeLists<OrvCam::DeviceInfoList, OrvCam::DeviceInfo> cameras;
-    std::vector<uint32_t> refreshes; ///< their time-outs
+    std::vector<uint32_t> refreshes; ///< the requested time-outs
     bool wasAskedForChanges = false;
 
     FakeCamera &add(const char *displayName, int32_t state = OrvCam::AccessReadWrite)

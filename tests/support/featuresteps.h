@@ -15,13 +15,14 @@
 class FeatureSteps
 {
 public:
-    /// `pass` is for a camera that changes by itself, whose cached values are then not used.
+    /// `pass` advances the time of a camera whose values change by themselves; cached values are
+    /// then not used.
     explicit FeatureSteps(GenApi::INodeMap &map, std::function<void(double)> pass = {})
         : m_map(map), m_pass(std::move(pass))
     {
     }
 
-    /// The first step that fails, with its actual result; empty when none does.
+    /// The first failed step, with its actual result; empty if there is none.
     QString run(const QString &steps)
     {
         for (const QString &step : steps.split(' ')) {

@@ -2,7 +2,7 @@
 
 int dlclose(void *library);
 
-/* Plugins stay loaded to the end: the sanitizer cannot name the functions of an unloaded plugin,
+/* Plugins stay loaded until the end: the sanitizer cannot name the functions of an unloaded plugin,
    and the suppressions of its leaks would not match. */
 int dlclose(void *library)
 {

@@ -13,13 +13,13 @@ namespace {
 
 constexpr double leastContrast = 4.5;
 
-// Of a text's height: the blank edge of a glyph.
+// The blank edge of a glyph, as a share of the text's height.
 const qreal tolerance = 0.12;
 
 struct PaintedText
 {
     QString text;
-    QRectF ink; // of the widget
+    QRectF ink; // in the widget's coordinates
     QRectF clip;
     QColor color;
 };
@@ -62,7 +62,7 @@ private:
     const QRectF m_rect;
 };
 
-/// As large as the widget, so that it paints itself as it does on the screen.
+/// Has the size of the widget, so that the widget paints the same as on the screen.
 class RecordingDevice : public QImage
 {
 public:
@@ -87,7 +87,7 @@ QColor over(const QColor &background, const QColor &text)
                   mix(background.blue(), text.blue()));
 }
 
-/// The colour that most of the pixels around the rectangle have; those inside may be the text's.
+/// The most frequent colour on the edge of the rectangle; pixels inside may belong to the text.
 QColor colorAround(const QImage &picture, const QRect &rect)
 {
     QHash<QRgb, int> counts;
@@ -119,7 +119,7 @@ const QAbstractItemView *viewOf(const QWidget &viewport)
                                  : nullptr;
 }
 
-/// What can be seen of the widget, but for what can be scrolled in.
+/// The part of the widget that its parents do not hide, up to the nearest scroll area.
 QRect openPart(const QWidget &widget)
 {
     QRect rect = widget.rect();
@@ -151,7 +151,7 @@ bool isDisabled(const QWidget &widget, const QPoint &place)
     return false;
 }
 
-/// What the user should read, however a widget paints it; empty when it has more than one text.
+/// The text that a widget is given to show; empty if it has several texts.
 QString ownText(const QWidget &widget)
 {
     for (const char *property : {"text", "title", "currentText"}) {
@@ -224,7 +224,8 @@ private:
         checkPlace(widget);
     }
 
-    /// A text that is selected is painted twice: where it is, and where it is not.
+    /// A selected text is painted twice: with the clip region of the selection and with that of the
+    /// rest.
     static QRectF clipOf(const PaintedText &text, const QVector<PaintedText> &all)
     {
         QRectF clip = text.clip;
@@ -246,8 +247,8 @@ private:
                 QString("out of %1, which is %2").arg(nameOf(*parent), textOf(parent->rect())));
     }
 
-    // What a scroll area shows can be scrolled into view; a text without enough room in a cell gets
-    // an ellipsis, as do those of some styles elsewhere.
+    // A scroll area can be scrolled, so its contents may extend beyond the viewport. A text that
+    // does not fit into a cell is elided, in some styles elsewhere, too.
     void checkExtent(const QWidget &widget, const PaintedText &painted)
     {
         const QChar ellipsis(0x2026);

@@ -7,18 +7,18 @@
 class QImage;
 class QWidget;
 
-/// Faults in the look of a window as it is painted: its texts are recorded while it paints itself,
-/// and measured against what its style leaves for them and against the pixels below.
+/// Finds faults in the look of a window. The window's texts are recorded while it paints itself,
+/// and compared with the room that the style leaves for them and with the pixels below them.
 namespace Looks {
 
 struct Fault
 {
     enum Kind {
         Pale,     ///< less contrast than WCAG requires; disabled texts are exempt
-        Cut,      ///< a text that is not seen whole
-        CutCell,  ///< the same in a cell of an item view, whose columns the user can widen
-        Squeezed, ///< a widget that reaches out of the one that it is in
-        OffScreen ///< a window that reaches out of what can be used of its screen
+        Cut,      ///< a text that is not completely visible
+        CutCell,  ///< the same in a cell of an item view, whose columns can be widened
+        Squeezed, ///< a widget that extends beyond its parent
+        OffScreen ///< a window that extends beyond the usable area of its screen
     };
 
     Kind kind;
@@ -28,14 +28,13 @@ struct Fault
     QString toString() const;
 };
 
-/// Expects the window to be shown. Looks at its tool windows and menus only when they are asked
-/// for.
+/// Expects the window to be shown. Tool windows and menus are checked by calls of their own only.
 QVector<Fault> faultsOf(QWidget &window);
 
 /// The picture in which the faults are found.
 QImage pictureOf(QWidget &window);
 
-/// Name and class; of a widget without a name, those of the nearest parent with one, too.
+/// Name and class. For a widget without a name, those of the nearest named parent are added.
 QString nameOf(const QWidget &widget);
 
 } // namespace Looks

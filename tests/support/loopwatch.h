@@ -11,9 +11,9 @@
 #include <thread>
 #include <utility>
 
-/// Measures the longest time for which the event loop of this thread was blocked, other than
-/// waiting for events, during the object's lifetime. Computing does not count, nor does load of the
-/// machine: a second thread, which only sleeps, measures how late it wakes.
+/// Measures the longest time for which a call blocked the event loop of this thread during the
+/// object's lifetime. Computing time does not count, nor does the load of the machine: a second
+/// thread, which only sleeps, measures how late it wakes up.
 class LoopWatch : public QObject
 {
 public:
@@ -36,7 +36,7 @@ public:
         return m_longest;
     }
 
-    /// As `longestWait`; the next one begins now.
+    /// Like `longestWait()`, and restarts the measurement.
     double takeLongestWait()
     {
         take();
@@ -52,8 +52,8 @@ private:
     struct Moment
     {
         double real;
-        double busy;  ///< what the thread has computed, and has waited for a processor
-        int lateness; ///< of the sleeper
+        double busy;  ///< the thread's processor time and waits for a processor
+        int lateness; ///< of the sleeping thread
 
         static Moment now(int lateness)
         {

@@ -12,7 +12,8 @@
 
 namespace OrvGenApi {
 
-/// Functions of a node with a value beyond its interface, to simulate a misbehaving camera.
+/// Hooks and counters beyond the interface of a node with a value, to simulate a misbehaving
+/// camera.
 class MemoryAccess
 {
 public:
@@ -22,7 +23,7 @@ public:
     void onRead(std::function<void()> hook) { m_beforeRead = std::move(hook); }
     void onWrite(std::function<void()> hook) { m_beforeWrite = std::move(hook); }
 
-    /// How often the value was fetched or stored, caches left out of account.
+    /// How often the value was fetched or stored; accesses to the cache do not count.
     int reads() const { return m_reads; }
     int writes() const { return m_writes; }
 
@@ -47,7 +48,7 @@ private:
     int m_writes = 0;
 };
 
-/// The changes made here count as changes made by the camera.
+/// A node in memory. Its change functions act like changes made by the camera.
 template<typename Base>
 class MemoryNode : public DeclaredNode<Base>, public MemoryAccess
 {
@@ -58,22 +59,22 @@ public:
     void dependsOn(Node &source) { this->map().addDependency(source, *this); }
 };
 
-/// The value half of a memory node. `Base` is the value node, `T` its type.
+/// A memory node with a value. `Base` is the value node, `T` its type.
 template<typename Base, typename T>
 class MemoryValueNode : public MemoryNode<Base>
 {
 public:
     using MemoryNode<Base>::MemoryNode;
 
-    /// Changes the value as the camera would: unchecked, with callbacks.
+    /// Changes the value as the camera would: without checks, with callbacks.
     void change(const T &value)
     {
         keep(value);
         this->changed();
     }
 
-    /// Has the value fetched and stored by functions instead of kept. Without a `set`, writes have
-    /// no effect.
+    /// Fetches and stores the value by functions instead of keeping it. Without a `set`, writes
+    /// have no effect.
     void bind(
         std::function<T()> get, std::function<void(const T &)> set = [](const T &) {})
     {
@@ -107,14 +108,14 @@ private:
     std::function<void(const T &)> m_set;
 };
 
-/// A number with limits, of an integer or a float node.
+/// An integer or float node with limits.
 template<typename Base, typename T>
 class MemoryNumber : public MemoryValueNode<Base, T>
 {
 public:
     using MemoryValueNode<Base, T>::MemoryValueNode;
 
-    /// May break the current value.
+    /// The current value may violate the new limits.
     void setLimits(T min, T max)
     {
         m_min = min;
@@ -134,7 +135,7 @@ public:
     void setRepresentation(GenApi::ERepresentation value) { m_representation = value; }
     void setUnit(const std::string &unit) { m_unit = unit; }
 
-    /// Has the maximum computed at each request that no cache answers.
+    /// Computes the maximum by a function, unless a cache has it.
     void bindMax(std::function<T()> max) { m_boundMax = std::move(max); }
 
     GenApi::ERepresentation GetRepresentation() override { return m_representation; }
@@ -220,7 +221,7 @@ public:
 
     void onExecute(std::function<void()> action) { m_action = std::move(action); }
 
-    /// Answers `IsDone`; a command is done at once unless one is set.
+    /// The result of `IsDone()`; without such a function a command is done at once.
     void bindIsDone(std::function<bool()> isDone) { m_isDone = std::move(isDone); }
 
 protected:
@@ -276,8 +277,8 @@ private:
     int64_t m_address = 0;
 };
 
-/// A node map whose nodes keep their values, for tests of misbehaving cameras. Each
-/// `addX` adds a node to a category as `add` does.
+/// A node map with the values in memory, for tests of misbehaving cameras. Each `addX` adds a node
+/// to a category like `add`.
 class MemoryNodeMap : public DeclaredNodeMap
 {
 public:

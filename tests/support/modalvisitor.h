@@ -11,9 +11,9 @@
 
 #include <functional>
 
-/// Handles the modal dialogs that open during its lifetime, one after the other: each action gets
-/// one and has to close it. An unexpected dialog is rejected, as is one left open by an action in
-/// which the test has failed.
+/// Handles the modal dialogs that open during its lifetime in their order: each action receives one
+/// dialog and has to close it. An unexpected dialog is rejected, and so is one left open after a
+/// failure in an action.
 class ModalVisitor : public QObject
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     explicit ModalVisitor(QList<Action> actions) : m_actions(std::move(actions)) { startTimer(10); }
 
-    /// Exactly the expected dialogs have opened.
+    /// Whether exactly the expected dialogs have opened.
     bool isDone() const { return m_actions.isEmpty() && !m_isSurprised; }
 
 protected:
@@ -31,7 +31,8 @@ protected:
         if (!dialog || m_seen.contains(dialog))
             return;
         m_seen << dialog;
-        // This timer stands still until it returns, but the action may open the next dialog.
+        // A timer does not fire again before its slot has returned, but the action may open another
+        // dialog.
         QTimer::singleShot(0, dialog, [this, dialog] { visit(*dialog); });
     }
 
@@ -45,7 +46,7 @@ private:
         }
         m_actions.takeFirst()(dialog);
         if (QTest::currentTestFailed())
-            dialog.reject(); // runs until this returns
+            dialog.reject(); // the action runs until this slot returns
     }
 
     QList<Action> m_actions;

@@ -21,7 +21,7 @@ inline QPushButton *button(const QDialog &picker, const QString &text)
     qFatal("There is no button %s", qPrintable(text));
 }
 
-/// The first row, depth first, with these words; invalid when there is none.
+/// The first row, depth first, that starts with these words; invalid if there is none.
 inline QModelIndex rowNamed(const QTreeView &tree, const QString &words)
 {
     return tree.model()

@@ -7,8 +7,8 @@
 #include <mutex>
 #include <thread>
 
-/// The cable of a camera that tests unplug and plug in again. The connection's listener is notified
-/// on another thread, as by a real connection.
+/// The cable of a camera, for tests that unplug it and plug it in again. As with a real connection,
+/// the listener is notified on another thread.
 class Plug
 {
 public:

@@ -15,14 +15,14 @@
 #include <map>
 #include <memory>
 
-/// A camera that can be unplugged. It has what the main window shows, and two frames.
+/// A camera that can be unplugged. It has two frames and the features that the main window shows.
 struct PluggableCamera
 {
     explicit PluggableCamera(const QByteArray &cameraName) : name(cameraName) {}
 
-    const QByteArray name; ///< what it gives as its model
+    const QByteArray name; ///< the name of its model
     Plug isPlugged;
-    std::atomic<int> closed{0}; ///< connections
+    std::atomic<int> closed{0}; ///< number of closed connections
     std::function<void(OrvGenApi::MemoryNodeMap &)> furnish = [](auto &map) {
         map.addEnumeration("FrameAB_Selector", {{"FrameA", 0}, {"FrameB", 1}});
         map.addEnumeration("FrameMode", {{"FrameA", 0}, {"FrameB", 1}, {"DualVideo", 2}}, 2);
@@ -68,11 +68,11 @@ struct PluggableCamera
     };
 };
 
-/// A device that counts what is registered with it. There is one for each camera at most.
+/// A device that counts its registrations. Each camera has one at most.
 class CountedDevice final : public OrvCam::Device
 {
 public:
-    /// Null when the camera is unplugged or open already.
+    /// Null if the camera is unplugged or open already.
     static CountedDevice *open(PluggableCamera &camera, OrvCam::DeviceInfo &info,
                                std::thread::id homeThread = std::this_thread::get_id())
     {
@@ -89,7 +89,7 @@ public:
     {
         int opened = 0;
         int open = 0;
-        int events = 0; ///< registrations of all devices together
+        int events = 0; ///< number of registrations of all devices
     };
     static Counts &counts(PluggableCamera &camera)
     {

@@ -7,8 +7,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-/// A program that is used by its windows, a mouse and a keyboard only. It is killed at the latest
-/// with this object.
+/// Operates a program through its windows, with mouse and keyboard. The destructor kills the
+/// program.
 class ProgramOnScreen : public QProcess
 {
 public:
@@ -21,7 +21,7 @@ public:
         waitForFinished();
     }
 
-    /// Its exit status; less than 0 when it does not end, or crashes.
+    /// The exit status; negative if the program does not end, or crashes.
     int status()
     {
         if (state() == Running && !waitForFinished(10000))
@@ -29,8 +29,8 @@ public:
         return exitStatus() == NormalExit ? exitCode() : -2;
     }
 
-    /// Waits for a window and gives it the keyboard, as there is no window manager that does. The
-    /// window is 0 when it does not come.
+    /// Waits for a window and gives it the keyboard focus, since no window manager does. The result
+    /// is 0 if the window does not appear.
     bool waitForWindow(const QString &title)
     {
         const QString pattern = '^' + QRegularExpression::escape(title) + '$';
@@ -55,11 +55,11 @@ public:
         xdotool({"mousemove", QString::number(x), QString::number(y), "click", "1"});
     }
 
-    XView screen;            ///< also keeps the server from starting anew between two programs
-    xcb_window_t window = 0; ///< the last that was waited for
+    XView screen; ///< an open connection keeps the server from resetting between two programs
+    xcb_window_t window = 0; ///< the last result of waiting
 
 private:
-    /// The first line of its output.
+    /// The first line of the program's output.
     static QString xdotool(const QStringList &arguments)
     {
         QProcess process;

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// A node map of the simulated camera; there may be several, which share no cache.
+/// A node map of the simulated camera. Several node maps share no cache.
 inline std::unique_ptr<OrvDescription::NodeMap>
 openNodeMap(const OrvSimulation::SimulatedCamera &camera)
 {

@@ -131,7 +131,7 @@ void TestCamera::setUpMemory()
     memory.setWord(Interfaces, 1);
     memory.setWord(0x0904, 1);
     memory.setWord(0x0D04, 1500);
-    // User name, serial number, switching the heartbeat off, PENDING_ACK, WRITEMEM.
+    // User name, serial number, disabling the heartbeat, PENDING_ACK, WRITEMEM.
     memory.setWord(Capability, 0xE0000022 | (s.canConcatenate ? 1 : 0));
     memory.setWord(HeartbeatTimeout, s.heartbeat);
     if (s.fillsRegisters)
@@ -311,7 +311,7 @@ void TestCamera::call(const std::function<void()> &task)
 
 void TestCamera::run()
 {
-    prctl(PR_SET_TIMERSLACK, 1000UL); // a delay of 1 ms is not to become 1.05 ms
+    prctl(PR_SET_TIMERSLACK, 1000UL); // otherwise a delay of 1 ms becomes 1.05 ms
     std::unique_lock<std::mutex> lock(m_mutex);
     for (;;) {
         while (!m_tasks.empty()) {
@@ -356,7 +356,7 @@ void TestCamera::enterNamespace() const
     close(file);
 }
 
-/// -1 when this machine does not have the address.
+/// -1 if this machine does not have the address.
 int TestCamera::openSocket(uint32_t address, uint16_t port) const
 {
     const int made = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
@@ -377,7 +377,7 @@ int TestCamera::openSocket(uint32_t address, uint16_t port) const
     };
     if (bindIt() == 0)
         return made;
-    // Cameras answer from their own address, also one with which nothing reaches them.
+    // A camera answers from its own address, even if that address cannot be reached.
     if (errno == EADDRNOTAVAIL && setsockopt(made, SOL_IP, IP_TRANSPARENT, &on, sizeof on) == 0 &&
         bindIt() == 0)
         return made;
@@ -392,7 +392,8 @@ int TestCamera::openSocket(uint32_t address, uint16_t port) const
 void TestCamera::openSockets()
 {
     m_sockets[Unicast] = openSocket(m_ip, gvcpPort);
-    // Linux gives a broadcast to sockets with this very address, not to those with the machine's.
+    // Linux delivers broadcasts only to sockets bound to the broadcast address, not to the
+    // machine's.
     m_sockets[Broadcast] = openSocket(INADDR_BROADCAST, gvcpPort);
     m_sockets[SubnetBroadcast] = openSocket(m_ip | ~m_netmask, gvcpPort);
     m_sockets[Foreign] = openSocket(m_sockets[Unicast] < 0 ? INADDR_ANY : m_ip, 0);
@@ -410,7 +411,7 @@ void TestCamera::closeSockets()
 void TestCamera::receive(Socket socket)
 {
     std::array<char, 65536> buffer;
-    for (int i = 0; i < 64 && m_sockets[socket] >= 0; ++i) { // answers get their turn, too
+    for (int i = 0; i < 64 && m_sockets[socket] >= 0; ++i) { // lets answers be sent
         sockaddr_in from{};
         socklen_t length = sizeof from;
         const auto size = recvfrom(m_sockets[socket], buffer.data(), buffer.size(), 0,
@@ -480,7 +481,7 @@ void TestCamera::handle(const std::string &packet, const sockaddr_in &from, Sock
 
 void TestCamera::forceIp(const Command &command)
 {
-    sendDue(); // the acknowledge comes from the address so far
+    sendDue(); // the acknowledge comes from the former address
     if (m_behaviour.forceIp == TestCameraBehaviour::ForceIp::Fatal)
         m_silentUntil = Clock::time_point::max();
     const uint32_t ip = number(command.data, 20);
@@ -545,7 +546,7 @@ void TestCamera::reply(const Command &command, const Answer &answer)
 std::string TestCamera::faulty(unsigned fault, const Command &command, const Answer &answer)
 {
     using Behaviour = TestCameraBehaviour;
-    // The address of READMEM is not inverted, so that a client cannot detect the order by it.
+    // The address in READMEM is not inverted: a client must not detect the byte order from it.
     const std::string data = inverted(answer.data, command.kind == ReadMemory ? 4 : 0);
     const std::size_t size = data.size();
     const int kind = command.kind + 1;

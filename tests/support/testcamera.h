@@ -15,7 +15,7 @@
 #include <vector>
 
 /// A GigE Vision camera for tests and benchmarks, which can be made to misbehave. It has the
-/// bootstrap registers, a sparse register space and a description, knows control privilege and
+/// bootstrap registers, a sparse register space and a description, supports control privilege and
 /// heartbeat, and sends no pictures. It shares no code with what it tests.
 ///
 /// Run it in a network namespace (orv_add_test(... NETNS ...)), where any 127.x.y.z is an address
@@ -32,22 +32,22 @@
 ///     check(camera.counters().readRegister == 1);
 ///
 /// Link orv_test_camera. A camera at the far end of a CameraNetwork gets its settings from
-/// CameraNetwork::cameraSettings(). By hand, and from other processes: test-camera --help.
+/// CameraNetwork::cameraSettings(). For use by hand and from other processes: test-camera --help.
 ///
 /// Each camera has a thread of its own. All functions can be called from any thread and take effect
-/// before they return; answers that are delayed already are dropped by silence and unplugging only.
+/// before they return. Answers that are already delayed are dropped by silence and unplugging only.
 class TestCamera
 {
 public:
     struct Settings
     {
-        /// If no adapter has the address, the camera is one with a wrong IP configuration: it
-        /// answers broadcasts (discovery and forced IP) from it, and nothing else reaches it. That
-        /// takes the right to administer the network.
+        /// If no adapter has the address, the camera has a wrong IP configuration: it answers
+        /// broadcasts (discovery and forced IP) from that address, and nothing else reaches it.
+        /// Requires the right to administer the network.
         std::string address = "127.0.0.1";
         std::string netmask; ///< empty: 255.0.0.0 on the loopback device, otherwise 255.255.255.0
         std::string gateway = "0.0.0.0";
-        std::string adapter;          ///< the network adapter to stay on; empty: any
+        std::string adapter;          ///< the network adapter to use; empty: any
         std::string networkNamespace; ///< a file as for setns(2); empty: the constructor's own
         uint64_t mac = 0;             ///< 0: 02:00 and the address
         std::string vendor = "Strawman";
@@ -57,21 +57,21 @@ public:
         std::string serial = "1";
         std::string userName;
 
-        std::string description; ///< of GenICam, or any other bytes for its place
-        std::string descriptionName = "camera.xml"; ///< in the URL; of a zipped one with .zip
+        std::string description;                    ///< a GenICam description, or any other bytes
+        std::string descriptionName = "camera.xml"; ///< in the URL; ends with .zip for a zipped one
         uint32_t descriptionAddress = 0xC0000000;
         bool isZipped = false;
-        std::string url;       ///< verbatim in place of Local:NAME;ADDRESS;SIZE
+        std::string url;       ///< replaces Local:NAME;ADDRESS;SIZE
         std::string secondUrl; ///< verbatim
 
         bool canConcatenate = true; ///< the capability bit, and READREG with several addresses
         TestCameraMemory::Unknown unknownRegisters = TestCameraMemory::Unknown::Refused;
-        bool fillsRegisters = false; ///< TestCameraMemory::fill() with the description
-        uint32_t heartbeat = 3000;   ///< ms until control is lost without a command
-        bool broadcasts = false;     ///< discovery and forced IP are answered by broadcast
+        bool fillsRegisters = false; ///< calls TestCameraMemory::fill() with the description
+        uint32_t heartbeat = 3000;   ///< ms without a command until control is lost
+        bool broadcasts = false;     ///< broadcasts its answers to discovery and forced IP
     };
 
-    /// Throws std::runtime_error when the address is in use, or there is no such namespace.
+    /// Throws std::runtime_error if the address is in use, or if the namespace does not exist.
     explicit TestCamera(const Settings &settings);
     ~TestCamera();
     TestCamera(const TestCamera &) = delete;
@@ -81,35 +81,36 @@ public:
     /// @{
     void setBehaviour(const TestCameraBehaviour &behaviour);
     TestCameraBehaviour behaviour() const;
-    /// A good camera again but for this; see testCameraMoods().
+    /// Removes all faults and sets this one; see testCameraMoods().
     void setMood(const std::string &name);
     void setMood(const std::string &name, int value);
-    /// This in addition to what is wrong already.
+    /// Adds this fault to the current ones.
     void addMood(const std::string &name, int value);
 
-    /// Closes the sockets: a command to the address is answered by the system ("port unreachable"),
-    /// which a silent camera's is not. Delayed answers are dropped.
+    /// Closes the sockets: the system answers commands to the address ("port unreachable"), whereas
+    /// a silent camera sends no answer at all. Delayed answers are dropped.
     void unplug();
-    /// Opens them again. A camera that was switched off in between has forgotten its controller,
-    /// one whose cable was pulled has not.
+    /// Opens the sockets again. A camera that was switched off has forgotten its controller; one
+    /// whose cable was pulled has not.
     void plugIn(bool keepsControl = false);
     /// @}
 
     /// @name Registers
     /// @{
-    uint32_t reg(uint32_t address); ///< as READREG gives it, 0 when there is none
+    uint32_t reg(uint32_t address); ///< as READREG returns it; 0 if it does not exist
     void setRegister(uint32_t address, uint32_t value);
-    std::string bytes(uint32_t address, uint32_t size); ///< as READMEM gives them
+    std::string bytes(uint32_t address, uint32_t size); ///< as READMEM returns them
     void setBytes(uint32_t address, const std::string &bytes);
-    void addBlock(uint32_t address, const std::string &bytes); ///< read-only, a second description
-    void addTwoViews(uint32_t first, uint32_t last);           ///< see TestCameraMemory
+    void addBlock(uint32_t address,
+                  const std::string &bytes);         ///< read-only, such as a second description
+    void addTwoViews(uint32_t first, uint32_t last); ///< see TestCameraMemory
     void countUp(uint32_t address, int milliseconds, uint32_t step = 1);
     /// @}
 
     /// @name Control
     /// @{
-    uint32_t privilege(); ///< the register: 0 none, 1 exclusive, 2 control
-    /// Gives control to another client that never releases it; 0 takes control from any client.
+    uint32_t privilege(); ///< the value of the register: 0 none, 1 exclusive, 2 control
+    /// Gives control to another client, which never releases it; 0 removes the current controller.
     void setPrivilege(uint32_t privilege);
     /// @}
 
@@ -119,16 +120,16 @@ public:
     using Access = TestCameraAccess;
 
     Counters counters() const;
-    /// The counters, which start from 0 again.
+    /// Returns the counters and resets them.
     Counters takeCounters();
 
-    /// Everything since the last call, heartbeats left out.
+    /// Returns the accesses since the last call, without heartbeats.
     std::vector<Access> takeAccesses();
-    /// The data of all forced IP commands for this camera, 56 bytes each.
+    /// The data of each forced IP command for this camera, 56 bytes each.
     std::vector<std::string> forcedIps() const;
     /// @}
 
-    std::string address() const; ///< changes with a forced IP
+    std::string address() const; ///< changed by a forced IP
     const Settings &settings() const { return m_settings; }
 
 private:
@@ -174,7 +175,7 @@ private:
     bool isLost(int perCent);
 
     const Settings m_settings;
-    mutable std::mutex m_mutex; ///< for all that follows
+    mutable std::mutex m_mutex; ///< protects the following members
     TestCameraCommands m_commands;
     TestCameraLog m_log;
     TestCameraBehaviour m_behaviour;

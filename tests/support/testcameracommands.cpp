@@ -71,7 +71,7 @@ TestCameraCommands::Answer TestCameraCommands::readRegisters(const std::string &
         const uint32_t address = number(data, i);
         answer.status = refusal(address, false, from);
         if (answer.status != Success)
-            break; // what has been read is in the answer
+            break; // the answer contains the registers before this one
         answer.data += bytesOf(memory.word(address).value_or(0));
     }
     return answer;

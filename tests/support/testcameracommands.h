@@ -6,8 +6,8 @@
 
 #include <netinet/in.h>
 
-/// Carries out the commands of a TestCamera: what they read and write, and what is refused. Keeps
-/// the control privilege.
+/// Executes the commands for a TestCamera: reads, writes and refusals. Manages the control
+/// privilege.
 class TestCameraCommands
 {
 public:
@@ -26,8 +26,8 @@ public:
 
     /// A controller without a port never releases control.
     void giveControl(uint32_t privilege, const sockaddr_in &controller = {});
-    /// Takes control from a controller whose heartbeat is overdue. A command of `from` counts as
-    /// one.
+    /// Removes a controller whose heartbeat is overdue. A command from `from` counts as a
+    /// heartbeat.
     void checkHeartbeat(const sockaddr_in &from = {});
 
 private:

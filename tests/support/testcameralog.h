@@ -6,7 +6,7 @@
 #include <deque>
 #include <vector>
 
-/// Commands count when they arrive, also those that are then refused, ignored or lost.
+/// Counters. Commands count on arrival, even if they are then refused, ignored or lost.
 struct TestCameraCounters
 {
     unsigned packets = 0; ///< received
@@ -18,25 +18,25 @@ struct TestCameraCounters
     unsigned readMemory = 0;
     unsigned writeMemory = 0;
     unsigned other = 0;
-    unsigned heartbeats = 0;    ///< those of readRegister that ask for the control privilege only
+    unsigned heartbeats = 0;    ///< READREG commands of the control privilege only
     unsigned registersRead = 0; ///< by READREG
     unsigned registersWritten = 0;
     unsigned bytesRead = 0; ///< by READMEM
     unsigned bytesWritten = 0;
-    unsigned repetitions = 0;  ///< of one of the last 16 commands
-    unsigned lostRequests = 0; ///< by request loss and silence
+    unsigned repetitions = 0;  ///< repeats one of the last 16 commands
+    unsigned lostRequests = 0; ///< dropped by request loss and silence
     unsigned lostAnswers = 0;
-    unsigned refused = 0; ///< answered with an error
-    unsigned sent = 0;    ///< packets, PENDING_ACKs and faulty ones included
+    unsigned refused = 0; ///< answers with an error
+    unsigned sent = 0;    ///< packets, including PENDING_ACK and faulty ones
 
-    /// All reads and writes but the heartbeats.
+    /// All reads and writes except heartbeats.
     unsigned transfers() const
     {
         return readRegister + writeRegister + readMemory + writeMemory - heartbeats;
     }
-    std::string text() const; ///< "name value" lines, those with 0 left out
+    std::string text() const; ///< "name value" lines of all counters but those at 0
 };
-/// A read or write that arrived; a concatenated command makes several with one `packet`.
+/// A read or write that arrived. A concatenated command consists of several with the same `packet`.
 struct TestCameraAccess
 {
     TestGvcp::Kind kind;
@@ -47,14 +47,14 @@ struct TestCameraAccess
 
     bool isRead() const { return !TestGvcp::isWrite(kind); }
 };
-/// Counts and remembers the commands that a TestCamera gets.
+/// Counts and records the commands that a TestCamera receives.
 class TestCameraLog
 {
 public:
     TestCameraCounters counters;
     std::vector<TestCameraAccess> accesses;
 
-    /// `client` is the address and port in any form.
+    /// `client` is address and port, in any format.
     void add(const std::string &client, uint16_t kind, uint16_t id, const std::string &data,
              bool isLost);
 

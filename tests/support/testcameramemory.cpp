@@ -17,7 +17,7 @@ uint32_t reversed(uint32_t value)
     return value << 24 | (value & 0xFF00) << 8 | (value >> 8 & 0xFF00) | value >> 24;
 }
 
-/// The contents of an element without attributes; `missing` when there is none.
+/// The contents of an element without attributes; `missing` if there is none.
 std::string contentsOf(const std::string &text, const std::string &element,
                        const std::string &missing = std::string())
 {
@@ -28,7 +28,7 @@ std::string contentsOf(const std::string &text, const std::string &element,
     return text.substr(from, text.find('<', from) - from);
 }
 
-/// Whether a start tag of a register stands there.
+/// Whether the start tag of a register begins at this position.
 bool isRegister(const std::string &description, std::size_t position)
 {
     for (const char *tag : {"<IntReg", "<MaskedIntReg", "<FloatReg", "<StringReg", "<StructReg",
@@ -39,7 +39,7 @@ bool isRegister(const std::string &description, std::size_t position)
     return false;
 }
 
-/// The element of a register in a description, around the position of its address.
+/// The element of a register that encloses the position of its address.
 std::string elementAround(const std::string &description, std::size_t position)
 {
     std::size_t start = position;

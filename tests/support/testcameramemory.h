@@ -9,15 +9,15 @@
 #include <utility>
 #include <vector>
 
-/// The registers of a TestCamera: a sparse space of 4-byte words, and blocks of bytes (its
-/// descriptions), which are read-only. A word is kept as the number that READREG gives.
+/// The registers of a TestCamera: a sparse space of 4-byte words, and read-only blocks of bytes
+/// (its descriptions). A word is stored as the number that READREG returns.
 class TestCameraMemory
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// How an address behaves at which there is no register: it is refused, it is a register that
-    /// holds 0, or one that holds a small number.
+    /// The behaviour of an address without a register: it is refused, is a register that holds 0,
+    /// or is one that holds a small number.
     enum class Unknown { Refused, Zero, Filled };
 
     void setUnknown(Unknown unknown) { m_unknown = unknown; }
@@ -26,25 +26,25 @@ public:
     std::optional<uint32_t> word(uint32_t address);
     void setWord(uint32_t address, uint32_t value);
 
-    /// Bytes as READMEM gives them; nothing when a part of them is missing.
+    /// The bytes that READMEM returns; empty if a part of them is missing.
     std::optional<std::string> bytes(uint32_t address, uint32_t size);
-    /// `bytes` is filled up with zeros to a multiple of 4.
+    /// `bytes` is padded with zeros to a multiple of 4.
     void setBytes(uint32_t address, std::string bytes);
     void setText(uint32_t address, std::size_t size, const std::string &text);
 
     void addBlock(uint32_t address, std::string bytes);
     bool isBlock(uint32_t address) const;
 
-    /// Makes a register of every address that the description gives in an <Address> element, with
-    /// a small number from 0 to 6 that differs from the next register's: an integer in the
-    /// register's byte order, a float with .5 behind, or the text "T3". What exists keeps its
-    /// value.
+    /// Creates a register at the address in each <Address> element of the description. Its value
+    /// contains a number from 0 to 6 that differs from the next register's: an integer in the
+    /// register's byte order, a float such as 3.5, or a text such as "T3". Existing registers keep
+    /// their values.
     void fill(const std::string &description);
 
-    /// In these words READMEM and WRITEMEM see the bytes the other way round.
+    /// READMEM and WRITEMEM see the bytes of these words in reverse order.
     void addTwoViews(uint32_t first, uint32_t last) { m_twoViews.emplace_back(first, last); }
 
-    /// From now on the register grows by `step` with every interval.
+    /// From now on the register grows by `step` in every interval.
     void countUp(uint32_t address, std::chrono::milliseconds interval, uint32_t step);
 
 private:

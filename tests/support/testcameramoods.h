@@ -12,26 +12,26 @@ struct TestCameraBehaviour
     int delay = 0;       ///< before every answer; several commands are answered independently
     int writeDelay = 0;  ///< in addition, for an answer to a write
     int requestLoss = 0; ///< requests that never arrive
-    int answerLoss = 0;  ///< answers that never arrive, while the command is carried out
-    uint32_t seed = 1;   ///< for what gets lost: the same seed loses the same packets
+    int answerLoss = 0;  ///< answers that never arrive although the command is executed
+    uint32_t seed = 1;   ///< selects the lost packets; the same seed loses the same ones
     int duplicates = 0;  ///< further copies of each answer
-    int reorder = 0;     ///< every other answer comes this much later
+    int reorder = 0;     ///< additional delay of every other answer
 
-    int silence = 0; ///< no reaction at all for this long from now on; -1 is for good
+    int silence = 0; ///< no reaction from now on for this long; -1: for ever
 
-    int pending = 0;               ///< PENDING_ACKs ahead of an answer to a read or write
-    int pendingTime = 200;         ///< what each announces; the next packet comes after 3/4 of it
+    int pending = 0;               ///< PENDING_ACKs before the answer to a read or write
+    int pendingTime = 200;         ///< announced by each; the next packet follows after 3/4
     bool isPendingForever = false; ///< no answer follows the last PENDING_ACK
 
-    /// Faulty answers, made of the good one. All but TruncatedAnswer hold the good data inverted,
+    /// Faulty answers, derived from the good one. All except TruncatedAnswer contain inverted data,
     /// so that a test detects a client that accepts them.
     enum Fault : unsigned {
         WrongId = 1,
         WrongCommand = 2,
         ErrorStatus = 4,       ///< status 0x8FFF
-        ShortAnswer = 8,       ///< 4 bytes less data, the length field says so
-        LongAnswer = 16,       ///< 4 bytes more data, the length field says so
-        WrongLength = 32,      ///< the length field says 4 bytes more than there are
+        ShortAnswer = 8,       ///< 4 bytes less data, with the matching length field
+        LongAnswer = 16,       ///< 4 bytes more data, with the matching length field
+        WrongLength = 32,      ///< the length field is 4 bytes too large
         TruncatedAnswer = 64,  ///< the last byte is missing
         TruncatedHeader = 128, ///< 5 bytes
         ForeignPort = 256,     ///< from another port of the camera
@@ -39,13 +39,13 @@ struct TestCameraBehaviour
     };
     unsigned faults = 0;      ///< one packet for each, in this order
     bool isGoodAfter = false; ///< the good answer follows the faulty ones
-    int garbage = 0;          ///< packets of random bytes ahead of each answer
+    int garbage = 0;          ///< packets of random bytes before each answer
 
-    /// Refusals. Discovery and forced IP go on.
-    uint16_t refuseAll = 0;     ///< the status for all reads and writes; 0 refuses none
-    uint16_t refuseBatches = 0; ///< the status for READREG and WRITEREG of several addresses
-    int busy = 0;               ///< as many of the next reads and writes get BUSY
-    uint32_t largestRead = 536; ///< READMEM of registers beyond this many bytes is refused
+    /// Refusals of reads and writes. Discovery and forced IP still work.
+    uint16_t refuseAll = 0;     ///< the status of all reads and writes; 0 refuses none
+    uint16_t refuseBatches = 0; ///< the status of READREG and WRITEREG with several addresses
+    int busy = 0;               ///< number of further reads and writes that get BUSY
+    uint32_t largestRead = 536; ///< READMEM of registers beyond this size (bytes) is refused
 
     struct Refusal
     {
@@ -57,8 +57,8 @@ struct TestCameraBehaviour
     };
     std::vector<Refusal> refusals;
 
-    /// A forced IP for this camera is obeyed, acknowledged and ignored, refused, or acknowledged
-    /// by a camera that is silent ever after.
+    /// Reactions to a forced IP for this camera: obey, acknowledge and ignore, refuse, or
+    /// acknowledge and remain silent.
     enum class ForceIp { Obeyed, Ignored, Refused, Fatal };
     ForceIp forceIp = ForceIp::Obeyed;
 };
@@ -67,12 +67,12 @@ struct TestCameraBehaviour
 struct TestCameraMood
 {
     const char *name;
-    const char *meaning; ///< of the value
-    int usual;           ///< a value that makes sense
+    const char *meaning; ///< of the number
+    int usual;           ///< a typical number
     void (*apply)(TestCameraBehaviour &behaviour, int value);
 };
 
 const std::vector<TestCameraMood> &testCameraMoods();
 
-/// Throws std::invalid_argument when there is no such mood.
+/// Throws std::invalid_argument if there is no such mood.
 const TestCameraMood &testCameraMood(const std::string &name);

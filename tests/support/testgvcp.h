@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-/// GVCP as a TestCamera speaks it: big-endian numbers behind a header of 8 bytes.
+/// GVCP for a TestCamera: big-endian numbers after a header of 8 bytes.
 namespace TestGvcp {
 
 constexpr uint16_t gvcpPort = 3956;
@@ -82,7 +82,7 @@ inline uint32_t number(const std::string &bytes, std::size_t offset, std::size_t
     return value;
 }
 
-/// `value` in `size` bytes, which can be more than it has.
+/// `value` in `size` bytes, which may be more than its type has.
 inline std::string bytesOf(uint64_t value, std::size_t size = 4)
 {
     std::string bytes(size, '\0');

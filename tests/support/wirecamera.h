@@ -10,13 +10,13 @@
 #include <functional>
 #include <sstream>
 
-/// A GigE Vision camera on a cable of its own, which the camera access library has found. For
-/// tests that run in a network namespace.
+/// A GigE Vision camera on a cable of its own, found by the camera access library. For tests that
+/// run in a network namespace.
 struct WireCamera
 {
     using Adjust = std::function<void(TestCamera::Settings &)>;
 
-    /// With the simulated camera's description unless `adjust` sets another one.
+    /// Uses the simulated camera's description unless `adjust` sets another one.
     explicit WireCamera(const char *descriptionFile, const Adjust &adjust)
     {
         qputenv("ORVCAM_DESCRIPTION_CACHE", "");
@@ -24,7 +24,7 @@ struct WireCamera
         std::ostringstream description;
         description << std::ifstream(descriptionFile).rdbuf();
         settings.description = description.str();
-        settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // those of the other frame
+        settings.unknownRegisters = TestCameraMemory::Unknown::Zero; // of the other frame
         adjust(settings);
         camera = std::make_unique<TestCamera>(settings);
         QElapsedTimer timer;

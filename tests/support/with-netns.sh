@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Runs a program in a network namespace of its own, in which only the loopback device exists, so
-# that no packet can leave the machine.
+# Runs a program in a network namespace that has only a loopback device, so that no packet can leave
+# the machine.
 set -eu
 inside='ip link set lo up && exec "$0" "$@"'
 if [ "$(id -u)" = 0 ]; then

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <QtTest>
 
-// A user at the keyboard and the mouse of the X server.
+// Keyboard and mouse input through the X server.
 
 inline void xdotool(const QStringList &arguments)
 {
@@ -16,13 +16,13 @@ inline void xdotool(const QStringList &arguments)
     QCoreApplication::processEvents();
 }
 
-/// The keys have reached the X server, not yet the program.
+/// Returns when the X server has received the keys, which may be before the program does.
 inline void press(const QStringList &keys)
 {
     xdotool(QStringList{"key", "--delay", "0"} + keys);
 }
 
-/// Moves the pointer there and does something.
+/// Moves the pointer to the place and runs an xdotool command there.
 inline void point(const QWidget *widget, const QPoint &place, const QStringList &actions = {})
 {
     const QPoint global = widget->mapToGlobal(place);

@@ -10,7 +10,7 @@
 #include <cstring>
 #include <memory>
 
-/// A connection to the X server without Qt: another program's view of the screen.
+/// A connection to the X server without Qt: the screen as another program sees it.
 class XView
 {
 public:
@@ -26,7 +26,7 @@ public:
         return *xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
     }
 
-    /// Makes and shows a window of that colour.
+    /// Creates and shows a window of that colour.
     xcb_window_t makeWindow(xcb_window_t parent, const QRect &rect, quint32 colour)
     {
         const xcb_window_t window = xcb_generate_id(m_connection);
@@ -68,7 +68,7 @@ public:
         sync();
     }
 
-    /// Null for a window that does not exist.
+    /// Null if the window does not exist.
     QRect geometry(xcb_window_t window) const
     {
         const auto reply = owned(
@@ -86,7 +86,7 @@ public:
         return found;
     }
 
-    /// The window that this one is to stay above.
+    /// The window that this one must stay above.
     xcb_window_t ownerOf(xcb_window_t window) const
     {
         const auto reply = owned(xcb_get_property_reply(m_connection,
@@ -108,7 +108,7 @@ public:
                      : QByteArray();
     }
 
-    /// The picture of the window on the screen, with its children.
+    /// The contents of the window on the screen, including its children.
     QImage picture(xcb_window_t window) const
     {
         const QSize size = geometry(window).size();

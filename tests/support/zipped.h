@@ -5,6 +5,6 @@
 #include <utility>
 #include <vector>
 
-/// A zip archive with these files, as cameras hold their descriptions.
+/// A zip archive with these files, as cameras store their descriptions.
 std::string zipped(const std::vector<std::pair<std::string, std::string>> &files,
                    bool isEncrypted = false);

@@ -78,9 +78,8 @@ private:
     QString m_path;
 };
 
-/// All visible and accessible texts of a window, as plain text: those of its widgets
-/// and actions, of headers, items, tool tips and accessibility, each behind the path of the object
-/// that shows it and a "|".
+/// All visible and accessible texts of a window, as plain text: those of widgets, actions, headers,
+/// items, tool tips and accessibility. Each is preceded by the path of its object and a "|".
 inline QStringList textsOf(const QWidget &window)
 {
     TextCollector collector;

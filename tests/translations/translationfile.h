@@ -5,7 +5,7 @@
 #include <QVector>
 #include <QXmlStreamReader>
 
-/// The messages of a Qt Linguist file.
+/// Reads the messages of a Qt Linguist file.
 struct TranslationFile
 {
     struct Message
@@ -42,7 +42,8 @@ struct TranslationFile
     QVector<Message> messages;
 
 private:
-    /// The element's text, in which what XML cannot say is spelled `<byte value="xd"/>`.
+    /// The element's text. Characters that XML cannot represent are written as `<byte
+    /// value="xd"/>`.
     static QString readText(QXmlStreamReader &xml)
     {
         QString text;

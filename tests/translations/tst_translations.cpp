@@ -26,8 +26,7 @@ namespace {
 const QChar Open(0xab);  // «
 const QChar Close(0xbb); // »
 
-/// The words that no translation has: a boolean value, as the model has it for the tree to word,
-/// and the micro sign.
+/// Words without translation: the micro sign, and boolean values, which only the tree translates.
 const QStringList names = {QStringLiteral("true"), QStringLiteral("false"), QString(QChar(0x3bc))};
 
 QStringList translationFiles()
@@ -39,7 +38,7 @@ QStringList translationFiles()
     return files;
 }
 
-/// What must be the same in a text and its translation, in order of its name.
+/// The parts that a translation must keep, sorted.
 QStringList fixedParts(const QString &text)
 {
     static const QRegularExpression part("%L?\\d|</?\\w+>|&(?=\\w)|\\n|--\\w+");
@@ -50,8 +49,8 @@ QStringList fixedParts(const QString &text)
     return parts;
 }
 
-/// Encloses each translated text in marks, but for what stands in the place of "%1". A text that
-/// the translation files do not have under its class stays as it is.
+/// Encloses translated texts in marks, but not the arguments in place of "%1". Texts that are
+/// missing from the translation files under their class are not marked.
 class Marker : public QTranslator
 {
 public:
@@ -79,7 +78,7 @@ private:
     QSet<QPair<QString, QString>> m_known;
 };
 
-/// What the camera and the system say of themselves.
+/// The texts that come from the camera and the system.
 class CameraTexts
 {
 public:
@@ -113,7 +112,8 @@ public:
         }
     }
 
-    /// A step to undo has the feature's name and GenICam's notation of two values.
+    /// The text of a step to undo consists of a feature's name and two values in GenICam's
+    /// notation.
     bool contains(const QString &text) const
     {
         const bool isStep = text.contains(QStringLiteral(" \u2192 "));
@@ -126,7 +126,7 @@ private:
 
 } // namespace
 
-/// That the translations are complete, and that no text gets past them.
+/// Every text is translated, and the translations are complete.
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -134,14 +134,14 @@ class TestTranslations : public QObject
 private slots:
     void initTestCase();
     void filesAreUpToDate();
-    void filesAreFinished();
-    void programSpeaksTheLanguage();
+    void filesAreComplete();
+    void programFollowsTheLocale();
     void everyTextIsTranslated();
     void cleanupTestCase();
 
 private:
     OrvCam::Device *openCamera();
-    QStringList strangers(const QStringList &texts) const;
+    QStringList untranslated(const QStringList &texts) const;
     void check(const QWidget &window);
     template<typename Dialog>
     void checkDialog();
@@ -149,7 +149,7 @@ private:
     OrvCam::System *m_system = nullptr;
     OrvCam::Device *m_device = nullptr;
     CameraTexts m_cameraTexts;
-    QStringList m_strangers;
+    QStringList m_untranslated;
     int m_checked = 0;
 };
 
@@ -172,7 +172,7 @@ void TestTranslations::cleanupTestCase()
         m_system->Release();
 }
 
-/// The first camera that can be opened; notes the texts of all on the way.
+/// The first camera that can be opened. Records the texts of all cameras.
 OrvCam::Device *TestTranslations::openCamera()
 {
     OrvCam::Device *device = nullptr;
@@ -218,8 +218,8 @@ void TestTranslations::filesAreUpToDate()
     }
 }
 
-// Nothing is missing, neither in the files nor in what the library makes of them.
-void TestTranslations::filesAreFinished()
+// The files are complete, and so are the translations compiled into the library.
+void TestTranslations::filesAreComplete()
 {
     QCOMPARE(translationFiles().size(), 2);
     for (const QString &file : translationFiles()) {
@@ -238,7 +238,7 @@ void TestTranslations::filesAreFinished()
     }
 }
 
-void TestTranslations::programSpeaksTheLanguage()
+void TestTranslations::programFollowsTheLocale()
 {
     const QString english = "The level of detail: basic, expert or guru.";
     const QString german = "Der Umfang: basic, expert oder guru.";
@@ -267,8 +267,8 @@ void TestTranslations::programSpeaksTheLanguage()
     }
 }
 
-/// Those of the texts that are neither translated nor the camera's.
-QStringList TestTranslations::strangers(const QStringList &texts) const
+/// The texts that are neither translated nor from the camera.
+QStringList TestTranslations::untranslated(const QStringList &texts) const
 {
     static const QRegularExpression marked(QString("%1[^%1%2]*%2").arg(Open).arg(Close));
     static const QRegularExpression letter("\\pL");
@@ -284,7 +284,7 @@ QStringList TestTranslations::strangers(const QStringList &texts) const
     for (const QString &text : texts) {
         for (const QString &part : text.mid(text.indexOf('|') + 1).split(marked)) {
             bool isFine = isKnown(part.trimmed());
-            if (!isFine) { // a list
+            if (!isFine) { // may be a list
                 const auto all = [](const QStringList &parts, const auto &isFineToo) {
                     return std::all_of(parts.begin(), parts.end(), isFineToo);
                 };
@@ -305,10 +305,10 @@ void TestTranslations::check(const QWidget &window)
 {
     const QStringList texts = textsOf(window);
     m_checked += int(texts.size());
-    m_strangers << strangers(texts);
+    m_untranslated << untranslated(texts);
 }
 
-/// Also with each of its toggle buttons pressed, which may change its text.
+/// Repeats the check with toggle buttons pressed, which may change their texts.
 template<typename Dialog>
 void TestTranslations::checkDialog()
 {
@@ -327,7 +327,7 @@ void TestTranslations::everyTextIsTranslated()
     Marker marker;
     QVERIFY(QCoreApplication::installTranslator(&marker));
     int32_t code = OrvCam::Success;
-    QCOMPARE(strangers(textsOf(QLabel("Value <b>of</b> what"))).size(), 1);
+    QCOMPARE(untranslated(textsOf(QLabel("Value <b>of</b> what"))).size(), 1);
 
     {
         OrvGui::OrvGenParamTreeView view(m_device->GetParamArray(&code), nullptr);
@@ -380,7 +380,7 @@ void TestTranslations::everyTextIsTranslated()
     {
         OrvGui::OrvCamConfig window(m_device);
         window.show();
-        check(window); // the information dialog is its child
+        check(window); // includes the information dialog, a child
         window.SetDevice(nullptr);
         check(window);
     }
@@ -391,10 +391,10 @@ void TestTranslations::everyTextIsTranslated()
     checkDialog<OrvGui::OrvCamConfigOutputDialog>();
     checkDialog<OrvGui::OrvCamConfigColorDialog>();
     qInfo("%d texts", m_checked);
-    m_strangers.removeDuplicates();
-    for (const QString &text : m_strangers)
+    m_untranslated.removeDuplicates();
+    for (const QString &text : m_untranslated)
         qWarning("not translated: %s", qPrintable(text));
-    QVERIFY(m_strangers.isEmpty());
+    QVERIFY(m_untranslated.isEmpty());
 }
 
 QTEST_MAIN(TestTranslations)

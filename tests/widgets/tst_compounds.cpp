@@ -123,7 +123,7 @@ void TestCompounds::checkCaptions()
     widget.resize(300, 200);
     widget.show();
 
-    // To the left of everything, and above it.
+    // The left label is left of everything, the top label above everything.
     const QPoint left = widget.leftLabel()->geometry().center();
     const QRect box(widget.spinBox()->geometry());
     QVERIFY(left.x() < box.left() && left.y() > box.top() && left.y() < box.bottom());
@@ -153,7 +153,7 @@ void TestCompounds::stepsOfParts()
 {
     QtOrvSliderSpinBox widget;
     widget.setSingleStep(8);
-    // A step that the spin box has already goes no further.
+    // Setting the step that the spin box already has does not change the slider's.
     widget.slider()->setSingleStep(5);
     widget.setSingleStep(8);
     QCOMPARE(widget.slider()->singleStep(), 5);
@@ -177,7 +177,7 @@ void TestCompounds::positionsOffTheGrid()
     beside.setSingleStep(8);
     beside.setValidate(true);
 
-    // Only one of the two snaps what the slider says while it is dragged.
+    // Only one of the two rounds the position of the dragged handle to the grid.
     for (QSlider *slider : {innerSlider(popUp), innerSlider(beside)}) {
         slider->setSliderDown(true);
         slider->setSliderPosition(13);
@@ -186,7 +186,7 @@ void TestCompounds::positionsOffTheGrid()
     QCOMPARE(popUp.value(), 13);
     QCOMPARE(beside.value(), 16);
 
-    // A click beside the handle: the slider, which snaps, answers, and its answer counts.
+    // A click beside the handle: the slider rounds the value and the spin box takes it over.
     ValueSpy<QtOrvSpinBox> values(&popUp);
     innerSlider(popUp)->setValue(26);
     QCOMPARE(popUp.value(), 24);
@@ -209,7 +209,7 @@ void TestCompounds::keepValuesBetweenPositions()
     QCOMPARE(widget.value(), 10000);
     QCOMPARE(values, (QList<QVariantList>{{10000}}));
 
-    // A new range or step moves the handle, not the value.
+    // A new range or step moves the handle, but does not change the value.
     widget.setRange(5000, 2000000);
     widget.setSingleStep(50);
     QCOMPARE(widget.value(), 10000);
@@ -224,7 +224,7 @@ void TestCompounds::keepValuesBetweenPositions()
     QCOMPARE(values.last(), QVariantList{widget.value()});
 }
 
-// A camera refuses or rounds what it is given and says so at once.
+// A camera may refuse or round a written value at once.
 void TestCompounds::slotMayReplaceTheValue()
 {
     QtOrvSliderSpinBox widget;
@@ -256,7 +256,7 @@ void TestCompounds::readOnlyHidesTheButton()
     QVERIFY(!widget.toolButton()->isVisible());
 }
 
-// A hidden widget gets no release of the mouse button.
+// A hidden widget gets no mouse release.
 void TestCompounds::hidingEndsADrag()
 {
     struct Host : QWidget
@@ -275,7 +275,7 @@ void TestCompounds::hidingEndsADrag()
         window.resize(400, 200);
         window.show();
         popUp.toolButton()->click();
-        // The groove starts to repeat after this, that is when the slider is hidden already.
+        // The slider is hidden before the groove starts to repeat.
         connect(popUp.slider(), &QtOrvSlider::valueChanged, &popUp,
                 [&] { popUp.setReadOnly(true); });
 
@@ -290,7 +290,7 @@ void TestCompounds::hidingEndsADrag()
         popUp.slider()->hide();
         window.hide();
         if (!isDrag)
-            QTest::qWait(700); // a groove repeats after half a second
+            QTest::qWait(700); // the groove repeats after half a second
         window.show();
         for (QSlider *slider : held) {
             QVERIFY(!slider->isSliderDown());
@@ -304,9 +304,9 @@ void TestCompounds::hidingEndsADrag()
         QCOMPARE(gains.count() + values.count(), 2);
         window.hide();
         window.show();
-        QCOMPARE(window.releases, 0); // the host has not been clicked
+        QCOMPARE(window.releases, 0); // the host gets no release
 
-        // Nor does a slider that was locked during a drag continue the drag.
+        // Locking a slider ends a drag, too.
         QSlider *slider = innerSlider(beside);
         const int y = slider->height() / 2;
         beside.setValue(0);
@@ -385,7 +385,7 @@ void TestCompounds::secondClickClosesTheSlider()
     click();
     QVERIFY(!widget.slider()->isVisible());
 
-    // A window manager takes the focus off the slider before it hands out the click.
+    // A window manager may remove the focus from the slider before it delivers the click.
     click();
     QCursor::setPos(button->mapToGlobal(button->rect().center()));
     QFocusEvent out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
@@ -397,7 +397,7 @@ void TestCompounds::secondClickClosesTheSlider()
     QVERIFY(widget.slider()->isVisible());
 }
 
-// What was typed counts when the focus leaves, and the focus leaves a widget that is destroyed.
+// Losing the focus commits typed text, and destroying a widget removes its focus.
 void TestCompounds::destroyedWithPendingText()
 {
     auto *widget = new QtOrvSliderSpinBox;
@@ -424,8 +424,8 @@ void TestCompounds::destroyedWithPendingText()
     QCOMPARE(announced, 0);
 }
 
-// The widget and its part with the focus have the same accessible texts, and the part changes the
-// widget's value.
+// The widget and its focused part have the same accessible texts, and the part changes the widget's
+// value.
 void TestCompounds::accessibility()
 {
     QtOrvSlider slider;

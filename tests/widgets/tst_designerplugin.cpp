@@ -38,7 +38,7 @@ void TestDesignerPlugin::offersEveryWidget()
         QVERIFY2(!icon.pixmap(24, 24).isNull(), qPrintable(interface->name()));
         QVERIFY(QFile::exists(QStringLiteral(ORV_HEADERS "/") + interface->includeFile()));
 
-        // What a drop on a form makes: the widget fits into its first size.
+        // Dropping the widget on a form: its initial size must be sufficient.
         QByteArray xml = interface->domXml().toUtf8();
         QBuffer buffer(&xml);
         const QScopedPointer<QWidget> dropped(loader.load(&buffer));
@@ -55,7 +55,7 @@ void TestDesignerPlugin::offersEveryWidget()
     QVERIFY(!toolTips.contains(QString()));
 }
 
-// The same form by QUiLoader and by uic.
+// Loads the same form with QUiLoader and with uic.
 void TestDesignerPlugin::loadsAForm()
 {
     QUiLoader loader;
@@ -96,7 +96,7 @@ void TestDesignerPlugin::checkForm(const QWidget *form)
     for (const auto &row : rows) {
         const auto *widget = form->findChild<QWidget *>(QString::fromLatin1(row.widget));
         QVERIFY2(widget, row.widget);
-        // An enumeration's text is its name with Qt 6, where a property knows its entries.
+        // With Qt 6, an enumeration property converts to the name of its value.
         const QVariant value = widget->property(row.property);
         const bool isNumber = row.value.canConvert<double>();
         QVERIFY2(isNumber ? value.toDouble() == row.value.toDouble()
@@ -104,7 +104,7 @@ void TestDesignerPlugin::checkForm(const QWidget *form)
                  row.property);
     }
 
-    // The form's connection.
+    // The form contains a connection.
     form->findChild<QtOrvSlider *>("slider1")->setValue(1);
     QCOMPARE(form->findChild<QWidget *>("spinBox4")->property("value").toInt(), 1);
 }

@@ -20,7 +20,7 @@ constexpr int highest = std::numeric_limits<int>::max();
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-// All random cases of a run come from here; the seed is fixed, so that a failure comes back.
+// The source of all random cases; the fixed seed makes failures reproducible.
 class Random
 {
 public:
@@ -29,7 +29,7 @@ public:
         return std::uniform_int_distribution<qint64>(low, high)(engine);
     }
 
-    // As many small numbers as large ones.
+    // Small numbers are as likely as large ones.
     qint64 ofAnySize(qint64 limit)
     {
         const double size = std::pow(static_cast<double>(limit), fraction());
@@ -42,7 +42,7 @@ private:
     std::mt19937_64 engine{20160715};
 };
 
-// The numbers of a case that went wrong.
+// The numbers of a failed case.
 QByteArray joined(const QVariantList &numbers)
 {
     QString text;
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void extremeReals();
 };
 
-// Whether the parts really stand where the orientation and the direction want them.
+// The parts must be where the orientation and the direction place them.
 void TestSliders::layout()
 {
     QtOrvSlider slider(Qt::Vertical);
@@ -181,8 +181,8 @@ void TestSliders::mappingOfRandomRanges()
             if (validate)
                 QVERIFY2((reached - minimum) % step == 0 || reached == maximum, what);
 
-            // Where the grid is about as fine as the logarithmic positions, the position next to
-            // a grid value may lie half a step above it, which belongs to the next one.
+            // If the grid is about as fine as the logarithmic positions, the position next to a
+            // grid value may be half a step above it and belong to the next value.
             const bool mayDrift = validate && scale == QtOrvSlider::ScaleLog10;
             QVERIFY2(again == reached || (mayDrift && again - reached <= step && again > reached),
                      what);
@@ -192,7 +192,7 @@ void TestSliders::mappingOfRandomRanges()
     QVERIFY2(unmoved > 3000 * 32 * 0.999, QByteArray::number(unmoved));
 }
 
-// The sanitizers watch this one: no overflow, no conversion of what does not fit, no endless loop.
+// For the sanitizers: no overflow, no invalid conversion, no endless loop.
 void TestSliders::extremeInts()
 {
     const int numbers[] = {lowest, lowest + 1, -1000, -1, 0, 1, 1000, highest - 1, highest};
@@ -211,7 +211,7 @@ void TestSliders::extremeInts()
                         slider.setSingleStep(step);
                         for (const int value : numbers)
                             slider.setValue(value);
-                        // A key press in the middle of nowhere.
+                        // Keys at an arbitrary position.
                         QTest::keyClick(slider.slider(), Qt::Key_Up);
                         QTest::keyClick(slider.slider(), Qt::Key_Down);
                         const int reached = slider.value();
@@ -232,14 +232,14 @@ void TestSliders::keepsTheValueWhenTheMappingChanges()
     slider.setScaleType(QtOrvSlider::ScaleSqrt);
     QCOMPARE(slider.value(), 2500);
     slider.setRange(-900, 20000);
-    QCOMPARE(slider.value(), 2464); // 58 * 58 - 900, the position next to it
+    QCOMPARE(slider.value(), 2464); // 58 * 58 - 900, the nearest position
     slider.setScaleType(QtOrvSlider::ScaleLog10);
     slider.setLog10Coef(2000.0);
     QVERIFY(qAbs(slider.value() - 2464) <= 20);
     slider.setMaximum(1000);
     QCOMPARE(slider.value(), 1000);
 
-    // The keys step through the grid in the linear scale, through the positions in the others.
+    // In the linear scale the keys move by grid steps, in the other scales by positions.
     slider.setSingleStep(7);
     QCOMPARE(slider.slider()->singleStep(), 1);
     slider.setScaleType(QtOrvSlider::ScaleLinear);
@@ -259,21 +259,21 @@ void TestSliders::announcesChangesOnly()
     QCOMPARE(ranges.count(), 0);
     slider.setRange(10, 200);
     QCOMPARE(ranges.takeFirst(), (QVariantList{10, 200}));
-    QCOMPARE(values.takeFirst(), QVariantList{10}); // carried along by the minimum
+    QCOMPARE(values.takeFirst(), QVariantList{10}); // raised to the minimum
     slider.setValue(50);
     slider.setValue(50);
     slider.setValue(500);
     QCOMPARE(values, (QList<QVariantList>{{50}, {200}}));
     values.clear();
 
-    // What a drag says is the position; the grid is only in value().
+    // A drag reports the position; value() returns the grid value.
     slider.setSingleStep(8);
     slider.setValidate(true);
     slider.slider()->setValue(20);
     QCOMPARE(values.takeFirst(), QVariantList{20});
     QCOMPARE(slider.value(), 18);
 
-    // Several positions of one value: only the first move is a change.
+    // Several positions have the same value: only the first move changes it.
     slider.setValidate(false);
     slider.setScaleType(QtOrvSlider::ScaleLog10);
     slider.setRange(0, 1000000);
@@ -288,14 +288,14 @@ void TestSliders::announcesChangesOnly()
     QCOMPARE(values, (QList<QVariantList>{{1}})); // 10^1.03 is 10.7
     slider.slider()->setSliderDown(false);
 
-    // A key stretches its own move only.
+    // The minimum move of a key does not affect later moves.
     slider.setValue(10000);
     const int position = slider.slider()->value();
     QTest::keyClick(slider.slider(), Qt::Key_Up);
     slider.slider()->setValue(position);
     QCOMPARE(values.last(), QVariantList{9990});
 
-    // A slot that moves the slider on has the last word.
+    // A slot that sets another value takes precedence.
     connect(&slider, &QtOrvSlider::valueChanged, &slider, [&slider](int value) {
         if (value == 500000)
             slider.setValue(0);
@@ -341,7 +341,7 @@ void TestSliders::mapsRealValues()
         int position;
         double value;
     } rows[] = {
-        {0.0, 1.0, 0.3, false, 4, 1.0, 4, 1.0}, // the end is off the grid
+        {0.0, 1.0, 0.3, false, 4, 1.0, 4, 1.0}, // the maximum is off the grid
         {0.0, 1.0, 0.3, false, 4, 0.9, 3, 0.9},   {0.0, 1.0, 0.25, false, 4, 0.6, 2, 0.5},
         {0.0, 1.0, 0.25, true, 4, 0.375, 2, 0.5}, {-6.0, 24.0, 0.5, true, 60, -5.8, 0, -6.0},
         {0.0, 1.0, 0.25, false, 4, 7.0, 4, 1.0},
@@ -361,13 +361,13 @@ void TestSliders::mapsRealValues()
     QtOrvDoubleSlider slider;
     slider.setLocale(QLocale::c());
     slider.setDecimals(1);
-    QCOMPARE(slider.maxLabel()->text(), QString("100.000")); // until it is written anew
+    QCOMPARE(slider.maxLabel()->text(), QString("100.000")); // updated with the next maximum
     slider.setMaximum(5000.0);
     QCOMPARE(slider.maxLabel()->text(), QString("5000.0"));
     slider.setLocale(QLocale(QLocale::German));
     QCOMPARE(slider.maxLabel()->text(), QString("5000,0"));
 
-    // More steps than positions: the value stays until the slider is moved.
+    // With more steps than positions, the exact value is kept until the slider is moved.
     slider.setRange(-1e10, 1e10);
     for (const double value : {1234567891.0, 9999999999.0, -7.0, 1e10}) {
         slider.setValue(value);
@@ -434,7 +434,7 @@ void TestSliders::extremeReals()
         }
     }
 
-    // Without a step there are the two ends.
+    // Without a step, only the two ends are valid.
     slider.setRange(1.0, 2.0);
     slider.setValidate(true);
     slider.setSingleStep(0.0);

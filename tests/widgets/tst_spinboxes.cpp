@@ -7,11 +7,11 @@
 
 #include <limits>
 
-struct Hand
+struct Action
 {
     const char *name;
-    void (*move)(QAbstractSpinBox *box); ///< null: what is typed counts at once
-    bool isTaken;
+    void (*run)(QAbstractSpinBox *box); ///< null: typing alone commits
+    bool isCommitted;
 };
 
 class TestSpinBoxes : public QObject
@@ -19,21 +19,21 @@ class TestSpinBoxes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void snaps();
+    void snapsIntegers();
     void snapsRealValues();
     void extremeNumbers();
     void snapsValuesOfAnySource();
     void waitsForEnter();
-    void acceptsPendingText();
+    void commitsPendingText();
     void leavesEnterToTheBaseClass();
 
 private:
     template<class Box, class T>
-    static void checkHand(const QLocale &locale, const Hand &hand, T number,
-                          QString text = QString());
+    static void checkAction(const QLocale &locale, const Action &action, T number,
+                            QString text = QString());
 };
 
-void TestSpinBoxes::snaps()
+void TestSpinBoxes::snapsIntegers()
 {
     const struct
     {
@@ -64,7 +64,7 @@ void TestSpinBoxes::snapsRealValues()
         double maximum, step, wanted, validated;
     } rows[] = {
         {2.0, 0.25, 1.3, 1.25}, {2.0, 0.25, 1.4, 1.5}, {2.0, 0.25, 1.375, 1.5},
-        {2.0, 0.3, 1.95, 1.9}, // a step that does not divide
+        {2.0, 0.3, 1.95, 1.9}, // a step that does not divide the range
         {2.1, 0.4, 2.05, 2.1},  {2.0, 0.3, 2.0, 2.0},  {2.0, 0.25, 9.0, 2.0},
         {2.0, 0.0, 1.7, 1.7},   {2.0, 0.0, 2.7, 2.0},
     };
@@ -136,7 +136,7 @@ void TestSpinBoxes::waitsForEnter()
 
     box.selectAll();
     QTest::keyClicks(&box, "13");
-    QCOMPARE(changes, (QList<QVariantList>{{1}, {13}})); // QSpinBox itself takes each digit
+    QCOMPARE(changes, (QList<QVariantList>{{1}, {13}})); // QSpinBox itself commits each digit
     box.setValue(40);
     changes.clear();
 
@@ -158,9 +158,9 @@ void TestSpinBoxes::waitsForEnter()
     QCOMPARE(box.value(), 16);
 }
 
-// Without a text, types what the box shows for the number.
+// The default text is the box's own text for the number.
 template<class Box, class T>
-void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number, QString text)
+void TestSpinBoxes::checkAction(const QLocale &locale, const Action &action, T number, QString text)
 {
     QWidget window;
     Box box;
@@ -175,7 +175,7 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number,
         text = box.text();
     box.setValue(40);
     const QString before = box.text();
-    box.setValidateTyping(!hand.move);
+    box.setValidateTyping(!action.run);
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -183,19 +183,19 @@ void TestSpinBoxes::checkHand(const QLocale &locale, const Hand &hand, T number,
     box.selectAll();
     for (const QChar sign : text)
         QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, sign, Qt::NoModifier);
-    if (hand.move) {
+    if (action.run) {
         QCOMPARE(box.value(), T(40));
-        hand.move(&box);
+        action.run(&box);
     }
-    const QByteArray what = QString("%1, %2: ").arg(locale.name(), text).toUtf8() + hand.name;
-    QVERIFY2(box.value() == (hand.isTaken ? number : T(40)), what);
-    QVERIFY2(hand.isTaken || box.text() == before, what);
+    const QByteArray what = QString("%1, %2: ").arg(locale.name(), text).toUtf8() + action.name;
+    QVERIFY2(box.value() == (action.isCommitted ? number : T(40)), what);
+    QVERIFY2(action.isCommitted || box.text() == before, what);
 }
 
-void TestSpinBoxes::acceptsPendingText()
+void TestSpinBoxes::commitsPendingText()
 {
     using Box = QAbstractSpinBox;
-    const Hand tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
+    const Action tab{"Tab", [](Box *box) { QTest::keyClick(box, Qt::Key_Tab); }, true};
     const auto click = [](Box *box) {
         QTest::mouseClick(box->window()->layout()->itemAt(1)->widget(), Qt::LeftButton);
     };
@@ -214,7 +214,7 @@ void TestSpinBoxes::acceptsPendingText()
         menu.close();
         QTest::keyClick(box, Qt::Key_Return);
     };
-    const Hand hands[] = {
+    const Action actions[] = {
         {"typing", nullptr, true},
         {"Return", [](Box *box) { QTest::keyClick(box, Qt::Key_Return); }, true},
         tab,
@@ -226,19 +226,19 @@ void TestSpinBoxes::acceptsPendingText()
         {"read-only", lock, false},
     };
     for (const char *name : {"C", "de_DE", "fr_FR", "ar_EG"}) {
-        for (const Hand &hand : hands) {
-            checkHand<QtOrvSpinBoxVal>(QLocale(name), hand, -1234);
-            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, -1234.25);
-            checkHand<QtOrvDoubleSpinBoxVal>(QLocale(name), hand, 2.5, "2.5");
+        for (const Action &action : actions) {
+            checkAction<QtOrvSpinBoxVal>(QLocale(name), action, -1234);
+            checkAction<QtOrvDoubleSpinBoxVal>(QLocale(name), action, -1234.25);
+            checkAction<QtOrvDoubleSpinBoxVal>(QLocale(name), action, 2.5, "2.5");
         }
     }
-    // The sign of another locale is not taken for one between thousands.
-    checkHand<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.move, false}, 2.5, "2,5");
+    // The decimal sign of another locale must not be taken for a group separator.
+    checkAction<QtOrvDoubleSpinBoxVal>(QLocale::c(), {"Tab", tab.run, false}, 2.5, "2,5");
 }
 
 void TestSpinBoxes::leavesEnterToTheBaseClass()
 {
-    // What the base class makes of a text that is never acceptable: it goes back to the value.
+    // The base class restores the value if the text is not acceptable.
     QtOrvSpinBoxVal box;
     box.setSuffix(" ms");
     box.setValue(40);

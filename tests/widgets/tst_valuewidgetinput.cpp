@@ -17,14 +17,14 @@ struct KeyCase
     const char *up = nullptr;
     const char *down = nullptr;
     QtOrvSlider::ScaleType scale = QtOrvSlider::ScaleLog10;
-    int step = 1; ///< validated, if more than 1
+    int step = 1; ///< validated if greater than 1
     Qt::LayoutDirection direction = Qt::LeftToRight;
     int minimum = 1;
     int maximum = 1000000;
 };
 Q_DECLARE_METATYPE(KeyCase)
 
-/** Drives the value widgets as a user does: xdotool presses the keys of the X server. */
+/** Operates the value widgets as a user does: xdotool sends keys through the X server. */
 class TestValueWidgetInput : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private:
 
 namespace {
 
-// Of a horizontal slider that stands at its lower end.
+// The handle of a horizontal slider at its minimum.
 QPoint handleOf(const QSlider *slider)
 {
     return QPoint(7, slider->height() / 2);
@@ -115,7 +115,7 @@ void TestValueWidgetInput::movesByEveryKey()
     show({slider});
     QSignalSpy values(slider, &QtOrvSlider::valueChanged);
 
-    // Some keys at a time, from one end to the other and back.
+    // Key presses in groups, from one end to the other and back.
     for (const bool upward : {true, false}) {
         const int end = upward ? slider->maximum() : slider->minimum();
         for (int burst = 0; burst < 10 && slider->value() != end; ++burst) {
@@ -148,7 +148,7 @@ void TestValueWidgetInput::dragAfterKeys()
     point(slider->slider(), handleOf(slider->slider()), {"mousedown", "1"});
     xdotool({"mousemove_relative", "1", "0"});
     QTRY_COMPARE(moved.count(), 1);
-    QCOMPARE(slider->slider()->value(), 101); // of the same value, 0
+    QCOMPARE(slider->slider()->value(), 101); // a second position of the value 0
     xdotool({"mouseup", "1"});
 }
 

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the fuzzer, which then keeps its input, when something is not as it must be.
+/// Ends the fuzzer with a crash, which makes it keep its input, unless `holds` is true.
 inline void check(bool holds, const char *otherwise)
 {
     if (holds)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a device description: it is opened, and all properties of its nodes are read.
+// Opens arbitrary bytes as a device description and reads all properties of its nodes.
 #include "check.h"
 
 #include <GenApi/GenApi.h>
@@ -9,7 +9,7 @@ using namespace GenApi;
 
 namespace {
 
-/// A wrong description may cause GenICam's exceptions only.
+/// An invalid description may cause GenICam exceptions only.
 template<typename Call>
 void attempt(Call call)
 {

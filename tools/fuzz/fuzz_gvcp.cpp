@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any packet as a camera's answer.
+// Parses arbitrary bytes as a camera's answer.
 #include "check.h"
 
 #include <gigevision/gvcp.h>

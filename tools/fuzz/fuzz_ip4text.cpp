@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any text as an IPv4 address.
+// Parses arbitrary text as an IPv4 address.
 #include "check.h"
 
 #include <ip4validator.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any text as the saved state of a feature tree.
+// Loads arbitrary text as the saved state of a feature tree.
 #include "check.h"
 
 #include "genparamtree/samplenodemap.h"
@@ -45,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     }();
 
     load(*view, std::string(data, data + size));
-    // A state expands what lies above an expanded category as well; from then on it is itself.
+    // Loading a state also expands the parents of its categories, so only the second save is exact.
     load(*view, std::string(view->saveState()));
     const std::string saved = view->saveState();
     load(*view, saved);

@@ -1,10 +1,10 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # run.sh SECONDS|fixed [FOLDER [FUZZER...]]
-# Runs the fuzzers for so long each, or through a fixed number of inputs that are the same every
-# time, and prints how many inputs each of them tried. FOLDER is where
-# the programs are, build/fuzz/fuzz unless it is given. Inputs that reach new code are kept in
-# FOLDER/corpus and used by the next run; an input that shows a fault in FOLDER/faults.
+# Runs each fuzzer for SECONDS, or with a fixed number of inputs that are always the same, and
+# prints the numbers of inputs. FOLDER contains the programs (by default build/fuzz/fuzz). Inputs
+# that reach new code are saved in FOLDER/corpus for the next run, inputs that reveal a fault in
+# FOLDER/faults.
 set -eu
 
 die() { echo "fuzz: $*" >&2; exit 1; }
@@ -22,7 +22,7 @@ export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1
 export UBSAN_OPTIONS=print_stacktrace=1
 export LSAN_OPTIONS="suppressions=$here/../../tests/support/lsan.supp:print_suppressions=0"
 
-# Some seconds each.
+# Numbers of inputs that take some seconds each.
 runs_of() {
     case $1 in
     state) echo 4000 ;;
@@ -47,7 +47,8 @@ for fuzzer in "$@"; do
     dictionary=
     [ ! -f "$here/$fuzzer.dict" ] || dictionary=-dict=$here/$fuzzer.dict
     log=$folder/$fuzzer.log
-    # The limits are per input: an input that hangs or eats memory is a fault as well.
+    # The limits apply to each input: an input that hangs or uses too much memory is a fault as
+    # well.
     # shellcheck disable=SC2086 # the bound is words
     if "$program" $bound -timeout=10 -rss_limit_mb=2048 -max_len=4096 \
             -print_final_stats=1 -artifact_prefix="$folder/faults/$fuzzer-" $dictionary \

@@ -3,7 +3,7 @@
 """Plants deliberate faults one at a time in a copy, and reports which tests notice them.
 
 The faults are in faults.toml beside this script. A fault that no test notices is a gap; a test that
-notices nothing that others do not notice may be a repetition. docs/checks.md says how to use it.
+notices only faults that other tests notice too may be redundant. docs/checks.md explains the use.
 """
 import argparse
 import json
@@ -23,7 +23,7 @@ UNNOTICED = "nothing"
 
 
 class ListError(Exception):
-    """The list of faults does not fit the sources."""
+    """The list of faults does not match the sources."""
 
 
 class Fault:
@@ -35,7 +35,7 @@ class Fault:
         self.tests = re.compile(entry["tests"])
 
     def place(self, root):
-        """The one file in which the text occurs, once."""
+        """The file that contains the text; it must occur exactly once."""
         files = {file for glob in self.globs for file in root.glob(glob)}
         counts = {file: file.read_text().count(self.text) for file in files}
         if sum(counts.values()) != 1:
@@ -56,7 +56,7 @@ class Build:
     def configure(self):
         if (self.folder / "build.ninja").exists():
             return
-        # A change of a shared library does not link the programs anew.
+        # The programs need no new link when a shared library changes.
         options = ["-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"]
         if shutil.which("ccache"):
             options += [f"-DCMAKE_{language}_COMPILER_LAUNCHER=ccache" for language in ("C", "CXX")]
@@ -66,7 +66,7 @@ class Build:
         run(["cmake", "--preset", "dev", "-B", str(self.folder), *options], self.root, check=True)
 
     def tests(self, never):
-        """The tests' names, each with what has to be built for it."""
+        """The names of the tests, each with the targets to build for it."""
         listed = run(["ctest", "--test-dir", str(self.folder), "--show-only=json-v1"], self.root,
                      check=True)
         tests = {}
@@ -81,7 +81,7 @@ class Build:
         return run(["ninja", "-C", str(self.folder), "-j", self.jobs, *sorted(targets)], self.root)
 
     def failing(self, names):
-        """Those that fail, twice unless the first time is a time-out."""
+        """The tests that fail, twice unless the first failure is a time-out."""
         failed, timedOut = self._failingOnce(names)
         again = self._failingOnce(failed - timedOut)[0] if failed - timedOut else set()
         return again | timedOut
@@ -104,7 +104,7 @@ class Build:
 
 
 def run(command, folder, check=False):
-    # LC_ALL: the messages of ninja and ctest are looked at.
+    # LC_ALL: the messages of ninja and ctest are parsed.
     done = subprocess.run(command, cwd=folder, text=True, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT if not check else None,
                           env={**os.environ, "LC_ALL": "C.UTF-8"})
@@ -166,7 +166,7 @@ def prepare(args):
 
 
 def checkWithoutFaults(faults, build, tests):
-    """A test that fails anyway would notice every fault."""
+    """Ends the program if a test fails without a fault: it would fail with every fault."""
     names = set().union(*(testsOf(fault, tests) for fault in faults))
     built = build.build(set().union(*(tests[name] for name in names)))
     if built.returncode != 0:

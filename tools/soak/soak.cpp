@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // soak [SECONDS [SEED [WINDOW]]]
-// Clicks and types at random into every window there is, or one of them, while the camera's values
-// change and the camera comes and goes, and watches what the process holds: bytes, resident memory,
-// open files. Ends with 1 when that grows, with 2 when there is no such window or nothing in one
-// took a click. The platform "offscreen" does as well as a display.
+// Clicks and types at random into all windows, or into one of them, while the camera's values
+// change and its connection is interrupted. Checks the resources of the process: heap, resident
+// memory, open files. Exit status: 1 if they grow, 2 if the window does not exist or a window got
+// no click. No display is needed: QT_QPA_PLATFORM=offscreen will do.
 #include "soakcamera.h"
 #include "usage.h"
 
@@ -38,7 +38,7 @@ namespace {
 constexpr int stepsPerWindow = 40;
 constexpr int warmUpRounds = 15;
 
-/// One of the windows. It may be given a null device, which it has to give up the former one for.
+/// One of the windows. A null device makes it give up the current one.
 struct Window
 {
     const char *name;
@@ -80,7 +80,7 @@ Window cameraPicker(OrvCam::System *system)
             [](QWidget &, OrvCam::Device *) {}};
 }
 
-/// The window of that name, or all when it is empty.
+/// The window of that name, or all windows if the name is empty.
 std::vector<Window> windows(OrvCam::System *system, const QString &name)
 {
     std::vector<Window> all{featureTree(),
@@ -98,14 +98,14 @@ std::vector<Window> windows(OrvCam::System *system, const QString &name)
     return all;
 }
 
-/// A user who does anything anywhere.
+/// A user who clicks and types at random.
 class Monkey : public QObject
 {
 public:
     explicit Monkey(unsigned seed) : m_random(seed)
     {
-        // Dialogs and menus that run until they are closed would stop everything.
-        // The timer stands still until its slot returns, but leaving one may open the next.
+        // Modal dialogs and menus would block the test. A timer does not fire again before its slot
+        // has returned, but closing a dialog may open the next one: hence the deferred call.
         connect(&m_popupTimer, &QTimer::timeout, this,
                 [this] { QTimer::singleShot(0, this, [this] { leaveWhatStops(); }); });
         m_popupTimer.start(20);
@@ -205,7 +205,7 @@ public:
     {
     }
 
-    /// Every window once, at the same camera.
+    /// Uses every window once, with the same camera.
     void round()
     {
         SoakCamera camera;
@@ -219,7 +219,7 @@ public:
 
     unsigned clicks() const { return m_monkey.clicks(); }
 
-    /// The first window in which nothing took a click; null when there is none.
+    /// The first window that got no click; null if there is none.
     const char *untouched() const
     {
         for (const Window &window : m_windows) {
@@ -250,7 +250,7 @@ private:
     {
         camera.unplug();
         waitUntil([&] { return !device.IsConnected(); });
-        for (int i = 0; i < 5; ++i) // at a dead camera, which the window may or may not know of
+        for (int i = 0; i < 5; ++i) // the window may not have noticed the disconnection yet
             m_monkey.doSomethingIn(widget);
         camera.plugIn();
         waitUntil([&] { return device.IsConnected(); });
@@ -268,14 +268,14 @@ private:
     std::vector<Window> m_windows;
 };
 
-/// What is held once everything that may be thrown away has been.
+/// The usage without the caches.
 Usage usageNow()
 {
     QPixmapCache::clear();
     return Usage::now();
 }
 
-/// What the platform "offscreen" says of everything that it cannot do is left out.
+/// Prints a message, except the platform "offscreen"'s warnings of missing features.
 void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     if (!text.startsWith("This plugin does not support "))
@@ -303,9 +303,9 @@ int main(int argc, char *argv[])
     auto soak = std::make_unique<Soak>(std::move(used), seed);
     Usage before;
     Usage after;
-    int rounds = -warmUpRounds; // what Qt and Aravis keep for good is made in these
+    int rounds = -warmUpRounds; // Qt and Aravis make their permanent allocations in these
     QElapsedTimer clock;
-    // Each round is an event of its own: what deletes itself later does so between them.
+    // Each round is an event of its own, so that deferred deletions happen between two rounds.
     QTimer next;
     QObject::connect(&next, &QTimer::timeout, [&] {
         if (rounds == 0) {

@@ -15,7 +15,7 @@ using OrvCameraIo::ReadTransfer;
 using OrvCameraIo::Status;
 using OrvSimulation::SimulatedCamera;
 
-/// A cable to a simulated camera, which takes the time of a real one.
+/// A cable to a simulated camera, with the response time of a real camera.
 class SoakCamera::Port final : public OrvCameraIo::Port
 {
 public:
@@ -153,6 +153,6 @@ void SoakCamera::changeSomething(Device &device, std::mt19937 &random)
             enumeration->SetIntValue(entry->GetValue());
         }
     } catch (const GenICam::GenericException &) {
-        // The camera refuses; so it would others.
+        // A camera may refuse any random value.
     }
 }

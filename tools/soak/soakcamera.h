@@ -8,19 +8,18 @@
 #include <memory>
 #include <random>
 
-/// A simulated camera that can be unplugged and plugged in, and whose features change all the time
-/// by themselves.
+/// A simulated camera that can be unplugged and plugged in, and whose features change continuously.
 class SoakCamera
 {
 public:
-    /// Like a camera that has been off in between: everything is as when it is new.
+    /// Plugs the camera in with its initial state, as after a power cycle.
     void plugIn() { *m_isPlugged = true; }
     void unplug() { *m_isPlugged = false; }
 
-    /// The camera as the windows see it; the caller releases it.
+    /// The camera as a device for the windows; the caller releases it.
     OrvCam::Device *open();
 
-    /// Writes something into some feature of the device.
+    /// Writes a random value to a random feature of the device.
     static void changeSomething(OrvCam::Device &device, std::mt19937 &random);
 
 private:

@@ -10,13 +10,13 @@
 
 namespace {
 
-// What may grow is what fills the caches that have a limit: fonts' glyphs and shapes, colour
-// gradients (60 of 12 KiB each), names. A camera that is not freed is about 2 MiB a round, a window
-// some hundred KiB, one of its pictures a MiB.
+// The permitted growth is that of bounded caches: glyphs and shapes of fonts, colour gradients (60
+// of 12 KiB each), names. A leaked camera is about 2 MiB a round, a leaked window some hundred KiB,
+// and one of its pictures a MiB.
 const long heapPerRound = 4;
 const long heapOnce = 1024;
 
-// Memory that is free but in pieces is resident as well.
+// Fragmented free memory is resident as well.
 const long residentPerRound = 16;
 const long residentOnce = 16 * 1024;
 
@@ -38,7 +38,7 @@ Usage Usage::now()
         return std::distance(begin(all), end(all));
     };
     usage.threads = entries("/proc/self/task");
-    usage.files = entries("/proc/self/fd") - 1; // without the one that reads this
+    usage.files = entries("/proc/self/fd") - 1; // without the directory that is being listed
     return usage;
 }
 

@@ -3,19 +3,19 @@
 
 #include <string>
 
-/// What this process holds.
+/// The resources of this process.
 struct Usage
 {
-    long heap = 0;     ///< KiB that are allocated
-    long resident = 0; ///< KiB of memory
-    long files = 0;    ///< open ones, sockets and pipes too
+    long heap = 0;     ///< KiB allocated
+    long resident = 0; ///< KiB resident
+    long files = 0;    ///< open files, sockets and pipes
     long threads = 0;
 
     static Usage now();
 
     std::string text() const;
 
-    /// What has grown since `before` more than such a number of rounds explains; empty when nothing
-    /// has.
+    /// Describes the growth since `before` that exceeds the limits for that number of rounds; empty
+    /// if there is none.
     std::string grownBeyond(const Usage &before, int rounds) const;
 };

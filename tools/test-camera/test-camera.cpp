@@ -68,7 +68,7 @@ uint32_t number(const std::string &text)
     return static_cast<uint32_t>(value);
 }
 
-/// What stands before and behind the first separator.
+/// The texts before and after the first separator.
 std::pair<std::string, std::string> split(const std::string &text, char separator)
 {
     const auto at = text.find(separator);
@@ -109,7 +109,7 @@ void refuse(TestCamera &camera, const std::string &value)
     camera.setBehaviour(behaviour);
 }
 
-/// Whether there is such a command.
+/// Executes a command that changes a camera. Returns false if there is no such command.
 bool change(TestCamera &camera, const std::string &command, const std::string &value)
 {
     const auto [left, right] = split(value, '=');
@@ -240,8 +240,8 @@ void printLog(TestCamera &camera)
     std::fflush(stdout);
 }
 
-/// Carries out a line of standard input; whether to go on.
-bool obey(const Cameras &cameras, const std::string &line)
+/// Executes a line of standard input. Returns false if the program should end.
+bool execute(const Cameras &cameras, const std::string &line)
 {
     const auto [command, value] = split(line, ' ');
     if (command == "quit")
@@ -267,7 +267,7 @@ bool obey(const Cameras &cameras, const std::string &line)
     return true;
 }
 
-/// Reads what is there; whether the input is still open. Lines are obeyed.
+/// Reads the available input and executes complete lines. Returns false at the end of the input.
 bool readCommands(const Cameras &cameras, std::string &pending, bool &isRunning)
 {
     char buffer[4096];
@@ -278,7 +278,7 @@ bool readCommands(const Cameras &cameras, std::string &pending, bool &isRunning)
     for (auto end = pending.find('\n'); end != std::string::npos && isRunning;
          end = pending.find('\n')) {
         try {
-            isRunning = obey(cameras, pending.substr(0, end));
+            isRunning = execute(cameras, pending.substr(0, end));
         } catch (const std::exception &error) {
             std::cerr << error.what() << std::endl;
         }
@@ -313,7 +313,7 @@ int run(const std::vector<std::string> &arguments)
     sigemptyset(&ending);
     sigaddset(&ending, SIGINT);
     sigaddset(&ending, SIGTERM);
-    sigprocmask(SIG_BLOCK, &ending, nullptr); // before there are threads
+    sigprocmask(SIG_BLOCK, &ending, nullptr); // before any thread starts
     const int signals = signalfd(-1, &ending, SFD_CLOEXEC);
     const Cameras cameras = start(options);
     std::cout << "ready" << std::endl;
