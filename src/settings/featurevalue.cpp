@@ -326,4 +326,9 @@ QString FeatureValue::refusal(GenApi::IValue *feature)
     return GenApi::IsWritable(mode) ? QString() : accessReason(mode);
 }
 
+QString FeatureValue::missing(const QString &name)
+{
+    return tr("The camera has no '%1'.").arg(name);
+}
+
 } // namespace OrvGui

@@ -39,6 +39,9 @@ public:
 
     /// The reason why the feature cannot be written; empty if it can.
     static QString refusal(GenApi::IValue *feature);
+
+    /// The reason to show when the camera has no feature of that name.
+    static QString missing(const QString &name);
 };
 
 } // namespace OrvGui

@@ -88,7 +88,7 @@ GenApi::IValue *featureOf(GenApi::INodeMap &map, const QString &name, QString *e
 {
     auto *feature = dynamic_cast<GenApi::IValue *>(map.GetNode(toUtf8(name)));
     if (!feature)
-        *error = FeatureValue::tr("The camera has no '%1'.").arg(name);
+        *error = FeatureValue::missing(name);
     return feature;
 }
 

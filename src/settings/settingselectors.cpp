@@ -119,7 +119,7 @@ QString SettingSelectors::select(const Setting::Selection &selection)
     for (const auto &position : selection) {
         selectors.push_back(settingOf(m_map, position.first));
         if (!selectors.back())
-            return FeatureValue::tr("The camera has no '%1'.").arg(position.first);
+            return FeatureValue::missing(position.first);
     }
     for (size_t i = 0; i < selectors.size(); ++i) {
         const auto &position = selection[int(i)];
