@@ -196,8 +196,8 @@ void TestGigEVision::badDescription()
 void TestGigEVision::allAdaptersAtOnce()
 {
     TestCamera::Settings settings = m_first->cameraSettings(0x020000000001, "10.1.0.2");
-    settings.vendor = "Strawman\xff";
-    settings.userName = "abcdefghijklmnop"; // fills its field
+    settings.vendor = "Strawman\xff\xed\xa0\x80"; // the last three encode a surrogate
+    settings.userName = "abcdefghijklmnop";       // fills its field
     TestCamera near(settings);
     TestCamera far(m_second->cameraSettings(0x020000000002, "10.2.0.2"));
     near.setPrivilege(2);
@@ -212,7 +212,8 @@ void TestGigEVision::allAdaptersAtOnce()
     QCOMPARE(cameras.front()->GetId(), "02:00:00:00:00:01");
     QCOMPARE(cameras.front()->GetAccessState(), int32_t(AccessNone));
     QCOMPARE(cameras.front()->GetUserName(), "abcdefghijklmnop");
-    QCOMPARE(QString::fromUtf8(cameras.front()->GetVendor()), QStringLiteral("Strawman\uFFFD"));
+    QCOMPARE(cameras.front()->GetVendor(),
+             "Strawman\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
     QVERIFY(!cameras.front()->GetSerial());
 
     // The next enumeration sends a new discovery command.

@@ -341,6 +341,10 @@ void TestNodeMap::values_data()
                              "<pValueIndexed Index='1'>Reg</pValueIndexed>"
                              "<ValueDefault>99</ValueDefault></Integer>",
         "Value?10 Index=1 Value=55 Reg?55 Index=2 Value?99");
+    row("integers of real numbers",
+        "<Float Name='Real'><Value>1</Value><Min>-0.5</Min><Max>10.7</Max></Float>"
+        "<Integer Name='Whole'><pValue>Real</pValue></Integer>",
+        "Whole?1 Whole.Min?0 Whole.Max?10 Whole!11");
     row("commands and copies",
         intReg("Reg", "0") + intReg("Value", "4") + intReg("Copy", "8") +
             "<Command Name='Start'><pValue>Reg</pValue>"

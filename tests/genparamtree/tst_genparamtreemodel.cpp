@@ -278,6 +278,7 @@ void TestGenParamTreeModel::values_data()
           ValueCase{"Width", GenApi::NA, "<Value not available>", grey, !editable},
           ValueCase{"Width", GenApi::NI, "<Value not available>", grey, !editable},
           ValueCase{"GevCurrentSubnetMask", GenApi::RW, "255.255.255.0", !grey, editable},
+          ValueCase{"GevPersistentSubnetMask", GenApi::RW, "255.255.0.0", !grey, editable},
           ValueCase{"GevPersistentIPAddress", GenApi::RO, "192.168.1.2", grey, !editable},
           ValueCase{"GevMACAddress", GenApi::RO, "00:11:AA:BB:CC:DD", grey, !editable},
           ValueCase{"GevDeviceModeCapability", GenApi::RW, "FF", !grey, editable},
@@ -301,6 +302,7 @@ void TestGenParamTreeModel::values()
     SampleNodeMap map;
     map.addInteger("Timestamp", INT64_C(0x7fffffffffffffff));
     map.addInteger("Offset", -1).setRepresentation(GenApi::HexNumber);
+    map.addInteger("GevPersistentSubnetMask", 0xffff0000);
     const GenParamTreeModel model(&map);
     map.GetNode(row.feature)->ImposeAccessMode(row.mode);
     const QModelIndex cell = valueCell(model, row.feature);

@@ -526,6 +526,7 @@ void TestFeatureJournal::sampleRing()
     QCOMPARE(ring.summary().count, 600);
     QCOMPARE(ring.summary().min, 1399.0);
     QCOMPARE(ring.summary().max, 1999.0);
+    QCOMPARE(ring.summary().mean, (601 * 1699.0 - 1990) / 600);
     QCOMPARE(ring.at(ring.nearest(start + 1990 * 1000 + 10)).value, 1991.0);
     QVERIFY(ring.isAfterGap(0) && !ring.isAfterGap(1) && ring.isAfterGap(592));
     ring.add(start + 2004 * 1000, 7);
