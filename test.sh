@@ -3,8 +3,8 @@
 # Installs missing packages, builds, and runs every test: first in the developers' configuration;
 # then a short set with Qt 6; then with clang's address and undefined-behaviour sanitizers,
 # including a short run of the fuzzers.
-# Two tests run at a time: first those over the wire, which measure waits and must not run beside
-# tests that keep a processor busy, then all others. Arguments go to ctest.
+# Two tests run at a time: first those over the wire, which must not run beside tests that keep a
+# processor busy, then all others. Arguments go to ctest.
 #   ORV_PRESET=dev ./test.sh    tests one preset only
 set -eu
 
