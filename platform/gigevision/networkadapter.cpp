@@ -84,8 +84,8 @@ std::vector<char> linkFacts(int index)
     return answer;
 }
 
-/// True when another adapter, such as a bridge, receives all its packets.
-bool isPortOfBridge(int index)
+/// True when another adapter, such as a bridge or a bond, receives all its packets.
+bool hasMaster(int index)
 {
     const std::vector<char> answer = linkFacts(index);
     nlmsghdr header = {};
@@ -109,7 +109,7 @@ bool isUseful(const NetworkAdapter &adapter)
 {
     if (adapter.index == 0)
         return false;
-    return !adapter.addresses.empty() || (adapter.mac != 0 && !isPortOfBridge(adapter.index));
+    return !adapter.addresses.empty() || (adapter.mac != 0 && !hasMaster(adapter.index));
 }
 
 } // namespace
